@@ -1,0 +1,23 @@
+#include "cvutil32/cbase.h"
+
+namespace {
+
+constexpr std::uint32_t kSignature = 0x45534142;  // "BASE"
+
+}  // namespace
+
+CBASE::CBASE() : signature(kSignature) {}
+
+CBASE::CBASE(CBASE const& other) = default;
+
+CBASE& CBASE::operator=(CBASE const& other) = default;
+
+CBASE::~CBASE() = default;
+
+int CBASE::IsValidcBase() const {
+    // A write probe although nothing is written: an object in read-only memory is no object of a caller's.
+    if (IsBadWritePtr(const_cast<CBASE*>(this), sizeof(CBASE))) {
+        return 0;
+    }
+    return signature == kSignature ? 1 : 0;
+}

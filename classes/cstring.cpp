@@ -1,0 +1,407 @@
+// CSTRING: storage, lengths, locking, assignment, concatenation and character access.
+#include "cvutil32/cstring.h"
+
+#include "classes/charwalk.h"
+
+#include <algorithm>
+#include <cstring>
+#include <new>
+
+using charwalk::CharSize;
+using charwalk::CountBytes;
+using charwalk::kAll;
+using charwalk::SkipChars;
+
+namespace {
+
+constexpr std::uint32_t kGranule = 16;
+constexpr std::uint32_t kDirectWriteSize = 1024;
+
+// Shown by every object that owns no block. Writable only because references and pointers into a text are; never
+// written.
+char g_emptyText[1];
+
+// CharNextA must find a NUL behind a lead byte, hence a text of one character instead of the character alone.
+struct OneCharacter {
+    explicit OneCharacter(char ch) : text{ch, '\0'} {}
+    char text[2];
+};
+
+char* NewBlock(std::uint64_t size) {
+    return size > 0xFFFFFFFF ? nullptr : new (std::nothrow) char[static_cast<std::size_t>(size)];
+}
+
+std::uint32_t Length(char const* text) {
+    return static_cast<std::uint32_t>(std::strlen(text));
+}
+
+}  // namespace
+
+void CSTRING::Init() {
+    Buffer = g_emptyText;
+    StrLen = ByteCount = BufLen = LockCount = 0;
+    AutoLocked = 0;
+}
+
+void CSTRING::Free() {
+    if (BufLen) {
+        delete[] Buffer;
+        Init();
+    }
+}
+
+CSTRING::CSTRING() {
+    Init();
+}
+
+CSTRING::CSTRING(CSTRING const& other) : CBASE(other) {
+    Init();
+    Copy(other.Buffer, other.ByteCount);
+}
+
+CSTRING::CSTRING(char const* text) {
+    Init();
+    Copy(text, kAll);
+}
+
+CSTRING::CSTRING(unsigned int size) {
+    Init();
+    Alloc(size);
+}
+
+CSTRING::~CSTRING() {
+    Free();
+}
+
+void CSTRING::vCallConstructor(CBASE* place) const {
+    new (static_cast<void*>(place)) CSTRING;
+}
+
+void CSTRING::vCallDestructor() {
+    this->~CSTRING();
+}
+
+void CSTRING::vCopy(CBASE const& source) {
+    *this = static_cast<CSTRING const&>(source);
+}
+
+unsigned int CSTRING::vGetSize() const {
+    return sizeof(CSTRING);
+}
+
+int CSTRING::IsValid() const {
+    // The whole object first; its head lies inside it, so that the base's own probe would find nothing new.
+    static_assert(sizeof(CSTRING) > sizeof(CBASE));
+    if (IsBadWritePtr(const_cast<CSTRING*>(this), sizeof(CSTRING))) {
+        return 0;
+    }
+    return std::memcmp(&signature, "BASE", sizeof signature) == 0 ? 1 : 0;
+}
+
+int CSTRING::StandardEntry() const {
+    if (!IsValid()) {
+        return 0;
+    }
+    if (AutoLocked) {
+        const_cast<CSTRING*>(this)->AutoUnlock();
+    }
+    return 1;
+}
+
+void CSTRING::AutoUnlock() {
+    StrLen = Length(Buffer);
+    ByteCount = CountBytes(Buffer, kAll);
+    AutoLocked = 0;
+}
+
+// Always empties the text, also when the block is kept and when a needed growth failed. Adds a granule even to a
+// multiple of one, unlike Resize: a text that was just assigned is likely to be appended to.
+int CSTRING::Alloc(unsigned int size) {
+    if (LockCount) {
+        return BufLen >= size;
+    }
+    if (BufLen < size) {
+        std::uint64_t const wanted = std::uint64_t{size & ~(kGranule - 1)} + kGranule;
+        if (char* block = NewBlock(wanted)) {
+            if (BufLen) {
+                delete[] Buffer;
+            }
+            Buffer = block;
+            BufLen = static_cast<std::uint32_t>(wanted);
+        }
+    }
+    if (BufLen) {
+        std::memset(Buffer, 0, BufLen);
+        StrLen = ByteCount = 0;
+    }
+    return BufLen >= size;
+}
+
+// Keeps the walked part of the text only: what lies behind a byte of 0x80 or above is lost on growth, as everywhere.
+int CSTRING::Resize(unsigned int size) {
+    if (LockCount || BufLen >= size) {
+        return BufLen >= size;
+    }
+    std::uint64_t const wanted = (std::uint64_t{size} + kGranule - 1) & ~std::uint64_t{kGranule - 1};
+    char* block = NewBlock(wanted);
+    if (!block) {
+        return 0;
+    }
+    // The cached count can be out of date, but what it counted lay in the old block.
+    std::uint32_t const kept = BufLen ? std::min(ByteCount + 1, BufLen) : 0;
+    std::memcpy(block, Buffer, kept);
+    std::memset(block + kept, 0, static_cast<std::size_t>(wanted) - kept);
+    if (BufLen) {
+        delete[] Buffer;
+    }
+    Buffer = block;
+    BufLen = static_cast<std::uint32_t>(wanted);
+    return 1;
+}
+
+void CSTRING::Copy(char const* source, unsigned int count) {
+    if (!source || LockCount) {
+        return;
+    }
+    bool const walked = count == kAll;
+    if (walked) {
+        count = CountBytes(source, kAll);
+    }
+    if (source >= Buffer && source < Buffer + BufLen) {
+        CopyWithin(source, count);
+        return;
+    }
+    Alloc(count + 1);
+    if (BufLen <= count) {
+        return;
+    }
+    std::memcpy(Buffer, source, count);
+    StrLen = walked ? count : Length(Buffer);
+    ByteCount = count;
+}
+
+// A part of the own text moves to the front. The byte right behind it keeps what it held and so becomes part of the
+// text when the part is shorter than the text before it; callers rely on it. Bytes that the walk does not reach arrive
+// as zeros.
+void CSTRING::CopyWithin(char const* source, unsigned int count) {
+    count = std::min(count, BufLen - 1);
+    std::uint32_t const moved = CountBytes(source, count);
+    std::memmove(Buffer, source, moved);
+    std::memset(Buffer + moved, 0, count - moved);
+    if (count + 1 < BufLen) {
+        std::memset(Buffer + count + 1, 0, BufLen - count - 1);
+    }
+    StrLen = Length(Buffer);
+    ByteCount = count;
+}
+
+// Writes no terminator: blocks are zero behind their text. Where stale bytes lie there instead, the append shows them.
+void CSTRING::Concat(char const* source, unsigned int count) {
+    if (LockCount) {
+        return;
+    }
+    if (count == kAll) {
+        count = CountBytes(source, kAll);
+    }
+    bool const own = source >= Buffer && source < Buffer + BufLen;
+    std::size_t const offset = own ? static_cast<std::size_t>(source - Buffer) : 0;
+    std::uint32_t const sum = ByteCount + count;
+    if (sum < count || !Resize(sum + 1) || BufLen <= sum) {
+        return;
+    }
+    if (own) {
+        source = Buffer + offset;
+        count = std::min(count, static_cast<std::uint32_t>(BufLen - offset));
+    }
+    if (count) {
+        std::memmove(Buffer + ByteCount, source, count);
+    }
+    StrLen = Length(Buffer);
+    ByteCount = sum;
+}
+
+unsigned int CSTRING::GetStrLen() {
+    if (!StandardEntry()) {
+        return 0;
+    }
+    return LockCount ? Length(Buffer) : StrLen;
+}
+
+unsigned int CSTRING::GetByteCount() {
+    if (!StandardEntry()) {
+        return 0;
+    }
+    return LockCount ? CountBytes(Buffer, kAll) : ByteCount;
+}
+
+unsigned int CSTRING::GetBufLen(unsigned int size) {
+    Resize(size);
+    return BufLen;
+}
+
+char* CSTRING::BufferLock(unsigned int size) {
+    if (!StandardEntry()) {
+        return nullptr;
+    }
+    if (Resize(std::max<unsigned int>(size, kDirectWriteSize))) {
+        ++LockCount;
+    }
+    return LockCount ? Buffer : nullptr;
+}
+
+unsigned int CSTRING::BufferUnlock() {
+    if (!StandardEntry()) {
+        return 0;
+    }
+    StrLen = Length(Buffer);
+    ByteCount = CountBytes(Buffer, kAll);
+    if (LockCount) {
+        --LockCount;
+    }
+    return LockCount;
+}
+
+char* CSTRING::operator++() {
+    return BufferLock(kDirectWriteSize);
+}
+
+char* CSTRING::operator--(int) {
+    BufferUnlock();
+    return nullptr;
+}
+
+CSTRING::operator char*() {
+    if (!StandardEntry() || !Resize(kDirectWriteSize)) {
+        return nullptr;
+    }
+    AutoLocked = 1;
+    return Buffer;
+}
+
+CSTRING::operator char const*() const {
+    return IsValid() ? Buffer : nullptr;
+}
+
+CSTRING const& CSTRING::operator=(CSTRING const& other) {
+    if (StandardEntry() && other.IsValid()) {
+        Copy(other.Buffer, other.AutoLocked ? kAll : other.ByteCount);
+    }
+    return *this;
+}
+
+CSTRING const& CSTRING::operator=(char const* text) {
+    if (StandardEntry()) {
+        Copy(text, kAll);
+    }
+    return *this;
+}
+
+CSTRING const& CSTRING::operator=(char ch) {
+    if (StandardEntry()) {
+        OneCharacter const one(ch);
+        Copy(one.text, CharSize(one.text));
+    }
+    return *this;
+}
+
+CSTRING const& CSTRING::Append(CSTRING const& other) {
+    if (StandardEntry() && other.IsValid()) {
+        Concat(other.Buffer, other.AutoLocked ? kAll : other.ByteCount);
+    }
+    return *this;
+}
+
+CSTRING const& CSTRING::Append(char const* text) {
+    if (StandardEntry()) {
+        Concat(text, kAll);
+    }
+    return *this;
+}
+
+CSTRING const& CSTRING::Append(char ch) {
+    if (StandardEntry()) {
+        OneCharacter const one(ch);
+        Concat(one.text, CharSize(one.text));
+    }
+    return *this;
+}
+
+CSTRING const& CSTRING::operator+=(CSTRING const& other) {
+    return Append(other);
+}
+
+CSTRING const& CSTRING::operator+=(char const* text) {
+    return Append(text);
+}
+
+CSTRING const& CSTRING::operator+=(char ch) {
+    return Append(ch);
+}
+
+// Results leave through the copy constructor, never in place: their blocks have the size that it gives, an empty one
+// too.
+
+CSTRING CSTRING::operator+(CSTRING const& other) const {
+    CSTRING sum;
+    if (StandardEntry() && other.IsValid()) {
+        sum.Copy(Buffer, ByteCount);
+        sum.Concat(other.Buffer, other.AutoLocked ? kAll : other.ByteCount);
+    }
+    return CSTRING(sum);
+}
+
+CSTRING CSTRING::operator+(char const* text) const {
+    CSTRING sum;
+    if (StandardEntry()) {
+        std::uint32_t const count = CountBytes(text, kAll);
+        sum.Alloc(ByteCount + count + 1);
+        sum.Copy(Buffer, ByteCount);
+        sum.Concat(text, count);
+    }
+    return CSTRING(sum);
+}
+
+CSTRING CSTRING::operator+(char ch) const {
+    CSTRING sum;
+    if (StandardEntry()) {
+        OneCharacter const one(ch);
+        std::uint32_t const count = CharSize(one.text);
+        sum.Alloc(ByteCount + count + 1);
+        sum.Copy(Buffer, ByteCount);
+        sum.Concat(one.text, count);
+    }
+    return CSTRING(sum);
+}
+
+char CSTRING::GetChar(unsigned int index) {
+    if (!StandardEntry()) {
+        return '\0';
+    }
+    return *SkipChars(Buffer, index == kAll ? GetStrLen() - 1 : index);
+}
+
+char& CSTRING::GetRef(unsigned int index) {
+    if (!StandardEntry()) {
+        return g_emptyText[0];
+    }
+    if (index == kAll) {
+        index = GetStrLen() - 1;
+    }
+    std::size_t at = CountBytes(Buffer, index);
+    if (at + 1 >= BufLen) {
+        Resize(BufLen + 1);
+        at = CountBytes(Buffer, index);
+    }
+    AutoLocked = index >= StrLen;
+    return Buffer[at];
+}
+
+CSTRING const& CSTRING::SetChar(unsigned int index, char ch) {
+    if (StandardEntry()) {
+        char* place = SkipChars(Buffer, index);
+        if (*place) {
+            *place = ch;
+        }
+    }
+    return *this;
+}

@@ -1,0 +1,15 @@
+# Warnings as errors for our own sources; the sanitizers where the preset asks for them.
+add_library(cvwarnings INTERFACE)
+target_compile_options(cvwarnings INTERFACE -Wall -Wextra -Werror)
+if(WIN32)
+    target_compile_definitions(cvwarnings INTERFACE _WIN32_WINNT=0x0501 WINVER=0x0501 STRICT)
+    # Casting FARPROC and window procedures to what they really are is how the API is used.
+    target_compile_options(cvwarnings INTERFACE -Wno-cast-function-type -Wno-missing-field-initializers)
+else()
+    target_compile_options(cvwarnings INTERFACE -Wno-missing-field-initializers)
+endif()
+
+if(CVUTIL32_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()

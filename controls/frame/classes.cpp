@@ -1,0 +1,52 @@
+#include "controls/frame/classes.h"
+
+namespace frame {
+
+BOOL RegisterOwnClass(HINSTANCE instance, OwnClass const& own) {
+    if (!instance) {
+        return FALSE;
+    }
+    WNDCLASSA record = {};
+    if (BOOL const known = GetClassInfoA(instance, own.name, &record)) {
+        return known;
+    }
+    record = {};
+    record.style = own.style | CS_GLOBALCLASS;
+    record.lpfnWndProc = own.procedure;
+    record.cbWndExtra = own.extraBytes;
+    record.hInstance = instance;
+    record.hCursor = LoadCursorA(nullptr, own.cursor);
+    record.hbrBackground = own.background;
+    record.lpszClassName = own.name;
+    return RegisterClassA(&record);
+}
+
+BOOL RegisterSuperclass(HINSTANCE instance, LPCSTR name, LPCSTR baseName, WNDPROC procedure, BaseClass& base) {
+    if (!instance) {
+        return FALSE;
+    }
+    WNDCLASSA record = {};
+    if (BOOL const known = GetClassInfoA(instance, name, &record)) {
+        return known;
+    }
+    record = {};
+    if (!GetClassInfoA(instance, baseName, &record)) {
+        return FALSE;
+    }
+    BaseClass const found = {record.lpfnWndProc, record.cbWndExtra};
+    record.style |= CS_GLOBALCLASS;
+    record.lpfnWndProc = procedure;
+    record.cbWndExtra = found.extraBytes + static_cast<int>(sizeof(LONG_PTR));
+    record.hInstance = instance;
+    record.lpszMenuName = nullptr;
+    record.lpszClassName = name;
+    BaseClass const before = base;
+    base = found;
+    ATOM const atom = RegisterClassA(&record);
+    if (!atom) {
+        base = before;
+    }
+    return atom;
+}
+
+}  // namespace frame

@@ -1,0 +1,30 @@
+#include "controls/frame/parentsubclass.h"
+
+namespace frame {
+
+void ParentSubclass::Install(HWND control) const {
+    HWND const parent = GetParent(control);
+    if (!parent || GetPropA(parent, property_)) {
+        return;
+    }
+    LONG_PTR const former = GetWindowLongPtrA(parent, GWLP_WNDPROC);
+    // Without the property there would be no way back: better no subclass than one that cannot forward.
+    if (SetPropA(parent, property_, reinterpret_cast<HANDLE>(former))) {
+        SetWindowLongPtrA(parent, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure_));
+    }
+}
+
+LRESULT ParentSubclass::Forward(HWND parent, UINT message, WPARAM wParam, LPARAM lParam) const {
+    auto const former = reinterpret_cast<WNDPROC>(GetPropA(parent, property_));
+    if (!former) {
+        return DefWindowProcA(parent, message, wParam, lParam);
+    }
+    LRESULT const result = CallWindowProcA(former, parent, message, wParam, lParam);
+    if (message == WM_NCDESTROY && GetWindowLongPtrA(parent, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(procedure_)) {
+        SetWindowLongPtrA(parent, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(former));
+        RemovePropA(parent, property_);
+    }
+    return result;
+}
+
+}  // namespace frame

@@ -1,0 +1,4 @@
+/* Identifiers of the library's resources. Read by the resource compiler too: plain numbers and C comments only. */
+#pragma once
+
+#define CVRES_VERSION 1

@@ -1,0 +1,17 @@
+/// @file text.h
+/// Texts of the gallery's string table.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+namespace gallery {
+
+inline std::string LoadText(HINSTANCE instance, UINT id) {
+    char buffer[1024];
+    const int length = LoadStringA(instance, id, buffer, sizeof buffer);
+    return std::string(buffer, static_cast<std::size_t>(length > 0 ? length : 0));
+}
+
+}  // namespace gallery

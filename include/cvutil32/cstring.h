@@ -1,0 +1,266 @@
+/// @file cstring.h
+/// `CSTRING`: the string value of the library.
+///
+/// A CSTRING owns a text of the ANSI code page in a heap block of its own, in granules of 16 bytes, and knows the
+/// text's length without counting. An object that never held a text owns no block and shows a shared empty text.
+///
+/// Validity. Every member first checks that the object is sound (see cbase.h). On anything else it does nothing and
+/// returns what its description names: the object itself, 0, NUL or null. No member throws, and none reports an error:
+/// when memory runs out an assignment leaves an empty text, and everything else leaves the text as it was.
+///
+/// Positions and counts are unsigned 32-bit numbers of characters from 0; 0xFFFFFFFF (~0) stands for all of the text or
+/// for its last character, where a member says so. They are counted by walking the text from its start, a double-byte
+/// character as one, and the walk ends at the NUL and at the first byte of 0x80 or above. A text assigned or appended
+/// by pointer ends there too: the bytes "ab\xE9" "cd" become "ab". Two lengths follow from this: GetStrLen() counts the
+/// bytes up to the NUL, GetByteCount() those of the walk, and it is the second one that copies and appends move.
+///
+/// Writing into the buffer. A platform call can fill the text in place between BufferLock() and BufferUnlock() (or
+/// `++s` and `s--`), which guarantee a writable block of at least 1024 bytes; until the last unlock the text can be
+/// neither replaced, appended to nor moved, and the lengths are counted afresh whenever they are asked for. A plain
+/// conversion to `char*` gives the same block for one call, and the next use of the object takes the new length in. A
+/// reference from GetRef() or an index that lies at or behind the end does that too; writing a NUL through a reference
+/// inside the text is not noticed.
+///
+/// Comparisons and conversions with numbers concern the length: `s == 0` asks whether the text is empty, `s > 5`
+/// whether it is longer than five, `int(s)` is its length. Both sides are compared as unsigned numbers, so nothing is
+/// greater than -1. `s == "text"` compares the texts in the system's word order.
+///
+///     CSTRING path("C:\\DATA");
+///     path += '\\';
+///     path += fileName;
+///     GetWindowsDirectoryA(++path, 1024);
+///     path--;
+///     if (path[-1] != '\\') path += '\\';
+///
+/// Objects are not shared between threads without a lock of the caller's.
+#pragma once
+
+#include "cbase.h"
+
+/// A text of the ANSI code page with cached lengths, in a heap block of its own.
+class CVCLASS CSTRING : public CBASE {
+  public:
+    // --- construction and lifetime
+
+    /// An empty text that owns no block.
+    CSTRING();
+
+    /// A copy of the bytes that @p other has counted last. Neither its validity nor a write that it has not taken in
+    /// yet is looked at (unlike the assignment); the signature is copied as it stands.
+    CSTRING(CSTRING const& other);
+
+    /// A copy of a text.
+    /// @param text  ends at the NUL or at the first byte of 0x80 or above; null gives an empty object.
+    CSTRING(char const* text);
+
+    /// An empty text with a block already owned.
+    /// @param size  bytes that the block holds at least; there is always more room than that.
+    CSTRING(unsigned int size);
+
+    ~CSTRING() override;
+
+    void vCallConstructor(CBASE* place) const override;
+    void vCallDestructor() override;
+    void vCopy(CBASE const& source) override;
+    unsigned int vGetSize() const override;
+
+    /// Tells whether this is a sound object. Any address may be asked.
+    /// @return 1 if the whole object is writable memory and carries the signature, else 0.
+    int IsValid() const;
+
+    // --- lengths
+
+    /// @return bytes up to the NUL, counted afresh while locked; 0 on an invalid object.
+    unsigned int GetStrLen();
+
+    /// @return bytes that the character walk spans, counted afresh while locked; 0 on an invalid object.
+    unsigned int GetByteCount();
+
+    /// Makes the block at least @p size bytes large, keeping the text, and tells its size. The object is not checked:
+    /// it must be sound.
+    /// @return the block's size in bytes, less than @p size if the growth failed or the object is locked; 0 for none.
+    unsigned int GetBufLen(unsigned int size);
+
+    // --- locking and raw access
+
+    /// Hands out the buffer for writing until the matching BufferUnlock(). Locks nest.
+    /// @param size  bytes wanted; at least 1024 are given. A locked block cannot grow.
+    /// @return the buffer; null if it could not be made large enough (unless it is locked already) or on an invalid
+    /// object.
+    char* BufferLock(unsigned int size);
+
+    /// Ends one BufferLock() and takes the new lengths in; without a lock it only does the latter.
+    /// @return the number of locks that remain; 0 on an invalid object.
+    unsigned int BufferUnlock();
+
+    /// Same as BufferLock(1024).
+    char* operator++();
+
+    /// Same as BufferUnlock(), but the result is always null, also while a lock remains.
+    char* operator--(int);
+
+    /// A buffer of at least 1024 bytes to write into until the next use of the object, which takes the new lengths in.
+    /// @return null on an invalid object or if the block could not grow.
+    operator char*();
+
+    /// The text to read; null on an invalid object.
+    operator char const*() const;
+
+    // --- assignment and concatenation; all of them do nothing while the object is locked
+
+    /// Takes over the text of @p other; an invalid one changes nothing.
+    CSTRING const& operator=(CSTRING const& other);
+
+    /// Takes over a text, up to its first byte of 0x80 or above; null changes nothing. A tail of the object's own text
+    /// may be assigned; one stale character then stays behind it.
+    CSTRING const& operator=(char const* text);
+
+    /// Becomes the text of one character; the NUL gives an empty text whose GetByteCount() is 1.
+    CSTRING const& operator=(char ch);
+
+    /// Appends the text of @p other; an invalid one appends nothing.
+    CSTRING const& Append(CSTRING const& other);
+
+    /// Appends a text, up to its first byte of 0x80 or above; null appends nothing.
+    CSTRING const& Append(char const* text);
+
+    /// Appends one character, of any value.
+    CSTRING const& Append(char ch);
+
+    /// Same as Append().
+    CSTRING const& operator+=(CSTRING const& other);
+    /// Same as Append().
+    CSTRING const& operator+=(char const* text);
+    /// Same as Append().
+    CSTRING const& operator+=(char ch);
+
+    /// Both texts in a new object, which is empty if either object is invalid.
+    CSTRING operator+(CSTRING const& other) const;
+    /// Both texts in a new object, which is empty if this object is invalid; null adds nothing.
+    CSTRING operator+(char const* text) const;
+    /// The text and one character in a new object, which is empty if this object is invalid.
+    CSTRING operator+(char ch) const;
+
+    // --- character access
+
+    /// Reads one character.
+    /// @param index  position; ~0 is the last character; behind the end lies the NUL.
+    /// @return the byte there; NUL on an invalid object.
+    char GetChar(unsigned int index);
+
+    /// Gives write access to one character; one at or behind the end has room for itself and for a NUL after it.
+    /// @param index  position; ~0 is the last character, in an empty text the terminator; one behind the end is the
+    /// terminator.
+    /// @return a reference that holds until the object is used again. On an invalid object it leads into the empty text
+    /// that
+    ///         all objects without a block share, and must not be written to.
+    char& GetRef(unsigned int index);
+
+    /// Same as GetRef(); a negative index is counted as the unsigned number of the same bits, so -1 is the last
+    /// character.
+    char& operator[](short index);
+    /// Same as GetRef().
+    char& operator[](unsigned short index);
+    /// Same as GetRef(); -1 is the last character.
+    char& operator[](int index);
+    /// Same as GetRef().
+    char& operator[](unsigned int index);
+    /// Same as GetRef() with the low 32 bits; -1 is the last character.
+    char& operator[](long index);
+    /// Same as GetRef() with the low 32 bits.
+    char& operator[](unsigned long index);
+
+    /// Overwrites one character inside the text; at the end or behind it nothing happens. ~0 has no special meaning.
+    /// The cached lengths stay, even when @p ch is NUL.
+    CSTRING const& SetChar(unsigned int index, char ch);
+
+    // --- comparison of the length, as unsigned 32-bit numbers; 1 or 0
+
+    /// Whether the text is @p length bytes long.
+    int operator==(int length);
+    /// Whether the text is @p length bytes long.
+    int operator==(unsigned int length);
+    /// Whether the text is @p length bytes long.
+    int operator==(long length);
+    /// Whether the text is @p length bytes long.
+    int operator==(unsigned long length);
+    /// Whether the text is not @p length bytes long.
+    int operator!=(int length);
+    /// Whether the text is not @p length bytes long.
+    int operator!=(unsigned int length);
+    /// Whether the text is not @p length bytes long.
+    int operator!=(long length);
+    /// Whether the text is not @p length bytes long.
+    int operator!=(unsigned long length);
+    /// Whether the text is shorter than @p length.
+    int operator<(int length);
+    /// Whether the text is shorter than @p length.
+    int operator<(unsigned int length);
+    /// Whether the text is shorter than @p length.
+    int operator<(long length);
+    /// Whether the text is shorter than @p length.
+    int operator<(unsigned long length);
+    /// Whether the text is longer than @p length.
+    int operator>(int length);
+    /// Whether the text is longer than @p length.
+    int operator>(unsigned int length);
+    /// Whether the text is longer than @p length.
+    int operator>(long length);
+    /// Whether the text is longer than @p length.
+    int operator>(unsigned long length);
+    /// Whether the text is @p length bytes long or shorter.
+    int operator<=(int length);
+    /// Whether the text is @p length bytes long or shorter.
+    int operator<=(unsigned int length);
+    /// Whether the text is @p length bytes long or shorter.
+    int operator<=(long length);
+    /// Whether the text is @p length bytes long or shorter.
+    int operator<=(unsigned long length);
+    /// Whether the text is @p length bytes long or longer.
+    int operator>=(int length);
+    /// Whether the text is @p length bytes long or longer.
+    int operator>=(unsigned int length);
+    /// Whether the text is @p length bytes long or longer.
+    int operator>=(long length);
+    /// Whether the text is @p length bytes long or longer.
+    int operator>=(unsigned long length);
+
+    /// The length, as GetStrLen().
+    operator int();
+    /// The length, as GetStrLen().
+    operator long();
+    /// The length, as GetStrLen().
+    operator unsigned int();
+    /// The length, as GetStrLen().
+    operator unsigned long();
+
+    // --- comparison of the text
+
+    /// Compares with a text as `lstrcmpA` does: in the word order of the user's locale, capitals apart from small
+    /// letters.
+    /// @return below 0, 0 or above 0; 0 on an invalid object, which therefore equals everything.
+    int Compare(char const* text);
+
+    /// Whether Compare() finds the texts equal.
+    int operator==(char const* text);
+    /// Whether Compare() finds the texts different.
+    int operator!=(char const* text);
+
+  private:
+    int Alloc(unsigned int size);
+    int Resize(unsigned int size);
+    void Copy(char const* source, unsigned int count);
+    void CopyWithin(char const* source, unsigned int count);
+    void Concat(char const* source, unsigned int count);
+    void Free();
+    void Init();
+    int StandardEntry() const;
+    void AutoUnlock();
+
+    char* Buffer;
+    std::uint32_t StrLen;
+    std::uint32_t ByteCount;
+    std::uint32_t BufLen;
+    std::uint32_t LockCount;
+    int AutoLocked;
+};

@@ -1,0 +1,71 @@
+/// @file handle.h
+/// Handles are never pointers: a handle is a 31-bit number made of a slot and a generation, and names an object of one
+/// kind. A stale, foreign or invented value is found out on every use. Look-ups take no lock.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace platform::base {
+
+enum class HandleKind : std::uint8_t {
+    None,
+    GlobalBlock,
+    Module,
+    Resource,
+    File,
+    FindFile,
+    RegistryKey,
+    Thread,
+    Process,
+    Event,
+    Window,
+    Menu,
+    Icon,
+    Cursor,
+    DeviceContext,
+    Pen,
+    Brush,
+    Font,
+    Bitmap,
+    Region,
+    ImageList,
+    PositionBatch,
+    Count
+};
+
+/// Files an object. @returns its handle, at least 0x10000, or 0 when the table is full or memory has run out.
+std::uint32_t InsertHandle(HandleKind kind, void* object);
+
+/// @returns the object, or null when the handle is stale, foreign or of another kind. Sets no error code.
+void* FindHandle(std::uint32_t handle, HandleKind kind);
+
+/// @returns the kind of a live handle, else HandleKind::None.
+HandleKind KindOfHandle(std::uint32_t handle);
+
+/// Takes the object out of the table; its handle is stale from now on. @returns the object, or null as FindHandle does.
+void* RemoveHandle(std::uint32_t handle, HandleKind kind);
+
+/// @returns how many live handles of this kind there are.
+std::size_t CountHandles(HandleKind kind);
+
+/// Calls visit(handle, object) for the live handles of a kind, in slot order.
+void ForEachHandle(HandleKind kind, void (*visit)(std::uint32_t handle, void* object, void* context), void* context);
+
+template <class Handle>
+std::uint32_t ToNumber(Handle handle) {
+    const auto value = reinterpret_cast<std::uintptr_t>(handle);
+    return value > UINT32_MAX ? 0 : static_cast<std::uint32_t>(value);
+}
+
+template <class Handle>
+Handle ToHandle(std::uint32_t number) {
+    return reinterpret_cast<Handle>(static_cast<std::uintptr_t>(number));
+}
+
+template <class Object, class Handle>
+Object* Find(Handle handle, HandleKind kind) {
+    return static_cast<Object*>(FindHandle(ToNumber(handle), kind));
+}
+
+}  // namespace platform::base

@@ -1,0 +1,89 @@
+#include "display/display.h"
+
+#include "base/report.h"
+#include "display/headless.h"
+#include "display/sdl/entry.h"
+
+#include <atomic>
+#include <cstdlib>
+#include <cstring>
+#include <dlfcn.h>
+#include <new>
+#include <string>
+
+namespace platform::display {
+namespace {
+
+std::atomic<bool> interactive{false};
+
+constexpr char kSdlModule[] = "libcvdisplay_sdl.so";
+
+bool IsSet(const char* variable) {
+    const char* value = std::getenv(variable);
+    return value != nullptr && *value != '\0';
+}
+
+bool DesktopWanted() {
+    const char* choice = std::getenv("CVUTIL32_DISPLAY");
+    if (choice != nullptr && std::strcmp(choice, "none") == 0) {
+        return false;
+    }
+    return IsSet("DISPLAY") || IsSet("WAYLAND_DISPLAY");
+}
+
+void* OpenSdlModule() {
+    Dl_info self{};
+    if (dladdr(reinterpret_cast<void*>(&OpenSdlModule), &self) != 0 && self.dli_fname != nullptr) {
+        std::string path(self.dli_fname);
+        path.resize(path.rfind('/') == std::string::npos ? 0 : path.rfind('/') + 1);
+        path += kSdlModule;
+        if (void* module = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL)) {
+            return module;
+        }
+    }
+    return dlopen(kSdlModule, RTLD_NOW | RTLD_LOCAL);
+}
+
+// The module is never closed again: the host's video libraries keep threads and exit handlers of their own.
+std::unique_ptr<Display> CreateSdl(const Sink& sink, const Source& source, int width, int height) {
+    void* module = OpenSdlModule();
+    if (module == nullptr) {
+        const char* reason = dlerror();
+        base::ReportOnce(
+            (std::string("no window on the desktop: ") + (reason != nullptr ? reason : kSdlModule)).c_str());
+        return nullptr;
+    }
+    const auto create = reinterpret_cast<SdlCreateFunction>(dlsym(module, kSdlCreateName));
+    if (create == nullptr) {
+        base::ReportOnce("no window on the desktop: libcvdisplay_sdl.so is not of this version");
+        return nullptr;
+    }
+    char reason[256] = "";
+    std::unique_ptr<Display> display(create(&sink, &source, width, height, reason, sizeof reason));
+    if (display == nullptr) {
+        base::ReportOnce((std::string("no window on the desktop: ") + reason).c_str());
+    }
+    return display;
+}
+
+}  // namespace
+
+bool IsInteractive() {
+    return interactive;
+}
+
+std::unique_ptr<Display> Create(const Sink& sink, const Source& source, int width, int height) {
+    interactive = false;
+    try {
+        if (DesktopWanted()) {
+            if (auto display = CreateSdl(sink, source, width, height)) {
+                interactive = display->Interactive();
+                return display;
+            }
+        }
+    } catch (const std::bad_alloc&) {
+    }
+    return CreateHeadless();
+}
+
+}  // namespace platform::display

@@ -1,0 +1,13 @@
+/// @file winuser.h
+/// Windows, messages, input, painting and dialogs.
+#pragma once
+
+#include "winuser/strings.h"
+#include "winuser/window.h"
+#include "winuser/messages.h"
+#include "winuser/input.h"
+#include "winuser/drawing.h"
+#include "winuser/painting.h"
+#include "winuser/dialogs.h"
+#include "winuser/controls.h"
+#include "winuser/station.h"

@@ -1,0 +1,36 @@
+/// @file strings.h
+/// Characters, formatted text and string resources.
+#pragma once
+
+#include <stdarg.h>
+
+WINUSERAPI LPSTR WINAPI CharNextA(LPCSTR text);
+WINUSERAPI LPSTR WINAPI CharPrevA(LPCSTR start, LPCSTR text);
+WINUSERAPI LPSTR WINAPI CharUpperA(LPSTR textOrChar);
+WINUSERAPI LPSTR WINAPI CharLowerA(LPSTR textOrChar);
+WINUSERAPI DWORD WINAPI CharUpperBuffA(LPSTR text, DWORD bytes);
+WINUSERAPI DWORD WINAPI CharLowerBuffA(LPSTR text, DWORD bytes);
+WINUSERAPI BOOL WINAPI IsCharAlphaA(CHAR character);
+WINUSERAPI BOOL WINAPI IsCharAlphaNumericA(CHAR character);
+WINUSERAPI BOOL WINAPI IsCharUpperA(CHAR character);
+WINUSERAPI BOOL WINAPI IsCharLowerA(CHAR character);
+
+/// The output never exceeds 1024 bytes, terminator included.
+WINUSERAPI int wsprintfA(LPSTR buffer, LPCSTR format, ...);
+WINUSERAPI int WINAPI wvsprintfA(LPSTR buffer, LPCSTR format, va_list arguments);
+
+WINUSERAPI int WINAPI LoadStringA(HINSTANCE module, UINT id, LPSTR buffer, int size);
+
+#define RT_CURSOR MAKEINTRESOURCEA(1)
+#define RT_BITMAP MAKEINTRESOURCEA(2)
+#define RT_ICON MAKEINTRESOURCEA(3)
+#define RT_MENU MAKEINTRESOURCEA(4)
+#define RT_DIALOG MAKEINTRESOURCEA(5)
+#define RT_STRING MAKEINTRESOURCEA(6)
+#define RT_FONTDIR MAKEINTRESOURCEA(7)
+#define RT_FONT MAKEINTRESOURCEA(8)
+#define RT_ACCELERATOR MAKEINTRESOURCEA(9)
+#define RT_RCDATA MAKEINTRESOURCEA(10)
+#define RT_GROUP_CURSOR MAKEINTRESOURCEA(12)
+#define RT_GROUP_ICON MAKEINTRESOURCEA(14)
+#define RT_VERSION MAKEINTRESOURCEA(16)

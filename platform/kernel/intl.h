@@ -1,0 +1,12 @@
+/// @file intl.h
+/// The international settings of the host's user, which stand in where win.ini has none.
+#pragma once
+
+#include <string>
+
+namespace platform::kernel {
+
+/// @returns the value of a key of the section "intl" (any case), or null when the host tells nothing about it.
+const std::string* HostIntlValue(const std::string& key);
+
+}  // namespace platform::kernel

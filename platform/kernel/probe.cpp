@@ -1,0 +1,147 @@
+// Memory probes: the bytes are touched, and a fault handler answers for those that cannot be. Good memory costs neither a
+// system call nor a jump buffer. A touch for writing is one locked instruction that leaves the byte as it is, so that no other
+// thread's write is ever lost.
+#include <windows.h>
+
+#include <signal.h>
+#include <ucontext.h>
+#include <unistd.h>
+
+#include <cstdint>
+
+#ifndef __x86_64__
+#error "kernel/probe.cpp holds x86-64 instructions; another processor needs a file of its own beside it"
+#endif
+
+namespace {
+
+// One entry for each instruction that may fault and the place where it goes on when it did, both relative to themselves.
+struct Fixup {
+    std::int32_t instruction;
+    std::int32_t resume;
+};
+extern "C" const Fixup __start_cvprobe[] __attribute__((visibility("hidden")));
+extern "C" const Fixup __stop_cvprobe[] __attribute__((visibility("hidden")));
+
+#define CVPROBE_FIXUP(bad)                         \
+    ".pushsection cvprobe,\"a\",@progbits\n"       \
+    ".long 1b - .\n"                               \
+    ".long %l[" #bad "] - .\n"                     \
+    ".popsection\n"
+
+inline __attribute__((always_inline)) bool CanWrite(std::uintptr_t address) {
+    asm goto("1: lock orb $0, (%0)\n" CVPROBE_FIXUP(bad) : : "r"(address) : "memory", "cc" : bad);
+    return true;
+bad:
+    return false;
+}
+
+inline __attribute__((always_inline)) bool CanRead(std::uintptr_t address) {
+    asm goto("1: testb $0, (%0)\n" CVPROBE_FIXUP(bad) : : "r"(address) : "memory", "cc" : bad);
+    return true;
+bad:
+    return false;
+}
+
+constexpr std::uintptr_t kPage = 4096;
+
+// Touches one byte on each page of a range.
+template <bool (*CanTouch)(std::uintptr_t)>
+bool RangeIsGood(std::uintptr_t first, std::uintptr_t bytes) {
+    const std::uintptr_t last = first + bytes - 1;
+    if (last < first) {
+        return false;
+    }
+    for (std::uintptr_t at = first;; at = (at | (kPage - 1)) + 1) {
+        if (!CanTouch(at)) {
+            return false;
+        }
+        if ((at ^ last) < kPage) {
+            return true;
+        }
+    }
+}
+
+bool ReadTouch(std::uintptr_t address) {
+    return CanRead(address);
+}
+
+bool WriteTouch(std::uintptr_t address) {
+    return CanWrite(address);
+}
+
+struct sigaction previousSegv;
+struct sigaction previousBus;
+
+bool ResumeAfterProbe(ucontext_t* context) {
+    auto& rip = context->uc_mcontext.gregs[REG_RIP];
+    for (const Fixup* fixup = __start_cvprobe; fixup != __stop_cvprobe; ++fixup) {
+        const auto at = reinterpret_cast<std::uintptr_t>(&fixup->instruction) + fixup->instruction;
+        if (static_cast<std::uintptr_t>(rip) == at) {
+            rip = static_cast<greg_t>(reinterpret_cast<std::uintptr_t>(&fixup->resume) + fixup->resume);
+            return true;
+        }
+    }
+    return false;
+}
+
+void OnFault(int signal, siginfo_t* info, void* context) {
+    if (ResumeAfterProbe(static_cast<ucontext_t*>(context))) {
+        return;
+    }
+    const struct sigaction& previous = signal == SIGSEGV ? previousSegv : previousBus;
+    if (previous.sa_flags & SA_SIGINFO) {
+        previous.sa_sigaction(signal, info, context);
+    } else if (previous.sa_handler == SIG_IGN && info->si_code <= 0) {
+        return;
+    } else if (previous.sa_handler != SIG_DFL && previous.sa_handler != SIG_IGN) {
+        previous.sa_handler(signal);
+    } else {
+        // The faulting instruction runs again under the default action and ends the process with the right signal.
+        sigaction(signal, &previous, nullptr);
+        if (info->si_code <= 0) {
+            raise(signal);
+        }
+    }
+}
+
+__attribute__((constructor)) void InstallFaultHandler() {
+    struct sigaction action {};
+    action.sa_sigaction = OnFault;
+    action.sa_flags = SA_SIGINFO | SA_ONSTACK;
+    sigemptyset(&action.sa_mask);
+    sigaction(SIGSEGV, &action, &previousSegv);
+    sigaction(SIGBUS, &action, &previousBus);
+}
+
+}  // namespace
+
+BOOL WINAPI IsBadWritePtr(LPVOID address, UINT_PTR bytes) {
+    const auto first = reinterpret_cast<std::uintptr_t>(address);
+    // By far most ranges lie within one page.
+    if (bytes - 1 < kPage && (first ^ (first + bytes - 1)) < kPage) [[likely]] {
+        return !CanWrite(first);
+    }
+    return bytes != 0 && !RangeIsGood<WriteTouch>(first, bytes);
+}
+
+BOOL WINAPI IsBadReadPtr(const void* address, UINT_PTR bytes) {
+    return bytes != 0 && !RangeIsGood<ReadTouch>(reinterpret_cast<std::uintptr_t>(address), bytes);
+}
+
+__attribute__((no_sanitize("address"))) BOOL WINAPI IsBadStringPtrA(LPCSTR text, UINT_PTR most) {
+    for (UINT_PTR i = 0; i < most; ++i) {
+        const auto at = reinterpret_cast<std::uintptr_t>(text) + i;
+        if ((i == 0 || at % kPage == 0) && !ReadTouch(at)) {
+            return TRUE;
+        }
+        if (!text[i]) {
+            return FALSE;
+        }
+    }
+    return FALSE;
+}
+
+BOOL WINAPI IsBadCodePtr(FARPROC procedure) {
+    return IsBadReadPtr(reinterpret_cast<const void*>(procedure), 1);
+}

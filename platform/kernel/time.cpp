@@ -1,0 +1,58 @@
+#include <windows.h>
+
+#include <cerrno>
+#include <ctime>
+
+#include "base/clock.h"
+
+namespace {
+
+void Store(const tm& parts, long nanoseconds, LPSYSTEMTIME time) {
+    *time = {static_cast<WORD>(parts.tm_year + 1900), static_cast<WORD>(parts.tm_mon + 1),
+             static_cast<WORD>(parts.tm_wday),        static_cast<WORD>(parts.tm_mday),
+             static_cast<WORD>(parts.tm_hour),        static_cast<WORD>(parts.tm_min),
+             // A leap second is not a time that callers know.
+             static_cast<WORD>(parts.tm_sec > 59 ? 59 : parts.tm_sec), static_cast<WORD>(nanoseconds / 1000000)};
+}
+
+}  // namespace
+
+void WINAPI GetLocalTime(LPSYSTEMTIME time) {
+    timespec now{};
+    clock_gettime(CLOCK_REALTIME, &now);
+    tm parts{};
+    localtime_r(&now.tv_sec, &parts);
+    Store(parts, now.tv_nsec, time);
+}
+
+void WINAPI GetSystemTime(LPSYSTEMTIME time) {
+    timespec now{};
+    clock_gettime(CLOCK_REALTIME, &now);
+    tm parts{};
+    gmtime_r(&now.tv_sec, &parts);
+    Store(parts, now.tv_nsec, time);
+}
+
+DWORD WINAPI GetTickCount(void) {
+    return platform::base::TickCount();
+}
+
+void WINAPI Sleep(DWORD milliseconds) {
+    timespec wait{milliseconds / 1000, static_cast<long>(milliseconds % 1000) * 1000000};
+    do {
+        while (nanosleep(&wait, &wait) != 0 && errno == EINTR) {
+        }
+    } while (milliseconds == INFINITE);
+}
+
+BOOL WINAPI QueryPerformanceCounter(LARGE_INTEGER* count) {
+    timespec now{};
+    clock_gettime(CLOCK_MONOTONIC, &now);
+    count->QuadPart = static_cast<LONGLONG>(now.tv_sec) * 1000000000 + now.tv_nsec;
+    return TRUE;
+}
+
+BOOL WINAPI QueryPerformanceFrequency(LARGE_INTEGER* frequency) {
+    frequency->QuadPart = 1000000000;
+    return TRUE;
+}

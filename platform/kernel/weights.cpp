@@ -1,0 +1,177 @@
+#include "kernel/weights.h"
+
+#include <unicode/uchar.h>
+#include <unicode/unorm2.h>
+
+#include <cstring>
+#include <map>
+#include <mutex>
+
+namespace platform::kernel {
+namespace {
+
+// Symbols in their order before the digits. Hyphen and apostrophe come first in string sort and weigh least in word sort.
+constexpr char kSymbols[] = "'- !\"#$%&()*,./:;?@[\\]^_`{|}~+<=>";
+constexpr std::uint32_t kFirstSymbol = 0x10;
+constexpr std::uint32_t kLaterSymbols = 0x100;  // the other symbols, by code point
+constexpr std::uint32_t kDigits = 0x20000;
+constexpr std::uint32_t kLetters = 0x20100;
+constexpr std::uint32_t kOtherLetters = 0x30000;  // by code point
+
+Weight Letter(char small, bool upper) {
+    Weight weight;
+    weight.primary = kLetters + static_cast<std::uint32_t>(small - 'a') * 2;
+    weight.letterCase = upper ? Weight::kUpper : 0;
+    return weight;
+}
+
+// Letters that count as two.
+bool Expansion(char16_t character, Weights& weights) {
+    struct Pair {
+        char16_t character;
+        char first, second;
+        bool upper;
+    };
+    static constexpr Pair kPairs[] = {{0xC6, 'a', 'e', true},  {0xE6, 'a', 'e', false}, {0xDF, 's', 's', false},
+                                      {0x152, 'o', 'e', true}, {0x153, 'o', 'e', false}, {0xDE, 't', 'h', true},
+                                      {0xFE, 't', 'h', false}};
+    for (const Pair& pair : kPairs) {
+        if (pair.character == character) {
+            weights.first = Letter(pair.first, pair.upper);
+            weights.second = Letter(pair.second, pair.upper);
+            weights.expands = true;
+            return true;
+        }
+    }
+    return false;
+}
+
+// Letters with a stroke have no decomposition, but stand with their plain letter.
+char16_t StrokeBase(char16_t character) {
+    switch (character) {
+        case 0xD8:
+            return 'O';
+        case 0xF8:
+            return 'o';
+        case 0xD0:
+        case 0x110:
+            return 'D';
+        case 0xF0:
+        case 0x111:
+            return 'd';
+        case 0x131:
+            return 'i';
+        case 0x141:
+            return 'L';
+        case 0x142:
+            return 'l';
+        default:
+            return 0;
+    }
+}
+
+Weight Plain(char16_t character) {
+    Weight weight;
+    if (character < 0x80) {
+        const char ascii = static_cast<char>(character);
+        if (u_isalpha(character)) {
+            return Letter(static_cast<char>(ascii | 0x20), ascii < 'a');
+        }
+        if (ascii >= '0' && ascii <= '9') {
+            weight.primary = kDigits + static_cast<std::uint32_t>(ascii - '0') * 2;
+            return weight;
+        }
+        const char* found = ascii > 0 ? std::strchr(kSymbols, ascii) : nullptr;
+        if (found) {
+            weight.symbol = true;
+            weight.primary = kFirstSymbol + static_cast<std::uint32_t>(found - kSymbols);
+            weight.special = ascii == '\'' ? 1 : ascii == '-' ? 2 : 0;
+        } else if (ascii >= '\t' && ascii <= '\r') {
+            weight.symbol = true;
+            weight.primary = 5 + static_cast<std::uint32_t>(ascii - '\t');
+        }
+        return weight;  // other control characters weigh nothing
+    }
+    if (u_iscntrl(character)) {
+        return weight;
+    }
+    if (character == 0xAD) {
+        weight.special = 3;
+        weight.primary = kFirstSymbol + 2;
+        weight.symbol = true;
+        return weight;
+    }
+    if (!u_isalnum(character)) {
+        weight.symbol = true;
+        weight.primary = kLaterSymbols + character;
+        return weight;
+    }
+    const auto lower = static_cast<char16_t>(u_tolower(character));
+    weight.primary = kOtherLetters + lower;
+    weight.letterCase = lower != character ? Weight::kUpper : 0;
+    return weight;
+}
+
+char16_t Narrow(char16_t character) {
+    if (character >= 0xFF01 && character <= 0xFF5E) {
+        return static_cast<char16_t>(character - 0xFF01 + 0x21);
+    }
+    return character == 0x3000 ? u' ' : character;
+}
+
+}  // namespace
+
+Weights WeightsOf(char16_t character) {
+    Weights weights;
+    std::uint8_t form = 0;
+    if (Narrow(character) != character) {
+        character = Narrow(character);
+        form |= Weight::kWide;
+    }
+    if (character >= 0x30A1 && character <= 0x30F6) {
+        character = static_cast<char16_t>(character - 0x60);
+        form |= Weight::kKatakana;
+    }
+    if (!Expansion(character, weights)) {
+        std::uint8_t accent = 0;
+        char16_t base = StrokeBase(character);
+        if (base) {
+            accent = 0xF0;
+        } else if (character >= 0xC0) {
+            UErrorCode error = U_ZERO_ERROR;
+            const UNormalizer2* form = unorm2_getNFDInstance(&error);
+            UChar parts[8];
+            const std::int32_t length =
+                U_SUCCESS(error) ? unorm2_getDecomposition(form, character, parts, 8, &error) : -1;
+            if (U_SUCCESS(error) && length >= 2 && parts[0] < 0x3040) {
+                base = parts[0];
+                for (std::int32_t i = 1; i < length; ++i) {
+                    accent = static_cast<std::uint8_t>(accent * 31 + (parts[i] & 0x7F) + 2);
+                }
+            }
+        }
+        weights.first = Plain(base ? base : character);
+        weights.first.accent = accent;
+    }
+    weights.first.letterCase |= form;
+    weights.second.letterCase |= weights.expands ? form : 0;
+    return weights;
+}
+
+const std::array<Weights, 256>& ByteWeights(const CodePage& page) {
+    using Table = std::array<Weights, 256>;
+    static std::mutex lock;
+    static auto& tables = *new std::map<UINT, Table>;
+    const std::lock_guard guard(lock);
+    const auto [place, fresh] = tables.try_emplace(page.number);
+    if (fresh) {
+        for (int byte = 0; byte < 256; ++byte) {
+            if (!page.lead[byte]) {
+                place->second[byte] = WeightsOf(page.single[byte]);
+            }
+        }
+    }
+    return place->second;
+}
+
+}  // namespace platform::kernel

@@ -1,0 +1,254 @@
+// How buttons look: raised two-pixel bevels, a black outline on the default button, a dotted focus rectangle.
+#include <algorithm>
+
+#include "user/controls/button.h"
+
+namespace platform::user {
+namespace {
+
+constexpr int kBoxSize = 13;      // of check boxes and radio buttons
+constexpr int kBoxGap = 3;        // between a box and its text
+constexpr int kEdge = 2;          // width of the bevel
+constexpr int kCaptionInset = 9;  // of a group box's text from its left edge
+constexpr int kCaptionGap = 2;    // that the frame keeps from the text
+
+struct Painter {
+    HWND button;
+    const ButtonData& data;
+    HDC context;
+    DWORD style;
+    RECT client;
+    std::string text;
+
+    DWORD Kind() const {
+        return ButtonKind(style);
+    }
+    bool Disabled() const {
+        return (style & WS_DISABLED) != 0;
+    }
+    bool Pushed() const {
+        return (data.state & BST_PUSHED) != 0;
+    }
+    bool Focused() const {
+        return (data.state & BST_FOCUS) != 0;
+    }
+    bool Checked() const {
+        return (data.state & (BST_CHECKED | BST_INDETERMINATE)) != 0;
+    }
+    bool LooksPush() const {
+        return !(IsCheckKind(Kind()) || IsRadioKind(Kind())) || (style & BS_PUSHLIKE);
+    }
+};
+
+UINT TextFormat(const Painter& painter) {
+    UINT format = painter.style & BS_MULTILINE ? DT_WORDBREAK : DT_SINGLELINE;
+    switch (painter.style & BS_CENTER) {
+        case BS_LEFT:
+            return format | DT_LEFT;
+        case BS_RIGHT:
+            return format | DT_RIGHT;
+        case BS_CENTER:
+            return format | DT_CENTER;
+        default:
+            return format | (painter.LooksPush() ? DT_CENTER : DT_LEFT);
+    }
+}
+
+/// @returns the rectangle that the text fills within an area, by the button's alignment.
+RECT PlaceText(const Painter& painter, const RECT& area, UINT format) {
+    RECT measured = area;
+    DrawTextA(painter.context, painter.text.c_str(), static_cast<int>(painter.text.size()), &measured,
+              format | DT_CALCRECT);
+    const int width = measured.right - measured.left;
+    const int height = measured.bottom - measured.top;
+    RECT place = area;
+    if (format & DT_CENTER)
+        place.left = area.left + std::max<int>(0, (area.right - area.left - width) / 2);
+    else if (format & DT_RIGHT)
+        place.left = std::max<int>(area.left, area.right - width);
+    place.right = std::min<int>(area.right, place.left + width);
+    switch (painter.style & BS_VCENTER) {
+        case BS_TOP:
+            break;
+        case BS_BOTTOM:
+            place.top = area.bottom - height;
+            break;
+        default:
+            // Text that is too tall loses its last pixels, not its first.
+            place.top = area.top + (area.bottom - area.top - height) / 2;
+            break;
+    }
+    place.bottom = place.top + height;
+    return place;
+}
+
+void DrawLabel(const Painter& painter, RECT place, UINT format) {
+    if (painter.Disabled()) {
+        DrawDisabledText(painter.context, painter.text, place, format);
+        return;
+    }
+    DrawTextA(painter.context, painter.text.c_str(), static_cast<int>(painter.text.size()), &place, format);
+}
+
+void DrawContents(const Painter& painter, const RECT& area) {
+    const bool bitmap = painter.style & BS_BITMAP;
+    if (bitmap && painter.data.image && painter.data.imageKind == IMAGE_BITMAP) {
+        DrawCentredBitmap(painter.context, static_cast<HBITMAP>(painter.data.image), area);
+        return;
+    }
+    if (painter.text.empty())
+        return;
+    const UINT format = TextFormat(painter);
+    const int saved = SaveDC(painter.context);
+    IntersectClipRect(painter.context, painter.client.left + kEdge, painter.client.top + kEdge,
+                      painter.client.right - kEdge, painter.client.bottom - kEdge);
+    SetBkMode(painter.context, TRANSPARENT);
+    SetTextColor(painter.context, GetSysColor(COLOR_BTNTEXT));
+    RECT place = PlaceText(painter, area, format);
+    DrawLabel(painter, place, format);
+    RestoreDC(painter.context, saved);
+}
+
+void PaintPush(const Painter& painter) {
+    ControlBrush(painter.button, painter.context, WM_CTLCOLORBTN);
+    RECT frame = painter.client;
+    const bool isDefault = painter.Kind() == BS_DEFPUSHBUTTON;
+    const bool down = painter.Pushed() || (painter.style & BS_PUSHLIKE && painter.Checked());
+    if (isDefault) {
+        FrameRect(painter.context, &frame, GetSysColorBrush(COLOR_WINDOWFRAME));
+        InflateRect(&frame, -1, -1);
+    }
+    if (isDefault && down) {
+        // The outlined button goes flat when pressed: a single line of shadow.
+        FillRect(painter.context, &frame, GetSysColorBrush(COLOR_BTNFACE));
+        FrameRect(painter.context, &frame, GetSysColorBrush(COLOR_BTNSHADOW));
+    } else {
+        RECT bevel = frame;
+        DrawFrameControl(painter.context, &bevel, DFC_BUTTON, DFCS_BUTTONPUSH | (down ? DFCS_PUSHED : 0));
+    }
+    // The contents are laid out in the whole button, so that the outline does not move them.
+    RECT area = painter.client;
+    InflateRect(&area, -kEdge, -kEdge);
+    if (down)
+        OffsetRect(&area, 1, 1);
+    DrawContents(painter, area);
+    if (painter.Focused()) {
+        RECT focus = frame;
+        InflateRect(&focus, -(kEdge + 1), -(kEdge + 1));
+        if (focus.left < focus.right && focus.top < focus.bottom)
+            DrawFocusRect(painter.context, &focus);
+    }
+}
+
+UINT BoxState(const Painter& painter) {
+    UINT state = IsRadioKind(painter.Kind()) ? DFCS_BUTTONRADIO : DFCS_BUTTONCHECK;
+    if (painter.data.state & BST_INDETERMINATE)
+        state = DFCS_BUTTON3STATE | DFCS_CHECKED;
+    else if (painter.data.state & BST_CHECKED)
+        state |= DFCS_CHECKED;
+    if (painter.Pushed())
+        state |= DFCS_PUSHED;
+    if (painter.Disabled())
+        state |= DFCS_INACTIVE;
+    return state;
+}
+
+void PaintBox(const Painter& painter) {
+    const HBRUSH brush = ControlBrush(painter.button, painter.context, WM_CTLCOLORSTATIC);
+    FillRect(painter.context, &painter.client, brush);
+    const bool boxAtRight = painter.style & BS_LEFTTEXT;
+    RECT area = painter.client;
+    if (boxAtRight)
+        area.right -= kBoxSize + kBoxGap;
+    else
+        area.left += kBoxSize + kBoxGap;
+    const UINT format = TextFormat(painter);
+    RECT place = PlaceText(painter, area, format);
+
+    RECT box = painter.client;
+    if (boxAtRight)
+        box.left = box.right - kBoxSize;
+    box.right = box.left + kBoxSize;
+    const DWORD vertical = painter.style & BS_VCENTER;
+    const int height = painter.client.bottom - painter.client.top;
+    box.top += vertical == BS_TOP ? 0 : (vertical == BS_BOTTOM ? height - kBoxSize : (height - kBoxSize) / 2);
+    box.bottom = box.top + kBoxSize;
+    DrawFrameControl(painter.context, &box, DFC_BUTTON, BoxState(painter));
+
+    if (painter.text.empty())
+        return;
+    DrawLabel(painter, place, format);
+    if (painter.Focused()) {
+        InflateRect(&place, 1, 1);
+        RECT focus{};
+        if (IntersectRect(&focus, &place, &painter.client))
+            DrawFocusRect(painter.context, &focus);
+    }
+}
+
+void PaintGroup(const Painter& painter) {
+    const HBRUSH brush = ControlBrush(painter.button, painter.context, WM_CTLCOLORSTATIC);
+    TEXTMETRICA metrics{};
+    GetTextMetricsA(painter.context, &metrics);
+    RECT frame = painter.client;
+    frame.top += metrics.tmHeight / 2 - 1;
+    DrawEdge(painter.context, &frame, EDGE_ETCHED, BF_RECT);
+    if (painter.text.empty())
+        return;
+    RECT area = painter.client;
+    area.left += kCaptionInset;
+    area.right -= kCaptionInset;
+    RECT measured = area;
+    const UINT format = DT_SINGLELINE;
+    DrawTextA(painter.context, painter.text.c_str(), static_cast<int>(painter.text.size()), &measured,
+              format | DT_CALCRECT);
+    const int width = std::max<int>(0, std::min(measured.right - measured.left, area.right - area.left));
+    const DWORD alignment = painter.style & BS_CENTER;
+    if (alignment == BS_CENTER)
+        area.left = (area.left + area.right - width) / 2;
+    else if (alignment == BS_RIGHT)
+        area.left = area.right - width;
+    area.right = area.left + width;
+    area.bottom = area.top + metrics.tmHeight;
+    RECT behind{area.left - kCaptionGap, area.top, area.right + kCaptionGap, area.bottom};
+    FillRect(painter.context, &behind, brush);
+    DrawLabel(painter, area, format);
+}
+
+void AskOwner(const Painter& painter, UINT action) {
+    const HWND parent = GetParent(painter.button);
+    if (!parent)
+        return;
+    ControlBrush(painter.button, painter.context, WM_CTLCOLORBTN);
+    DRAWITEMSTRUCT item{};
+    item.CtlType = ODT_BUTTON;
+    item.CtlID = static_cast<UINT>(GetDlgCtrlID(painter.button));
+    item.itemAction = action;
+    item.itemState = (painter.Pushed() ? ODS_SELECTED : 0U) | (painter.Focused() ? ODS_FOCUS : 0U) |
+                     (painter.Disabled() ? ODS_DISABLED : 0U);
+    item.hwndItem = painter.button;
+    item.hDC = painter.context;
+    item.rcItem = painter.client;
+    SendMessageA(parent, WM_DRAWITEM, item.CtlID, reinterpret_cast<LPARAM>(&item));
+}
+
+}  // namespace
+
+void PaintButton(HWND button, const ButtonData& data, HDC context, UINT action) {
+    Painter painter{button, data, context, ControlStyle(button), {}, ControlText(button)};
+    GetClientRect(button, &painter.client);
+    const int saved = SaveDC(context);
+    if (data.font)
+        SelectObject(context, data.font);
+    if (painter.Kind() == BS_OWNERDRAW)
+        AskOwner(painter, action);
+    else if (painter.Kind() == BS_GROUPBOX)
+        PaintGroup(painter);
+    else if (painter.LooksPush())
+        PaintPush(painter);
+    else
+        PaintBox(painter);
+    RestoreDC(context, saved);
+}
+
+}  // namespace platform::user

@@ -1,0 +1,63 @@
+#include "user/controls/controls.h"
+
+namespace platform::user {
+
+LRESULT NotifyParent(HWND control, UINT code) {
+    const HWND parent = GetParent(control);
+    if (!parent)
+        return 0;
+    return SendMessageA(parent, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(control), code), reinterpret_cast<LPARAM>(control));
+}
+
+HBRUSH ControlBrush(HWND control, HDC context, UINT message) {
+    const auto dc = reinterpret_cast<WPARAM>(context);
+    const auto self = reinterpret_cast<LPARAM>(control);
+    const HWND parent = GetParent(control);
+    LRESULT brush = parent ? SendMessageA(parent, message, dc, self) : 0;
+    if (!brush)
+        brush = DefWindowProcA(parent ? parent : control, message, dc, self);
+    return reinterpret_cast<HBRUSH>(brush);
+}
+
+std::string ControlText(HWND control) try {
+    const UserGuard guard(UserLock());
+    const Window* window = FindWindowObject(control);
+    return window ? window->text : std::string();
+} catch (const std::bad_alloc&) {
+    return {};
+}
+
+void DrawDisabledText(HDC context, const std::string& text, RECT rect, UINT format) {
+    const int length = static_cast<int>(text.size());
+    const int mode = SetBkMode(context, TRANSPARENT);
+    const COLORREF colour = SetTextColor(context, GetSysColor(COLOR_BTNHIGHLIGHT));
+    RECT shadow{rect.left + 1, rect.top + 1, rect.right + 1, rect.bottom + 1};
+    DrawTextA(context, text.c_str(), length, &shadow, format);
+    SetTextColor(context, GetSysColor(COLOR_BTNSHADOW));
+    DrawTextA(context, text.c_str(), length, &rect, format);
+    SetTextColor(context, colour);
+    SetBkMode(context, mode);
+}
+
+void DrawCentredBitmap(HDC context, HBITMAP bitmap, const RECT& rect) {
+    BITMAP info{};
+    if (!bitmap || !GetObjectA(bitmap, sizeof info, &info))
+        return;
+    const HDC memory = CreateCompatibleDC(context);
+    if (!memory)
+        return;
+    const HGDIOBJ previous = SelectObject(memory, bitmap);
+    const int x = (rect.left + rect.right - info.bmWidth) / 2;
+    const int y = (rect.top + rect.bottom - info.bmHeight) / 2;
+    BitBlt(context, x, y, info.bmWidth, info.bmHeight, memory, 0, 0, SRCCOPY);
+    SelectObject(memory, previous);
+    DeleteDC(memory);
+}
+
+void RegisterDialogClasses() {
+    RegisterSystemClass("#32770", DefDlgProcA, CS_SAVEBITS | CS_DBLCLKS, DLGWINDOWEXTRA, IDC_ARROW, nullptr);
+    RegisterSystemClass("button", ButtonProcedure, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 0, IDC_ARROW, nullptr);
+    RegisterSystemClass("static", StaticProcedure, CS_DBLCLKS, 0, IDC_ARROW, nullptr);
+}
+
+}  // namespace platform::user

@@ -1,0 +1,63 @@
+/// @file controls.h
+/// What the predefined controls share: their registration, the data they keep in their windows, and drawing.
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+#include <new>
+#include <string>
+
+#include "user/window.h"
+
+namespace platform::user {
+
+/// Registers "#32770", "button" and "static"; InitialiseClasses calls it.
+void RegisterDialogClasses();
+
+LRESULT CALLBACK ButtonProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+LRESULT CALLBACK StaticProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+/// What a control keeps in its window. Handlers hold it shared: it outlives the window while one of them runs.
+struct ControlData {
+    virtual ~ControlData() = default;
+};
+
+/// @returns a control's data, made on first use; null when the window is dead, belongs to another kind of control or
+/// memory has run out.
+template <class Data>
+std::shared_ptr<Data> ControlOf(HWND handle) {
+    const UserGuard guard(UserLock());
+    Window* window = FindWindowObject(handle);
+    if (!window)
+        return nullptr;
+    if (!window->control) {
+        try {
+            window->control = std::make_shared<Data>();
+        } catch (const std::bad_alloc&) {
+            return nullptr;
+        }
+    }
+    return std::dynamic_pointer_cast<Data>(window->control);
+}
+
+inline DWORD ControlStyle(HWND control) {
+    return static_cast<DWORD>(GetWindowLongA(control, GWL_STYLE));
+}
+
+/// WM_COMMAND to the parent.
+LRESULT NotifyParent(HWND control, UINT code);
+
+/// Asks the parent for the brush of a control's background (WM_CTLCOLOR...), which also sets the context's colours.
+HBRUSH ControlBrush(HWND control, HDC context, UINT message);
+
+/// @returns the window's own text, without asking it. Empty when memory has run out.
+std::string ControlText(HWND control);
+
+/// Text that is disabled looks embossed: a highlight one pixel below and to the right of the shadow.
+void DrawDisabledText(HDC context, const std::string& text, RECT rect, UINT format);
+
+/// Draws a bitmap in its own size, centred in a rectangle.
+void DrawCentredBitmap(HDC context, HBITMAP bitmap, const RECT& rect);
+
+}  // namespace platform::user

@@ -1,0 +1,126 @@
+// The keyboard focus of a thread.
+#include <algorithm>
+
+#include "user/queue.h"
+
+namespace platform::user {
+namespace {
+
+// A window that is disabled or minimised, or lies in such a window, takes no input. Lock held.
+bool CanTakeFocus(const Window* window) {
+    for (const Window* each = window; each != nullptr && each != Desktop(); each = each->parent) {
+        if ((each->style & (WS_DISABLED | WS_MINIMIZE)) != 0) {
+            return false;
+        }
+        if ((each->style & WS_CHILD) == 0) {
+            break;
+        }
+    }
+    return true;
+}
+
+}  // namespace
+
+bool MoveFocus(ThreadState* self, HWND window) {
+    HWND previous = nullptr;
+    {
+        UserGuard guard(UserLock());
+        previous = self->focus;
+        self->focus = window;
+    }
+    if (previous == window) {
+        return true;
+    }
+    if (previous != nullptr && PeekWindow(previous) != nullptr) {
+        SendMessageA(previous, WM_KILLFOCUS, reinterpret_cast<WPARAM>(window), 0);
+    }
+    // The window that lost the focus may have put it elsewhere.
+    if (self->focus != window) {
+        return false;
+    }
+    if (window != nullptr && PeekWindow(window) != nullptr) {
+        SendMessageA(window, WM_SETFOCUS, reinterpret_cast<WPARAM>(previous), 0);
+    }
+    return self->focus == window;
+}
+
+}  // namespace platform::user
+
+using namespace platform::user;
+
+HWND WINAPI GetFocus(VOID) {
+    const ThreadState* self = CurrentThread();
+    return self != nullptr ? self->focus : nullptr;
+}
+
+HWND WINAPI SetFocus(HWND window) {
+    ThreadState* self = CurrentThread();
+    if (self == nullptr) {
+        return nullptr;
+    }
+    const HWND previous = self->focus;
+    if (window == nullptr) {
+        MoveFocus(self, nullptr);
+        return previous;
+    }
+    HWND top = nullptr;
+    bool inBackground = false;
+    {
+        UserGuard guard(UserLock());
+        Window* target = FindWindowObject(window);
+        if (target == nullptr) {
+            return nullptr;
+        }
+        if (target->thread != self) {
+            SetLastError(ERROR_ACCESS_DENIED);
+            return nullptr;
+        }
+        if (!CanTakeFocus(target)) {
+            SetLastError(ERROR_INVALID_PARAMETER);
+            return nullptr;
+        }
+        if (self->focus == window) {
+            return window;
+        }
+        const Window* topLevel = TopLevel(target);
+        top = topLevel != nullptr ? topLevel->handle : nullptr;
+        const ThreadState* foreground = Input().foreground;
+        inBackground = foreground != nullptr && foreground != self;
+    }
+    if (top != self->active && PeekWindow(top) != nullptr && PeekWindow(top)->thread == self) {
+        if (!ActivateOwn(self, top, false, !inBackground) || PeekWindow(window) == nullptr) {
+            return nullptr;
+        }
+    }
+    MoveFocus(self, window);
+    return previous;
+}
+
+BOOL WINAPI GetGUIThreadInfo(DWORD thread, PGUITHREADINFO info) {
+    if (info == nullptr || info->cbSize != sizeof(GUITHREADINFO)) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return FALSE;
+    }
+    UserGuard guard(UserLock());
+    const ThreadState* asked = thread != 0 ? FindThread(thread) : Input().foreground;
+    if (asked == nullptr) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return FALSE;
+    }
+    const auto& caret = asked->caret;
+    info->flags = (caret.window != nullptr && caret.hideCount == 0 ? GUI_CARETBLINKING : 0) |
+                  (asked->moveSize != nullptr ? GUI_INMOVESIZE : 0) |
+                  (asked->menuOwner != nullptr ? GUI_INMENUMODE : 0);
+    info->hwndActive = asked->active;
+    info->hwndFocus = asked->focus;
+    info->hwndCapture = asked->capture;
+    info->hwndMenuOwner = asked->menuOwner;
+    info->hwndMoveSize = asked->moveSize;
+    info->hwndCaret = caret.window;
+    info->rcCaret = {};
+    if (caret.window != nullptr) {
+        info->rcCaret = {caret.position.x, caret.position.y, caret.position.x + caret.width,
+                         caret.position.y + caret.height};
+    }
+    return TRUE;
+}

@@ -1,0 +1,98 @@
+// Asking for the state of keys, and turning key messages into characters.
+#include <algorithm>
+#include <cstring>
+
+#include "user/queue.h"
+
+namespace platform::user {
+namespace {
+
+// The bytes of a character in the code page in use; 0 when it has none there.
+int ToBytes(unsigned unicode, char (&bytes)[4]) {
+    if (unicode < 0x80) {
+        bytes[0] = static_cast<char>(unicode);
+        return 1;
+    }
+    WCHAR wide[2] = {static_cast<WCHAR>(unicode), 0};
+    int units = 1;
+    if (unicode > 0xFFFF) {
+        wide[0] = static_cast<WCHAR>(0xD800 + ((unicode - 0x10000) >> 10));
+        wide[1] = static_cast<WCHAR>(0xDC00 + ((unicode - 0x10000) & 0x3FF));
+        units = 2;
+    }
+    return WideCharToMultiByte(CP_ACP, 0, wide, units, bytes, sizeof bytes, nullptr, nullptr);
+}
+
+}  // namespace
+}  // namespace platform::user
+
+using namespace platform::user;
+
+BOOL WINAPI TranslateMessage(const MSG* message) {
+    ThreadState* self = CurrentThread();
+    if (self == nullptr || message == nullptr || message->message < WM_KEYDOWN || message->message > WM_SYSKEYUP ||
+        message->message == WM_CHAR || message->message == WM_DEADCHAR) {
+        return FALSE;
+    }
+    if (message->message != WM_KEYDOWN && message->message != WM_SYSKEYDOWN) {
+        return TRUE;
+    }
+    const UINT number = message->message == WM_KEYDOWN ? WM_CHAR : WM_SYSCHAR;
+    const auto& last = self->lastKey;
+    char bytes[4] = {};
+    int count = 0;
+    if (last.unicode != 0 && last.key == message->wParam && last.data == message->lParam) {
+        count = ToBytes(last.unicode, bytes);
+    } else {
+        WORD character = 0;
+        const auto key = static_cast<UINT>(message->wParam);
+        count = ToAscii(key, HIWORD(message->lParam) & 0xFF, self->keyState, &character, 0);
+        bytes[0] = static_cast<char>(LOBYTE(character));
+    }
+    for (int i = 0; i < count; ++i) {
+        PostMessageA(message->hwnd, number, static_cast<unsigned char>(bytes[i]), message->lParam);
+    }
+    return TRUE;
+}
+
+SHORT WINAPI GetKeyState(int key) {
+    const ThreadState* self = CurrentThread();
+    if (self == nullptr || key < 0 || key > 0xFF) {
+        return 0;
+    }
+    const BYTE state = self->keyState[key];
+    return static_cast<SHORT>((state & 0x80 ? 0xFF80 : 0) | (state & 0x01));
+}
+
+SHORT WINAPI GetAsyncKeyState(int key) {
+    if (key < 0 || key > 0xFF) {
+        return 0;
+    }
+    UserGuard guard(UserLock());
+    InputState& input = Input();
+    const bool down = (input.keys[key] & 0x80) != 0;
+    const bool pressed = input.pressedSince[key];
+    input.pressedSince[key] = false;
+    return static_cast<SHORT>((down ? 0x8000 : 0) | (pressed ? 1 : 0));
+}
+
+BOOL WINAPI GetKeyboardState(PBYTE state) {
+    const ThreadState* self = CurrentThread();
+    if (self == nullptr || state == nullptr) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return FALSE;
+    }
+    std::memcpy(state, self->keyState, sizeof self->keyState);
+    return TRUE;
+}
+
+BOOL WINAPI SetKeyboardState(LPBYTE state) {
+    ThreadState* self = CurrentThread();
+    if (self == nullptr || state == nullptr) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return FALSE;
+    }
+    UserGuard guard(UserLock());
+    std::memcpy(self->keyState, state, sizeof self->keyState);
+    return TRUE;
+}

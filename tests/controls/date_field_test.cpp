@@ -1,0 +1,454 @@
+// The date field as a window: value, keys, mouse, steps, caret, picture and settings.
+#include <cvutil32/datectrl.h>
+
+#include "tests/support/leaks.h"
+#include "tests/support/profile.h"
+#include "tests/support/window.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <string>
+
+namespace {
+
+using testing_support::IntlSetting;
+using testing_support::LeakCheck;
+using testing_support::Message;
+using testing_support::Picture;
+using testing_support::PictureOf;
+using testing_support::TestWindow;
+
+constexpr int kWidth = 110;
+constexpr int kHeight = 26;
+
+class DateField : public testing::Test {
+  protected:
+    DateField() {
+        Create();
+    }
+    ~DateField() override {
+        host_.Destroy();
+    }
+
+    void Create() {
+        field_ = CreateWindowExA(0, DATECTRL_CLASSNAME, "", WS_CHILD | WS_VISIBLE, 10, 10, kWidth, kHeight, host_,
+                                 reinterpret_cast<HMENU>(static_cast<INT_PTR>(1)), GetModuleHandleA(nullptr), nullptr);
+        ASSERT_NE(nullptr, field_);
+    }
+
+    void Set(int year, int month, int day) {
+        SYSTEMTIME date = {};
+        date.wYear = static_cast<WORD>(year);
+        date.wMonth = static_cast<WORD>(month);
+        date.wDay = static_cast<WORD>(day);
+        date.wHour = 11;
+        ASSERT_TRUE(DATECTRL_SetDate(field_, &date, TRUE));
+    }
+
+    std::string Value() const {
+        SYSTEMTIME date;
+        std::memset(&date, 0x55, sizeof date);
+        if (!DATECTRL_GetDate(field_, &date)) {
+            return date.wYear == 0x5555 ? "none" : "none, but written";
+        }
+        if (date.wHour || date.wMinute || date.wSecond || date.wMilliseconds || date.wDayOfWeek) {
+            return "rest not cleared";
+        }
+        char text[40];
+        wsprintfA(text, "%d-%d-%d", date.wYear, date.wMonth, date.wDay);
+        return text;
+    }
+
+    void Focus() {
+        SetFocus(field_);
+        ASSERT_EQ(field_, GetFocus());
+    }
+
+    void Key(WPARAM key) const {
+        SendMessageA(field_, WM_KEYDOWN, key, 1);
+    }
+    void Type(char const* characters) const {
+        for (; *characters; ++characters) {
+            SendMessageA(field_, WM_CHAR, static_cast<unsigned char>(*characters), 1);
+        }
+    }
+    void Scroll(WORD code) const {
+        SendMessageA(field_, WM_VSCROLL, MAKEWPARAM(code, 0), 0);
+    }
+
+    void MoveTo(int position) const {
+        Key(VK_HOME);
+        for (int i = 0; i < position; ++i) {
+            Key(VK_RIGHT);
+        }
+    }
+
+    static POINT Caret() {
+        POINT position = {-1, -1};
+        GetCaretPos(&position);
+        return position;
+    }
+
+    int Extent(char const* text, int count) const {
+        HDC const dc = GetDC(field_);
+        SIZE size = {};
+        GetTextExtentPoint32A(dc, text, count, &size);
+        ReleaseDC(field_, dc);
+        return size.cx;
+    }
+
+    /// The position whose place the caret has, given the text that is shown; -1 for none.
+    int CaretIn(char const* text) const {
+        int const x = Caret().x;
+        for (int position = 0; position < 8; ++position) {
+            if (Extent(text, position) == x) {
+                return position;
+            }
+        }
+        return -1;
+    }
+
+    /// What a field with this text must look like on the host's answer to WM_CTLCOLOREDIT, or on the window colour.
+    Picture Expected(char const* text, COLORREF background) const {
+        HDC const dc = GetDC(field_);
+        HDC const memory = CreateCompatibleDC(dc);
+        HBITMAP const bitmap = CreateCompatibleBitmap(dc, kWidth, kHeight);
+        HGDIOBJ const former = SelectObject(memory, bitmap);
+        HBRUSH const brush = CreateSolidBrush(background);
+        RECT area = {0, 0, kWidth, kHeight};
+        FillRect(memory, &area, brush);
+        DeleteObject(brush);
+        area.left = area.top = 1;
+        DrawTextA(memory, text, -1, &area, DT_LEFT | DT_TOP);
+        Picture const picture = PictureOf(memory, kWidth, kHeight);
+        SelectObject(memory, former);
+        DeleteObject(bitmap);
+        DeleteDC(memory);
+        ReleaseDC(field_, dc);
+        return picture;
+    }
+
+    IntlSetting order_{"iDate", "0"};
+    IntlSetting separator_{"sDate", "/"};
+    TestWindow host_;
+    HWND field_ = nullptr;
+};
+
+std::string Today() {
+    SYSTEMTIME now;
+    GetLocalTime(&now);
+    char text[40];
+    wsprintfA(text, "%d-%d-%d", now.wYear, now.wMonth, now.wDay);
+    return text;
+}
+
+// --- value
+
+TEST_F(DateField, IsEmptyUntilItGetsADate) {
+    EXPECT_EQ("none", Value());
+    EXPECT_NE(0, GetWindowLongPtrA(field_, GWL_STYLE) & WS_TABSTOP);
+    EXPECT_EQ(DLGC_WANTARROWS | DLGC_WANTCHARS, SendMessageA(field_, WM_GETDLGCODE, 0, 0));
+    Set(1995, 5, 6);
+    EXPECT_EQ("1995-5-6", Value());
+    EXPECT_TRUE(DATECTRL_SetDate(field_, nullptr, FALSE));
+    EXPECT_EQ(Today(), Value());
+}
+
+TEST_F(DateField, InvalidDatesAreRefused) {
+    Set(1995, 5, 6);
+    SYSTEMTIME date = {};
+    date.wYear = 1995;
+    date.wMonth = 2;
+    date.wDay = 29;
+    EXPECT_FALSE(DATECTRL_SetDate(field_, &date, TRUE));
+    EXPECT_EQ("1995-5-6", Value());
+}
+
+TEST_F(DateField, BadWindowsAreRefused) {
+    SYSTEMTIME date = {};
+    EXPECT_FALSE(DATECTRL_SetDate(nullptr, nullptr, TRUE));
+    EXPECT_FALSE(DATECTRL_GetDate(nullptr, &date));
+    Set(1995, 5, 6);
+    EXPECT_FALSE(DATECTRL_GetDate(field_, nullptr));
+    HWND const plain = CreateWindowExA(0, "static", "", WS_CHILD, 0, 0, 5, 5, host_, nullptr, nullptr, nullptr);
+    EXPECT_FALSE(DATECTRL_SetDate(plain, nullptr, TRUE));
+    EXPECT_FALSE(DATECTRL_GetDate(plain, &date));
+    DestroyWindow(field_);
+    EXPECT_FALSE(DATECTRL_SetDate(field_, nullptr, TRUE));
+    EXPECT_FALSE(DATECTRL_GetDate(field_, &date));
+}
+
+TEST_F(DateField, FirstInputOfAnEmptyFieldShowsTodayAndIsDropped) {
+    Type("x");
+    EXPECT_EQ(Today(), Value());
+    DestroyWindow(field_);
+    Create();
+    Scroll(SB_LINEDOWN);
+    EXPECT_EQ(Today(), Value());
+    DestroyWindow(field_);
+    Create();
+    Key(VK_RIGHT);
+    EXPECT_EQ("none", Value()) << "a key that only moves the caret is no input";
+}
+
+// --- caret and keys
+
+TEST_F(DateField, KeysMoveTheCaret) {
+    Set(1995, 5, 6);
+    Focus();
+    EXPECT_EQ(0, CaretIn("05/06/95"));
+    EXPECT_EQ(kHeight - 5, Caret().y);
+    Key(VK_LEFT);
+    EXPECT_EQ(0, CaretIn("05/06/95"));
+    Key(VK_RIGHT);
+    Key(VK_RIGHT);
+    EXPECT_EQ(2, CaretIn("05/06/95")) << "the caret may stand on a separator";
+    Key(VK_BACK);
+    EXPECT_EQ(1, CaretIn("05/06/95"));
+    Key(VK_END);
+    EXPECT_EQ(7, CaretIn("05/06/95"));
+    Key(VK_RIGHT);
+    EXPECT_EQ(7, CaretIn("05/06/95"));
+    Key(VK_UP);
+    Key(VK_DOWN);
+    EXPECT_EQ(7, CaretIn("05/06/95"));
+    Key(VK_HOME);
+    EXPECT_EQ(0, CaretIn("05/06/95"));
+    EXPECT_EQ("1995-5-6", Value());
+}
+
+TEST_F(DateField, CaretKeepsItsPlaceWithoutFocusAndFollowsTheSize) {
+    Set(1995, 5, 6);
+    Focus();
+    MoveTo(4);
+    SetFocus(host_);
+    Key(VK_HOME);
+    SetFocus(field_);
+    EXPECT_EQ(4, CaretIn("05/06/95")) << "keys move the caret of the focus window only";
+    SetWindowPos(field_, nullptr, 0, 0, kWidth, kHeight + 10, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_EQ(kHeight + 10 - 5, Caret().y);
+    EXPECT_EQ(4, CaretIn("05/06/95"));
+}
+
+TEST_F(DateField, ClickPutsTheCaretUnderThePointer) {
+    Set(1995, 5, 6);
+    for (int position = 0; position < 8; ++position) {
+        int const x = Extent("05/06/95", position);
+        SendMessageA(field_, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x + 1, 5));
+        SendMessageA(field_, WM_LBUTTONUP, 0, MAKELPARAM(x + 1, 5));
+        EXPECT_EQ(field_, GetFocus());
+        EXPECT_EQ(position, CaretIn("05/06/95"));
+    }
+    for (auto const& [x, position] : {std::pair{-20, 0}, {kWidth - 1, 7}}) {
+        SendMessageA(field_, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, 5));
+        SendMessageA(field_, WM_LBUTTONUP, 0, MAKELPARAM(x, 5));
+        EXPECT_EQ(position, CaretIn("05/06/95"));
+    }
+    SendMessageA(field_, WM_LBUTTONUP, 0, MAKELPARAM(0, 5));
+    EXPECT_EQ(7, CaretIn("05/06/95")) << "a release without a press";
+}
+
+// --- typing
+
+TEST_F(DateField, TypingReplacesDigitsAndSkipsSeparators) {
+    Set(1995, 5, 5);
+    Focus();
+    Type("1");
+    EXPECT_EQ("1995-12-5", Value()) << "15 is a little too large";
+    EXPECT_EQ(1, CaretIn("12/05/95"));
+    Type("1");
+    EXPECT_EQ("1995-11-5", Value());
+    EXPECT_EQ(3, CaretIn("11/05/95"));
+    Type("2906");
+    EXPECT_EQ("2006-11-29", Value());
+    EXPECT_EQ(7, CaretIn("11/29/06")) << "behind the last digit there is nothing";
+    Type("7");
+    EXPECT_EQ("2007-11-29", Value());
+}
+
+TEST_F(DateField, TensDigitThatBecomesTheFieldJumpsOn) {
+    Set(1995, 5, 5);
+    Focus();
+    Type("3");
+    EXPECT_EQ("1995-3-5", Value());
+    EXPECT_EQ(3, CaretIn("03/05/95"));
+    Type("9");
+    EXPECT_EQ("1995-3-9", Value());
+    EXPECT_EQ(6, CaretIn("03/09/95"));
+}
+
+TEST_F(DateField, ImpossibleKeystrokesAreDropped) {
+    Set(1995, 10, 10);
+    Focus();
+    Type("0");
+    EXPECT_EQ("1995-10-10", Value()) << "month 0";
+    EXPECT_EQ(0, CaretIn("10/10/95"));
+    MoveTo(4);
+    Type("a /\xB9");
+    EXPECT_EQ("1995-10-10", Value());
+    EXPECT_EQ(4, CaretIn("10/10/95"));
+    for (int separator : {2, 5}) {
+        MoveTo(separator);
+        Type("1");
+        Scroll(SB_LINEUP);
+        EXPECT_EQ("1995-10-10", Value());
+        EXPECT_EQ(separator, CaretIn("10/10/95"));
+    }
+}
+
+// --- steps
+
+TEST_F(DateField, ScrollMessagesStepTheFieldAboveTheCaret) {
+    Set(1995, 12, 31);
+    Focus();
+    MoveTo(3);
+    Scroll(SB_LINEUP);
+    EXPECT_EQ("1996-1-1", Value());
+    Scroll(SB_LINEDOWN);
+    EXPECT_EQ("1995-12-31", Value());
+    MoveTo(6);
+    Scroll(SB_LINEUP);
+    EXPECT_EQ("1996-12-31", Value());
+    MoveTo(1);
+    Scroll(SB_LINEDOWN);
+    EXPECT_EQ("1996-11-30", Value());
+    Scroll(SB_PAGEUP);
+    Scroll(SB_ENDSCROLL);
+    EXPECT_EQ("1996-11-30", Value());
+}
+
+TEST_F(DateField, StepOutOfTheCalendarStaysUntilADigitRepairsIt) {
+    Set(1995, 1, 31);
+    Focus();
+    SetFocus(host_);
+    Picture const before = PictureOf(field_);
+    SetFocus(field_);
+    Scroll(SB_LINEUP);
+    EXPECT_EQ("none", Value());
+    Scroll(SB_LINEUP);
+    Scroll(SB_LINEDOWN);
+    EXPECT_EQ("none", Value());
+    SetFocus(host_);
+    EXPECT_EQ(before, PictureOf(field_)) << "nothing is drawn over the old picture";
+    SetFocus(field_);
+    Type("0");
+    EXPECT_EQ("1995-2-28", Value());
+}
+
+// --- picture
+
+TEST_F(DateField, PaintsItsTextOnTheWindowColour) {
+    UpdateWindow(field_);
+    COLORREF const background = GetSysColor(COLOR_WINDOW);
+    EXPECT_EQ(Expected("", background), PictureOf(field_)) << "an empty field";
+    Set(1995, 5, 6);
+    EXPECT_EQ(Expected("05/06/95", background), PictureOf(field_));
+    EXPECT_NE(Expected("", background), PictureOf(field_));
+}
+
+TEST_F(DateField, AsksItsParentForTheBackground) {
+    HBRUSH const brush = CreateSolidBrush(RGB(0, 255, 0));
+    host_.answer = [brush](Message const& message) -> std::optional<LRESULT> {
+        if (message.id != WM_CTLCOLOREDIT) {
+            return std::nullopt;
+        }
+        SetBkColor(reinterpret_cast<HDC>(message.wParam), RGB(0, 255, 0));
+        return reinterpret_cast<LRESULT>(brush);
+    };
+    Set(1995, 5, 6);
+    Picture const picture = PictureOf(field_);
+    EXPECT_EQ(RGB(0, 255, 0), picture.At(kWidth - 1, kHeight - 1));
+    EXPECT_EQ(RGB(0, 255, 0), picture.At(0, 0));
+    host_.Forget();
+    HDC const dc = GetDC(field_);
+    EXPECT_NE(0, SendMessageA(field_, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc), 0));
+    ReleaseDC(field_, dc);
+    auto const asked = host_.Received(WM_CTLCOLOREDIT);
+    ASSERT_EQ(1u, asked.size());
+    EXPECT_EQ(reinterpret_cast<WPARAM>(dc), asked[0].wParam);
+    EXPECT_EQ(reinterpret_cast<LPARAM>(field_), asked[0].lParam);
+    host_.answer = nullptr;
+    DeleteObject(brush);
+}
+
+TEST_F(DateField, RepaintsOnlyWhenAsked) {
+    Set(1995, 5, 6);
+    host_.Forget();
+    DATECTRL_SetDate(field_, nullptr, FALSE);
+    testing_support::PumpMessages();
+    EXPECT_TRUE(host_.Received(WM_CTLCOLOREDIT).empty());
+    DATECTRL_SetDate(field_, nullptr, TRUE);
+    EXPECT_FALSE(host_.Received(WM_CTLCOLOREDIT).empty());
+}
+
+TEST_F(DateField, UsesItsFontForTextAndCaret) {
+    Set(1995, 5, 6);
+    Focus();
+    MoveTo(4);
+    auto const font = static_cast<HFONT>(GetStockObject(ANSI_FIXED_FONT));
+    SendMessageA(field_, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+    HDC const dc = GetDC(field_);
+    HGDIOBJ const former = SelectObject(dc, font);
+    SIZE size = {};
+    GetTextExtentPoint32A(dc, "05/0", 4, &size);
+    SelectObject(dc, former);
+    ReleaseDC(field_, dc);
+    EXPECT_EQ(size.cx, Caret().x);
+}
+
+// --- settings
+
+TEST_F(DateField, NewSettingsCountForFieldsAtOnceAndForTheTextLater) {
+    Set(1995, 5, 6);
+    Focus();
+    MoveTo(0);
+    order_.Change("1");
+    SendMessageA(field_, WM_WININICHANGE, 0, reinterpret_cast<LPARAM>("Fonts"));
+    SendMessageA(field_, WM_WININICHANGE, 0, 0);
+    Scroll(SB_LINEUP);
+    EXPECT_EQ("1995-6-6", Value()) << "another section";
+    SetFocus(host_);
+    COLORREF const background = GetSysColor(COLOR_WINDOW);
+    SendMessageA(field_, WM_WININICHANGE, 0, reinterpret_cast<LPARAM>("INTL"));
+    EXPECT_EQ(Expected("06/06/95", background), PictureOf(field_));
+    SendMessageA(field_, WM_VSCROLL, SB_LINEUP, 0);
+    EXPECT_EQ("1995-6-7", Value()) << "the day lies first now";
+    EXPECT_EQ(Expected("07/06/95", background), PictureOf(field_));
+}
+
+TEST_F(DateField, WithoutASeparatorOnlyTheFirstFieldIsShown) {
+    separator_.Change("");
+    SendMessageA(field_, WM_WININICHANGE, 0, reinterpret_cast<LPARAM>("intl"));
+    Set(1995, 5, 6);
+    EXPECT_EQ(Expected("05", GetSysColor(COLOR_WINDOW)), PictureOf(field_));
+}
+
+TEST_F(DateField, WithoutAnOrderSettingFails) {
+    order_.Change(nullptr);
+    SendMessageA(field_, WM_WININICHANGE, 0, reinterpret_cast<LPARAM>("Intl"));
+    EXPECT_FALSE(DATECTRL_SetDate(field_, nullptr, TRUE)) << "there is no text for it";
+}
+
+// --- lifetime
+
+TEST_F(DateField, LeavesNothingBehind) {
+    Set(1995, 5, 6);
+    Focus();
+    Type("1");
+    DestroyWindow(field_);
+    Create();
+    Set(1995, 5, 6);
+    Focus();
+    DestroyWindow(field_);
+    LeakCheck const leaks;
+    for (int i = 0; i < 20; ++i) {
+        Create();
+        Set(1995, 5, 6);
+        Focus();
+        Type("1");
+        DestroyWindow(field_);
+    }
+}
+
+}  // namespace

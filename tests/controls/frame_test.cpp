@@ -1,0 +1,163 @@
+// What all controls share, shown by two small kinds of the tests' own: a superclass of the button with a data block and
+// a validity property, and a parent subclass that answers one message of the parent.
+#include <cvutil32.h>
+
+#include "controls/frame/classes.h"
+#include "controls/frame/parentsubclass.h"
+#include "controls/frame/validity.h"
+#include "controls/frame/windowdata.h"
+#include "tests/support/leaks.h"
+#include "tests/support/window.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using testing_support::Message;
+using testing_support::TestWindow;
+
+constexpr char kName[] = "CvTestSuperclass";
+constexpr UINT kQuestion = WM_USER + 77;
+constexpr LRESULT kAnswer = 4711;
+
+struct Record {
+    int presses;
+};
+
+frame::BaseClass g_base;
+constexpr frame::ValidityProperty kValid("CvTest_IsValid");
+
+LRESULT CALLBACK ParentProcedure(HWND parent, UINT message, WPARAM wParam, LPARAM lParam);
+constexpr frame::ParentSubclass kParents("CvTest_ParentWndProc", ParentProcedure);
+
+LRESULT CALLBACK ParentProcedure(HWND parent, UINT message, WPARAM wParam, LPARAM lParam) {
+    return message == kQuestion ? kAnswer : kParents.Forward(parent, message, wParam, lParam);
+}
+
+LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    frame::DataSlot<Record> const slot(g_base.extraBytes);
+    switch (message) {
+        case WM_NCCREATE:
+            slot.Put(window, globalblock::Make<Record>());
+            kValid.Set(window);
+            kParents.Install(window);
+            break;
+        case WM_NCDESTROY:
+            kValid.Remove(window);
+            slot.Take(window);
+            break;
+        case BM_CLICK:
+            ++slot.Get(window)->presses;
+            break;
+        default:
+            break;
+    }
+    return g_base.Call(window, message, wParam, lParam);
+}
+
+HWND CreateSample(HWND parent) {
+    EXPECT_TRUE(frame::RegisterSuperclass(GetModuleHandleA(nullptr), kName, "button", Procedure, g_base));
+    HWND const sample =
+        CreateWindowExA(0, kName, "sample", WS_CHILD | WS_VISIBLE, 0, 0, 60, 20, parent,
+                        reinterpret_cast<HMENU>(static_cast<INT_PTR>(7)), GetModuleHandleA(nullptr), nullptr);
+    EXPECT_NE(nullptr, sample);
+    return sample;
+}
+
+WNDPROC ProcedureOf(HWND window) {
+    return reinterpret_cast<WNDPROC>(GetWindowLongPtrA(window, GWLP_WNDPROC));
+}
+
+TEST(Frame, SuperclassAddsOneSlotBehindItsBase) {
+    TestWindow const parent;
+    CreateSample(parent);
+    WNDCLASSA button = {};
+    WNDCLASSA super = {};
+    ASSERT_TRUE(GetClassInfoA(nullptr, "button", &button));
+    ASSERT_TRUE(GetClassInfoA(GetModuleHandleA(nullptr), kName, &super));
+    EXPECT_EQ(button.cbWndExtra, g_base.extraBytes);
+    EXPECT_EQ(button.cbWndExtra + static_cast<int>(sizeof(LONG_PTR)), super.cbWndExtra);
+    EXPECT_EQ(button.style | CS_GLOBALCLASS, super.style);
+    EXPECT_FALSE(frame::RegisterSuperclass(nullptr, kName, "button", Procedure, g_base));
+    frame::BaseClass untouched = {};
+    EXPECT_FALSE(
+        frame::RegisterSuperclass(GetModuleHandleA(nullptr), "CvTestNoSuch", "CvTestNoBase", Procedure, untouched));
+    EXPECT_EQ(nullptr, untouched.procedure);
+}
+
+TEST(Frame, SuperclassedWindowWorksAsItsBaseAndHasItsData) {
+    TestWindow parent;
+    HWND const sample = CreateSample(parent);
+    EXPECT_TRUE(kValid.IsSet(sample));
+    EXPECT_FALSE(kValid.IsSet(parent));
+    parent.Forget();
+    SendMessageA(sample, BM_CLICK, 0, 0);
+    ASSERT_EQ(1u, parent.Received(WM_COMMAND).size()) << "the base class's own behaviour";
+    EXPECT_EQ(1, frame::DataSlot<Record>(g_base.extraBytes).Get(sample)->presses);
+    testing_support::LeakCheck const leaks;
+    DestroyWindow(CreateSample(parent));
+}
+
+TEST(Frame, ParentIsSubclassedOnceAndRestored) {
+    TestWindow parent;
+    WNDPROC const own = ProcedureOf(parent);
+    CreateSample(parent);
+    EXPECT_EQ(ProcedureOf(parent), &ParentProcedure);
+    HANDLE const saved = GetPropA(parent, "CvTest_ParentWndProc");
+    CreateSample(parent);
+    EXPECT_EQ(saved, GetPropA(parent, "CvTest_ParentWndProc")) << "one subclass for all controls of the kind";
+    EXPECT_EQ(kAnswer, SendMessageA(parent, kQuestion, 0, 0));
+    SendMessageA(parent, WM_USER + 1, 2, 3);
+    ASSERT_EQ(1u, parent.Received(WM_USER + 1).size()) << "everything else is forwarded";
+
+    WNDPROC during = nullptr;
+    bool property = false;
+    HWND const handle = parent;
+    parent.answer = [&](Message const& message) -> std::optional<LRESULT> {
+        if (message.id == WM_NCDESTROY) {
+            during = ProcedureOf(handle);
+            property = GetPropA(handle, "CvTest_ParentWndProc") != nullptr;
+        }
+        return std::nullopt;
+    };
+    parent.Destroy();
+    EXPECT_EQ(&ParentProcedure, during) << "the message is forwarded before the subclass ends";
+    EXPECT_TRUE(property);
+    EXPECT_EQ(1u, parent.Received(WM_NCDESTROY).size());
+    EXPECT_NE(own, &ParentProcedure);
+}
+
+WNDPROC g_below;
+
+LRESULT CALLBACK OnTop(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    LRESULT const result = CallWindowProcA(g_below, window, message, wParam, lParam);
+    if (message == WM_NCDESTROY) {
+        EXPECT_EQ(ProcedureOf(window), &OnTop) << "a later subclass is left in place";
+        EXPECT_NE(nullptr, GetPropA(window, "CvTest_ParentWndProc"));
+        RemovePropA(window, "CvTest_ParentWndProc");
+    }
+    return result;
+}
+
+TEST(Frame, LaterSubclassOfTheParentIsLeftInPlace) {
+    TestWindow parent;
+    CreateSample(parent);
+    g_below = reinterpret_cast<WNDPROC>(SetWindowLongPtrA(parent, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(OnTop)));
+    EXPECT_EQ(kAnswer, SendMessageA(parent, kQuestion, 0, 0));
+    parent.Destroy();
+    EXPECT_EQ(1u, parent.Received(WM_NCDESTROY).size());
+}
+
+TEST(Frame, OwnClassIsFoundByEveryModule) {
+    frame::OwnClass const own = {"CvTestOwn", CS_DBLCLKS, DefWindowProcA, 8, IDC_ARROW, nullptr};
+    EXPECT_FALSE(frame::RegisterOwnClass(nullptr, own));
+    ASSERT_TRUE(frame::RegisterOwnClass(UTIL_GetModuleInstance(), own));
+    EXPECT_TRUE(frame::RegisterOwnClass(UTIL_GetModuleInstance(), own)) << "already there";
+    WNDCLASSA record = {};
+    ASSERT_TRUE(GetClassInfoA(GetModuleHandleA(nullptr), "CvTestOwn", &record));
+    EXPECT_EQ(static_cast<UINT>(CS_DBLCLKS | CS_GLOBALCLASS), record.style);
+    EXPECT_EQ(8, record.cbWndExtra);
+    EXPECT_TRUE(UnregisterClassA("CvTestOwn", UTIL_GetModuleInstance()));
+}
+
+}  // namespace

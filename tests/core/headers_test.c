@@ -1,0 +1,17 @@
+/* The flat families' headers serve C programs too: this file only has to compile and link. */
+#include <cvutil32.h>
+
+#include <cvutil32/datectrl.h>
+#include <cvutil32/scroll.h>
+#include <cvutil32/util.h>
+
+BOOL HeadersServeC(void);
+
+BOOL HeadersServeC(void) {
+    SYSTEMTIME date = {0};
+    date.wYear = 1995;
+    date.wMonth = 12;
+    date.wDay = 31;
+    return DATECTRL_IncrementDate(&date, DATECTRL_DAY) && date.wYear == 1996 && UTIL_GetModuleInstance() != NULL &&
+           SCROLL_SetAssociateWindow(NULL, NULL) == NULL;
+}

@@ -1,0 +1,120 @@
+// A window that writes down what it hears, for tests of messages and input.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <vector>
+
+namespace tests {
+
+struct Heard {
+    HWND window;
+    UINT message;
+    WPARAM wParam;
+    LPARAM lParam;
+};
+
+class Recorder {
+  public:
+    static constexpr const char* kClass = "MessageRecorder";
+
+    static Recorder& Get() {
+        static Recorder recorder;
+        return recorder;
+    }
+
+    /// What was heard since the last Clear, by all windows of the class.
+    std::vector<Heard> heard;
+
+    /// Asked first; a true result means that the message is answered.
+    std::function<bool(const Heard&, LRESULT*)> answer;
+
+    void Clear() {
+        heard.clear();
+    }
+
+    void Reset() {
+        heard.clear();
+        answer = nullptr;
+    }
+
+    std::vector<UINT> Numbers(const std::vector<UINT>& wanted, HWND window = nullptr) const {
+        std::vector<UINT> numbers;
+        for (const Heard& each : heard) {
+            for (UINT message : wanted) {
+                if (each.message == message && (window == nullptr || window == each.window)) {
+                    numbers.push_back(message);
+                }
+            }
+        }
+        return numbers;
+    }
+
+    const Heard* Find(UINT message, HWND window = nullptr) const {
+        for (const Heard& each : heard) {
+            if (each.message == message && (window == nullptr || window == each.window)) {
+                return &each;
+            }
+        }
+        return nullptr;
+    }
+
+    int Count(UINT message) const {
+        return static_cast<int>(Numbers({message}).size());
+    }
+
+    HWND Make(DWORD style, int x, int y, int width, int height, HWND parent = nullptr) {
+        Register();
+        return CreateWindowExA(0, kClass, "", style, x, y, width, height, parent, nullptr, nullptr, nullptr);
+    }
+
+  private:
+    static void Register() {
+        WNDCLASSA windowClass{};
+        windowClass.style = CS_DBLCLKS;
+        windowClass.lpfnWndProc = Procedure;
+        windowClass.hCursor = LoadCursorA(nullptr, IDC_ARROW);
+        windowClass.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
+        windowClass.lpszClassName = kClass;
+        RegisterClassA(&windowClass);
+    }
+
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        const Heard heard{window, message, wParam, lParam};
+        LRESULT result = 0;
+        Get().heard.push_back(heard);
+        const auto answer = Get().answer;
+        if (answer && answer(heard, &result)) {
+            return result;
+        }
+        return DefWindowProcA(window, message, wParam, lParam);
+    }
+};
+
+/// Takes and delivers messages until none is left.
+inline void Pump() {
+    MSG message;
+    while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+        TranslateMessage(&message);
+        DispatchMessageA(&message);
+    }
+}
+
+/// Pumps until something holds, for as long as two seconds: real input may take its time.
+inline bool PumpUntil(const std::function<bool()>& holds) {
+    const DWORD start = GetTickCount();
+    for (;;) {
+        Pump();
+        if (holds()) {
+            return true;
+        }
+        const DWORD spent = GetTickCount() - start;
+        if (spent >= 2000) {
+            return false;
+        }
+        MsgWaitForMultipleObjects(0, nullptr, FALSE, 20, QS_ALLINPUT);
+    }
+}
+
+}  // namespace tests
