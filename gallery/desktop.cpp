@@ -18,7 +18,7 @@ std::filesystem::path StateFolder() {
         return home;
     }
     for (const char* variable : {"XDG_DATA_HOME", "LOCALAPPDATA"}) {
-        if (const auto data = Folder(variable); !data.empty()) {
+        if (const auto data = Folder(variable); data.is_absolute()) {
             return data / "cvutil32";
         }
     }

@@ -21,8 +21,10 @@ Surface Bitmap::View() const {
     surface.height = height;
     surface.bitsPerPixel = bitsPerPixel;
     surface.monochrome = bitsPerPixel == 1 && !section;
-    surface.palette = palette ? palette.get() : DefaultPalette(bitsPerPixel);
-    surface.paletteSize = palette ? paletteSize : 1 << bitsPerPixel;
+    if (bitsPerPixel <= 8) {
+        surface.palette = palette ? palette.get() : DefaultPalette(bitsPerPixel);
+        surface.paletteSize = palette ? paletteSize : 1 << bitsPerPixel;
+    }
     const auto stride = static_cast<std::ptrdiff_t>(rowBytes);
     surface.bits = topDown || !bits ? bits : bits + stride * (height - 1);
     surface.stride = topDown ? stride : -stride;

@@ -119,14 +119,17 @@ bool TakeQuit(ThreadState* self, bool remove, MSG* message) {
     return true;
 }
 
-bool TakePaint(ThreadState* self, const Filter& filter, MSG* message) {
+bool TakePaint(ThreadState* self, const Filter& filter, bool remove, MSG* message) {
     if (self->paintWindows <= 0 || !filter.Wants(WM_PAINT) || filter.window == Filter::kThreadOnly) {
         return false;
     }
     Window* within = filter.window != nullptr ? PeekWindow(filter.window) : nullptr;
-    const Window* window = NextPaintWindow(self, within);
+    Window* window = NextPaintWindow(self, within);
     if (window == nullptr) {
         return false;
+    }
+    if (remove) {
+        TakePaintRequest(window);
     }
     *message = {window->handle, WM_PAINT, 0, 0, base::TickCount(), Input().cursor};
     return true;
@@ -173,7 +176,7 @@ bool Take(ThreadState* self, UserHold& hold, const Filter& filter, bool remove, 
     if (!self->input.empty() && TakeInput(self, hold, filter, remove, message)) {
         return true;
     }
-    if (TakeQuit(self, remove, message) || TakePaint(self, filter, message) ||
+    if (TakeQuit(self, remove, message) || TakePaint(self, filter, remove, message) ||
         TakeTimerFor(self, filter, remove, message)) {
         NoteTaken(self, *message, 0);
         return true;

@@ -6,9 +6,9 @@ constexpr COLORREF kRed = RGB(255, 0, 0);
 constexpr COLORREF kGreen = RGB(0, 128, 0);
 constexpr COLORREF kYellow = RGB(255, 255, 0);
 
-using Paint = PaintedWindows;
+using Painting = PaintedWindows;
 
-TEST_F(Paint, FrameThenBackgroundThenClient) {
+TEST_F(Painting, FrameThenBackgroundThenClient) {
     HWND window = Make(kPlain | WS_CAPTION, 10, 10, 100, 80, ground, kRed);
     Settle();
     RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
@@ -23,7 +23,7 @@ TEST_F(Paint, FrameThenBackgroundThenClient) {
     EXPECT_FALSE(record.eraseLeft[0]);
 }
 
-TEST_F(Paint, EraseOnlyWhenAskedFor) {
+TEST_F(Painting, EraseOnlyWhenAskedFor) {
     HWND window = Make(kPlain, 10, 10, 100, 80, ground, kRed);
     Settle();
     InvalidateRect(window, nullptr, FALSE);
@@ -38,7 +38,7 @@ TEST_F(Paint, EraseOnlyWhenAskedFor) {
     EXPECT_EQ(Of(window).Count(WM_ERASEBKGND), 1);
 }
 
-TEST_F(Paint, BackgroundThatIsNotErasedIsLeftToThePaint) {
+TEST_F(Painting, BackgroundThatIsNotErasedIsLeftToThePaint) {
     HWND window = Make(kPlain, 10, 10, 100, 80, ground, kRed);
     Settle();
     Of(window).erases = false;
@@ -48,7 +48,7 @@ TEST_F(Paint, BackgroundThatIsNotErasedIsLeftToThePaint) {
     EXPECT_TRUE(Of(window).eraseLeft[0]);
 }
 
-TEST_F(Paint, UpdateWindowGoesPastTheQueueAndOnlyWhenNeeded) {
+TEST_F(Painting, UpdateWindowGoesPastTheQueueAndOnlyWhenNeeded) {
     HWND window = Make(kPlain, 10, 10, 100, 80, ground, kRed);
     Settle();
     UpdateWindow(window);
@@ -60,7 +60,7 @@ TEST_F(Paint, UpdateWindowGoesPastTheQueueAndOnlyWhenNeeded) {
     EXPECT_EQ(Of(window).Count(WM_PAINT), 0);
 }
 
-TEST_F(Paint, WindowThatNeverValidatesIsAskedAgain) {
+TEST_F(Painting, WindowThatNeverValidatesIsAskedAgain) {
     HWND window = Make(kPlain, 10, 10, 100, 80, ground, kRed);
     Settle();
     InvalidateRect(window, nullptr, FALSE);
@@ -73,7 +73,7 @@ TEST_F(Paint, WindowThatNeverValidatesIsAskedAgain) {
     EXPECT_FALSE(PeekMessageA(&message, window, WM_PAINT, WM_PAINT, PM_REMOVE));
 }
 
-TEST_F(Paint, DrawingIsHeldToTheUpdateRegion) {
+TEST_F(Painting, DrawingIsHeldToTheUpdateRegion) {
     HWND window = Make(kPlain, 10, 10, 100, 80, ground, kRed);
     Settle();
     Of(window).paints = false;
@@ -91,7 +91,7 @@ TEST_F(Paint, DrawingIsHeldToTheUpdateRegion) {
     EXPECT_FALSE(GetUpdateRect(window, nullptr, FALSE));
 }
 
-TEST_F(Paint, ParentsComeBeforeChildrenAndTakeThemAlong) {
+TEST_F(Painting, ParentsComeBeforeChildrenAndTakeThemAlong) {
     HWND parent = Make(kPlain, 10, 10, 100, 80, ground, kRed);
     HWND child = Child(parent, 10, 10, 30, 30, kGreen);
     Settle();
@@ -104,7 +104,7 @@ TEST_F(Paint, ParentsComeBeforeChildrenAndTakeThemAlong) {
     EXPECT_EQ(PixelAt(parent, 60, 15), kRed);
 }
 
-TEST_F(Paint, RedrawFlags) {
+TEST_F(Painting, RedrawFlags) {
     HWND window = Make(kPlain | WS_CAPTION, 10, 10, 100, 80, ground, kRed);
     Settle();
     RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ERASENOW);
@@ -131,7 +131,7 @@ TEST_F(Paint, RedrawFlags) {
     EXPECT_EQ(Of(window).Count(WM_PAINT), 0);
 }
 
-TEST_F(Paint, ContextsOfAWindowAreClippedToWhatIsSeenOfIt) {
+TEST_F(Painting, ContextsOfAWindowAreClippedToWhatIsSeenOfIt) {
     HWND parent = Make(kPlain | WS_CLIPCHILDREN, 10, 10, 100, 80, ground, kRed);
     HWND lower = Child(parent, 0, 0, 40, 40, kGreen, WS_CLIPSIBLINGS);
     HWND upper = Child(parent, 20, 20, 40, 40, kYellow);
@@ -159,7 +159,7 @@ TEST_F(Paint, ContextsOfAWindowAreClippedToWhatIsSeenOfIt) {
     EXPECT_EQ(PixelAt(parent, 30, 30), RGB(0, 0, 0));
 }
 
-TEST_F(Paint, ReleasedContextsComeBackAtTheirDefaults) {
+TEST_F(Painting, ReleasedContextsComeBackAtTheirDefaults) {
     HWND window = Make(kPlain, 10, 10, 100, 80, ground, kRed);
     HDC context = GetDC(window);
     SetTextColor(context, kGreen);
@@ -174,7 +174,7 @@ TEST_F(Paint, ReleasedContextsComeBackAtTheirDefaults) {
     }
 }
 
-TEST_F(Paint, OwnContextsKeepTheirAttributesAndFollowTheWindow) {
+TEST_F(Painting, OwnContextsKeepTheirAttributesAndFollowTheWindow) {
     Register("PaintedOwn", CS_OWNDC);
     HWND window = Make(kPlain, 10, 10, 50, 50, ground, kRed, 0, "PaintedOwn");
     Settle();
@@ -191,7 +191,7 @@ TEST_F(Paint, OwnContextsKeepTheirAttributesAndFollowTheWindow) {
     EXPECT_EQ(PixelAt(window, 3, 3), kYellow);
 }
 
-TEST_F(Paint, WindowContextReachesTheFrame) {
+TEST_F(Painting, WindowContextReachesTheFrame) {
     HWND window = Make(kPlain | WS_CAPTION, 50, 50, 100, 80, ground, kRed);
     Settle();
     HDC context = GetWindowDC(window);

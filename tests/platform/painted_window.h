@@ -128,7 +128,7 @@ class PaintedWindows : public ::testing::Test {
         return records;
     }
 
-    static void Paint(HWND window, Painted& record) {
+    static void AnswerPaint(HWND window, Painted& record) {
         PAINTSTRUCT paint;
         HDC context = BeginPaint(window, &paint);
         EXPECT_NE(context, nullptr);
@@ -162,7 +162,7 @@ class PaintedWindows : public ::testing::Test {
             }
             case WM_PAINT:
                 if (record.paints) {
-                    Paint(window, record);
+                    AnswerPaint(window, record);
                     return 0;
                 }
                 break;

@@ -170,6 +170,7 @@ WINBASEAPI BOOL WINAPI InitAtomTable(DWORD size);
 #define CW_USEDEFAULT ((int)0x80000000)
 
 #define HWND_DESKTOP ((HWND)0)
+#define HWND_MESSAGE ((HWND)-3)
 #define HWND_TOP ((HWND)0)
 #define HWND_BOTTOM ((HWND)1)
 #define HWND_TOPMOST ((HWND)-1)

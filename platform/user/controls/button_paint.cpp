@@ -113,7 +113,8 @@ void PaintPush(const Painter& painter) {
     ControlBrush(painter.button, painter.context, WM_CTLCOLORBTN);
     RECT frame = painter.client;
     const bool isDefault = painter.Kind() == BS_DEFPUSHBUTTON;
-    const bool down = painter.Pushed() || (painter.style & BS_PUSHLIKE && painter.Checked());
+    const bool checked = (painter.style & BS_PUSHLIKE) && painter.Checked();
+    const bool down = painter.Pushed() || checked;
     if (isDefault) {
         FrameRect(painter.context, &frame, GetSysColorBrush(COLOR_WINDOWFRAME));
         InflateRect(&frame, -1, -1);
@@ -124,7 +125,8 @@ void PaintPush(const Painter& painter) {
         FrameRect(painter.context, &frame, GetSysColorBrush(COLOR_BTNSHADOW));
     } else {
         RECT bevel = frame;
-        DrawFrameControl(painter.context, &bevel, DFC_BUTTON, DFCS_BUTTONPUSH | (down ? DFCS_PUSHED : 0));
+        DrawFrameControl(painter.context, &bevel, DFC_BUTTON,
+                         DFCS_BUTTONPUSH | (painter.Pushed() ? DFCS_PUSHED : 0) | (checked ? DFCS_CHECKED : 0));
     }
     // The contents are laid out in the whole button, so that the outline does not move them.
     RECT area = painter.client;

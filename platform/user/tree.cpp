@@ -1,0 +1,418 @@
+// The window tree: parents, owners, z-order, and the ways to walk and search it.
+#include <algorithm>
+#include <new>
+#include <vector>
+
+#include "user/atoms.h"
+#include "user/queue.h"
+#include "user/window.h"
+
+namespace platform::user {
+namespace {
+
+bool IsTopmost(const Window* window) {
+    return (window->exStyle & WS_EX_TOPMOST) != 0;
+}
+
+/// Links a window in front of `before`, or as the last one when it is null.
+void LinkBefore(Window* window, Window* before) {
+    Window* parent = window->parent;
+    Window* last = nullptr;
+    if (before) {
+        last = before->previous;
+    } else {
+        for (last = parent->firstChild; last && last->next;) {
+            last = last->next;
+        }
+    }
+    window->previous = last;
+    window->next = before;
+    (last ? last->next : parent->firstChild) = window;
+    if (before) {
+        before->previous = window;
+    }
+}
+
+Window* FirstThatIsNot(Window* window, bool topmost) {
+    while (window && IsTopmost(window) == topmost) {
+        window = window->next;
+    }
+    return window;
+}
+
+}  // namespace
+
+void LinkWindow(Window* window, HWND after) {
+    Window* parent = window->parent;
+    if (!parent) {
+        return;
+    }
+    const bool topLevel = parent == Desktop();
+    if (after == HWND_TOPMOST && topLevel) {
+        window->exStyle |= WS_EX_TOPMOST;
+    } else if (after == HWND_NOTOPMOST || (after == HWND_BOTTOM && topLevel)) {
+        window->exStyle &= ~static_cast<DWORD>(WS_EX_TOPMOST);
+    }
+    Window* firstPlain = topLevel ? FirstThatIsNot(parent->firstChild, true) : parent->firstChild;
+    if (after == HWND_BOTTOM) {
+        LinkBefore(window, nullptr);
+    } else if (after == HWND_TOP || after == HWND_TOPMOST || after == HWND_NOTOPMOST) {
+        LinkBefore(window, topLevel && !IsTopmost(window) ? firstPlain : parent->firstChild);
+    } else {
+        Window* sibling = base::Find<Window>(after, base::HandleKind::Window);
+        if (!sibling || sibling->parent != parent) {
+            LinkBefore(window, topLevel && !IsTopmost(window) ? firstPlain : parent->firstChild);
+        } else if (topLevel && IsTopmost(window) != IsTopmost(sibling)) {
+            // Topmost windows stay above the others, whatever sibling is named.
+            LinkBefore(window, firstPlain);
+        } else {
+            LinkBefore(window, sibling->next);
+        }
+    }
+    WindowsChanged();
+}
+
+void UnlinkWindow(Window* window) {
+    if (!window->parent) {
+        return;
+    }
+    (window->previous ? window->previous->next : window->parent->firstChild) = window->next;
+    if (window->next) {
+        window->next->previous = window->previous;
+    }
+    window->previous = window->next = nullptr;
+    WindowsChanged();
+}
+
+bool IsShown(const Window* window) {
+    for (; window; window = window->parent) {
+        if (!(window->style & WS_VISIBLE)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool IsAncestor(const Window* ancestor, const Window* window) {
+    while (window && IsChildStyle(window->style)) {
+        window = window->parent;
+        if (window == ancestor) {
+            return true;
+        }
+    }
+    return false;
+}
+
+Window* TopLevel(Window* window) {
+    if (!window || window == Desktop() || window == MessageRoot()) {
+        return nullptr;
+    }
+    while (window->parent && window->parent != Desktop() && window->parent != MessageRoot()) {
+        window = window->parent;
+    }
+    return window;
+}
+
+void OffsetTree(Window* window, int dx, int dy) {
+    OffsetRect(&window->windowRect, dx, dy);
+    OffsetRect(&window->clientRect, dx, dy);
+    for (Window* child = window->firstChild; child; child = child->next) {
+        OffsetTree(child, dx, dy);
+    }
+}
+
+}  // namespace platform::user
+
+using namespace platform::user;
+
+namespace {
+
+HWND HandleOf(const Window* window) {
+    return window && window != MessageRoot() ? window->handle : nullptr;
+}
+
+std::vector<HWND> Children(const Window* parent) {
+    std::vector<HWND> list;
+    for (const Window* child = parent->firstChild; child; child = child->next) {
+        list.push_back(child->handle);
+    }
+    return list;
+}
+
+void CollectDescendants(const Window* parent, std::vector<HWND>& list) {
+    for (const Window* child = parent->firstChild; child; child = child->next) {
+        list.push_back(child->handle);
+        CollectDescendants(child, list);
+    }
+}
+
+/// Calls back for windows that still live when their turn comes.
+BOOL Enumerate(const std::vector<HWND>& list, WNDENUMPROC procedure, LPARAM parameter) {
+    for (HWND window : list) {
+        if (PeekWindow(window) && !procedure(window, parameter)) {
+            return FALSE;
+        }
+    }
+    return TRUE;
+}
+
+template <class Collect>
+BOOL EnumerateCollected(WNDENUMPROC procedure, LPARAM parameter, Collect collect) {
+    if (!procedure) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return FALSE;
+    }
+    std::vector<HWND> list;
+    try {
+        const UserGuard guard(UserLock());
+        if (!collect(list)) {
+            return FALSE;
+        }
+    } catch (const std::bad_alloc&) {
+        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+        return FALSE;
+    }
+    return Enumerate(list, procedure, parameter);
+}
+
+}  // namespace
+
+HWND WINAPI GetDesktopWindow(VOID) {
+    return Desktop()->handle;
+}
+
+HWND WINAPI GetParent(HWND handle) {
+    const UserGuard guard(UserLock());
+    const Window* window = FindWindowObject(handle);
+    if (!window) {
+        return nullptr;
+    }
+    if (window->style & WS_POPUP) {
+        return HandleOf(window->owner);
+    }
+    return IsChildStyle(window->style) ? HandleOf(window->parent) : nullptr;
+}
+
+HWND WINAPI GetAncestor(HWND handle, UINT flags) {
+    const UserGuard guard(UserLock());
+    Window* window = FindWindowObject(handle);
+    if (!window || window == Desktop()) {
+        return nullptr;
+    }
+    switch (flags) {
+        case GA_PARENT:
+            return HandleOf(window->parent);
+        case GA_ROOT:
+            return HandleOf(TopLevel(window));
+        case GA_ROOTOWNER:
+            for (window = TopLevel(window); window && window->owner;) {
+                window = TopLevel(window->owner);
+            }
+            return HandleOf(window);
+        default:
+            return nullptr;
+    }
+}
+
+HWND WINAPI GetWindow(HWND handle, UINT relation) {
+    const UserGuard guard(UserLock());
+    const Window* window = FindWindowObject(handle);
+    if (!window) {
+        return nullptr;
+    }
+    switch (relation) {
+        case GW_HWNDNEXT:
+            return HandleOf(window->next);
+        case GW_HWNDPREV:
+            return HandleOf(window->previous);
+        case GW_OWNER:
+            return HandleOf(window->owner);
+        case GW_CHILD:
+            return HandleOf(window->firstChild);
+        case GW_HWNDFIRST:
+            return window->parent ? HandleOf(window->parent->firstChild) : nullptr;
+        case GW_HWNDLAST:
+            while (window->next) {
+                window = window->next;
+            }
+            return window->parent ? HandleOf(window) : nullptr;
+        default:
+            SetLastError(ERROR_INVALID_PARAMETER);
+            return nullptr;
+    }
+}
+
+HWND WINAPI GetTopWindow(HWND handle) {
+    return GetWindow(handle ? handle : GetDesktopWindow(), GW_CHILD);
+}
+
+BOOL WINAPI IsChild(HWND parentHandle, HWND handle) {
+    const UserGuard guard(UserLock());
+    const Window* parent = FindWindowObject(parentHandle);
+    const Window* window = FindWindowObject(handle);
+    return parent && window && IsAncestor(parent, window);
+}
+
+HWND WINAPI SetParent(HWND handle, HWND newParent) {
+    Window* window = FindWindowObject(handle);
+    Window* parent = newParent ? FindWindowObject(newParent) : Desktop();
+    if (!window || !parent) {
+        return nullptr;
+    }
+    if (window == Desktop() || window == parent || IsAncestor(window, parent)) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return nullptr;
+    }
+    const bool visible = (window->style & WS_VISIBLE) != 0;
+    if (visible) {
+        ShowWindow(handle, SW_HIDE);
+    }
+    HWND old = nullptr;
+    {
+        const UserGuard guard(UserLock());
+        if (!PeekWindow(handle)) {
+            return nullptr;
+        }
+        old = HandleOf(window->parent);
+        const POINT at{window->windowRect.left - window->parent->clientRect.left,
+                       window->windowRect.top - window->parent->clientRect.top};
+        UnlinkWindow(window);
+        window->parent = parent;
+        LinkWindow(window, HWND_TOP);
+        OffsetTree(window, parent->clientRect.left + at.x - window->windowRect.left,
+                   parent->clientRect.top + at.y - window->windowRect.top);
+    }
+    if (visible) {
+        ShowWindow(handle, SW_SHOWNA);
+    }
+    return old;
+}
+
+namespace {
+
+bool Matches(const Window* window, ATOM atom, LPCSTR text) {
+    return (!atom || window->windowClass->atom == atom) && (!text || lstrcmpiA(window->text.c_str(), text) == 0);
+}
+
+}  // namespace
+
+HWND WINAPI FindWindowExA(HWND parentHandle, HWND afterHandle, LPCSTR className, LPCSTR text) {
+    const UserGuard guard(UserLock());
+    const Window* parent = !parentHandle                  ? Desktop()
+                           : parentHandle == HWND_MESSAGE ? MessageRoot()
+                                                          : FindWindowObject(parentHandle);
+    if (!parent) {
+        return nullptr;
+    }
+    const ATOM atom = className ? ClassAtoms().FindQuietly(className) : ATOM{0};
+    if (className && !atom) {
+        SetLastError(ERROR_CANNOT_FIND_WND_CLASS);
+        return nullptr;
+    }
+    const Window* window = parent->firstChild;
+    if (afterHandle) {
+        const Window* after = FindWindowObject(afterHandle);
+        if (!after || after->parent != parent) {
+            SetLastError(ERROR_INVALID_WINDOW_HANDLE);
+            return nullptr;
+        }
+        window = after->next;
+    }
+    while (window && !Matches(window, atom, text)) {
+        window = window->next;
+    }
+    return HandleOf(window);
+}
+
+HWND WINAPI FindWindowA(LPCSTR className, LPCSTR text) {
+    return FindWindowExA(nullptr, nullptr, className, text);
+}
+
+namespace {
+
+/// The deepest visible, enabled window at a point below `parent`.
+Window* Hit(Window* parent, POINT point) {
+    for (Window* child = parent->firstChild; child; child = child->next) {
+        if ((child->style & WS_VISIBLE) && !(child->style & WS_DISABLED) && PtInRect(&child->windowRect, point)) {
+            Window* deeper = PtInRect(&child->clientRect, point) ? Hit(child, point) : nullptr;
+            return deeper ? deeper : child;
+        }
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+HWND WINAPI WindowFromPoint(POINT point) {
+    const UserGuard guard(UserLock());
+    Window* window = Hit(Desktop(), point);
+    return window ? window->handle : Desktop()->handle;
+}
+
+HWND WINAPI ChildWindowFromPointEx(HWND handle, POINT point, UINT flags) {
+    const UserGuard guard(UserLock());
+    const Window* parent = FindWindowObject(handle);
+    if (!parent) {
+        return nullptr;
+    }
+    point.x += parent->clientRect.left;
+    point.y += parent->clientRect.top;
+    if (!PtInRect(&parent->clientRect, point)) {
+        return nullptr;
+    }
+    for (const Window* child = parent->firstChild; child; child = child->next) {
+        const bool skipped = ((flags & CWP_SKIPINVISIBLE) && !(child->style & WS_VISIBLE)) ||
+                             ((flags & CWP_SKIPDISABLED) && (child->style & WS_DISABLED)) ||
+                             ((flags & CWP_SKIPTRANSPARENT) && (child->exStyle & WS_EX_TRANSPARENT));
+        if (!skipped && PtInRect(&child->windowRect, point)) {
+            return child->handle;
+        }
+    }
+    return parent->handle;
+}
+
+HWND WINAPI ChildWindowFromPoint(HWND parent, POINT point) {
+    return ChildWindowFromPointEx(parent, point, CWP_ALL);
+}
+
+HWND WINAPI RealChildWindowFromPoint(HWND parent, POINT point) {
+    return ChildWindowFromPointEx(parent, point, CWP_SKIPTRANSPARENT | CWP_SKIPINVISIBLE);
+}
+
+BOOL WINAPI EnumWindows(WNDENUMPROC procedure, LPARAM parameter) {
+    return EnumerateCollected(procedure, parameter, [](std::vector<HWND>& list) {
+        list = Children(Desktop());
+        return true;
+    });
+}
+
+BOOL WINAPI EnumChildWindows(HWND parent, WNDENUMPROC procedure, LPARAM parameter) {
+    return EnumerateCollected(procedure, parameter, [=](std::vector<HWND>& list) {
+        const Window* window = parent ? FindWindowObject(parent) : Desktop();
+        if (window) {
+            CollectDescendants(window, list);
+        }
+        return window != nullptr;
+    });
+}
+
+BOOL WINAPI EnumThreadWindows(DWORD thread, WNDENUMPROC procedure, LPARAM parameter) {
+    return EnumerateCollected(procedure, parameter, [=](std::vector<HWND>& list) {
+        for (const Window* window = Desktop()->firstChild; window; window = window->next) {
+            if (window->thread && window->thread->id == thread) {
+                list.push_back(window->handle);
+            }
+        }
+        return true;
+    });
+}
+
+BOOL WINAPI AnyPopup(VOID) {
+    const UserGuard guard(UserLock());
+    for (const Window* window = Desktop()->firstChild; window; window = window->next) {
+        if (window->owner && (window->style & WS_VISIBLE)) {
+            return TRUE;
+        }
+    }
+    return FALSE;
+}

@@ -1,0 +1,447 @@
+// Windows come and go: creation with its messages in the documented order, and destruction with its own.
+#include "user/window.h"
+
+#include <algorithm>
+#include <cstring>
+#include <memory>
+#include <new>
+
+#include "gdi/screen.h"
+#include "user/atoms.h"
+#include "user/painting.h"
+#include "user/queue.h"
+
+namespace platform::user {
+
+std::recursive_mutex& UserLock() {
+    // Never destroyed: threads may outlive the statics of this library.
+    static auto& lock = *new std::recursive_mutex;
+    return lock;
+}
+
+Window* FindWindowObject(HWND handle) {
+    Window* window = base::Find<Window>(handle, base::HandleKind::Window);
+    if (!window) [[unlikely]] {
+        SetLastError(ERROR_INVALID_WINDOW_HANDLE);
+    }
+    return window;
+}
+
+namespace {
+
+Window* MakeRoot(const char* className, const RECT& area) {
+    auto* windowClass = new WindowClass;
+    windowClass->atom = static_cast<ATOM>(32769);
+    windowClass->name = className;
+    windowClass->system = true;
+    windowClass->procedure = DefWindowProcA;
+    auto* root = new Window;
+    root->windowClass = windowClass;
+    root->procedure = DefWindowProcA;
+    root->style = WS_VISIBLE | WS_CLIPCHILDREN | WS_CLIPSIBLINGS | WS_POPUP;
+    root->windowRect = root->clientRect = area;
+    root->created = true;
+    root->handle = base::ToHandle<HWND>(base::InsertHandle(base::HandleKind::Window, root));
+    return root;
+}
+
+RECT ScreenArea() {
+    const gdi::ScreenView screen = gdi::Screen();
+    return {0, 0, screen.width, screen.height};
+}
+
+}  // namespace
+
+Window* Desktop() {
+    static Window* const desktop = MakeRoot("#32769", ScreenArea());
+    return desktop;
+}
+
+Window* MessageRoot() {
+    static Window* const root = MakeRoot("Message", RECT{0, 0, 100, 100});
+    return root;
+}
+
+namespace {
+
+/// Everything CreateWindowExA was told, completed and in its final form.
+struct Request {
+    CREATESTRUCTA given{};
+    Window* parent = nullptr;
+    Window* owner = nullptr;
+    WindowClass* windowClass = nullptr;
+    bool defaultPlace = false;
+    bool show = false;
+};
+
+HWND Refuse(DWORD error) {
+    SetLastError(error);
+    return nullptr;
+}
+
+/// CW_USEDEFAULT for overlapped windows: each one a little below and to the right of the one before.
+void PlaceByDefault(CREATESTRUCTA& given) {
+    static int turn = 0;
+    const RECT screen = Desktop()->windowRect;
+    const int step = (turn++ % 8) * (GetSystemMetrics(SM_CYCAPTION) + GetSystemMetrics(SM_CYSIZEFRAME));
+    if (given.x == CW_USEDEFAULT) {
+        given.x = given.y = step;
+    }
+    if (given.cx == CW_USEDEFAULT) {
+        given.cx = (screen.right - screen.left) * 3 / 4;
+        given.cy = (screen.bottom - screen.top) * 3 / 4;
+    }
+}
+
+/// Fills in what the styles imply. @returns 0 or an error code. Lock held.
+DWORD Complete(Request& request) {
+    CREATESTRUCTA& given = request.given;
+    DWORD style = static_cast<DWORD>(given.style);
+    const bool child = IsChildStyle(style);
+    HWND relative = given.hwndParent;
+    if (relative == HWND_MESSAGE) {
+        request.parent = MessageRoot();
+    } else if (relative) {
+        Window* window = FindWindowObject(relative);
+        if (!window) {
+            return ERROR_INVALID_WINDOW_HANDLE;
+        }
+        if (child) {
+            request.parent = window;
+        } else {
+            request.parent = Desktop();
+            request.owner = TopLevel(window);
+        }
+    } else if (child) {
+        return ERROR_TLW_WITH_WSCHILD;
+    } else {
+        request.parent = Desktop();
+    }
+    if (!(style & (WS_CHILD | WS_POPUP))) {
+        style |= WS_CAPTION | WS_CLIPSIBLINGS;
+        given.dwExStyle |= WS_EX_WINDOWEDGE;
+        PlaceByDefault(given);
+    } else {
+        given.x = given.x == CW_USEDEFAULT ? 0 : given.x;
+        given.y = given.x == CW_USEDEFAULT ? 0 : given.y;
+        if (given.cx == CW_USEDEFAULT) {
+            given.cx = given.cy = 0;
+        }
+        if (style & WS_POPUP) {
+            style |= WS_CLIPSIBLINGS;
+        }
+    }
+    // A dialog frame and a sizing border are raised at their edge.
+    if ((given.dwExStyle & WS_EX_DLGMODALFRAME) ||
+        (!(given.dwExStyle & WS_EX_STATICEDGE) && (style & (WS_DLGFRAME | WS_THICKFRAME)))) {
+        given.dwExStyle |= WS_EX_WINDOWEDGE;
+    } else {
+        given.dwExStyle &= ~static_cast<DWORD>(WS_EX_WINDOWEDGE);
+    }
+    given.cx = std::max(given.cx, 0);
+    given.cy = std::max(given.cy, 0);
+    request.show = (style & WS_VISIBLE) != 0;
+    given.style = static_cast<LONG>(style & ~static_cast<DWORD>(WS_VISIBLE));
+    return 0;
+}
+
+/// Makes the window object and links it into the tree, hidden. Lock held. Throws bad_alloc.
+Window* Make(const Request& request) {
+    const CREATESTRUCTA& given = request.given;
+    auto made = std::make_unique<Window>();
+    made->windowClass = request.windowClass;
+    made->procedure = request.windowClass->procedure;
+    made->thread = CurrentThread();
+    made->style = static_cast<DWORD>(given.style);
+    made->exStyle = given.dwExStyle;
+    made->instance = given.hInstance;
+    made->id = IsChildStyle(made->style) ? reinterpret_cast<LONG_PTR>(given.hMenu) : 0;
+    made->extra.resize(static_cast<std::size_t>(request.windowClass->windowExtra));
+    made->parent = request.parent;
+    made->owner = request.owner;
+    const POINT origin = request.parent == Desktop() || request.parent == MessageRoot()
+                             ? POINT{0, 0}
+                             : POINT{request.parent->clientRect.left, request.parent->clientRect.top};
+    made->windowRect = {origin.x + given.x, origin.y + given.y, origin.x + given.x + given.cx,
+                        origin.y + given.y + given.cy};
+    made->clientRect = made->windowRect;
+    if (!made->thread) {
+        throw std::bad_alloc();
+    }
+    const std::uint32_t handle = base::InsertHandle(base::HandleKind::Window, made.get());
+    if (!handle) {
+        throw std::bad_alloc();
+    }
+    made->handle = base::ToHandle<HWND>(handle);
+    Window* window = made.release();
+    ++window->windowClass->windows;
+    ++window->thread->windowCount;
+    // A new child goes below its siblings, so that the order of creation is the order of tabbing; other windows on top.
+    LinkWindow(window, IsChildStyle(window->style) ? HWND_BOTTOM : window->exStyle & WS_EX_TOPMOST ? HWND_TOPMOST : HWND_TOP);
+    return window;
+}
+
+/// Takes a window out of everything and frees it. No messages are sent. Lock held.
+void Remove(Window* window) {
+    ForgetPainting(window);
+    UnlinkWindow(window);
+    base::RemoveHandle(base::ToNumber(window->handle), base::HandleKind::Window);
+    --window->windowClass->windows;
+    --window->thread->windowCount;
+    delete window;
+}
+
+/// Windows that go together with their owner.
+std::vector<HWND> OwnedBy(const Window* owner) {
+    std::vector<HWND> list;
+    for (const Window* window = Desktop()->firstChild; window; window = window->next) {
+        if (window->owner == owner) {
+            list.push_back(window->handle);
+        }
+    }
+    return list;
+}
+
+std::vector<HWND> ChildrenOf(const Window* parent) {
+    std::vector<HWND> list;
+    for (const Window* window = parent->firstChild; window; window = window->next) {
+        list.push_back(window->handle);
+    }
+    return list;
+}
+
+void SendDestroy(HWND handle) {
+    SendMessageA(handle, WM_DESTROY, 0, 0);
+    std::vector<HWND> children;
+    {
+        const UserGuard guard(UserLock());
+        if (const Window* window = PeekWindow(handle)) {
+            children = ChildrenOf(window);
+        }
+    }
+    for (HWND child : children) {
+        if (PeekWindow(child)) {
+            SendDestroy(child);
+        }
+    }
+}
+
+/// The windows end from the leaves up; WM_NCDESTROY is the last that each hears, and the parent's comes first.
+void SendNcDestroyAndRemove(HWND handle) {
+    for (;;) {
+        HWND child = nullptr;
+        {
+            const UserGuard guard(UserLock());
+            const Window* window = PeekWindow(handle);
+            child = window && window->firstChild ? window->firstChild->handle : nullptr;
+        }
+        if (!child) {
+            break;
+        }
+        SendNcDestroyAndRemove(child);
+    }
+    {
+        UserHold hold(UserLock());
+        Window* window = PeekWindow(handle);
+        if (!window) {
+            return;
+        }
+        hold.unlock();
+        ForgetInput(window);
+    }
+    SendMessageA(handle, WM_NCDESTROY, 0, 0);
+    const UserGuard guard(UserLock());
+    if (Window* window = PeekWindow(handle)) {
+        Remove(window);
+    }
+}
+
+void NotifyParent(HWND handle, UINT event) {
+    UserHold hold(UserLock());
+    const Window* window = PeekWindow(handle);
+    if (!window || !IsChildStyle(window->style) || (window->exStyle & WS_EX_NOPARENTNOTIFY) || !window->parent) {
+        return;
+    }
+    const HWND parent = window->parent->handle;
+    const WORD id = static_cast<WORD>(window->id);
+    hold.unlock();
+    SendMessageA(parent, WM_PARENTNOTIFY, MAKEWPARAM(event, id), reinterpret_cast<LPARAM>(handle));
+}
+
+bool Destroy(HWND handle) {
+    std::vector<HWND> owned;
+    {
+        const UserGuard guard(UserLock());
+        Window* window = PeekWindow(handle);
+        if (!window || window->destroying) {
+            return window != nullptr;
+        }
+        window->destroying = true;
+        owned = OwnedBy(window);
+    }
+    NotifyParent(handle, WM_DESTROY);
+    for (HWND other : owned) {
+        const Window* window = PeekWindow(other);
+        if (window && window->thread == CurrentThread()) {
+            Destroy(other);
+        }
+    }
+    if (Window* window = PeekWindow(handle)) {
+        HideForDestruction(window);
+    }
+    if (PeekWindow(handle)) {
+        SendDestroy(handle);
+    }
+    if (PeekWindow(handle)) {
+        SendNcDestroyAndRemove(handle);
+    }
+    return true;
+}
+
+/// The messages that a new window gets. @returns false when it refused, or is gone.
+bool Introduce(HWND handle, CREATESTRUCTA* given) {
+    Window* window = PeekWindow(handle);
+    const bool sizable = (window->style & WS_THICKFRAME) || !IsChildStyle(window->style);
+    if (sizable && (window->style & (WS_THICKFRAME | WS_CAPTION))) {
+        const MINMAXINFO limits = QueryMinMax(handle);
+        const UserGuard guard(UserLock());
+        window = PeekWindow(handle);
+        if (window && (window->style & WS_THICKFRAME)) {
+            RECT& rect = window->windowRect;
+            rect.right = rect.left + std::max(rect.right - rect.left, limits.ptMinTrackSize.x);
+            rect.bottom = rect.top + std::max(rect.bottom - rect.top, limits.ptMinTrackSize.y);
+            given->cx = rect.right - rect.left;
+            given->cy = rect.bottom - rect.top;
+            window->clientRect = rect;
+        }
+    }
+    if (!SendMessageA(handle, WM_NCCREATE, 0, reinterpret_cast<LPARAM>(given))) {
+        // Such a window never was: it hears WM_NCDESTROY and nothing else.
+        if (PeekWindow(handle)) {
+            SendNcDestroyAndRemove(handle);
+        }
+        return false;
+    }
+    window = PeekWindow(handle);
+    if (!window) {
+        return false;
+    }
+    RECT client = window->windowRect;
+    const POINT origin = ParentOrigin(window);
+    OffsetRect(&client, -origin.x, -origin.y);
+    SendMessageA(handle, WM_NCCALCSIZE, FALSE, reinterpret_cast<LPARAM>(&client));
+    window = PeekWindow(handle);
+    if (!window) {
+        return false;
+    }
+    OffsetRect(&client, origin.x, origin.y);
+    window->clientRect = client;
+    const bool created = SendMessageA(handle, WM_CREATE, 0, reinterpret_cast<LPARAM>(given)) != -1;
+    window = PeekWindow(handle);
+    if (!window) {
+        return false;
+    }
+    if (!created) {
+        Destroy(handle);
+        return false;
+    }
+    window->created = true;
+    if (!window->sizeSent) {
+        window->sizeSent = true;
+        const RECT now = window->clientRect;
+        const POINT from = ParentOrigin(window);
+        SendMessageA(handle, WM_SIZE, SIZE_RESTORED, MAKELPARAM(now.right - now.left, now.bottom - now.top));
+        SendMessageA(handle, WM_MOVE, 0, MAKELPARAM(now.left - from.x, now.top - from.y));
+    }
+    return PeekWindow(handle) != nullptr;
+}
+
+HWND Create(Request& request) {
+    CREATESTRUCTA& given = request.given;
+    HWND handle = nullptr;
+    {
+        const UserGuard guard(UserLock());
+        request.windowClass = FindClass(given.hInstance, given.lpszClass);
+        if (!request.windowClass) {
+            return Refuse(ERROR_CANNOT_FIND_WND_CLASS);
+        }
+        if (const DWORD error = Complete(request)) {
+            return Refuse(error);
+        }
+        handle = Make(request)->handle;
+    }
+    if (!Introduce(handle, &given)) {
+        return nullptr;
+    }
+    NotifyParent(handle, WM_CREATE);
+    if (request.show && PeekWindow(handle)) {
+        const DWORD style = static_cast<DWORD>(given.style);
+        ShowWindow(handle, style & WS_MAXIMIZE ? SW_SHOWMAXIMIZED : style & WS_MINIMIZE ? SW_SHOWMINIMIZED : SW_SHOW);
+    }
+    return PeekWindow(handle) ? handle : nullptr;
+}
+
+}  // namespace
+
+void DestroyThreadWindows(ThreadState* thread) {
+    for (;;) {
+        HWND handle = nullptr;
+        {
+            const UserGuard guard(UserLock());
+            for (Window* root : {Desktop(), MessageRoot()}) {
+                for (const Window* window = root->firstChild; window && !handle; window = window->next) {
+                    handle = window->thread == thread && !window->destroying ? window->handle : nullptr;
+                }
+            }
+        }
+        if (!handle) {
+            return;
+        }
+        Destroy(handle);
+    }
+}
+
+}  // namespace platform::user
+
+using namespace platform::user;
+
+HWND WINAPI CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, int x, int y, int width, int height,
+                            HWND parent, HMENU menu, HINSTANCE instance, LPVOID parameter) try {
+    if (!className) {
+        SetLastError(ERROR_CANNOT_FIND_WND_CLASS);
+        return nullptr;
+    }
+    InitialiseClasses();
+    Request request;
+    request.given = {parameter, instance ? instance : GetModuleHandleA(nullptr),
+                     menu,      parent,
+                     height,    width,
+                     y,         x,
+                     static_cast<LONG>(style), text,
+                     className, exStyle};
+    return Create(request);
+} catch (const std::bad_alloc&) {
+    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+    return nullptr;
+}
+
+BOOL WINAPI DestroyWindow(HWND handle) {
+    const Window* window = FindWindowObject(handle);
+    if (!window) {
+        return FALSE;
+    }
+    if (window->thread != CurrentThread()) {
+        SetLastError(ERROR_ACCESS_DENIED);
+        return FALSE;
+    }
+    try {
+        return platform::user::Destroy(handle);
+    } catch (const std::bad_alloc&) {
+        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+        return FALSE;
+    }
+}
+
+LRESULT WINAPI CallWindowProcA(WNDPROC procedure, HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    return procedure ? CallProcedure(procedure, window, message, wParam, lParam) : 0;
+}

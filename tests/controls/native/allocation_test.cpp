@@ -1,0 +1,47 @@
+// What happens when global memory runs out, which only this host's platform layer can be told to pretend.
+#include <cvutil32/datectrl.h>
+#include <cvutil32/scroll.h>
+
+#include "core/globalblock.h"
+#include "tests/support/leaks.h"
+#include "tests/support/window.h"
+
+#include <cvplatform.h>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using testing_support::LeakCheck;
+using testing_support::TestWindow;
+
+TEST(Allocation, ControlsWithoutMemoryAreNotCreated) {
+    TestWindow const host;
+    for (char const* name : {DATECTRL_CLASSNAME, SCROLL_CLASSNAME}) {
+        LeakCheck const leaks;
+        CvPlatformFailAllocation(1);
+        HWND const control = CreateWindowExA(0, name, "", WS_CHILD | WS_VISIBLE, 0, 0, 50, 20, host, nullptr,
+                                             GetModuleHandleA(nullptr), nullptr);
+        CvPlatformFailAllocation(0);
+        EXPECT_EQ(nullptr, control) << name;
+    }
+    HWND const control = CreateWindowExA(0, DATECTRL_CLASSNAME, "", WS_CHILD, 0, 0, 50, 20, host, nullptr,
+                                         GetModuleHandleA(nullptr), nullptr);
+    EXPECT_NE(nullptr, control) << "and are once there is memory again";
+}
+
+TEST(Allocation, BlockThatCannotGrowStaysAsItWas) {
+    LeakCheck const leaks;
+    auto* const block = static_cast<char*>(globalblock::Allocate(4));
+    ASSERT_NE(nullptr, block);
+    block[0] = 'x';
+    CvPlatformFailAllocation(1);
+    EXPECT_EQ(nullptr, globalblock::Resize(block, 1 << 20));
+    EXPECT_EQ('x', block[0]);
+    CvPlatformFailAllocation(1);
+    EXPECT_EQ(nullptr, globalblock::Allocate(4));
+    CvPlatformFailAllocation(0);
+    globalblock::Release(block);
+}
+
+}  // namespace

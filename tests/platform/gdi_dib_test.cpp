@@ -1,0 +1,196 @@
+#include "gdi_canvas.h"
+
+#include <cstring>
+#include <vector>
+
+namespace {
+
+struct Header {
+    BITMAPINFOHEADER header{};
+    RGBQUAD colours[256]{};
+
+    Header(int width, int height, int bits) {
+        header.biSize = sizeof(header);
+        header.biWidth = width;
+        header.biHeight = height;
+        header.biPlanes = 1;
+        header.biBitCount = static_cast<WORD>(bits);
+    }
+    BITMAPINFO* Info() {
+        return reinterpret_cast<BITMAPINFO*>(this);
+    }
+};
+
+TEST(GdiDib, SectionsOfEveryDepthKeepColours) {
+    for (const int bits : {1, 4, 8, 24, 32}) {
+        SCOPED_TRACE(bits);
+        Header header(5, 3, bits);
+        header.colours[0] = {0, 0, 0, 0};
+        header.colours[1] = {255, 255, 255, 0};
+        header.colours[2] = {0, 0, 255, 0};
+        void* memory = nullptr;
+        const HDC dc = CreateCompatibleDC(nullptr);
+        const HBITMAP bitmap = CreateDIBSection(dc, header.Info(), DIB_RGB_COLORS, &memory, nullptr, 0);
+        ASSERT_NE(nullptr, bitmap);
+        ASSERT_NE(nullptr, memory);
+        const HGDIOBJ previous = SelectObject(dc, bitmap);
+        SetPixel(dc, 3, 1, RGB(255, 255, 255));
+        EXPECT_EQ(RGB(255, 255, 255), GetPixel(dc, 3, 1));
+        EXPECT_EQ(RGB(0, 0, 0), GetPixel(dc, 2, 1));
+        if (bits > 1) {
+            SetPixel(dc, 4, 2, RGB(255, 0, 0));
+            EXPECT_EQ(RGB(255, 0, 0), GetPixel(dc, 4, 2));
+        }
+        // Rows are multiples of four bytes, the bottom one first.
+        DIBSECTION section{};
+        EXPECT_EQ(int{sizeof(section)}, GetObjectA(bitmap, sizeof(section), &section));
+        EXPECT_EQ((5 * bits + 31) / 32 * 4, section.dsBm.bmWidthBytes);
+        EXPECT_EQ(memory, section.dsBm.bmBits);
+        GdiFlush();
+        const auto* middle = static_cast<const BYTE*>(memory) + section.dsBm.bmWidthBytes;
+        switch (bits) {
+            case 1:
+                EXPECT_EQ(0x10, middle[0]);
+                break;
+            case 4:
+                EXPECT_EQ(0x01, middle[1]);
+                break;
+            case 8:
+                EXPECT_EQ(1, middle[3]);
+                break;
+            case 24:
+                EXPECT_EQ(255, middle[9]);
+                break;
+            default:
+                EXPECT_EQ(255, middle[12]);
+                break;
+        }
+        SelectObject(dc, previous);
+        DeleteDC(dc);
+        EXPECT_TRUE(DeleteObject(bitmap));
+    }
+}
+
+TEST(GdiDib, RefusesWhatIsNoBitmap) {
+    void* memory = &memory;
+    Header header(0, 3, 32);
+    EXPECT_EQ(nullptr, CreateDIBSection(nullptr, header.Info(), DIB_RGB_COLORS, &memory, nullptr, 0));
+    header = Header(3, 3, 7);
+    EXPECT_EQ(nullptr, CreateDIBSection(nullptr, header.Info(), DIB_RGB_COLORS, &memory, nullptr, 0));
+    BITMAP bitmap{};
+    const HBITMAP least = CreateBitmap(0, 0, 1, 1, nullptr);
+    ASSERT_NE(0, GetObjectA(least, sizeof(bitmap), &bitmap));
+    EXPECT_EQ(1, bitmap.bmWidth);
+}
+
+TEST(GdiDib, BitsComeBackInTheFormAskedFor) {
+    Canvas canvas(3, 2);
+    canvas.Put(0, 0, 0xFF0000);
+    canvas.Put(2, 1, 0x0000FF);
+    const HBITMAP bitmap = CreateCompatibleBitmap(canvas, 3, 2);
+    const HDC dc = CreateCompatibleDC(canvas);
+    const HGDIOBJ previous = SelectObject(dc, bitmap);
+    BitBlt(dc, 0, 0, 3, 2, canvas, 0, 0, SRCCOPY);
+    SelectObject(dc, previous);
+
+    Header measure(0, 0, 0);
+    measure.header.biPlanes = 0;
+    EXPECT_NE(0, GetDIBits(dc, bitmap, 0, 0, nullptr, measure.Info(), DIB_RGB_COLORS));
+    EXPECT_EQ(3, measure.header.biWidth);
+    EXPECT_EQ(2, measure.header.biHeight < 0 ? -measure.header.biHeight : measure.header.biHeight);
+
+    Header down(3, -2, 32);
+    DWORD top[6] = {};
+    EXPECT_EQ(2, GetDIBits(dc, bitmap, 0, 2, top, down.Info(), DIB_RGB_COLORS));
+    EXPECT_EQ(0xFF0000u, top[0] & 0xFFFFFF);
+    EXPECT_EQ(0x0000FFu, top[5] & 0xFFFFFF);
+
+    Header up(3, 2, 24);
+    BYTE bytes[24] = {};
+    EXPECT_EQ(2, GetDIBits(dc, bitmap, 0, 2, bytes, up.Info(), DIB_RGB_COLORS));
+    EXPECT_EQ(255, bytes[6]);       // the last pixel's blue, in the bottom row
+    EXPECT_EQ(255, bytes[12 + 2]);  // the first pixel's red, in the top row
+
+    // One line by number: line 0 is the bottom one.
+    std::memset(bytes, 0, sizeof(bytes));
+    EXPECT_EQ(1, GetDIBits(dc, bitmap, 1, 1, bytes, up.Info(), DIB_RGB_COLORS));
+    EXPECT_EQ(255, bytes[2]);
+    DeleteDC(dc);
+    DeleteObject(bitmap);
+}
+
+TEST(GdiDib, BitsGoInAndThrough) {
+    Header header(2, 2, 8);
+    header.header.biClrUsed = 3;
+    header.colours[1] = {0, 255, 0, 0};
+    header.colours[2] = {255, 0, 0, 0};
+    const BYTE bits[8] = {1, 2, 0, 0, 2, 1, 0, 0};
+    Canvas canvas(6, 6);
+    EXPECT_EQ(2, SetDIBitsToDevice(canvas, 1, 1, 2, 2, 0, 0, 0, 2, bits, header.Info(), DIB_RGB_COLORS));
+    EXPECT_EQ(0x0000FFu, canvas.At(1, 1));
+    EXPECT_EQ(0x00FF00u, canvas.At(2, 1));
+    EXPECT_EQ(0x00FF00u, canvas.At(1, 2));
+    EXPECT_EQ(Canvas::kWhite, canvas.At(3, 1));
+    SetStretchBltMode(canvas, COLORONCOLOR);
+    EXPECT_EQ(2, StretchDIBits(canvas, 0, 0, 4, 4, 0, 0, 2, 2, bits, header.Info(), DIB_RGB_COLORS, SRCCOPY));
+    EXPECT_EQ(0x0000FFu, canvas.At(1, 1));
+    EXPECT_EQ(0x00FF00u, canvas.At(3, 0));
+    EXPECT_EQ(0x00FF00u, canvas.At(0, 3));
+    const HBITMAP bitmap = CreateDIBitmap(canvas, &header.header, CBM_INIT, bits, header.Info(), DIB_RGB_COLORS);
+    ASSERT_NE(nullptr, bitmap);
+    const HDC dc = CreateCompatibleDC(nullptr);
+    const HGDIOBJ previous = SelectObject(dc, bitmap);
+    EXPECT_EQ(RGB(0, 0, 255), GetPixel(dc, 0, 0));
+    EXPECT_EQ(RGB(0, 255, 0), GetPixel(dc, 1, 0));
+    SelectObject(dc, previous);
+    DeleteDC(dc);
+    DeleteObject(bitmap);
+}
+
+TEST(GdiDib, DeviceBitmapsHaveRowsOfWords) {
+    const BYTE bits[8] = {0x80, 0, 0x40, 0, 0x20, 0, 0x10, 0};
+    const HBITMAP bitmap = CreateBitmap(5, 4, 1, 1, bits);
+    BITMAP shape{};
+    GetObjectA(bitmap, sizeof(shape), &shape);
+    EXPECT_EQ(2, shape.bmWidthBytes);
+    EXPECT_EQ(nullptr, shape.bmBits);
+    BYTE back[8] = {};
+    EXPECT_EQ(8, GetBitmapBits(bitmap, sizeof(back), back));
+    EXPECT_EQ(0, std::memcmp(bits, back, sizeof(bits)));
+    const HDC dc = CreateCompatibleDC(nullptr);
+    const HGDIOBJ previous = SelectObject(dc, bitmap);
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_EQ(RGB(255, 255, 255), GetPixel(dc, i, i)) << i;
+        EXPECT_EQ(RGB(0, 0, 0), GetPixel(dc, i + 1, i)) << i;
+    }
+    SelectObject(dc, previous);
+    DeleteDC(dc);
+    const BYTE other[2] = {0x08, 0};
+    EXPECT_EQ(2, SetBitmapBits(bitmap, 2, other));
+    GetBitmapBits(bitmap, sizeof(back), back);
+    EXPECT_EQ(0x08, back[0]);
+    EXPECT_EQ(0x40, back[2]);
+    DeleteObject(bitmap);
+}
+
+TEST(GdiDib, ColourTablesCanBeReadAndChanged) {
+    Header header(2, 1, 4);
+    header.colours[1] = {1, 2, 3, 0};
+    void* memory = nullptr;
+    const HDC dc = CreateCompatibleDC(nullptr);
+    const HBITMAP bitmap = CreateDIBSection(dc, header.Info(), DIB_RGB_COLORS, &memory, nullptr, 0);
+    const HGDIOBJ previous = SelectObject(dc, bitmap);
+    *static_cast<BYTE*>(memory) = 0x10;
+    EXPECT_EQ(RGB(3, 2, 1), GetPixel(dc, 0, 0));
+    RGBQUAD colour{};
+    EXPECT_EQ(1u, GetDIBColorTable(dc, 1, 1, &colour));
+    EXPECT_EQ(3, colour.rgbRed);
+    colour = {0, 0, 200, 0};
+    EXPECT_EQ(1u, SetDIBColorTable(dc, 1, 1, &colour));
+    EXPECT_EQ(RGB(200, 0, 0), GetPixel(dc, 0, 0));
+    SelectObject(dc, previous);
+    DeleteDC(dc);
+    DeleteObject(bitmap);
+}
+
+}  // namespace

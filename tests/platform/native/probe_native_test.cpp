@@ -1,0 +1,95 @@
+#include <cvplatform.h>
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <csetjmp>
+#include <csignal>
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <thread>
+
+namespace {
+
+TEST(MemoryProbe, FindsUnmappedAndReadOnlyPagesWithinARange) {
+    const auto page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+    auto* area = static_cast<char*>(mmap(nullptr, page * 4, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
+    ASSERT_NE(area, MAP_FAILED);
+    mprotect(area + page, page, PROT_READ);
+    munmap(area + page * 3, page);
+    EXPECT_FALSE(IsBadWritePtr(area, page));
+    EXPECT_TRUE(IsBadWritePtr(area, page + 1));
+    EXPECT_FALSE(IsBadReadPtr(area, page + 1));
+    EXPECT_TRUE(IsBadWritePtr(area + page - 4, 8));
+    EXPECT_FALSE(IsBadWritePtr(area + page * 2, page));
+    EXPECT_TRUE(IsBadReadPtr(area + page * 3 - 1, 2));
+    EXPECT_TRUE(IsBadWritePtr(area, page * 3));
+    munmap(area, page * 3);
+}
+
+TEST(MemoryProbe, NonCanonicalAddressesAreBad) {
+    EXPECT_TRUE(IsBadWritePtr(reinterpret_cast<void*>(0x8000000000000000u), 8));
+    EXPECT_TRUE(IsBadReadPtr(reinterpret_cast<void*>(0xDEADBEEFDEADBEEFu), 8));
+}
+
+TEST(MemoryProbe, LosesNoWriteOfAnotherThread) {
+    std::atomic<int> counter{0};
+    std::atomic<bool> stop{false};
+    std::thread prober([&] {
+        while (!stop) {
+            IsBadWritePtr(&counter, sizeof counter);
+        }
+    });
+    constexpr int kRounds = 300000;
+    for (int i = 0; i < kRounds; ++i) {
+        counter.fetch_add(1, std::memory_order_relaxed);
+    }
+    stop = true;
+    prober.join();
+    EXPECT_EQ(counter.load(), kRounds);
+}
+
+TEST(MemoryProbeDeathTest, OtherFaultsStillEndTheProcess) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    EXPECT_DEATH(
+        {
+            volatile int* null = nullptr;
+            *null = 1;
+        },
+        "");
+}
+
+TEST(GlobalMemory, FailsWhenToldTo) {
+    CvPlatformFailAllocation(2);
+    HGLOBAL first = GlobalAlloc(GMEM_MOVEABLE, 8);
+    EXPECT_NE(first, nullptr);
+    EXPECT_EQ(GlobalReAlloc(first, 16, 0), nullptr);
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_NOT_ENOUGH_MEMORY));
+    EXPECT_NE(GlobalReAlloc(first, 16, 0), nullptr);
+    const SIZE_T before = CvPlatformCount(CV_PLATFORM_GLOBAL_BLOCKS);
+    GlobalFree(first);
+    EXPECT_EQ(CvPlatformCount(CV_PLATFORM_GLOBAL_BLOCKS), before - 1);
+}
+
+TEST(GlobalMemory, StaleAndForeignHandlesFailCleanly) {
+    HGLOBAL handle = GlobalAlloc(GMEM_MOVEABLE, 8);
+    void* bytes = GlobalLock(handle);
+    GlobalUnlock(handle);
+    GlobalFree(handle);
+    char local[64];
+    for (HGLOBAL bad : {handle, HGLOBAL(nullptr), reinterpret_cast<HGLOBAL>(UINT_PTR{0x12345678}),
+                        static_cast<HGLOBAL>(local + 16)}) {
+        SetLastError(0);
+        EXPECT_EQ(GlobalLock(bad), nullptr);
+        EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_HANDLE));
+        EXPECT_EQ(GlobalReAlloc(bad, 9, 0), nullptr);
+        EXPECT_EQ(GlobalSize(bad), 0u);
+        EXPECT_EQ(GlobalFree(bad), bad);
+    }
+    EXPECT_EQ(GlobalHandle(local), nullptr);
+    EXPECT_EQ(GlobalHandle(nullptr), nullptr);
+    (void)bytes;
+}
+
+}  // namespace
