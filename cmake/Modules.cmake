@@ -38,14 +38,20 @@ function(cvutil32_resources target script)
         DEPENDS ${script} ${parts}
         COMMENT "Compiling resources of ${target}"
         VERBATIM)
-    set(embed ${CMAKE_CURRENT_BINARY_DIR}/${target}_resources.S)
+    set(embed ${CMAKE_CURRENT_BINARY_DIR}/${target}_resources.c)
     file(
-        WRITE ${embed}.in
-        "    .section .rodata\n    .balign 16\n    .hidden cvModuleResources\n    .hidden cvModuleResourcesEnd\n"
-        "    .global cvModuleResources\n    .global cvModuleResourcesEnd\ncvModuleResources:\n    .incbin \"${compiled}\"\n"
-        "cvModuleResourcesEnd:\n    .byte 0\n    .section .note.GNU-stack,\"\",%progbits\n")
-    configure_file(${embed}.in ${embed} COPYONLY)
-    set_source_files_properties(${embed} PROPERTIES LANGUAGE C OBJECT_DEPENDS ${compiled})
+        CONFIGURE
+        OUTPUT ${embed}
+        CONTENT
+            [[__asm__(
+    ".pushsection .rodata\n.balign 16\n"
+    ".hidden cvModuleResources\n.global cvModuleResources\ncvModuleResources:\n"
+    ".incbin \"@compiled@\"\n"
+    ".hidden cvModuleResourcesEnd\n.global cvModuleResourcesEnd\ncvModuleResourcesEnd:\n.byte 0\n"
+    ".popsection\n");
+]]
+        @ONLY)
+    set_source_files_properties(${embed} PROPERTIES OBJECT_DEPENDS ${compiled})
     target_sources(${target} PRIVATE ${embed})
     target_compile_definitions(${target} PRIVATE CV_MODULE_HAS_RESOURCES)
     cvutil32_module_start(${target})

@@ -15,9 +15,8 @@ std::unique_ptr<Bitmap> NewBitmap(int width, int height, int bitsPerPixel) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return nullptr;
     }
-    constexpr std::int64_t kLargest = std::int64_t{1} << 30;
     const std::int64_t row = DwordRowBytes(width, bitsPerPixel);
-    auto bitmap = row * height > kLargest ? nullptr : NewObject<Bitmap>();
+    auto bitmap = FitsMemory(row, height) ? NewObject<Bitmap>() : nullptr;
     if (bitmap) {
         bitmap->width = width;
         bitmap->height = height;

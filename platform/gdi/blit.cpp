@@ -96,9 +96,12 @@ struct Block {
 Block BlockOf(const DeviceContext& context, int x, int y, int width, int height) {
     const POINT at = context.ToSurface(x, y);
     // A block that runs backwards begins with the pixel at its corner.
+    width = Near(width);
+    height = Near(height);
     Block block{{at.x, at.y, at.x + width, at.y + height}, width < 0, height < 0};
     if (block.backX) {
-        block.rect = {at.x + width + 1, block.rect.top, at.x + 1, block.rect.bottom};
+        block.rect.left = at.x + width + 1;
+        block.rect.right = at.x + 1;
     }
     if (block.backY) {
         block.rect.top = at.y + height + 1;

@@ -16,6 +16,13 @@
 
 namespace platform::gdi {
 
+/// A coordinate, or the far point beyond every surface that stands for all that lie further off: what is computed from
+/// such numbers cannot overflow.
+constexpr LONG Near(std::int64_t coordinate) {
+    constexpr std::int64_t kFar = std::int64_t{1} << 28;
+    return static_cast<LONG>(coordinate < -kFar ? -kFar : coordinate > kFar ? kFar : coordinate);
+}
+
 /// What SaveDC keeps.
 struct DrawState {
     Pen* pen = nullptr;
@@ -60,17 +67,17 @@ struct DeviceContext {
     }
     /// Logical to device and to surface coordinates.
     POINT ToDevice(int x, int y) const {
-        return {static_cast<LONG>(x - state.windowOrigin.x + state.viewportOrigin.x),
-                static_cast<LONG>(y - state.windowOrigin.y + state.viewportOrigin.y)};
+        return {Near(std::int64_t{x} - state.windowOrigin.x + state.viewportOrigin.x),
+                Near(std::int64_t{y} - state.windowOrigin.y + state.viewportOrigin.y)};
     }
     POINT ToSurface(int x, int y) const {
         const POINT point = ToDevice(x, y);
-        return {static_cast<LONG>(point.x + origin.x), static_cast<LONG>(point.y + origin.y)};
+        return {Near(std::int64_t{point.x} + origin.x), Near(std::int64_t{point.y} + origin.y)};
     }
     RECT ToSurface(const RECT& rect) const {
         const POINT a = ToSurface(rect.left, rect.top);
-        return {a.x, a.y, static_cast<LONG>(a.x + (rect.right - rect.left)),
-                static_cast<LONG>(a.y + (rect.bottom - rect.top))};
+        const POINT b = ToSurface(rect.right, rect.bottom);
+        return {a.x, a.y, b.x, b.y};
     }
     /// Notes what was drawn on the screen. Surface coordinates, cut to the drawable area's bounds.
     void Drawn(const RECT& rect) const;

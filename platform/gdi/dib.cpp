@@ -72,7 +72,7 @@ std::optional<DibLayout> ReadLayout(const void* info, UINT usage, bool colours, 
     }
     const int bits = layout.bitsPerPixel;
     if (planes != 1 || layout.width <= 0 || (bits != 1 && bits != 4 && bits != 8 && bits != 24 && bits != 32) ||
-        DwordRowBytes(layout.width, bits) * layout.height > (std::int64_t{1} << 30)) {
+        !FitsMemory(DwordRowBytes(layout.width, bits), layout.height)) {
         return std::nullopt;
     }
     layout.rowBytes = static_cast<std::size_t>(DwordRowBytes(layout.width, bits));
@@ -308,6 +308,11 @@ int WINAPI SetDIBitsToDevice(HDC context, int x, int y, DWORD width, DWORD heigh
         return 0;
     }
     const int count = static_cast<int>(std::min(lines, static_cast<UINT>(layout->height) - start));
+    constexpr DWORD kFar = 1 << 28;
+    width = std::min(width, kFar);
+    height = std::min(height, kFar);
+    sourceX = Near(sourceX);
+    sourceY = Near(sourceY);
     return Guarded(0, [&] {
         const Surface from = layout->View(bits, count);
         // The lower left corner of the source counts from the bottom of the bitmap; only the rows at hand are drawn.
@@ -327,6 +332,9 @@ int WINAPI StretchDIBits(HDC context, int x, int y, int width, int height, int s
     const auto layout = drawing ? Checked(info, usage, true) : std::nullopt;
     if (!layout || !bits || layout->height == 0 || !width || !height || !sourceWidth || !sourceHeight) {
         return 0;
+    }
+    for (int* value : {&width, &height, &sourceX, &sourceY, &sourceWidth, &sourceHeight}) {
+        *value = Near(*value);
     }
     return Guarded(0, [&] {
         const Surface from = layout->View(bits, layout->height);

@@ -87,9 +87,24 @@ void Stroke::Thin(POINT from, POINT to) {
     const int stepY = from.y < to.y ? 1 : -1;
     const std::int64_t major = std::max(dx, dy);
     const std::int64_t minor = std::min(dx, dy);
-    std::int64_t error = major / 2;
+    // Steps before and after the drawable area are not taken one by one.
+    const bool flat = dx >= dy;
+    const std::int64_t start = flat ? from.x : from.y;
+    const std::int64_t low = flat ? bounds.left : bounds.top;
+    const std::int64_t high = flat ? bounds.right : bounds.bottom;
+    const bool forward = (flat ? stepX : stepY) > 0;
+    const std::int64_t first = std::clamp<std::int64_t>(forward ? low - start : start - high + 1, 0, major);
+    const std::int64_t last = std::clamp<std::int64_t>(forward ? high - start : start - low + 1, first, major);
+    const std::int64_t travelled = first * minor - major / 2;
+    const std::int64_t aside = travelled > 0 ? (travelled + major - 1) / major : 0;
+    std::int64_t error = aside * major - travelled;
     POINT at = from;
-    for (std::int64_t i = 0; i < major; ++i) {
+    (flat ? at.x : at.y) += static_cast<LONG>(first * (flat ? stepX : stepY));
+    (flat ? at.y : at.x) += static_cast<LONG>(aside * (flat ? stepY : stepX));
+    if (dashed_) {
+        phase_ = static_cast<int>((phase_ + first) % period_);
+    }
+    for (std::int64_t i = first; i < last; ++i) {
         const bool inside = at.x >= bounds.left && at.x < bounds.right && at.y >= bounds.top && at.y < bounds.bottom;
         const bool drawn = !dashed_ || pattern_[static_cast<std::size_t>(phase_)];
         if (inside && (drawn || gaps_) && (simple || drawable.Contains(at))) {
@@ -103,13 +118,16 @@ void Stroke::Thin(POINT from, POINT to) {
         if (both) {
             error += major;
         }
-        if (dx >= dy) {
+        if (flat) {
             at.x += stepX;
             at.y += both ? stepY : 0;
         } else {
             at.y += stepY;
             at.x += both ? stepX : 0;
         }
+    }
+    if (dashed_) {
+        phase_ = static_cast<int>((phase_ + major - last) % period_);
     }
     const RECT around{std::min(from.x, to.x), std::min(from.y, to.y), std::max(from.x, to.x) + 1,
                       std::max(from.y, to.y) + 1};

@@ -53,6 +53,12 @@ constexpr std::int64_t DwordRowBytes(int width, int bitsPerPixel) {
     return (std::int64_t{width} * bitsPerPixel + 31) / 32 * 4;
 }
 
+/// Whether pixels of this size (not negative) stay below a gibibyte, the most that a bitmap may have.
+constexpr bool FitsMemory(std::int64_t rowBytes, int height) {
+    constexpr std::int64_t kLargest = std::int64_t{1} << 30;
+    return rowBytes <= kLargest && (height == 0 || rowBytes <= kLargest / height);
+}
+
 /// Coordinates lie inside the surface: the callers clip.
 std::uint32_t ReadPixel(const Surface& surface, int x, int y);
 void WritePixel(const Surface& surface, int x, int y, std::uint32_t value);

@@ -1,19 +1,31 @@
 /// @file cvplatform.h
-/// What this layer offers beyond the Windows API, for the tests of the layer and of what is built on it.
+/// What the layer offers beyond the Windows API, for tests on hosts that have none: counts of live objects and driven
+/// failures of allocation.
 #pragma once
 
 #include "windef.h"
 
-typedef enum CvPlatformKind {
-    CV_PLATFORM_GLOBAL_BLOCKS,   ///< movable and fixed global-memory blocks
-    CV_PLATFORM_WINDOWS,         ///< windows, the desktop left out
-    CV_PLATFORM_GDI_OBJECTS,     ///< pens, brushes, fonts, bitmaps, regions and device contexts, stock objects left out
-    CV_PLATFORM_OTHER_HANDLES    ///< threads, events, files, find handles, registry keys
-} CvPlatformKind;
+enum CvPlatformKind {
+    CV_PLATFORM_GLOBAL_BLOCKS,
+    CV_PLATFORM_WINDOWS,
+    CV_PLATFORM_MENUS,
+    /// Device contexts, pens, brushes, fonts, bitmaps and regions together.
+    CV_PLATFORM_GDI_OBJECTS,
+    CV_PLATFORM_ICONS,
+    CV_PLATFORM_IMAGE_LISTS,
+    CV_PLATFORM_FILES,
+    CV_PLATFORM_REGISTRY_KEYS,
+    CV_PLATFORM_THREADS,
+    CV_PLATFORM_EVENTS,
+};
 
-/// @returns how many objects of a kind are alive in this process.
-WINBASEAPI SIZE_T CvPlatformCount(CvPlatformKind kind);
+/// @returns how many objects of a kind are alive in the process; 0 for an unknown kind.
+WINBASEAPI size_t CvPlatformCount(enum CvPlatformKind kind);
 
-/// Lets the n-th call of GlobalAlloc or GlobalReAlloc from now on fail as if memory had run out, on any thread.
-/// @param n  1 for the very next call; 0 takes the order back.
-WINBASEAPI void CvPlatformFailAllocation(UINT n);
+/// Makes one of the following GlobalAlloc and GlobalReAlloc calls of the process fail with ERROR_NOT_ENOUGH_MEMORY: 1
+/// means the next one, 2 the one after it, and so on. 0 takes the order back. It holds once.
+WINBASEAPI void CvPlatformFailAllocation(unsigned count);
+
+/// @returns how many GlobalAlloc and GlobalReAlloc calls the process has made, so that a test can fail each one in
+/// turn.
+WINBASEAPI size_t CvPlatformAllocationCount(void);

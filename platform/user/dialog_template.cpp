@@ -113,11 +113,7 @@ std::string TakeItemClass(Reader& reader) {
         if (predefined.atom == ordinal)
             return predefined.name;
     }
-    char name[256] = "";
-    // A class that the application registered can be named by its atom as well.
-    if (ordinal < 0xC000 || GlobalGetAtomNameA(ordinal, name, sizeof name) == 0)
-        return '#' + std::to_string(ordinal);
-    return name;
+    return '#' + std::to_string(ordinal);
 }
 
 std::string TakeItemText(Reader& reader) {

@@ -94,7 +94,7 @@ BOOL WINAPI SetPropA(HWND window, LPCSTR name, HANDLE data) try {
     return FALSE;
 }
 
-HANDLE WINAPI GetPropA(HWND window, LPCSTR name) {
+HANDLE WINAPI GetPropA(HWND window, LPCSTR name) try {
     const UserGuard guard(UserLock());
     Window* object = FindWindowObject(window);
     if (!object || object->properties.empty()) {
@@ -102,9 +102,12 @@ HANDLE WINAPI GetPropA(HWND window, LPCSTR name) {
     }
     const auto found = Locate(object, PropertyName(name).View());
     return found == object->properties.end() ? nullptr : found->data;
+} catch (const std::bad_alloc&) {
+    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+    return nullptr;
 }
 
-HANDLE WINAPI RemovePropA(HWND window, LPCSTR name) {
+HANDLE WINAPI RemovePropA(HWND window, LPCSTR name) try {
     const UserGuard guard(UserLock());
     Window* object = FindWindowObject(window);
     if (!object) {
@@ -117,6 +120,9 @@ HANDLE WINAPI RemovePropA(HWND window, LPCSTR name) {
     const HANDLE data = found->data;
     object->properties.erase(found);
     return data;
+} catch (const std::bad_alloc&) {
+    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+    return nullptr;
 }
 
 int WINAPI EnumPropsA(HWND window, PROPENUMPROCA procedure) {

@@ -154,6 +154,10 @@ Window* Make(const Request& request) {
     made->thread = CurrentThread();
     made->style = static_cast<DWORD>(given.style);
     made->exStyle = given.dwExStyle;
+    // An owned window stands above its owner, and so among the topmost ones when that is one.
+    if (request.owner) {
+        made->exStyle |= request.owner->exStyle & WS_EX_TOPMOST;
+    }
     made->instance = given.hInstance;
     made->id = IsChildStyle(made->style) ? reinterpret_cast<LONG_PTR>(given.hMenu) : 0;
     made->extra.resize(static_cast<std::size_t>(request.windowClass->windowExtra));
@@ -346,7 +350,8 @@ bool Introduce(HWND handle, CREATESTRUCTA* given) {
         return false;
     }
     window->created = true;
-    if (!window->sizeSent) {
+    // Overlapped windows hear of their size when they are shown for the first time.
+    if (!window->sizeSent && (window->style & (WS_CHILD | WS_POPUP))) {
         window->sizeSent = true;
         const RECT now = window->clientRect;
         const POINT from = ParentOrigin(window);

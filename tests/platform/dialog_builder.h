@@ -47,27 +47,28 @@ class DialogBuilder {
     }
 
     DialogBuilder& Item(const char* className, const char* text, int id, DWORD style, short x, short y, short width,
-                        short height, DWORD exStyle = 0) {
+                        short height, DWORD exStyle = 0, const std::vector<WORD>& creationData = {}) {
         Head(id, style, x, y, width, height, exStyle);
         Text(className);
         Text(text);
-        Words({0});
+        if (creationData.empty()) {
+            Words({0});
+            return *this;
+        }
+        // Without EX the length counts itself.
+        const size_t bytes = (creationData.size() + (extended_ ? 0 : 1)) * sizeof(WORD);
+        Words({static_cast<WORD>(bytes)});
+        Words(creationData);
         return *this;
     }
 
-    /// An item of a predefined class by its number, with creation data.
+    /// An item of a predefined class by its number.
     DialogBuilder& NumberedItem(WORD classNumber, const char* text, int id, DWORD style, short x, short y, short width,
-                                short height, const std::vector<WORD>& creationData = {}) {
+                                short height) {
         Head(id, style, x, y, width, height, 0);
         Words({0xFFFF, classNumber});
         Text(text);
-        if (creationData.empty()) {
-            Words({0});
-        } else {
-            const auto bytes = static_cast<WORD>(creationData.size() * sizeof(WORD));
-            Words({extended_ ? bytes : static_cast<WORD>(bytes + sizeof(WORD))});
-            words_.insert(words_.end(), creationData.begin(), creationData.end());
-        }
+        Words({0});
         return *this;
     }
 
@@ -156,12 +157,14 @@ class ShiftHeld {
 /// A top-level window that can own dialogs and be activated.
 inline HWND MakeOwner(WNDPROC procedure = DefWindowProcA) {
     WNDCLASSA windowClass{};
-    windowClass.lpfnWndProc = procedure;
+    windowClass.lpfnWndProc = DefWindowProcA;
     windowClass.hInstance = GetModuleHandleA(nullptr);
     windowClass.lpszClassName = "tests_dialog_owner";
-    RegisterClassA(&windowClass);
-    return CreateWindowExA(0, "tests_dialog_owner", "owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 400, 300, nullptr,
-                           nullptr, windowClass.hInstance, nullptr);
+    RegisterClassA(&windowClass);  // the tests share it: it is there from the second time on
+    const HWND owner = CreateWindowExA(0, "tests_dialog_owner", "owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 400,
+                                       300, nullptr, nullptr, windowClass.hInstance, nullptr);
+    SetWindowLongPtrA(owner, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
+    return owner;
 }
 
 }  // namespace tests

@@ -132,4 +132,31 @@ TEST(GdiShapes, AFocusRectangleUndoesItself) {
     EXPECT_EQ(64 * 48, canvas.Count(canvas.All(), 0xC0C0C0));
 }
 
+TEST(GdiShapes, FarCoordinatesOnlyClip) {
+    Canvas canvas;
+    SetViewportOrgEx(canvas, 5, 5, nullptr);
+    const RECT everything{-0x7FFFFFFF, -0x7FFFFFFF, 0x7FFFFFFF, 0x7FFFFFFF};
+    FillRect(canvas, &everything, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
+    EXPECT_EQ(64 * 48, canvas.Count(canvas.All(), Canvas::kBlack));
+    PatBlt(canvas, 0, 0, 0x7FFFFFFF, 0x7FFFFFFF, WHITENESS);
+    EXPECT_EQ((64 - 5) * (48 - 5), canvas.Count(canvas.All(), Canvas::kWhite));
+}
+
+TEST(GdiShapes, ClippingDoesNotBendALine) {
+    Canvas whole(60, 60);
+    MoveToEx(whole, 3, 5, nullptr);
+    LineTo(whole, 57, 40);
+    Canvas part(60, 60);
+    IntersectClipRect(part, 20, 10, 45, 50);
+    MoveToEx(part, 3, 5, nullptr);
+    LineTo(part, 57, 40);
+    for (int y = 10; y < 50; ++y) {
+        for (int x = 20; x < 45; ++x) {
+            ASSERT_EQ(whole.At(x, y), part.At(x, y)) << x << ' ' << y;
+        }
+    }
+    const RECT clip{20, 10, 45, 50};
+    EXPECT_EQ(part.Count(clip, Canvas::kBlack), part.Count(part.All(), Canvas::kBlack));
+}
+
 }  // namespace

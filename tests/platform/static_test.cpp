@@ -23,7 +23,6 @@ class StaticTest : public ::testing::Test {
     }
     void TearDown() override {
         DestroyWindow(parent_);
-        UnregisterClassA("tests_dialog_owner", GetModuleHandleA(nullptr));
     }
     HWND Make(DWORD style, const char* text = "text") {
         return CreateWindowExA(0, "static", text, WS_CHILD | WS_VISIBLE | style, 10, 10, 80, 24, parent_, nullptr,

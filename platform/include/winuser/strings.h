@@ -1,25 +1,33 @@
-/// @file strings.h
-/// Characters, formatted text and string resources.
+/// @file winuser/strings.h
+/// Characters of the code page in use, formatted text, and resource types and strings.
 #pragma once
 
 #include <stdarg.h>
+#include "../windef.h"
 
-WINUSERAPI LPSTR WINAPI CharNextA(LPCSTR text);
-WINUSERAPI LPSTR WINAPI CharPrevA(LPCSTR start, LPCSTR text);
-WINUSERAPI LPSTR WINAPI CharUpperA(LPSTR textOrChar);
-WINUSERAPI LPSTR WINAPI CharLowerA(LPSTR textOrChar);
-WINUSERAPI DWORD WINAPI CharUpperBuffA(LPSTR text, DWORD bytes);
-WINUSERAPI DWORD WINAPI CharLowerBuffA(LPSTR text, DWORD bytes);
+// --- characters
+
+WINUSERAPI LPSTR WINAPI CharNextA(LPCSTR current);
+WINUSERAPI LPSTR WINAPI CharPrevA(LPCSTR start, LPCSTR current);
+/// A pointer whose upper bits are 0 is a single character, which is converted and returned.
+WINUSERAPI LPSTR WINAPI CharUpperA(LPSTR text);
+WINUSERAPI LPSTR WINAPI CharLowerA(LPSTR text);
+WINUSERAPI DWORD WINAPI CharUpperBuffA(LPSTR text, DWORD length);
+WINUSERAPI DWORD WINAPI CharLowerBuffA(LPSTR text, DWORD length);
 WINUSERAPI BOOL WINAPI IsCharAlphaA(CHAR character);
 WINUSERAPI BOOL WINAPI IsCharAlphaNumericA(CHAR character);
 WINUSERAPI BOOL WINAPI IsCharUpperA(CHAR character);
 WINUSERAPI BOOL WINAPI IsCharLowerA(CHAR character);
 
-/// The output never exceeds 1024 bytes, terminator included.
-WINUSERAPI int wsprintfA(LPSTR buffer, LPCSTR format, ...);
-WINUSERAPI int WINAPI wvsprintfA(LPSTR buffer, LPCSTR format, va_list arguments);
+// --- formatted text, at most 1024 bytes with the final NUL
 
-WINUSERAPI int WINAPI LoadStringA(HINSTANCE module, UINT id, LPSTR buffer, int size);
+WINUSERAPI int wsprintfA(LPSTR target, LPCSTR format, ...);
+WINUSERAPI int WINAPI wvsprintfA(LPSTR target, LPCSTR format, va_list arguments);
+
+// --- resources
+
+#define IS_INTRESOURCE(name) ((((ULONG_PTR)(name)) >> 16) == 0)
+#define MAKEINTRESOURCEA(id) ((LPSTR)((ULONG_PTR)((WORD)(id))))
 
 #define RT_CURSOR MAKEINTRESOURCEA(1)
 #define RT_BITMAP MAKEINTRESOURCEA(2)
@@ -31,6 +39,29 @@ WINUSERAPI int WINAPI LoadStringA(HINSTANCE module, UINT id, LPSTR buffer, int s
 #define RT_FONT MAKEINTRESOURCEA(8)
 #define RT_ACCELERATOR MAKEINTRESOURCEA(9)
 #define RT_RCDATA MAKEINTRESOURCEA(10)
+#define RT_MESSAGETABLE MAKEINTRESOURCEA(11)
+#define DIFFERENCE 11
 #define RT_GROUP_CURSOR MAKEINTRESOURCEA(12)
 #define RT_GROUP_ICON MAKEINTRESOURCEA(14)
 #define RT_VERSION MAKEINTRESOURCEA(16)
+#define RT_DLGINCLUDE MAKEINTRESOURCEA(17)
+
+/// Returns the length without the NUL, or 0 when there is no such string; size 0 gives 0.
+WINUSERAPI int WINAPI LoadStringA(HINSTANCE module, UINT id, LPSTR buffer, int size);
+
+#ifndef CVPLATFORM_NO_GENERIC_NAMES
+#define CharLower CharLowerA
+#define CharLowerBuff CharLowerBuffA
+#define CharNext CharNextA
+#define CharPrev CharPrevA
+#define CharUpper CharUpperA
+#define CharUpperBuff CharUpperBuffA
+#define IsCharAlpha IsCharAlphaA
+#define IsCharAlphaNumeric IsCharAlphaNumericA
+#define IsCharLower IsCharLowerA
+#define IsCharUpper IsCharUpperA
+#define LoadString LoadStringA
+#define MAKEINTRESOURCE MAKEINTRESOURCEA
+#define wsprintf wsprintfA
+#define wvsprintf wvsprintfA
+#endif

@@ -9,6 +9,7 @@ namespace {
 constexpr int kBoxSize = 13;      // of check boxes and radio buttons
 constexpr int kBoxGap = 3;        // between a box and its text
 constexpr int kEdge = 2;          // width of the bevel
+constexpr int kSideGap = 2;       // between the bevel and text at a push button's side
 constexpr int kCaptionInset = 9;  // of a group box's text from its left edge
 constexpr int kCaptionGap = 2;    // that the frame keeps from the text
 
@@ -104,8 +105,9 @@ void DrawContents(const Painter& painter, const RECT& area) {
                       painter.client.right - kEdge, painter.client.bottom - kEdge);
     SetBkMode(painter.context, TRANSPARENT);
     SetTextColor(painter.context, GetSysColor(COLOR_BTNTEXT));
-    RECT place = PlaceText(painter, area, format);
-    DrawLabel(painter, place, format);
+    RECT within = area;
+    InflateRect(&within, format & DT_CENTER ? 0 : -kSideGap, 0);
+    DrawLabel(painter, PlaceText(painter, within, format), format);
     RestoreDC(painter.context, saved);
 }
 

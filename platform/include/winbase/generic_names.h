@@ -1,0 +1,39 @@
+/// @file winbase/generic_names.h
+/// The names without a letter, which mean the ANSI calls.
+#pragma once
+
+#define CreateEvent CreateEventA
+#define FindResource FindResourceA
+#define FindResourceEx FindResourceExA
+#define GetCommandLine GetCommandLineA
+#define GetComputerName GetComputerNameA
+#define GetEnvironmentVariable GetEnvironmentVariableA
+#define GetModuleFileName GetModuleFileNameA
+#define GetModuleHandle GetModuleHandleA
+#define GetPrivateProfileInt GetPrivateProfileIntA
+#define GetPrivateProfileSection GetPrivateProfileSectionA
+#define GetPrivateProfileString GetPrivateProfileStringA
+#define GetProfileInt GetProfileIntA
+#define GetProfileSection GetProfileSectionA
+#define GetProfileString GetProfileStringA
+#define GetStartupInfo GetStartupInfoA
+#define GetSystemDirectory GetSystemDirectoryA
+#define GetTempPath GetTempPathA
+#define GetVersionEx GetVersionExA
+#define GetWindowsDirectory GetWindowsDirectoryA
+#define IsBadStringPtr IsBadStringPtrA
+#define LoadLibrary LoadLibraryA
+#define OSVERSIONINFO OSVERSIONINFOA
+#define LPOSVERSIONINFO LPOSVERSIONINFOA
+#define OutputDebugString OutputDebugStringA
+#define STARTUPINFO STARTUPINFOA
+#define LPSTARTUPINFO LPSTARTUPINFOA
+#define SetEnvironmentVariable SetEnvironmentVariableA
+#define WritePrivateProfileString WritePrivateProfileStringA
+#define WriteProfileString WriteProfileStringA
+#define lstrcat lstrcatA
+#define lstrcmp lstrcmpA
+#define lstrcmpi lstrcmpiA
+#define lstrcpy lstrcpyA
+#define lstrcpyn lstrcpynA
+#define lstrlen lstrlenA
