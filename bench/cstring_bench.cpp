@@ -7,10 +7,11 @@
 
 namespace {
 
+/// Makes a text of range(0) characters, appends range(1) more and frees it.
 template <class String>
 void MakeAppendFree(benchmark::State& state) {
-    std::string const head(static_cast<std::size_t>(state.range(0)) / 2, 'a');
-    std::string const tail(static_cast<std::size_t>(state.range(0)) - head.size(), 'b');
+    std::string const head(static_cast<std::size_t>(state.range(0)), 'a');
+    std::string const tail(static_cast<std::size_t>(state.range(1)), 'b');
     char const* const first = head.c_str();
     char const* const second = tail.c_str();
     for (auto _ : state) {
@@ -30,8 +31,8 @@ void Sum(benchmark::State& state) {
     }
 }
 
-BENCHMARK(MakeAppendFree<CSTRING>)->Arg(24)->Arg(32)->Arg(48)->Arg(64);
-BENCHMARK(MakeAppendFree<std::string>)->Arg(24)->Arg(32)->Arg(48)->Arg(64);
+BENCHMARK(MakeAppendFree<CSTRING>)->ArgsProduct({{24, 32, 48, 64}, {8, 24}});
+BENCHMARK(MakeAppendFree<std::string>)->ArgsProduct({{24, 32, 48, 64}, {8, 24}});
 BENCHMARK(Sum<CSTRING>);
 BENCHMARK(Sum<std::string>);
 

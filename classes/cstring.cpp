@@ -9,6 +9,7 @@
 
 using charwalk::CharSize;
 using charwalk::CountBytes;
+using charwalk::HasNul;
 using charwalk::kAll;
 using charwalk::SkipChars;
 
@@ -28,11 +29,43 @@ struct OneCharacter {
 };
 
 char* NewBlock(std::uint64_t size) {
-    return size > 0xFFFFFFFF ? nullptr : new (std::nothrow) char[static_cast<std::size_t>(size)];
+    return size > 0xFFFFFFFF ? nullptr
+                             : static_cast<char*>(::operator new(static_cast<std::size_t>(size), std::nothrow));
+}
+
+void FreeBlock(char* block) {
+    ::operator delete(block);
+}
+
+/// Size of a new block for @p size bytes: a whole granule more than fits.
+std::uint64_t RoomySize(std::uint64_t size) {
+    return (size & ~std::uint64_t{kGranule - 1}) + kGranule;
+}
+
+/// Size of a block that grows to @p size bytes: the last granule filled up.
+std::uint64_t TightSize(std::uint64_t size) {
+    return (size + kGranule - 1) & ~std::uint64_t{kGranule - 1};
 }
 
 std::uint32_t Length(char const* text) {
     return static_cast<std::uint32_t>(std::strlen(text));
+}
+
+/// Copies bytes and tells whether there was no NUL among them: one pass where the text's length must be known anew.
+bool CopyText(char* to, char const* from, std::uint32_t count) {
+    std::uint32_t at = 0;
+    bool whole = true;
+    for (; count - at >= sizeof(std::uint64_t); at += sizeof(std::uint64_t)) {
+        std::uint64_t bytes;
+        std::memcpy(&bytes, from + at, sizeof bytes);
+        std::memcpy(to + at, &bytes, sizeof bytes);
+        whole &= !((bytes - 0x0101010101010101u) & ~bytes & 0x8080808080808080u);
+    }
+    for (; at < count; ++at) {
+        to[at] = from[at];
+        whole &= from[at] != 0;
+    }
+    return whole;
 }
 
 }  // namespace
@@ -45,7 +78,7 @@ void CSTRING::Init() {
 
 void CSTRING::Free() {
     if (BufLen) {
-        delete[] Buffer;
+        FreeBlock(Buffer);
         Init();
     }
 }
@@ -121,10 +154,10 @@ int CSTRING::Alloc(unsigned int size) {
         return BufLen >= size;
     }
     if (BufLen < size) {
-        std::uint64_t const wanted = std::uint64_t{size & ~(kGranule - 1)} + kGranule;
+        std::uint64_t const wanted = RoomySize(size);
         if (char* block = NewBlock(wanted)) {
             if (BufLen) {
-                delete[] Buffer;
+                FreeBlock(Buffer);
             }
             Buffer = block;
             BufLen = static_cast<std::uint32_t>(wanted);
@@ -142,7 +175,7 @@ int CSTRING::Resize(unsigned int size) {
     if (LockCount || BufLen >= size) {
         return BufLen >= size;
     }
-    std::uint64_t const wanted = (std::uint64_t{size} + kGranule - 1) & ~std::uint64_t{kGranule - 1};
+    std::uint64_t const wanted = TightSize(size);
     char* block = NewBlock(wanted);
     if (!block) {
         return 0;
@@ -152,7 +185,7 @@ int CSTRING::Resize(unsigned int size) {
     std::memcpy(block, Buffer, kept);
     std::memset(block + kept, 0, static_cast<std::size_t>(wanted) - kept);
     if (BufLen) {
-        delete[] Buffer;
+        FreeBlock(Buffer);
     }
     Buffer = block;
     BufLen = static_cast<std::uint32_t>(wanted);
@@ -171,9 +204,25 @@ void CSTRING::Copy(char const* source, unsigned int count) {
         CopyWithin(source, count);
         return;
     }
-    Alloc(count + 1);
-    if (BufLen <= count) {
-        return;
+    if (BufLen > count) {
+        std::memset(Buffer + count, 0, BufLen - count);
+    } else {
+        std::uint64_t const size = RoomySize(std::uint64_t{count} + 1);
+        char* const block = NewBlock(size);
+        if (!block) {
+            Alloc(0);
+            return;
+        }
+        if (BufLen) {
+            FreeBlock(Buffer);
+        }
+        Buffer = block;
+        BufLen = static_cast<std::uint32_t>(size);
+        // At most one byte more than a granule lies behind the text. Whole granules cost less than an exact length.
+        std::memset(block + size - kGranule, 0, kGranule);
+        if (size > kGranule) {
+            std::memset(block + size - 2 * kGranule, 0, kGranule);
+        }
     }
     std::memcpy(Buffer, source, count);
     StrLen = walked ? count : Length(Buffer);
@@ -200,23 +249,43 @@ void CSTRING::Concat(char const* source, unsigned int count) {
     if (LockCount) {
         return;
     }
-    if (count == kAll) {
+    bool const walked = count == kAll;
+    if (walked) {
         count = CountBytes(source, kAll);
     }
-    bool const own = source >= Buffer && source < Buffer + BufLen;
-    std::size_t const offset = own ? static_cast<std::size_t>(source - Buffer) : 0;
+    // Never read behind the own block, however much is asked for.
+    if (source >= Buffer && source < Buffer + BufLen) {
+        count = std::min(count, static_cast<std::uint32_t>(Buffer + BufLen - source));
+    }
     std::uint32_t const sum = ByteCount + count;
-    if (sum < count || !Resize(sum + 1) || BufLen <= sum) {
+    if (sum < count) {
         return;
     }
-    if (own) {
-        source = Buffer + offset;
-        count = std::min(count, static_cast<std::uint32_t>(BufLen - offset));
+    bool whole = walked || !HasNul(source, count);
+    if (BufLen > sum) {
+        whole = whole && !HasNul(Buffer, ByteCount);
+        if (count) {
+            std::memmove(Buffer + ByteCount, source, count);
+        }
+    } else {
+        std::uint64_t const size = TightSize(std::uint64_t{sum} + 1);
+        char* const block = NewBlock(size);
+        if (!block) {
+            return;
+        }
+        // The text ends in the last granule.
+        std::memset(block + size - kGranule, 0, kGranule);
+        whole = CopyText(block, Buffer, ByteCount) && whole;
+        if (count) {
+            std::memcpy(block + ByteCount, source, count);
+        }
+        if (BufLen) {
+            FreeBlock(Buffer);
+        }
+        Buffer = block;
+        BufLen = static_cast<std::uint32_t>(size);
     }
-    if (count) {
-        std::memmove(Buffer + ByteCount, source, count);
-    }
-    StrLen = Length(Buffer);
+    StrLen = whole && !Buffer[sum] ? sum : Length(Buffer);
     ByteCount = sum;
 }
 

@@ -139,10 +139,6 @@ CSTRING::operator unsigned long() {
     return GetStrLen();
 }
 
-int CSTRING::Compare(char const* text) {
-    return StandardEntry() ? lstrcmpA(Buffer, text) : 0;
-}
-
 int CSTRING::operator==(char const* text) {
     return Compare(text) == 0;
 }

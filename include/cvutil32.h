@@ -8,10 +8,13 @@
 #include "cvutil32/cvapi.h"
 
 #include "cvutil32/datectrl.h"
+#include "cvutil32/list.h"
 #include "cvutil32/scroll.h"
 #include "cvutil32/util.h"
 
 #ifdef __cplusplus
 #include "cvutil32/cbase.h"
+#include "cvutil32/cdatastr.h"
+#include "cvutil32/clist.h"
 #include "cvutil32/cstring.h"
 #endif

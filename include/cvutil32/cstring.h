@@ -234,12 +234,75 @@ class CVCLASS CSTRING : public CBASE {
     /// The length, as GetStrLen().
     operator unsigned long();
 
+    // --- editing; all of them work on the text in place
+
+    /// Small letters for capitals, as the code page in use pairs them.
+    CSTRING const& MakeLower();
+    /// Capitals for small letters.
+    CSTRING const& MakeUpper();
+
+    /// Takes characters out. The bytes behind the new end are not cleared: they come back with the next append, which
+    /// callers rely on.
+    /// @param pos  the first one; ~0 takes out the last @p count. At or behind the end nothing happens.
+    /// @param count  how many; more than there are, and ~0, are all of them.
+    CSTRING const& Delete(unsigned int pos, unsigned int count);
+
+    /// Inserts the beginning of a text.
+    /// @param text  ends at its first byte of 0x80 or above; null inserts nothing.
+    /// @param pos  the character to insert in front of; behind the end nothing happens.
+    /// @param count  characters of @p text; ~0 is all of them.
+    CSTRING const& Insert(char const* text, unsigned int pos, unsigned int count);
+
+    /// Inserts one character. A NUL and a byte of 0x80 or above insert nothing.
+    CSTRING const& Insert(char ch, unsigned int pos);
+
+    /// Replaces a byte by another one, everywhere or where it stands first.
+    ///
+    /// The length stays, also when @p to is NUL: that is how a text becomes a list of parts, which a NUL as @p from
+    /// turns back into a text (the last NUL before two of them stays its end).
+    CSTRING const& Replace(char from, char to, int all);
+
+    /// Overwrites characters with as many of a text.
+    /// @param pos  where to begin; with ~0 the last @p count characters are taken out and nothing is put in.
+    /// @param count  how many; fewer if either text ends before.
+    CSTRING const& Replace(char const* text, unsigned int pos, unsigned int count);
+
+    /// Replaces a text by another one, everywhere or where it is found first. The search goes on behind what was put in.
+    /// @param find  what Find() looks for; null and an empty text change nothing.
+    /// @param with  null changes nothing; an empty text takes out.
+    CSTRING const& Replace(char const* find, char const* with, int all);
+
+    // --- extracting; the results are new objects, empty ones of an invalid object
+
+    /// The first @p count characters.
+    CSTRING Left(unsigned int count) const;
+    /// @p count characters from @p pos on, as many as there are.
+    CSTRING Mid(unsigned int pos, unsigned int count) const;
+    /// The last @p count characters.
+    CSTRING Right(unsigned int count) const;
+
+    // --- searching, as the system's locale compares
+
+    /// Finds a character.
+    /// @param start  where to begin; ~0 looks for the last one in the whole text.
+    /// @return its position; ~0 if there is none; 0 on an invalid object.
+    unsigned int Find(char ch, unsigned int start);
+    /// Finds a text; an empty one is never found. Arguments and result as above.
+    unsigned int Find(char const* text, unsigned int start);
+    /// As Find(), in whatever case.
+    unsigned int FindNoCase(char ch, unsigned int start);
+    /// As Find(), in whatever case.
+    unsigned int FindNoCase(char const* text, unsigned int start);
+
     // --- comparison of the text
 
     /// Compares with a text as `lstrcmpA` does: in the word order of the user's locale, capitals apart from small
     /// letters.
     /// @return below 0, 0 or above 0; 0 on an invalid object, which therefore equals everything.
     int Compare(char const* text);
+
+    /// Compares as Compare() does, in whatever case.
+    int CompareNoCase(char const* text);
 
     /// Whether Compare() finds the texts equal.
     int operator==(char const* text);
@@ -254,6 +317,7 @@ class CVCLASS CSTRING : public CBASE {
     void Concat(char const* source, unsigned int count);
     void Free();
     void Init();
+    unsigned int Search(char const* text, unsigned int length, unsigned int start, unsigned long flags) const;
     int StandardEntry() const;
     void AutoUnlock();
 

@@ -4,6 +4,7 @@
 #include <atomic>
 #include <mutex>
 #include <new>
+#include <type_traits>
 
 namespace platform::base {
 namespace {
@@ -31,11 +32,10 @@ struct Table {
     std::uint32_t used = 0;
 };
 
-// Never destroyed: threads may still look handles up while the process ends.
-Table& TheTable() {
-    static Table& table = *new Table;
-    return table;
-}
+// Made before any code runs and never destroyed: look-ups pay for neither, and threads may still make them while the
+// process ends.
+constinit Table theTable;
+static_assert(std::is_trivially_destructible_v<Table>);
 
 Slot* SlotAt(Table& table, std::uint32_t index) {
     Slot* chunk = table.chunks[index / kChunkSlots].load(std::memory_order_acquire);
@@ -47,9 +47,9 @@ std::uint32_t Tag(std::uint32_t generation, HandleKind kind) {
 }
 
 Slot* LiveSlot(std::uint32_t handle, HandleKind kind) {
-    Slot* slot = SlotAt(TheTable(), handle & kSlotMask);
-    const bool live = slot && kind != HandleKind::None &&
-                      slot->tag.load(std::memory_order_acquire) == Tag(handle >> kSlotBits, kind);
+    Slot* slot = SlotAt(theTable, handle & kSlotMask);
+    const bool live =
+        slot && kind != HandleKind::None && slot->tag.load(std::memory_order_acquire) == Tag(handle >> kSlotBits, kind);
     return live ? slot : nullptr;
 }
 
@@ -80,7 +80,7 @@ std::uint32_t TakeSlot(Table& table) {
 }  // namespace
 
 std::uint32_t InsertHandle(HandleKind kind, void* object) {
-    Table& table = TheTable();
+    Table& table = theTable;
     const std::lock_guard guard(table.lock);
     const std::uint32_t index = TakeSlot(table);
     if (index == kNoSlot) {
@@ -91,7 +91,7 @@ std::uint32_t InsertHandle(HandleKind kind, void* object) {
     if (generation > kMostGeneration) {
         generation = 1;
     }
-    slot->object.store(object, std::memory_order_relaxed);
+    slot->object.store(object, std::memory_order_release);
     slot->tag.store(Tag(generation, kind), std::memory_order_release);
     table.counts[static_cast<std::size_t>(kind)].fetch_add(1, std::memory_order_relaxed);
     return generation << kSlotBits | index;
@@ -99,24 +99,29 @@ std::uint32_t InsertHandle(HandleKind kind, void* object) {
 
 void* FindHandle(std::uint32_t handle, HandleKind kind) {
     Slot* slot = LiveSlot(handle, kind);
-    return slot ? slot->object.load(std::memory_order_relaxed) : nullptr;
+    if (!slot) {
+        return nullptr;
+    }
+    // Between the two looks at the tag the slot may have passed to another object, which may be of another kind.
+    void* object = slot->object.load(std::memory_order_acquire);
+    return slot->tag.load(std::memory_order_relaxed) == Tag(handle >> kSlotBits, kind) ? object : nullptr;
 }
 
 HandleKind KindOfHandle(std::uint32_t handle) {
-    Slot* slot = SlotAt(TheTable(), handle & kSlotMask);
+    Slot* slot = SlotAt(theTable, handle & kSlotMask);
     const std::uint32_t tag = slot ? slot->tag.load(std::memory_order_acquire) : 0;
     return tag >> 8 == handle >> kSlotBits ? static_cast<HandleKind>(tag & 0xFF) : HandleKind::None;
 }
 
 void* RemoveHandle(std::uint32_t handle, HandleKind kind) {
-    Table& table = TheTable();
+    Table& table = theTable;
     const std::lock_guard guard(table.lock);
     Slot* slot = LiveSlot(handle, kind);
     if (!slot) {
         return nullptr;
     }
-    void* object = slot->object.exchange(nullptr, std::memory_order_relaxed);
     slot->tag.store(Tag(handle >> kSlotBits, HandleKind::None), std::memory_order_release);
+    void* object = slot->object.exchange(nullptr, std::memory_order_release);
     table.counts[static_cast<std::size_t>(kind)].fetch_sub(1, std::memory_order_relaxed);
     const std::uint32_t index = handle & kSlotMask;
     slot->nextFree = kNoSlot;
@@ -129,12 +134,21 @@ void* RemoveHandle(std::uint32_t handle, HandleKind kind) {
     return object;
 }
 
+bool ReplaceHandle(std::uint32_t handle, HandleKind kind, void* object) {
+    const std::lock_guard guard(theTable.lock);
+    Slot* slot = LiveSlot(handle, kind);
+    if (slot) {
+        slot->object.store(object, std::memory_order_release);
+    }
+    return slot != nullptr;
+}
+
 std::size_t CountHandles(HandleKind kind) {
-    return TheTable().counts[static_cast<std::size_t>(kind)].load(std::memory_order_relaxed);
+    return theTable.counts[static_cast<std::size_t>(kind)].load(std::memory_order_relaxed);
 }
 
 void ForEachHandle(HandleKind kind, void (*visit)(std::uint32_t, void*, void*), void* context) {
-    Table& table = TheTable();
+    Table& table = theTable;
     for (std::uint32_t index = 0; Slot* slot = SlotAt(table, index); ++index) {
         const std::uint32_t tag = slot->tag.load(std::memory_order_acquire);
         void* object = slot->object.load(std::memory_order_relaxed);

@@ -5,27 +5,18 @@
 
 #include "windef.h"
 
-enum CvPlatformKind {
+typedef enum CvPlatformKind {
     CV_PLATFORM_GLOBAL_BLOCKS,
     CV_PLATFORM_WINDOWS,
-    CV_PLATFORM_MENUS,
     /// Device contexts, pens, brushes, fonts, bitmaps and regions together.
     CV_PLATFORM_GDI_OBJECTS,
-    CV_PLATFORM_ICONS,
-    CV_PLATFORM_IMAGE_LISTS,
-    CV_PLATFORM_FILES,
-    CV_PLATFORM_REGISTRY_KEYS,
-    CV_PLATFORM_THREADS,
-    CV_PLATFORM_EVENTS,
-};
+    /// Threads, events, files, find handles and registry keys together.
+    CV_PLATFORM_OTHER_HANDLES,
+} CvPlatformKind;
 
 /// @returns how many objects of a kind are alive in the process; 0 for an unknown kind.
-WINBASEAPI size_t CvPlatformCount(enum CvPlatformKind kind);
+WINBASEAPI size_t CvPlatformCount(CvPlatformKind kind);
 
 /// Makes one of the following GlobalAlloc and GlobalReAlloc calls of the process fail with ERROR_NOT_ENOUGH_MEMORY: 1
 /// means the next one, 2 the one after it, and so on. 0 takes the order back. It holds once.
 WINBASEAPI void CvPlatformFailAllocation(unsigned count);
-
-/// @returns how many GlobalAlloc and GlobalReAlloc calls the process has made, so that a test can fail each one in
-/// turn.
-WINBASEAPI size_t CvPlatformAllocationCount(void);

@@ -113,6 +113,9 @@ WINBASEAPI BOOL WINAPI WritePrivateProfileStringA(LPCSTR section, LPCSTR key, LP
 
 // --- modules and resources (the RT_ types and LoadStringA are in winuser.h)
 
+#define MAKEINTRESOURCEA(id) ((LPSTR)(ULONG_PTR)(WORD)(id))
+#define IS_INTRESOURCE(name) (((ULONG_PTR)(name) >> 16) == 0)
+
 WINBASEAPI HMODULE WINAPI GetModuleHandleA(LPCSTR name);
 WINBASEAPI DWORD WINAPI GetModuleFileNameA(HMODULE module, LPSTR buffer, DWORD size);
 WINBASEAPI HMODULE WINAPI LoadLibraryA(LPCSTR name);
@@ -126,6 +129,21 @@ WINBASEAPI HGLOBAL WINAPI LoadResource(HMODULE module, HRSRC resource);
 WINBASEAPI LPVOID WINAPI LockResource(HGLOBAL data);
 WINBASEAPI DWORD WINAPI SizeofResource(HMODULE module, HRSRC resource);
 WINBASEAPI BOOL WINAPI FreeResource(HGLOBAL data);
+
+// --- atoms
+
+#define MAKEINTATOM(number) ((LPSTR)(ULONG_PTR)(WORD)(number))
+#define MAXINTATOM 0xC000
+#define INVALID_ATOM ((ATOM)0)
+
+WINBASEAPI ATOM WINAPI GlobalAddAtomA(LPCSTR text);
+WINBASEAPI ATOM WINAPI GlobalFindAtomA(LPCSTR text);
+WINBASEAPI ATOM WINAPI GlobalDeleteAtom(ATOM atom);
+WINBASEAPI UINT WINAPI GlobalGetAtomNameA(ATOM atom, LPSTR buffer, int size);
+WINBASEAPI ATOM WINAPI AddAtomA(LPCSTR text);
+WINBASEAPI ATOM WINAPI FindAtomA(LPCSTR text);
+WINBASEAPI ATOM WINAPI DeleteAtom(ATOM atom);
+WINBASEAPI UINT WINAPI GetAtomNameA(ATOM atom, LPSTR buffer, int size);
 
 // --- threads
 
@@ -172,11 +190,22 @@ WINBASEAPI BOOL WINAPI TryEnterCriticalSection(LPCRITICAL_SECTION section);
 WINBASEAPI void WINAPI LeaveCriticalSection(LPCRITICAL_SECTION section);
 WINBASEAPI void WINAPI DeleteCriticalSection(LPCRITICAL_SECTION section);
 
-WINBASEAPI LONG WINAPI InterlockedIncrement(LONG volatile* value);
-WINBASEAPI LONG WINAPI InterlockedDecrement(LONG volatile* value);
-WINBASEAPI LONG WINAPI InterlockedExchange(LONG volatile* target, LONG value);
-WINBASEAPI LONG WINAPI InterlockedExchangeAdd(LONG volatile* target, LONG value);
-WINBASEAPI LONG WINAPI InterlockedCompareExchange(LONG volatile* target, LONG exchange, LONG comparand);
+static inline LONG InterlockedIncrement(LONG volatile* value) {
+    return __atomic_add_fetch(value, 1, __ATOMIC_SEQ_CST);
+}
+static inline LONG InterlockedDecrement(LONG volatile* value) {
+    return __atomic_sub_fetch(value, 1, __ATOMIC_SEQ_CST);
+}
+static inline LONG InterlockedExchange(LONG volatile* target, LONG value) {
+    return __atomic_exchange_n(target, value, __ATOMIC_SEQ_CST);
+}
+static inline LONG InterlockedExchangeAdd(LONG volatile* target, LONG value) {
+    return __atomic_fetch_add(target, value, __ATOMIC_SEQ_CST);
+}
+static inline LONG InterlockedCompareExchange(LONG volatile* target, LONG exchange, LONG comparand) {
+    __atomic_compare_exchange_n(target, &comparand, exchange, 0, __ATOMIC_SEQ_CST, __ATOMIC_SEQ_CST);
+    return comparand;
+}
 
 // --- process
 
@@ -272,3 +301,6 @@ WINBASEAPI BOOL WINAPI GetComputerNameA(LPSTR buffer, LPDWORD size);
 WINBASEAPI UINT WINAPI GetWindowsDirectoryA(LPSTR buffer, UINT size);
 WINBASEAPI UINT WINAPI GetSystemDirectoryA(LPSTR buffer, UINT size);
 WINBASEAPI DWORD WINAPI GetTempPathA(DWORD size, LPSTR buffer);
+
+/// Where a Windows application starts.
+CVPLATFORM_EXTERN_C int WINAPI WinMain(HINSTANCE instance, HINSTANCE previous, LPSTR commandLine, int show);

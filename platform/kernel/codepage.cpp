@@ -8,24 +8,42 @@
 #include <map>
 #include <mutex>
 #include <new>
+#include <string>
 
 #include "base/report.h"
+#include "kernel/profile.h"
 
 namespace platform::kernel {
 namespace {
 
 struct PageName {
     UINT number;
+    UINT oem;  ///< the page of consoles that goes with it; 0 for those that are such pages themselves
     const char* converter;
 };
 
 constexpr PageName kPages[] = {
-    {1252, "ibm-5348_P100-1997"}, {1250, "ibm-5346_P100-1998"}, {1251, "ibm-5347_P100-1998"}, {1253, "ibm-5349_P100-1998"},
-    {1254, "ibm-5350_P100-1998"}, {1257, "ibm-9449_P100-2002"}, {437, "ibm-437_P100-1995"},   {850, "ibm-850_P100-1995"},
-    {932, "ibm-943_P15A-2003"},   {936, "windows-936-2000"},    {949, "windows-949-2000"},    {950, "windows-950-2000"},
+    {1252, 437, "ibm-5348_P100-1997"}, {1250, 852, "ibm-5346_P100-1998"}, {1251, 866, "ibm-5347_P100-1998"},
+    {1253, 737, "ibm-5349_P100-1998"}, {1254, 857, "ibm-5350_P100-1998"}, {1255, 862, "ibm-9447_P100-2002"},
+    {1256, 720, "ibm-9448_X100-2005"}, {1257, 775, "ibm-9449_P100-2002"}, {1258, 1258, "ibm-5354_P100-1998"},
+    {874, 874, "windows-874-2000"},    {932, 932, "ibm-943_P15A-2003"},   {936, 936, "windows-936-2000"},
+    {949, 949, "windows-949-2000"},    {950, 950, "windows-950-2000"},    {437, 0, "ibm-437_P100-1995"},
+    {850, 0, "ibm-850_P100-1995"},     {852, 0, "ibm-852_P100-1995"},     {866, 0, "ibm-866_P100-1995"},
+    {737, 0, "ibm-737_P100-1997"},     {857, 0, "ibm-857_P100-1995"},     {862, 0, "ibm-862_P100-1995"},
+    {720, 0, "ibm-720_P100-1997"},     {775, 0, "ibm-775_P100-1996"},
 };
 
+const PageName* NameOf(UINT number) {
+    for (const PageName& name : kPages) {
+        if (name.number == number) {
+            return &name;
+        }
+    }
+    return nullptr;
+}
+
 constexpr char16_t kNoCharacter = 0xFFFD;
+constexpr UINT kWestern = 1252;
 
 struct Range {
     unsigned char first, last;
@@ -72,15 +90,14 @@ void FillCase(CodePage& page) {
         if (u_islower(character)) {
             page.kind[byte] |= CodePage::kLower;
         }
-        const auto upper = static_cast<char16_t>(u_toupper(character));
-        const auto lower = static_cast<char16_t>(u_tolower(character));
-        for (int other = 0; other < 256; ++other) {
-            if (page.single[other] == upper && !page.lead[other]) {
-                page.upper[byte] = static_cast<std::uint8_t>(other);
-            }
-            if (page.single[other] == lower && !page.lead[other]) {
-                page.lower[byte] = static_cast<std::uint8_t>(other);
-            }
+        // A letter whose other case the page lacks keeps its own.
+        const std::uint16_t upper = page.fromUnicode[static_cast<char16_t>(u_toupper(character))];
+        const std::uint16_t lower = page.fromUnicode[static_cast<char16_t>(u_tolower(character))];
+        if (upper != 0 && upper <= 0xFF) {
+            page.upper[byte] = static_cast<std::uint8_t>(upper);
+        }
+        if (lower != 0 && lower <= 0xFF) {
+            page.lower[byte] = static_cast<std::uint8_t>(lower);
         }
     }
 }
@@ -101,9 +118,9 @@ std::unique_ptr<CodePage> Build(const PageName& name) {
     }
     for (int byte = 0; byte < 256; ++byte) {
         const char one = static_cast<char>(byte);
-        page->single[byte] = byte < 0x80          ? static_cast<char16_t>(byte)
+        page->single[byte] = byte < 0x80        ? static_cast<char16_t>(byte)
                              : page->lead[byte] ? kNoCharacter
-                                                  : Convert(converter, &one, 1);
+                                                : Convert(converter, &one, 1);
         if (page->single[byte] != kNoCharacter) {
             page->fromUnicode[page->single[byte]] = static_cast<std::uint16_t>(byte);
         }
@@ -139,17 +156,24 @@ std::unique_ptr<CodePage> Latin() {
     return page;
 }
 
+// The environment comes before win.ini's [cvutil32] codepage. Only a page that can be an ANSI page can be chosen.
 UINT ChosenPage() {
-    const char* chosen = std::getenv("CVUTIL32_CODEPAGE");
-    return chosen ? static_cast<UINT>(std::strtoul(chosen, nullptr, 10)) : 1252;
+    const char* variable = std::getenv("CVUTIL32_CODEPAGE");
+    const std::string chosen = variable ? variable : WinIniValue("cvutil32", "codepage").value_or(std::string());
+    return chosen.empty() ? kWestern : static_cast<UINT>(std::strtoul(chosen.c_str(), nullptr, 10));
 }
 
 const CodePage* MakeActive() {
-    if (const CodePage* page = FindCodePage(ChosenPage())) {
-        return page;
+    try {
+        const PageName* name = NameOf(ChosenPage());
+        const CodePage* page = name && name->oem ? FindCodePage(name->number) : nullptr;
+        if (page) {
+            return page;
+        }
+    } catch (const std::bad_alloc&) {
     }
     base::ReportOnce("the chosen code page cannot be had; code page 1252 is used");
-    const CodePage* western = FindCodePage(1252);
+    const CodePage* western = FindCodePage(kWestern);
     return western ? western : Latin().release();
 }
 
@@ -165,25 +189,25 @@ char16_t CodePage::Decode(const unsigned char* text, std::size_t left, std::size
 }
 
 const CodePage* FindCodePage(UINT number) {
-    if (number == CP_ACP || number == CP_OEMCP) {
+    if (number == CP_ACP || number == CP_THREAD_ACP) {
         return &ActiveCodePage();
     }
     static std::mutex lock;
     static auto& built = *new std::map<UINT, std::unique_ptr<CodePage>>;
+    const PageName* name = NameOf(number == CP_OEMCP ? GetOEMCP() : number);
+    if (!name) {
+        return nullptr;
+    }
     const std::lock_guard guard(lock);
-    const auto found = built.find(number);
-    if (found != built.end()) {
-        return found->second.get();
-    }
     try {
-        for (const PageName& name : kPages) {
-            if (name.number == number) {
-                return (built[number] = Build(name)).get();
-            }
+        std::unique_ptr<CodePage>& page = built[name->number];
+        if (!page) {
+            page = Build(*name);
         }
+        return page.get();
     } catch (const std::bad_alloc&) {
+        return nullptr;
     }
-    return nullptr;
 }
 
 const CodePage& ActiveCodePage() {
@@ -202,11 +226,12 @@ UINT WINAPI GetACP(void) {
 }
 
 UINT WINAPI GetOEMCP(void) {
-    return GetACP();
+    const platform::kernel::PageName* name = platform::kernel::NameOf(GetACP());
+    return name && name->oem ? name->oem : 437;
 }
 
 BOOL WINAPI IsValidCodePage(UINT codePage) {
-    return codePage == CP_UTF8 || (codePage > CP_OEMCP && FindCodePage(codePage));
+    return codePage == CP_UTF8 || platform::kernel::NameOf(codePage) != nullptr;
 }
 
 BOOL WINAPI GetCPInfo(UINT codePage, LPCPINFO info) {

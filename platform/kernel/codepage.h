@@ -15,12 +15,13 @@ struct CodePage {
     UINT number = 1252;
     bool doubleByte = false;
     std::array<bool, 256> lead{};
-    std::array<char16_t, 256> single{};      ///< what a byte means by itself; 0xFFFD for none
-    std::vector<char16_t> pairs;             ///< double-byte pages: by lead << 8 | trail; 0xFFFD for none
-    std::vector<std::uint16_t> fromUnicode;  ///< bytes (lead << 8 | trail, or the single byte) by UTF-16 unit; 0 for none
-    std::array<std::uint8_t, 256> upper{};   ///< case of single bytes
+    std::array<char16_t, 256> single{};  ///< what a byte means by itself; 0xFFFD for none
+    std::vector<char16_t> pairs;         ///< double-byte pages: by lead << 8 | trail; 0xFFFD for none
+    std::vector<std::uint16_t>
+        fromUnicode;  ///< bytes (lead << 8 | trail, or the single byte) by UTF-16 unit; 0 for none
+    std::array<std::uint8_t, 256> upper{};  ///< case of single bytes
     std::array<std::uint8_t, 256> lower{};
-    std::array<std::uint8_t, 256> kind{};    ///< kAlpha | kDigit | kUpper | kLower
+    std::array<std::uint8_t, 256> kind{};  ///< kAlpha | kDigit | kUpper | kLower
 
     static constexpr std::uint8_t kAlpha = 1, kDigit = 2, kUpper = 4, kLower = 8;
 
@@ -28,7 +29,8 @@ struct CodePage {
     char16_t Decode(const unsigned char* text, std::size_t left, std::size_t* size) const;
 };
 
-/// @returns the tables of a page (CP_ACP and CP_OEMCP are the active one), or null when the page is not supported.
+/// @returns the tables of a page (CP_ACP and CP_THREAD_ACP are the one in use, CP_OEMCP the one of consoles), or null
+/// when the page is not supported.
 const CodePage* FindCodePage(UINT number);
 
 /// @returns the tables of the page in use; never null.

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <cstring>
+#include <utility>
 
 #include "kernel/codepage.h"
 #include "kernel/weights.h"
@@ -36,88 +37,120 @@ const Tables& TheTables() {
     return tables;
 }
 
-// Hands out the weights of a text one by one, without those that the flags leave out.
-class Reader {
-  public:
-    Reader(const Tables& tables, LPCSTR text, std::size_t size, DWORD flags)
-        : tables_(tables), at_(reinterpret_cast<const unsigned char*>(text)), end_(at_ + size), flags_(flags) {}
-
-    /// @returns the next weight that is compared, or one with primary 0 at the end. Specials that were passed are added to
-    /// `specials`, a number that grows with their weight and place.
-    Weight Next() {
-        for (;;) {
-            Weight weight;
-            if (pending_) {
-                weight = second_;
-                pending_ = false;
-            } else if (at_ == end_) {
-                return {};
-            } else {
-                weight = Read();
-            }
-            ++place_;
-            if (weight.symbol && (flags_ & NORM_IGNORESYMBOLS)) {
-                continue;
-            }
-            if (weight.special && !(flags_ & SORT_STRINGSORT)) {
-                --place_;
-                if (!firstSpecial_) {
-                    firstSpecial_ = weight.special;
-                    firstPlace_ = place_;
-                }
-                specials_ = specials_ * 1000003 + place_ * 7 + weight.special;
-                continue;
-            }
-            if (weight.primary) {
-                return weight;
-            }
-            --place_;
-        }
-    }
-
-    std::uint64_t specials() const { return specials_; }
-    std::uint32_t firstSpecial() const { return firstSpecial_; }
-    std::uint32_t firstPlace() const { return firstPlace_; }
-
-  private:
-    Weight Read() {
-        const Weights* weights = &tables_.weights[*at_];
-        Weights pair;
-        if (tables_.page.lead[*at_] && at_ + 1 < end_) {
-            pair = platform::kernel::WeightsOf(tables_.page.pairs[at_[0] << 8 | at_[1]]);
-            weights = &pair;
-            ++at_;
-        }
-        ++at_;
-        second_ = weights->second;
-        pending_ = weights->expands;
-        return weights->first;
-    }
-
-    const Tables& tables_;
-    const unsigned char* at_;
-    const unsigned char* end_;
-    DWORD flags_;
-    Weight second_;
-    bool pending_ = false;
-    std::uint32_t place_ = 0;
-    std::uint32_t firstSpecial_ = 0;
-    std::uint32_t firstPlace_ = 0;
-    std::uint64_t specials_ = 0;
+struct Text {
+    const unsigned char* at;
+    const unsigned char* end;
 };
 
 int Order(std::uint64_t first, std::uint64_t second) {
     return first < second ? CSTR_LESS_THAN : first > second ? CSTR_GREATER_THAN : CSTR_EQUAL;
 }
 
-int CompareWeights(const Tables& tables, LPCSTR first, std::size_t firstSize, LPCSTR second, std::size_t secondSize,
-                   DWORD flags) {
-    Reader a(tables, first, firstSize, flags);
-    Reader b(tables, second, secondSize, flags);
-    std::uint8_t caseMask = 0xFF;
-    caseMask &= flags & NORM_IGNORECASE ? ~Weight::kUpper : 0xFF;
-    caseMask &= flags & NORM_IGNOREKANATYPE ? ~Weight::kKatakana : 0xFF;
-    caseMask &= flags & NORM_IGNOREWIDTH ? ~Weight::kWide : 0xFF;
+// Hands out the weights of a text one by one.
+class Reader {
+  public:
+    Reader(const Tables& tables, Text text, DWORD flags) : tables_(tables), text_(text), flags_(flags) {}
+
+    /// @returns the next weight that letters, accents and case are compared by; one with primary 0 at the end.
+    Weight Next() {
+        Weight weight;
+        while (Step(weight)) {
+            if (IsSpecial(weight)) {
+                sawSpecial_ = true;
+            } else if (weight.primary && !IsIgnored(weight)) {
+                return weight;
+            }
+        }
+        return {};
+    }
+
+    /// @returns the next hyphen or apostrophe and how many compared weights stand before it; {0, 0} at the end.
+    std::pair<std::uint32_t, std::uint8_t> NextSpecial() {
+        Weight weight;
+        while (Step(weight)) {
+            if (IsSpecial(weight)) {
+                return {place_, weight.special};
+            }
+            place_ += weight.primary && !IsIgnored(weight);
+        }
+        return {0, 0};
+    }
+
+    bool sawSpecial() const {
+        return sawSpecial_;
+    }
+
+  private:
+    bool IsIgnored(const Weight& weight) const {
+        return weight.symbol && (flags_ & NORM_IGNORESYMBOLS);
+    }
+    bool IsSpecial(const Weight& weight) const {
+        return weight.special && !(flags_ & SORT_STRINGSORT) && !IsIgnored(weight);
+    }
+
+    bool Step(Weight& weight) {
+        if (pending_) {
+            pending_ = false;
+            weight = second_;
+            return true;
+        }
+        if (text_.at == text_.end) {
+            return false;
+        }
+        const unsigned char first = *text_.at++;
+        const Weights* weights = &tables_.weights[first];
+        Weights pair;
+        if (tables_.page.lead[first] && text_.at < text_.end) {
+            const auto bytes = static_cast<std::uint16_t>(first << 8 | *text_.at++);
+            pair = platform::kernel::WeightsOf(tables_.page.pairs[bytes], bytes);
+            weights = &pair;
+        }
+        weight = weights->first;
+        if (weights->expands) {
+            second_ = weights->second;
+            pending_ = true;
+        }
+        return true;
+    }
+
+    const Tables& tables_;
+    Text text_;
+    DWORD flags_;
+    Weight second_;
+    bool pending_ = false;
+    bool sawSpecial_ = false;
+    std::uint32_t place_ = 0;
+};
+
+// A text without a hyphen or apostrophe comes before one with; else the earlier one, then the lighter one decides.
+int CompareSpecials(Reader first, Reader second) {
+    for (;;) {
+        const auto x = first.NextSpecial();
+        const auto y = second.NextSpecial();
+        if (x != y) {
+            if (!x.second || !y.second) {
+                return x.second ? CSTR_GREATER_THAN : CSTR_LESS_THAN;
+            }
+            return x < y ? CSTR_LESS_THAN : CSTR_GREATER_THAN;
+        }
+        if (!x.second) {
+            return CSTR_EQUAL;
+        }
+    }
+}
+
+std::uint8_t CaseMask(DWORD flags) {
+    int mask = 0xFF;
+    mask &= flags & NORM_IGNORECASE ? ~Weight::kUpper : 0xFF;
+    mask &= flags & NORM_IGNOREKANATYPE ? ~Weight::kKatakana : 0xFF;
+    mask &= flags & NORM_IGNOREWIDTH ? ~Weight::kWide : 0xFF;
+    return static_cast<std::uint8_t>(mask);
+}
+
+int CompareWeights(const Tables& tables, Text first, Text second, DWORD flags) {
+    Reader a(tables, first, flags);
+    Reader b(tables, second, flags);
+    const std::uint8_t caseMask = CaseMask(flags);
     int accents = CSTR_EQUAL;
     int cases = CSTR_EQUAL;
     for (;;) {
@@ -142,46 +175,53 @@ int CompareWeights(const Tables& tables, LPCSTR first, std::size_t firstSize, LP
     if (cases != CSTR_EQUAL) {
         return cases;
     }
-    if (a.specials() == b.specials()) {
+    if (!a.sawSpecial() && !b.sawSpecial()) {
         return CSTR_EQUAL;
     }
-    // A text without a hyphen or apostrophe comes before one with; else the earlier one, then the lighter one decides.
-    if (!a.firstSpecial() || !b.firstSpecial()) {
-        return a.firstSpecial() ? CSTR_GREATER_THAN : CSTR_LESS_THAN;
-    }
-    if (a.firstPlace() != b.firstPlace()) {
-        return a.firstPlace() < b.firstPlace() ? CSTR_LESS_THAN : CSTR_GREATER_THAN;
-    }
-    if (a.firstSpecial() != b.firstSpecial()) {
-        return Order(a.firstSpecial(), b.firstSpecial());
-    }
-    return Order(a.specials(), b.specials());
+    return CompareSpecials(Reader(tables, first, flags), Reader(tables, second, flags));
 }
 
-// Texts that begin with the same plain letters and digits are told apart by the first different ones, if these are plain too.
-// Only whole texts of them need no second look: what follows may weigh less than the case of what came before.
-int CompareTexts(LPCSTR first, std::size_t firstSize, LPCSTR second, std::size_t secondSize, DWORD flags) {
+// Texts that begin with the same plain letters and digits are told apart by the first different ones, if these are
+// plain too; whole texts of them also by their length and then their case. Everything else needs the weights.
+int CompareTexts(Text first, Text second, DWORD flags) {
     const Tables& tables = TheTables();
-    const auto* x = reinterpret_cast<const unsigned char*>(first);
-    const auto* y = reinterpret_cast<const unsigned char*>(second);
-    const std::size_t common = firstSize < secondSize ? firstSize : secondSize;
-    bool sameCase = true;
-    std::size_t i = 0;
-    for (; i < common; ++i) {
-        const std::uint8_t a = tables.simple[x[i]];
-        const std::uint8_t b = tables.simple[y[i]];
+    int cases = CSTR_EQUAL;
+    const unsigned char* x = first.at;
+    const unsigned char* y = second.at;
+    for (; x != first.end && y != second.end; ++x, ++y) {
+        const std::uint8_t a = tables.simple[*x];
+        const std::uint8_t b = tables.simple[*y];
         if (!a || !b) {
-            break;
+            return CompareWeights(tables, first, second, flags);
         }
         if (a != b) {
             return a < b ? CSTR_LESS_THAN : CSTR_GREATER_THAN;
         }
-        sameCase = sameCase && x[i] == y[i];
+        if (*x != *y && cases == CSTR_EQUAL) {
+            // Small letters come first, though their codes are higher.
+            cases = *x > *y ? CSTR_LESS_THAN : CSTR_GREATER_THAN;
+        }
     }
-    if (i == firstSize && i == secondSize && (sameCase || (flags & NORM_IGNORECASE))) {
-        return CSTR_EQUAL;
+    if (x == first.end && y == second.end) {
+        return flags & NORM_IGNORECASE ? CSTR_EQUAL : cases;
     }
-    return CompareWeights(tables, first, firstSize, second, secondSize, flags);
+    if (x == first.end ? tables.simple[*y] : tables.simple[*x]) {
+        return x == first.end ? CSTR_LESS_THAN : CSTR_GREATER_THAN;
+    }
+    return CompareWeights(tables, first, second, flags);
+}
+
+Text MakeText(LPCSTR text, int size) {
+    const auto* at = reinterpret_cast<const unsigned char*>(text);
+    return {at, at + (size < 0 ? std::strlen(text) : static_cast<std::size_t>(size))};
+}
+
+// A null text comes before all others; two of them are equal.
+int CompareOrdered(LPCSTR first, LPCSTR second, DWORD flags) {
+    if (!first || !second) {
+        return first ? 1 : second ? -1 : 0;
+    }
+    return CompareTexts(MakeText(first, -1), MakeText(second, -1), flags) - CSTR_EQUAL;
 }
 
 }  // namespace
@@ -197,21 +237,8 @@ int WINAPI CompareStringA(LCID locale, DWORD flags, LPCSTR first, int firstSize,
         SetLastError(ERROR_INVALID_PARAMETER);
         return 0;
     }
-    return CompareTexts(first, firstSize < 0 ? std::strlen(first) : static_cast<std::size_t>(firstSize), second,
-                        secondSize < 0 ? std::strlen(second) : static_cast<std::size_t>(secondSize), flags);
+    return CompareTexts(MakeText(first, firstSize), MakeText(second, secondSize), flags);
 }
-
-namespace {
-
-// A null text comes before all others; two of them are equal.
-int CompareOrdered(LPCSTR first, LPCSTR second, DWORD flags) {
-    if (!first || !second) {
-        return first ? 1 : second ? -1 : 0;
-    }
-    return CompareTexts(first, std::strlen(first), second, std::strlen(second), flags) - CSTR_EQUAL;
-}
-
-}  // namespace
 
 int WINAPI lstrcmpA(LPCSTR first, LPCSTR second) {
     return CompareOrdered(first, second, 0);

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
-#include <string>
 
 namespace {
 
@@ -114,21 +113,29 @@ LPCSTR ReadConversion(LPCSTR format, Conversion& how) {
     return format;
 }
 
-void PutWide(Output& out, const Conversion& how, LPCWSTR text) {
-    const int size = WideCharToMultiByte(CP_ACP, 0, text, -1, nullptr, 0, nullptr, nullptr);
-    std::string narrow(static_cast<std::size_t>(std::max(size, 1)), '\0');
-    WideCharToMultiByte(CP_ACP, 0, text, -1, narrow.data(), size, nullptr, nullptr);
-    const std::size_t length = std::strlen(narrow.c_str());
-    PutField(out, how, narrow.c_str(),
-             how.precision >= 0 ? std::min<std::size_t>(length, static_cast<std::size_t>(how.precision)) : length);
-}
-
 void PutText(Output& out, const Conversion& how, LPCSTR text) {
     if (!text) {
         text = "(null)";
     }
     PutField(out, how, text,
              how.precision >= 0 ? strnlen(text, static_cast<std::size_t>(how.precision)) : std::strlen(text));
+}
+
+void PutWide(Output& out, const Conversion& how, LPCWSTR text) {
+    if (!text) {
+        PutText(out, how, nullptr);
+        return;
+    }
+    // More than the whole output can hold is not looked at; every unit is at most two bytes of an ANSI page.
+    char narrow[2 * kMostBytes + 1];
+    int units = 0;
+    while (units < static_cast<int>(kMostBytes) && text[units]) {
+        ++units;
+    }
+    const int size =
+        units ? WideCharToMultiByte(CP_ACP, 0, text, units, narrow, sizeof narrow - 1, nullptr, nullptr) : 0;
+    narrow[size] = '\0';
+    PutText(out, how, narrow);
 }
 
 }  // namespace
@@ -156,8 +163,9 @@ int WINAPI wvsprintfA(LPSTR buffer, LPCSTR format, va_list arguments) {
             case 'i': {
                 int value = va_arg(values, int);
                 value = how.size == 'h' ? static_cast<short>(value) : value;
-                const std::uint64_t magnitude = value < 0 ? std::uint64_t{0} - static_cast<std::uint64_t>(std::int64_t{value})
-                                                          : static_cast<std::uint64_t>(value);
+                const std::uint64_t magnitude = value < 0
+                                                    ? std::uint64_t{0} - static_cast<std::uint64_t>(std::int64_t{value})
+                                                    : static_cast<std::uint64_t>(value);
                 PutNumber(out, how, magnitude, 10, false, value < 0 ? "-" : "");
                 break;
             }
@@ -182,7 +190,8 @@ int WINAPI wvsprintfA(LPSTR buffer, LPCSTR format, va_list arguments) {
                 std::size_t size = 1;
                 if ((kind == 'C') != (how.size == 'l') && how.size != 'h') {
                     const WCHAR wide = static_cast<WCHAR>(value);
-                    size = static_cast<std::size_t>(WideCharToMultiByte(CP_ACP, 0, &wide, 1, text, 4, nullptr, nullptr));
+                    size =
+                        static_cast<std::size_t>(WideCharToMultiByte(CP_ACP, 0, &wide, 1, text, 4, nullptr, nullptr));
                 }
                 PutField(out, how, text, size);
                 break;

@@ -69,9 +69,8 @@ IniFile::IniFile(std::string_view text) {
 }
 
 std::size_t IniFile::SectionStart(std::string_view section) const {
-    const auto found = std::find_if(lines_.begin(), lines_.end(), [&](const Line& line) {
-        return line.isSection && SameName(line.name, section);
-    });
+    const auto found = std::find_if(lines_.begin(), lines_.end(),
+                                    [&](const Line& line) { return line.isSection && SameName(line.name, section); });
     return static_cast<std::size_t>(found - lines_.begin());
 }
 
@@ -123,6 +122,21 @@ std::vector<std::string> IniFile::Keys(std::string_view section) const {
         }
     }
     return names;
+}
+
+std::vector<std::string> IniFile::Entries(std::string_view section) const {
+    std::vector<std::string> entries;
+    const std::size_t start = SectionStart(Trim(section));
+    if (start < lines_.size()) {
+        const std::size_t end = SectionEnd(start);
+        for (std::size_t i = start + 1; i < end; ++i) {
+            if (lines_[i].isKey) {
+                const std::string_view raw = lines_[i].raw;
+                entries.push_back(lines_[i].name + "=" + std::string(Trim(raw.substr(raw.find('=') + 1))));
+            }
+        }
+    }
+    return entries;
 }
 
 void IniFile::Set(std::string_view section, std::string_view key, std::string_view value) {

@@ -18,6 +18,9 @@ class IniFile {
     std::vector<std::string> Sections() const;
     std::vector<std::string> Keys(std::string_view section) const;
 
+    /// @returns the entries of a section as "key=value", as they stand in the file.
+    std::vector<std::string> Entries(std::string_view section) const;
+
     /// Sets a key, in place where it exists; the section is added at the end when it is missing.
     void Set(std::string_view section, std::string_view key, std::string_view value);
     /// @returns whether there was one.
@@ -29,10 +32,10 @@ class IniFile {
 
   private:
     struct Line {
-        std::string raw;      ///< with its line end
+        std::string raw;  ///< with its line end
         bool isSection = false;
         bool isKey = false;
-        std::string name;     ///< of the section or key
+        std::string name;  ///< of the section or key
         std::string value;
     };
 

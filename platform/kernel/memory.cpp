@@ -1,5 +1,6 @@
-// Global memory. A movable block is known by a handle, a fixed one by its address. A header in front of either leads from the
-// address back to the handle, and is trusted only when handle and block confirm it.
+// Global memory. A block is one allocation: a record, and the bytes behind it. Movable blocks are known by their
+// handle, fixed ones by their address; both have a handle in the record, and an address is believed only when the
+// handle table leads from that handle back to the record. (Handles lie below 2 GiB, where the host's heap does not.)
 #include <cvplatform.h>
 #include <windows.h>
 
@@ -9,7 +10,6 @@
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
-#include <new>
 
 #include "base/handle.h"
 
@@ -17,93 +17,32 @@ namespace {
 
 using platform::base::HandleKind;
 
-constexpr std::uint32_t kMovableMagic = 0x4D4C4247;
-constexpr std::uint32_t kFixedMagic = 0x46584247;
+struct alignas(16) Block {
+    std::size_t size = 0;
+    std::uint32_t handle = 0;
+    std::atomic<std::uint32_t> locks{0};
+    bool movable = false;
+    bool discardable = false;
+    bool discarded = false;
 
-struct alignas(16) Header {
-    std::uint32_t magic;
-    std::uint32_t handle;
-    std::size_t size;
+    char* bytes() {
+        return reinterpret_cast<char*>(this + 1);
+    }
 };
+static_assert(sizeof(Block) == 32);
 
-struct Block {
-    Header* header;  ///< null while the block is discarded (size 0)
-    std::uint32_t locks;
-    bool discardable;
-};
+constexpr std::size_t kMostBytes = std::size_t{1} << 39;
 
-std::atomic<UINT> failCountdown{0};
-std::atomic<std::size_t> fixedBlocks{0};
+std::atomic<unsigned> failCountdown{0};
 
 bool MustFail() {
-    if (failCountdown.load(std::memory_order_relaxed) == 0) [[likely]] {
-        return false;
-    }
-    return failCountdown.fetch_sub(1, std::memory_order_relaxed) == 1;
-}
-
-constexpr std::size_t kMostBytes = SIZE_MAX / 2;
-
-Header* AllocateBytes(std::size_t bytes, bool zero, std::uint32_t magic) {
-    if (bytes > kMostBytes || MustFail()) {
-        return nullptr;
-    }
-    const std::size_t total = bytes + sizeof(Header);
-    auto* header = static_cast<Header*>(zero ? std::calloc(1, total) : std::malloc(total));
-    if (header) {
-        *header = {magic, 0, bytes};
-    }
-    return header;
-}
-
-Header* ResizeBytes(Header* header, std::size_t bytes, bool zero, bool mayMove) {
-    if (bytes > kMostBytes || MustFail()) {
-        return nullptr;
-    }
-    const std::size_t old = header->size;
-    if (!mayMove) {
-        if (bytes + sizeof(Header) > malloc_usable_size(header)) {
-            return nullptr;
+    unsigned left = failCountdown.load(std::memory_order_relaxed);
+    while (left != 0) {
+        if (failCountdown.compare_exchange_weak(left, left - 1, std::memory_order_relaxed)) {
+            return left == 1;
         }
-    } else {
-        auto* moved = static_cast<Header*>(std::realloc(header, bytes + sizeof(Header)));
-        if (!moved) {
-            return nullptr;
-        }
-        header = moved;
     }
-    header->size = bytes;
-    if (zero && bytes > old) {
-        std::memset(reinterpret_cast<char*>(header + 1) + old, 0, bytes - old);
-    }
-    return header;
-}
-
-Block* FindBlock(HGLOBAL memory) {
-    return platform::base::Find<Block>(memory, HandleKind::GlobalBlock);
-}
-
-// The header of an address that may be anything. It is read past the sanitizer's eyes: what lies in front of a foreign address
-// is none of its business.
-__attribute__((no_sanitize("address"))) Header* HeaderOf(LPCVOID address) {
-    const auto at = reinterpret_cast<std::uintptr_t>(address);
-    if (at % alignof(Header) != 0 || at < sizeof(Header)) {
-        return nullptr;
-    }
-    auto* header = reinterpret_cast<Header*>(at - sizeof(Header));
-    if (IsBadReadPtr(header, sizeof(Header)) || (header->magic != kMovableMagic && header->magic != kFixedMagic)) {
-        return nullptr;
-    }
-    if (header->magic == kMovableMagic) {
-        const Block* block = static_cast<Block*>(platform::base::FindHandle(header->handle, HandleKind::GlobalBlock));
-        return block && block->header == header ? header : nullptr;
-    }
-    return header;
-}
-
-Header* FixedHeader(HGLOBAL memory) {
-    Header* header = HeaderOf(memory);
-    return header && header->magic == kFixedMagic ? header : nullptr;
+    return false;
 }
 
 template <class Result>
@@ -112,158 +51,194 @@ Result Fail(DWORD error, Result result) {
     return result;
 }
 
-}  // namespace
-
-HGLOBAL WINAPI GlobalAlloc(UINT flags, SIZE_T bytes) {
-    const bool zero = flags & GMEM_ZEROINIT;
-    if (!(flags & GMEM_MOVEABLE)) {
-        Header* header = AllocateBytes(bytes, zero, kFixedMagic);
-        if (!header) {
-            return Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
-        }
-        fixedBlocks.fetch_add(1, std::memory_order_relaxed);
-        return header + 1;
-    }
-    Header* header = bytes ? AllocateBytes(bytes, zero, kMovableMagic) : nullptr;
-    auto* block = header || bytes == 0 ? new (std::nothrow) Block{header, 0, (flags & GMEM_DISCARDABLE) != 0} : nullptr;
-    const std::uint32_t handle = block ? platform::base::InsertHandle(HandleKind::GlobalBlock, block) : 0;
-    if (!handle) {
-        delete block;
-        std::free(header);
-        return Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
-    }
-    if (header) {
-        header->handle = handle;
-    }
-    return platform::base::ToHandle<HGLOBAL>(handle);
+HGLOBAL ToGlobal(Block* block) {
+    return block->movable ? platform::base::ToHandle<HGLOBAL>(block->handle) : static_cast<HGLOBAL>(block->bytes());
 }
 
-HGLOBAL WINAPI GlobalReAlloc(HGLOBAL memory, SIZE_T bytes, UINT flags) {
-    const bool zero = flags & GMEM_ZEROINIT;
-    if (Block* block = FindBlock(memory)) {
-        if (flags & GMEM_MODIFY) {
-            block->discardable = flags & GMEM_DISCARDABLE;
-            return memory;
-        }
-        if (bytes == 0) {
-            if (block->locks) {
-                return Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
-            }
-            std::free(block->header);
-            block->header = nullptr;
-            return memory;
-        }
-        const bool mayMove = block->locks == 0 || (flags & GMEM_MOVEABLE);
-        Header* header = block->header ? ResizeBytes(block->header, bytes, zero, mayMove)
-                                       : AllocateBytes(bytes, zero, kMovableMagic);
-        if (!header) {
-            return Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
-        }
-        header->handle = platform::base::ToNumber(memory);
-        block->header = header;
-        return memory;
+// The address may be anything, so the record in front of it is read past the sanitizer's eyes.
+__attribute__((no_sanitize("address", "undefined"))) std::uint32_t HandleInFront(std::uintptr_t address) {
+    return reinterpret_cast<const Block*>(address - sizeof(Block))->handle;
+}
+
+Block* BlockAt(LPCVOID address) {
+    const auto at = reinterpret_cast<std::uintptr_t>(address);
+    const std::uintptr_t record = at - sizeof(Block);
+    if (at % alignof(Block) != 0 || at < sizeof(Block) ||
+        IsBadReadPtr(reinterpret_cast<const void*>(record), sizeof(Block))) {
+        return nullptr;
     }
-    Header* fixed = FixedHeader(memory);
-    if (!fixed) {
-        return Fail<HGLOBAL>(ERROR_INVALID_HANDLE, nullptr);
+    void* block = platform::base::FindHandle(HandleInFront(at), HandleKind::GlobalBlock);
+    return block == reinterpret_cast<void*>(record) ? static_cast<Block*>(block) : nullptr;
+}
+
+Block* FindMovable(HGLOBAL memory) {
+    auto* block = platform::base::Find<Block>(memory, HandleKind::GlobalBlock);
+    return block && block->movable ? block : nullptr;
+}
+
+// A block by its handle or, when it is fixed or locked, by its address.
+Block* FindBlock(HGLOBAL memory) {
+    Block* block = FindMovable(memory);
+    if (!block) {
+        block = BlockAt(memory);
+    }
+    return block ? block : Fail<Block*>(ERROR_INVALID_HANDLE, nullptr);
+}
+
+// Gives a block another size. @returns its new place, or null with the block as it was.
+Block* Resize(Block* block, std::size_t size, bool zero, bool mayMove) {
+    if (size > kMostBytes || MustFail()) {
+        return nullptr;
+    }
+    const std::size_t old = block->discarded ? 0 : block->size;
+    const std::size_t total = size + sizeof(Block);
+    if (!mayMove) {
+        if (total > malloc_usable_size(block)) {
+            return nullptr;
+        }
+    } else {
+        const std::uint32_t handle = block->handle;
+        auto* moved = static_cast<Block*>(std::realloc(static_cast<void*>(block), total));
+        if (!moved) {
+            return nullptr;
+        }
+        if (moved != block) {
+            platform::base::ReplaceHandle(handle, HandleKind::GlobalBlock, moved);
+        }
+        block = moved;
+    }
+    block->size = size;
+    block->discarded = false;
+    if (zero && size > old) {
+        std::memset(block->bytes() + old, 0, size - old);
+    }
+    return block;
+}
+
+HGLOBAL Discard(Block* block) {
+    if (block->locks != 0) {
+        return Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+    }
+    Block* kept = Resize(block, 0, false, true);
+    if (!kept) {
+        return Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+    }
+    kept->discarded = true;
+    return ToGlobal(kept);
+}
+
+HGLOBAL Modify(Block* block, UINT flags) {
+    if (block->movable) {
+        block->discardable = (flags & GMEM_DISCARDABLE) != 0;
+    }
+    // A fixed block may become movable, never the other way.
+    block->movable = block->movable || (flags & GMEM_MOVEABLE);
+    return ToGlobal(block);
+}
+
+}  // namespace
+
+HGLOBAL WINAPI GlobalAlloc(UINT flags, SIZE_T size) {
+    if (flags & ~UINT{GMEM_VALID_FLAGS}) {
+        return Fail<HGLOBAL>(ERROR_INVALID_PARAMETER, nullptr);
+    }
+    if (size > kMostBytes || MustFail()) {
+        return Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+    }
+    const std::size_t total = size + sizeof(Block);
+    void* memory = flags & GMEM_ZEROINIT ? std::calloc(1, total) : std::malloc(total);
+    if (!memory) {
+        return Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+    }
+    auto* block = new (memory) Block;
+    block->size = size;
+    block->movable = (flags & GMEM_MOVEABLE) != 0;
+    block->discardable = block->movable && (flags & GMEM_DISCARDABLE);
+    block->discarded = block->movable && size == 0;
+    block->handle = platform::base::InsertHandle(HandleKind::GlobalBlock, block);
+    if (!block->handle) {
+        std::free(memory);
+        return Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+    }
+    return ToGlobal(block);
+}
+
+HGLOBAL WINAPI GlobalReAlloc(HGLOBAL memory, SIZE_T size, UINT flags) {
+    Block* block = FindBlock(memory);
+    if (!block) {
+        return nullptr;
     }
     if (flags & GMEM_MODIFY) {
-        return memory;
+        return Modify(block, flags);
     }
-    Header* header = ResizeBytes(fixed, bytes, zero, flags & GMEM_MOVEABLE);
-    return header ? header + 1 : Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+    if (block->movable && size == 0) {
+        return Discard(block);
+    }
+    const bool mayMove = (block->movable && block->locks == 0) || (flags & GMEM_MOVEABLE);
+    Block* resized = Resize(block, size, flags & GMEM_ZEROINIT, mayMove);
+    return resized ? ToGlobal(resized) : Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
 }
 
 HGLOBAL WINAPI GlobalFree(HGLOBAL memory) {
     if (!memory) {
         return nullptr;
     }
-    if (auto* block = static_cast<Block*>(
-            platform::base::RemoveHandle(platform::base::ToNumber(memory), HandleKind::GlobalBlock))) {
-        if (block->header) {
-            block->header->magic = 0;
-            std::free(block->header);
-        }
-        delete block;
-        return nullptr;
+    const Block* block = FindBlock(memory);
+    // Of two threads that free one block, one takes it out of the table.
+    void* removed = block ? platform::base::RemoveHandle(block->handle, HandleKind::GlobalBlock) : nullptr;
+    if (!removed) {
+        return Fail(ERROR_INVALID_HANDLE, memory);
     }
-    if (Header* fixed = FixedHeader(memory)) {
-        fixed->magic = 0;
-        std::free(fixed);
-        fixedBlocks.fetch_sub(1, std::memory_order_relaxed);
-        return nullptr;
-    }
-    return Fail(ERROR_INVALID_HANDLE, memory);
+    std::free(removed);
+    return nullptr;
 }
 
 LPVOID WINAPI GlobalLock(HGLOBAL memory) {
-    if (Block* block = FindBlock(memory)) {
-        if (!block->header) {
-            return Fail<LPVOID>(ERROR_DISCARDED, nullptr);
-        }
-        if (block->locks < GMEM_LOCKCOUNT) {
-            ++block->locks;
-        }
-        return block->header + 1;
+    Block* block = FindMovable(memory);
+    if (!block) {
+        return FindBlock(memory) ? memory : nullptr;
     }
-    return FixedHeader(memory) ? memory : Fail<LPVOID>(ERROR_INVALID_HANDLE, nullptr);
+    if (block->discarded) {
+        return Fail<LPVOID>(ERROR_DISCARDED, nullptr);
+    }
+    std::uint32_t locks = block->locks.load(std::memory_order_relaxed);
+    while (locks < GMEM_LOCKCOUNT && !block->locks.compare_exchange_weak(locks, locks + 1)) {
+    }
+    return block->bytes();
 }
 
 BOOL WINAPI GlobalUnlock(HGLOBAL memory) {
-    Block* block = FindBlock(memory);
+    Block* block = FindMovable(memory);
     if (!block) {
-        return FixedHeader(memory) ? TRUE : Fail(ERROR_INVALID_HANDLE, FALSE);
+        return FindBlock(memory) != nullptr;
     }
-    if (block->locks == 0) {
-        return Fail(ERROR_NOT_LOCKED, FALSE);
-    }
-    if (--block->locks == 0) {
-        return Fail(NO_ERROR, FALSE);
-    }
-    return TRUE;
+    std::uint32_t locks = block->locks.load(std::memory_order_relaxed);
+    do {
+        if (locks == 0) {
+            return Fail(ERROR_NOT_LOCKED, FALSE);
+        }
+    } while (!block->locks.compare_exchange_weak(locks, locks - 1));
+    return locks == 1 ? Fail(NO_ERROR, FALSE) : TRUE;
 }
 
 HGLOBAL WINAPI GlobalHandle(LPCVOID address) {
-    const Header* header = HeaderOf(address);
-    if (!header) {
-        return Fail<HGLOBAL>(ERROR_INVALID_HANDLE, nullptr);
-    }
-    return header->magic == kFixedMagic ? const_cast<HGLOBAL>(address) : platform::base::ToHandle<HGLOBAL>(header->handle);
+    Block* block = BlockAt(address);
+    return block ? ToGlobal(block) : Fail<HGLOBAL>(ERROR_INVALID_HANDLE, nullptr);
 }
 
 SIZE_T WINAPI GlobalSize(HGLOBAL memory) {
-    if (const Block* block = FindBlock(memory)) {
-        return block->header ? block->header->size : 0;
-    }
-    const Header* fixed = FixedHeader(memory);
-    return fixed ? fixed->size : Fail<SIZE_T>(ERROR_INVALID_HANDLE, 0);
+    const Block* block = FindBlock(memory);
+    return block ? block->size : 0;
 }
 
 UINT WINAPI GlobalFlags(HGLOBAL memory) {
-    if (const Block* block = FindBlock(memory)) {
-        return block->locks | (block->header ? 0 : GMEM_DISCARDED) | (block->discardable ? GMEM_DISCARDABLE : 0);
+    const Block* block = FindBlock(memory);
+    if (!block) {
+        return GMEM_INVALID_HANDLE;
     }
-    return FixedHeader(memory) ? 0 : Fail<UINT>(ERROR_INVALID_HANDLE, GMEM_INVALID_HANDLE);
+    return block->locks | (block->discarded ? GMEM_DISCARDED : 0) | (block->discardable ? GMEM_DISCARDABLE : 0);
 }
 
-void CvPlatformFailAllocation(UINT n) {
-    failCountdown.store(n, std::memory_order_relaxed);
-}
-
-SIZE_T CvPlatformCount(CvPlatformKind kind) {
-    using platform::base::CountHandles;
-    switch (kind) {
-        case CV_PLATFORM_GLOBAL_BLOCKS:
-            return CountHandles(HandleKind::GlobalBlock) + fixedBlocks.load(std::memory_order_relaxed);
-        case CV_PLATFORM_WINDOWS:
-            return CountHandles(HandleKind::Window);
-        case CV_PLATFORM_GDI_OBJECTS:
-            return CountHandles(HandleKind::Pen) + CountHandles(HandleKind::Brush) + CountHandles(HandleKind::Font) +
-                   CountHandles(HandleKind::Bitmap) + CountHandles(HandleKind::Region) +
-                   CountHandles(HandleKind::DeviceContext);
-        case CV_PLATFORM_OTHER_HANDLES:
-            return CountHandles(HandleKind::Thread) + CountHandles(HandleKind::Event) + CountHandles(HandleKind::File) +
-                   CountHandles(HandleKind::FindFile) + CountHandles(HandleKind::RegistryKey);
-    }
-    return 0;
+void CvPlatformFailAllocation(unsigned count) {
+    failCountdown.store(count, std::memory_order_relaxed);
 }

@@ -1,6 +1,7 @@
 #include "kernel/module.h"
 
 #include <dlfcn.h>
+#include <link.h>
 #include <unistd.h>
 
 #include <climits>
@@ -11,6 +12,8 @@
 
 #include "base/handle.h"
 #include "base/report.h"
+#include "kernel/encoding.h"
+#include "kernel/hostpath.h"
 #include "kernel/start/module_registration.h"
 
 namespace platform::kernel {
@@ -78,6 +81,10 @@ std::string PlainName(std::string name) {
     if (slash != std::string::npos) {
         name.erase(0, slash + 1);
     }
+    // A point at the end of a name tells that it has no ending.
+    if (name.ends_with('.')) {
+        name.pop_back();
+    }
     CharLowerBuffA(name.data(), static_cast<DWORD>(name.size()));
     for (const char* ending : {".dll", ".exe", ".so"}) {
         if (name.ends_with(ending)) {
@@ -88,8 +95,15 @@ std::string PlainName(std::string name) {
     return name.starts_with("lib") ? name.substr(3) : name;
 }
 
+bool IsSystemName(const std::string& plain);
+Module* System();
+Module* FindByPath(const std::string& path);
+
 Module* FindByName(const std::string& name) {
     const std::string plain = PlainName(name);
+    if (IsSystemName(plain)) {
+        return System();
+    }
     for (const auto& module : Modules()) {
         if (PlainName(module->path) == plain) {
             return module.get();
@@ -108,28 +122,65 @@ void RemoveModule(Module* module) {
     std::erase_if(Modules(), [module](const auto& other) { return other.get() == module; });
 }
 
-// A library beside the application comes first, then what the host's loader finds.
-void* OpenLibrary(const std::string& name) {
-    const std::string application = ApplicationPath();
-    std::string file = name;
-    const std::size_t dot = file.find_last_of('.');
-    if (dot != std::string::npos && file.find('/', dot) == std::string::npos) {
-        std::string ending = file.substr(dot);
-        CharLowerBuffA(ending.data(), static_cast<DWORD>(ending.size()));
-        if (ending == ".dll") {
-            file.resize(dot);
+// The system's own libraries are this one.
+bool IsSystemName(const std::string& plain) {
+    for (const char* name : {"kernel32", "user32", "gdi32", "advapi32", "comctl32", "comdlg32", "shell32", "ole32"}) {
+        if (plain == name) {
+            return true;
         }
     }
-    if (file.find('/') == std::string::npos && !file.ends_with(".so")) {
-        file = "lib" + file + ".so";
+    return false;
+}
+
+Module* System() {
+    static const char inside = 0;
+    const std::string path = PathOf(&inside);
+    Module* module = FindByPath(path);
+    return module ? module : AddModule(path);
+}
+
+// A library beside the application comes first, then what the host's loader finds.
+void* OpenLibrary(const std::string& name) {
+    const bool hasFolder = name.find_first_of("/\\:") != std::string::npos;
+    std::string file = hasFolder ? HostPath(name) : Utf8FromAnsi(name);
+    const std::size_t base = file.find_last_of('/') == std::string::npos ? 0 : file.find_last_of('/') + 1;
+    std::string ending = file.size() >= base + 4 ? file.substr(file.size() - 4) : std::string();
+    CharLowerBuffA(ending.data(), static_cast<DWORD>(ending.size()));
+    if (ending == ".dll") {
+        file.resize(file.size() - 4);
+    } else if (file.ends_with('.')) {
+        file.pop_back();
     }
-    if (file.find('/') == std::string::npos) {
+    if (file.find(".so", base) == std::string::npos) {
+        file = file.substr(0, base) + "lib" + file.substr(base) + ".so";
+    }
+    if (!hasFolder) {
+        const std::string application = ApplicationPath();
         const std::string beside = application.substr(0, application.find_last_of('/') + 1) + file;
         if (access(beside.c_str(), R_OK) == 0) {
             return dlopen(beside.c_str(), RTLD_NOW | RTLD_LOCAL);
         }
     }
     return dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
+}
+
+/// @returns the file that a library of the host's loader came from.
+std::string PathOfLoaded(void* loaded) {
+    link_map* map = nullptr;
+    if (dlinfo(loaded, RTLD_DI_LINKMAP, &map) != 0 || !map || !map->l_name) {
+        return {};
+    }
+    char resolved[PATH_MAX];
+    return realpath(map->l_name, resolved) ? resolved : map->l_name;
+}
+
+Module* FindByPath(const std::string& path) {
+    for (const auto& module : Modules()) {
+        if (module->path == path) {
+            return module.get();
+        }
+    }
+    return nullptr;
 }
 
 }  // namespace
@@ -152,7 +203,7 @@ void NotifyThread(DWORD reason) {
     {
         const std::lock_guard guard(ModuleLock());
         for (const auto& module : Modules()) {
-            if (module->entry) {
+            if (module->entry && module->wantsThreads) {
                 entries.emplace_back(module->handle, module->entry);
             }
         }
@@ -225,11 +276,7 @@ DWORD WINAPI GetModuleFileNameA(HMODULE handle, LPSTR buffer, DWORD size) {
     if (!module || !buffer || size == 0) {
         return 0;
     }
-    // Drive Z is the host's root.
-    std::string path = "Z:" + module->path;
-    for (char& character : path) {
-        character = character == '/' ? '\\' : character;
-    }
+    const std::string path = WindowsPath(module->path);
     const bool fits = path.size() < size;
     const DWORD copied = fits ? static_cast<DWORD>(path.size()) : size - 1;
     std::memcpy(buffer, path.data(), copied);
@@ -246,27 +293,36 @@ HMODULE WINAPI LoadLibraryA(LPCSTR name) {
     {
         const std::lock_guard guard(ModuleLock());
         if (Module* module = FindByName(name)) {
-            ++module->loads;
+            // The host's loader holds it already; the last FreeLibrary gives back what LoadLibraryA took.
+            module->loads += module->loads > 0;
             return module->handle;
         }
     }
+    // A library that loads another while it starts has its own refusal to tell.
+    const bool refusedBefore = std::exchange(loading.refused, false);
     ++loading.depth;
-    loading.refused = false;
     void* loaded = OpenLibrary(name);
     --loading.depth;
-    if (loaded && loading.refused) {
-        loading.refused = false;
+    const bool refused = std::exchange(loading.refused, refusedBefore);
+    if (loaded && refused) {
         dlclose(loaded);
         SetLastError(ERROR_DLL_INIT_FAILED);
         return nullptr;
     }
-    const std::lock_guard guard(ModuleLock());
-    Module* module = loaded ? FindByName(name) : nullptr;
-    if (!module) {
-        if (loaded) {
-            dlclose(loaded);
-        }
+    if (!loaded) {
         SetLastError(ERROR_MOD_NOT_FOUND);
+        return nullptr;
+    }
+    const std::lock_guard guard(ModuleLock());
+    const std::string path = PathOfLoaded(loaded);
+    Module* module = FindByPath(path);
+    if (!module) {
+        // A library of the host's own kind, which has announced nothing.
+        module = AddModule(path);
+    }
+    if (!module) {
+        dlclose(loaded);
+        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
         return nullptr;
     }
     module->loaded = loaded;
@@ -276,6 +332,7 @@ HMODULE WINAPI LoadLibraryA(LPCSTR name) {
 
 BOOL WINAPI FreeLibrary(HMODULE handle) {
     void* loaded = nullptr;
+    bool foreign = false;
     {
         const std::lock_guard guard(ModuleLock());
         Module* module = handle ? FindModule(handle) : nullptr;
@@ -285,11 +342,28 @@ BOOL WINAPI FreeLibrary(HMODULE handle) {
         }
         if (module->loads > 0 && --module->loads == 0) {
             loaded = std::exchange(module->loaded, nullptr);
+            foreign = module->address == nullptr;
         }
     }
     if (loaded) {
         dlclose(loaded);
+        // One that announced itself has taken its leave by now, if it went.
+        const std::lock_guard guard(ModuleLock());
+        if (Module* module = foreign ? base::Find<Module>(handle, base::HandleKind::Module) : nullptr) {
+            RemoveModule(module);
+        }
     }
+    return TRUE;
+}
+
+BOOL WINAPI DisableThreadLibraryCalls(HMODULE handle) {
+    const std::lock_guard guard(ModuleLock());
+    Module* module = handle ? FindModule(handle) : nullptr;
+    if (!module) {
+        SetLastError(ERROR_INVALID_HANDLE);
+        return FALSE;
+    }
+    module->wantsThreads = false;
     return TRUE;
 }
 
@@ -304,7 +378,8 @@ FARPROC WINAPI GetProcAddress(HMODULE handle, LPCSTR name) {
         path = module->application ? std::string() : module->path;
     }
     // Exports have no numbers here.
-    void* opened = IS_INTRESOURCE(name) ? nullptr : dlopen(path.empty() ? nullptr : path.c_str(), RTLD_NOW | RTLD_NOLOAD);
+    void* opened =
+        IS_INTRESOURCE(name) ? nullptr : dlopen(path.empty() ? nullptr : path.c_str(), RTLD_NOW | RTLD_NOLOAD);
     void* address = opened ? dlsym(opened, name) : nullptr;
     if (opened) {
         dlclose(opened);

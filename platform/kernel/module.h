@@ -15,12 +15,13 @@ namespace platform::kernel {
 
 struct Module {
     HINSTANCE handle = nullptr;
-    std::string path;          ///< of the host
+    std::string path;  ///< of the host
     bool application = false;
     const void* address = nullptr;
     BOOL(WINAPI* entry)(HINSTANCE, DWORD, LPVOID) = nullptr;
-    void* loaded = nullptr;    ///< the host loader's handle, of LoadLibraryA
+    void* loaded = nullptr;  ///< the host loader's handle, of LoadLibraryA
     unsigned loads = 0;
+    bool wantsThreads = true;  ///< whether its entry point is told about threads
     Bytes resourceFile;
     bool resourcesRead = false;
     bool resourcesDamaged = false;

@@ -1,13 +1,17 @@
-// Memory probes: the bytes are touched, and a fault handler answers for those that cannot be. Good memory costs neither a
-// system call nor a jump buffer. A touch for writing is one locked instruction that leaves the byte as it is, so that no other
-// thread's write is ever lost.
+// Memory probes: the bytes are touched, and a fault handler answers for those that cannot be. Good memory costs neither
+// a system call nor a jump buffer. A touch for writing is one locked instruction that leaves the byte as it is, so that
+// no other thread's write is ever lost.
 #include <windows.h>
 
 #include <signal.h>
 #include <ucontext.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdint>
+#include <cstring>
+
+#include "kernel/probe.h"
 
 #ifndef __x86_64__
 #error "kernel/probe.cpp holds x86-64 instructions; another processor needs a file of its own beside it"
@@ -15,7 +19,8 @@
 
 namespace {
 
-// One entry for each instruction that may fault and the place where it goes on when it did, both relative to themselves.
+// One entry for each instruction that may fault and the place where it goes on when it did, both relative to
+// themselves.
 struct Fixup {
     std::int32_t instruction;
     std::int32_t resume;
@@ -23,10 +28,11 @@ struct Fixup {
 extern "C" const Fixup __start_cvprobe[] __attribute__((visibility("hidden")));
 extern "C" const Fixup __stop_cvprobe[] __attribute__((visibility("hidden")));
 
-#define CVPROBE_FIXUP(bad)                         \
-    ".pushsection cvprobe,\"a\",@progbits\n"       \
-    ".long 1b - .\n"                               \
-    ".long %l[" #bad "] - .\n"                     \
+#define CVPROBE_FIXUP(bad)                   \
+    ".pushsection cvprobe,\"a\",@progbits\n" \
+    ".long 1b - .\n"                         \
+    ".long %l[" #bad                         \
+    "] - .\n"                                \
     ".popsection\n"
 
 inline __attribute__((always_inline)) bool CanWrite(std::uintptr_t address) {
@@ -86,7 +92,7 @@ bool ResumeAfterProbe(ucontext_t* context) {
 }
 
 void OnFault(int signal, siginfo_t* info, void* context) {
-    if (ResumeAfterProbe(static_cast<ucontext_t*>(context))) {
+    if (info->si_code > 0 && ResumeAfterProbe(static_cast<ucontext_t*>(context))) {
         return;
     }
     const struct sigaction& previous = signal == SIGSEGV ? previousSegv : previousBus;
@@ -108,7 +114,9 @@ void OnFault(int signal, siginfo_t* info, void* context) {
 __attribute__((constructor)) void InstallFaultHandler() {
     struct sigaction action {};
     action.sa_sigaction = OnFault;
-    action.sa_flags = SA_SIGINFO | SA_ONSTACK;
+    // A handler further down may leave by a jump, and must not leave the signal blocked: a blocked fault ends the
+    // process.
+    action.sa_flags = SA_SIGINFO | SA_ONSTACK | SA_NODEFER;
     sigemptyset(&action.sa_mask);
     sigaction(SIGSEGV, &action, &previousSegv);
     sigaction(SIGBUS, &action, &previousBus);
@@ -129,17 +137,28 @@ BOOL WINAPI IsBadReadPtr(const void* address, UINT_PTR bytes) {
     return bytes != 0 && !RangeIsGood<ReadTouch>(reinterpret_cast<std::uintptr_t>(address), bytes);
 }
 
-__attribute__((no_sanitize("address"))) BOOL WINAPI IsBadStringPtrA(LPCSTR text, UINT_PTR most) {
-    for (UINT_PTR i = 0; i < most; ++i) {
-        const auto at = reinterpret_cast<std::uintptr_t>(text) + i;
-        if ((i == 0 || at % kPage == 0) && !ReadTouch(at)) {
-            return TRUE;
+namespace platform::kernel {
+
+// Each page is probed once, and searched with the host's own fast search.
+std::size_t ProbeLength(const char* text, std::size_t most) {
+    for (std::size_t done = 0; done < most;) {
+        const auto at = reinterpret_cast<std::uintptr_t>(text) + done;
+        if (!ReadTouch(at)) {
+            return kBadText;
         }
-        if (!text[i]) {
-            return FALSE;
+        const std::size_t size = std::min<std::size_t>(kPage - at % kPage, most - done);
+        if (const void* end = std::memchr(text + done, 0, size)) {
+            return static_cast<std::size_t>(static_cast<const char*>(end) - text);
         }
+        done += size;
     }
-    return FALSE;
+    return most;
+}
+
+}  // namespace platform::kernel
+
+BOOL WINAPI IsBadStringPtrA(LPCSTR text, UINT_PTR most) {
+    return platform::kernel::ProbeLength(text, most) == platform::kernel::kBadText;
 }
 
 BOOL WINAPI IsBadCodePtr(FARPROC procedure) {

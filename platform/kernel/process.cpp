@@ -3,18 +3,23 @@
 
 #include <unistd.h>
 
-#include <cstdio>
+#include <cerrno>
 #include <cstdlib>
 #include <cstring>
 #include <fstream>
-#include <iterator>
+#include <new>
 #include <string>
 
-#include "base/handle.h"
+#include "kernel/encoding.h"
+#include "kernel/hostpath.h"
+
+using platform::kernel::AnsiFromUtf8;
+using platform::kernel::Utf8FromAnsi;
 
 namespace {
 
-// One argument as a Windows program expects to find it: quoted where it holds blanks, backslashes doubled before a quote.
+// One argument as a Windows program expects to find it: quoted where it holds blanks, backslashes doubled before a
+// quote.
 std::string Quoted(const std::string& argument) {
     if (!argument.empty() && argument.find_first_of(" \t\"") == std::string::npos) {
         return argument;
@@ -32,17 +37,17 @@ std::string MakeCommandLine() {
     std::ifstream file("/proc/self/cmdline", std::ios::binary);
     std::string line;
     for (std::string argument; std::getline(file, argument, '\0');) {
-        line += (line.empty() ? "" : " ") + Quoted(argument);
+        line += (line.empty() ? "" : " ") + Quoted(AnsiFromUtf8(argument));
     }
     return line;
 }
 
-DWORD Deliver(const char* value, LPSTR buffer, DWORD size) {
-    const auto length = static_cast<DWORD>(std::strlen(value));
+DWORD Deliver(const std::string& value, LPSTR buffer, DWORD size) {
+    const auto length = static_cast<DWORD>(value.size());
     if (!buffer || length >= size) {
         return length + 1;
     }
-    std::memcpy(buffer, value, length + 1);
+    std::memcpy(buffer, value.c_str(), length + 1);
     return length;
 }
 
@@ -56,13 +61,27 @@ LPSTR WINAPI GetCommandLineA(void) {
     return line.data();
 }
 
+void WINAPI GetStartupInfoA(LPSTARTUPINFOA information) {
+    *information = STARTUPINFOA{};
+    information->cb = sizeof(STARTUPINFOA);
+    information->dwFlags = STARTF_USESTDHANDLES;
+    information->hStdInput = GetStdHandle(STD_INPUT_HANDLE);
+    information->hStdOutput = GetStdHandle(STD_OUTPUT_HANDLE);
+    information->hStdError = GetStdHandle(STD_ERROR_HANDLE);
+}
+
 DWORD WINAPI GetEnvironmentVariableA(LPCSTR name, LPSTR buffer, DWORD size) {
-    const char* value = name ? std::getenv(name) : nullptr;
-    if (!value) {
-        SetLastError(ERROR_ENVVAR_NOT_FOUND);
+    try {
+        const char* value = name ? std::getenv(Utf8FromAnsi(name).c_str()) : nullptr;
+        if (!value) {
+            SetLastError(ERROR_ENVVAR_NOT_FOUND);
+            return 0;
+        }
+        return Deliver(AnsiFromUtf8(value), buffer, size);
+    } catch (const std::bad_alloc&) {
+        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
         return 0;
     }
-    return Deliver(value, buffer, size);
 }
 
 BOOL WINAPI SetEnvironmentVariableA(LPCSTR name, LPCSTR value) {
@@ -70,7 +89,13 @@ BOOL WINAPI SetEnvironmentVariableA(LPCSTR name, LPCSTR value) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return FALSE;
     }
-    return (value ? setenv(name, value, 1) : unsetenv(name)) == 0;
+    try {
+        const std::string hostName = Utf8FromAnsi(name);
+        return (value ? setenv(hostName.c_str(), Utf8FromAnsi(value).c_str(), 1) : unsetenv(hostName.c_str())) == 0;
+    } catch (const std::bad_alloc&) {
+        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+        return FALSE;
+    }
 }
 
 HANDLE WINAPI GetStdHandle(DWORD which) {
@@ -85,7 +110,7 @@ HANDLE WINAPI GetStdHandle(DWORD which) {
     }
 }
 
-BOOL WINAPI WriteFile(HANDLE file, LPCVOID bytes, DWORD count, LPDWORD written, LPVOID) {
+BOOL WINAPI WriteFile(HANDLE file, LPCVOID bytes, DWORD count, LPDWORD written, LPOVERLAPPED) {
     const ULONG_PTR stream = reinterpret_cast<ULONG_PTR>(file) - kFirstStandard;
     DWORD done = 0;
     if (stream != 1 && stream != 2) {
@@ -94,6 +119,9 @@ BOOL WINAPI WriteFile(HANDLE file, LPCVOID bytes, DWORD count, LPDWORD written, 
     }
     while (done < count) {
         const ssize_t now = write(static_cast<int>(stream), static_cast<const char*>(bytes) + done, count - done);
+        if (now < 0 && errno == EINTR) {
+            continue;
+        }
         if (now <= 0) {
             break;
         }
@@ -131,4 +159,18 @@ UINT WINAPI GetWindowsDirectoryA(LPSTR buffer, UINT size) {
 
 UINT WINAPI GetSystemDirectoryA(LPSTR buffer, UINT size) {
     return Deliver("C:\\WINDOWS\\SYSTEM", buffer, size);
+}
+
+DWORD WINAPI GetTempPathA(DWORD size, LPSTR buffer) {
+    const char* folder = std::getenv("TMPDIR");
+    try {
+        std::string path = platform::kernel::WindowsPath(folder && *folder == '/' ? folder : "/tmp");
+        if (!path.ends_with('\\')) {
+            path += '\\';
+        }
+        return Deliver(path, buffer, size);
+    } catch (const std::bad_alloc&) {
+        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+        return 0;
+    }
 }

@@ -1,5 +1,5 @@
-// Profile files: win.ini and those that callers name. They are ordinary text files; a write replaces the file as a whole, so
-// that a reader, or a process that is killed, never meets half of one.
+// Profile files: win.ini and those that callers name. They are ordinary text files; a write replaces the file as a
+// whole, so that a reader, or a process that is killed, never meets half of one.
 #include <windows.h>
 
 #include <fcntl.h>
@@ -8,6 +8,8 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <climits>
+#include <cstdlib>
 #include <cstring>
 #include <map>
 #include <memory>
@@ -20,6 +22,7 @@
 #include "kernel/hostpath.h"
 #include "kernel/ini_file.h"
 #include "kernel/intl.h"
+#include "kernel/profile.h"
 
 using namespace platform::kernel;
 namespace base = platform::base;
@@ -129,7 +132,10 @@ bool WriteAll(int descriptor, const std::string& text) {
     return fsync(descriptor) == 0;
 }
 
-bool ReplaceFile(const std::string& path, const std::string& text) {
+bool ReplaceFile(const std::string& named, const std::string& text) {
+    // What a link leads to is replaced, not the link.
+    char resolved[PATH_MAX];
+    const std::string path = realpath(named.c_str(), resolved) ? resolved : named;
     std::string temporary = path + ".XXXXXX";
     struct stat status {};
     const mode_t mode = stat(path.c_str(), &status) == 0 ? status.st_mode & 0777 : 0644;
@@ -249,6 +255,14 @@ DWORD GetText(const std::string& path, LPCSTR section, LPCSTR key, LPCSTR defaul
     return DeliverText(otherwise, buffer, size);
 }
 
+DWORD GetSection(const std::string& path, LPCSTR section, LPSTR buffer, DWORD size) {
+    if (!section || !buffer) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return 0;
+    }
+    return DeliverList(Load(path)->Entries(section), buffer, size);
+}
+
 UINT GetNumber(const std::string& path, LPCSTR section, LPCSTR key, INT defaultValue) {
     const std::optional<std::string> value = section && key ? Value(path, section, key) : std::nullopt;
     if (!value) {
@@ -296,6 +310,16 @@ Result Guarded(Result otherwise, Call call) {
 
 }  // namespace
 
+namespace platform::kernel {
+
+std::optional<std::string> WinIniValue(const char* section, const char* key) {
+    const std::shared_ptr<const IniFile> file = Load(WinIni());
+    const std::string* value = file->Find(section, key);
+    return value ? std::optional<std::string>(*value) : std::nullopt;
+}
+
+}  // namespace platform::kernel
+
 UINT WINAPI GetProfileIntA(LPCSTR section, LPCSTR key, INT defaultValue) {
     return Guarded(static_cast<UINT>(defaultValue), [&] { return GetNumber(WinIni(), section, key, defaultValue); });
 }
@@ -315,9 +339,16 @@ UINT WINAPI GetPrivateProfileIntA(LPCSTR section, LPCSTR key, INT defaultValue, 
 
 DWORD WINAPI GetPrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR defaultText, LPSTR buffer, DWORD size,
                                       LPCSTR file) {
-    return Guarded(DWORD{0}, [&] {
-        return GetText(file ? HostPath(file) : WinIni(), section, key, defaultText, buffer, size);
-    });
+    return Guarded(DWORD{0},
+                   [&] { return GetText(file ? HostPath(file) : WinIni(), section, key, defaultText, buffer, size); });
+}
+
+DWORD WINAPI GetProfileSectionA(LPCSTR section, LPSTR buffer, DWORD size) {
+    return Guarded(DWORD{0}, [&] { return GetSection(WinIni(), section, buffer, size); });
+}
+
+DWORD WINAPI GetPrivateProfileSectionA(LPCSTR section, LPSTR buffer, DWORD size, LPCSTR file) {
+    return Guarded(DWORD{0}, [&] { return GetSection(file ? HostPath(file) : WinIni(), section, buffer, size); });
 }
 
 BOOL WINAPI WritePrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR text, LPCSTR file) {

@@ -21,14 +21,27 @@ void Read(Module& module) {
     if (module.resourcesRead) {
         return;
     }
-    module.resourcesRead = true;
     module.resources = ReadResources(module.resourceFile, &module.resourcesDamaged);
+    module.resourcesRead = true;
     if (module.resourcesDamaged) {
         base::ReportOnce(("the resources of " + module.path + " are damaged").c_str());
     }
 }
 
-// Lock held. Without a language that fits, the first entry serves, as all callers of one language expect.
+constexpr int kAnyLanguage = -1;
+
+// How well an entry serves a caller; 0 is not at all. A caller that names no language gets the user's, else the neutral
+// one, else American English, else what there is.
+int Fit(WORD has, int wanted) {
+    const auto primary = [](int language) { return language & 0x3FF; };
+    if (wanted != kAnyLanguage && wanted != 0) {
+        return has == wanted ? 3 : has == primary(wanted) ? 2 : has == 0 ? 1 : 0;
+    }
+    const int users = GetUserDefaultLangID();
+    return has == users ? 5 : has == primary(users) ? 4 : has == 0 ? 3 : has == 0x0409 ? 2 : 1;
+}
+
+// Lock held.
 ResourceEntry* Find(HMODULE handle, LPCSTR name, LPCSTR type, int language) {
     Module* module = FindModule(handle);
     if (!module) {
@@ -40,28 +53,26 @@ ResourceEntry* Find(HMODULE handle, LPCSTR name, LPCSTR type, int language) {
         const ResourceName wantedName = ResourceName::FromArgument(name);
         bool typeSeen = false;
         bool nameSeen = false;
-        ResourceEntry* any = nullptr;
+        int bestFit = 0;
+        ResourceEntry* best = nullptr;
         for (ResourceEntry& entry : module->resources) {
-            if (entry.type != wantedType) {
-                continue;
-            }
-            typeSeen = true;
-            if (entry.name != wantedName) {
-                continue;
-            }
-            nameSeen = true;
-            if (language < 0 || language == 0 || entry.language == language || entry.language == 0) {
-                any = &entry;
-                break;
+            const bool isType = entry.type == wantedType;
+            const bool isName = isType && entry.name == wantedName;
+            const int fit = isName ? Fit(entry.language, language) : 0;
+            typeSeen = typeSeen || isType;
+            nameSeen = nameSeen || isName;
+            if (fit > bestFit) {
+                bestFit = fit;
+                best = &entry;
             }
         }
-        if (any) {
-            return any;
+        if (best) {
+            return best;
         }
-        return Fail<ResourceEntry*>(nameSeen   ? ERROR_RESOURCE_LANG_NOT_FOUND
-                                    : typeSeen ? ERROR_RESOURCE_NAME_NOT_FOUND
-                                               : (module->resources.empty() ? ERROR_RESOURCE_DATA_NOT_FOUND
-                                                                            : ERROR_RESOURCE_TYPE_NOT_FOUND),
+        return Fail<ResourceEntry*>(nameSeen                    ? ERROR_RESOURCE_LANG_NOT_FOUND
+                                    : typeSeen                  ? ERROR_RESOURCE_NAME_NOT_FOUND
+                                    : module->resources.empty() ? ERROR_RESOURCE_DATA_NOT_FOUND
+                                                                : ERROR_RESOURCE_TYPE_NOT_FOUND,
                                     nullptr);
     } catch (const std::bad_alloc&) {
         return Fail<ResourceEntry*>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
@@ -88,7 +99,7 @@ namespace platform::kernel {
 
 Bytes FindResourceBytes(HMODULE module, LPCSTR name, LPCSTR type) {
     const std::lock_guard guard(ModuleLock());
-    const ResourceEntry* entry = Find(module, name, type, -1);
+    const ResourceEntry* entry = Find(module, name, type, kAnyLanguage);
     return entry ? entry->data : Bytes();
 }
 
@@ -96,7 +107,7 @@ Bytes FindResourceBytes(HMODULE module, LPCSTR name, LPCSTR type) {
 
 HRSRC WINAPI FindResourceA(HMODULE module, LPCSTR name, LPCSTR type) {
     const std::lock_guard guard(ModuleLock());
-    return HandleOf(Find(module, name, type, -1));
+    return HandleOf(Find(module, name, type, kAnyLanguage));
 }
 
 HRSRC WINAPI FindResourceExA(HMODULE module, LPCSTR type, LPCSTR name, WORD language) {
@@ -121,47 +132,4 @@ DWORD WINAPI SizeofResource(HMODULE, HRSRC resource) {
 
 BOOL WINAPI FreeResource(HGLOBAL) {
     return FALSE;
-}
-
-// Strings come in blocks of 16, each a count of UTF-16 units and the units.
-int WINAPI LoadStringA(HINSTANCE module, UINT id, LPSTR buffer, int size) {
-    if (!buffer || size <= 0) {
-        return 0;
-    }
-    buffer[0] = '\0';
-    Bytes block = FindResourceBytes(module, MAKEINTRESOURCEA(id / 16 + 1), RT_STRING);
-    for (UINT skip = id % 16;; --skip) {
-        WORD units = 0;
-        if (block.size() < 2) {
-            return 0;
-        }
-        std::memcpy(&units, block.data(), 2);
-        if (block.size() - 2 < std::size_t{units} * 2) {
-            return 0;
-        }
-        if (skip > 0) {
-            block = block.subspan(2 + std::size_t{units} * 2);
-            continue;
-        }
-        if (units == 0) {
-            return 0;
-        }
-        std::u16string wide(units, u'\0');
-        std::memcpy(wide.data(), block.data() + 2, std::size_t{units} * 2);
-        std::string narrow(std::size_t{units} * 2, '\0');
-        const int length = WideCharToMultiByte(CP_ACP, 0, wide.data(), units, narrow.data(),
-                                               static_cast<int>(narrow.size()), nullptr, nullptr);
-        // A text that is cut does not end in half a character.
-        int copied = 0;
-        while (copied < length) {
-            const int width = IsDBCSLeadByte(static_cast<BYTE>(narrow[copied])) && copied + 1 < length ? 2 : 1;
-            if (copied + width > size - 1) {
-                break;
-            }
-            copied += width;
-        }
-        std::memcpy(buffer, narrow.data(), static_cast<std::size_t>(copied));
-        buffer[copied] = '\0';
-        return copied;
-    }
 }

@@ -31,12 +31,12 @@ struct ResourceEntry {
     std::uint32_t handle = 0;  ///< made when it is found for the first time
 };
 
-/// Reads all entries. @param damaged  set when the file ends in the middle of an entry or lies about a length; the entries
-/// before that are returned.
+/// Reads all entries. @param damaged  set when the file ends in the middle of an entry or lies about a length; the
+/// entries before that are returned.
 std::vector<ResourceEntry> ReadResources(Bytes file, bool* damaged);
 
-/// @returns the data of a resource of a module (null: the application), empty with the documented error code set when there
-/// is none.
+/// @returns the data of a resource of a module (null: the application), empty with the documented error code set when
+/// there is none.
 Bytes FindResourceBytes(HMODULE module, LPCSTR name, LPCSTR type);
 
 }  // namespace platform::kernel

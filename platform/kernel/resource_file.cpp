@@ -1,5 +1,7 @@
+#include <cstdlib>
 #include <cstring>
 
+#include "kernel/encoding.h"
 #include "kernel/resource.h"
 
 namespace platform::kernel {
@@ -11,7 +13,7 @@ class Cursor {
 
     template <class Number>
     bool Read(Number* number) {
-        if (bytes_.size() - at_ < sizeof(Number)) {
+        if (at_ > bytes_.size() || bytes_.size() - at_ < sizeof(Number)) {
             return false;
         }
         std::memcpy(number, bytes_.data() + at_, sizeof(Number));
@@ -35,17 +37,20 @@ class Cursor {
                 return false;
             }
         }
-        char narrow[512];
-        const int length = WideCharToMultiByte(CP_ACP, 0, wide.c_str(), static_cast<int>(wide.size()), narrow,
-                                               sizeof narrow, nullptr, nullptr);
-        name->text.assign(narrow, static_cast<std::size_t>(length));
+        name->text = AnsiFromWide(wide);
         CharUpperBuffA(name->text.data(), static_cast<DWORD>(name->text.size()));
         return true;
     }
 
-    void Align() { at_ = (at_ + 3) & ~std::size_t{3}; }
-    bool AtEnd() const { return at_ >= bytes_.size(); }
-    std::size_t at() const { return at_; }
+    void Align() {
+        at_ = (at_ + 3) & ~std::size_t{3};
+    }
+    bool AtEnd() const {
+        return at_ >= bytes_.size();
+    }
+    std::size_t at() const {
+        return at_;
+    }
 
   private:
     Bytes bytes_;
@@ -59,11 +64,7 @@ ResourceName ResourceName::FromArgument(LPCSTR argument) {
     if (IS_INTRESOURCE(argument)) {
         name.number = static_cast<WORD>(reinterpret_cast<ULONG_PTR>(argument));
     } else if (argument[0] == '#') {
-        unsigned number = 0;
-        for (LPCSTR digit = argument + 1; *digit >= '0' && *digit <= '9'; ++digit) {
-            number = number * 10 + static_cast<unsigned>(*digit - '0');
-        }
-        name.number = static_cast<WORD>(number);
+        name.number = static_cast<WORD>(std::strtoul(argument + 1, nullptr, 10));
     } else {
         name.text = argument;
         CharUpperBuffA(name.text.data(), static_cast<DWORD>(name.text.size()));
@@ -88,8 +89,8 @@ std::vector<ResourceEntry> ReadResources(Bytes file, bool* damaged) {
         bool good = header.Read(&entry.type) && header.Read(&entry.name);
         header.Align();
         good = good && header.Read(&ignored) && header.Read(&flags) && header.Read(&entry.language) &&
-               header.Read(&ignored) && header.Read(&ignored) && headerSize >= header.at() && headerSize <= rest.size() &&
-               dataSize <= rest.size() - headerSize;
+               header.Read(&ignored) && header.Read(&ignored) && headerSize >= header.at() &&
+               headerSize <= rest.size() && dataSize <= rest.size() - headerSize;
         if (!good) {
             *damaged = true;
             break;

@@ -1,39 +1,43 @@
-// Plain string functions. A null pointer gets the documented neutral result.
+// Plain string functions. A null or bad pointer gets the documented neutral result: the length 0, a null copy.
 #include <windows.h>
 
 #include <cstdint>
 #include <cstring>
 
+#include "kernel/probe.h"
+
+using platform::kernel::kBadText;
+using platform::kernel::ProbeLength;
+
 int WINAPI lstrlenA(LPCSTR text) {
-    return text ? static_cast<int>(std::strlen(text)) : 0;
+    const std::size_t length = text ? ProbeLength(text) : 0;
+    return length == kBadText ? 0 : static_cast<int>(length);
 }
 
 LPSTR WINAPI lstrcpyA(LPSTR to, LPCSTR from) {
-    if (!to || !from) {
+    const std::size_t length = ProbeLength(from);
+    if (length == kBadText || IsBadWritePtr(to, length + 1)) {
         return nullptr;
     }
-    std::memmove(to, from, std::strlen(from) + 1);
-    return to;
+    return static_cast<LPSTR>(std::memmove(to, from, length + 1));
 }
 
 LPSTR WINAPI lstrcpynA(LPSTR to, LPCSTR from, int most) {
-    if (!to || !from) {
+    if (most <= 0) {
+        return to;
+    }
+    const std::size_t length = from ? ProbeLength(from, static_cast<std::size_t>(most) - 1) : kBadText;
+    if (length == kBadText || IsBadWritePtr(to, length + 1)) {
         return nullptr;
     }
-    if (most > 0) {
-        const std::size_t length = strnlen(from, static_cast<std::size_t>(most) - 1);
-        std::memmove(to, from, length);
-        to[length] = '\0';
-    }
+    std::memmove(to, from, length);
+    to[length] = '\0';
     return to;
 }
 
 LPSTR WINAPI lstrcatA(LPSTR to, LPCSTR from) {
-    if (!to || !from) {
-        return nullptr;
-    }
-    lstrcpyA(to + std::strlen(to), from);
-    return to;
+    const std::size_t length = ProbeLength(to);
+    return length != kBadText && lstrcpyA(to + length, from) ? to : nullptr;
 }
 
 // Rounds half away from zero; a result that does not fit is -1.

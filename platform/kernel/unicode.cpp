@@ -1,6 +1,8 @@
 // Between code pages and UTF-16.
 #include <windows.h>
 
+#include <unicode/unorm2.h>
+
 #include <cstring>
 #include <string>
 
@@ -36,7 +38,11 @@ bool DecodeUtf8(const unsigned char* text, std::size_t size, std::u16string& out
     bool valid = true;
     for (std::size_t at = 0; at < size;) {
         const unsigned char first = text[at++];
-        const int more = first < 0x80 ? 0 : (first >> 5) == 6 ? 1 : (first >> 4) == 14 ? 2 : (first >> 3) == 30 ? 3 : -1;
+        const int more = first < 0x80         ? 0
+                         : (first >> 5) == 6  ? 1
+                         : (first >> 4) == 14 ? 2
+                         : (first >> 3) == 30 ? 3
+                                              : -1;
         static constexpr char32_t kLeast[] = {0, 0x80, 0x800, 0x10000};
         char32_t code = more < 0 ? kNoCharacter : more == 0 ? first : first & (0x3F >> more);
         bool good = more >= 0;
@@ -91,10 +97,23 @@ void EncodeUtf8(const char16_t* text, std::size_t size, std::string& out) {
     }
 }
 
-bool EncodePage(const CodePage& page, const char16_t* text, std::size_t size, const char* replacement, std::string& out) {
+// The nearest thing that a page has for a character it lacks: what stands first in its decomposition. 0 for none.
+std::uint16_t BestFit(const CodePage& page, char16_t character) {
+    UErrorCode error = U_ZERO_ERROR;
+    const UNormalizer2* forms = unorm2_getNFKDInstance(&error);
+    UChar parts[16];
+    const std::int32_t length = U_SUCCESS(error) ? unorm2_getRawDecomposition(forms, character, parts, 16, &error) : -1;
+    return U_SUCCESS(error) && length > 0 ? page.fromUnicode[parts[0]] : std::uint16_t{0};
+}
+
+bool EncodePage(const CodePage& page, const char16_t* text, std::size_t size, const char* replacement, bool bestFit,
+                std::string& out) {
     bool replaced = false;
     for (std::size_t at = 0; at < size; ++at) {
-        const std::uint16_t bytes = page.fromUnicode[text[at]];
+        std::uint16_t bytes = page.fromUnicode[text[at]];
+        if (bytes == 0 && text[at] != 0 && bestFit) {
+            bytes = BestFit(page, text[at]);
+        }
         if (bytes == 0 && text[at] != 0) {
             replaced = true;
             out += replacement;
@@ -149,8 +168,7 @@ int WINAPI MultiByteToWideChar(UINT codePage, DWORD flags, LPCSTR from, int from
 
 int WINAPI WideCharToMultiByte(UINT codePage, DWORD flags, LPCWSTR from, int fromSize, LPSTR to, int toSize,
                                LPCSTR defaultChar, BOOL* usedDefaultChar) {
-    constexpr DWORD known =
-        WC_COMPOSITECHECK | WC_DISCARDNS | WC_SEPCHARS | WC_DEFAULTCHAR | WC_NO_BEST_FIT_CHARS;
+    constexpr DWORD known = WC_COMPOSITECHECK | WC_DISCARDNS | WC_SEPCHARS | WC_DEFAULTCHAR | WC_NO_BEST_FIT_CHARS;
     if (!from || fromSize == 0 || fromSize < -1 || toSize < 0 || (toSize > 0 && !to)) {
         return Fail(ERROR_INVALID_PARAMETER);
     }
@@ -171,7 +189,8 @@ int WINAPI WideCharToMultiByte(UINT codePage, DWORD flags, LPCWSTR from, int fro
         out.reserve(size);
         bool replaced = false;
         if (page) {
-            replaced = EncodePage(*page, from, size, defaultChar ? defaultChar : "?", out);
+            replaced =
+                EncodePage(*page, from, size, defaultChar ? defaultChar : "?", !(flags & WC_NO_BEST_FIT_CHARS), out);
         } else {
             EncodeUtf8(from, size, out);
         }

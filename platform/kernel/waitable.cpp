@@ -32,6 +32,12 @@ struct HandleShare {
     std::shared_ptr<Waitable> object;
 };
 
+// A share may be taken out of the table and deleted by another thread: it is read, and taken out, only under this lock.
+std::mutex& SharesLock() {
+    static auto& lock = *new std::mutex;
+    return lock;
+}
+
 template <class Result>
 Result Fail(DWORD error, Result result) {
     SetLastError(error);
@@ -47,18 +53,14 @@ HANDLE MakeHandle(HandleKind kind, const std::shared_ptr<Waitable>& object) {
     return base::ToHandle<HANDLE>(handle);
 }
 
-std::shared_ptr<Waitable> FindWaitable(HANDLE handle) {
-    for (const HandleKind kind : {HandleKind::Event, HandleKind::Thread}) {
+std::shared_ptr<Waitable> FindWaitable(HANDLE handle, std::initializer_list<HandleKind> kinds) {
+    const std::lock_guard guard(SharesLock());
+    for (const HandleKind kind : kinds) {
         if (const auto* share = base::Find<HandleShare>(handle, kind)) {
             return share->object;
         }
     }
-    return nullptr;
-}
-
-std::shared_ptr<Waitable> FindEvent(HANDLE handle) {
-    const auto* share = base::Find<HandleShare>(handle, HandleKind::Event);
-    return share ? share->object : Fail<std::shared_ptr<Waitable>>(ERROR_INVALID_HANDLE, nullptr);
+    return Fail<std::shared_ptr<Waitable>>(ERROR_INVALID_HANDLE, nullptr);
 }
 
 void RunThread(const std::shared_ptr<Waitable>& object, LPTHREAD_START_ROUTINE start, LPVOID parameter) {
@@ -115,12 +117,15 @@ HANDLE WINAPI CreateThread(LPSECURITY_ATTRIBUTES, SIZE_T, LPTHREAD_START_ROUTINE
 }
 
 BOOL WINAPI GetExitCodeThread(HANDLE thread, LPDWORD code) {
-    const auto* share = base::Find<HandleShare>(thread, HandleKind::Thread);
-    if (!share || !code) {
-        return Fail(ERROR_INVALID_HANDLE, FALSE);
+    if (!code) {
+        return Fail(ERROR_INVALID_PARAMETER, FALSE);
     }
-    const std::lock_guard guard(share->object->lock);
-    *code = share->object->exitCode;
+    const auto object = FindWaitable(thread, {HandleKind::Thread});
+    if (!object) {
+        return FALSE;
+    }
+    const std::lock_guard guard(object->lock);
+    *code = object->exitCode;
     return TRUE;
 }
 
@@ -140,7 +145,7 @@ HANDLE WINAPI CreateEventA(LPSECURITY_ATTRIBUTES, BOOL manualReset, BOOL initial
 }
 
 BOOL WINAPI SetEvent(HANDLE event) {
-    const auto object = FindEvent(event);
+    const auto object = FindWaitable(event, {HandleKind::Event});
     if (!object) {
         return FALSE;
     }
@@ -151,7 +156,7 @@ BOOL WINAPI SetEvent(HANDLE event) {
 }
 
 BOOL WINAPI ResetEvent(HANDLE event) {
-    const auto object = FindEvent(event);
+    const auto object = FindWaitable(event, {HandleKind::Event});
     if (!object) {
         return FALSE;
     }
@@ -161,9 +166,9 @@ BOOL WINAPI ResetEvent(HANDLE event) {
 }
 
 DWORD WINAPI WaitForSingleObject(HANDLE handle, DWORD milliseconds) {
-    const auto object = FindWaitable(handle);
+    const auto object = FindWaitable(handle, {HandleKind::Event, HandleKind::Thread});
     if (!object) {
-        return Fail<DWORD>(ERROR_INVALID_HANDLE, WAIT_FAILED);
+        return WAIT_FAILED;
     }
     std::unique_lock guard(object->lock);
     const auto ready = [&] { return object->signalled; };
@@ -179,6 +184,7 @@ DWORD WINAPI WaitForSingleObject(HANDLE handle, DWORD milliseconds) {
 }
 
 BOOL WINAPI CloseHandle(HANDLE handle) {
+    const std::lock_guard guard(SharesLock());
     for (const HandleKind kind : {HandleKind::Event, HandleKind::Thread}) {
         if (auto* share = static_cast<HandleShare*>(base::RemoveHandle(base::ToNumber(handle), kind))) {
             delete share;
@@ -191,36 +197,4 @@ BOOL WINAPI CloseHandle(HANDLE handle) {
 DWORD WINAPI GetCurrentThreadId(void) {
     static thread_local const DWORD id = static_cast<DWORD>(syscall(SYS_gettid));
     return id;
-}
-
-// --- critical sections
-
-namespace {
-
-std::recursive_mutex* MutexOf(LPCRITICAL_SECTION section) {
-    static_assert(sizeof(std::recursive_mutex) <= sizeof(CRITICAL_SECTION));
-    return reinterpret_cast<std::recursive_mutex*>(section);
-}
-
-}  // namespace
-
-void WINAPI InitializeCriticalSection(LPCRITICAL_SECTION section) {
-    new (section) std::recursive_mutex;
-}
-
-void WINAPI EnterCriticalSection(LPCRITICAL_SECTION section) {
-    MutexOf(section)->lock();
-}
-
-BOOL WINAPI TryEnterCriticalSection(LPCRITICAL_SECTION section) {
-    return MutexOf(section)->try_lock();
-}
-
-void WINAPI LeaveCriticalSection(LPCRITICAL_SECTION section) {
-    MutexOf(section)->unlock();
-}
-
-void WINAPI DeleteCriticalSection(LPCRITICAL_SECTION section) {
-    using Mutex = std::recursive_mutex;
-    MutexOf(section)->~Mutex();
 }

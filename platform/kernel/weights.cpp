@@ -10,13 +10,22 @@
 namespace platform::kernel {
 namespace {
 
-// Symbols in their order before the digits. Hyphen and apostrophe come first in string sort and weigh least in word sort.
+// Symbols in their order before the digits. Hyphen and apostrophe come first in string sort and weigh least in word
+// sort.
 constexpr char kSymbols[] = "'- !\"#$%&()*,./:;?@[\\]^_`{|}~+<=>";
 constexpr std::uint32_t kFirstSymbol = 0x10;
 constexpr std::uint32_t kLaterSymbols = 0x100;  // the other symbols, by code point
 constexpr std::uint32_t kDigits = 0x20000;
 constexpr std::uint32_t kLetters = 0x20100;
 constexpr std::uint32_t kOtherLetters = 0x30000;  // by code point
+constexpr std::uint32_t kIdeographs = 0x50000;    // by their place in the code page
+
+// The half-width Katakana from U+FF66 to U+FF9D by their full-width forms.
+constexpr char16_t kHalfWidth[] =
+    u"\u30F2\u30A1\u30A3\u30A5\u30A7\u30A9\u30E3\u30E5\u30E7\u30C3\u30FC\u30A2\u30A4\u30A6\u30A8\u30AA"
+    u"\u30AB\u30AD\u30AF\u30B1\u30B3\u30B5\u30B7\u30B9\u30BB\u30BD\u30BF\u30C1\u30C4\u30C6\u30C8\u30CA"
+    u"\u30CB\u30CC\u30CD\u30CE\u30CF\u30D2\u30D5\u30D8\u30DB\u30DE\u30DF\u30E0\u30E1\u30E2\u30E4\u30E6"
+    u"\u30E8\u30E9\u30EA\u30EB\u30EC\u30ED\u30EF\u30F3";
 
 Weight Letter(char small, bool upper) {
     Weight weight;
@@ -32,7 +41,7 @@ bool Expansion(char16_t character, Weights& weights) {
         char first, second;
         bool upper;
     };
-    static constexpr Pair kPairs[] = {{0xC6, 'a', 'e', true},  {0xE6, 'a', 'e', false}, {0xDF, 's', 's', false},
+    static constexpr Pair kPairs[] = {{0xC6, 'a', 'e', true},  {0xE6, 'a', 'e', false},  {0xDF, 's', 's', false},
                                       {0x152, 'o', 'e', true}, {0x153, 'o', 'e', false}, {0xDE, 't', 'h', true},
                                       {0xFE, 't', 'h', false}};
     for (const Pair& pair : kPairs) {
@@ -119,38 +128,59 @@ char16_t Narrow(char16_t character) {
     return character == 0x3000 ? u' ' : character;
 }
 
+// Han characters and Korean syllables.
+bool IsIdeograph(char16_t character) {
+    return (character >= 0x3400 && character <= 0x9FFF) || (character >= 0xAC00 && character <= 0xD7A3) ||
+           (character >= 0xF900 && character <= 0xFAFF);
+}
+
+// Reduces a letter with an accent to the letter. @returns the accent's weight, 0 for none.
+std::uint8_t TakeAccent(char16_t& character) {
+    if (const char16_t plain = StrokeBase(character)) {
+        character = plain;
+        return 0xF0;
+    }
+    UErrorCode error = U_ZERO_ERROR;
+    const UNormalizer2* forms = unorm2_getNFDInstance(&error);
+    UChar parts[8];
+    const std::int32_t length =
+        character >= 0xC0 && U_SUCCESS(error) ? unorm2_getDecomposition(forms, character, parts, 8, &error) : -1;
+    if (U_FAILURE(error) || length < 2) {
+        return 0;
+    }
+    std::uint8_t accent = 0;
+    for (std::int32_t i = 1; i < length; ++i) {
+        accent = static_cast<std::uint8_t>(accent * 31 + (parts[i] & 0x7F) + 2);
+    }
+    character = parts[0];
+    return accent;
+}
+
 }  // namespace
 
-Weights WeightsOf(char16_t character) {
+Weights WeightsOf(char16_t character, std::uint16_t bytes) {
     Weights weights;
     std::uint8_t form = 0;
     if (Narrow(character) != character) {
         character = Narrow(character);
         form |= Weight::kWide;
     }
-    if (character >= 0x30A1 && character <= 0x30F6) {
-        character = static_cast<char16_t>(character - 0x60);
+    // Half-width Katakana is the narrow form, full-width the wide one, as with Latin letters.
+    if (character >= 0xFF66 && character <= 0xFF9D) {
+        character = static_cast<char16_t>(kHalfWidth[character - 0xFF66] - 0x60);
         form |= Weight::kKatakana;
+    } else if (character >= 0x30A1 && character <= 0x30F6) {
+        character = static_cast<char16_t>(character - 0x60);
+        form |= Weight::kKatakana | Weight::kWide;
+    } else if (character >= 0x3041 && character <= 0x3096) {
+        form |= Weight::kWide;
     }
-    if (!Expansion(character, weights)) {
-        std::uint8_t accent = 0;
-        char16_t base = StrokeBase(character);
-        if (base) {
-            accent = 0xF0;
-        } else if (character >= 0xC0) {
-            UErrorCode error = U_ZERO_ERROR;
-            const UNormalizer2* form = unorm2_getNFDInstance(&error);
-            UChar parts[8];
-            const std::int32_t length =
-                U_SUCCESS(error) ? unorm2_getDecomposition(form, character, parts, 8, &error) : -1;
-            if (U_SUCCESS(error) && length >= 2 && parts[0] < 0x3040) {
-                base = parts[0];
-                for (std::int32_t i = 1; i < length; ++i) {
-                    accent = static_cast<std::uint8_t>(accent * 31 + (parts[i] & 0x7F) + 2);
-                }
-            }
-        }
-        weights.first = Plain(base ? base : character);
+    if (IsIdeograph(character)) {
+        weights.first.primary = kIdeographs + bytes;
+    } else if (!Expansion(character, weights)) {
+        char16_t base = character;
+        const std::uint8_t accent = TakeAccent(base);
+        weights.first = Plain(base);
         weights.first.accent = accent;
     }
     weights.first.letterCase |= form;
@@ -167,7 +197,7 @@ const std::array<Weights, 256>& ByteWeights(const CodePage& page) {
     if (fresh) {
         for (int byte = 0; byte < 256; ++byte) {
             if (!page.lead[byte]) {
-                place->second[byte] = WeightsOf(page.single[byte]);
+                place->second[byte] = WeightsOf(page.single[byte], static_cast<std::uint16_t>(byte));
             }
         }
     }

@@ -10,11 +10,11 @@ namespace platform::kernel {
 
 /// The weights of one letter. A character that expands ("ss", "ae") has two of them.
 struct Weight {
-    std::uint32_t primary = 0;   ///< 0: not compared (control characters; hyphen and apostrophe, which have `special`)
+    std::uint32_t primary = 0;  ///< 0: not compared (control characters; hyphen and apostrophe, which have `special`)
     std::uint8_t accent = 0;
     std::uint8_t letterCase = 0;  ///< kUpper | kKatakana | kWide
-    std::uint8_t special = 0;    ///< weighs only where all else is equal
-    bool symbol = false;         ///< left out by NORM_IGNORESYMBOLS
+    std::uint8_t special = 0;     ///< weighs only where all else is equal
+    bool symbol = false;          ///< left out by NORM_IGNORESYMBOLS
 
     static constexpr std::uint8_t kUpper = 1, kKatakana = 2, kWide = 4;
 };
@@ -25,8 +25,8 @@ struct Weights {
     bool expands = false;
 };
 
-/// @returns the weights of a UTF-16 unit.
-Weights WeightsOf(char16_t character);
+/// @returns the weights of a UTF-16 unit. @param bytes  what it is in its code page, which orders ideographs.
+Weights WeightsOf(char16_t character, std::uint16_t bytes);
 
 /// @returns the weights of all single bytes of a page, built once.
 const std::array<Weights, 256>& ByteWeights(const CodePage& page);

@@ -174,7 +174,7 @@ bool ActivateOwn(ThreadState* self, HWND window, bool byMouse, bool foreground) 
         TellApplication(self, true, loser);
     }
     SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-    if (self->active != window) {
+    if (Shared(self->active) != window) {
         return false;
     }
     SendMessageA(window, WM_NCACTIVATE, TRUE, reinterpret_cast<LPARAM>(previous));
@@ -192,7 +192,7 @@ bool ActivateOwn(ThreadState* self, HWND window, bool byMouse, bool foreground) 
 }
 
 void DeactivateOwn(ThreadState* self) {
-    const HWND active = self->active;
+    const HWND active = Shared(self->active);
     Deactivate(active, nullptr, true);
     bool left = false;
     {
@@ -220,7 +220,7 @@ void ActivateNext(ThreadState* self, Window* leaving) {
         ActivateWindow(next, false);
     }
     // No other window took over, or one of another thread did.
-    if (self->active == window) {
+    if (Shared(self->active) == window) {
         DeactivateOwn(self);
     }
 }
@@ -248,7 +248,7 @@ using namespace platform::user;
 
 HWND WINAPI GetActiveWindow(VOID) {
     const ThreadState* self = CurrentThread();
-    return self != nullptr ? self->active : nullptr;
+    return self != nullptr ? Shared(self->active) : nullptr;
 }
 
 HWND WINAPI SetActiveWindow(HWND window) {
@@ -256,7 +256,7 @@ HWND WINAPI SetActiveWindow(HWND window) {
     if (self == nullptr) {
         return nullptr;
     }
-    const HWND previous = self->active;
+    const HWND previous = Shared(self->active);
     if (window == nullptr) {
         DeactivateOwn(self);
         return previous;

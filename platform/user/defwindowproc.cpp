@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cstring>
 #include <new>
+#include <utility>
 
 #include "user/nonclient.h"
 #include "user/queue.h"
@@ -86,7 +87,7 @@ void TellPlace(HWND handle, const WINDOWPOS& position) {
 
 /// Limits a top-level window with a sizing border to what it says of its smallest and largest size.
 void LimitSize(HWND handle, DWORD style, WINDOWPOS* position) {
-    if ((position->flags & SWP_NOSIZE) || !(style & WS_THICKFRAME) || IsChildStyle(style)) {
+    if ((position->flags & SWP_NOSIZE) || !(style & WS_THICKFRAME) || (style & WS_MINIMIZE) || IsChildStyle(style)) {
         return;
     }
     const MINMAXINFO limits = QueryMinMax(handle);
@@ -135,13 +136,8 @@ LRESULT ActivateByMouse(HWND handle, WPARAM wParam, LPARAM lParam) {
 /// Alt+F4 closes; other system keys have no menu to go to.
 LRESULT SystemKeyDown(HWND handle, WPARAM key, LPARAM bits) {
     if (key == VK_F4 && (bits & (1 << 29))) {
-        const Window* window = PeekWindow(handle);
-        UserHold hold(UserLock());
-        Window* top = window ? TopLevel(PeekWindow(handle)) : nullptr;
-        if (top && (top->windowClass->style & CS_NOCLOSE) == 0) {
-            const HWND target = top->handle;
-            hold.unlock();
-            SendMessageA(target, WM_SYSCOMMAND, SC_CLOSE, 0);
+        if (const HWND top = GetAncestor(handle, GA_ROOT)) {
+            SendMessageA(top, WM_SYSCOMMAND, SC_CLOSE, 0);
         }
     }
     return 0;
@@ -162,6 +158,28 @@ void SetRedraw(HWND handle, bool redraw) {
     window->update = gdi::Region();
     WindowsChanged();
 }
+
+LRESULT SetIcon(HWND handle, bool big, HICON icon) {
+    const UserGuard guard(UserLock());
+    Window* window = PeekWindow(handle);
+    return window ? reinterpret_cast<LRESULT>(std::exchange(big ? window->bigIcon : window->smallIcon, icon)) : 0;
+}
+
+void Print(HWND handle, WPARAM context, LPARAM what) {
+    if ((what & PRF_CHECKVISIBLE) && !IsWindowVisible(handle)) {
+        return;
+    }
+    if (what & PRF_ERASEBKGND) {
+        SendMessageA(handle, WM_ERASEBKGND, context, 0);
+    }
+    if (what & PRF_CLIENT) {
+        SendMessageA(handle, WM_PRINTCLIENT, context, what);
+    }
+}
+
+// WM_NOTIFYFORMAT: a control asks its parent, which hears every notification in the ANSI form.
+constexpr LPARAM kQueryFormat = 3;
+constexpr LRESULT kAnsiFormat = 1;
 
 }  // namespace
 }  // namespace platform::user
@@ -242,13 +260,30 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
             ClientToScreen(handle, &point);
             return SendMessageA(handle, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(handle), MAKELPARAM(point.x, point.y));
         }
+        case WM_NCRBUTTONUP:
+            return SendMessageA(handle, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(handle), lParam);
         case WM_CONTEXTMENU:
+        case WM_HELP:
         case WM_MOUSEWHEEL:
             if (IsChildStyle(window->style)) {
                 if (const HWND parent = GetParent(handle)) {
                     return SendMessageA(parent, message, wParam, lParam);
                 }
             }
+            return 0;
+        case WM_VKEYTOITEM:
+        case WM_CHARTOITEM:
+            return -1;
+        case WM_NOTIFYFORMAT:
+            return lParam == kQueryFormat ? kAnsiFormat : 0;
+        case WM_GETICON:
+            return reinterpret_cast<LRESULT>(wParam == ICON_BIG ? window->bigIcon : window->smallIcon);
+        case WM_SETICON:
+            return SetIcon(handle, wParam == ICON_BIG, reinterpret_cast<HICON>(lParam));
+        case WM_QUERYDRAGICON:
+            return reinterpret_cast<LRESULT>(window->bigIcon ? window->bigIcon : window->windowClass->icon);
+        case WM_PRINT:
+            Print(handle, wParam, lParam);
             return 0;
         case WM_SHOWWINDOW:
             // Owned windows come and go with their owner.

@@ -35,13 +35,13 @@ bool MoveFocus(ThreadState* self, HWND window) {
         SendMessageA(previous, WM_KILLFOCUS, reinterpret_cast<WPARAM>(window), 0);
     }
     // The window that lost the focus may have put it elsewhere.
-    if (self->focus != window) {
+    if (Shared(self->focus) != window) {
         return false;
     }
     if (window != nullptr && PeekWindow(window) != nullptr) {
         SendMessageA(window, WM_SETFOCUS, reinterpret_cast<WPARAM>(previous), 0);
     }
-    return self->focus == window;
+    return Shared(self->focus) == window;
 }
 
 }  // namespace platform::user
@@ -50,7 +50,7 @@ using namespace platform::user;
 
 HWND WINAPI GetFocus(VOID) {
     const ThreadState* self = CurrentThread();
-    return self != nullptr ? self->focus : nullptr;
+    return self != nullptr ? Shared(self->focus) : nullptr;
 }
 
 HWND WINAPI SetFocus(HWND window) {
@@ -58,13 +58,14 @@ HWND WINAPI SetFocus(HWND window) {
     if (self == nullptr) {
         return nullptr;
     }
-    const HWND previous = self->focus;
+    const HWND previous = Shared(self->focus);
     if (window == nullptr) {
         MoveFocus(self, nullptr);
         return previous;
     }
     HWND top = nullptr;
     bool inBackground = false;
+    bool mustActivate = false;
     {
         UserGuard guard(UserLock());
         Window* target = FindWindowObject(window);
@@ -84,10 +85,11 @@ HWND WINAPI SetFocus(HWND window) {
         }
         const Window* topLevel = TopLevel(target);
         top = topLevel != nullptr ? topLevel->handle : nullptr;
+        mustActivate = topLevel != nullptr && top != self->active && topLevel->thread == self;
         const ThreadState* foreground = Input().foreground;
         inBackground = foreground != nullptr && foreground != self;
     }
-    if (top != self->active && PeekWindow(top) != nullptr && PeekWindow(top)->thread == self) {
+    if (mustActivate) {
         if (!ActivateOwn(self, top, false, !inBackground) || PeekWindow(window) == nullptr) {
             return nullptr;
         }

@@ -46,7 +46,9 @@ BOOL WINAPI TranslateMessage(const MSG* message) {
     } else {
         WORD character = 0;
         const auto key = static_cast<UINT>(message->wParam);
-        count = ToAscii(key, HIWORD(message->lParam) & 0xFF, self->keyState, &character, 0);
+        BYTE state[256];
+        GetKeyboardState(state);
+        count = ToAscii(key, HIWORD(message->lParam) & 0xFF, state, &character, 0);
         bytes[0] = static_cast<char>(LOBYTE(character));
     }
     for (int i = 0; i < count; ++i) {
@@ -60,7 +62,7 @@ SHORT WINAPI GetKeyState(int key) {
     if (self == nullptr || key < 0 || key > 0xFF) {
         return 0;
     }
-    const BYTE state = self->keyState[key];
+    const BYTE state = Shared(self->keyState[key]);
     return static_cast<SHORT>((state & 0x80 ? 0xFF80 : 0) | (state & 0x01));
 }
 
@@ -82,6 +84,7 @@ BOOL WINAPI GetKeyboardState(PBYTE state) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return FALSE;
     }
+    UserGuard guard(UserLock());
     std::memcpy(state, self->keyState, sizeof self->keyState);
     return TRUE;
 }

@@ -16,10 +16,10 @@ void ForgetInput(Window* window) {
         if (thread->capture == handle) {
             MoveCapture(thread, nullptr);
         }
-        if (thread->active == handle) {
+        if (Shared(thread->active) == handle) {
             ActivateNext(thread, window);
         }
-        if (thread->focus == handle) {
+        if (Shared(thread->focus) == handle) {
             const Window* parent = (window->style & WS_CHILD) != 0 ? window->parent : nullptr;
             const bool usable = parent != nullptr && parent != Desktop() && !parent->destroying;
             MoveFocus(thread, usable ? parent->handle : nullptr);
@@ -56,10 +56,11 @@ void LeaveDisabledOrHidden(Window* window) {
     if (thread->capture != nullptr && concerned(thread->capture)) {
         MoveCapture(thread, nullptr);
     }
-    if (hidden && thread->active == handle) {
+    if (hidden && Shared(thread->active) == handle) {
         ActivateNext(thread, window);
     }
-    if (thread->focus == nullptr || !concerned(thread->focus)) {
+    const HWND focus = Shared(thread->focus);
+    if (focus == nullptr || !concerned(focus)) {
         return;
     }
     HWND next = nullptr;

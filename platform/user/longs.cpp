@@ -1,5 +1,6 @@
 // The longs of windows and classes: styles, procedures, identifiers, extra bytes.
 #include <cstring>
+#include <utility>
 
 #include "user/queue.h"
 #include "user/window.h"
@@ -38,11 +39,16 @@ Number WriteExtra(std::vector<std::byte>& extra, int index, Number value) {
 
 /// Styles change between two messages, and the window may change its mind in the first.
 LONG_PTR ChangeStyle(HWND handle, int index, DWORD value) {
-    Window* window = PeekWindow(handle);
+    UserHold hold(UserLock());
+    Window* window = FindWindowObject(handle);
+    if (!window) {
+        return 0;
+    }
     DWORD Window::*member = index == GWL_STYLE ? &Window::style : &Window::exStyle;
     STYLESTRUCT change{window->*member, value};
+    hold.unlock();
     SendMessageA(handle, WM_STYLECHANGING, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&change));
-    UserHold hold(UserLock());
+    hold.lock();
     window = PeekWindow(handle);
     if (!window) {
         return 0;
@@ -59,18 +65,34 @@ LONG_PTR ChangeStyle(HWND handle, int index, DWORD value) {
     return static_cast<LONG_PTR>(static_cast<LONG>(change.styleOld));
 }
 
-Window* FindOwn(HWND handle) {
+/// A window whose longs may be set: the desktop belongs to nobody.
+Window* FindChangeable(HWND handle) {
     Window* window = FindWindowObject(handle);
-    if (window && window->thread == nullptr) {
-        SetLastError(ERROR_ACCESS_DENIED);  // the desktop belongs to nobody
+    if (window && !window->thread) {
+        SetLastError(ERROR_ACCESS_DENIED);
         return nullptr;
     }
     return window;
 }
 
+/// Where pointers are wider than a LONG, those longs that hold one have no narrow form.
+bool TooWide(int index, bool wide) {
+    return !wide && sizeof(LONG_PTR) > sizeof(LONG) &&
+           (index == GWLP_WNDPROC || index == GWLP_HINSTANCE || index == GWLP_HWNDPARENT);
+}
+
 LONG_PTR Get(HWND handle, int index, bool wide) {
+    UserHold hold(UserLock(), std::defer_lock);
     Window* window = FindWindowObject(handle);
+    if (window && window->thread != CurrentThread()) {
+        hold.lock();
+        window = FindWindowObject(handle);
+    }
     if (!window) {
+        return 0;
+    }
+    if (TooWide(index, wide)) {
+        SetLastError(ERROR_INVALID_INDEX);
         return 0;
     }
     switch (index) {
@@ -87,46 +109,71 @@ LONG_PTR Get(HWND handle, int index, bool wide) {
         case GWLP_HINSTANCE:
             return reinterpret_cast<LONG_PTR>(window->instance);
         case GWLP_HWNDPARENT:
-            return reinterpret_cast<LONG_PTR>(GetParent(handle));
+            return reinterpret_cast<LONG_PTR>(IsChildStyle(window->style) ? GetParent(handle) : GetWindow(handle, GW_OWNER));
         default:
             return wide ? ReadExtra<LONG_PTR>(window->extra, index) : ReadExtra<LONG>(window->extra, index);
     }
 }
 
+/// @returns whether `owner` may own the window: a window cannot own itself, directly or not.
+bool MayOwn(const Window* owner, const Window* window) {
+    for (; owner; owner = owner->owner) {
+        if (owner == window) {
+            return false;
+        }
+    }
+    return true;
+}
+
+LONG_PTR SetOwner(HWND handle, HWND value) {
+    {
+        const UserGuard guard(UserLock());
+        Window* window = PeekWindow(handle);
+        Window* owner = value ? FindWindowObject(value) : nullptr;
+        if (!window || (value && !owner)) {
+            return 0;
+        }
+        if (!IsChildStyle(window->style)) {
+            if (!MayOwn(TopLevel(owner), window)) {
+                SetLastError(ERROR_INVALID_PARAMETER);
+                return 0;
+            }
+            const HWND old = window->owner ? window->owner->handle : nullptr;
+            window->owner = TopLevel(owner);
+            return reinterpret_cast<LONG_PTR>(old);
+        }
+    }
+    return reinterpret_cast<LONG_PTR>(SetParent(handle, value));
+}
+
 LONG_PTR Set(HWND handle, int index, LONG_PTR value, bool wide) {
-    Window* window = FindOwn(handle);
+    Window* window = FindChangeable(handle);
     if (!window) {
+        return 0;
+    }
+    if (TooWide(index, wide)) {
+        SetLastError(ERROR_INVALID_INDEX);
         return 0;
     }
     if (index == GWL_STYLE || index == GWL_EXSTYLE) {
         return ChangeStyle(handle, index, static_cast<DWORD>(value));
     }
+    if (index == GWLP_HWNDPARENT) {
+        return SetOwner(handle, reinterpret_cast<HWND>(value));
+    }
     const UserGuard guard(UserLock());
-    LONG_PTR old = 0;
+    if (!(window = FindChangeable(handle))) {
+        return 0;
+    }
     switch (index) {
         case GWLP_ID:
-            old = window->id;
-            window->id = value;
-            return old;
+            return std::exchange(window->id, value);
         case GWLP_USERDATA:
-            old = window->userData;
-            window->userData = value;
-            return old;
+            return std::exchange(window->userData, value);
         case GWLP_WNDPROC:
             return reinterpret_cast<LONG_PTR>(window->procedure.exchange(reinterpret_cast<WNDPROC>(value)));
         case GWLP_HINSTANCE:
-            old = reinterpret_cast<LONG_PTR>(window->instance);
-            window->instance = reinterpret_cast<HINSTANCE>(value);
-            return old;
-        case GWLP_HWNDPARENT: {
-            Window* owner = value ? FindWindowObject(reinterpret_cast<HWND>(value)) : nullptr;
-            if (IsChildStyle(window->style)) {
-                return reinterpret_cast<LONG_PTR>(SetParent(handle, reinterpret_cast<HWND>(value)));
-            }
-            old = reinterpret_cast<LONG_PTR>(window->owner ? window->owner->handle : nullptr);
-            window->owner = owner ? TopLevel(owner) : nullptr;
-            return old;
-        }
+            return reinterpret_cast<LONG_PTR>(std::exchange(window->instance, reinterpret_cast<HINSTANCE>(value)));
         default:
             return wide ? WriteExtra<LONG_PTR>(window->extra, index, value)
                         : WriteExtra<LONG>(window->extra, index, static_cast<LONG>(value));
@@ -152,13 +199,14 @@ LONG_PTR WINAPI SetWindowLongPtrA(HWND window, int index, LONG_PTR value) {
 }
 
 WORD WINAPI GetWindowWord(HWND handle, int index) {
+    const UserGuard guard(UserLock());
     Window* window = FindWindowObject(handle);
     return window ? ReadExtra<WORD>(window->extra, index) : 0;
 }
 
 WORD WINAPI SetWindowWord(HWND handle, int index, WORD value) {
-    Window* window = FindOwn(handle);
     const UserGuard guard(UserLock());
+    Window* window = FindChangeable(handle);
     return window ? WriteExtra<WORD>(window->extra, index, value) : 0;
 }
 

@@ -88,9 +88,6 @@ LRESULT HitSizingFrame(const RECT& rect, POINT point) {
     static constexpr LRESULT kCodes[3][3] = {{HTTOPLEFT, HTTOP, HTTOPRIGHT},
                                              {HTLEFT, HTBORDER, HTRIGHT},
                                              {HTBOTTOMLEFT, HTBOTTOM, HTBOTTOMRIGHT}};
-    if (row == 1 && column == 1) {
-        return point.x < rect.left + 8 ? HTLEFT : point.y < rect.top + 8 ? HTTOP : HTBORDER;
-    }
     return kCodes[row][column];
 }
 
@@ -115,7 +112,7 @@ LRESULT HitTest(HWND handle, POINT point) {
     const CaptionParts parts = LayOutCaption(window, window->windowRect);
     if (parts.height && point.y < inner.top + parts.height) {
         if (PtInRect(&parts.close, point)) {
-            return HTCLOSE;
+            return window->windowClass->style & CS_NOCLOSE ? HTCAPTION : HTCLOSE;
         }
         if (PtInRect(&parts.maximize, point)) {
             return window->style & WS_MAXIMIZEBOX ? HTMAXBUTTON : HTCAPTION;
@@ -182,7 +179,9 @@ MINMAXINFO QueryMinMax(HWND handle) {
         const UserGuard guard(UserLock());
         const Window* window = PeekWindow(handle);
         const int frame = window ? FrameWidth(window->style, window->exStyle) : 0;
-        limits.ptMaxSize = {GetSystemMetrics(SM_CXSCREEN) + 2 * frame, GetSystemMetrics(SM_CYSCREEN) + 2 * frame};
+        // A maximised child fills its parent's client area, other windows the screen.
+        const RECT ground = window && window->parent ? window->parent->clientRect : Desktop()->clientRect;
+        limits.ptMaxSize = {ground.right - ground.left + 2 * frame, ground.bottom - ground.top + 2 * frame};
         limits.ptMaxPosition = {-frame, -frame};
     }
     limits.ptMinTrackSize = {GetSystemMetrics(SM_CXMINTRACK), GetSystemMetrics(SM_CYMINTRACK)};

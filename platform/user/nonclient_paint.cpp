@@ -1,6 +1,8 @@
 // Drawing frames: two-pixel bevels, the caption with its text and buttons.
+#include <new>
 #include <string>
 
+#include "gdi/objects.h"
 #include "user/nonclient.h"
 #include "user/queue.h"
 
@@ -15,6 +17,7 @@ struct Picture {
     CaptionParts caption;
     std::string text;
     bool active;
+    bool closes;  ///< the close box works
     POINT origin;
 };
 
@@ -32,6 +35,7 @@ bool Describe(HWND handle, Picture* picture) try {
     picture->caption = LayOutCaption(window, picture->rect);
     picture->text = window->text;
     picture->active = window->captionActive;
+    picture->closes = !(window->windowClass->style & CS_NOCLOSE);
     return true;
 } catch (const std::bad_alloc&) {
     return false;
@@ -78,7 +82,12 @@ HFONT CaptionFont() {
         NONCLIENTMETRICSA metrics{};
         metrics.cbSize = sizeof metrics;
         SystemParametersInfoA(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
-        return CreateFontIndirectA(&metrics.lfCaptionFont);
+        const HFONT made = CreateFontIndirectA(&metrics.lfCaptionFont);
+        // It is the system's own, and no application is to answer for it.
+        if (auto* object = gdi::FindObject<gdi::Font>(made)) {
+            gdi::NoteStock(object);
+        }
+        return made;
     }();
     return font;
 }
@@ -111,7 +120,7 @@ void DrawCaption(HDC context, const Picture& picture, int pressed) {
     const RECT line{parts.bar.left, parts.bar.bottom, parts.bar.right, parts.bar.bottom + 1};
     FillRect(memory, &line, GetSysColorBrush(COLOR_3DFACE));
     const bool maximized = (picture.style & WS_MAXIMIZE) != 0;
-    DrawButton(memory, parts.close, DFCS_CAPTIONCLOSE, pressed == HTCLOSE, false);
+    DrawButton(memory, parts.close, DFCS_CAPTIONCLOSE, pressed == HTCLOSE, !picture.closes);
     DrawButton(memory, parts.maximize, maximized ? DFCS_CAPTIONRESTORE : DFCS_CAPTIONMAX, pressed == HTMAXBUTTON,
                !(picture.style & WS_MAXIMIZEBOX));
     DrawButton(memory, parts.minimize, DFCS_CAPTIONMIN, pressed == HTMINBUTTON, !(picture.style & WS_MINIMIZEBOX));

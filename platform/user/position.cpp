@@ -200,7 +200,7 @@ void Report(Step& step) {
                 return;
             }
             child = (window->style & WS_CHILD) != 0;
-            shown = IsShown(window);
+            shown = window->parent == Desktop() && IsShown(window);
         }
         if (child) {
             SendMessageA(handle, WM_CHILDACTIVATE, 0, 0);

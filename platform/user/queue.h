@@ -35,6 +35,13 @@ struct SentMessage {
 
 using UserHold = std::unique_lock<std::recursive_mutex>;
 
+/// Reads a field that other threads may write, without holding the lock longer.
+template <class Value>
+Value Shared(const Value& field) {
+    UserGuard guard(UserLock());
+    return field;
+}
+
 /// The live window of a handle or null; leaves the last error alone.
 inline Window* PeekWindow(HWND handle) {
     return base::Find<Window>(handle, base::HandleKind::Window);

@@ -73,28 +73,21 @@ RECT MinimisedPlace(const Window* window) {
 
 /// Where a maximised window lies, after WM_GETMINMAXINFO has had its say.
 RECT MaximisedPlace(HWND handle) {
-    MINMAXINFO info{};
-    RECT ground{};
-    {
-        UserGuard guard(UserLock());
-        const Window* window = PeekWindow(handle);
-        if (window == nullptr) {
-            return ground;
-        }
-        ground = Ground(window);
-        const int frame = (window->style & WS_THICKFRAME) != 0         ? GetSystemMetrics(SM_CXFRAME)
-                          : (window->style & WS_CAPTION) == WS_CAPTION ? GetSystemMetrics(SM_CXDLGFRAME)
-                          : (window->style & WS_BORDER) != 0           ? GetSystemMetrics(SM_CXBORDER)
-                                                                       : 0;
-        info.ptMaxPosition = POINT{-frame, -frame};
-        info.ptMaxSize = POINT{ground.right - ground.left + 2 * frame, ground.bottom - ground.top + 2 * frame};
-        info.ptMinTrackSize = POINT{GetSystemMetrics(SM_CXMINTRACK), GetSystemMetrics(SM_CYMINTRACK)};
-        info.ptMaxTrackSize = POINT{gdi::ScreenRect().right + 2 * frame, gdi::ScreenRect().bottom + 2 * frame};
+    const MINMAXINFO limits = QueryMinMax(handle);
+    UserGuard guard(UserLock());
+    const Window* window = PeekWindow(handle);
+    if (window == nullptr) {
+        return RECT{};
     }
-    SendMessageA(handle, WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&info));
-    const LONG left = ground.left + info.ptMaxPosition.x;
-    const LONG top = ground.top + info.ptMaxPosition.y;
-    return RECT{left, top, left + info.ptMaxSize.x, top + info.ptMaxSize.y};
+    const RECT ground = Ground(window);
+    const LONG left = ground.left + limits.ptMaxPosition.x;
+    const LONG top = ground.top + limits.ptMaxPosition.y;
+    return RECT{left, top, left + limits.ptMaxSize.x, top + limits.ptMaxSize.y};
+}
+
+/// The state that a window was created in and has not been given its place for.
+DWORD PendingState(const Window* window) {
+    return IsRectEmpty(&window->restoredRect) ? window->style & (WS_MINIMIZE | WS_MAXIMIZE) : 0;
 }
 
 /// Puts a window into another state. @returns whether it changed, with the new place in screen coordinates.
@@ -107,7 +100,7 @@ bool ChangeState(HWND handle, DWORD wanted, bool toNormal, RECT* place) {
         if (window == nullptr) {
             return false;
         }
-        old = window->style & (WS_MINIMIZE | WS_MAXIMIZE);
+        old = PendingState(window) != 0 ? 0 : window->style & (WS_MINIMIZE | WS_MAXIMIZE);
         backToMaximised = toNormal && (old & WS_MINIMIZE) != 0 && window->restoreMaximised;
     }
     if (backToMaximised) {
@@ -159,6 +152,10 @@ void SendFirstSize(HWND handle) {
     }
 }
 
+bool IsVisibleItself(const Window* window) {
+    return (window->style & WS_VISIBLE) != 0;
+}
+
 std::vector<HWND> OwnedBy(const Window* owner) {
     std::vector<HWND> owned;
     for (const Window* window = Desktop()->firstChild; window != nullptr; window = window->next) {
@@ -169,17 +166,11 @@ std::vector<HWND> OwnedBy(const Window* owner) {
     return owned;
 }
 
-/// The window that an owner's coming or going concerns, and whether it has to be told.
-bool ConcernedByOwner(HWND handle, bool show) {
+/// @returns whether a window is to go or to come with its owner.
+bool FollowsOwner(HWND handle, bool show) {
     UserGuard guard(UserLock());
-    Window* window = PeekWindow(handle);
-    if (window == nullptr) {
-        return false;
-    }
-    const bool visible = (window->style & WS_VISIBLE) != 0;
-    const bool concerned = show ? !visible && window->hiddenByOwner : visible;
-    window->hiddenByOwner = concerned && !show;
-    return concerned;
+    const Window* window = PeekWindow(handle);
+    return window != nullptr && (show ? !IsVisibleItself(window) && window->hiddenByOwner : IsVisibleItself(window));
 }
 
 }  // namespace
@@ -192,7 +183,7 @@ BOOL WINAPI ShowWindow(HWND handle, int show) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return FALSE;
     }
-    const Plan plan = PlanOf(show);
+    Plan plan = PlanOf(show);
     bool wasVisible = false;
     bool child = false;
     bool parentShown = true;
@@ -208,8 +199,13 @@ BOOL WINAPI ShowWindow(HWND handle, int show) {
         parentShown = window->parent == nullptr || window->parent == Desktop() || IsShown(window->parent);
         active = window->thread != nullptr && window->thread->active == handle;
         window->hiddenByOwner = false;
+        if (const DWORD pending = PendingState(window); plan.show && plan.keepState && pending != 0) {
+            plan.state = pending;
+            plan.keepState = false;
+        }
         const DWORD state = window->style & (WS_MINIMIZE | WS_MAXIMIZE);
-        if (wasVisible == plan.show && (plan.keepState || state == plan.state) && (!plan.activate || child || active)) {
+        if (wasVisible == plan.show && PendingState(window) == 0 && (plan.keepState || state == plan.state) &&
+            (!plan.activate || child || active)) {
             return wasVisible;
         }
     }
@@ -282,13 +278,20 @@ BOOL WINAPI ShowOwnedPopups(HWND owner, BOOL show) {
         }
     }
     for (HWND popup : owned) {
-        if (!ConcernedByOwner(popup, show != FALSE)) {
+        if (!FollowsOwner(popup, show != FALSE)) {
             continue;
         }
         SendMessageA(popup, WM_SHOWWINDOW, show ? TRUE : FALSE, show ? SW_PARENTOPENING : SW_PARENTCLOSING);
-        SetWindowPos(
-            popup, nullptr, 0, 0, 0, 0,
-            SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | (show ? SWP_SHOWWINDOW : SWP_HIDEWINDOW));
+        // Most windows leave the rest to DefWindowProcA; others are taken along all the same.
+        if (PeekWindow(popup) != nullptr && IsVisibleItself(PeekWindow(popup)) != (show != FALSE)) {
+            SetWindowPos(
+                popup, nullptr, 0, 0, 0, 0,
+                SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | (show ? SWP_SHOWWINDOW : SWP_HIDEWINDOW));
+        }
+        UserGuard guard(UserLock());
+        if (Window* window = PeekWindow(popup); window != nullptr) {
+            window->hiddenByOwner = !show && !IsVisibleItself(window);
+        }
     }
     return TRUE;
 }

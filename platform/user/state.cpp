@@ -12,6 +12,7 @@ using namespace platform::user;
 namespace {
 
 BOOL HasStyle(HWND handle, DWORD style) {
+    const UserGuard guard(UserLock());
     const Window* window = FindWindowObject(handle);
     return window && (window->style & style);
 }
@@ -33,6 +34,7 @@ BOOL WINAPI IsWindowVisible(HWND handle) {
 }
 
 BOOL WINAPI IsWindowEnabled(HWND handle) {
+    const UserGuard guard(UserLock());
     const Window* window = FindWindowObject(handle);
     return window && !(window->style & WS_DISABLED);
 }

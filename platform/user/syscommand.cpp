@@ -14,16 +14,12 @@ DWORD StyleOf(HWND handle) {
     return window ? window->style : 0;
 }
 
-/// The rectangle as SetWindowPos wants it.
-RECT PlaceOf(HWND handle) {
-    RECT rect{};
-    GetWindowRect(handle, &rect);
-    const HWND parent = IsChildStyle(StyleOf(handle)) ? GetParent(handle) : nullptr;
-    MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&rect), 2);
-    return rect;
+HWND ParentOf(HWND handle) {
+    return IsChildStyle(StyleOf(handle)) ? GetParent(handle) : nullptr;
 }
 
-void Place(HWND handle, const RECT& rect) {
+void Place(HWND handle, RECT rect) {
+    MapWindowPoints(nullptr, ParentOf(handle), reinterpret_cast<POINT*>(&rect), 2);
     SetWindowPos(handle, nullptr, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top,
                  SWP_NOZORDER | SWP_NOACTIVATE);
 }
@@ -39,19 +35,19 @@ RECT Follow(const RECT& start, int part, int dx, int dy, const MINMAXINFO& limit
         OffsetRect(&rect, dx, dy);
         return rect;
     }
-    const int least = limits.ptMinTrackSize.x;
-    const int leastHeight = limits.ptMinTrackSize.y;
+    const POINT least = limits.ptMinTrackSize;
+    const POINT most{std::max(least.x, limits.ptMaxTrackSize.x), std::max(least.y, limits.ptMaxTrackSize.y)};
     if (Touches(part, {HTLEFT, HTTOPLEFT, HTBOTTOMLEFT})) {
-        rect.left = std::min(rect.left + dx, rect.right - least);
+        rect.left = std::clamp(rect.left + dx, rect.right - most.x, rect.right - least.x);
     }
     if (Touches(part, {HTRIGHT, HTTOPRIGHT, HTBOTTOMRIGHT})) {
-        rect.right = std::max(rect.right + dx, rect.left + least);
+        rect.right = std::clamp(rect.right + dx, rect.left + least.x, rect.left + most.x);
     }
     if (Touches(part, {HTTOP, HTTOPLEFT, HTTOPRIGHT})) {
-        rect.top = std::min(rect.top + dy, rect.bottom - leastHeight);
+        rect.top = std::clamp(rect.top + dy, rect.bottom - most.y, rect.bottom - least.y);
     }
     if (Touches(part, {HTBOTTOM, HTBOTTOMLEFT, HTBOTTOMRIGHT})) {
-        rect.bottom = std::max(rect.bottom + dy, rect.top + leastHeight);
+        rect.bottom = std::clamp(rect.bottom + dy, rect.top + least.y, rect.top + most.y);
     }
     return rect;
 }
@@ -84,45 +80,91 @@ bool ArrowStep(WPARAM key, int* dx, int* dy) {
     return *dx != 0 || *dy != 0;
 }
 
-/// Moves or sizes until the button is let go, or Enter or Escape is pressed. Escape puts everything back.
-void MoveOrSize(HWND handle, int part, bool byMouse) {
-    const RECT start = PlaceOf(handle);
-    const MINMAXINFO limits = part == HTCAPTION ? MINMAXINFO{} : QueryMinMax(handle);
-    POINT from{};
-    GetCursorPos(&from);
+/// The next message of a modal loop. @returns false when the loop has to end; the end of the program is passed on.
+bool NextMessage(HWND handle, MSG* message) {
+    if (!PeekWindow(handle)) {
+        return false;
+    }
+    const BOOL got = GetMessageA(message, nullptr, 0, 0);
+    if (got == 0) {
+        PostQuitMessage(static_cast<int>(message->wParam));
+    }
+    return got > 0;
+}
+
+bool IsInput(UINT message) {
+    return (message >= WM_KEYFIRST && message <= WM_KEYLAST) || (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST);
+}
+
+void SetMoveSize(HWND handle) {
+    ThreadState* self = CurrentThread();
+    const UserGuard guard(UserLock());
+    self->moveSize = handle;
+}
+
+/// One round of moving or sizing: where the window was, what of it follows, and how far by now.
+struct Drag {
+    HWND window;
+    int part;
+    RECT start{};
+    MINMAXINFO limits{};
     int dx = 0;
     int dy = 0;
+
+    void Apply() const {
+        RECT rect = Follow(start, part, dx, dy, limits);
+        const bool moving = part == HTCAPTION;
+        SendMessageA(window, moving ? WM_MOVING : WM_SIZING, moving ? 0 : SizingEdge(part),
+                     reinterpret_cast<LPARAM>(&rect));
+        Place(window, rect);
+    }
+
+    void MoveTo(POINT from, POINT to) {
+        if (dx != to.x - from.x || dy != to.y - from.y) {
+            dx = to.x - from.x;
+            dy = to.y - from.y;
+            Apply();
+        }
+    }
+};
+
+/// Moves or sizes until the button is let go, or Enter or Escape is pressed. Escape puts everything back.
+void MoveOrSize(HWND handle, int part, bool byMouse, POINT from) {
+    Drag drag{handle, part};
+    GetWindowRect(handle, &drag.start);
+    if (part != HTCAPTION) {
+        drag.limits = QueryMinMax(handle);
+    }
     SetCapture(handle);
+    SetMoveSize(handle);
     SendMessageA(handle, WM_ENTERSIZEMOVE, 0, 0);
-    for (MSG message; PeekWindow(handle) && GetMessageA(&message, nullptr, 0, 0);) {
-        bool moved = false;
+    for (MSG message; NextMessage(handle, &message);) {
+        int stepX = 0;
+        int stepY = 0;
         if (message.message == WM_MOUSEMOVE && byMouse) {
-            dx = message.pt.x - from.x;
-            dy = message.pt.y - from.y;
-            moved = true;
-        } else if (message.message == WM_LBUTTONUP || (message.message == WM_KEYDOWN && message.wParam == VK_RETURN)) {
+            drag.MoveTo(from, message.pt);
+        } else if (message.message == WM_LBUTTONUP) {
+            if (byMouse) {
+                drag.MoveTo(from, message.pt);
+            }
+            break;
+        } else if (message.message == WM_KEYDOWN && message.wParam == VK_RETURN) {
             break;
         } else if (message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE) {
-            Place(handle, start);
+            Place(handle, drag.start);
             break;
-        } else if (int stepX, stepY; message.message == WM_KEYDOWN && ArrowStep(message.wParam, &stepX, &stepY)) {
-            dx += stepX;
-            dy += stepY;
-            moved = true;
-        } else if (message.message < WM_KEYFIRST || message.message > WM_MOUSELAST ||
-                   (message.message > WM_KEYLAST && message.message < WM_MOUSEFIRST)) {
+        } else if (message.message == WM_KEYDOWN && ArrowStep(message.wParam, &stepX, &stepY)) {
+            drag.dx += stepX;
+            drag.dy += stepY;
+            drag.Apply();
+        } else if (!IsInput(message.message)) {
             DispatchMessageA(&message);
         }
-        if (moved) {
-            RECT rect = Follow(start, part, dx, dy, limits);
-            SendMessageA(handle, part == HTCAPTION ? WM_MOVING : WM_SIZING, part == HTCAPTION ? 0 : SizingEdge(part),
-                         reinterpret_cast<LPARAM>(&rect));
-            Place(handle, rect);
-        }
-        if (byMouse && GetCapture() != handle) {
+        if (GetCapture() != handle) {
             break;
         }
     }
+    SetMoveSize(nullptr);
     if (GetCapture() == handle) {
         ReleaseCapture();
     }
@@ -132,32 +174,26 @@ void MoveOrSize(HWND handle, int part, bool byMouse) {
 /// A button of the caption looks pressed while the pointer is held over it. @returns whether it was let go there.
 bool TrackButton(HWND handle, int button) {
     bool inside = true;
-    bool pressed = true;
+    bool released = false;
     PaintFrame(handle, reinterpret_cast<HRGN>(1), button);
     SetCapture(handle);
-    for (MSG message; PeekWindow(handle) && GetMessageA(&message, nullptr, 0, 0);) {
-        if (message.message == WM_MOUSEMOVE || message.message == WM_LBUTTONUP) {
-            inside = HitTest(handle, message.pt) == button;
-            if (message.message == WM_LBUTTONUP) {
-                break;
+    for (MSG message; !released && GetCapture() == handle && NextMessage(handle, &message);) {
+        released = message.message == WM_LBUTTONUP;
+        if (message.message == WM_MOUSEMOVE || released) {
+            const bool now = HitTest(handle, message.pt) == button;
+            if (now != inside) {
+                inside = now;
+                PaintFrame(handle, reinterpret_cast<HRGN>(1), inside ? button : HTNOWHERE);
             }
-        } else {
+        } else if (!IsInput(message.message)) {
             DispatchMessageA(&message);
-        }
-        if (GetCapture() != handle) {
-            inside = false;
-            break;
-        }
-        if (inside != pressed) {
-            pressed = inside;
-            PaintFrame(handle, reinterpret_cast<HRGN>(1), pressed ? button : HTNOWHERE);
         }
     }
     if (GetCapture() == handle) {
         ReleaseCapture();
     }
     PaintFrame(handle, reinterpret_cast<HRGN>(1));
-    return inside && PeekWindow(handle);
+    return inside && released && PeekWindow(handle);
 }
 
 }  // namespace
@@ -197,21 +233,25 @@ void PressFrame(HWND handle, int hitCode, POINT point) {
     }
 }
 
-LRESULT SystemCommand(HWND handle, WPARAM command, POINT) {
+LRESULT SystemCommand(HWND handle, WPARAM command, POINT point) {
     const WPARAM detail = command & 0xF;
     const DWORD style = StyleOf(handle);
     switch (command & 0xFFF0) {
         case SC_MOVE:
             if (!(style & (WS_MAXIMIZE | WS_MINIMIZE))) {
-                MoveOrSize(handle, HTCAPTION, detail != 0);
+                MoveOrSize(handle, HTCAPTION, detail != 0, point);
             }
             break;
         case SC_SIZE:
             if ((style & WS_THICKFRAME) && !(style & (WS_MAXIMIZE | WS_MINIMIZE))) {
-                MoveOrSize(handle, detail ? HTSIZEFIRST + static_cast<int>(detail) - 1 : HTBOTTOMRIGHT, detail != 0);
+                MoveOrSize(handle, detail ? HTSIZEFIRST + static_cast<int>(detail) - 1 : HTBOTTOMRIGHT, detail != 0,
+                           point);
             }
             break;
         case SC_CLOSE:
+            if (const Window* window = PeekWindow(handle); window && (window->windowClass->style & CS_NOCLOSE)) {
+                break;
+            }
             SendMessageA(handle, WM_CLOSE, 0, 0);
             break;
         case SC_MINIMIZE:

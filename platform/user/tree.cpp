@@ -229,6 +229,13 @@ HWND WINAPI GetWindow(HWND handle, UINT relation) {
             return HandleOf(window->owner);
         case GW_CHILD:
             return HandleOf(window->firstChild);
+        case GW_ENABLEDPOPUP:
+            for (const Window* popup = Desktop()->firstChild; popup; popup = popup->next) {
+                if (popup->owner == window && (popup->style & (WS_VISIBLE | WS_DISABLED)) == WS_VISIBLE) {
+                    return popup->handle;
+                }
+            }
+            return handle;
         case GW_HWNDFIRST:
             return window->parent ? HandleOf(window->parent->firstChild) : nullptr;
         case GW_HWNDLAST:
@@ -254,33 +261,49 @@ BOOL WINAPI IsChild(HWND parentHandle, HWND handle) {
 }
 
 HWND WINAPI SetParent(HWND handle, HWND newParent) {
-    Window* window = FindWindowObject(handle);
-    Window* parent = newParent ? FindWindowObject(newParent) : Desktop();
-    if (!window || !parent) {
-        return nullptr;
+    bool visible = false;
+    {
+        const UserGuard guard(UserLock());
+        const Window* window = FindWindowObject(handle);
+        const Window* parent = newParent == HWND_MESSAGE ? MessageRoot()
+                               : newParent               ? FindWindowObject(newParent)
+                                                         : Desktop();
+        if (!window || !parent) {
+            return nullptr;
+        }
+        if (!window->parent) {
+            SetLastError(ERROR_ACCESS_DENIED);
+            return nullptr;
+        }
+        if (window == parent || IsAncestor(window, parent)) {
+            SetLastError(ERROR_INVALID_PARAMETER);
+            return nullptr;
+        }
+        visible = (window->style & WS_VISIBLE) != 0;
     }
-    if (window == Desktop() || window == parent || IsAncestor(window, parent)) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return nullptr;
-    }
-    const bool visible = (window->style & WS_VISIBLE) != 0;
     if (visible) {
         ShowWindow(handle, SW_HIDE);
     }
     HWND old = nullptr;
     {
         const UserGuard guard(UserLock());
-        if (!PeekWindow(handle)) {
+        Window* window = PeekWindow(handle);
+        Window* parent = newParent == HWND_MESSAGE ? MessageRoot() : newParent ? PeekWindow(newParent) : Desktop();
+        if (!window || !parent || parent->ending) {
+            SetLastError(ERROR_INVALID_WINDOW_HANDLE);
             return nullptr;
         }
+        // It keeps its place within the client area of whoever is its parent.
+        const RECT from = window->parent->clientRect;
+        const RECT to = parent->clientRect;
         old = HandleOf(window->parent);
-        const POINT at{window->windowRect.left - window->parent->clientRect.left,
-                       window->windowRect.top - window->parent->clientRect.top};
         UnlinkWindow(window);
         window->parent = parent;
+        if (parent != Desktop()) {
+            window->owner = nullptr;
+        }
         LinkWindow(window, HWND_TOP);
-        OffsetTree(window, parent->clientRect.left + at.x - window->windowRect.left,
-                   parent->clientRect.top + at.y - window->windowRect.top);
+        OffsetTree(window, to.left - from.left, to.top - from.top);
     }
     if (visible) {
         ShowWindow(handle, SW_SHOWNA);
@@ -330,23 +353,43 @@ HWND WINAPI FindWindowA(LPCSTR className, LPCSTR text) {
 
 namespace {
 
-/// The deepest visible, enabled window at a point below `parent`.
-Window* Hit(Window* parent, POINT point) {
-    for (Window* child = parent->firstChild; child; child = child->next) {
+/// The windows at a point, in the order in which they may claim it: the deepest of the foremost first, then what lies
+/// below it, then its parent. Hidden and disabled windows are left out.
+void CollectAt(const Window* parent, POINT point, std::vector<HWND>& list) {
+    for (const Window* child = parent->firstChild; child; child = child->next) {
         if ((child->style & WS_VISIBLE) && !(child->style & WS_DISABLED) && PtInRect(&child->windowRect, point)) {
-            Window* deeper = PtInRect(&child->clientRect, point) ? Hit(child, point) : nullptr;
-            return deeper ? deeper : child;
+            if (PtInRect(&child->clientRect, point)) {
+                CollectAt(child, point, list);
+            }
+            list.push_back(child->handle);
         }
     }
-    return nullptr;
+}
+
+bool IsOwn(HWND handle) {
+    const UserGuard guard(UserLock());
+    const Window* window = PeekWindow(handle);
+    return window && window->thread == CurrentThread();
 }
 
 }  // namespace
 
-HWND WINAPI WindowFromPoint(POINT point) {
-    const UserGuard guard(UserLock());
-    Window* window = Hit(Desktop(), point);
-    return window ? window->handle : Desktop()->handle;
+HWND WINAPI WindowFromPoint(POINT point) try {
+    std::vector<HWND> list;
+    {
+        const UserGuard guard(UserLock());
+        CollectAt(Desktop(), point, list);
+    }
+    for (HWND window : list) {
+        // A transparent window leaves the point to the windows of its thread that lie below it.
+        if (!IsOwn(window) || SendMessageA(window, WM_NCHITTEST, 0, MAKELPARAM(point.x, point.y)) != HTTRANSPARENT) {
+            return window;
+        }
+    }
+    return GetDesktopWindow();
+} catch (const std::bad_alloc&) {
+    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+    return nullptr;
 }
 
 HWND WINAPI ChildWindowFromPointEx(HWND handle, POINT point, UINT flags) {
@@ -403,7 +446,7 @@ BOOL WINAPI EnumThreadWindows(DWORD thread, WNDENUMPROC procedure, LPARAM parame
                 list.push_back(window->handle);
             }
         }
-        return true;
+        return !list.empty();
     });
 }
 

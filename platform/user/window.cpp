@@ -1,13 +1,12 @@
-// Windows come and go: creation with its messages in the documented order, and destruction with its own.
+// How windows come: what the styles imply, and the messages of creation in the documented order.
 #include "user/window.h"
 
 #include <algorithm>
 #include <cstring>
-#include <memory>
 #include <new>
 
 #include "gdi/screen.h"
-#include "user/atoms.h"
+#include "user/lifetime.h"
 #include "user/painting.h"
 #include "user/queue.h"
 
@@ -53,7 +52,11 @@ RECT ScreenArea() {
 }  // namespace
 
 Window* Desktop() {
-    static Window* const desktop = MakeRoot("#32769", ScreenArea());
+    static Window* const desktop = [] {
+        Window* root = MakeRoot("#32769", ScreenArea());
+        PaintDesktop(gdi::Region(root->windowRect));
+        return root;
+    }();
     return desktop;
 }
 
@@ -70,7 +73,7 @@ struct Request {
     Window* parent = nullptr;
     Window* owner = nullptr;
     WindowClass* windowClass = nullptr;
-    bool defaultPlace = false;
+    int showCommand = SW_SHOW;
     bool show = false;
 };
 
@@ -79,13 +82,15 @@ HWND Refuse(DWORD error) {
     return nullptr;
 }
 
-/// CW_USEDEFAULT for overlapped windows: each one a little below and to the right of the one before.
-void PlaceByDefault(CREATESTRUCTA& given) {
+/// CW_USEDEFAULT for overlapped windows: each one a little below and to the right of the one before. With the default
+/// place, y may say how to show the window.
+void PlaceByDefault(Request& request) {
     static int turn = 0;
+    CREATESTRUCTA& given = request.given;
     const RECT screen = Desktop()->windowRect;
-    const int step = (turn++ % 8) * (GetSystemMetrics(SM_CYCAPTION) + GetSystemMetrics(SM_CYSIZEFRAME));
     if (given.x == CW_USEDEFAULT) {
-        given.x = given.y = step;
+        request.showCommand = given.y == CW_USEDEFAULT ? SW_SHOW : given.y;
+        given.x = given.y = (turn++ % 8) * (GetSystemMetrics(SM_CYCAPTION) + GetSystemMetrics(SM_CYSIZEFRAME));
     }
     if (given.cx == CW_USEDEFAULT) {
         given.cx = (screen.right - screen.left) * 3 / 4;
@@ -106,6 +111,9 @@ DWORD Complete(Request& request) {
         if (!window) {
             return ERROR_INVALID_WINDOW_HANDLE;
         }
+        if (window->ending) {
+            return ERROR_ACCESS_DENIED;  // it would be left without a parent or an owner at once
+        }
         if (child) {
             request.parent = window;
         } else {
@@ -120,10 +128,11 @@ DWORD Complete(Request& request) {
     if (!(style & (WS_CHILD | WS_POPUP))) {
         style |= WS_CAPTION | WS_CLIPSIBLINGS;
         given.dwExStyle |= WS_EX_WINDOWEDGE;
-        PlaceByDefault(given);
+        PlaceByDefault(request);
     } else {
-        given.x = given.x == CW_USEDEFAULT ? 0 : given.x;
-        given.y = given.x == CW_USEDEFAULT ? 0 : given.y;
+        if (given.x == CW_USEDEFAULT) {
+            given.x = given.y = 0;
+        }
         if (given.cx == CW_USEDEFAULT) {
             given.cx = given.cy = 0;
         }
@@ -148,11 +157,18 @@ DWORD Complete(Request& request) {
 /// Makes the window object and links it into the tree, hidden. Lock held. Throws bad_alloc.
 Window* Make(const Request& request) {
     const CREATESTRUCTA& given = request.given;
-    auto made = std::make_unique<Window>();
+    ThreadState* thread = CurrentThread();
+    WindowHold made = NewWindow();
+    if (!thread || !made) {
+        throw std::bad_alloc();
+    }
     made->windowClass = request.windowClass;
     made->procedure = request.windowClass->procedure;
-    made->thread = CurrentThread();
+    made->thread = thread;
     made->style = static_cast<DWORD>(given.style);
+    if (request.show) {
+        made->style &= ~static_cast<DWORD>(WS_MINIMIZE | WS_MAXIMIZE);  // ShowWindow brings that about
+    }
     made->exStyle = given.dwExStyle;
     // An owned window stands above its owner, and so among the topmost ones when that is one.
     if (request.owner) {
@@ -169,9 +185,6 @@ Window* Make(const Request& request) {
     made->windowRect = {origin.x + given.x, origin.y + given.y, origin.x + given.x + given.cx,
                         origin.y + given.y + given.cy};
     made->clientRect = made->windowRect;
-    if (!made->thread) {
-        throw std::bad_alloc();
-    }
     const std::uint32_t handle = base::InsertHandle(base::HandleKind::Window, made.get());
     if (!handle) {
         throw std::bad_alloc();
@@ -185,144 +198,36 @@ Window* Make(const Request& request) {
     return window;
 }
 
-/// Takes a window out of everything and frees it. No messages are sent. Lock held.
-void Remove(Window* window) {
-    ForgetPainting(window);
-    UnlinkWindow(window);
-    base::RemoveHandle(base::ToNumber(window->handle), base::HandleKind::Window);
-    --window->windowClass->windows;
-    --window->thread->windowCount;
-    delete window;
-}
-
-/// Windows that go together with their owner.
-std::vector<HWND> OwnedBy(const Window* owner) {
-    std::vector<HWND> list;
-    for (const Window* window = Desktop()->firstChild; window; window = window->next) {
-        if (window->owner == owner) {
-            list.push_back(window->handle);
-        }
-    }
-    return list;
-}
-
-std::vector<HWND> ChildrenOf(const Window* parent) {
-    std::vector<HWND> list;
-    for (const Window* window = parent->firstChild; window; window = window->next) {
-        list.push_back(window->handle);
-    }
-    return list;
-}
-
-void SendDestroy(HWND handle) {
-    SendMessageA(handle, WM_DESTROY, 0, 0);
-    std::vector<HWND> children;
-    {
-        const UserGuard guard(UserLock());
-        if (const Window* window = PeekWindow(handle)) {
-            children = ChildrenOf(window);
-        }
-    }
-    for (HWND child : children) {
-        if (PeekWindow(child)) {
-            SendDestroy(child);
-        }
-    }
-}
-
-/// The windows end from the leaves up; WM_NCDESTROY is the last that each hears, and the parent's comes first.
-void SendNcDestroyAndRemove(HWND handle) {
-    for (;;) {
-        HWND child = nullptr;
-        {
-            const UserGuard guard(UserLock());
-            const Window* window = PeekWindow(handle);
-            child = window && window->firstChild ? window->firstChild->handle : nullptr;
-        }
-        if (!child) {
-            break;
-        }
-        SendNcDestroyAndRemove(child);
-    }
-    {
-        UserHold hold(UserLock());
-        Window* window = PeekWindow(handle);
-        if (!window) {
-            return;
-        }
-        hold.unlock();
-        ForgetInput(window);
-    }
-    SendMessageA(handle, WM_NCDESTROY, 0, 0);
-    const UserGuard guard(UserLock());
-    if (Window* window = PeekWindow(handle)) {
-        Remove(window);
-    }
-}
-
-void NotifyParent(HWND handle, UINT event) {
-    UserHold hold(UserLock());
-    const Window* window = PeekWindow(handle);
-    if (!window || !IsChildStyle(window->style) || (window->exStyle & WS_EX_NOPARENTNOTIFY) || !window->parent) {
-        return;
-    }
-    const HWND parent = window->parent->handle;
-    const WORD id = static_cast<WORD>(window->id);
-    hold.unlock();
-    SendMessageA(parent, WM_PARENTNOTIFY, MAKEWPARAM(event, id), reinterpret_cast<LPARAM>(handle));
-}
-
-bool Destroy(HWND handle) {
-    std::vector<HWND> owned;
-    {
-        const UserGuard guard(UserLock());
-        Window* window = PeekWindow(handle);
-        if (!window || window->destroying) {
-            return window != nullptr;
-        }
-        window->destroying = true;
-        owned = OwnedBy(window);
-    }
-    NotifyParent(handle, WM_DESTROY);
-    for (HWND other : owned) {
-        const Window* window = PeekWindow(other);
-        if (window && window->thread == CurrentThread()) {
-            Destroy(other);
-        }
-    }
-    if (Window* window = PeekWindow(handle)) {
-        HideForDestruction(window);
-    }
-    if (PeekWindow(handle)) {
-        SendDestroy(handle);
-    }
-    if (PeekWindow(handle)) {
-        SendNcDestroyAndRemove(handle);
-    }
-    return true;
+/// Keeps a new window within the sizes that it lets a person give it. Lock held.
+void Limit(Window* window, const MINMAXINFO& limits) {
+    RECT& rect = window->windowRect;
+    const auto within = [](LONG size, LONG least, LONG most) { return std::max(std::min(size, most), least); };
+    rect.right = rect.left + within(rect.right - rect.left, limits.ptMinTrackSize.x, limits.ptMaxTrackSize.x);
+    rect.bottom = rect.top + within(rect.bottom - rect.top, limits.ptMinTrackSize.y, limits.ptMaxTrackSize.y);
+    window->clientRect = rect;
 }
 
 /// The messages that a new window gets. @returns false when it refused, or is gone.
 bool Introduce(HWND handle, CREATESTRUCTA* given) {
     Window* window = PeekWindow(handle);
-    const bool sizable = (window->style & WS_THICKFRAME) || !IsChildStyle(window->style);
-    if (sizable && (window->style & (WS_THICKFRAME | WS_CAPTION))) {
+    const bool overlapped = !(window->style & (WS_CHILD | WS_POPUP));
+    if (overlapped || (window->style & WS_THICKFRAME)) {
         const MINMAXINFO limits = QueryMinMax(handle);
         const UserGuard guard(UserLock());
         window = PeekWindow(handle);
-        if (window && (window->style & WS_THICKFRAME)) {
-            RECT& rect = window->windowRect;
-            rect.right = rect.left + std::max(rect.right - rect.left, limits.ptMinTrackSize.x);
-            rect.bottom = rect.top + std::max(rect.bottom - rect.top, limits.ptMinTrackSize.y);
-            given->cx = rect.right - rect.left;
-            given->cy = rect.bottom - rect.top;
-            window->clientRect = rect;
+        if (!window) {
+            return false;
+        }
+        if (window->style & WS_THICKFRAME) {
+            Limit(window, limits);
+            given->cx = window->windowRect.right - window->windowRect.left;
+            given->cy = window->windowRect.bottom - window->windowRect.top;
         }
     }
     if (!SendMessageA(handle, WM_NCCREATE, 0, reinterpret_cast<LPARAM>(given))) {
         // Such a window never was: it hears WM_NCDESTROY and nothing else.
         if (PeekWindow(handle)) {
-            SendNcDestroyAndRemove(handle);
+            EndWindow(handle);
         }
         return false;
     }
@@ -346,7 +251,7 @@ bool Introduce(HWND handle, CREATESTRUCTA* given) {
         return false;
     }
     if (!created) {
-        Destroy(handle);
+        DestroyTree(handle);
         return false;
     }
     window->created = true;
@@ -378,34 +283,17 @@ HWND Create(Request& request) {
     if (!Introduce(handle, &given)) {
         return nullptr;
     }
-    NotifyParent(handle, WM_CREATE);
+    NotifyParents(handle, WM_CREATE);
     if (request.show && PeekWindow(handle)) {
         const DWORD style = static_cast<DWORD>(given.style);
-        ShowWindow(handle, style & WS_MAXIMIZE ? SW_SHOWMAXIMIZED : style & WS_MINIMIZE ? SW_SHOWMINIMIZED : SW_SHOW);
+        ShowWindow(handle, style & WS_MAXIMIZE   ? SW_SHOWMAXIMIZED
+                           : style & WS_MINIMIZE ? SW_SHOWMINIMIZED
+                                                 : request.showCommand);
     }
     return PeekWindow(handle) ? handle : nullptr;
 }
 
 }  // namespace
-
-void DestroyThreadWindows(ThreadState* thread) {
-    for (;;) {
-        HWND handle = nullptr;
-        {
-            const UserGuard guard(UserLock());
-            for (Window* root : {Desktop(), MessageRoot()}) {
-                for (const Window* window = root->firstChild; window && !handle; window = window->next) {
-                    handle = window->thread == thread && !window->destroying ? window->handle : nullptr;
-                }
-            }
-        }
-        if (!handle) {
-            return;
-        }
-        Destroy(handle);
-    }
-}
-
 }  // namespace platform::user
 
 using namespace platform::user;
@@ -428,23 +316,6 @@ HWND WINAPI CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD 
 } catch (const std::bad_alloc&) {
     SetLastError(ERROR_NOT_ENOUGH_MEMORY);
     return nullptr;
-}
-
-BOOL WINAPI DestroyWindow(HWND handle) {
-    const Window* window = FindWindowObject(handle);
-    if (!window) {
-        return FALSE;
-    }
-    if (window->thread != CurrentThread()) {
-        SetLastError(ERROR_ACCESS_DENIED);
-        return FALSE;
-    }
-    try {
-        return platform::user::Destroy(handle);
-    } catch (const std::bad_alloc&) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return FALSE;
-    }
 }
 
 LRESULT WINAPI CallWindowProcA(WNDPROC procedure, HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

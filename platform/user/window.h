@@ -81,6 +81,7 @@ struct Window {
 
     RECT restoredRect{};           ///< normal position while minimised or maximised
     bool destroying = false;
+    bool ending = false;           ///< its children are gone, or going: no new ones are made
     bool created = false;          ///< WM_CREATE has returned
     bool captionActive = false;    ///< how the caption was drawn last (WM_NCACTIVATE)
     bool restoreMaximised = false; ///< minimised while it was maximised
@@ -127,9 +128,6 @@ inline bool IsChildStyle(DWORD style) {
 
 /// The parent of message-only windows (HWND_MESSAGE): never shown, never enumerated.
 Window* MessageRoot();
-
-/// Destroys the windows that a thread leaves behind. Called on that thread as it ends.
-void DestroyThreadWindows(ThreadState* thread);
 
 /// Moves the rectangles of a window and of all its descendants, without a word to them. Lock held.
 void OffsetTree(Window* window, int dx, int dy);

@@ -104,8 +104,9 @@ end_with Return
 [ "$code" = 0 ] || fail "OK ended with $code"
 [[ "$answer" =~ ^[0-9]{4}-02-14$ ]] || fail "after typing 02/14/97 and holding the arrow, OK printed '$answer'"
 year=${answer%%-*}
-# One step 400 milliseconds after the press, one every 50 from then on, one at the release; fewer on a machine that lags.
-[ "$year" -ge 2000 ] && [ "$year" -le 2015 ] || fail "the year ran from 1997 to $year in a second"
+# One step 400 milliseconds after the press, one every 50 from then on, one at the release. A machine that lags makes it fewer,
+# or the second longer.
+[ "$year" -ge 2000 ] && [ "$year" -le 2030 ] || fail "the year ran from 1997 to $year in a second"
 
 # The same date, typed this time, must look the same.
 start_gallery

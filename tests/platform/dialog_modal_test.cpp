@@ -16,12 +16,16 @@ constexpr UINT kRun = WM_USER + 20;
 /// What a dialog does when its first message arrives behind WM_INITDIALOG.
 std::function<void(HWND)> atInit;
 std::function<void(HWND)> running;
+std::function<void(HWND)> onIdle;
 HWND owner = nullptr;
 std::vector<HWND> idleDialogs;
 
 LRESULT CALLBACK OwnerProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_ENTERIDLE && wParam == MSGF_DIALOGBOX)
+    if (message == WM_ENTERIDLE && wParam == MSGF_DIALOGBOX) {
         idleDialogs.push_back(reinterpret_cast<HWND>(lParam));
+        if (onIdle)
+            onIdle(idleDialogs.back());
+    }
     return DefWindowProcA(window, message, wParam, lParam);
 }
 
@@ -44,10 +48,7 @@ INT_PTR CALLBACK Procedure(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
     }
 }
 
-bool visibleWhenIdle = false;
-
 VOID CALLBACK EndByTimer(HWND dialog, UINT, UINT_PTR, DWORD) {
-    visibleWhenIdle = IsWindowVisible(dialog) != FALSE;
     EndDialog(dialog, 1);
 }
 
@@ -62,6 +63,7 @@ class DialogModalTest : public ::testing::Test {
     void SetUp() override {
         atInit = nullptr;
         running = nullptr;
+        onIdle = nullptr;
         idleDialogs.clear();
         owner = tests::MakeOwner(OwnerProcedure);
         SetActiveWindow(owner);
@@ -143,16 +145,15 @@ TEST_F(DialogModalTest, QuitEndsAllLoopsAndIsPostedAgain) {
 }
 
 TEST_F(DialogModalTest, TheOwnerHearsWhenTheDialogIsIdle) {
-    HWND seen = nullptr;
-    running = [&](HWND dialog) {
-        seen = dialog;
-        SetTimer(dialog, 1, 10, EndByTimer);
+    onIdle = [](HWND dialog) {
+        EXPECT_TRUE(IsWindowVisible(dialog));
+        EndDialog(dialog, 8);
     };
-    RunSimple(owner);
-    ASSERT_FALSE(idleDialogs.empty());
-    EXPECT_EQ(seen, idleDialogs.front());
-    EXPECT_TRUE(visibleWhenIdle);
+    EXPECT_EQ(8, RunSimple(owner));
+    EXPECT_EQ(1U, idleDialogs.size());
+    onIdle = nullptr;
     idleDialogs.clear();
+    running = [](HWND dialog) { SetTimer(dialog, 1, 10, EndByTimer); };
     RunSimple(owner, DS_NOIDLEMSG);
     EXPECT_TRUE(idleDialogs.empty());
 }

@@ -132,16 +132,6 @@ TEST(GdiShapes, AFocusRectangleUndoesItself) {
     EXPECT_EQ(64 * 48, canvas.Count(canvas.All(), 0xC0C0C0));
 }
 
-TEST(GdiShapes, FarCoordinatesOnlyClip) {
-    Canvas canvas;
-    SetViewportOrgEx(canvas, 5, 5, nullptr);
-    const RECT everything{-0x7FFFFFFF, -0x7FFFFFFF, 0x7FFFFFFF, 0x7FFFFFFF};
-    FillRect(canvas, &everything, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
-    EXPECT_EQ(64 * 48, canvas.Count(canvas.All(), Canvas::kBlack));
-    PatBlt(canvas, 0, 0, 0x7FFFFFFF, 0x7FFFFFFF, WHITENESS);
-    EXPECT_EQ((64 - 5) * (48 - 5), canvas.Count(canvas.All(), Canvas::kWhite));
-}
-
 TEST(GdiShapes, ClippingDoesNotBendALine) {
     Canvas whole(60, 60);
     MoveToEx(whole, 3, 5, nullptr);

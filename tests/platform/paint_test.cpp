@@ -191,6 +191,36 @@ TEST_F(Painting, OwnContextsKeepTheirAttributesAndFollowTheWindow) {
     EXPECT_EQ(PixelAt(window, 3, 3), kYellow);
 }
 
+TEST_F(Painting, ClassContextsAreShared) {
+    Register("PaintedClass", CS_CLASSDC);
+    HWND first = Make(kPlain, 10, 10, 50, 50, ground, kRed, 0, "PaintedClass");
+    HWND second = Make(kPlain, 70, 10, 50, 50, ground, kGreen, 0, "PaintedClass");
+    Settle();
+    HDC context = GetDC(first);
+    SetTextColor(context, kYellow);
+    ReleaseDC(first, context);
+    EXPECT_EQ(GetDC(second), context);
+    EXPECT_EQ(WindowFromDC(context), second);
+    EXPECT_EQ(GetTextColor(context), kYellow);
+    SetPixel(context, 3, 3, kYellow);
+    EXPECT_EQ(PixelAt(second, 3, 3), kYellow);
+    EXPECT_EQ(PixelAt(first, 3, 3), kRed);
+    ReleaseDC(second, context);
+}
+
+TEST_F(Painting, ParentContextsReachBeyondTheChild) {
+    Register("PaintedParent", CS_PARENTDC);
+    HWND parent = Make(kPlain, 10, 10, 100, 80, ground, kRed);
+    HWND child = Make(WS_CHILD | WS_VISIBLE, 10, 10, 20, 20, parent, kGreen, 0, "PaintedParent");
+    Settle();
+    HDC context = GetDC(child);
+    SetPixel(context, 50, 30, kYellow);
+    SetPixel(context, 200, 30, kYellow);
+    ReleaseDC(child, context);
+    EXPECT_EQ(PixelAt(parent, 60, 40), kYellow);
+    EXPECT_EQ(PixelAt(ground, 220, 50), RGB(0, 0, 128));
+}
+
 TEST_F(Painting, WindowContextReachesTheFrame) {
     HWND window = Make(kPlain | WS_CAPTION, 50, 50, 100, 80, ground, kRed);
     Settle();

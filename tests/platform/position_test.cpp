@@ -233,6 +233,21 @@ TEST_F(Positions, MaximisingAndRestoring) {
     EXPECT_TRUE(EqualRect(&before, &after));
 }
 
+TEST_F(Positions, WindowsCanBeMadeMaximised) {
+    constexpr DWORD kStyle = WS_CAPTION | WS_THICKFRAME | WS_MAXIMIZE;
+    for (const DWORD visible : {DWORD{WS_VISIBLE}, DWORD{0}}) {
+        HWND window = Make(kStyle | visible, 10, 10, 200, 150, nullptr, kRed);
+        ShowWindow(window, SW_SHOW);
+        EXPECT_TRUE(IsZoomed(window));
+        RECT rect;
+        GetWindowRect(window, &rect);
+        EXPECT_GT(rect.right - rect.left, 600);
+        ShowWindow(window, SW_RESTORE);
+        GetWindowRect(window, &rect);
+        ExpectRect(rect, 10, 10, 210, 160);
+    }
+}
+
 TEST_F(Positions, OwnedPopupsGoAndComeWithTheirOwner) {
     HWND owner = Make(kPlain, 10, 10, 60, 60, nullptr, kRed);
     HWND shown = Make(kPlain, 20, 20, 20, 20, owner, kGreen);

@@ -23,6 +23,7 @@
 #define GetWindowsDirectory GetWindowsDirectoryA
 #define IsBadStringPtr IsBadStringPtrA
 #define LoadLibrary LoadLibraryA
+#define MAKEINTRESOURCE MAKEINTRESOURCEA
 #define OSVERSIONINFO OSVERSIONINFOA
 #define LPOSVERSIONINFO LPOSVERSIONINFOA
 #define OutputDebugString OutputDebugStringA

@@ -1,6 +1,6 @@
 /// @file winuser/dialogs.h
-/// Dialogs: templates in memory and in resources, modal and modeless dialogs, their controls' values, keyboard rules and
-/// units; message boxes.
+/// Dialogs: templates in memory and in resources, modal and modeless dialogs, their controls' values, keyboard rules
+/// and units; message boxes.
 #pragma once
 
 #include "../windef.h"

@@ -3,7 +3,7 @@
 #pragma once
 
 #include <stdarg.h>
-#include "../windef.h"
+#include "../winbase.h"
 
 // --- characters
 
@@ -26,9 +26,6 @@ WINUSERAPI int WINAPI wvsprintfA(LPSTR target, LPCSTR format, va_list arguments)
 
 // --- resources
 
-#define IS_INTRESOURCE(name) ((((ULONG_PTR)(name)) >> 16) == 0)
-#define MAKEINTRESOURCEA(id) ((LPSTR)((ULONG_PTR)((WORD)(id))))
-
 #define RT_CURSOR MAKEINTRESOURCEA(1)
 #define RT_BITMAP MAKEINTRESOURCEA(2)
 #define RT_ICON MAKEINTRESOURCEA(3)
@@ -40,7 +37,6 @@ WINUSERAPI int WINAPI wvsprintfA(LPSTR target, LPCSTR format, va_list arguments)
 #define RT_ACCELERATOR MAKEINTRESOURCEA(9)
 #define RT_RCDATA MAKEINTRESOURCEA(10)
 #define RT_MESSAGETABLE MAKEINTRESOURCEA(11)
-#define DIFFERENCE 11
 #define RT_GROUP_CURSOR MAKEINTRESOURCEA(12)
 #define RT_GROUP_ICON MAKEINTRESOURCEA(14)
 #define RT_VERSION MAKEINTRESOURCEA(16)
@@ -61,7 +57,6 @@ WINUSERAPI int WINAPI LoadStringA(HINSTANCE module, UINT id, LPSTR buffer, int s
 #define IsCharLower IsCharLowerA
 #define IsCharUpper IsCharUpperA
 #define LoadString LoadStringA
-#define MAKEINTRESOURCE MAKEINTRESOURCEA
 #define wsprintf wsprintfA
 #define wvsprintf wvsprintfA
 #endif

@@ -11,21 +11,30 @@ extern "C" const unsigned char cvModuleResourcesEnd[] __attribute__((visibility(
 
 namespace {
 
-HINSTANCE instance = nullptr;
-
-__attribute__((constructor)) void Attach() {
-    CvModuleStart start{};
+// An object rather than a pair of functions, so that DllMain is called after the module's other static objects are made
+// and before they go. (This source comes last in its module, and objects are made in the order of the sources.)
+class ModuleStart {
+  public:
+    ModuleStart() {
+        CvModuleStart start{};
 #ifdef CV_MODULE_HAS_RESOURCES
-    start.resources = cvModuleResources;
-    start.resourcesEnd = cvModuleResourcesEnd;
+        start.resources = cvModuleResources;
+        start.resourcesEnd = cvModuleResourcesEnd;
 #endif
-    start.entry = DllMain;
-    start.address = &instance;
-    instance = CvPlatformAttachModule(&start);
-}
+        start.entry = DllMain;
+        start.address = this;
+        instance_ = CvPlatformAttachModule(&start);
+    }
+    ~ModuleStart() {
+        CvPlatformDetachModule(instance_);
+    }
+    ModuleStart(const ModuleStart&) = delete;
+    ModuleStart& operator=(const ModuleStart&) = delete;
 
-__attribute__((destructor)) void Detach() {
-    CvPlatformDetachModule(instance);
-}
+  private:
+    HINSTANCE instance_ = nullptr;
+};
+
+ModuleStart moduleStart;
 
 }  // namespace

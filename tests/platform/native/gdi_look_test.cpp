@@ -120,4 +120,14 @@ TEST(GdiLook, DamagedHeadersAreRefused) {
     EXPECT_EQ(nullptr, CreateBitmap(40000, 40000, 1, 32, nullptr));
 }
 
+TEST(GdiLook, FarCoordinatesOnlyClip) {
+    Canvas canvas;
+    SetViewportOrgEx(canvas, 5, 5, nullptr);
+    const RECT everything{-0x7FFFFFFF, -0x7FFFFFFF, 0x7FFFFFFF, 0x7FFFFFFF};
+    FillRect(canvas, &everything, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
+    EXPECT_EQ(64 * 48, canvas.Count(canvas.All(), Canvas::kBlack));
+    PatBlt(canvas, 0, 0, 0x7FFFFFFF, 0x7FFFFFFF, WHITENESS);
+    EXPECT_EQ((64 - 5) * (48 - 5), canvas.Count(canvas.All(), Canvas::kWhite));
+}
+
 }  // namespace

@@ -1,0 +1,287 @@
+#include <cvutil32/clist.h>
+
+#include <cstdint>
+#include <cstring>
+#include <new>
+
+#include "classes/clist_header.h"
+#include "core/globalblock.h"
+
+namespace {
+
+constexpr std::uint32_t kSignature = 0x5453494C;  // "LIST" in memory
+constexpr std::uint32_t kMostSlots = 65535;
+
+bool IsWritable(const void* address, std::size_t size) {
+    return !IsBadWritePtr(const_cast<void*>(address), size);
+}
+
+bool IsObject(const void* address) {
+    return static_cast<const CBASE*>(address)->IsValidcBase() != 0;
+}
+
+CBASE* AsObject(void* address) {
+    return static_cast<CBASE*>(address);
+}
+
+}  // namespace
+
+// --- the header's logic
+
+std::uint32_t CLISTHEADER::ResolveIndex(std::uint32_t index) const {
+    if (index < count) {
+        return index;
+    }
+    return index == CLIST_LAST && count > 0 ? count - 1 : CLIST_NOINDEX;
+}
+
+char* CLISTHEADER::SlotAddress(std::uint32_t index) const {
+    return array + std::size_t{slotSize} * index;
+}
+
+void* CLISTHEADER::ItemAddress(std::uint32_t index) const {
+    char* slot = SlotAddress(index);
+    if (type != CLISTTYPE_POINTER) {
+        return slot;
+    }
+    void* item;
+    std::memcpy(&item, slot, sizeof item);
+    return item;
+}
+
+void* CLISTHEADER::NewSlot(std::uint32_t index) {
+    char* slot = SlotAddress(index);
+    if (type != CLISTTYPE_POINTER) {
+        return slot;
+    }
+    void* item = globalblock::Allocate(itemSize);
+    std::memcpy(slot, &item, sizeof item);
+    return item;
+}
+
+void CLISTHEADER::StoreItem(void* place, const void* item) {
+    if (!place) {
+        return;
+    }
+    if (!prototype) {
+        if (item) {
+            std::memmove(place, item, itemSize);
+        } else {
+            std::memset(place, 0, itemSize);
+        }
+        return;
+    }
+    std::memset(place, 0, itemSize);
+    prototype->vCallConstructor(AsObject(place));
+    AsObject(place)->vCopy(IsObject(item) ? *static_cast<const CBASE*>(item) : *prototype);
+}
+
+void CLISTHEADER::FreeItem(void* item) {
+    if (!item) {
+        return;
+    }
+    if (prototype && IsObject(item)) {
+        AsObject(item)->vCallDestructor();
+    }
+    if (type == CLISTTYPE_POINTER) {
+        globalblock::Release(item);
+    }
+}
+
+bool CLISTHEADER::CheckItem(const void* item) const {
+    // The probe is for write access although the item is only read: callers rely on read-only items being refused.
+    return IsWritable(item, itemSize) && (!prototype || IsObject(item));
+}
+
+bool CLISTHEADER::Grow() {
+    if (count < capacity) {
+        return true;
+    }
+    std::uint32_t wanted = capacity + capacity / 2;
+    wanted = wanted < count + 1 ? count + 1 : wanted;
+    wanted = wanted > kMostSlots ? kMostSlots : wanted;
+    if (wanted <= count) {
+        return false;  // the list is full: nothing is ever written beyond its array
+    }
+    auto* grown = static_cast<char*>(globalblock::Resize(array, std::size_t{wanted} * slotSize));
+    if (!grown) {
+        return false;
+    }
+    array = grown;
+    capacity = wanted;
+    return true;
+}
+
+// Leaves the count and the sizes as they are; vCopy and its callers rely on it.
+void CLISTHEADER::FreeAll() {
+    if (!array) {
+        return;
+    }
+    for (std::uint32_t i = 0; i < count; ++i) {
+        FreeItem(ItemAddress(i));
+    }
+    if (prototype) {
+        prototype->vCallDestructor();
+        globalblock::Release(prototype);
+        prototype = nullptr;
+    }
+    globalblock::Release(array);
+    array = nullptr;
+}
+
+// --- construction and storage
+
+void CLIST::MakeHeader() {
+    header = new (std::nothrow) CLISTHEADER;
+    if (header) {
+        header->signature = kSignature;
+    }
+}
+
+CLIST::CLIST(unsigned int itemSize, unsigned int capacity, CLISTTYPE type) {
+    if (IsWritable(this, sizeof *this)) {
+        MakeHeader();
+        Init(itemSize, capacity, type);
+    }
+}
+
+CLIST::CLIST(const CBASE& prototype, unsigned int capacity, CLISTTYPE type) {
+    if (IsWritable(this, sizeof *this)) {
+        MakeHeader();
+        if (IsObject(&prototype)) {
+            Init(prototype, capacity, type);
+        }
+    }
+}
+
+CLIST::CLIST(const CLIST& other) : CBASE() {
+    if (IsWritable(this, sizeof *this)) {
+        MakeHeader();
+        if (other.IsValid()) {
+            CLIST::vCopy(other);
+        }
+    }
+}
+
+CLIST::~CLIST() {
+    if (IsValid()) {
+        header->FreeAll();
+        header->signature = 0;  // a stale pointer to this list is found out as long as the memory is not reused
+        delete header;
+        header = nullptr;
+    }
+}
+
+int CLIST::IsValid() const {
+    return IsWritable(this, sizeof *this) && IsWritable(header, sizeof *header) && header->signature == kSignature;
+}
+
+int CLIST::Init(unsigned int itemSize, unsigned int capacity, CLISTTYPE type) {
+    if (!IsValid() || itemSize == 0) {
+        return 0;
+    }
+    capacity = capacity < 1 ? 1 : capacity > kMostSlots ? kMostSlots : capacity;
+    const std::uint32_t slotSize = type == CLISTTYPE_POINTER ? sizeof(void*) : itemSize;
+    const std::uint64_t bytes = std::uint64_t{slotSize} * capacity;
+    // Whatever the list held before is abandoned, as vCopy has freed it already.
+    header->array =
+        bytes > SIZE_MAX ? nullptr : static_cast<char*>(globalblock::Allocate(static_cast<std::size_t>(bytes)));
+    if (!header->array) {
+        return 0;
+    }
+    header->itemSize = itemSize;
+    header->slotSize = slotSize;
+    header->capacity = capacity;
+    header->type = type;
+    return 1;
+}
+
+int CLIST::Init(const CBASE& prototype, unsigned int capacity, CLISTTYPE type) {
+    if (!IsWritable(this, sizeof *this) || !IsObject(&prototype)) {
+        return 0;
+    }
+    if (!Init(prototype.vGetSize(), capacity, type) || !IsValid()) {
+        return 0;
+    }
+    header->prototype = static_cast<CBASE*>(globalblock::Allocate(prototype.vGetSize()));
+    if (!header->prototype) {
+        return 0;  // the array stays: the list goes on as one of plain bytes
+    }
+    prototype.vCallConstructor(header->prototype);
+    header->prototype->vCopy(prototype);
+    return 1;
+}
+
+// --- elements
+
+unsigned int CLIST::GetCount() const {
+    return IsValid() ? header->count : 0;
+}
+
+void* CLIST::GetItem(unsigned int index) const {
+    if (!IsValid()) {
+        return nullptr;
+    }
+    const std::uint32_t place = header->ResolveIndex(index);
+    return place == CLIST_NOINDEX || !header->array ? nullptr : header->ItemAddress(place);
+}
+
+void* CLIST::Insert(void* item, unsigned int index) {
+    if (!IsValid() || !header->array || (item && !header->CheckItem(item)) || index > header->count) {
+        return nullptr;
+    }
+    const char* const oldArray = header->array;
+    const std::size_t oldBytes = std::size_t{header->count} * header->slotSize;
+    if (!header->Grow()) {
+        return nullptr;
+    }
+    char* const slot = header->SlotAddress(index);
+    // An item of this very list moves with its array, and again when the slots behind the index shift.
+    const auto at = reinterpret_cast<std::uintptr_t>(item) - reinterpret_cast<std::uintptr_t>(oldArray);
+    if (item && header->type != CLISTTYPE_POINTER && at < oldBytes) {
+        item = header->array + at + (at >= std::size_t{index} * header->slotSize ? header->slotSize : 0);
+    }
+    std::memmove(slot + header->slotSize, slot, std::size_t{header->count - index} * header->slotSize);
+    void* const element = header->NewSlot(index);
+    header->StoreItem(element, item);
+    ++header->count;
+    return element;
+}
+
+void* CLIST::Append(void* item) {
+    return IsValid() ? Insert(item, header->count) : nullptr;
+}
+
+void* CLIST::New() {
+    return Append(nullptr);
+}
+
+void* CLIST::SetItem(void* item, unsigned int index) {
+    if (!IsValid() || !header->CheckItem(item)) {
+        return nullptr;
+    }
+    const std::uint32_t place = header->ResolveIndex(index);
+    if (place == CLIST_NOINDEX || !header->array) {
+        return nullptr;
+    }
+    void* const element = header->ItemAddress(place);
+    if (header->prototype && IsObject(element)) {
+        AsObject(element)->vCallDestructor();
+    }
+    header->StoreItem(element, item);
+    return element;
+}
+
+unsigned int CLIST::Delete(unsigned int index) {
+    if (!IsValid()) {
+        return 0;
+    }
+    const std::uint32_t place = header->ResolveIndex(index);
+    if (place == CLIST_NOINDEX || !header->array) {
+        return 0;
+    }
+    header->FreeItem(header->ItemAddress(place));
+    char* const slot = header->SlotAddress(place);
+    std::memmove(slot, slot + header->slotSize, std::size_t{header->count - place - 1} * header->slotSize);
+    return --header->count;
+}

@@ -1,0 +1,136 @@
+#include <cvutil32/clist.h>
+
+#include <cstring>
+#include <cstdint>
+
+#include "classes/clist_header.h"
+#include "core/globalblock.h"
+
+void* CLIST::FindLinear(void* key, CLISTCOMPARE compare, unsigned int* index) const {
+    void* found = nullptr;
+    std::uint32_t place = CLIST_NOINDEX;
+    if (IsValid() && compare && header->array) {
+        for (std::uint32_t i = index ? *index : 0; i < header->count; ++i) {
+            void* const item = header->ItemAddress(i);
+            if (compare(key, item) == 0) {
+                found = item;
+                place = i;
+                break;
+            }
+        }
+    }
+    if (index) {
+        *index = place;
+    }
+    return found;
+}
+
+void* CLIST::FindBinary(void* key, CLISTCOMPARE compare, unsigned int* index) const {
+    void* found = nullptr;
+    std::uint32_t place = CLIST_NOINDEX;
+    if (IsValid() && compare) {
+        std::uint32_t low = 0;
+        std::uint32_t high = header->array ? header->count : 0;
+        while (low < high && !found) {
+            const std::uint32_t middle = (low + high) / 2;
+            void* const item = header->ItemAddress(middle);
+            const int order = compare(key, item);
+            if (order > 0) {
+                low = middle + 1;
+            } else {
+                high = middle;
+                found = order == 0 ? item : nullptr;
+            }
+        }
+        place = high;
+    }
+    if (index) {
+        *index = place;
+    }
+    return found;
+}
+
+// Exchanges raw slots, so that no element is copied or constructed; only a strictly positive result exchanges, which
+// keeps equal elements in their order.
+void CLIST::Sort(CLISTCOMPARE compare) {
+    if (!IsValid() || !compare || header->count < 2 || !header->array) {
+        return;
+    }
+    void* const scratch = globalblock::Allocate(header->slotSize);
+    if (!scratch) {
+        return;
+    }
+    const std::size_t size = header->slotSize;
+    for (std::uint32_t last = header->count - 1; last > 0; --last) {
+        for (std::uint32_t j = 0; j < last; ++j) {
+            if (compare(header->ItemAddress(j), header->ItemAddress(j + 1)) > 0) {
+                char* const lower = header->SlotAddress(j);
+                char* const upper = header->SlotAddress(j + 1);
+                std::memcpy(scratch, upper, size);
+                std::memcpy(upper, lower, size);
+                std::memcpy(lower, scratch, size);
+            }
+        }
+    }
+    globalblock::Release(scratch);
+}
+
+// --- whole lists
+
+CLIST& CLIST::operator=(const CLIST& other) {
+    if (IsValid() && other.IsValid()) {
+        vCopy(other);
+    }
+    return *this;
+}
+
+CLIST& CLIST::operator+=(const CLIST& other) {
+    if (!IsValid() || !other.IsValid() || header->itemSize != other.header->itemSize) {
+        return *this;
+    }
+    // The source's count is read afresh, as it may be this very list; it then ends when an append fails.
+    for (std::uint32_t i = 0; i < other.header->count; ++i) {
+        if (!Append(other.GetItem(i)) && &other == this) {
+            break;
+        }
+    }
+    return *this;
+}
+
+CLIST& CLIST::operator+=(void* item) {
+    Append(item);
+    return *this;
+}
+
+void CLIST::vCallConstructor(CBASE* place) const {
+    if (!IsBadWritePtr(place, sizeof(CLIST))) {
+        new (place) CLIST;
+    }
+}
+
+void CLIST::vCallDestructor() {
+    if (IsValid()) {
+        this->~CLIST();
+    }
+}
+
+void CLIST::vCopy(const CBASE& source) {
+    const auto& other = static_cast<const CLIST&>(source);
+    if (!IsValid() || !other.IsValid()) {
+        return;
+    }
+    const std::uint32_t count = other.header->count;
+    const CLISTTYPE type = other.header->type;
+    const std::uint32_t itemSize = other.header->itemSize;
+    header->FreeAll();
+    const int made =
+        other.header->prototype ? Init(*other.header->prototype, count, type) : Init(itemSize, count, type);
+    // The old count stays: a list that held elements before gets the copies behind as many empty slots.
+    for (std::uint32_t i = 0; made && i < count; ++i) {
+        Append(other.GetItem(i));
+    }
+}
+
+unsigned int CLIST::vGetSize() const {
+    return sizeof(CLIST);
+}

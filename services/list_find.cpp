@@ -1,0 +1,131 @@
+#include <cvutil32/list.h>
+
+#include <cstdint>
+#include <cstring>
+
+// The searches look at the count and the items only, through the same 24-byte header as list.cpp; they do not test the
+// signature, as their callers know.
+namespace {
+
+struct Items {
+    const char* first;
+    std::uint32_t size;
+    std::uint32_t count;
+};
+
+Items ItemsOf(LPVOID list) {
+    std::uint32_t words[3];
+    std::memcpy(words, static_cast<const char*>(list) - 24, sizeof words);
+    return {static_cast<const char*>(list), words[1], words[2]};
+}
+
+template <class Number>
+struct NumberKey {
+    Number key;
+    explicit NumberKey(LPCVOID address) {
+        std::memcpy(&key, address, sizeof key);
+    }
+    int operator()(const char* field) const {
+        Number value;
+        std::memcpy(&value, field, sizeof value);
+        return (key > value) - (key < value);
+    }
+};
+
+struct TextKey {
+    LPCSTR key;
+    explicit TextKey(LPCVOID address) : key(static_cast<LPCSTR>(address)) {}
+    int operator()(const char* field) const {
+        return lstrcmpA(key, field);
+    }
+};
+
+struct PointerKey : TextKey {
+    using TextKey::TextKey;
+    int operator()(const char* field) const {
+        LPCSTR text;
+        std::memcpy(&text, field, sizeof text);
+        return lstrcmpA(key, text);
+    }
+};
+
+struct Match {
+    LPVOID item;
+    std::uint32_t index;
+};
+
+template <class Key>
+Match Linear(const Items& items, LONG offset, const Key& compare) {
+    const char* field = items.first + offset;
+    for (std::uint32_t i = 0; i < items.count; ++i, field += items.size) {
+        if (compare(field) == 0) {
+            return {const_cast<char*>(field - offset), i};
+        }
+    }
+    return {nullptr, items.count};
+}
+
+template <class Key>
+Match Binary(const Items& items, LONG offset, const Key& compare) {
+    std::uint32_t low = 0;
+    std::uint32_t high = items.count;
+    while (low < high) {
+        const auto middle = static_cast<std::uint32_t>((std::uint64_t{low} + high) / 2);
+        const char* item = items.first + std::size_t{middle} * items.size;
+        const int order = compare(item + offset);
+        if (order == 0) {
+            return {const_cast<char*>(item), middle};
+        }
+        (order > 0 ? low : high) = order > 0 ? middle + 1 : middle;
+    }
+    return {nullptr, high};
+}
+
+// One search with the comparison of the key's type. An unsupported type leaves the caller's index alone.
+template <class Search>
+LPVOID Dispatch(LPVOID list, DWORD type, LPCVOID key, DWORD* index, Search search) {
+    Match match{nullptr, 0};
+    if (list && ItemsOf(list).count > 0) {
+        const Items items = ItemsOf(list);
+        switch (type) {
+            case LIST_TYPE_SHORT:
+                match = search(items, NumberKey<std::int16_t>(key));
+                break;
+            case LIST_TYPE_LONG:
+                match = search(items, NumberKey<std::int32_t>(key));
+                break;
+            case LIST_TYPE_WORD:
+                match = search(items, NumberKey<std::uint16_t>(key));
+                break;
+            case LIST_TYPE_DWORD:
+            case 6:
+            case 7:
+                match = search(items, NumberKey<std::uint32_t>(key));
+                break;
+            case LIST_TYPE_LPSTR:
+                match = search(items, PointerKey(key));
+                break;
+            case LIST_TYPE_STRING:
+                match = search(items, TextKey(key));
+                break;
+            default:
+                return nullptr;
+        }
+    }
+    if (index) {
+        *index = match.index;
+    }
+    return match.item;
+}
+
+}  // namespace
+
+CVAPI(LPVOID) LIST_LFind(LPVOID list, DWORD type, LONG offset, LPCVOID key, DWORD* index) {
+    return Dispatch(list, type, key, index,
+                    [&](const Items& items, const auto& compare) { return Linear(items, offset, compare); });
+}
+
+CVAPI(LPVOID) LIST_BFind(LPVOID list, DWORD type, LONG offset, LPCVOID key, DWORD* index) {
+    return Dispatch(list, type, key, index,
+                    [&](const Items& items, const auto& compare) { return Binary(items, offset, compare); });
+}
