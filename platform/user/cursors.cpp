@@ -1,78 +1,155 @@
-// Cursors and icons of the system, known by their numbers.
-#include <windows.h>
-
+// Cursors and icons as objects: the system's own, known by number, and those of modules, known by name.
 #include <algorithm>
-#include <array>
+#include <atomic>
+#include <iterator>
+#include <memory>
 #include <mutex>
+#include <new>
 
 #include "base/handle.h"
+#include "user/icons.h"
 #include "user/window.h"
 
+namespace platform::user {
 namespace {
 
-namespace base = platform::base;
 using base::HandleKind;
 
-/// What a handle leads to. The system's own live as long as the process.
-struct Shape {
+constexpr unsigned kCursors[] = {32512, 32513, 32514, 32515, 32516, 32640, 32641, 32642,
+                                 32643, 32644, 32645, 32646, 32648, 32649, 32650, 32651};
+constexpr unsigned kFirstIcon = 32512;
+constexpr unsigned kLastIcon = 32517;
+constexpr unsigned kArrow = 32512;
+
+std::atomic<DWORD> ownIcons{0};
+
+HandleKind KindOf(bool cursor) {
+    return cursor ? HandleKind::Cursor : HandleKind::Icon;
+}
+
+/// Files an icon. Throws bad_alloc.
+std::uint32_t File(std::unique_ptr<Icon> icon) {
+    const std::uint32_t handle = base::InsertHandle(KindOf(icon->cursor), icon.get());
+    if (!handle) {
+        throw std::bad_alloc();
+    }
+    if (!icon->shared) {
+        ++ownIcons;
+    }
+    icon.release();
+    return handle;
+}
+
+/// What was loaded before, as a second call gives the same handle.
+struct Loaded {
+    HINSTANCE instance;
+    HRSRC group;  ///< null for the system's own
     unsigned number;
-    HandleKind kind;
-    bool system;
+    bool cursor;
+    std::uint32_t handle;
 };
 
-constexpr std::array<unsigned, 17> kCursors = {32512, 32513, 32514, 32515, 32516, 32640, 32641, 32642, 32643,
-                                               32644, 32645, 32646, 32648, 32649, 32650, 32651, 0};
+struct LoadedIcons {
+    std::mutex lock;
+    std::vector<Loaded> all;
+};
 
-HANDLE LoadSystem(LPCSTR name, HandleKind kind) {
-    const auto number = static_cast<unsigned>(reinterpret_cast<ULONG_PTR>(name));
-    const bool known = kind == HandleKind::Cursor
-                           ? std::find(kCursors.begin(), kCursors.end() - 1, number) != kCursors.end() - 1
-                           : number >= 32512 && number <= 32517;
-    if (!IS_INTRESOURCE(name) || !known) {
+LoadedIcons& Shared() {
+    static auto& shared = *new LoadedIcons;
+    return shared;
+}
+
+std::unique_ptr<Icon> MakeSystem(unsigned number, bool cursor) {
+    const bool known = cursor ? std::find(std::begin(kCursors), std::end(kCursors), number) != std::end(kCursors)
+                              : number >= kFirstIcon && number <= kLastIcon;
+    if (!known) {
         SetLastError(ERROR_RESOURCE_NAME_NOT_FOUND);
         return nullptr;
     }
-    static std::mutex lock;
-    static auto& shapes = *new std::array<std::array<std::uint32_t, 256>, 2>{};
-    const std::lock_guard guard(lock);
-    std::uint32_t& handle = shapes[kind == HandleKind::Cursor][number & 0xFF];
-    if (!handle) {
-        handle = base::InsertHandle(kind, new Shape{number, kind, true});
+    auto icon = std::make_unique<Icon>();
+    icon->number = number;
+    if (!cursor) {
+        icon->picture = DrawSystemIcon(number);
     }
+    return icon;
+}
+
+std::unique_ptr<Icon> MakeFromResource(HINSTANCE instance, LPCSTR name, bool cursor) {
+    auto picture = ReadIconResource(instance, name, cursor);
+    if (!picture) {
+        return nullptr;
+    }
+    auto icon = std::make_unique<Icon>();
+    icon->number = cursor ? kArrow : 0;  // displays show the system's shapes only
+    icon->picture = std::move(*picture);
+    return icon;
+}
+
+HANDLE Load(HINSTANCE instance, LPCSTR name, bool cursor) try {
+    if (!instance && !IS_INTRESOURCE(name)) {
+        SetLastError(ERROR_RESOURCE_NAME_NOT_FOUND);
+        return nullptr;
+    }
+    const HRSRC group = instance ? FindResourceA(instance, name, cursor ? RT_GROUP_CURSOR : RT_GROUP_ICON) : nullptr;
+    if (instance && !group) {
+        return nullptr;
+    }
+    const unsigned number = instance ? 0 : LOWORD(name);
+    LoadedIcons& shared = Shared();
+    const std::lock_guard guard(shared.lock);
+    for (const Loaded& each : shared.all) {
+        if (each.instance == instance && each.group == group && each.number == number && each.cursor == cursor) {
+            return base::ToHandle<HANDLE>(each.handle);
+        }
+    }
+    auto icon = instance ? MakeFromResource(instance, name, cursor) : MakeSystem(number, cursor);
+    if (!icon) {
+        return nullptr;
+    }
+    icon->shared = true;
+    icon->cursor = cursor;
+    shared.all.reserve(shared.all.size() + 1);
+    const std::uint32_t handle = File(std::move(icon));
+    shared.all.push_back({instance, group, number, cursor, handle});
     return base::ToHandle<HANDLE>(handle);
+} catch (const std::bad_alloc&) {
+    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+    return nullptr;
 }
 
 BOOL Destroy(HANDLE handle, HandleKind kind, DWORD error) {
-    const Shape* shape = base::Find<Shape>(handle, kind);
-    if (!shape) {
+    const Icon* icon = base::Find<Icon>(handle, kind);
+    if (!icon) {
         SetLastError(error);
         return FALSE;
     }
-    if (shape->system) {
-        return TRUE;  // shared: destroying it is none of the caller's business and does no harm
+    // A shared one is destroyed by nobody, and asking for it does no harm.
+    if (!icon->shared) {
+        base::RemoveHandle(base::ToNumber(handle), kind);
+        delete icon;
+        --ownIcons;
     }
-    base::RemoveHandle(base::ToNumber(handle), kind);
-    delete shape;
     return TRUE;
 }
 
 }  // namespace
 
-namespace platform::user {
-
 unsigned CursorShape(HCURSOR cursor) {
-    const Shape* shape = base::Find<Shape>(cursor, HandleKind::Cursor);
-    return shape ? shape->number : 0;
+    const Icon* icon = base::Find<Icon>(cursor, HandleKind::Cursor);
+    return icon ? icon->number : 0;
+}
+
+DWORD OwnIcons() {
+    return ownIcons.load();
 }
 
 }  // namespace platform::user
 
+using namespace platform::user;
+using platform::base::HandleKind;
+
 HCURSOR WINAPI LoadCursorA(HINSTANCE instance, LPCSTR name) {
-    if (instance) {
-        SetLastError(ERROR_RESOURCE_NAME_NOT_FOUND);
-        return nullptr;
-    }
-    return static_cast<HCURSOR>(LoadSystem(name, HandleKind::Cursor));
+    return static_cast<HCURSOR>(Load(instance, name, true));
 }
 
 BOOL WINAPI DestroyCursor(HCURSOR cursor) {
@@ -80,22 +157,26 @@ BOOL WINAPI DestroyCursor(HCURSOR cursor) {
 }
 
 HICON WINAPI LoadIconA(HINSTANCE instance, LPCSTR name) {
-    if (instance) {
-        SetLastError(ERROR_RESOURCE_NAME_NOT_FOUND);
-        return nullptr;
-    }
-    return static_cast<HICON>(LoadSystem(name, HandleKind::Icon));
+    return static_cast<HICON>(Load(instance, name, false));
 }
 
 BOOL WINAPI DestroyIcon(HICON icon) {
     return Destroy(icon, HandleKind::Icon, ERROR_INVALID_ICON_HANDLE);
 }
 
-HICON WINAPI CopyIcon(HICON icon) {
-    const Shape* shape = base::Find<Shape>(icon, HandleKind::Icon);
-    if (!shape) {
+HICON WINAPI CopyIcon(HICON handle) try {
+    const Icon* icon = platform::base::Find<Icon>(handle, HandleKind::Icon);
+    if (!icon) {
+        icon = platform::base::Find<Icon>(handle, HandleKind::Cursor);
+    }
+    if (!icon) {
         SetLastError(ERROR_INVALID_ICON_HANDLE);
         return nullptr;
     }
-    return base::ToHandle<HICON>(base::InsertHandle(HandleKind::Icon, new Shape{shape->number, shape->kind, false}));
+    auto copy = std::make_unique<Icon>(*icon);
+    copy->shared = false;
+    return platform::base::ToHandle<HICON>(File(std::move(copy)));
+} catch (const std::bad_alloc&) {
+    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+    return nullptr;
 }

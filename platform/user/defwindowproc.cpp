@@ -160,9 +160,18 @@ void SetRedraw(HWND handle, bool redraw) {
 }
 
 LRESULT SetIcon(HWND handle, bool big, HICON icon) {
-    const UserGuard guard(UserLock());
+    UserHold hold(UserLock());
     Window* window = PeekWindow(handle);
-    return window ? reinterpret_cast<LRESULT>(std::exchange(big ? window->bigIcon : window->smallIcon, icon)) : 0;
+    if (!window) {
+        return 0;
+    }
+    const HICON before = std::exchange(big ? window->bigIcon : window->smallIcon, icon);
+    const bool hasCaption = CaptionHeight(window->style, window->exStyle) && IsShown(window);
+    hold.unlock();
+    if (hasCaption) {
+        PaintFrame(handle, reinterpret_cast<HRGN>(1));
+    }
+    return reinterpret_cast<LRESULT>(before);
 }
 
 void Print(HWND handle, WPARAM context, LPARAM what) {

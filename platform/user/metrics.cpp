@@ -6,6 +6,7 @@
 #include "gdi/device_context.h"
 #include "gdi/screen.h"
 #include "gdi/syscolors.h"
+#include "user/icons.h"
 #include "user/queue.h"
 #include "user/window.h"
 
@@ -237,7 +238,7 @@ DWORD WINAPI GetGuiResources(HANDLE, DWORD flags) {
             // The desktop and the parent of message-only windows are the system's own.
             MessageRoot();
             Desktop();
-            return static_cast<DWORD>(platform::base::CountHandles(platform::base::HandleKind::Window)) - 2;
+            return static_cast<DWORD>(platform::base::CountHandles(platform::base::HandleKind::Window)) - 2 + OwnIcons();
         }
         default:
             SetLastError(ERROR_INVALID_PARAMETER);

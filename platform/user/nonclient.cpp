@@ -1,6 +1,7 @@
 // The frame around a client area: how wide it is, and what part of it a point lies on.
 #include "user/nonclient.h"
 
+#include "user/icons.h"
 #include "user/queue.h"
 
 namespace platform::user {
@@ -55,6 +56,18 @@ RECT ClientFromWindow(const Window* window, const RECT& windowRect) {
     return client;
 }
 
+HICON CaptionIcon(const Window* window) {
+    if (!(window->style & WS_SYSMENU) || (window->exStyle & (WS_EX_TOOLWINDOW | WS_EX_DLGMODALFRAME))) {
+        return nullptr;
+    }
+    for (HICON icon : {window->smallIcon, window->windowClass->smallIcon, window->bigIcon, window->windowClass->icon}) {
+        if (icon) {
+            return icon;
+        }
+    }
+    return nullptr;
+}
+
 CaptionParts LayOutCaption(const Window* window, RECT windowRect) {
     CaptionParts parts{};
     const int frame = FrameWidth(window->style, window->exStyle);
@@ -68,6 +81,11 @@ CaptionParts LayOutCaption(const Window* window, RECT windowRect) {
         return parts;
     }
     const int height = parts.height - 1;
+    if (CaptionIcon(window)) {
+        const int size = GetSystemMetrics(SM_CXSMICON);
+        const int top = parts.bar.top + (height - size) / 2;
+        parts.icon = {parts.bar.left + 2, top, parts.bar.left + 2 + size, top + size};
+    }
     const RECT close{parts.bar.right - 2 - (height - 2), parts.bar.top + 2, parts.bar.right - 2, parts.bar.bottom - 2};
     parts.close = close;
     if (!(window->exStyle & WS_EX_TOOLWINDOW) && (window->style & (WS_MINIMIZEBOX | WS_MAXIMIZEBOX))) {
@@ -111,6 +129,9 @@ LRESULT HitTest(HWND handle, POINT point) {
     }
     const CaptionParts parts = LayOutCaption(window, window->windowRect);
     if (parts.height && point.y < inner.top + parts.height) {
+        if (PtInRect(&parts.icon, point)) {
+            return HTSYSMENU;
+        }
         if (PtInRect(&parts.close, point)) {
             return window->windowClass->style & CS_NOCLOSE ? HTCAPTION : HTCLOSE;
         }
@@ -220,6 +241,8 @@ LRESULT DefaultNonClient(Window* window, UINT message, WPARAM wParam, LPARAM lPa
             if (wParam == HTCAPTION && (window->style & WS_MAXIMIZEBOX)) {
                 SendMessageA(handle, WM_SYSCOMMAND,
                              static_cast<WPARAM>(window->style & WS_MAXIMIZE ? SC_RESTORE : SC_MAXIMIZE), lParam);
+            } else if (wParam == HTSYSMENU) {
+                SendMessageA(handle, WM_SYSCOMMAND, SC_CLOSE, lParam);
             } else {
                 PressFrame(handle, static_cast<int>(wParam), point);
             }

@@ -16,6 +16,7 @@ int CaptionHeight(DWORD style, DWORD exStyle);
 struct CaptionParts {
     int height;
     RECT bar;
+    RECT icon;
     RECT close;
     RECT minimize;
     RECT maximize;

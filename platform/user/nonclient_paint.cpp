@@ -3,6 +3,7 @@
 #include <string>
 
 #include "gdi/objects.h"
+#include "user/icons.h"
 #include "user/nonclient.h"
 #include "user/queue.h"
 
@@ -18,6 +19,7 @@ struct Picture {
     std::string text;
     bool active;
     bool closes;  ///< the close box works
+    HICON icon;
     POINT origin;
 };
 
@@ -35,6 +37,7 @@ bool Describe(HWND handle, Picture* picture) try {
     picture->caption = LayOutCaption(window, picture->rect);
     picture->text = window->text;
     picture->active = window->captionActive;
+    picture->icon = CaptionIcon(window);
     picture->closes = !(window->windowClass->style & CS_NOCLOSE);
     return true;
 } catch (const std::bad_alloc&) {
@@ -125,6 +128,11 @@ void DrawCaption(HDC context, const Picture& picture, int pressed) {
                !(picture.style & WS_MAXIMIZEBOX));
     DrawButton(memory, parts.minimize, DFCS_CAPTIONMIN, pressed == HTMINBUTTON, !(picture.style & WS_MINIMIZEBOX));
     RECT text = parts.bar;
+    if (!IsRectEmpty(&parts.icon)) {
+        DrawIconEx(memory, parts.icon.left, parts.icon.top, picture.icon, parts.icon.right - parts.icon.left,
+                   parts.icon.bottom - parts.icon.top, 0, nullptr, DI_NORMAL);
+        text.left = parts.icon.right;
+    }
     text.left += 3;
     text.right = !IsRectEmpty(&parts.minimize) ? parts.minimize.left
                  : !IsRectEmpty(&parts.close)  ? parts.close.left

@@ -473,6 +473,25 @@ WINUSERAPI BOOL WINAPI DestroyCursor(HCURSOR cursor);
 WINUSERAPI HICON WINAPI LoadIconA(HINSTANCE instance, LPCSTR name);
 WINUSERAPI BOOL WINAPI DestroyIcon(HICON icon);
 WINUSERAPI HICON WINAPI CopyIcon(HICON icon);
+
+#define DI_MASK 0x0001
+#define DI_IMAGE 0x0002
+#define DI_NORMAL 0x0003
+#define DI_COMPAT 0x0004
+#define DI_DEFAULTSIZE 0x0008
+
+typedef struct _ICONINFO {
+    BOOL fIcon;
+    DWORD xHotspot;
+    DWORD yHotspot;
+    HBITMAP hbmMask;
+    HBITMAP hbmColor;
+} ICONINFO, *PICONINFO;
+
+WINUSERAPI BOOL WINAPI DrawIcon(HDC context, int x, int y, HICON icon);
+WINUSERAPI BOOL WINAPI DrawIconEx(HDC context, int x, int y, HICON icon, int width, int height, UINT step, HBRUSH brush,
+                                  UINT flags);
+WINUSERAPI BOOL WINAPI GetIconInfo(HICON icon, PICONINFO info);
 #define CopyCursor(cursor) ((HCURSOR)CopyIcon((HICON)(cursor)))
 
 // --- metrics and settings

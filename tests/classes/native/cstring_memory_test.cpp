@@ -27,23 +27,23 @@ char const* Text(CSTRING const& string) {
 
 }  // namespace
 
-void* operator new[](std::size_t size, std::nothrow_t const&) noexcept {
+void* operator new(std::size_t size, std::nothrow_t const&) noexcept {
     return g_exhausted ? nullptr : std::malloc(size ? size : 1);
 }
 
-void operator delete[](void* block) noexcept {
-    std::free(block);
-}
-
-void operator delete[](void* block, std::size_t) noexcept {
-    std::free(block);
-}
-
-void* operator new[](std::size_t size) {
+void* operator new(std::size_t size) {
     if (void* const block = std::malloc(size ? size : 1)) {
         return block;
     }
     throw std::bad_alloc();
+}
+
+void operator delete(void* block) noexcept {
+    std::free(block);
+}
+
+void operator delete(void* block, std::size_t) noexcept {
+    std::free(block);
 }
 
 namespace {

@@ -1,0 +1,46 @@
+/// @file icons.h
+/// Icons and cursors as pixels.
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace platform::user {
+
+struct Window;
+
+/// A pixel that lets what lies below show through; others are 0x00RRGGBB.
+constexpr std::uint32_t kTransparent = 0xFF000000;
+
+struct IconPicture {
+    int width = 0;
+    int height = 0;
+    POINT hotspot{};
+    std::vector<std::uint32_t> pixels;  ///< the top row first
+};
+
+/// What an icon's or a cursor's handle leads to.
+struct Icon {
+    unsigned number = 0;  ///< of the system's own: IDI_ or IDC_ as a number; the shape that stands for a cursor
+    bool shared = false;  ///< lives as long as the process; destroying it does nothing
+    bool cursor = false;
+    IconPicture picture;
+};
+
+/// @returns the picture of one of the system's icons. Throws bad_alloc.
+IconPicture DrawSystemIcon(unsigned number);
+
+/// Reads an icon or a cursor from a module's resources, in the size nearest to the usual one. Throws bad_alloc.
+/// @returns nothing, with the error code set, when it is missing or damaged.
+std::optional<IconPicture> ReadIconResource(HINSTANCE instance, LPCSTR name, bool cursor);
+
+/// @returns the icon that stands in a window's caption, null for none. Lock held.
+HICON CaptionIcon(const Window* window);
+
+/// @returns how many icons and cursors the application made and has not destroyed.
+DWORD OwnIcons();
+
+}  // namespace platform::user

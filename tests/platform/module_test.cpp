@@ -1,0 +1,85 @@
+// Modules and their resources.
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <cstring>
+#include <string>
+
+namespace {
+
+TEST(Modules, TheApplicationIsTheNullModule) {
+    HMODULE application = GetModuleHandleA(nullptr);
+    ASSERT_NE(application, nullptr);
+    char path[MAX_PATH] = {};
+    const DWORD length = GetModuleFileNameA(nullptr, path, sizeof path);
+    ASSERT_EQ(length, std::strlen(path));
+    EXPECT_EQ(path[1], ':');
+    char same[MAX_PATH] = {};
+    GetModuleFileNameA(application, same, sizeof same);
+    EXPECT_STREQ(path, same);
+    EXPECT_EQ(GetModuleHandleA(std::strrchr(path, '\\') + 1), application);
+    char cut[8];
+    std::memset(cut, '#', sizeof cut);
+    EXPECT_EQ(GetModuleFileNameA(nullptr, cut, 6), 6u);
+    EXPECT_EQ(cut[6], '#') << "nothing behind the buffer is touched";
+}
+
+TEST(Modules, SystemFunctionsAreFoundByName) {
+    HMODULE system = GetModuleHandleA("KERNEL32");
+    ASSERT_NE(system, nullptr);
+    EXPECT_EQ(GetModuleHandleA("kernel32.dll"), system);
+    void* found = reinterpret_cast<void*>(GetProcAddress(system, "lstrlenA"));
+    const auto length = reinterpret_cast<int(WINAPI*)(LPCSTR)>(found);
+    ASSERT_NE(length, nullptr);
+    EXPECT_EQ(length("four"), 4);
+    SetLastError(0);
+    EXPECT_EQ(GetProcAddress(system, "NoSuchFunctionAnywhere"), nullptr);
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_PROC_NOT_FOUND));
+}
+
+TEST(Modules, AMissingLibraryIsNotFound) {
+    SetLastError(0);
+    EXPECT_EQ(LoadLibraryA("NoSuchLibraryAnywhere.dll"), nullptr);
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_MOD_NOT_FOUND));
+    EXPECT_EQ(GetModuleHandleA("NoSuchLibraryAnywhere"), nullptr);
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_MOD_NOT_FOUND));
+}
+
+std::string Bytes(LPCSTR name, LPCSTR type) {
+    HRSRC resource = FindResourceA(nullptr, name, type);
+    if (!resource) {
+        return "(none)";
+    }
+    const auto* data = static_cast<const char*>(LockResource(LoadResource(nullptr, resource)));
+    return {data, SizeofResource(nullptr, resource)};
+}
+
+TEST(Resources, ByNumberByNameAndByNumberInAName) {
+    const std::string text("raw\0data", 8);
+    EXPECT_EQ(Bytes(MAKEINTRESOURCEA(1000), MAKEINTRESOURCEA(10)), text);
+    EXPECT_EQ(Bytes("#1000", "#10"), text);
+    EXPECT_EQ(Bytes("Named", "OwnType"), "by name");
+    EXPECT_EQ(Bytes("NAMED", "OWNTYPE"), "by name");
+    SetLastError(0);
+    EXPECT_EQ(FindResourceA(nullptr, "Absent", "OwnType"), nullptr);
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_RESOURCE_NAME_NOT_FOUND));
+    EXPECT_EQ(FindResourceA(nullptr, "Named", "AbsentType"), nullptr);
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_RESOURCE_TYPE_NOT_FOUND));
+}
+
+TEST(Resources, StringsAreCutAtTheBuffer) {
+    char buffer[64] = "old";
+    HINSTANCE application = GetModuleHandleA(nullptr);
+    EXPECT_EQ(LoadStringA(application, 1000, buffer, sizeof buffer), 12);
+    EXPECT_STREQ(buffer, "first string");
+    EXPECT_EQ(LoadStringA(application, 1015, buffer, sizeof buffer), 11);
+    EXPECT_STREQ(buffer,
+                 "\xC4"
+                 "nd \x80 \xA9 end");
+    EXPECT_EQ(LoadStringA(application, 1000, buffer, 6), 5);
+    EXPECT_STREQ(buffer, "first");
+    EXPECT_EQ(LoadStringA(application, 1001, buffer, sizeof buffer), 0) << "in the block, but empty";
+    EXPECT_EQ(LoadStringA(application, 9999, buffer, sizeof buffer), 0);
+}
+
+}  // namespace

@@ -1,0 +1,165 @@
+// Modules that announce themselves, with whole and with damaged resources.
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <cstring>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/kernel/start/module_registration.h"
+
+namespace {
+
+using File = std::vector<unsigned char>;
+
+void Put(File& file, DWORD value, int size) {
+    for (int i = 0; i < size; ++i) {
+        file.push_back(static_cast<unsigned char>(value >> (8 * i)));
+    }
+}
+
+// One entry of a compiled script, its type and name numbers.
+void PutEntry(File& file, WORD type, WORD name, const std::string& data) {
+    Put(file, static_cast<DWORD>(data.size()), 4);
+    Put(file, 32, 4);
+    Put(file, 0xFFFFu | DWORD{type} << 16, 4);
+    Put(file, 0xFFFFu | DWORD{name} << 16, 4);
+    Put(file, 0, 4);
+    Put(file, 0x1030, 2);
+    Put(file, 0x0409, 2);
+    Put(file, 0, 4);
+    Put(file, 0, 4);
+    file.insert(file.end(), data.begin(), data.end());
+    while (file.size() % 4) {
+        file.push_back(0);
+    }
+}
+
+File TwoEntries() {
+    File file;
+    PutEntry(file, 0, 0, "");
+    PutEntry(file, 10, 1, "first");
+    PutEntry(file, 10, 2, "second!");
+    return file;
+}
+
+class Attached {
+  public:
+    explicit Attached(const File& file) : bytes_(new unsigned char[file.size()]) {
+        // In memory of its own size, so that the sanitizer sees a read past the end.
+        std::memcpy(bytes_.get(), file.data(), file.size());
+        CvModuleStart start{};
+        start.resources = bytes_.get();
+        start.resourcesEnd = bytes_.get() + file.size();
+        start.address = reinterpret_cast<const void*>(&GlobalAlloc);  // any module but the application
+        instance_ = CvPlatformAttachModule(&start);
+    }
+    ~Attached() {
+        CvPlatformDetachModule(instance_);
+    }
+    HINSTANCE instance() const {
+        return instance_;
+    }
+    std::string Data(int name) const {
+        HRSRC found = FindResourceA(instance_, MAKEINTRESOURCEA(name), RT_RCDATA);
+        const auto* data = static_cast<const char*>(LockResource(LoadResource(instance_, found)));
+        return data ? std::string(data, SizeofResource(instance_, found)) : "(none)";
+    }
+
+  private:
+    std::unique_ptr<unsigned char[]> bytes_;
+    HINSTANCE instance_;
+};
+
+TEST(DamagedResources, EveryTruncationKeepsWhatIsWhole) {
+    const File whole = TwoEntries();
+    for (std::size_t size = 0; size <= whole.size(); ++size) {
+        const Attached module(File(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size)));
+        EXPECT_EQ(module.Data(1), size >= 32 + 37 ? "first" : "(none)") << size;
+        EXPECT_EQ(module.Data(2), size >= 32 + 40 + 39 ? "second!" : "(none)") << size;
+    }
+}
+
+TEST(DamagedResources, EveryWrongByteIsSurvived) {
+    const File whole = TwoEntries();
+    for (std::size_t at = 0; at < whole.size(); ++at) {
+        for (const unsigned char value : {0x00, 0x7F, 0x80, 0xFF}) {
+            File file = whole;
+            file[at] = value;
+            const Attached module(file);
+            for (int name = 1; name <= 2; ++name) {
+                module.Data(name);
+            }
+        }
+    }
+}
+
+TEST(DamagedResources, AStringBlockThatLiesHasNoStrings) {
+    File file;
+    PutEntry(file, 6, 1,
+             std::string("\x02\0a\0b\0\xFF\x7F"
+                         "c\0",
+                         10));
+    const Attached module(file);
+    char buffer[16];
+    EXPECT_EQ(LoadStringA(module.instance(), 0, buffer, sizeof buffer), 2);
+    EXPECT_STREQ(buffer, "ab");
+    EXPECT_EQ(LoadStringA(module.instance(), 1, buffer, sizeof buffer), 0);
+    EXPECT_EQ(LoadStringA(module.instance(), 2, buffer, sizeof buffer), 0);
+}
+
+TEST(Resources, StaleHandlesAreRefused) {
+    HRSRC found = nullptr;
+    {
+        const Attached module(TwoEntries());
+        found = FindResourceA(module.instance(), MAKEINTRESOURCEA(1), RT_RCDATA);
+        ASSERT_NE(found, nullptr);
+    }
+    SetLastError(0);
+    EXPECT_EQ(LoadResource(nullptr, found), nullptr);
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_HANDLE));
+}
+
+TEST(ModulesDeathTest, ALibraryThatRefusesToStartEndsTheProcess) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    EXPECT_EXIT(
+        {
+            CvModuleStart start{};
+            start.entry = [](HINSTANCE, DWORD, LPVOID) -> BOOL { return FALSE; };
+            start.address = reinterpret_cast<const void*>(&GlobalAlloc);
+            CvPlatformAttachModule(&start);
+        },
+        ::testing::ExitedWithCode(1), "could not be initialised");
+}
+
+int notices[4];
+
+DWORD WINAPI Nothing(LPVOID) {
+    return 0;
+}
+
+TEST(Modules, EntryPointsHearOfThreads) {
+    CvModuleStart start{};
+    start.entry = [](HINSTANCE, DWORD reason, LPVOID) -> BOOL {
+        ++notices[reason];
+        return TRUE;
+    };
+    start.address = reinterpret_cast<const void*>(&GlobalAlloc);
+    HINSTANCE instance = CvPlatformAttachModule(&start);
+    HANDLE thread = CreateThread(nullptr, 0, Nothing, nullptr, 0, nullptr);
+    WaitForSingleObject(thread, INFINITE);
+    CloseHandle(thread);
+    EXPECT_EQ(notices[DLL_PROCESS_ATTACH], 1);
+    EXPECT_EQ(notices[DLL_THREAD_ATTACH], 1);
+    EXPECT_EQ(notices[DLL_THREAD_DETACH], 1);
+    EXPECT_TRUE(DisableThreadLibraryCalls(instance));
+    thread = CreateThread(nullptr, 0, Nothing, nullptr, 0, nullptr);
+    WaitForSingleObject(thread, INFINITE);
+    CloseHandle(thread);
+    EXPECT_EQ(notices[DLL_THREAD_ATTACH], 1);
+    CvPlatformDetachModule(instance);
+    EXPECT_EQ(notices[DLL_PROCESS_DETACH], 1);
+}
+
+}  // namespace
