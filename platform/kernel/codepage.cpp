@@ -81,13 +81,15 @@ void FillCase(CodePage& page) {
         if (u_isalpha(character)) {
             page.kind[byte] |= CodePage::kAlpha;
         }
-        if (u_isdigit(character)) {
+        // The raised figures of Latin-1 are digits too.
+        if (const int numeric = u_getIntPropertyValue(character, UCHAR_NUMERIC_TYPE);
+            numeric == U_NT_DECIMAL || numeric == U_NT_DIGIT) {
             page.kind[byte] |= CodePage::kDigit;
         }
-        if (u_isupper(character)) {
+        if (u_isUUppercase(character)) {
             page.kind[byte] |= CodePage::kUpper;
         }
-        if (u_islower(character)) {
+        if (u_isULowercase(character)) {
             page.kind[byte] |= CodePage::kLower;
         }
         // A letter whose other case the page lacks keeps its own.

@@ -2,7 +2,10 @@
 // apostrophes stand.
 #include <windows.h>
 
+#include <array>
 #include <cstring>
+#include <iterator>
+#include <set>
 #include <utility>
 
 #include "kernel/codepage.h"
@@ -16,17 +19,31 @@ using platform::kernel::Weights;
 
 namespace {
 
+// A byte that is compared by itself, as nearly all are. Rank 0 marks the others: lead bytes, letters that count as two,
+// hyphens, apostrophes, and what is not compared.
+struct Simple {
+    std::uint8_t rank = 0;  ///< the order of the primary weights within the page
+    std::uint8_t accent = 0;
+    std::uint8_t letterCase = 0;
+};
+
 // The page in use never changes while the process runs.
 struct Tables {
     const CodePage& page = ActiveCodePage();
     const std::array<Weights, 256>& weights = ByteWeights(page);
-    std::array<std::uint8_t, 256> simple{};  ///< plain letters and digits: their folded byte; 0 for all else
+    std::array<Simple, 256> simple{};
 
     Tables() {
-        for (int byte = 0; byte < 128; ++byte) {
-            const char lower = static_cast<char>(byte >= 'A' && byte <= 'Z' ? byte | 0x20 : byte);
-            if ((lower >= 'a' && lower <= 'z') || (lower >= '0' && lower <= '9')) {
-                simple[byte] = static_cast<std::uint8_t>(lower);
+        std::set<std::uint32_t> primaries;
+        for (const Weights& byte : weights) {
+            primaries.insert(byte.first.primary);
+        }
+        primaries.insert(0);
+        for (int byte = 0; byte < 256; ++byte) {
+            const Weight& weight = weights[byte].first;
+            if (!page.lead[byte] && !weights[byte].expands && !weight.special) {
+                const auto rank = std::distance(primaries.begin(), primaries.find(weight.primary));
+                simple[byte] = {static_cast<std::uint8_t>(rank), weight.accent, weight.letterCase};
             }
         }
     }
@@ -181,34 +198,39 @@ int CompareWeights(const Tables& tables, Text first, Text second, DWORD flags) {
     return CompareSpecials(Reader(tables, first, flags), Reader(tables, second, flags));
 }
 
-// Texts that begin with the same plain letters and digits are told apart by the first different ones, if these are
-// plain too; whole texts of them also by their length and then their case. Everything else needs the weights.
+// Texts are told apart by the first bytes of different rank, if only simple ones stand before them; texts of simple
+// bytes throughout also by their length, their accents and their case. Everything else needs the weights.
 int CompareTexts(Text first, Text second, DWORD flags) {
     const Tables& tables = TheTables();
+    if (flags & NORM_IGNORESYMBOLS) {
+        return CompareWeights(tables, first, second, flags);
+    }
+    const std::uint8_t caseMask = CaseMask(flags);
+    int accents = CSTR_EQUAL;
     int cases = CSTR_EQUAL;
     const unsigned char* x = first.at;
     const unsigned char* y = second.at;
     for (; x != first.end && y != second.end; ++x, ++y) {
-        const std::uint8_t a = tables.simple[*x];
-        const std::uint8_t b = tables.simple[*y];
-        if (!a || !b) {
+        const Simple& a = tables.simple[*x];
+        const Simple& b = tables.simple[*y];
+        if (!a.rank || !b.rank) {
             return CompareWeights(tables, first, second, flags);
         }
-        if (a != b) {
-            return a < b ? CSTR_LESS_THAN : CSTR_GREATER_THAN;
+        if (a.rank != b.rank) {
+            return a.rank < b.rank ? CSTR_LESS_THAN : CSTR_GREATER_THAN;
         }
-        if (*x != *y && cases == CSTR_EQUAL) {
-            // Small letters come first, though their codes are higher.
-            cases = *x > *y ? CSTR_LESS_THAN : CSTR_GREATER_THAN;
+        if (*x != *y) {
+            accents = accents == CSTR_EQUAL ? Order(a.accent, b.accent) : accents;
+            cases = cases == CSTR_EQUAL ? Order(a.letterCase & caseMask, b.letterCase & caseMask) : cases;
         }
     }
-    if (x == first.end && y == second.end) {
-        return flags & NORM_IGNORECASE ? CSTR_EQUAL : cases;
-    }
-    if (x == first.end ? tables.simple[*y] : tables.simple[*x]) {
+    if (x != first.end || y != second.end) {
+        if (!tables.simple[x == first.end ? *y : *x].rank) {
+            return CompareWeights(tables, first, second, flags);
+        }
         return x == first.end ? CSTR_LESS_THAN : CSTR_GREATER_THAN;
     }
-    return CompareWeights(tables, first, second, flags);
+    return accents != CSTR_EQUAL && !(flags & NORM_IGNORENONSPACE) ? accents : cases;
 }
 
 Text MakeText(LPCSTR text, int size) {

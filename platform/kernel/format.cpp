@@ -61,10 +61,11 @@ void PutField(Output& out, const Conversion& how, const char* text, std::size_t 
 
 void PutNumber(Output& out, const Conversion& how, std::uint64_t magnitude, unsigned base, bool capitals,
                const char* prefix) {
+    const char* const figures = capitals ? "0123456789ABCDEF" : "0123456789abcdef";
     char digits[24];
     std::size_t count = 0;
     do {
-        digits[count++] = (capitals ? "0123456789ABCDEF" : "0123456789abcdef")[magnitude % base];
+        digits[count++] = figures[magnitude % base];
         magnitude /= base;
     } while (magnitude);
     std::reverse(digits, digits + count);

@@ -128,11 +128,9 @@ HGLOBAL Discard(Block* block) {
 }
 
 HGLOBAL Modify(Block* block, UINT flags) {
-    if (block->movable) {
-        block->discardable = (flags & GMEM_DISCARDABLE) != 0;
-    }
-    // A fixed block may become movable, never the other way.
+    // A block may become movable and discardable, never the other way.
     block->movable = block->movable || (flags & GMEM_MOVEABLE);
+    block->discardable = block->discardable || (block->movable && (flags & GMEM_DISCARDABLE));
     return ToGlobal(block);
 }
 

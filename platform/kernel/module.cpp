@@ -1,10 +1,7 @@
 #include "kernel/module.h"
 
 #include <dlfcn.h>
-#include <link.h>
-#include <unistd.h>
 
-#include <climits>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -12,8 +9,9 @@
 
 #include "base/handle.h"
 #include "base/report.h"
-#include "kernel/encoding.h"
+#include "kernel/guarded.h"
 #include "kernel/hostpath.h"
+#include "kernel/library_file.h"
 #include "kernel/start/module_registration.h"
 
 namespace platform::kernel {
@@ -34,21 +32,6 @@ struct Loading {
     bool refused = false;
 };
 thread_local Loading loading;
-
-std::string ApplicationPath() {
-    char path[PATH_MAX];
-    const ssize_t length = readlink("/proc/self/exe", path, sizeof path);
-    return length > 0 ? std::string(path, static_cast<std::size_t>(length)) : std::string("application");
-}
-
-std::string PathOf(const void* address) {
-    Dl_info info{};
-    if (!dladdr(address, &info) || !info.dli_fname) {
-        return {};
-    }
-    char resolved[PATH_MAX];
-    return realpath(info.dli_fname, resolved) ? resolved : info.dli_fname;
-}
 
 Module* AddModule(std::string path) {
     auto module = std::make_unique<Module>();
@@ -75,43 +58,6 @@ Module* Application() {
     return module;
 }
 
-// The name by which Windows callers know a module: without folder, "lib" and ending, in small letters.
-std::string PlainName(std::string name) {
-    const std::size_t slash = name.find_last_of("/\\:");
-    if (slash != std::string::npos) {
-        name.erase(0, slash + 1);
-    }
-    // A point at the end of a name tells that it has no ending.
-    if (name.ends_with('.')) {
-        name.pop_back();
-    }
-    CharLowerBuffA(name.data(), static_cast<DWORD>(name.size()));
-    for (const char* ending : {".dll", ".exe", ".so"}) {
-        if (name.ends_with(ending)) {
-            name.resize(name.size() - std::strlen(ending));
-            break;
-        }
-    }
-    return name.starts_with("lib") ? name.substr(3) : name;
-}
-
-bool IsSystemName(const std::string& plain);
-Module* System();
-Module* FindByPath(const std::string& path);
-
-Module* FindByName(const std::string& name) {
-    const std::string plain = PlainName(name);
-    if (IsSystemName(plain)) {
-        return System();
-    }
-    for (const auto& module : Modules()) {
-        if (PlainName(module->path) == plain) {
-            return module.get();
-        }
-    }
-    return nullptr;
-}
-
 void RemoveModule(Module* module) {
     for (ResourceEntry& entry : module->resources) {
         if (entry.handle) {
@@ -120,6 +66,15 @@ void RemoveModule(Module* module) {
     }
     base::RemoveHandle(base::ToNumber(module->handle), HandleKind::Module);
     std::erase_if(Modules(), [module](const auto& other) { return other.get() == module; });
+}
+
+Module* FindByPath(const std::string& path) {
+    for (const auto& module : Modules()) {
+        if (module->path == path) {
+            return module.get();
+        }
+    }
+    return nullptr;
 }
 
 // The system's own libraries are this one.
@@ -139,44 +94,13 @@ Module* System() {
     return module ? module : AddModule(path);
 }
 
-// A library beside the application comes first, then what the host's loader finds.
-void* OpenLibrary(const std::string& name) {
-    const bool hasFolder = name.find_first_of("/\\:") != std::string::npos;
-    std::string file = hasFolder ? HostPath(name) : Utf8FromAnsi(name);
-    const std::size_t base = file.find_last_of('/') == std::string::npos ? 0 : file.find_last_of('/') + 1;
-    std::string ending = file.size() >= base + 4 ? file.substr(file.size() - 4) : std::string();
-    CharLowerBuffA(ending.data(), static_cast<DWORD>(ending.size()));
-    if (ending == ".dll") {
-        file.resize(file.size() - 4);
-    } else if (file.ends_with('.')) {
-        file.pop_back();
+Module* FindByName(const std::string& name) {
+    const std::string plain = PlainName(name);
+    if (IsSystemName(plain)) {
+        return System();
     }
-    if (file.find(".so", base) == std::string::npos) {
-        file = file.substr(0, base) + "lib" + file.substr(base) + ".so";
-    }
-    if (!hasFolder) {
-        const std::string application = ApplicationPath();
-        const std::string beside = application.substr(0, application.find_last_of('/') + 1) + file;
-        if (access(beside.c_str(), R_OK) == 0) {
-            return dlopen(beside.c_str(), RTLD_NOW | RTLD_LOCAL);
-        }
-    }
-    return dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL);
-}
-
-/// @returns the file that a library of the host's loader came from.
-std::string PathOfLoaded(void* loaded) {
-    link_map* map = nullptr;
-    if (dlinfo(loaded, RTLD_DI_LINKMAP, &map) != 0 || !map || !map->l_name) {
-        return {};
-    }
-    char resolved[PATH_MAX];
-    return realpath(map->l_name, resolved) ? resolved : map->l_name;
-}
-
-Module* FindByPath(const std::string& path) {
     for (const auto& module : Modules()) {
-        if (module->path == path) {
+        if (PlainName(module->path) == plain) {
             return module.get();
         }
     }
@@ -202,6 +126,7 @@ void NotifyThread(DWORD reason) {
     std::vector<std::pair<HINSTANCE, BOOL(WINAPI*)(HINSTANCE, DWORD, LPVOID)>> entries;
     {
         const std::lock_guard guard(ModuleLock());
+        entries.reserve(Modules().size());
         for (const auto& module : Modules()) {
             if (module->entry && module->wantsThreads) {
                 entries.emplace_back(module->handle, module->entry);
@@ -261,73 +186,79 @@ void CvPlatformDetachModule(HINSTANCE instance) {
 }
 
 HMODULE WINAPI GetModuleHandleA(LPCSTR name) {
-    const std::lock_guard guard(ModuleLock());
-    const Module* module = name ? FindByName(name) : Application();
-    if (!module) {
-        SetLastError(ERROR_MOD_NOT_FOUND);
-        return nullptr;
-    }
-    return module->handle;
+    return Guarded(HMODULE{}, [&]() -> decltype(HMODULE{}) {
+        const std::lock_guard guard(ModuleLock());
+        const Module* module = name ? FindByName(name) : Application();
+        if (!module) {
+            SetLastError(ERROR_MOD_NOT_FOUND);
+            return nullptr;
+        }
+        return module->handle;
+    });
 }
 
 DWORD WINAPI GetModuleFileNameA(HMODULE handle, LPSTR buffer, DWORD size) {
-    const std::lock_guard guard(ModuleLock());
-    const Module* module = FindModule(handle);
-    if (!module || !buffer || size == 0) {
-        return 0;
-    }
-    const std::string path = WindowsPath(module->path);
-    const bool fits = path.size() < size;
-    const DWORD copied = fits ? static_cast<DWORD>(path.size()) : size - 1;
-    std::memcpy(buffer, path.data(), copied);
-    buffer[copied] = '\0';
-    SetLastError(fits ? NO_ERROR : ERROR_INSUFFICIENT_BUFFER);
-    return fits ? copied : size;
+    return Guarded(DWORD{0}, [&]() -> decltype(DWORD{0}) {
+        const std::lock_guard guard(ModuleLock());
+        const Module* module = FindModule(handle);
+        if (!module || !buffer || size == 0) {
+            return 0;
+        }
+        const std::string path = WindowsPath(module->path);
+        const bool fits = path.size() < size;
+        const DWORD copied = fits ? static_cast<DWORD>(path.size()) : size - 1;
+        std::memcpy(buffer, path.data(), copied);
+        buffer[copied] = '\0';
+        SetLastError(fits ? NO_ERROR : ERROR_INSUFFICIENT_BUFFER);
+        return fits ? copied : size;
+    });
 }
 
 HMODULE WINAPI LoadLibraryA(LPCSTR name) {
-    if (!name || !*name) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return nullptr;
-    }
-    {
-        const std::lock_guard guard(ModuleLock());
-        if (Module* module = FindByName(name)) {
-            // The host's loader holds it already; the last FreeLibrary gives back what LoadLibraryA took.
-            module->loads += module->loads > 0;
-            return module->handle;
+    return Guarded(HMODULE{}, [&]() -> decltype(HMODULE{}) {
+        if (!name || !*name) {
+            SetLastError(ERROR_INVALID_PARAMETER);
+            return nullptr;
         }
-    }
-    // A library that loads another while it starts has its own refusal to tell.
-    const bool refusedBefore = std::exchange(loading.refused, false);
-    ++loading.depth;
-    void* loaded = OpenLibrary(name);
-    --loading.depth;
-    const bool refused = std::exchange(loading.refused, refusedBefore);
-    if (loaded && refused) {
-        dlclose(loaded);
-        SetLastError(ERROR_DLL_INIT_FAILED);
-        return nullptr;
-    }
-    if (!loaded) {
-        SetLastError(ERROR_MOD_NOT_FOUND);
-        return nullptr;
-    }
-    const std::lock_guard guard(ModuleLock());
-    const std::string path = PathOfLoaded(loaded);
-    Module* module = FindByPath(path);
-    if (!module) {
-        // A library of the host's own kind, which has announced nothing.
-        module = AddModule(path);
-    }
-    if (!module) {
-        dlclose(loaded);
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return nullptr;
-    }
-    module->loaded = loaded;
-    module->loads = 1;
-    return module->handle;
+        {
+            const std::lock_guard guard(ModuleLock());
+            if (Module* module = FindByName(name)) {
+                // The host's loader holds it already; the last FreeLibrary gives back what LoadLibraryA took.
+                module->loads += module->loads > 0;
+                return module->handle;
+            }
+        }
+        // A library that loads another while it starts has its own refusal to tell.
+        const bool refusedBefore = std::exchange(loading.refused, false);
+        ++loading.depth;
+        void* loaded = OpenLibrary(name);
+        --loading.depth;
+        const bool refused = std::exchange(loading.refused, refusedBefore);
+        if (loaded && refused) {
+            dlclose(loaded);
+            SetLastError(ERROR_DLL_INIT_FAILED);
+            return nullptr;
+        }
+        if (!loaded) {
+            SetLastError(ERROR_MOD_NOT_FOUND);
+            return nullptr;
+        }
+        const std::lock_guard guard(ModuleLock());
+        const std::string path = PathOfLoaded(loaded);
+        Module* module = FindByPath(path);
+        if (!module) {
+            // A library of the host's own kind, which has announced nothing.
+            module = AddModule(path);
+        }
+        if (!module) {
+            dlclose(loaded);
+            SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+            return nullptr;
+        }
+        module->loaded = loaded;
+        module->loads = 1;
+        return module->handle;
+    });
 }
 
 BOOL WINAPI FreeLibrary(HMODULE handle) {
@@ -368,24 +299,26 @@ BOOL WINAPI DisableThreadLibraryCalls(HMODULE handle) {
 }
 
 FARPROC WINAPI GetProcAddress(HMODULE handle, LPCSTR name) {
-    std::string path;
-    {
-        const std::lock_guard guard(ModuleLock());
-        const Module* module = FindModule(handle);
-        if (!module) {
-            return nullptr;
+    return Guarded(FARPROC{}, [&]() -> decltype(FARPROC{}) {
+        std::string path;
+        {
+            const std::lock_guard guard(ModuleLock());
+            const Module* module = FindModule(handle);
+            if (!module) {
+                return nullptr;
+            }
+            path = module->application ? std::string() : module->path;
         }
-        path = module->application ? std::string() : module->path;
-    }
-    // Exports have no numbers here.
-    void* opened =
-        IS_INTRESOURCE(name) ? nullptr : dlopen(path.empty() ? nullptr : path.c_str(), RTLD_NOW | RTLD_NOLOAD);
-    void* address = opened ? dlsym(opened, name) : nullptr;
-    if (opened) {
-        dlclose(opened);
-    }
-    if (!address) {
-        SetLastError(ERROR_PROC_NOT_FOUND);
-    }
-    return reinterpret_cast<FARPROC>(address);
+        // Exports have no numbers here.
+        void* opened =
+            IS_INTRESOURCE(name) ? nullptr : dlopen(path.empty() ? nullptr : path.c_str(), RTLD_NOW | RTLD_NOLOAD);
+        void* address = opened ? dlsym(opened, name) : nullptr;
+        if (opened) {
+            dlclose(opened);
+        }
+        if (!address) {
+            SetLastError(ERROR_PROC_NOT_FOUND);
+        }
+        return reinterpret_cast<FARPROC>(address);
+    });
 }

@@ -11,6 +11,7 @@
 #include <string>
 
 #include "kernel/encoding.h"
+#include "kernel/guarded.h"
 #include "kernel/hostpath.h"
 
 using platform::kernel::AnsiFromUtf8;
@@ -57,8 +58,11 @@ constexpr ULONG_PTR kFirstStandard = 0x10;
 }  // namespace
 
 LPSTR WINAPI GetCommandLineA(void) {
-    static std::string& line = *new std::string(MakeCommandLine());
-    return line.data();
+    static char none[] = "";
+    return platform::kernel::Guarded<LPSTR>(none, [] {
+        static std::string& line = *new std::string(MakeCommandLine());
+        return line.data();
+    });
 }
 
 void WINAPI GetStartupInfoA(LPSTARTUPINFOA information) {

@@ -16,9 +16,12 @@
 #include <mutex>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "base/report.h"
 #include "base/state.h"
+#include "kernel/guarded.h"
 #include "kernel/hostpath.h"
 #include "kernel/ini_file.h"
 #include "kernel/intl.h"
@@ -239,13 +242,13 @@ DWORD GetText(const std::string& path, LPCSTR section, LPCSTR key, LPCSTR defaul
     if (!buffer) {
         return 0;
     }
-    if (!section) {
-        return DeliverList(Load(path)->Sections(), buffer, size);
-    }
-    if (!key) {
-        return DeliverList(Load(path)->Keys(section), buffer, size);
-    }
-    if (const std::optional<std::string> value = Value(path, section, key)) {
+    if (!section || !key) {
+        const std::shared_ptr<const IniFile> file = Load(path);
+        const std::vector<std::string> names = section ? file->Keys(section) : file->Sections();
+        if (!names.empty()) {
+            return DeliverList(names, buffer, size);
+        }
+    } else if (const std::optional<std::string> value = Value(path, section, key)) {
         return DeliverText(*value, buffer, size);
     }
     std::string_view otherwise = defaultText ? defaultText : "";
@@ -263,19 +266,29 @@ DWORD GetSection(const std::string& path, LPCSTR section, LPSTR buffer, DWORD si
     return DeliverList(Load(path)->Entries(section), buffer, size);
 }
 
+// A sign, then digits up to the first character that is none; "0x" begins hexadecimal ones. An empty value is no
+// number.
 UINT GetNumber(const std::string& path, LPCSTR section, LPCSTR key, INT defaultValue) {
     const std::optional<std::string> value = section && key ? Value(path, section, key) : std::nullopt;
-    if (!value) {
+    if (!value || value->empty()) {
         return static_cast<UINT>(defaultValue);
     }
     const char* at = value->c_str();
     const bool negative = *at == '-';
     at += *at == '-' || *at == '+';
+    const UINT base = at[0] == '0' && (at[1] | 0x20) == 'x' ? 16 : 10;
+    at += base == 16 ? 2 : 0;
     UINT number = 0;
-    for (; *at >= '0' && *at <= '9'; ++at) {
-        number = number * 10 + static_cast<UINT>(*at - '0');
+    for (;; ++at) {
+        const char small = static_cast<char>(*at | 0x20);
+        const UINT digit = *at >= '0' && *at <= '9'       ? static_cast<UINT>(*at - '0')
+                           : small >= 'a' && small <= 'f' ? static_cast<UINT>(small - 'a' + 10)
+                                                          : 16;
+        if (digit >= base) {
+            return negative ? 0 - number : number;
+        }
+        number = number * base + digit;
     }
-    return negative ? 0 - number : number;
 }
 
 BOOL Write(const std::string& path, LPCSTR section, LPCSTR key, LPCSTR text) {
@@ -295,17 +308,6 @@ BOOL Write(const std::string& path, LPCSTR section, LPCSTR key, LPCSTR text) {
             file.Set(section, key, text);
         }
     });
-}
-
-// Nothing that a settings file holds, and no lack of memory, leaves these functions as an exception.
-template <class Result, class Call>
-Result Guarded(Result otherwise, Call call) {
-    try {
-        return call();
-    } catch (const std::exception&) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return otherwise;
-    }
 }
 
 }  // namespace

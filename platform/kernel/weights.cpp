@@ -10,15 +10,19 @@
 namespace platform::kernel {
 namespace {
 
-// Symbols in their order before the digits. Hyphen and apostrophe come first in string sort and weigh least in word
-// sort.
-constexpr char kSymbols[] = "'- !\"#$%&()*,./:;?@[\\]^_`{|}~+<=>";
-constexpr std::uint32_t kFirstSymbol = 0x10;
-constexpr std::uint32_t kLaterSymbols = 0x100;  // the other symbols, by code point
-constexpr std::uint32_t kDigits = 0x20000;
-constexpr std::uint32_t kLetters = 0x20100;
-constexpr std::uint32_t kOtherLetters = 0x30000;  // by code point
-constexpr std::uint32_t kIdeographs = 0x50000;    // by their place in the code page
+// Punctuation comes first, then mathematical and other symbols, then digits and letters. Hyphen and apostrophe come
+// first in string sort and weigh least in word sort. What ASCII lacks follows its own kind, by code point.
+constexpr char kPunctuation[] = "'- !\"#$%&()*,./:;?@[\\]^_`{|}~";
+constexpr char kMath[] = "+<=>";
+constexpr std::uint32_t kFirstPunctuation = 0x10;
+constexpr std::uint32_t kOtherPunctuation = 0x100;
+constexpr std::uint32_t kFirstMath = 0x10100;
+constexpr std::uint32_t kOtherMath = 0x10200;
+constexpr std::uint32_t kOtherSymbols = 0x20200;
+constexpr std::uint32_t kDigits = 0x30200;
+constexpr std::uint32_t kLetters = 0x30300;
+constexpr std::uint32_t kOtherLetters = 0x30400;
+constexpr std::uint32_t kIdeographs = 0x40400;  // by their place in the code page
 
 // The half-width Katakana from U+FF66 to U+FF9D by their full-width forms.
 constexpr char16_t kHalfWidth[] =
@@ -43,7 +47,7 @@ bool Expansion(char16_t character, Weights& weights) {
     };
     static constexpr Pair kPairs[] = {{0xC6, 'a', 'e', true},  {0xE6, 'a', 'e', false},  {0xDF, 's', 's', false},
                                       {0x152, 'o', 'e', true}, {0x153, 'o', 'e', false}, {0xDE, 't', 'h', true},
-                                      {0xFE, 't', 'h', false}};
+                                      {0xFE, 't', 'h', false}, {0x2122, 't', 'm', true}};
     for (const Pair& pair : kPairs) {
         if (pair.character == character) {
             weights.first = Letter(pair.first, pair.upper);
@@ -55,28 +59,19 @@ bool Expansion(char16_t character, Weights& weights) {
     return false;
 }
 
-// Letters with a stroke have no decomposition, but stand with their plain letter.
-char16_t StrokeBase(char16_t character) {
-    switch (character) {
-        case 0xD8:
-            return 'O';
-        case 0xF8:
-            return 'o';
-        case 0xD0:
-        case 0x110:
-            return 'D';
-        case 0xF0:
-        case 0x111:
-            return 'd';
-        case 0x131:
-            return 'i';
-        case 0x141:
-            return 'L';
-        case 0x142:
-            return 'l';
-        default:
-            return 0;
+// Letters with a stroke, and raised letters and figures, have no decomposition, but stand with their plain form.
+char16_t PlainForm(char16_t character) {
+    static constexpr char16_t kForms[][2] = {
+        {0xAA, u'a'},  {0xB2, u'2'},  {0xB3, u'3'},  {0xB5, 0x3BC}, {0xB9, u'1'},  {0xBA, u'o'},
+        {0xD0, u'D'},  {0xD8, u'O'},  {0xF0, u'd'},  {0xF8, u'o'},  {0x110, u'D'}, {0x111, u'd'},
+        {0x131, u'i'}, {0x141, u'L'}, {0x142, u'l'}, {0x192, u'f'},
+    };
+    for (const auto& form : kForms) {
+        if (form[0] == character) {
+            return form[1];
+        }
     }
+    return 0;
 }
 
 Weight Plain(char16_t character) {
@@ -90,11 +85,14 @@ Weight Plain(char16_t character) {
             weight.primary = kDigits + static_cast<std::uint32_t>(ascii - '0') * 2;
             return weight;
         }
-        const char* found = ascii > 0 ? std::strchr(kSymbols, ascii) : nullptr;
-        if (found) {
-            weight.symbol = true;
-            weight.primary = kFirstSymbol + static_cast<std::uint32_t>(found - kSymbols);
+        const char* punctuation = ascii > 0 ? std::strchr(kPunctuation, ascii) : nullptr;
+        const char* math = ascii > 0 ? std::strchr(kMath, ascii) : nullptr;
+        weight.symbol = punctuation || math;
+        if (punctuation) {
+            weight.primary = kFirstPunctuation + static_cast<std::uint32_t>(punctuation - kPunctuation);
             weight.special = ascii == '\'' ? 1 : ascii == '-' ? 2 : 0;
+        } else if (math) {
+            weight.primary = kFirstMath + static_cast<std::uint32_t>(math - kMath);
         } else if (ascii >= '\t' && ascii <= '\r') {
             weight.symbol = true;
             weight.primary = 5 + static_cast<std::uint32_t>(ascii - '\t');
@@ -106,13 +104,17 @@ Weight Plain(char16_t character) {
     }
     if (character == 0xAD) {
         weight.special = 3;
-        weight.primary = kFirstSymbol + 2;
+        weight.primary = kFirstPunctuation + 2;
         weight.symbol = true;
         return weight;
     }
-    if (!u_isalnum(character)) {
+    if (!u_isalnum(character) || u_charType(character) == U_MODIFIER_LETTER) {
+        const auto kind = U_GET_GC_MASK(character);
         weight.symbol = true;
-        weight.primary = kLaterSymbols + character;
+        weight.primary = (kind & (U_GC_P_MASK | U_GC_SK_MASK | U_GC_Z_MASK) ? kOtherPunctuation
+                          : kind & U_GC_SM_MASK                             ? kOtherMath
+                                                                            : kOtherSymbols) +
+                         character;
         return weight;
     }
     const auto lower = static_cast<char16_t>(u_tolower(character));
@@ -136,7 +138,7 @@ bool IsIdeograph(char16_t character) {
 
 // Reduces a letter with an accent to the letter. @returns the accent's weight, 0 for none.
 std::uint8_t TakeAccent(char16_t& character) {
-    if (const char16_t plain = StrokeBase(character)) {
+    if (const char16_t plain = PlainForm(character)) {
         character = plain;
         return 0xF0;
     }

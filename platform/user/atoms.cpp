@@ -58,7 +58,8 @@ ATOM AtomTable::FindQuietly(LPCSTR name) {
     const std::lock_guard guard(lock_);
     if (IS_INTRESOURCE(name)) {
         const std::size_t index = LOWORD(name) - std::size_t{kFirstNamed};
-        return LOWORD(name) >= kFirstNamed && index < entries_.size() && entries_[index]->count ? LOWORD(name) : ATOM{0};
+        return LOWORD(name) >= kFirstNamed && index < entries_.size() && entries_[index]->count ? LOWORD(name)
+                                                                                                : ATOM{0};
     }
     if (isInteger) {
         return 0;

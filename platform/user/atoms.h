@@ -1,5 +1,6 @@
 /// @file atoms.h
-/// Atoms: names without regard to case, counted, as 16-bit numbers from 0xC000. Numbers below that stand for themselves.
+/// Atoms: names without regard to case, counted, as 16-bit numbers from 0xC000. Numbers below that stand for
+/// themselves.
 #pragma once
 
 #include <windows.h>
@@ -22,17 +23,17 @@ struct NameEqual {
 /// Compares names of classes, atoms and properties: ASCII letters match in either case.
 bool SameName(std::string_view a, std::string_view b) noexcept;
 
-/// @returns the number of an integer atom given by value or as "#number", else 0. `isInteger` tells an invalid number from
-/// a name.
+/// @returns the number of an integer atom given by value or as "#number", else 0. `isInteger` tells an invalid number
+/// from a name.
 ATOM IntegerAtom(LPCSTR name, bool* isInteger);
 
 class AtomTable {
   public:
-    ATOM Add(LPCSTR name);           ///< 0 with the error code set
-    ATOM Find(LPCSTR name);          ///< 0 with ERROR_FILE_NOT_FOUND set
-    bool Delete(ATOM atom);          ///< false with ERROR_INVALID_HANDLE set
-    std::string Name(ATOM atom);     ///< empty with ERROR_INVALID_HANDLE set
-    ATOM FindQuietly(LPCSTR name);   ///< leaves the error code alone
+    ATOM Add(LPCSTR name);          ///< 0 with the error code set
+    ATOM Find(LPCSTR name);         ///< 0 with ERROR_FILE_NOT_FOUND set
+    bool Delete(ATOM atom);         ///< false with ERROR_INVALID_HANDLE set
+    std::string Name(ATOM atom);    ///< empty with ERROR_INVALID_HANDLE set
+    ATOM FindQuietly(LPCSTR name);  ///< leaves the error code alone
 
   private:
     struct Entry {

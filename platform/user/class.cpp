@@ -226,9 +226,8 @@ BOOL WINAPI GetClassInfoA(HINSTANCE instance, LPCSTR name, LPWNDCLASSA windowCla
     WNDCLASSEXA found{};
     const ATOM atom = Look(instance, name, windowClass ? &found : nullptr);
     if (atom) {
-        *windowClass = {found.style,         found.lpfnWndProc, found.cbClsExtra,   found.cbWndExtra,
-                        found.hInstance,     found.hIcon,       found.hCursor,      found.hbrBackground,
-                        found.lpszMenuName,  found.lpszClassName};
+        *windowClass = {found.style, found.lpfnWndProc, found.cbClsExtra,    found.cbWndExtra,   found.hInstance,
+                        found.hIcon, found.hCursor,     found.hbrBackground, found.lpszMenuName, found.lpszClassName};
     }
     return atom;
 }

@@ -73,7 +73,9 @@ void TellPlace(HWND handle, const WINDOWPOS& position) {
         if (IsChildStyle(window->style) && window->parent) {
             origin = {window->parent->clientRect.left, window->parent->clientRect.top};
         }
-        kind = window->style & WS_MINIMIZE ? SIZE_MINIMIZED : window->style & WS_MAXIMIZE ? SIZE_MAXIMIZED : SIZE_RESTORED;
+        kind = window->style & WS_MINIMIZE   ? SIZE_MINIMIZED
+               : window->style & WS_MAXIMIZE ? SIZE_MAXIMIZED
+                                             : SIZE_RESTORED;
     }
     constexpr UINT noClientSize = 0x0800;
     constexpr UINT noClientMove = 0x1000;
@@ -91,8 +93,10 @@ void LimitSize(HWND handle, DWORD style, WINDOWPOS* position) {
         return;
     }
     const MINMAXINFO limits = QueryMinMax(handle);
-    position->cx = std::clamp<int>(position->cx, limits.ptMinTrackSize.x, std::max(limits.ptMinTrackSize.x, limits.ptMaxTrackSize.x));
-    position->cy = std::clamp<int>(position->cy, limits.ptMinTrackSize.y, std::max(limits.ptMinTrackSize.y, limits.ptMaxTrackSize.y));
+    position->cx = std::clamp<int>(position->cx, limits.ptMinTrackSize.x,
+                                   std::max(limits.ptMinTrackSize.x, limits.ptMaxTrackSize.x));
+    position->cy = std::clamp<int>(position->cy, limits.ptMinTrackSize.y,
+                                   std::max(limits.ptMinTrackSize.y, limits.ptMaxTrackSize.y));
 }
 
 LRESULT ControlColour(UINT message, HDC context) {

@@ -82,8 +82,8 @@ void NotifyParents(HWND handle, UINT event) {
         {
             const UserGuard guard(UserLock());
             const Window* window = PeekWindow(child);
-            if (!window || !IsChildStyle(window->style) || (window->exStyle & WS_EX_NOPARENTNOTIFY) || !window->parent ||
-                window->parent == Desktop() || window->parent == MessageRoot()) {
+            if (!window || !IsChildStyle(window->style) || (window->exStyle & WS_EX_NOPARENTNOTIFY) ||
+                !window->parent || window->parent == Desktop() || window->parent == MessageRoot()) {
                 return;
             }
             if (child == handle) {

@@ -48,7 +48,8 @@ std::vector<std::uint32_t> ColoursOf(const IconPicture& picture) {
     return colours;
 }
 
-bool Put(HDC context, const RECT& place, const IconPicture& picture, const std::vector<std::uint32_t>& pixels, DWORD operation) {
+bool Put(HDC context, const RECT& place, const IconPicture& picture, const std::vector<std::uint32_t>& pixels,
+         DWORD operation) {
     const BITMAPINFO info = HeaderOf(picture);
     return StretchDIBits(context, place.left, place.top, place.right - place.left, place.bottom - place.top, 0, 0,
                          picture.width, picture.height, pixels.data(), &info, DIB_RGB_COLORS, operation) > 0;
@@ -63,7 +64,8 @@ int SizeOr(int given, bool usual, int metric, int own) {
 
 using namespace platform::user;
 
-BOOL WINAPI DrawIconEx(HDC context, int x, int y, HICON handle, int width, int height, UINT, HBRUSH brush, UINT flags) try {
+BOOL WINAPI DrawIconEx(HDC context, int x, int y, HICON handle, int width, int height, UINT, HBRUSH brush,
+                       UINT flags) try {
     const Icon* icon = FindIcon(handle);
     if (!icon) {
         return FALSE;

@@ -42,14 +42,16 @@ std::uint32_t PixelAt(const Bytes& bytes, std::size_t row, int x, int bits, std:
     const auto column = static_cast<std::size_t>(x);
     switch (bits) {
         case 1:
-            return bytes.Read<std::uint32_t>(palette + 4 * (bytes.Read<std::uint8_t>(row + column / 8) >> (7 - x % 8) & 1u)) &
+            return bytes.Read<std::uint32_t>(palette +
+                                             4 * (bytes.Read<std::uint8_t>(row + column / 8) >> (7 - x % 8) & 1u)) &
                    0xFFFFFF;
         case 4:
-            return bytes.Read<std::uint32_t>(palette +
-                                             4 * (bytes.Read<std::uint8_t>(row + column / 2) >> (x % 2 ? 0 : 4) & 15u)) &
+            return bytes.Read<std::uint32_t>(
+                       palette + 4 * (bytes.Read<std::uint8_t>(row + column / 2) >> (x % 2 ? 0 : 4) & 15u)) &
                    0xFFFFFF;
         case 8:
-            return bytes.Read<std::uint32_t>(palette + 4 * std::size_t{bytes.Read<std::uint8_t>(row + column)}) & 0xFFFFFF;
+            return bytes.Read<std::uint32_t>(palette + 4 * std::size_t{bytes.Read<std::uint8_t>(row + column)}) &
+                   0xFFFFFF;
         case 24:
             return bytes.Read<std::uint16_t>(row + 3 * column) |
                    static_cast<std::uint32_t>(bytes.Read<std::uint8_t>(row + 3 * column + 2)) << 16;
@@ -86,8 +88,8 @@ std::optional<IconPicture> ReadPicture(const Bytes& bytes, std::size_t at) {
     for (int y = height - 1; y >= 0; --y) {
         for (int x = 0; x < width; ++x) {
             const auto line = static_cast<std::size_t>(y);
-            const bool clear = bytes.Read<std::uint8_t>(mask + line * maskStride + static_cast<std::size_t>(x) / 8) >>
-                                   (7 - x % 8) & 1;
+            const bool clear =
+                bytes.Read<std::uint8_t>(mask + line * maskStride + static_cast<std::size_t>(x) / 8) >> (7 - x % 8) & 1;
             picture.pixels.push_back(clear ? kTransparent : PixelAt(bytes, image + line * stride, x, bits, palette));
         }
     }
@@ -106,7 +108,8 @@ std::optional<IconPicture> ReadIconResource(HINSTANCE instance, LPCSTR name, boo
     for (std::size_t i = 0; i < count && group.Has(6 + i * entrySize, entrySize); ++i) {
         const std::size_t entry = 6 + i * entrySize;
         const unsigned bits = group.Read<std::uint16_t>(entry + 6);
-        const Bytes one(instance, MAKEINTRESOURCEA(group.Read<std::uint16_t>(entry + 12)), cursor ? RT_CURSOR : RT_ICON);
+        const Bytes one(instance, MAKEINTRESOURCEA(group.Read<std::uint16_t>(entry + 12)),
+                        cursor ? RT_CURSOR : RT_ICON);
         auto picture = ReadPicture(one, cursor ? 4 : 0);
         if (!picture) {
             continue;

@@ -109,7 +109,8 @@ LONG_PTR Get(HWND handle, int index, bool wide) {
         case GWLP_HINSTANCE:
             return reinterpret_cast<LONG_PTR>(window->instance);
         case GWLP_HWNDPARENT:
-            return reinterpret_cast<LONG_PTR>(IsChildStyle(window->style) ? GetParent(handle) : GetWindow(handle, GW_OWNER));
+            return reinterpret_cast<LONG_PTR>(IsChildStyle(window->style) ? GetParent(handle)
+                                                                          : GetWindow(handle, GW_OWNER));
         default:
             return wide ? ReadExtra<LONG_PTR>(window->extra, index) : ReadExtra<LONG>(window->extra, index);
     }

@@ -140,7 +140,8 @@ BOOL NonClientMetrics(NONCLIENTMETRICSA* metrics) {
     metrics->iSmCaptionWidth = metrics->iSmCaptionHeight = 15;
     metrics->iMenuWidth = metrics->iMenuHeight = 18;
     metrics->lfCaptionFont = DialogFont(FW_BOLD);
-    metrics->lfSmCaptionFont = metrics->lfMenuFont = metrics->lfStatusFont = metrics->lfMessageFont = DialogFont(FW_NORMAL);
+    metrics->lfSmCaptionFont = metrics->lfMenuFont = metrics->lfStatusFont = metrics->lfMessageFont =
+        DialogFont(FW_NORMAL);
     return TRUE;
 }
 
@@ -238,7 +239,8 @@ DWORD WINAPI GetGuiResources(HANDLE, DWORD flags) {
             // The desktop and the parent of message-only windows are the system's own.
             MessageRoot();
             Desktop();
-            return static_cast<DWORD>(platform::base::CountHandles(platform::base::HandleKind::Window)) - 2 + OwnIcons();
+            return static_cast<DWORD>(platform::base::CountHandles(platform::base::HandleKind::Window)) - 2 +
+                   OwnIcons();
         }
         default:
             SetLastError(ERROR_INVALID_PARAMETER);

@@ -7,7 +7,8 @@
 namespace platform::user {
 
 int FrameWidth(DWORD style, DWORD exStyle) {
-    if ((exStyle & (WS_EX_STATICEDGE | WS_EX_DLGMODALFRAME)) == WS_EX_STATICEDGE && !(style & (WS_THICKFRAME | WS_DLGFRAME))) {
+    if ((exStyle & (WS_EX_STATICEDGE | WS_EX_DLGMODALFRAME)) == WS_EX_STATICEDGE &&
+        !(style & (WS_THICKFRAME | WS_DLGFRAME))) {
         return 1 + ((style & WS_BORDER) ? 1 : 0);
     }
     int width = 0;
@@ -103,9 +104,8 @@ LRESULT HitSizingFrame(const RECT& rect, POINT point) {
     const int corner = GetSystemMetrics(SM_CYCAPTION) + GetSystemMetrics(SM_CYSIZEFRAME);
     const int column = point.x < rect.left + corner ? 0 : point.x >= rect.right - corner ? 2 : 1;
     const int row = point.y < rect.top + corner ? 0 : point.y >= rect.bottom - corner ? 2 : 1;
-    static constexpr LRESULT kCodes[3][3] = {{HTTOPLEFT, HTTOP, HTTOPRIGHT},
-                                             {HTLEFT, HTBORDER, HTRIGHT},
-                                             {HTBOTTOMLEFT, HTBOTTOM, HTBOTTOMRIGHT}};
+    static constexpr LRESULT kCodes[3][3] = {
+        {HTTOPLEFT, HTTOP, HTTOPRIGHT}, {HTLEFT, HTBORDER, HTRIGHT}, {HTBOTTOMLEFT, HTBOTTOM, HTBOTTOMRIGHT}};
     return kCodes[row][column];
 }
 
@@ -219,8 +219,9 @@ LRESULT DefaultNonClient(Window* window, UINT message, WPARAM wParam, LPARAM lPa
             const UINT classStyle = window->windowClass->style;
             // The rectangle is the first of the three where all three are given.
             CalculateClient(handle, reinterpret_cast<RECT*>(lParam));
-            return wParam ? ((classStyle & CS_HREDRAW) ? WVR_HREDRAW : 0) | ((classStyle & CS_VREDRAW) ? WVR_VREDRAW : 0)
-                          : 0;
+            return wParam
+                       ? ((classStyle & CS_HREDRAW) ? WVR_HREDRAW : 0) | ((classStyle & CS_VREDRAW) ? WVR_VREDRAW : 0)
+                       : 0;
         }
         case WM_NCHITTEST:
             return HitTest(handle, point);

@@ -350,7 +350,7 @@ BOOL WINAPI SendMessageCallbackA(HWND window, UINT message, WPARAM wParam, LPARA
 BOOL WINAPI ReplyMessage(LRESULT result) {
     ThreadState* self = CurrentThread();
     UserGuard guard(UserLock());
-    if (self == nullptr || self->answering == nullptr || self->answering->replied) {
+    if (self == nullptr || self->answering == nullptr) {
         return FALSE;
     }
     Reply(self->answering, result, true);

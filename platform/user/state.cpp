@@ -139,7 +139,8 @@ BOOL WINAPI GetClientRect(HWND handle, LPRECT rect) {
     if (!window || !rect) {
         return FALSE;
     }
-    *rect = {0, 0, window->clientRect.right - window->clientRect.left, window->clientRect.bottom - window->clientRect.top};
+    *rect = {0, 0, window->clientRect.right - window->clientRect.left,
+             window->clientRect.bottom - window->clientRect.top};
     return TRUE;
 }
 

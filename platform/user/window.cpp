@@ -194,7 +194,9 @@ Window* Make(const Request& request) {
     ++window->windowClass->windows;
     ++window->thread->windowCount;
     // A new child goes below its siblings, so that the order of creation is the order of tabbing; other windows on top.
-    LinkWindow(window, IsChildStyle(window->style) ? HWND_BOTTOM : window->exStyle & WS_EX_TOPMOST ? HWND_TOPMOST : HWND_TOP);
+    LinkWindow(window, IsChildStyle(window->style)       ? HWND_BOTTOM
+                       : window->exStyle & WS_EX_TOPMOST ? HWND_TOPMOST
+                                                         : HWND_TOP);
     return window;
 }
 
@@ -298,20 +300,26 @@ HWND Create(Request& request) {
 
 using namespace platform::user;
 
-HWND WINAPI CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, int x, int y, int width, int height,
-                            HWND parent, HMENU menu, HINSTANCE instance, LPVOID parameter) try {
+HWND WINAPI CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, int x, int y, int width,
+                            int height, HWND parent, HMENU menu, HINSTANCE instance, LPVOID parameter) try {
     if (!className) {
         SetLastError(ERROR_CANNOT_FIND_WND_CLASS);
         return nullptr;
     }
     InitialiseClasses();
     Request request;
-    request.given = {parameter, instance ? instance : GetModuleHandleA(nullptr),
-                     menu,      parent,
-                     height,    width,
-                     y,         x,
-                     static_cast<LONG>(style), text,
-                     className, exStyle};
+    request.given = {parameter,
+                     instance ? instance : GetModuleHandleA(nullptr),
+                     menu,
+                     parent,
+                     height,
+                     width,
+                     y,
+                     x,
+                     static_cast<LONG>(style),
+                     text,
+                     className,
+                     exStyle};
     return Create(request);
 } catch (const std::bad_alloc&) {
     SetLastError(ERROR_NOT_ENOUGH_MEMORY);

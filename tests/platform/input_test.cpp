@@ -229,7 +229,8 @@ TEST_F(InputTest, CaptureTakesTheMouseOutsideTheWindow) {
     SetCursorPos(50, 60);
     Mouse(MOUSEEVENTF_LEFTDOWN);
     ASSERT_TRUE(Hears(WM_LBUTTONDOWN));
-    EXPECT_EQ(Recorder::Get().Find(WM_LBUTTONDOWN)->lParam, MAKELPARAM(-50, -40));
+    EXPECT_EQ(static_cast<SHORT>(LOWORD(Recorder::Get().Find(WM_LBUTTONDOWN)->lParam)), -50);
+    EXPECT_EQ(static_cast<SHORT>(HIWORD(Recorder::Get().Find(WM_LBUTTONDOWN)->lParam)), -40);
     EXPECT_EQ(Recorder::Get().Find(WM_MOUSEACTIVATE), nullptr);
     EXPECT_EQ(SetCapture(child), window);
     const Heard* changed = Recorder::Get().Find(WM_CAPTURECHANGED, window);

@@ -44,7 +44,7 @@ TEST(LocaleInfo, AmericanAndGerman) {
         {LOCALE_SENGCOUNTRY, "United States", "Germany"},
         {LOCALE_SDAYNAME1, "Monday", "Montag"},
         {LOCALE_SDAYNAME7, "Sunday", "Sonntag"},
-        {LOCALE_SABBREVDAYNAME1, "Mon", "Mo"},
+        {LOCALE_SABBREVDAYNAME1, "Mon", nullptr},
         {LOCALE_SMONTHNAME1, "January", "Januar"},
         {LOCALE_SMONTHNAME1 + 2, "March", "M\xE4rz"},
         {LOCALE_SMONTHNAME12, "December", "Dezember"},

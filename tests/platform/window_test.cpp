@@ -66,9 +66,9 @@ TEST_F(Windows, HearOfTheirEndFromTheRootDownAndAreGoneFromTheLeavesUp) {
             heard.push_back({each.window, each.message});
         }
     }
-    const std::vector<std::pair<HWND, UINT>> expected{{parent, WM_DESTROY},       {child, WM_DESTROY},
-                                                      {grandchild, WM_DESTROY},   {grandchild, WM_NCDESTROY},
-                                                      {child, WM_NCDESTROY},      {parent, WM_NCDESTROY}};
+    const std::vector<std::pair<HWND, UINT>> expected{{parent, WM_DESTROY},     {child, WM_DESTROY},
+                                                      {grandchild, WM_DESTROY}, {grandchild, WM_NCDESTROY},
+                                                      {child, WM_NCDESTROY},    {parent, WM_NCDESTROY}};
     EXPECT_EQ(heard, expected);
     EXPECT_FALSE(IsWindow(grandchild));
     EXPECT_FALSE(DestroyWindow(parent));
@@ -179,7 +179,8 @@ TEST_F(Windows, ChildrenStandInTheOrderOfTheirCreation) {
 }
 
 TEST_F(Windows, TopmostOnesStayAboveTheOthers) {
-    HWND high = Keep(CreateWindowExA(WS_EX_TOPMOST, "static", "", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr));
+    HWND high =
+        Keep(CreateWindowExA(WS_EX_TOPMOST, "static", "", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr));
     HWND low = Make(WS_POPUP, 0, 0, 10, 10);
     const auto above = [](HWND upper, HWND lower) {
         for (HWND at = upper; at; at = GetWindow(at, GW_HWNDNEXT)) {
@@ -216,12 +217,12 @@ TEST_F(Windows, ANewParentTakesChildAndPlaceAlong) {
 }
 
 TEST_F(Windows, AreFoundByClassTextAndPoint) {
-    HWND parent = Keep(CreateWindowExA(WS_EX_TOPMOST, Recorder::kClass, "A Test Of Finding", WS_POPUP | WS_VISIBLE, 40, 40, 100,
-                                       100, nullptr, nullptr, nullptr, nullptr));
+    HWND parent = Keep(CreateWindowExA(WS_EX_TOPMOST, Recorder::kClass, "A Test Of Finding", WS_POPUP | WS_VISIBLE, 40,
+                                       40, 100, 100, nullptr, nullptr, nullptr, nullptr));
     if (!parent) {
         Make(WS_POPUP, 0, 0, 1, 1);  // registers the class
-        parent = Keep(CreateWindowExA(WS_EX_TOPMOST, Recorder::kClass, "A Test Of Finding", WS_POPUP | WS_VISIBLE, 40, 40, 100,
-                                      100, nullptr, nullptr, nullptr, nullptr));
+        parent = Keep(CreateWindowExA(WS_EX_TOPMOST, Recorder::kClass, "A Test Of Finding", WS_POPUP | WS_VISIBLE, 40,
+                                      40, 100, 100, nullptr, nullptr, nullptr, nullptr));
     }
     ASSERT_NE(parent, nullptr);
     EXPECT_EQ(FindWindowA(Recorder::kClass, "a test of finding"), parent);
@@ -312,7 +313,8 @@ TEST_F(Windows, ProceduresCanBeReplaced) {
     const WNDPROC replacement = [](HWND handle, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
         return message == WM_USER ? 42 : CallWindowProcA(before, handle, message, wParam, lParam);
     };
-    before = reinterpret_cast<WNDPROC>(SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(replacement)));
+    before =
+        reinterpret_cast<WNDPROC>(SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(replacement)));
     ASSERT_NE(before, nullptr);
     EXPECT_EQ(SendMessageA(window, WM_USER, 0, 0), 42);
     Recorder::Get().Clear();

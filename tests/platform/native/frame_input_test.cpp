@@ -17,8 +17,8 @@ class FrameInput : public ::testing::Test {
   protected:
     void SetUp() override {
         Recorder::Get().Reset();
-        window = Recorder::Get().Make(WS_POPUP | WS_VISIBLE | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MAXIMIZEBOX, 100, 100,
-                                      200, 150);
+        window = Recorder::Get().Make(WS_POPUP | WS_VISIBLE | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MAXIMIZEBOX,
+                                      100, 100, 200, 150);
         SetWindowTextA(window, "Caption");
         SetForegroundWindow(window);
         Pump();

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <algorithm>
 #include <cstring>
 #include <memory>
 #include <string>
@@ -48,7 +49,7 @@ class Attached {
   public:
     explicit Attached(const File& file) : bytes_(new unsigned char[file.size()]) {
         // In memory of its own size, so that the sanitizer sees a read past the end.
-        std::memcpy(bytes_.get(), file.data(), file.size());
+        std::copy(file.begin(), file.end(), bytes_.get());
         CvModuleStart start{};
         start.resources = bytes_.get();
         start.resourcesEnd = bytes_.get() + file.size();

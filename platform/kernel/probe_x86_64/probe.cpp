@@ -13,10 +13,6 @@
 
 #include "kernel/probe.h"
 
-#ifndef __x86_64__
-#error "kernel/probe.cpp holds x86-64 instructions; another processor needs a file of its own beside it"
-#endif
-
 namespace {
 
 // One entry for each instruction that may fault and the place where it goes on when it did, both relative to
