@@ -20,7 +20,7 @@ struct Item {
     const char* value;
 };
 
-// American English is what most sessions without a locale get: its plain answers need no locale data to be loaded.
+// American English is what users without a locale get: its plain answers need no locale data to be loaded.
 constexpr Item kAmerican[] = {
     {LOCALE_SLIST, ","},
     {LOCALE_IMEASURE, "1"},

@@ -14,6 +14,28 @@ LRESULT CALLBACK Other(HWND window, UINT message, WPARAM wParam, LPARAM lParam) 
     return message == WM_USER ? 2 : DefWindowProcA(window, message, wParam, lParam);
 }
 
+WNDPROC baseProcedure = nullptr;
+int heard = 0;
+
+LRESULT CALLBACK CountAndPassOn(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    ++heard;
+    return CallWindowProcA(baseProcedure, window, message, wParam, lParam);
+}
+
+struct TestProperties {
+    HWND window;
+    std::uintptr_t sum;
+};
+
+BOOL CALLBACK TakeTestProperty(HWND, LPSTR name, HANDLE data, ULONG_PTR parameter) {
+    auto* all = reinterpret_cast<TestProperties*>(parameter);
+    if (!IS_INTRESOURCE(name) && std::string(name).rfind("Test_", 0) == 0) {  // the system keeps properties too
+        all->sum += reinterpret_cast<std::uintptr_t>(data);
+        RemovePropA(all->window, name);
+    }
+    return TRUE;
+}
+
 // Modules of one's own are hard to come by in a test; classes only compare these values.
 HINSTANCE const kProgram = GetModuleHandleA(nullptr);
 
@@ -89,14 +111,9 @@ TEST_F(Classes, ABaseClassCanBeBuiltUpon) {
     WNDCLASSA base{};
     ASSERT_TRUE(GetClassInfoA(nullptr, "button", &base));
     ASSERT_NE(base.lpfnWndProc, nullptr);
-    static WNDPROC baseProcedure;
-    static int heard;
     baseProcedure = base.lpfnWndProc;
     heard = 0;
-    base.lpfnWndProc = [](HWND window, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
-        ++heard;
-        return CallWindowProcA(baseProcedure, window, message, wParam, lParam);
-    };
+    base.lpfnWndProc = CountAndPassOn;
     const int slot = base.cbWndExtra;
     base.cbWndExtra += static_cast<int>(sizeof(LONG_PTR));
     base.style |= CS_GLOBALCLASS;
@@ -197,22 +214,8 @@ TEST_F(Properties, AnAtomIsItsName) {
 TEST_F(Properties, CanBeListedAndRemovedMeanwhile) {
     SetPropA(window, "Test_A", Value(1));
     SetPropA(window, "Test_B", Value(2));
-    struct List {
-        HWND window;
-        std::uintptr_t sum;
-    } list{window, 0};
-    EnumPropsExA(
-        window,
-        [](HWND, LPSTR name, HANDLE data, ULONG_PTR parameter) -> BOOL {
-            auto* all = reinterpret_cast<List*>(parameter);
-            if (IS_INTRESOURCE(name) || std::string(name).rfind("Test_", 0) != 0) {
-                return TRUE;  // the system keeps properties too
-            }
-            all->sum += reinterpret_cast<std::uintptr_t>(data);
-            RemovePropA(all->window, name);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&list));
+    TestProperties list{window, 0};
+    EnumPropsExA(window, TakeTestProperty, reinterpret_cast<LPARAM>(&list));
     EXPECT_EQ(list.sum, 3U);
     EXPECT_EQ(GetPropA(window, "Test_A"), nullptr);
     EXPECT_FALSE(SetPropA(nullptr, "Test_A", Value(1)));

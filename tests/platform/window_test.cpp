@@ -11,6 +11,17 @@
 
 namespace {
 
+BOOL CALLBACK AddToList(HWND window, LPARAM list) {
+    reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+    return TRUE;
+}
+
+WNDPROC before = nullptr;
+
+LRESULT CALLBACK AnswerUserMessage(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
+    return message == WM_USER ? 42 : CallWindowProcA(before, handle, message, wParam, lParam);
+}
+
 using tests::Heard;
 using tests::Recorder;
 
@@ -168,13 +179,7 @@ TEST_F(Windows, ChildrenStandInTheOrderOfTheirCreation) {
     EXPECT_FALSE(IsChild(first, inner));
     EXPECT_FALSE(IsChild(parent, parent));
     std::vector<HWND> listed;
-    EnumChildWindows(
-        parent,
-        [](HWND window, LPARAM list) -> BOOL {
-            reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&listed));
+    EnumChildWindows(parent, AddToList, reinterpret_cast<LPARAM>(&listed));
     EXPECT_EQ(listed, (std::vector<HWND>{third, first, second, inner}));
 }
 
@@ -309,12 +314,8 @@ TEST_F(Windows, LongsAreReadAndWritten) {
 
 TEST_F(Windows, ProceduresCanBeReplaced) {
     HWND window = Make(WS_POPUP, 0, 0, 10, 10);
-    static WNDPROC before;
-    const WNDPROC replacement = [](HWND handle, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
-        return message == WM_USER ? 42 : CallWindowProcA(before, handle, message, wParam, lParam);
-    };
-    before =
-        reinterpret_cast<WNDPROC>(SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(replacement)));
+    before = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(AnswerUserMessage)));
     ASSERT_NE(before, nullptr);
     EXPECT_EQ(SendMessageA(window, WM_USER, 0, 0), 42);
     Recorder::Get().Clear();

@@ -25,7 +25,7 @@ extern "C" const Fixup __start_cvprobe[] __attribute__((visibility("hidden")));
 extern "C" const Fixup __stop_cvprobe[] __attribute__((visibility("hidden")));
 
 #define CVPROBE_FIXUP(bad)                   \
-    ".pushsection cvprobe,\"a\",@progbits\n" \
+    ".pushsection cvprobe,\"a\",@progbits\n.balign 4\n" \
     ".long 1b - .\n"                         \
     ".long %l[" #bad                         \
     "] - .\n"                                \

@@ -60,6 +60,13 @@ TEST_F(MessagesNativeTest, ActiveWindowMayRefuseToGiveWay) {
     EXPECT_EQ(GetActiveWindow(), other);
 }
 
+TEST_F(MessagesNativeTest, ActivationRaisesTheWindow) {
+    other = Recorder::Get().Make(WS_POPUP | WS_VISIBLE, 450, 100, 100, 100);
+    ASSERT_EQ(GetWindow(other, GW_HWNDNEXT), window);
+    SetActiveWindow(window);
+    EXPECT_EQ(GetWindow(window, GW_HWNDNEXT), other);
+}
+
 TEST_F(MessagesNativeTest, CaretGoesWithItsWindow) {
     HWND child = Recorder::Get().Make(WS_CHILD | WS_VISIBLE, 0, 0, 20, 20, window);
     ASSERT_TRUE(CreateCaret(child, nullptr, 1, 10));

@@ -14,7 +14,8 @@ namespace {
 
 TEST(MemoryProbe, FindsUnmappedAndReadOnlyPagesWithinARange) {
     const auto page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
-    auto* area = static_cast<char*>(mmap(nullptr, page * 4, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
+    auto* area =
+        static_cast<char*>(mmap(nullptr, page * 4, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
     ASSERT_NE(area, MAP_FAILED);
     mprotect(area + page, page, PROT_READ);
     munmap(area + page * 3, page);
