@@ -1,4 +1,5 @@
-// Drawing icons: what the mask lets through stays, the rest is put there.
+// Drawing icons: the ground is kept where the mask lets it through, then the picture is laid over it by exclusive or. Where
+// the mask is clear the picture's black leaves the ground as it is; any other colour there inverts it.
 #include <new>
 
 #include "base/handle.h"
@@ -35,7 +36,7 @@ std::vector<std::uint32_t> MaskOf(const IconPicture& picture) {
     std::vector<std::uint32_t> mask;
     mask.reserve(picture.pixels.size());
     for (const std::uint32_t pixel : picture.pixels) {
-        mask.push_back(pixel == kTransparent ? 0xFFFFFF : 0);
+        mask.push_back(pixel & kTransparent ? 0xFFFFFF : 0);
     }
     return mask;
 }
@@ -85,7 +86,7 @@ BOOL WINAPI DrawIconEx(HDC context, int x, int y, HICON handle, int width, int h
         done = Put(context, place, picture, MaskOf(picture), flags & DI_IMAGE ? SRCAND : SRCCOPY);
     }
     if (flags & DI_IMAGE) {
-        done = Put(context, place, picture, ColoursOf(picture), flags & DI_MASK ? SRCPAINT : SRCCOPY) && done;
+        done = Put(context, place, picture, ColoursOf(picture), flags & DI_MASK ? SRCINVERT : SRCCOPY) && done;
     }
     return done;
 } catch (const std::bad_alloc&) {

@@ -90,7 +90,8 @@ std::optional<IconPicture> ReadPicture(const Bytes& bytes, std::size_t at) {
             const auto line = static_cast<std::size_t>(y);
             const bool clear =
                 bytes.Read<std::uint8_t>(mask + line * maskStride + static_cast<std::size_t>(x) / 8) >> (7 - x % 8) & 1;
-            picture.pixels.push_back(clear ? kTransparent : PixelAt(bytes, image + line * stride, x, bits, palette));
+            const std::uint32_t pixel = PixelAt(bytes, image + line * stride, x, bits, palette) & 0xFFFFFF;
+            picture.pixels.push_back(clear ? kTransparent | pixel : pixel);
         }
     }
     return picture;

@@ -12,7 +12,7 @@ namespace platform::user {
 
 struct Window;
 
-/// A pixel that lets what lies below show through; others are 0x00RRGGBB.
+/// The bit of a pixel where the mask is clear; the rest of it is 0x00RRGGBB, which is laid over the ground by exclusive or.
 constexpr std::uint32_t kTransparent = 0xFF000000;
 
 struct IconPicture {

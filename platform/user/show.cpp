@@ -204,8 +204,9 @@ BOOL WINAPI ShowWindow(HWND handle, int show) {
             plan.keepState = false;
         }
         const DWORD state = window->style & (WS_MINIMIZE | WS_MAXIMIZE);
-        if (wasVisible == plan.show && PendingState(window) == 0 && (plan.keepState || state == plan.state) &&
-            (!plan.activate || child || active)) {
+        // Where only showing was asked for, a window that is shown already is not even activated.
+        if (wasVisible == plan.show && PendingState(window) == 0 &&
+            (plan.keepState || (state == plan.state && (!plan.activate || child || active)))) {
             return wasVisible;
         }
     }

@@ -41,12 +41,14 @@ struct Painted {
 class PaintedWindows : public ::testing::Test {
   protected:
     static constexpr const char* kClass = "PaintedWindow";
-    static constexpr DWORD kPlain = WS_POPUP | WS_VISIBLE;
+    // Most tests use children of the ground: hosts differ in whether top-level windows share one picture.
+    static constexpr DWORD kPlain = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS;
+    static constexpr DWORD kTop = WS_POPUP | WS_VISIBLE;
 
     void SetUp() override {
         Register(kClass, 0);
         // Something of one colour to stand on, whatever else is on the screen.
-        ground = Make(kPlain, 0, 0, 400, 300, nullptr, RGB(0, 0, 128), WS_EX_TOPMOST);
+        ground = Make(kTop | WS_CLIPCHILDREN, 0, 0, 400, 300, nullptr, RGB(0, 0, 128), WS_EX_TOPMOST);
         Settle();
     }
 
@@ -104,13 +106,14 @@ class PaintedWindows : public ::testing::Test {
         }
     }
 
-    /// The colour of the screen at a point of a window's client area.
+    /// The colour that is seen at a point of a window's client area.
     static COLORREF PixelAt(HWND window, int x, int y) {
+        HWND top = GetAncestor(window, GA_ROOT);
         POINT point{x, y};
-        ClientToScreen(window, &point);
-        HDC screen = GetDC(nullptr);
-        const COLORREF colour = GetPixel(screen, point.x, point.y);
-        ReleaseDC(nullptr, screen);
+        MapWindowPoints(window, top, &point, 1);
+        HDC context = GetDCEx(top, nullptr, DCX_CACHE);
+        const COLORREF colour = GetPixel(context, point.x, point.y);
+        ReleaseDC(top, context);
         return colour;
     }
 

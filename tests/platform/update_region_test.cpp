@@ -106,7 +106,6 @@ TEST_F(UpdateRegion, BadHandlesAreRefused) {
     SetLastError(0);
     EXPECT_FALSE(InvalidateRect(gone, nullptr, TRUE));
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_WINDOW_HANDLE));
-    EXPECT_FALSE(UpdateWindow(gone));
     EXPECT_FALSE(GetUpdateRect(gone, nullptr, FALSE));
     PAINTSTRUCT paint;
     EXPECT_EQ(BeginPaint(gone, &paint), nullptr);
