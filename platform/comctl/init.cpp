@@ -1,0 +1,7 @@
+#include <commctrl.h>
+
+#include "comctl/treeview.h"
+
+void WINAPI InitCommonControls(void) {
+    platform::comctl::RegisterTreeView();
+}
