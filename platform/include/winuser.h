@@ -12,3 +12,4 @@
 #include "winuser/dialogs.h"
 #include "winuser/controls.h"
 #include "winuser/station.h"
+#include "winuser/scrollbar.h"
