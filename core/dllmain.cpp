@@ -3,6 +3,7 @@
 
 #include "cvutil32/datectrl.h"
 #include "cvutil32/scroll.h"
+#include "cvutil32/treelist.h"
 #include "cvutil32/util.h"
 
 namespace {
@@ -13,6 +14,7 @@ namespace {
 constexpr registration::Function kRegistrations[] = {
     SCROLL_RegisterClass,
     DATECTRL_RegisterClass,
+    TREELIST_RegisterClass,
 };
 
 BOOL Attach(HINSTANCE instance) {

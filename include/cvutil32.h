@@ -10,6 +10,7 @@
 #include "cvutil32/datectrl.h"
 #include "cvutil32/list.h"
 #include "cvutil32/scroll.h"
+#include "cvutil32/treelist.h"
 #include "cvutil32/util.h"
 
 #ifdef __cplusplus

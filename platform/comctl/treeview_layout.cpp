@@ -13,7 +13,7 @@ constexpr int kLine = 20;    ///< pixels that the horizontal arrows scroll
 class MeasuringContext {
   public:
     explicit MeasuringContext(const TreeView& tree) : window_(tree.window), context_(GetDC(window_)) {
-        former_ = SelectObject(context_, tree.font ? tree.font : GetStockObject(SYSTEM_FONT));
+        former_ = SelectObject(context_, tree.font ? tree.font : GetStockObject(DEFAULT_GUI_FONT));
     }
     ~MeasuringContext() {
         SelectObject(context_, former_);

@@ -138,7 +138,7 @@ void PaintRow(const TreePointer& tree, const Pencil& pencil, HTREEITEM handle) {
 void Paint(const TreePointer& tree, HDC context, const RECT& area) {
     RECT client{};
     GetClientRect(tree->window, &client);
-    const HGDIOBJ font = SelectObject(context, tree->font ? tree->font : GetStockObject(SYSTEM_FONT));
+    const HGDIOBJ font = SelectObject(context, tree->font ? tree->font : GetStockObject(DEFAULT_GUI_FONT));
     const Pencil pencil{context, HasStyle(*tree, TVS_HASLINES) ? MakeDots() : nullptr};
     int row = tree->top + std::max<int>(area.top, 0) / tree->rowHeight;
     int y = (row - tree->top) * tree->rowHeight;
