@@ -12,3 +12,4 @@
 #include "winuser/controls.h"
 #include "winuser/station.h"
 #include "winuser/scrollbar.h"
+#include "winuser/listbox.h"
