@@ -13,3 +13,4 @@
 #include "winuser/controls.h"
 #include "winuser/station.h"
 #include "winuser/scrollbar.h"
+#include "winuser/listbox.h"
