@@ -1,22 +1,13 @@
 // Enumerators: what a folder held when it was asked.
 #include <algorithm>
-#include <cerrno>
 #include <memory>
 
-#include "kernel/hostpath.h"
-#include "shell/directory.h"
 #include "shell/folder.h"
+#include "shell/listing.h"
 #include "shell/live.h"
 
 namespace platform::shell {
 namespace {
-
-struct Listed {
-    ItemKind kind;
-    bool hidden;
-    std::string name;
-};
-using Listing = std::vector<Listed>;
 
 class Enumerator final : public Counted<IEnumIDList> {
   public:
@@ -55,7 +46,7 @@ class Enumerator final : public Counted<IEnumIDList> {
         std::vector<OwnedList> made;
         while (made.size() < count && at_ + made.size() < items_->size()) {
             const Listed& item = (*items_)[at_ + made.size()];
-            made.push_back(MakeItem({item.kind, item.hidden, item.name}));
+            made.push_back(MakeItem(item.AsItem()));
         }
         for (std::size_t i = 0; i < made.size(); ++i) {
             items[i] = made[i].release();
@@ -71,62 +62,11 @@ class Enumerator final : public Counted<IEnumIDList> {
     std::size_t at_;
 };
 
-HRESULT ResultOf(int error) {
-    switch (error) {
-        case 0:
-            return S_OK;
-        case EACCES:
-        case EPERM:
-            return HRESULT_FROM_WIN32(ERROR_ACCESS_DENIED);
-        case ENOMEM:
-            return E_OUTOFMEMORY;
-        default:
-            return HRESULT_FROM_WIN32(ERROR_PATH_NOT_FOUND);
-    }
-}
-
-HRESULT AddDirectory(const Place& place, SHCONTFLAGS flags, Listing& listing) {
-    const Wanted wanted{(flags & SHCONTF_FOLDERS) != 0, (flags & SHCONTF_NONFOLDERS) != 0,
-                        (flags & SHCONTF_INCLUDEHIDDEN) != 0};
-    std::vector<Entry> entries;
-    if (const int error = ReadDirectory(HostDirectory(place), wanted, entries)) {
-        return ResultOf(error);
-    }
-    listing.reserve(listing.size() + entries.size());
-    for (Entry& entry : entries) {
-        listing.push_back({entry.folder ? ItemKind::Folder : ItemKind::File, entry.hidden, std::move(entry.name)});
-    }
-    return S_OK;
-}
-
-HRESULT List(const Place& place, SHCONTFLAGS flags, Listing& listing) {
-    switch (place.kind) {
-        case PlaceKind::Desktop:
-            if (flags & SHCONTF_FOLDERS) {
-                listing.push_back({ItemKind::Computer, false, {}});
-            }
-            // The desktop is there with or without files of its own.
-            AddDirectory(place, flags, listing);
-            return S_OK;
-        case PlaceKind::Computer:
-            for (const char letter : flags & SHCONTF_FOLDERS ? Drives() : std::vector<char>()) {
-                listing.push_back({ItemKind::Drive, false, std::string(1, letter)});
-            }
-            return S_OK;
-        case PlaceKind::Drive:
-        case PlaceKind::Folder:
-            return AddDirectory(place, flags, listing);
-        case PlaceKind::File:
-            break;
-    }
-    return E_FAIL;
-}
-
 }  // namespace
 
 IEnumIDList* MakeEnumerator(const Place& place, SHCONTFLAGS flags, HRESULT& result) {
     auto listing = std::make_shared<Listing>();
-    result = List(place, flags, *listing);
+    result = ListItems(place, flags, *listing);
     return FAILED(result) ? nullptr : new Enumerator(std::move(listing), 0);
 }
 

@@ -140,6 +140,24 @@ constexpr Drawing kDrawings[kCount] = {
         "..kkkkkkkkkkkk..",
         "................",
     },
+    {
+        "................",
+        "................",
+        "..ooooo.........",
+        ".oyyyyyo........",
+        ".oyyyyyyooooooo.",
+        ".owwwwwwwwwwwwok",
+        ".owyyyykyyyyyyok",
+        ".owyyykkkyyyyyok",
+        ".owyykkkkkyyyyok",
+        ".owyyyykyyyyyyok",
+        ".owyyyykyyyyyyok",
+        ".owyyyykkkkkkyok",
+        ".oyyyyyyyyyyyyok",
+        ".ooooooooooooook",
+        "..kkkkkkkkkkkkkk",
+        "................",
+    },
 };
 
 std::uint32_t ColourOf(char letter) {

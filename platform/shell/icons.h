@@ -10,7 +10,7 @@
 
 namespace platform::shell {
 
-enum class Picture { File, Folder, OpenFolder, HardDisk, Removable, Computer, Desktop, Count };
+enum class Picture { File, Folder, OpenFolder, HardDisk, Removable, Computer, Desktop, FolderUp, Count };
 
 /// @returns the picture of a place.
 Picture PictureOf(const Place& place, bool open);
