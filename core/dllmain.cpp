@@ -2,6 +2,7 @@
 #include "core/registration.h"
 
 #include "cvutil32/animate.h"
+#include "cvutil32/browse.h"
 #include "cvutil32/buddyfr.h"
 #include "cvutil32/datectrl.h"
 #include "cvutil32/grbutton.h"
@@ -18,6 +19,7 @@ constexpr registration::Function kRegistrations[] = {
     GRBUTTON_RegisterClass,  // of "button"
     BUDDYFR_RegisterClass,   // own
     ANIMATE_RegisterClass,   // own
+    BROWSE_RegisterClass,    // of the graphic button
     SCROLL_RegisterClass,    // own
     DATECTRL_RegisterClass,  // own
     TREELIST_RegisterClass,  // own

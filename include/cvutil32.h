@@ -8,6 +8,7 @@
 #include "cvutil32/cvapi.h"
 
 #include "cvutil32/animate.h"
+#include "cvutil32/browse.h"
 #include "cvutil32/buddyfr.h"
 #include "cvutil32/cklist.h"
 #include "cvutil32/datectrl.h"
