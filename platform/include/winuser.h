@@ -10,4 +10,6 @@
 #include "winuser/painting.h"
 #include "winuser/dialogs.h"
 #include "winuser/controls.h"
+#include "winuser/edit.h"
+#include "winuser/clipboard.h"
 #include "winuser/station.h"
