@@ -17,3 +17,4 @@
 #include "winuser/scrollbar.h"
 #include "winuser/listbox.h"
 #include "winuser/help.h"
+#include "winuser/combobox.h"
