@@ -49,6 +49,9 @@ class UtilHelpPopup : public ::testing::Test {
 };
 
 TEST_F(UtilHelpPopup, ATopicStaysUntilTheNextClickOrKey) {
+    // The first popup makes a brush that stays.
+    EXPECT_TRUE(WinHelpA(window_, file_.c_str(), HELP_CONTEXT, 1002));
+    WinHelpA(nullptr, nullptr, HELP_QUIT, 0);
     LeakCheck const leaks;
     HWND const control = Add(window_, "button", 7);
     EXPECT_TRUE(UTIL_WinHelp(control, file_.c_str(), HELP_WM_HELP, data_));
