@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "comdlg/filedialog.h"
+#include "kernel/wildcards.h"
 
 namespace platform::comdlg {
 namespace {
@@ -152,7 +153,7 @@ void Accept(FileDialog& dialog) {
     if (names.empty()) {
         return;
     }
-    if (names.size() == 1 && HasWildcards(names.front())) {
+    if (names.size() == 1 && kernel::HasWildcards(names.front())) {
         dialog.patterns = names.front();
         Refresh(dialog);
         SendMessageA(dialog.Control(edt1), EM_SETSEL, 0, -1);

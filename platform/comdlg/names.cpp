@@ -4,6 +4,8 @@
 #include <cctype>
 #include <cstring>
 
+#include "kernel/wildcards.h"
+
 namespace platform::comdlg {
 namespace {
 
@@ -12,28 +14,10 @@ char Folded(char character) {
         reinterpret_cast<ULONG_PTR>(CharUpperA(reinterpret_cast<LPSTR>(ULONG_PTR{static_cast<BYTE>(character)}))));
 }
 
-bool MatchesOne(std::string_view name, std::string_view pattern) {
-    if (pattern == "*.*") {
-        return true;
-    }
-    // Where to go on when a character does not fit: the last star takes one more.
-    std::size_t at = 0, to = 0, star = pattern.npos, taken = 0;
-    while (at < name.size()) {
-        if (to < pattern.size() && (pattern[to] == '?' || Folded(pattern[to]) == Folded(name[at])) &&
-            pattern[to] != '*') {
-            ++at;
-            ++to;
-        } else if (to < pattern.size() && pattern[to] == '*') {
-            star = to++;
-            taken = at;
-        } else if (star != pattern.npos) {
-            to = star + 1;
-            at = ++taken;
-        } else {
-            return false;
-        }
-    }
-    return std::all_of(pattern.begin() + static_cast<std::ptrdiff_t>(to), pattern.end(), [](char c) { return c == '*'; });
+std::string Upper(std::string_view text) {
+    std::string capitals(text);
+    CharUpperBuffA(capitals.data(), static_cast<DWORD>(capitals.size()));
+    return capitals;
 }
 
 std::string_view Trimmed(std::string_view text) {
@@ -95,10 +79,11 @@ std::vector<Filter> ReadFilters(const char* pairs) {
 }
 
 bool Matches(std::string_view name, std::string_view patterns) {
+    const std::string capitals = Upper(name);
     while (!patterns.empty()) {
         const std::size_t end = std::min(patterns.find(';'), patterns.size());
         const std::string_view pattern = Trimmed(patterns.substr(0, end));
-        if (!pattern.empty() && MatchesOne(name, pattern)) {
+        if (!pattern.empty() && kernel::MatchesWildcards(Upper(pattern), capitals)) {
             return true;
         }
         patterns.remove_prefix(std::min(end + 1, patterns.size()));
@@ -106,30 +91,27 @@ bool Matches(std::string_view name, std::string_view patterns) {
     return false;
 }
 
-bool HasWildcards(std::string_view text) {
-    return text.find_first_of("*?") != text.npos;
-}
-
 std::vector<std::string> SplitNames(std::string_view text) {
-    std::vector<std::string> names;
     text = Trimmed(text);
     if (text.find('"') == text.npos) {
-        if (!text.empty()) {
-            names.emplace_back(text);
-        }
-        return names;
+        return text.empty() ? std::vector<std::string>() : std::vector<std::string>{std::string(text)};
     }
-    while (!text.empty()) {
-        const std::size_t begin = text.find('"');
-        if (begin == text.npos) {
-            break;
+    std::vector<std::string> names;
+    std::string name;
+    bool quoted = false;
+    for (const char character : std::string(text) + ' ') {
+        if (character == '"') {
+            quoted = !quoted;
+        } else if (character != ' ' || quoted) {
+            name += character;
+        } else if (!name.empty()) {
+            names.push_back(std::move(name));
+            name.clear();
         }
-        text.remove_prefix(begin + 1);
-        const std::size_t end = std::min(text.find('"'), text.size());
-        if (const std::string_view name = Trimmed(text.substr(0, end)); !name.empty()) {
-            names.emplace_back(name);
-        }
-        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    // The last quote may be missing.
+    if (const std::string_view last = Trimmed(name); !last.empty()) {
+        names.emplace_back(last);
     }
     return names;
 }

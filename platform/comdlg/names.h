@@ -21,13 +21,11 @@ struct Filter {
 /// Reads pairs of texts up to an empty one. Null gives none.
 std::vector<Filter> ReadFilters(const char* pairs);
 
-/// @returns whether a name fits one of the patterns ("*.txt;*.c"); '*' stands for any text, '?' for any character, "*.*"
-/// for every name. Case does not matter.
+/// @returns whether a name fits one of the patterns ("*.txt;*.c"). Case does not matter.
 bool Matches(std::string_view name, std::string_view patterns);
 
-bool HasWildcards(std::string_view text);
-
-/// Reads names as people type them: one, or several in quotes. Blanks around them do not count.
+/// Reads names as people type them: one, or several in quotes and separated by blanks. Quoted and plain text that touch
+/// are one name ("my file".txt).
 std::vector<std::string> SplitNames(std::string_view text);
 
 /// Writes names as SplitNames reads them.

@@ -1,14 +1,7 @@
 // The drives of the computer: C in the state folder, Z the host, and others where the state folder holds them.
-#include <windows.h>
-
-#include <dirent.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
-#include <algorithm>
-
-#include "base/state.h"
-#include "kernel/hostpath.h"
+#include "kernel/hostfile.h"
 #include "shell/place.h"
 
 namespace platform::shell {
@@ -20,13 +13,10 @@ bool IsRemovable(char letter) {
 std::vector<char> Drives() {
     std::vector<char> drives;
     for (char letter = 'A'; letter <= 'Z'; ++letter) {
+        std::string folder;
         struct stat facts {};
-        std::string root = kernel::HostPath(std::string(1, letter) + ":\\");
-        while (root.size() > 1 && root.back() == '/') {
-            root.pop_back();
-        }
         // A link that leads nowhere is a drive without a medium.
-        if (letter == 'C' || letter == 'Z' || lstat(root.c_str(), &facts) == 0) {
+        if (kernel::DriveFolder(letter, &folder) || lstat(folder.c_str(), &facts) == 0) {
             drives.push_back(letter);
         }
     }
