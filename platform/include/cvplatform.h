@@ -26,5 +26,6 @@ WINBASEAPI size_t CvPlatformCount(CvPlatformKind kind);
 WINBASEAPI void CvPlatformFailAllocation(unsigned count);
 
 /// Makes one of the following calls of the shell's namespace fail: a flat call, a method of an interface, or an allocation
-/// of the shell's allocator. Counted as in CvPlatformFailAllocation.
-WINBASEAPI void CvPlatformFailShell(unsigned count);
+/// of the shell's allocator. Counted as in CvPlatformFailAllocation. @returns what was left of the order before; 0 when it
+/// had been carried out.
+WINBASEAPI unsigned CvPlatformFailShell(unsigned count);

@@ -31,6 +31,6 @@ void CountBlock(int change) {
 
 }  // namespace platform::shell
 
-void CvPlatformFailShell(unsigned count) {
-    platform::shell::g_failAfter = count;
+unsigned CvPlatformFailShell(unsigned count) {
+    return platform::shell::g_failAfter.exchange(count);
 }
