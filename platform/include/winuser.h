@@ -11,3 +11,4 @@
 #include "winuser/dialogs.h"
 #include "winuser/controls.h"
 #include "winuser/station.h"
+#include "winuser/scrollbar.h"
