@@ -12,10 +12,11 @@
 
 namespace platform::user {
 
-/// Registers "#32770", "button" and "static"; InitialiseClasses calls it.
+/// Registers "#32770", "button", "edit" and "static"; InitialiseClasses calls it.
 void RegisterDialogClasses();
 
 LRESULT CALLBACK ButtonProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+LRESULT CALLBACK EditProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT CALLBACK StaticProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT CALLBACK ScrollBarProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
