@@ -1,4 +1,5 @@
-# cvutil32_resources(<target> <script.rc>): compiles a resource script into the module <target>.
+# cvutil32_resources(<target> <script.rc> [pattern...]): compiles a resource script into the module <target>, anew when a file
+# of these patterns changes.
 #
 # On Windows the linker does it. Elsewhere windres compiles the same script to a .res file, which is placed in the module's
 # read-only data together with a small start-up object that announces the module to the platform layer (and calls its
@@ -22,15 +23,17 @@ endfunction()
 
 function(cvutil32_resources target script)
     get_filename_component(script ${script} ABSOLUTE)
+    get_filename_component(folder ${script} DIRECTORY)
+    file(GLOB parts CONFIGURE_DEPENDS ${folder}/*.h ${folder}/*.bmp ${folder}/*.ico ${folder}/*/*.bmp ${folder}/*/*.ico
+         ${ARGN})
     if(WIN32)
         target_sources(${target} PRIVATE ${script})
         # The target's own include paths serve its resource script too (windres takes no generator expressions).
         set_property(SOURCE ${script} APPEND PROPERTY INCLUDE_DIRECTORIES ${CVUTIL32_ROOT}/include ${CVUTIL32_ROOT})
+        set_property(SOURCE ${script} APPEND PROPERTY OBJECT_DEPENDS ${parts})
         return()
     endif()
     set(compiled ${CMAKE_CURRENT_BINARY_DIR}/${target}.res)
-    get_filename_component(folder ${script} DIRECTORY)
-    file(GLOB parts CONFIGURE_DEPENDS ${folder}/*.h ${folder}/*.bmp ${folder}/*.ico ${folder}/*/*.bmp ${folder}/*/*.ico)
     add_custom_command(
         OUTPUT ${compiled}
         COMMAND ${CVUTIL32_WINDRES} -I ${CVUTIL32_ROOT}/platform/include -I ${CVUTIL32_ROOT}/include -I ${CVUTIL32_ROOT}
