@@ -1,4 +1,5 @@
-# cvutil32_resources(<target> <script.rc>): compiles a resource script into the module <target>.
+# cvutil32_resources(<target> <script.rc> [pattern...]): compiles a resource script into the module <target>, anew when a file
+# of these patterns changes.
 #
 # On Windows the linker does it. Elsewhere windres compiles the same script to a .res file, which is placed in the module's
 # read-only data together with a small start-up object that announces the module to the platform layer (and calls its
@@ -27,16 +28,17 @@ function(cvutil32_resources target script)
     get_filename_component(folder ${script} DIRECTORY)
     get_property(includes GLOBAL PROPERTY CVUTIL32_SCRIPT_FOLDERS)
     list(APPEND includes ${folder})
+    file(GLOB parts CONFIGURE_DEPENDS ${folder}/*.h ${folder}/*.bmp ${folder}/*.ico ${folder}/*/*.rc ${folder}/*/*.h
+         ${folder}/*/*.bmp ${folder}/*/*.ico ${ARGN})
     if(WIN32)
         target_sources(${target} PRIVATE ${script})
         # Windres takes no generator expressions, so that the target's own include paths do not serve its script.
         set_property(SOURCE ${script} APPEND PROPERTY INCLUDE_DIRECTORIES ${includes})
+        set_property(SOURCE ${script} APPEND PROPERTY OBJECT_DEPENDS ${parts})
         return()
     endif()
     list(TRANSFORM includes PREPEND -I)
     set(compiled ${CMAKE_CURRENT_BINARY_DIR}/${target}.res)
-    file(GLOB parts CONFIGURE_DEPENDS ${folder}/*.h ${folder}/*.bmp ${folder}/*.ico ${folder}/*/*.rc ${folder}/*/*.h
-         ${folder}/*/*.bmp ${folder}/*/*.ico)
     add_custom_command(
         OUTPUT ${compiled}
         COMMAND ${CVUTIL32_WINDRES} ${includes} -O res -i ${script} -o ${compiled}

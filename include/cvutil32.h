@@ -9,6 +9,7 @@
 
 #include "cvutil32/datectrl.h"
 #include "cvutil32/list.h"
+#include "cvutil32/msgbox.h"
 #include "cvutil32/scroll.h"
 #include "cvutil32/util.h"
 
