@@ -14,3 +14,4 @@
 #include "winuser/clipboard.h"
 #include "winuser/station.h"
 #include "winuser/scrollbar.h"
+#include "winuser/listbox.h"

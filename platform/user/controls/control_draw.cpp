@@ -78,6 +78,8 @@ void RegisterDialogClasses() {
     RegisterSystemClass("button", ButtonProcedure, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 0, IDC_ARROW, nullptr);
     RegisterSystemClass("edit", EditProcedure, CS_DBLCLKS, 0, IDC_IBEAM, nullptr);
     RegisterSystemClass("static", StaticProcedure, CS_DBLCLKS, 0, IDC_ARROW, nullptr);
+    RegisterSystemClass("listbox", ListBoxProcedure, CS_DBLCLKS, 0, IDC_ARROW, nullptr);
+    RegisterSystemClass("ComboLBox", ListBoxProcedure, CS_DBLCLKS | CS_SAVEBITS, 0, IDC_ARROW, nullptr);
     RegisterSystemClass("scrollbar", ScrollBarProcedure, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 0, IDC_ARROW, nullptr);
 }
 

@@ -63,9 +63,9 @@ BarLayout LayOutBar(const RECT& whole, bool vertical, const BarState& state) {
         return layout;
     }
     const std::int64_t range = std::int64_t{LastPosition(state)} - state.low;
-    const std::int64_t offset = state.dragging
-                                    ? state.thumbOffset
-                                    : ((std::int64_t{state.position} - state.low) * (shaft - thumb) + range / 2) / range;
+    const std::int64_t offset =
+        state.dragging ? state.thumbOffset
+                       : ((std::int64_t{state.position} - state.low) * (shaft - thumb) + range / 2) / range;
     const int start = from + arrow + static_cast<int>(offset);
     layout.thumb = along.Part(whole, start, start + thumb);
     return layout;
@@ -116,8 +116,8 @@ int PositionAt(const BarLayout& layout, const BarState& state, int* offset) {
 
 void ApplyInfo(BarState& state, const SCROLLINFO& info) {
     if (info.fMask & SIF_RANGE) {
-        const bool sane = info.nMax >= info.nMin &&
-                          std::int64_t{info.nMax} - info.nMin <= std::numeric_limits<int>::max();
+        const bool sane =
+            info.nMax >= info.nMin && std::int64_t{info.nMax} - info.nMin <= std::numeric_limits<int>::max();
         state.low = sane ? info.nMin : 0;
         state.high = sane ? info.nMax : 0;
     }

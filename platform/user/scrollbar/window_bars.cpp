@@ -30,8 +30,8 @@ bool SameLayout(const BarLayout& a, const BarLayout& b) {
 }
 
 HBRUSH ShaftBrush(HWND asked, HDC context, HWND bar) {
-    LRESULT brush = SendMessageA(asked, WM_CTLCOLORSCROLLBAR, reinterpret_cast<WPARAM>(context),
-                                 reinterpret_cast<LPARAM>(bar));
+    LRESULT brush =
+        SendMessageA(asked, WM_CTLCOLORSCROLLBAR, reinterpret_cast<WPARAM>(context), reinterpret_cast<LPARAM>(bar));
     if (!brush) {
         brush = DefWindowProcA(asked, WM_CTLCOLORSCROLLBAR, reinterpret_cast<WPARAM>(context),
                                reinterpret_cast<LPARAM>(bar));
@@ -62,9 +62,9 @@ int ChangeWindowBar(HWND handle, bool vertical, const SCROLLINFO& info, bool red
         ApplyInfo(*own, info);
         if (info.fMask & (SIF_RANGE | SIF_PAGE | SIF_DISABLENOSCROLL)) {
             // A bar that had nothing to scroll comes to life again.
-            own->arrows = CanScroll(*own)                         ? UINT{ESB_ENABLE_BOTH}
-                          : info.fMask & SIF_DISABLENOSCROLL      ? UINT{ESB_DISABLE_BOTH}
-                                                                  : own->arrows;
+            own->arrows = CanScroll(*own)                    ? UINT{ESB_ENABLE_BOTH}
+                          : info.fMask & SIF_DISABLENOSCROLL ? UINT{ESB_DISABLE_BOTH}
+                                                             : own->arrows;
         }
         state = *own;
     }
@@ -85,9 +85,9 @@ RECT BarRect(const Window* window, bool vertical) {
         return {};
     }
     const RECT& client = window->clientRect;
-    const RECT bar = vertical ? RECT{client.right, client.top, client.right + GetSystemMetrics(SM_CXVSCROLL), client.bottom}
-                              : RECT{client.left, client.bottom, client.right,
-                                     client.bottom + GetSystemMetrics(SM_CYHSCROLL)};
+    const RECT bar =
+        vertical ? RECT{client.right, client.top, client.right + GetSystemMetrics(SM_CXVSCROLL), client.bottom}
+                 : RECT{client.left, client.bottom, client.right, client.bottom + GetSystemMetrics(SM_CYHSCROLL)};
     // A frame too small for its bar does without.
     RECT within;
     return IntersectRect(&within, &bar, &window->windowRect) && EqualRect(&within, &bar) ? bar : RECT{};
@@ -198,7 +198,8 @@ int WINAPI SetScrollInfo(HWND window, int bar, LPCSCROLLINFO info, BOOL redraw) 
         return 0;
     }
     if (bar == SB_CTL) {
-        return static_cast<int>(SendMessageA(window, SBM_SETSCROLLINFO, redraw != FALSE, reinterpret_cast<LPARAM>(info)));
+        return static_cast<int>(
+            SendMessageA(window, SBM_SETSCROLLINFO, redraw != FALSE, reinterpret_cast<LPARAM>(info)));
     }
     return ChangeWindowBar(window, bar == SB_VERT, *info, redraw != FALSE);
 }
