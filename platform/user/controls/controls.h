@@ -12,7 +12,6 @@
 
 namespace platform::user {
 
-/// Registers "#32770", "button", "edit" and "static"; InitialiseClasses calls it.
 /// Registers "#32770" and the classes of the predefined controls; InitialiseClasses calls it.
 void RegisterDialogClasses();
 
