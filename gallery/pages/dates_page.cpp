@@ -1,29 +1,28 @@
-#include "gallery/first_page.h"
+#include "gallery/pages/dates_page.h"
 
-#include "gallery/chosen_date.h"
-#include "gallery/resource.h"
+#include "gallery/pages/chosen_date.h"
+#include "gallery/pages/dates_page_ids.h"
+#include "gallery/settings.h"
 #include "gallery/text.h"
 
 namespace gallery {
 namespace {
 
+constexpr char kDate[] = "Date";
 constexpr UINT_PTR kFollowTimer = 1;
 constexpr UINT kFollowMilliseconds = 100;
 constexpr char kFieldProcedure[] = "Gallery_FieldProcedure";
 
-struct FirstPage {
-    FirstPage(HWND dialog, Result& result)
-        : dialog(dialog),
-          result(result),
-          date(GetDlgItem(dialog, IDC_DATE_VERTICAL), GetDlgItem(dialog, IDC_DATE_HORIZONTAL)) {}
+struct DatesState {
+    explicit DatesState(HWND dialog)
+        : dialog(dialog), date(GetDlgItem(dialog, IDC_DATE_VERTICAL), GetDlgItem(dialog, IDC_DATE_HORIZONTAL)) {}
 
     HWND dialog;
-    Result& result;
     ChosenDate date;
 };
 
-FirstPage* PageOf(HWND dialog) {
-    return reinterpret_cast<FirstPage*>(GetWindowLongPtrA(dialog, DWLP_USER));
+DatesState* PageOf(HWND dialog) {
+    return reinterpret_cast<DatesState*>(GetWindowLongPtrA(dialog, DWLP_USER));
 }
 
 // A date field steps on WM_VSCROLL alone. A horizontal bar sends WM_HSCROLL: its right arrow with the code that steps
@@ -48,43 +47,26 @@ void UnhookHorizontalField(HWND field) {
     }
 }
 
-void ShowChosenDate(const FirstPage& page) {
+void ShowChosenDate(const DatesState& page) {
     const auto instance = reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(page.dialog, GWLP_HINSTANCE));
     const std::string text = page.date.IsSet() ? page.date.IsoText() : LoadText(instance, IDS_NO_DATE);
     SetDlgItemTextA(page.dialog, IDC_CHOSEN, text.c_str());
 }
 
-void OnInitDialog(HWND dialog, Result& result) {
-    auto* page = new FirstPage(dialog, result);
+void OnInitDialog(HWND dialog) {
+    auto* page = new DatesState(dialog);
     SetWindowLongPtrA(dialog, DWLP_USER, reinterpret_cast<LONG_PTR>(page));
     HookHorizontalField(GetDlgItem(dialog, IDC_DATE_HORIZONTAL));
-    page->date.SetToday();
+    if (!page->date.SetIsoText(KeptText(kDate))) {
+        page->date.SetToday();
+    }
     ShowChosenDate(*page);
     SetTimer(dialog, kFollowTimer, kFollowMilliseconds, nullptr);
 }
 
-void OnTimer(FirstPage& page) {
+void OnTimer(DatesState& page) {
     if (page.date.Follow()) {
         ShowChosenDate(page);
-    }
-}
-
-void OnCommand(FirstPage& page, int id) {
-    switch (id) {
-        case IDC_TODAY:
-            page.date.SetToday();
-            ShowChosenDate(page);
-            break;
-        case IDOK:
-            page.date.Follow();
-            page.result = {page.date.IsSet(), page.date.IsoText()};
-            DestroyWindow(page.dialog);
-            break;
-        case IDCANCEL:
-            DestroyWindow(page.dialog);
-            break;
-        default:
-            break;
     }
 }
 
@@ -93,15 +75,14 @@ void OnDestroy(HWND dialog) {
     UnhookHorizontalField(GetDlgItem(dialog, IDC_DATE_HORIZONTAL));
     delete PageOf(dialog);
     SetWindowLongPtrA(dialog, DWLP_USER, 0);
-    PostQuitMessage(0);
 }
 
-INT_PTR CALLBACK FirstPageProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+INT_PTR CALLBACK DatesPageProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
     if (message == WM_INITDIALOG) {
-        OnInitDialog(dialog, *reinterpret_cast<Result*>(lParam));
+        OnInitDialog(dialog);
         return TRUE;
     }
-    FirstPage* page = PageOf(dialog);
+    DatesState* page = PageOf(dialog);
     if (page == nullptr) {
         return FALSE;
     }
@@ -110,7 +91,13 @@ INT_PTR CALLBACK FirstPageProcedure(HWND dialog, UINT message, WPARAM wParam, LP
             OnTimer(*page);
             return TRUE;
         case WM_COMMAND:
-            OnCommand(*page, LOWORD(wParam));
+            if (LOWORD(wParam) == IDC_TODAY) {
+                page->date.SetToday();
+                ShowChosenDate(*page);
+            }
+            return TRUE;
+        case kKeepValues:
+            KeepText(kDate, ChosenIsoDate(dialog));
             return TRUE;
         case WM_DESTROY:
             OnDestroy(dialog);
@@ -122,9 +109,18 @@ INT_PTR CALLBACK FirstPageProcedure(HWND dialog, UINT message, WPARAM wParam, LP
 
 }  // namespace
 
-HWND OpenFirstPage(HINSTANCE instance, Result& result) {
-    return CreateDialogParamA(instance, MAKEINTRESOURCEA(IDD_FIRST_PAGE), nullptr, FirstPageProcedure,
-                              reinterpret_cast<LPARAM>(&result));
+const Page& DatesPage() {
+    static const Page page{IDS_DATES_TITLE, MAKEINTRESOURCEA(IDD_DATES_PAGE), DatesPageProcedure};
+    return page;
+}
+
+std::string ChosenIsoDate(HWND window) {
+    DatesState* page = PageOf(window);
+    if (page == nullptr) {
+        return "";
+    }
+    page->date.Follow();
+    return page->date.IsoText();
 }
 
 }  // namespace gallery

@@ -1,4 +1,4 @@
-#include "gallery/chosen_date.h"
+#include "gallery/pages/chosen_date.h"
 
 #include <cvutil32.h>
 
@@ -11,6 +11,20 @@ void ChosenDate::SetToday() {
         DATECTRL_SetDate(field, nullptr, TRUE);
     }
     isSet = DATECTRL_GetDate(fields[0], &date) != FALSE;
+}
+
+bool ChosenDate::SetIsoText(const std::string& text) {
+    SYSTEMTIME wanted{};
+    if (std::sscanf(text.c_str(), "%4hu-%2hu-%2hu", &wanted.wYear, &wanted.wMonth, &wanted.wDay) != 3 ||
+        !DATECTRL_IsValidDate(&wanted)) {
+        return false;
+    }
+    for (HWND field : fields) {
+        DATECTRL_SetDate(field, &wanted, TRUE);
+    }
+    date = wanted;
+    isSet = true;
+    return true;
 }
 
 bool ChosenDate::Follow() {
