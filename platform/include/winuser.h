@@ -11,3 +11,5 @@
 #include "winuser/dialogs.h"
 #include "winuser/controls.h"
 #include "winuser/station.h"
+#include "winuser/scrollbar.h"
+#include "winuser/listbox.h"
