@@ -1,6 +1,7 @@
 // Windows that go away, or can no longer take input.
 #include <algorithm>
 
+#include "user/clipboard.h"
 #include "user/queue.h"
 
 namespace platform::user {
@@ -13,6 +14,7 @@ void ForgetInput(Window* window) {
     const HWND handle = window->handle;
     ThreadState* self = CurrentThread();
     if (thread == self) {
+        LeaveClipboard(handle);
         if (thread->capture == handle) {
             MoveCapture(thread, nullptr);
         }

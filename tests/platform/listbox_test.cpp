@@ -165,7 +165,6 @@ TEST_F(ListBoxTest, SingleSelection) {
     EXPECT_EQ(1, Send(list, LB_GETSEL, 2));
     EXPECT_EQ(0, Send(list, LB_GETSEL, 1));
     EXPECT_EQ(LB_ERR, Send(list, LB_GETSEL, 4));
-    EXPECT_EQ(LB_ERR, Send(list, LB_SETSEL, TRUE, 1));
     EXPECT_EQ(LB_ERR, Send(list, LB_GETSELCOUNT));
     EXPECT_EQ(LB_ERR, Send(list, LB_SETCURSEL, 4));
     EXPECT_EQ(2, Send(list, LB_GETCURSEL)) << "an index that is none changes nothing";

@@ -205,8 +205,8 @@ void GoTo(ListData& list, int index) {
             SelectOnly(list, index);
         }
     } else if (list.Multiple()) {
+        // The owner hears of every move, even though nothing is selected by it.
         MoveCaret(list, index);
-        changed = false;
     } else {
         changed = index != list.chosen;
         SelectOnly(list, index);

@@ -101,7 +101,8 @@ void DrawOwnersItem(ListData& list, const Brush& brush, int index, const RECT& r
         AskOwner(list, brush.context, index, rect, ODA_FOCUS, false);
     if (list.items.Has(index))
         AskOwner(list, brush.context, index, rect, action, false);
-    if (focus && list.items.Has(index) && ShowsCaret(list, index))
+    // A whole list has its focus drawn last.
+    if (action == ODA_SELECT && focus && list.items.Has(index) && ShowsCaret(list, index))
         AskOwner(list, brush.context, index, rect, ODA_FOCUS, true);
 }
 
@@ -138,6 +139,12 @@ void PaintList(ListData& list, HDC context, const RECT& area) {
     }
     if (!IsRectEmpty(&rest))
         FillRect(context, &rest, brush.ground);
+    RECT focus{};
+    if (list.OwnerDrawn() && list.focused && list.items.Has(list.caret)) {
+        const RECT rect = RectOf(list, list.caret);
+        if (IntersectRect(&focus, &rect, &area))
+            AskOwner(list, context, list.caret, rect, ODA_FOCUS, true);
+    }
     // An empty list with the focus shows it in the place of its first item.
     if (list.items.Count() == 0 && list.focused) {
         RECT first{0, 0, client.right, std::min<LONG>(client.bottom, list.itemHeight)};
