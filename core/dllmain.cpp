@@ -1,4 +1,5 @@
 // The library's entry point.
+#include "controls/cklist/cklist.h"
 #include "core/registration.h"
 
 #include "cvutil32/animate.h"
@@ -19,6 +20,7 @@ constexpr registration::Function kRegistrations[] = {
     ANIMATE_RegisterClass,   // own
     SCROLL_RegisterClass,    // own
     DATECTRL_RegisterClass,  // own
+    cklist::Register,        // of "listbox"
 };
 
 BOOL Attach(HINSTANCE instance) {
@@ -34,6 +36,8 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
     switch (reason) {
         case DLL_PROCESS_ATTACH:
             return Attach(instance);
+        case DLL_PROCESS_DETACH:
+            return cklist::Unregister(instance);
         default:
             return TRUE;
     }
