@@ -2,7 +2,9 @@
 #include "core/registration.h"
 
 #include "cvutil32/datectrl.h"
+#include "cvutil32/numfld.h"
 #include "cvutil32/scroll.h"
+#include "cvutil32/timectrl.h"
 #include "cvutil32/util.h"
 
 namespace {
@@ -12,7 +14,9 @@ namespace {
 // last.
 constexpr registration::Function kRegistrations[] = {
     SCROLL_RegisterClass,
+    NUMFLD_RegisterClass,
     DATECTRL_RegisterClass,
+    TIMECTRL_RegisterClass,
 };
 
 BOOL Attach(HINSTANCE instance) {

@@ -2,7 +2,9 @@
 #include <cvutil32.h>
 
 #include <cvutil32/datectrl.h>
+#include <cvutil32/numfld.h>
 #include <cvutil32/scroll.h>
+#include <cvutil32/timectrl.h>
 #include <cvutil32/util.h>
 
 BOOL HeadersServeC(void);
@@ -13,5 +15,6 @@ BOOL HeadersServeC(void) {
     date.wMonth = 12;
     date.wDay = 31;
     return DATECTRL_IncrementDate(&date, DATECTRL_DAY) && date.wYear == 1996 && UTIL_GetModuleInstance() != NULL &&
-           SCROLL_SetAssociateWindow(NULL, NULL) == NULL;
+           SCROLL_SetAssociateWindow(NULL, NULL) == NULL && TIMECTRL_IncrementTime(&date, TIMECTRL_SECOND) &&
+           NUMFLD_GetValue(NULL) == 0;
 }
