@@ -6,7 +6,9 @@
 #include "cvutil32/buddyfr.h"
 #include "cvutil32/datectrl.h"
 #include "cvutil32/grbutton.h"
+#include "cvutil32/numfld.h"
 #include "cvutil32/scroll.h"
+#include "cvutil32/timectrl.h"
 #include "cvutil32/util.h"
 
 namespace {
@@ -19,7 +21,9 @@ constexpr registration::Function kRegistrations[] = {
     BUDDYFR_RegisterClass,   // own
     ANIMATE_RegisterClass,   // own
     SCROLL_RegisterClass,    // own
+    NUMFLD_RegisterClass,    // of "edit"
     DATECTRL_RegisterClass,  // own
+    TIMECTRL_RegisterClass,  // own
     cklist::Register,        // of "listbox"
 };
 

@@ -15,7 +15,9 @@
 #include "cvutil32/list.h"
 #include "cvutil32/msgbox.h"
 #include "cvutil32/reg.h"
+#include "cvutil32/numfld.h"
 #include "cvutil32/scroll.h"
+#include "cvutil32/timectrl.h"
 #include "cvutil32/util.h"
 
 #ifdef __cplusplus
