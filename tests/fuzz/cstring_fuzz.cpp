@@ -139,7 +139,15 @@ bool Replace(Input& input, CSTRING& string, StringModel& model) {
 }
 
 void LockAndWrite(Input& input, CSTRING& string, StringModel& model) {
-    switch (input.Pick(4)) {
+    unsigned const step = input.Pick(4);
+    if (step == 2) {
+        if (model.locks) {
+            Write(string, model, input.Text(60));
+        }
+        return;  // no member is called, and so nothing taken in
+    }
+    model.Enter();
+    switch (step) {
         case 0: {
             std::uint32_t const size = input.Pick(200) * 20;
             model.locks += model.Resize(std::max<std::uint32_t>(size, 1024)) ? 1 : 0;
@@ -150,11 +158,6 @@ void LockAndWrite(Input& input, CSTRING& string, StringModel& model) {
             model.Measure();
             model.locks -= model.locks ? 1 : 0;
             FUZZ_CHECK(string.BufferUnlock() == model.locks);
-            break;
-        case 2:
-            if (model.locks) {
-                Write(string, model, input.Text(60));
-            }
             break;
         default: {
             char* const buffer = string;
@@ -215,7 +218,9 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     StringModel model;
     while (!input.empty()) {
         unsigned const member = input.Pick(10);
-        model.Enter();
+        if (member != 8) {
+            model.Enter();
+        }
         switch (member) {
             case 0:
             case 1:

@@ -3,6 +3,8 @@
 
 #include <cstring>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -110,6 +112,42 @@ TEST(WordOrder, LettersThenAccentsThenCaseThenHyphens) {
         EXPECT_EQ(sign(lstrcmpA(pair.first, pair.second)), pair.order) << pair.first << " " << pair.second;
         EXPECT_EQ(sign(lstrcmpA(pair.second, pair.first)), -pair.order) << pair.second << " " << pair.first;
         EXPECT_EQ(sign(lstrcmpiA(pair.first, pair.second)), pair.orderNoCase) << pair.first << " " << pair.second;
+    }
+}
+
+// Each text comes before all that follow it: symbols, digits, letters; of equal letters those without accents, then small
+// ones, and at last those without hyphens and apostrophes.
+TEST(WordOrder, ListsOfTextsInOrder) {
+    const std::vector<std::vector<const char*>> lists = {
+        {"",  "'",    "-",    "\x96", " ", "\t",   "!",    "_", "~",    "\xBF", "\x93", "\xA3", "\x80", "+",
+         "=", "\xD7", "\xA7", "\xB0", "0", "\xBD", "\xBE", "1", "\xB2", "9",    "a",    "z",    "\x9E"},
+        {"a", "A", "\xAA", "\xE1", "\xC1", "\xE0", "\xE2", "\xE4", "\xE3", "\xE5", "ae", "b"},
+        {"cote", "Cote", "cot\xE9", "c\xF4te", "C\xF4te", "c\xF4t\xE9", "coted"},
+        {"coop", "co'op", "co-op", "co\x96op", "Coop", "Co-op", "coops", "co-ops", "corp"},
+        {"strase", "strasse",
+         "Stra\xDF"
+         "e",
+         "stra\xDF"
+         "en"},
+        {"a b2", "a.b", "a_b", "a1", "ab", "a-b", "aB",
+         "\xE1"
+         "b",
+         "abc"},
+        {"d", "D", "\xF0", "\xD0", "e"},
+        {"o", "\xBA", "\xF3", "\xF2", "\xF4", "\xF6", "\xF5", "\xF8", "oe", "\x8C", "p"},
+        {"it", "its", "it's", "itself"},
+    };
+    for (const auto& list : lists) {
+        for (std::size_t i = 0; i < list.size(); ++i) {
+            for (std::size_t j = 0; j < list.size(); ++j) {
+                const int expected = i < j ? CSTR_LESS_THAN : i > j ? CSTR_GREATER_THAN : CSTR_EQUAL;
+                EXPECT_EQ(CompareStringA(LOCALE_SYSTEM_DEFAULT, 0, list[i], -1, list[j], -1), expected)
+                    << list[i] << " " << list[j];
+            }
+        }
+    }
+    for (const auto& pair : {std::pair("ae", "\xE6"), {"ss", "\xDF"}, {"OE", "\x8C"}, {"th", "\xFE"}}) {
+        EXPECT_EQ(lstrcmpA(pair.first, pair.second), 0) << pair.first << ": a letter that counts as two";
     }
 }
 
