@@ -1,5 +1,6 @@
 #include <cvutil32/clist.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <new>
@@ -97,19 +98,19 @@ bool CLISTHEADER::Grow() {
     if (count < capacity) {
         return true;
     }
-    std::uint32_t wanted = capacity + capacity / 2;
-    wanted = wanted < count + 1 ? count + 1 : wanted;
-    wanted = wanted > kMostSlots ? kMostSlots : wanted;
-    if (wanted <= count) {
+    const std::uint32_t slots = std::min(std::max(count + 1, capacity + capacity / 2), kMostSlots);
+    if (slots <= capacity) {
         return false;  // the list is full: nothing is ever written beyond its array
     }
-    auto* grown = static_cast<char*>(globalblock::Resize(array, std::size_t{wanted} * slotSize));
+    const std::uint64_t bytes = std::uint64_t{slotSize} * slots;
+    auto* grown =
+        bytes > SIZE_MAX ? nullptr : static_cast<char*>(globalblock::Resize(array, static_cast<std::size_t>(bytes)));
     if (!grown) {
         return false;
     }
     array = grown;
-    capacity = wanted;
-    return true;
+    capacity = slots;
+    return count < capacity;
 }
 
 // Leaves the count and the sizes as they are; vCopy and its callers rely on it.

@@ -26,6 +26,7 @@ struct CLISTHEADER {
     void StoreItem(void* place, const void* item);
     void FreeItem(void* item);
     bool CheckItem(const void* item) const;
+    /// Makes room for one more element.
     bool Grow();
     void FreeAll();
 };

@@ -1,7 +1,8 @@
 #include <cvutil32/clist.h>
 
-#include <cstring>
+#include <algorithm>
 #include <cstdint>
+#include <cstring>
 
 #include "classes/clist_header.h"
 #include "core/globalblock.h"
@@ -122,11 +123,15 @@ void CLIST::vCopy(const CBASE& source) {
     const std::uint32_t count = other.header->count;
     const CLISTTYPE type = other.header->type;
     const std::uint32_t itemSize = other.header->itemSize;
-    // The old count stays: a list that held elements before gets the copies behind as many empty slots, which the new
-    // array must hold too.
-    std::uint32_t const room = count > header->count ? count : header->count;
     header->FreeAll();
-    int const made = other.header->prototype ? Init(*other.header->prototype, room, type) : Init(itemSize, room, type);
+    int const made =
+        other.header->prototype ? Init(*other.header->prototype, count, type) : Init(itemSize, count, type);
+    // The old count stays: a list that held elements before gets the copies behind as many empty slots. The new array
+    // must hold these too; without memory for them there are fewer.
+    if (made && header->count > header->capacity) {
+        header->Grow();
+        header->count = std::min(header->count, header->capacity);
+    }
     for (std::uint32_t i = 0; made && i < count; ++i) {
         Append(other.GetItem(i));
     }

@@ -195,15 +195,19 @@ CSTRING const& CSTRING::Replace(char const* find, char const* with, int all) {
         if (position == kAll) {
             break;
         }
-        std::size_t const before = std::strlen(Buffer);
+        std::size_t const length = std::strlen(Buffer);
+        std::uint32_t const bytes = ByteCount;
+        std::uint32_t const left = StrLen - position;
         Delete(position, findLength);
-        if (std::strlen(Buffer) == before) {
-            // The match lies behind the walk's end and cannot be taken out: it would be found for ever.
-            StrLen = static_cast<std::uint32_t>(before);
-            break;
-        }
+        bool const stays = std::strlen(Buffer) == length;
         Insert(with, position, kAll);
         position += withLength;
+        // A match behind the walk's end stays where it is, and the text is put in at that end. Where that leads to the
+        // same match in the same place it would go on for ever.
+        std::size_t const added = std::strlen(Buffer) - length;
+        if (stays && (ByteCount == bytes || (added == ByteCount - bytes && StrLen - position == left))) {
+            break;
+        }
     } while (all);
     return *this;
 }

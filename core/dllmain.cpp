@@ -1,7 +1,10 @@
 // The library's entry point.
 #include "core/registration.h"
 
+#include "cvutil32/animate.h"
+#include "cvutil32/buddyfr.h"
 #include "cvutil32/datectrl.h"
+#include "cvutil32/grbutton.h"
 #include "cvutil32/scroll.h"
 #include "cvutil32/util.h"
 
@@ -11,8 +14,11 @@ namespace {
 // browse button stands behind the graphic button; the check list, which alone has something to release again, stands
 // last.
 constexpr registration::Function kRegistrations[] = {
-    SCROLL_RegisterClass,
-    DATECTRL_RegisterClass,
+    GRBUTTON_RegisterClass,  // of "button"
+    BUDDYFR_RegisterClass,   // own
+    ANIMATE_RegisterClass,   // own
+    SCROLL_RegisterClass,    // own
+    DATECTRL_RegisterClass,  // own
 };
 
 BOOL Attach(HINSTANCE instance) {
@@ -22,7 +28,8 @@ BOOL Attach(HINSTANCE instance) {
 
 }  // namespace
 
-// Classes are left registered at detach: they go with the process, and windows of theirs may still be there.
+// At detach the check list alone is taken back, since it holds a picture. The other classes go with the process, and
+// windows of theirs may still be there.
 extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
     switch (reason) {
         case DLL_PROCESS_ATTACH:

@@ -2,3 +2,6 @@
 #pragma once
 
 #define CVRES_VERSION 1
+
+/* Bitmaps. */
+#define CVRES_CHECKS 20099 /* two cells side by side: an empty box, a ticked box */

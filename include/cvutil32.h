@@ -7,7 +7,11 @@
 
 #include "cvutil32/cvapi.h"
 
+#include "cvutil32/animate.h"
+#include "cvutil32/buddyfr.h"
+#include "cvutil32/cklist.h"
 #include "cvutil32/datectrl.h"
+#include "cvutil32/grbutton.h"
 #include "cvutil32/list.h"
 #include "cvutil32/msgbox.h"
 #include "cvutil32/scroll.h"

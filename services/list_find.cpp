@@ -1,5 +1,6 @@
 #include <cvutil32/list.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 
@@ -11,12 +12,13 @@ struct Items {
     const char* first;
     std::uint32_t size;
     std::uint32_t count;
+    std::uint32_t end;  ///< the count, or less where items were lost with their memory
 };
 
 Items ItemsOf(LPVOID list) {
-    std::uint32_t words[3];
+    std::uint32_t words[4];
     std::memcpy(words, static_cast<const char*>(list) - 24, sizeof words);
-    return {static_cast<const char*>(list), words[1], words[2]};
+    return {static_cast<const char*>(list), words[1], words[2], std::min(words[2], words[3])};
 }
 
 template <class Number>
@@ -57,7 +59,7 @@ struct Match {
 template <class Key>
 Match Linear(const Items& items, LONG offset, const Key& compare) {
     const char* field = items.first + offset;
-    for (std::uint32_t i = 0; i < items.count; ++i, field += items.size) {
+    for (std::uint32_t i = 0; i < items.end; ++i, field += items.size) {
         if (compare(field) == 0) {
             return {const_cast<char*>(field - offset), i};
         }
@@ -68,7 +70,7 @@ Match Linear(const Items& items, LONG offset, const Key& compare) {
 template <class Key>
 Match Binary(const Items& items, LONG offset, const Key& compare) {
     std::uint32_t low = 0;
-    std::uint32_t high = items.count;
+    std::uint32_t high = items.end;
     while (low < high) {
         const auto middle = static_cast<std::uint32_t>((std::uint64_t{low} + high) / 2);
         const char* item = items.first + std::size_t{middle} * items.size;
@@ -81,12 +83,21 @@ Match Binary(const Items& items, LONG offset, const Key& compare) {
     return {nullptr, high};
 }
 
-// One search with the comparison of the key's type. An unsupported type leaves the caller's index alone.
+// Texts take a null key, which comes before all others; a number must be there to be read.
+bool NeedsKey(DWORD type) {
+    return type != LIST_TYPE_LPSTR && type != LIST_TYPE_STRING;
+}
+
+// One search with the comparison of the key's type. An unsupported type leaves the caller's index alone, and so does a
+// null key that would have to be a number.
 template <class Search>
 LPVOID Dispatch(LPVOID list, DWORD type, LPCVOID key, DWORD* index, Search search) {
     Match match{nullptr, 0};
     if (list && ItemsOf(list).count > 0) {
         const Items items = ItemsOf(list);
+        if (!key && NeedsKey(type)) {
+            return nullptr;
+        }
         switch (type) {
             case LIST_TYPE_SHORT:
                 match = search(items, NumberKey<std::int16_t>(key));

@@ -21,7 +21,8 @@ BOOL RegisterOwnClass(HINSTANCE instance, OwnClass const& own) {
     return RegisterClassA(&record);
 }
 
-BOOL RegisterSuperclass(HINSTANCE instance, LPCSTR name, LPCSTR baseName, WNDPROC procedure, BaseClass& base) {
+BOOL RegisterSuperclass(HINSTANCE instance, LPCSTR name, LPCSTR baseName, WNDPROC procedure, BaseClass& base,
+                        Difference const& difference) {
     if (!instance) {
         return FALSE;
     }
@@ -30,13 +31,13 @@ BOOL RegisterSuperclass(HINSTANCE instance, LPCSTR name, LPCSTR baseName, WNDPRO
         return known;
     }
     record = {};
-    if (!GetClassInfoA(instance, baseName, &record)) {
+    if (!GetClassInfoA(instance, baseName, &record) || !record.lpfnWndProc) {
         return FALSE;
     }
     BaseClass const found = {record.lpfnWndProc, record.cbWndExtra};
-    record.style |= CS_GLOBALCLASS;
+    record.style = (record.style & ~difference.withoutStyle) | CS_GLOBALCLASS;
     record.lpfnWndProc = procedure;
-    record.cbWndExtra = found.extraBytes + static_cast<int>(sizeof(LONG_PTR));
+    record.cbWndExtra = found.extraBytes + difference.extraBytes;
     record.hInstance = instance;
     record.lpszMenuName = nullptr;
     record.lpszClassName = name;
@@ -46,7 +47,7 @@ BOOL RegisterSuperclass(HINSTANCE instance, LPCSTR name, LPCSTR baseName, WNDPRO
     if (!atom) {
         base = before;
     }
-    return atom;
+    return atom != 0;
 }
 
 }  // namespace frame

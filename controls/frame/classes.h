@@ -31,9 +31,16 @@ struct BaseClass {
     }
 };
 
-/// Registers @p name as the class @p baseName with another window procedure and one data pointer more.
-/// @return nonzero on success, also if the class is there already; @p base is filled in only when it was registered
-/// now.
-BOOL RegisterSuperclass(HINSTANCE instance, LPCSTR name, LPCSTR baseName, WNDPROC procedure, BaseClass& base);
+/// How a superclass differs from its base class, besides name and procedure.
+struct Difference {
+    int extraBytes = sizeof(LONG_PTR);  ///< added: room for one data pointer
+    UINT withoutStyle = 0;              ///< class styles taken away
+};
+
+/// Registers @p name as the class @p baseName with another window procedure.
+/// @return nonzero on success (1 if it was registered now, what GetClassInfoA said if the class is there already);
+/// @p base is filled in only when it was registered now.
+BOOL RegisterSuperclass(HINSTANCE instance, LPCSTR name, LPCSTR baseName, WNDPROC procedure, BaseClass& base,
+                        Difference const& difference = {});
 
 }  // namespace frame

@@ -17,14 +17,22 @@ void ParentSubclass::Install(HWND control) const {
 LRESULT ParentSubclass::Forward(HWND parent, UINT message, WPARAM wParam, LPARAM lParam) const {
     auto const former = reinterpret_cast<WNDPROC>(GetPropA(parent, property_));
     if (!former) {
-        return DefWindowProcA(parent, message, wParam, lParam);
+        return 0;
     }
-    LRESULT const result = CallWindowProcA(former, parent, message, wParam, lParam);
-    if (message == WM_NCDESTROY && GetWindowLongPtrA(parent, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(procedure_)) {
+    if (message == WM_NCDESTROY) {
+        End(parent, former);
+        return 0;
+    }
+    return CallWindowProcA(former, parent, message, wParam, lParam);
+}
+
+void ParentSubclass::End(HWND parent, WNDPROC former) const {
+    CallWindowProcA(former, parent, WM_NCDESTROY, 0, 0);
+    if (GetPropA(parent, property_) &&
+        GetWindowLongPtrA(parent, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(procedure_)) {
         SetWindowLongPtrA(parent, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(former));
         RemovePropA(parent, property_);
     }
-    return result;
 }
 
 }  // namespace frame

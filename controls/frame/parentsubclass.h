@@ -20,12 +20,15 @@ class ParentSubclass {
     /// already.
     void Install(HWND control) const;
 
-    /// Passes a message on to the parent's former procedure. After WM_NCDESTROY the former procedure is put back and
-    /// the property removed, unless somebody else has subclassed the parent since: their procedure would come to lead
-    /// nowhere.
+    /// Passes a message on to the parent's former procedure. WM_NCDESTROY goes on without its arguments; after it the
+    /// former procedure is put back and the property removed, unless somebody else has subclassed the parent since:
+    /// their procedure would come to lead nowhere.
+    /// @return the former procedure's answer; 0 for WM_NCDESTROY, and when the property is gone.
     LRESULT Forward(HWND parent, UINT message, WPARAM wParam, LPARAM lParam) const;
 
   private:
+    void End(HWND parent, WNDPROC former) const;
+
     LPCSTR property_;
     WNDPROC procedure_;
 };

@@ -1,55 +1,33 @@
 // A micro scroll bar's picture.
+#include "controls/frame/drawing.h"
 #include "controls/scroll/bar.h"
 
 #include <algorithm>
-#include <initializer_list>
 
 namespace scroll {
+
+using frame::DrawPath;
+using frame::Selected;
 
 namespace {
 
 constexpr int kSystemColours[kTones] = {COLOR_BTNSHADOW, COLOR_BTNHIGHLIGHT, COLOR_BTNTEXT, COLOR_WINDOWFRAME};
 
-/// A pen selected into a device context for as long as this lives. A pen that does not exist leaves the one that is
-/// there.
-class SelectedPen {
-  public:
-    SelectedPen(HDC dc, HPEN pen) : dc_(dc), former_(SelectObject(dc, pen)) {}
-    ~SelectedPen() {
-        if (former_) {
-            SelectObject(dc_, former_);
-        }
-    }
-    SelectedPen(SelectedPen const&) = delete;
-    SelectedPen& operator=(SelectedPen const&) = delete;
-
-  private:
-    HDC dc_;
-    HGDIOBJ former_;
-};
-
-void DrawPath(HDC dc, std::initializer_list<POINT> points) {
-    MoveToEx(dc, points.begin()->x, points.begin()->y, nullptr);
-    for (POINT const* point = points.begin() + 1; point != points.end(); ++point) {
-        LineTo(dc, point->x, point->y);
-    }
-}
-
 void DrawEdges(HDC dc, RECT const& r, Data const& data, bool pressed) {
     {
-        SelectedPen const pen(dc, data.pens[kFrame]);
+        Selected const pen(dc, data.pens[kFrame]);
         DrawPath(dc, {{r.left, r.top}, {r.right, r.top}, {r.right, r.bottom}, {r.left, r.bottom}, {r.left, r.top}});
     }
     if (pressed) {
-        SelectedPen const pen(dc, data.pens[kShadow]);
+        Selected const pen(dc, data.pens[kShadow]);
         DrawPath(dc, {{r.left + 1, r.bottom - 1}, {r.left + 1, r.top + 1}, {r.right, r.top + 1}});
         return;
     }
     {
-        SelectedPen const pen(dc, data.pens[kHighlight]);
+        Selected const pen(dc, data.pens[kHighlight]);
         DrawPath(dc, {{r.left + 1, r.bottom - 1}, {r.left + 1, r.top + 1}, {r.right - 1, r.top + 1}});
     }
-    SelectedPen const pen(dc, data.pens[kShadow]);
+    Selected const pen(dc, data.pens[kShadow]);
     DrawPath(dc, {{r.right - 1, r.top + 1}, {r.right - 1, r.bottom - 1}, {r.left, r.bottom - 1}});
     DrawPath(dc, {{r.right - 2, r.top + 2}, {r.right - 2, r.bottom - 2}, {r.left + 1, r.bottom - 2}});
 }
@@ -60,7 +38,7 @@ void DrawArrow(HDC dc, HWND bar, Data const& data, Arrow arrow) {
     bool const held = arrow == Arrow::kFirst ? data.firstPressed : data.secondPressed;
     bool const pressed = held && data.inside;
     DrawEdges(dc, rect, data, pressed);
-    SelectedPen const pen(dc, data.pens[kText]);
+    Selected const pen(dc, data.pens[kText]);
     for (Line const& line : GlyphLines(ArrowGlyph(vertical, arrow), rect, pressed)) {
         DrawPath(dc, {line.from, line.to});
     }

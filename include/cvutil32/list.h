@@ -101,8 +101,8 @@ CVAPI(LPVOID) LIST_SetCurrentItem(LPVOID list, DWORD index);
 /// @param offset  bytes from an item's start to its key field.
 /// @param key  the key, read as the type says.
 /// @param index  takes the item's index, or the count if there is none (0 for a null list); may be null.
-/// @return the item's address, or null. Any other type returns null and leaves @p index alone (unless the list is
-/// empty).
+/// @return the item's address, or null. Any other type, and a null key for a number, returns null and leaves @p index
+/// alone (unless the list is empty).
 CVAPI(LPVOID) LIST_LFind(LPVOID list, DWORD type, LONG offset, LPCVOID key, DWORD* index);
 
 /// Finds an item with a key in a list that is in ascending order of that key; among equal ones, whichever the halving

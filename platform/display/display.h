@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 
 namespace platform::display {
 
@@ -51,6 +52,13 @@ class Display {
 
     /// Shows one of the system's cursors: an IDC_ value as a number; 0 hides the pointer. Any thread.
     virtual void SetCursorShape(unsigned idc) = 0;
+
+    /// The text of the host's clipboard, as UTF-8. Any thread, with the picture not locked; waits for the host.
+    /// @returns false when the host has no clipboard, no text in it, or does not answer.
+    virtual bool ReadClipboard(std::string* text) = 0;
+
+    /// Gives the host's clipboard a text, UTF-8. Any thread.
+    virtual void WriteClipboard(const std::string& text) = 0;
 
     /// @returns whether a person may be there to see the screen and to send input.
     virtual bool Interactive() const = 0;

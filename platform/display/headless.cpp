@@ -10,6 +10,10 @@ class HeadlessDisplay final : public Display {
   public:
     void Wake() override {}
     void SetCursorShape(unsigned) override {}
+    bool ReadClipboard(std::string*) override {
+        return false;
+    }
+    void WriteClipboard(const std::string&) override {}
     bool Interactive() const override {
         return false;
     }

@@ -10,4 +10,8 @@
 #include "winuser/painting.h"
 #include "winuser/dialogs.h"
 #include "winuser/controls.h"
+#include "winuser/edit.h"
+#include "winuser/clipboard.h"
 #include "winuser/station.h"
+#include "winuser/scrollbar.h"
+#include "winuser/listbox.h"

@@ -4,6 +4,7 @@
 #include <new>
 #include <utility>
 
+#include "gdi/objects.h"
 #include "user/nonclient.h"
 #include "user/queue.h"
 #include "user/window.h"
@@ -99,6 +100,22 @@ void LimitSize(HWND handle, DWORD style, WINDOWPOS* position) {
                                    std::max(limits.ptMinTrackSize.y, limits.ptMaxTrackSize.y));
 }
 
+/// Takes the text colour and the background colour in turns.
+HBRUSH ChequeredBrush() {
+    static const HBRUSH brush = [] {
+        const WORD rows[8] = {0x5555, 0xAAAA, 0x5555, 0xAAAA, 0x5555, 0xAAAA, 0x5555, 0xAAAA};
+        const HBITMAP bitmap = CreateBitmap(8, 8, 1, 1, rows);
+        const HBRUSH made = CreatePatternBrush(bitmap);
+        DeleteObject(bitmap);
+        // It is the system's own, and no application is to answer for it.
+        if (auto* object = gdi::FindObject<gdi::Brush>(made)) {
+            gdi::NoteStock(object);
+        }
+        return made;
+    }();
+    return brush;
+}
+
 LRESULT ControlColour(UINT message, HDC context) {
     if (message == WM_CTLCOLOREDIT || message == WM_CTLCOLORLISTBOX) {
         SetTextColor(context, GetSysColor(COLOR_WINDOWTEXT));
@@ -106,7 +123,12 @@ LRESULT ControlColour(UINT message, HDC context) {
         return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_WINDOW));
     }
     if (message == WM_CTLCOLORSCROLLBAR) {
-        return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_SCROLLBAR));
+        // A scroll bar as grey as its arrows is told from them by every second pixel in white.
+        SetTextColor(context, GetSysColor(COLOR_3DHIGHLIGHT));
+        SetBkColor(context, GetSysColor(COLOR_SCROLLBAR));
+        return reinterpret_cast<LRESULT>(GetSysColor(COLOR_SCROLLBAR) == GetSysColor(COLOR_3DFACE)
+                                             ? ChequeredBrush()
+                                             : GetSysColorBrush(COLOR_SCROLLBAR));
     }
     SetTextColor(context, GetSysColor(COLOR_WINDOWTEXT));
     SetBkColor(context, GetSysColor(COLOR_3DFACE));

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "gdi/screen.h"
+#include "user/clipboard.h"
 #include "user/queue.h"
 
 namespace platform::user {
@@ -113,6 +114,17 @@ void ShowCursorShape(unsigned idc) {
     shape.store(idc);
     if (display::Display* shown = presenter.load(std::memory_order_acquire)) {
         shown->SetCursorShape(idc);
+    }
+}
+
+bool ReadHostClipboard(std::string* utf8) {
+    display::Display* shown = presenter.load(std::memory_order_acquire);
+    return shown != nullptr && shown->ReadClipboard(utf8);
+}
+
+void WriteHostClipboard(const std::string& utf8) {
+    if (display::Display* shown = presenter.load(std::memory_order_acquire)) {
+        shown->WriteClipboard(utf8);
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include "user/icons.h"
 #include "user/queue.h"
+#include "user/scrollbar/bar.h"
 
 namespace platform::user {
 
@@ -47,6 +48,15 @@ RECT ClientFromWindow(const Window* window, const RECT& windowRect) {
     RECT client = windowRect;
     InflateRect(&client, -inset, -inset);
     client.top += CaptionHeight(window->style, window->exStyle);
+    // Scroll bars stand where there is room for them.
+    const int barWidth = GetSystemMetrics(SM_CXVSCROLL);
+    const int barHeight = GetSystemMetrics(SM_CYHSCROLL);
+    if ((window->style & WS_VSCROLL) && client.right - client.left >= barWidth) {
+        client.right -= barWidth;
+    }
+    if ((window->style & WS_HSCROLL) && client.bottom - client.top >= barHeight) {
+        client.bottom -= barHeight;
+    }
     // A window too small for its frame has no client area, at the place where it would begin.
     if (client.right < client.left) {
         client.right = client.left;
@@ -143,7 +153,16 @@ LRESULT HitTest(HWND handle, POINT point) {
         }
         return HTCAPTION;
     }
-    return HTBORDER;
+    const RECT down = BarRect(window, true);
+    const RECT across = BarRect(window, false);
+    if (PtInRect(&down, point)) {
+        return HTVSCROLL;
+    }
+    if (PtInRect(&across, point)) {
+        return HTHSCROLL;
+    }
+    const RECT corner{down.left, across.top, down.right, across.bottom};
+    return !IsRectEmpty(&down) && !IsRectEmpty(&across) && PtInRect(&corner, point) ? HTGROWBOX : HTBORDER;
 }
 
 namespace {

@@ -6,6 +6,7 @@
 #include "user/icons.h"
 #include "user/nonclient.h"
 #include "user/queue.h"
+#include "user/scrollbar/bar.h"
 
 namespace platform::user {
 namespace {
@@ -158,7 +159,7 @@ void PaintFrame(HWND handle, HRGN region, int pressed) {
         return;
     }
     const bool bare = FrameWidth(picture.style, picture.exStyle) == 0 && !(picture.exStyle & WS_EX_CLIENTEDGE) &&
-                      picture.caption.height == 0;
+                      picture.caption.height == 0 && !(picture.style & (WS_HSCROLL | WS_VSCROLL));
     if (bare || (picture.style & WS_MINIMIZE)) {
         return;
     }
@@ -181,6 +182,9 @@ void PaintFrame(HWND handle, HRGN region, int pressed) {
     }
     if (picture.exStyle & WS_EX_CLIENTEDGE) {
         DrawEdge(context, &rect, EDGE_SUNKEN, BF_RECT);
+    }
+    if (picture.style & (WS_HSCROLL | WS_VSCROLL)) {
+        DrawWindowBars(handle, context);
     }
     if (clip) {
         SelectClipRgn(context, nullptr);

@@ -3,6 +3,7 @@
 
 #include "user/nonclient.h"
 #include "user/queue.h"
+#include "user/scrollbar/bar.h"
 
 namespace platform::user {
 namespace {
@@ -226,6 +227,12 @@ void PressFrame(HWND handle, int hitCode, POINT point) {
                              static_cast<WPARAM>(StyleOf(handle) & WS_MAXIMIZE ? SC_RESTORE : SC_MAXIMIZE), where);
             }
             break;
+        case HTVSCROLL:
+            SendMessageA(handle, WM_SYSCOMMAND, SC_VSCROLL | HTVSCROLL, where);
+            break;
+        case HTHSCROLL:
+            SendMessageA(handle, WM_SYSCOMMAND, SC_HSCROLL | HTHSCROLL, where);
+            break;
         default:
             if (hitCode >= HTSIZEFIRST && hitCode <= HTSIZELAST) {
                 SendMessageA(handle, WM_SYSCOMMAND, SC_SIZE | static_cast<WPARAM>(hitCode - HTSIZEFIRST + 1), where);
@@ -247,6 +254,12 @@ LRESULT SystemCommand(HWND handle, WPARAM command, POINT point) {
                 MoveOrSize(handle, detail ? HTSIZEFIRST + static_cast<int>(detail) - 1 : HTBOTTOMRIGHT, detail != 0,
                            point);
             }
+            break;
+        case SC_VSCROLL:
+            TrackBar({handle, SB_VERT}, point);
+            break;
+        case SC_HSCROLL:
+            TrackBar({handle, SB_HORZ}, point);
             break;
         case SC_CLOSE:
             if (const Window* window = PeekWindow(handle); window && (window->windowClass->style & CS_NOCLOSE)) {

@@ -92,6 +92,7 @@ struct Window {
     // Dialogs and controls: shared, so that a handler that is running outlives its window.
     std::shared_ptr<DialogState> dialog;  ///< made when DefDlgProcA first sees the window
     std::shared_ptr<ControlData> control;  ///< what a predefined control keeps (controls/controls.h)
+    std::shared_ptr<struct WindowBars> bars;  ///< scroll bars, made when they are first asked about (scrollbar/bar.h)
 };
 
 using UserGuard = std::lock_guard<std::recursive_mutex>;

@@ -1,7 +1,11 @@
 /* The flat families' headers serve C programs too: this file only has to compile and link. */
 #include <cvutil32.h>
 
+#include <cvutil32/animate.h>
+#include <cvutil32/buddyfr.h>
+#include <cvutil32/cklist.h>
 #include <cvutil32/datectrl.h>
+#include <cvutil32/grbutton.h>
 #include <cvutil32/scroll.h>
 #include <cvutil32/util.h>
 
@@ -13,5 +17,6 @@ BOOL HeadersServeC(void) {
     date.wMonth = 12;
     date.wDay = 31;
     return DATECTRL_IncrementDate(&date, DATECTRL_DAY) && date.wYear == 1996 && UTIL_GetModuleInstance() != NULL &&
-           SCROLL_SetAssociateWindow(NULL, NULL) == NULL;
+           SCROLL_SetAssociateWindow(NULL, NULL) == NULL && !GRBUTTON_SetHBitmaps(NULL, NULL, NULL) &&
+           !ANIMATE_Stop(NULL);
 }

@@ -3,7 +3,11 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdlib>
+#include <future>
+#include <memory>
+#include <utility>
 
 namespace platform::display {
 namespace {
@@ -11,6 +15,7 @@ namespace {
 constexpr unsigned kArrow = 32512;  // IDC_ARROW as a number
 constexpr int kFrameMilliseconds = 8;
 constexpr int kIdleMilliseconds = 1000;
+constexpr std::chrono::milliseconds kClipboardWait{2000};
 
 SDL_SystemCursor SystemCursor(unsigned idc) {
     switch (idc) {
@@ -174,6 +179,7 @@ void SdlDisplay::Loop() {
             } while (running && SDL_PollEvent(&event) != 0);
         }
         ApplyCursor();
+        RunTasks();
         if ((changed || stale) && static_cast<int>(nextFrame - SDL_GetTicks()) <= 0) {
             Upload();
             if (stale) {
@@ -341,6 +347,56 @@ void SdlDisplay::Wake() {
 void SdlDisplay::SetCursorShape(unsigned idc) {
     if (wantedCursor.exchange(idc) != idc) {
         Post();
+    }
+}
+
+// The host's clipboard belongs to another program, which may be slow to answer or not answer at all.
+bool SdlDisplay::RunOnLoop(std::function<void()> task) {
+    auto done = std::make_shared<std::promise<void>>();
+    std::future<void> finished = done->get_future();
+    {
+        const std::lock_guard lock(taskMutex);
+        tasks.emplace_back([done, task = std::move(task)] {
+            task();
+            done->set_value();
+        });
+    }
+    Post();
+    return finished.wait_for(kClipboardWait) == std::future_status::ready;
+}
+
+void SdlDisplay::RunTasks() {
+    std::vector<std::function<void()>> due;
+    {
+        const std::lock_guard lock(taskMutex);
+        due.swap(tasks);
+    }
+    for (const auto& task : due) {
+        task();
+    }
+}
+
+bool SdlDisplay::ReadClipboard(std::string* text) {
+    if (!running) {
+        return false;
+    }
+    const auto read = std::make_shared<std::string>();
+    const bool answered = RunOnLoop([read] {
+        if (char* found = SDL_GetClipboardText()) {
+            *read = found;
+            SDL_free(found);
+        }
+    });
+    if (!answered || read->empty()) {
+        return false;
+    }
+    *text = *read;
+    return true;
+}
+
+void SdlDisplay::WriteClipboard(const std::string& text) {
+    if (running) {
+        RunOnLoop([text] { SDL_SetClipboardText(text.c_str()); });
     }
 }
 

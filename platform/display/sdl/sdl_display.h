@@ -9,10 +9,12 @@
 
 #include <atomic>
 #include <condition_variable>
+#include <functional>
 #include <map>
 #include <mutex>
 #include <string>
 #include <thread>
+#include <vector>
 
 namespace platform::display {
 
@@ -26,6 +28,8 @@ class SdlDisplay final : public Display {
 
     void Wake() override;
     void SetCursorShape(unsigned idc) override;
+    bool ReadClipboard(std::string* text) override;
+    void WriteClipboard(const std::string& text) override;
     bool Interactive() const override {
         return true;
     }
@@ -45,6 +49,8 @@ class SdlDisplay final : public Display {
     void Present();
     void ApplyCursor();
     void Post();
+    bool RunOnLoop(std::function<void()> task);
+    void RunTasks();
 
     const Sink sink;
     const Source source;
@@ -62,6 +68,9 @@ class SdlDisplay final : public Display {
     std::atomic<bool> posted{false};   // an event is on its way that the loop has not seen yet
     std::atomic<bool> changed{false};  // the source may have something to upload
     std::atomic<unsigned> wantedCursor;
+
+    std::mutex taskMutex;
+    std::vector<std::function<void()>> tasks;  // for the loop, from other threads
 
     // The display's thread alone:
     SDL_Window* window = nullptr;

@@ -76,7 +76,11 @@ void DrawStretchedBitmap(HDC context, HBITMAP bitmap, const RECT& rect) {
 void RegisterDialogClasses() {
     RegisterSystemClass("#32770", DefDlgProcA, CS_SAVEBITS | CS_DBLCLKS, DLGWINDOWEXTRA, IDC_ARROW, nullptr);
     RegisterSystemClass("button", ButtonProcedure, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 0, IDC_ARROW, nullptr);
+    RegisterSystemClass("edit", EditProcedure, CS_DBLCLKS, 0, IDC_IBEAM, nullptr);
     RegisterSystemClass("static", StaticProcedure, CS_DBLCLKS, 0, IDC_ARROW, nullptr);
+    RegisterSystemClass("listbox", ListBoxProcedure, CS_DBLCLKS, 0, IDC_ARROW, nullptr);
+    RegisterSystemClass("ComboLBox", ListBoxProcedure, CS_DBLCLKS | CS_SAVEBITS, 0, IDC_ARROW, nullptr);
+    RegisterSystemClass("scrollbar", ScrollBarProcedure, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 0, IDC_ARROW, nullptr);
 }
 
 }  // namespace platform::user

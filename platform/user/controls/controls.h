@@ -12,11 +12,15 @@
 
 namespace platform::user {
 
-/// Registers "#32770", "button" and "static"; InitialiseClasses calls it.
+/// Registers "#32770", "button", "edit" and "static"; InitialiseClasses calls it.
+/// Registers "#32770" and the classes of the predefined controls; InitialiseClasses calls it.
 void RegisterDialogClasses();
 
 LRESULT CALLBACK ButtonProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+LRESULT CALLBACK EditProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT CALLBACK StaticProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+LRESULT CALLBACK ListBoxProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+LRESULT CALLBACK ScrollBarProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
 /// What a control keeps in its window. Handlers hold it shared: it outlives the window while one of them runs.
 struct ControlData {

@@ -1,5 +1,6 @@
 // What happens when global memory runs out, which only this host's platform layer can be told to pretend.
 #include <cvutil32/datectrl.h>
+#include <cvutil32/grbutton.h>
 #include <cvutil32/scroll.h>
 
 #include "core/globalblock.h"
@@ -28,6 +29,24 @@ TEST(Allocation, ControlsWithoutMemoryAreNotCreated) {
     HWND const control = CreateWindowExA(0, DATECTRL_CLASSNAME, "", WS_CHILD, 0, 0, 50, 20, host, nullptr,
                                          GetModuleHandleA(nullptr), nullptr);
     EXPECT_NE(nullptr, control) << "and are once there is memory again";
+}
+
+TEST(Allocation, GraphicButtonWithoutMemoryStaysAPlainButton) {
+    TestWindow const host;
+    LeakCheck const leaks;
+    CvPlatformFailAllocation(1);
+    HWND const button = CreateWindowExA(0, GRBUTTON_CLASSNAME, "plain", WS_CHILD | WS_VISIBLE | BS_DEFPUSHBUTTON, 0, 0,
+                                        50, 20, host, nullptr, GetModuleHandleA(nullptr), nullptr);
+    CvPlatformFailAllocation(0);
+    ASSERT_NE(nullptr, button);
+    EXPECT_EQ(BS_DEFPUSHBUTTON, GetWindowLongA(button, GWL_STYLE) & 0xFFFF);
+    EXPECT_EQ(nullptr, GetPropA(button, "GrButton_IsValid"));
+    EXPECT_EQ(nullptr, GetPropA(host, "GrButton_ParentWndProc"));
+    HBITMAP const bitmap = CreateBitmap(4, 4, 1, 1, nullptr);
+    EXPECT_FALSE(GRBUTTON_SetHBitmaps(button, bitmap, bitmap));
+    DeleteObject(bitmap);
+    UpdateWindow(button);
+    DestroyWindow(button);
 }
 
 TEST(Allocation, BlockThatCannotGrowStaysAsItWas) {

@@ -1,0 +1,35 @@
+/// @file cklist.h
+/// The check list, window class "Calverin_CheckList1".
+///
+/// A list box whose items have a check box in front of their text: an item is ticked exactly when it is selected. It is
+/// a superclass of the system's "listbox" and is used with the messages and notifications of one. The class sets no
+/// styles; ask for these:
+///
+///     CONTROL "", IDC_PARTS, "Calverin_CheckList1", WS_CHILD | WS_VISIBLE | WS_BORDER | WS_VSCROLL | WS_TABSTOP |
+///             LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | LBS_MULTIPLESEL | LBS_NOTIFY, 7, 7, 100, 80
+///
+///     SendDlgItemMessage(dialog, IDC_PARTS, LB_ADDSTRING, 0, (LPARAM)"Engine");
+///     SendDlgItemMessage(dialog, IDC_PARTS, LB_SETSEL, TRUE, 0);                       // ticked
+///     ...
+///     if (SendDlgItemMessage(dialog, IDC_PARTS, LB_GETSEL, 0, 0) > 0) FitEngine();
+///
+/// A click or the space bar toggles an item; two quick clicks toggle it twice, there is no double click.
+///
+/// Drawing and measuring. The parent is subclassed when its first check list is created, and answers `WM_DRAWITEM` for
+/// check lists and `WM_MEASUREITEM` for everything by itself:
+///
+/// - An item shows the box at a fixed distance from the list's left edge, then its text, in the colour that the list's
+///   device context has. A selected item is not highlighted: the tick is the only sign. The item that has the focus
+///   shows an empty box when it is drawn as a whole while it is selected, and so does every item of a disabled list.
+///   Only a text's first 255 characters are shown.
+/// - `WM_DRAWITEM` of other controls reaches the parent, with the control's identifier as wParam; the answer is
+///   discarded: it is 0.
+/// - `WM_MEASUREITEM` never reaches the parent. Every owner-drawn list box of this parent gets the height that the
+/// check
+///   list would have; other controls keep the height that they ask with.
+///
+/// The class has no functions. The library registers it when it is loaded and takes it back when it is unloaded.
+#pragma once
+
+/// Class name of the check list.
+#define CKLIST_CLASSNAME "Calverin_CheckList1"

@@ -1,0 +1,31 @@
+/// @file handles.h
+/// Handles of keys: roots and open keys, with what they may be used for.
+#pragma once
+
+#include <windows.h>
+
+#include "registry/database.h"
+
+namespace platform::registry {
+
+/// @returns an open handle, or ERROR_OUTOFMEMORY.
+LONG OpenHandle(KeyId key, REGSAM access, HKEY* handle);
+
+/// @param needed  the rights that the handle must have.
+/// @returns ERROR_INVALID_HANDLE, or ERROR_ACCESS_DENIED for a handle that lacks a right.
+LONG FindHandleKey(HKEY handle, REGSAM needed, KeyId* key);
+
+/// @returns ERROR_INVALID_HANDLE for what is no open key; closing a root does nothing.
+LONG CloseHandleKey(HKEY handle);
+
+/// Runs a call of the API: no exception leaves it.
+template <class Call>
+LONG Answer(Call call) {
+    try {
+        return call();
+    } catch (const std::exception&) {
+        return ERROR_OUTOFMEMORY;
+    }
+}
+
+}  // namespace platform::registry

@@ -1,0 +1,106 @@
+// Opening, making and deleting keys.
+#include <windows.h>
+
+#include <cstring>
+#include <exception>
+
+#include "registry/handles.h"
+#include "registry/store.h"
+
+using namespace platform::registry;
+
+LONG WINAPI RegCloseKey(HKEY key) {
+    return CloseHandleKey(key);
+}
+
+LONG WINAPI RegCreateKeyExA(HKEY key, LPCSTR subkey, DWORD reserved, LPSTR className, DWORD options, REGSAM access,
+                            LPSECURITY_ATTRIBUTES, PHKEY result, LPDWORD disposition) {
+    if (!subkey) {
+        return ERROR_BADKEY;
+    }
+    if (!result || reserved || options != REG_OPTION_NON_VOLATILE) {
+        return ERROR_INVALID_PARAMETER;
+    }
+    return Answer([&]() -> LONG {
+        KeyId from = 0;
+        KeyId found = 0;
+        bool created = false;
+        // Making a subkey needs the right to; opening one that exists does not.
+        LONG error = FindHandleKey(key, 0, &from);
+        if (error != ERROR_SUCCESS) {
+            return error;
+        }
+        if (Store::Use store{&error}) {
+            error = FindHandleKey(key, KEY_CREATE_SUB_KEY, &from) == ERROR_SUCCESS
+                        ? store->CreateKey(from, subkey, className ? className : "", &found, &created)
+                        : store->FindKey(from, subkey, &found);
+            if (error == ERROR_FILE_NOT_FOUND) {
+                error = ERROR_ACCESS_DENIED;
+            }
+        }
+        error = error == ERROR_SUCCESS ? OpenHandle(found, access, result) : error;
+        if (error == ERROR_SUCCESS && disposition) {
+            *disposition = created ? REG_CREATED_NEW_KEY : REG_OPENED_EXISTING_KEY;
+        }
+        return error;
+    });
+}
+
+LONG WINAPI RegCreateKeyA(HKEY key, LPCSTR subkey, PHKEY result) {
+    return RegCreateKeyExA(key, subkey ? subkey : "", 0, nullptr, REG_OPTION_NON_VOLATILE, MAXIMUM_ALLOWED, nullptr,
+                           result, nullptr);
+}
+
+LONG WINAPI RegOpenKeyExA(HKEY key, LPCSTR subkey, DWORD, REGSAM access, PHKEY result) {
+    if (!result) {
+        return ERROR_INVALID_PARAMETER;
+    }
+    *result = nullptr;
+    return Answer([&]() -> LONG {
+        KeyId from = 0;
+        KeyId found = 0;
+        LONG error = FindHandleKey(key, 0, &from);
+        if (error != ERROR_SUCCESS) {
+            return error;
+        }
+        if (Store::Use store{&error}) {
+            error = store->FindKey(from, subkey ? subkey : "", &found);
+        }
+        return error == ERROR_SUCCESS ? OpenHandle(found, access, result) : error;
+    });
+}
+
+LONG WINAPI RegOpenKeyA(HKEY key, LPCSTR subkey, PHKEY result) {
+    return RegOpenKeyExA(key, subkey, 0, MAXIMUM_ALLOWED, result);
+}
+
+LONG WINAPI RegDeleteKeyA(HKEY key, LPCSTR subkey) {
+    if (!subkey) {
+        return ERROR_INVALID_PARAMETER;
+    }
+    return Answer([&]() -> LONG {
+        KeyId from = 0;
+        LONG error = FindHandleKey(key, 0, &from);
+        if (error != ERROR_SUCCESS) {
+            return error;
+        }
+        if (Store::Use store{&error}) {
+            error = store->DeleteKey(from, subkey);
+        }
+        return error;
+    });
+}
+
+LONG WINAPI RegFlushKey(HKEY key) {
+    return Answer([&]() -> LONG {
+        KeyId from = 0;
+        LONG error = FindHandleKey(key, 0, &from);
+        if (error != ERROR_SUCCESS) {
+            return error;
+        }
+        if (Store::Use store{&error}) {
+            error = store->Flush();
+        }
+        return error;
+    });
+}

@@ -1,0 +1,351 @@
+#include "registry/store.h"
+
+#include <pthread.h>
+
+#include <cstdlib>
+
+#include "base/state.h"
+#include "kernel/encoding.h"
+#include "registry/names.h"
+
+namespace platform::registry {
+namespace {
+
+constexpr std::size_t kMostKept = 16 << 20;
+constexpr std::size_t kEntryCost = 96;
+
+// "key:name"; a name may hold any byte, a number no colon.
+void ComposeName(std::string& into, KeyId key, std::string_view name) {
+    into.assign(reinterpret_cast<const char*>(&key), sizeof key);
+    into.append(name);
+}
+
+}  // namespace
+
+// Never destroyed: modules may still use the registry while the process ends.
+Store& Store::Instance() {
+    static Store& store = *[] {
+        pthread_atfork(CloseForFork, AfterFork, AfterFork);
+        std::atexit(CloseAtExit);
+        return new Store;
+    }();
+    return store;
+}
+
+// A connection must not pass to another process; each of the two makes one of its own when it needs it.
+void Store::CloseForFork() {
+    Store& store = Instance();
+    store.lock_.lock();
+    store.database_.reset();
+    store.current_ = false;
+}
+
+void Store::AfterFork() {
+    Instance().lock_.unlock();
+}
+
+// The last process that leaves puts the log into the file.
+void Store::CloseAtExit() {
+    Store& store = Instance();
+    const std::lock_guard guard(store.lock_);
+    store.database_.reset();
+    store.current_ = false;
+}
+
+Store::Use::Use(LONG* error) : store_(Instance()), guard_(store_.lock_) {
+    *error = store_.Refresh();
+    ready_ = *error == ERROR_SUCCESS;
+}
+
+void Store::Forget() {
+    keys_.clear();
+    values_.clear();
+    keyLists_.clear();
+    valueLists_.clear();
+    kept_ = 0;
+}
+
+void Store::Remember(std::size_t bytes) {
+    kept_ += bytes + kEntryCost;
+}
+
+LONG Store::Refresh() {
+    std::string folder = base::StateFolder();
+    if (!database_ || folder != folder_) {
+        database_.reset();
+        LONG error = ERROR_SUCCESS;
+        database_ = Database::Open(folder, &error);
+        if (!database_) {
+            return error;
+        }
+        folder_ = std::move(folder);
+        current_ = false;
+    }
+    // The head is read before anything else: what is read later is at least as new as what the head stands for.
+    Database::Head head;
+    const bool known = database_->ReadHead(&head);
+    const bool same = known ? current_ && head == head_ : current_ && database_->IsFrozen();
+    if (!same || kept_ > kMostKept) {
+        Forget();
+        head_ = head;
+        current_ = true;
+    }
+    return ERROR_SUCCESS;
+}
+
+// After a write of our own: when the log has seen exactly one commit since the last look, it was this one, and all that
+// is kept is still true.
+LONG Store::Changed(int code) {
+    if (code != SQLITE_DONE) {
+        return database_->Failure(code);
+    }
+    Database::Head head;
+    if (database_->ReadHead(&head) && head.Commits() == head_.Commits() + 1) {
+        head_ = head;
+    }
+    return ERROR_SUCCESS;
+}
+
+LONG Store::FindBelow(KeyId from, const std::string& folded, KeyId* found) {
+    Statement statement = database_->Use(Query::FindKey);
+    const int code = statement.Bind(1, from).Bind(2, folded).Step();
+    *found = code == SQLITE_ROW ? statement.Number(0) : 0;
+    return code == SQLITE_DONE ? ERROR_FILE_NOT_FOUND : database_->Failure(code);
+}
+
+LONG Store::FindKey(KeyId from, std::string_view path, KeyId* found) {
+    ComposeName(wanted_, from, path);
+    if (const auto kept = keys_.find(wanted_); kept != keys_.end()) {
+        *found = kept->second;
+        return *found ? ERROR_SUCCESS : ERROR_FILE_NOT_FOUND;
+    }
+    std::vector<KeyName> names;
+    LONG error = SplitKeyPath(path, names);
+    if (error != ERROR_SUCCESS) {
+        return error;
+    }
+    *found = from;
+    if (names.empty()) {
+        error = ClassOf(from, nullptr);
+    }
+    for (const KeyName& name : names) {
+        error = FindBelow(*found, name.folded, found);
+        if (error != ERROR_SUCCESS) {
+            *found = 0;
+            break;
+        }
+    }
+    if (error == ERROR_SUCCESS || error == ERROR_FILE_NOT_FOUND) {
+        Remember(wanted_.size());
+        keys_.emplace(wanted_, *found);
+    }
+    return error;
+}
+
+LONG Store::CreateKey(KeyId from, std::string_view path, std::string_view className, KeyId* found, bool* created) {
+    *created = false;
+    LONG error = FindKey(from, path, found);
+    if (error != ERROR_FILE_NOT_FOUND) {
+        return error;
+    }
+    if (const int code = database_->Use(Query::Begin).Step(); code != SQLITE_DONE) {
+        return database_->Failure(code);
+    }
+    error = CreateMissing(from, path, className, found, created);
+    if (error == ERROR_SUCCESS) {
+        error = database_->Failure(database_->Use(Query::Commit).Step());
+    }
+    if (error != ERROR_SUCCESS) {
+        database_->Use(Query::Rollback).Step();
+    }
+    // Keys are made rarely; what is kept is simply read again.
+    current_ = false;
+    return error;
+}
+
+LONG Store::CreateMissing(KeyId from, std::string_view path, std::string_view className, KeyId* found, bool* created) {
+    std::vector<KeyName> names;
+    SplitKeyPath(path, names);
+    LONG error = ClassOf(from, nullptr);
+    *found = from;
+    const std::string lastClass = kernel::Utf8FromAnsi(className);
+    for (std::size_t i = 0; i < names.size() && error == ERROR_SUCCESS; ++i) {
+        const KeyId parent = *found;
+        error = FindBelow(parent, names[i].folded, found);
+        if (error == ERROR_FILE_NOT_FOUND) {
+            const std::string_view text = i + 1 == names.size() ? std::string_view(lastClass) : std::string_view();
+            const int code = database_->Use(Query::InsertKey)
+                                 .Bind(1, parent)
+                                 .Bind(2, names[i].folded)
+                                 .Bind(3, names[i].name)
+                                 .Bind(4, text)
+                                 .Step();
+            error = database_->Failure(code);
+            *found = database_->LastKey();
+            *created = error == ERROR_SUCCESS;
+        }
+    }
+    return error;
+}
+
+LONG Store::DeleteKey(KeyId from, std::string_view path) {
+    KeyId key = 0;
+    LONG error = FindKey(from, path, &key);
+    if (error != ERROR_SUCCESS) {
+        return error;
+    }
+    if (key <= kClassesRoot) {
+        return ERROR_ACCESS_DENIED;
+    }
+    if (const int code = database_->Use(Query::Begin).Step(); code != SQLITE_DONE) {
+        return database_->Failure(code);
+    }
+    error = DeleteFound(key);
+    if (error == ERROR_SUCCESS) {
+        error = database_->Failure(database_->Use(Query::Commit).Step());
+    }
+    if (error != ERROR_SUCCESS) {
+        database_->Use(Query::Rollback).Step();
+    }
+    current_ = false;
+    return error;
+}
+
+LONG Store::DeleteFound(KeyId key) {
+    {
+        const int code = database_->Use(Query::ListKeys).Bind(1, key).Step();
+        if (code != SQLITE_DONE) {
+            return code == SQLITE_ROW ? ERROR_ACCESS_DENIED : database_->Failure(code);
+        }
+    }
+    for (const Query query : {Query::DeleteAll, Query::DeleteKey}) {
+        const int code = database_->Use(query).Bind(1, key).Step();
+        if (code != SQLITE_DONE) {
+            return database_->Failure(code);
+        }
+    }
+    return database_->Changes() ? ERROR_SUCCESS : ERROR_FILE_NOT_FOUND;
+}
+
+LONG Store::ClassOf(KeyId key, std::string* className) {
+    Statement statement = database_->Use(Query::KeyExists);
+    const int code = statement.Bind(1, key).Step();
+    if (code == SQLITE_ROW && className) {
+        *className = kernel::AnsiFromUtf8(statement.Bytes(0));
+    }
+    return code == SQLITE_DONE ? ERROR_KEY_DELETED : database_->Failure(code);
+}
+
+LONG Store::MissingValue(KeyId key, LONG otherwise) {
+    const LONG error = ClassOf(key, nullptr);
+    return error == ERROR_SUCCESS ? otherwise : error;
+}
+
+LONG Store::ReadValue(KeyId key, std::string_view name, const Value** value) {
+    ComposeName(wanted_, key, Folded(name));
+    auto kept = values_.find(wanted_);
+    if (kept == values_.end()) {
+        std::optional<Value> read;
+        {
+            Statement statement = database_->Use(Query::FindValue);
+            const std::string_view folded = std::string_view(wanted_).substr(sizeof key);
+            const int code = statement.Bind(1, key).Bind(2, folded).Step();
+            if (code == SQLITE_ROW) {
+                read = Value{static_cast<DWORD>(statement.Number(0)), statement.Bytes(1)};
+            } else if (code != SQLITE_DONE) {
+                return database_->Failure(code);
+            }
+        }
+        if (!read) {
+            if (const LONG error = MissingValue(key, ERROR_SUCCESS); error != ERROR_SUCCESS) {
+                return error;
+            }
+        }
+        Remember(wanted_.size() + (read ? read->data.size() : 0));
+        kept = values_.emplace(wanted_, std::move(read)).first;
+    }
+    *value = kept->second ? &*kept->second : nullptr;
+    return kept->second ? ERROR_SUCCESS : ERROR_FILE_NOT_FOUND;
+}
+
+LONG Store::WriteValue(KeyId key, std::string_view name, DWORD type, std::string_view data) {
+    ComposeName(wanted_, key, Folded(name));
+    const std::string_view folded = std::string_view(wanted_).substr(sizeof key);
+    const std::string utf8 = kernel::Utf8FromAnsi(name);
+    const int code = database_->Use(Query::WriteValue)
+                         .Bind(1, key)
+                         .Bind(2, folded)
+                         .Bind(3, utf8)
+                         .Bind(4, std::int64_t{type})
+                         .BindBytes(5, data)
+                         .Step();
+    values_.erase(wanted_);
+    valueLists_.erase(key);
+    const LONG error = Changed(code);
+    return error == ERROR_SUCCESS && database_->Changes() == 0 ? ERROR_KEY_DELETED : error;
+}
+
+LONG Store::DeleteValue(KeyId key, std::string_view name) {
+    ComposeName(wanted_, key, Folded(name));
+    const std::string_view folded = std::string_view(wanted_).substr(sizeof key);
+    const int code = database_->Use(Query::DeleteValue).Bind(1, key).Bind(2, folded).Step();
+    values_.erase(wanted_);
+    valueLists_.erase(key);
+    const LONG error = Changed(code);
+    return error == ERROR_SUCCESS && database_->Changes() == 0 ? MissingValue(key, ERROR_FILE_NOT_FOUND) : error;
+}
+
+LONG Store::ListKeys(KeyId key, const std::vector<ListedKey>** list) {
+    auto kept = keyLists_.find(key);
+    if (kept == keyLists_.end()) {
+        std::vector<ListedKey> read;
+        Statement statement = database_->Use(Query::ListKeys);
+        statement.Bind(1, key);
+        int code = SQLITE_DONE;
+        while ((code = statement.Step()) == SQLITE_ROW) {
+            read.push_back({kernel::AnsiFromUtf8(statement.Bytes(0)), kernel::AnsiFromUtf8(statement.Bytes(1))});
+            Remember(read.back().name.size());
+        }
+        LONG error = database_->Failure(code);
+        if (error == ERROR_SUCCESS && read.empty()) {
+            error = ClassOf(key, nullptr);
+        }
+        if (error != ERROR_SUCCESS) {
+            return error;
+        }
+        kept = keyLists_.emplace(key, std::move(read)).first;
+    }
+    *list = &kept->second;
+    return ERROR_SUCCESS;
+}
+
+LONG Store::ListValues(KeyId key, const std::vector<ListedValue>** list) {
+    auto kept = valueLists_.find(key);
+    if (kept == valueLists_.end()) {
+        std::vector<ListedValue> read;
+        Statement statement = database_->Use(Query::ListValues);
+        statement.Bind(1, key);
+        int code = SQLITE_DONE;
+        while ((code = statement.Step()) == SQLITE_ROW) {
+            read.push_back({kernel::AnsiFromUtf8(statement.Bytes(0)), static_cast<DWORD>(statement.Number(1)),
+                            static_cast<DWORD>(statement.Number(2))});
+            Remember(read.back().name.size());
+        }
+        LONG error = database_->Failure(code);
+        if (error == ERROR_SUCCESS && read.empty()) {
+            error = ClassOf(key, nullptr);
+        }
+        if (error != ERROR_SUCCESS) {
+            return error;
+        }
+        kept = valueLists_.emplace(key, std::move(read)).first;
+    }
+    *list = &kept->second;
+    return ERROR_SUCCESS;
+}
+
+LONG Store::Flush() {
+    return database_->Failure(database_->Flush());
+}
+
+}  // namespace platform::registry

@@ -1,0 +1,263 @@
+// What a list box holds: adding, sorting, removing and searching items.
+#include <algorithm>
+#include <cstring>
+
+#include "user/controls/listbox/list.h"
+
+namespace platform::user {
+namespace {
+
+constexpr DWORD kIgnoreCase = NORM_IGNORECASE;
+
+int CompareTexts(const ListData& list, const char* a, int lengthA, const char* b, int lengthB) {
+    return CompareStringA(list.locale, kIgnoreCase, a, lengthA, b, lengthB) - CSTR_EQUAL;
+}
+
+/// The owner says which of two items comes first. An index of -1 is a value that is not in the list.
+int AskOrder(const ListData& list, int first, ULONG_PTR firstData, int second, ULONG_PTR secondData) {
+    const ListOwner owner = OwnerOf(list);
+    COMPAREITEMSTRUCT pair{};
+    pair.CtlType = owner.kind;
+    pair.CtlID = owner.id;
+    pair.hwndItem = owner.control;
+    pair.itemID1 = static_cast<UINT>(first);
+    pair.itemData1 = firstData;
+    pair.itemID2 = static_cast<UINT>(second);
+    pair.itemData2 = secondData;
+    pair.dwLocaleId = list.locale;
+    return static_cast<int>(SendMessageA(owner.parent, WM_COMPAREITEM, owner.id, reinterpret_cast<LPARAM>(&pair)));
+}
+
+/// @returns where a new item goes in the order: behind those that are equal to it.
+int SortedPlace(const ListData& list, LPARAM wanted) {
+    const auto* text = reinterpret_cast<const char*>(wanted);
+    const bool texts = list.HasTexts();
+    const int length = texts ? static_cast<int>(std::strlen(text)) : 0;
+    int low = 0;
+    int high = list.items.Count();
+    while (low < high) {
+        const int middle = low + (high - low) / 2;
+        const ListItem& item = list.items[middle];
+        const int order = texts
+                              ? CompareTexts(list, text, length, item.text.c_str(), static_cast<int>(item.text.size()))
+                              : AskOrder(list, -1, static_cast<ULONG_PTR>(wanted), middle, item.data);
+        // The owner may have taken items away.
+        high = std::min(high, list.items.Count());
+        if (order < 0)
+            high = middle;
+        else
+            low = middle + 1;
+    }
+    return std::min(low, list.items.Count());
+}
+
+LRESULT NoSpace(const ListData& list) {
+    NotifyList(list, LBN_ERRSPACE);
+    return LB_ERRSPACE;
+}
+
+LRESULT InsertAt(ListData& list, int index, LPARAM what) {
+    const bool texts = list.HasTexts();
+    const char* text = texts ? reinterpret_cast<const char*>(what) : nullptr;
+    if (!list.items.Insert(index, text, texts ? 0 : static_cast<ULONG_PTR>(what)))
+        return NoSpace(list);
+    if (list.chosen >= index)
+        ++list.chosen;
+    if (list.caret >= index && list.items.Count() > 1)
+        ++list.caret;
+    if (list.anchor >= index)
+        ++list.anchor;
+    if (list.Variable()) {
+        const int height = MeasureItem(list, index);
+        if (list.items.Has(index))
+            list.items[index].height = height;
+    }
+    UpdateBars(list);
+    InvalidateFrom(list, index);
+    return index;
+}
+
+LRESULT OnAdd(ListData& list, LPARAM what) {
+    if (list.Style() & LBS_NODATA)
+        return LB_ERR;
+    if (list.HasTexts() && !what)
+        what = reinterpret_cast<LPARAM>("");
+    const bool sorted = (list.Style() & LBS_SORT) != 0;
+    return InsertAt(list, sorted ? SortedPlace(list, what) : list.items.Count(), what);
+}
+
+LRESULT OnInsert(ListData& list, int index, LPARAM what) {
+    if (list.Style() & LBS_NODATA)
+        return LB_ERR;
+    if (index == -1)
+        index = list.items.Count();
+    if (index < 0 || index > list.items.Count())
+        return LB_ERR;
+    return InsertAt(list, index, what);
+}
+
+/// Tells the owner of an item that goes. Items without a value mean nothing to the owner of a list that draws itself.
+void TellDeleted(const ListData& list, int index) {
+    const ULONG_PTR data = list.items[index].data;
+    const ListOwner owner = OwnerOf(list);
+    if ((!list.OwnerDrawn() && !data) || !owner.parent || (list.Style() & LBS_NODATA))
+        return;
+    DELETEITEMSTRUCT item{owner.kind, owner.id, static_cast<UINT>(index), owner.control, data};
+    SendMessageA(owner.parent, WM_DELETEITEM, owner.id, reinterpret_cast<LPARAM>(&item));
+}
+
+void Forget(int& place, int index) {
+    if (place > index)
+        --place;
+}
+
+LRESULT OnDelete(ListData& list, int index) {
+    if (!list.items.Has(index))
+        return LB_ERR;
+    TellDeleted(list, index);
+    if (!list.items.Has(index))
+        return LB_ERR;
+    // What is removed may be out of view at the top.
+    InvalidateFrom(list, index);
+    list.items.Remove(index);
+    if (list.chosen == index)
+        list.chosen = -1;
+    for (int* place : {&list.chosen, &list.caret, &list.anchor})
+        Forget(*place, index);
+    list.caret = std::min(list.caret, std::max(0, list.items.Count() - 1));
+    list.anchor = std::min(list.anchor, list.items.Count() - 1);
+    UpdateBars(list);
+    InvalidateFrom(list, std::min(index, list.items.Count()));
+    return list.items.Count();
+}
+
+LRESULT OnGetText(const ListData& list, int index, char* buffer) {
+    if (!list.items.Has(index))
+        return LB_ERR;
+    const ListItem& item = list.items[index];
+    if (!list.HasTexts()) {
+        if (buffer)
+            std::memcpy(buffer, &item.data, sizeof item.data);
+        return sizeof item.data;
+    }
+    if (buffer)
+        std::memcpy(buffer, item.text.c_str(), item.text.size() + 1);
+    return static_cast<LRESULT>(item.text.size());
+}
+
+LRESULT OnSetCount(ListData& list, int count) {
+    if (!(list.Style() & LBS_NODATA) || count < 0)
+        return LB_ERR;
+    RemoveAll(list);
+    if (!list.items.Reserve(count))
+        return NoSpace(list);
+    for (int i = 0; i < count; ++i) {
+        if (!list.items.Insert(i, nullptr, 0))
+            return NoSpace(list);
+    }
+    UpdateBars(list);
+    InvalidateFrom(list, 0);
+    return LB_OKAY;
+}
+
+bool Matches(const ListData& list, int index, LPARAM wanted, bool exact) {
+    const ListItem& item = list.items[index];
+    if (!list.HasTexts()) {
+        if (list.Style() & LBS_SORT)
+            return AskOrder(list, -1, static_cast<ULONG_PTR>(wanted), index, item.data) == 0;
+        return item.data == static_cast<ULONG_PTR>(wanted);
+    }
+    const auto* text = reinterpret_cast<const char*>(wanted);
+    const std::size_t length = std::strlen(text);
+    if (exact ? item.text.size() != length : item.text.size() < length)
+        return false;
+    return CompareTexts(list, text, static_cast<int>(length), item.text.c_str(), static_cast<int>(length)) == 0;
+}
+
+}  // namespace
+
+int FindItem(const ListData& list, int start, LPARAM wanted, bool exact) {
+    if (list.HasTexts() && !wanted)
+        return LB_ERR;
+    const int count = list.items.Count();
+    if (start < -1 || start >= count)
+        start = -1;
+    for (int step = 1; step <= count; ++step) {
+        const int index = (start + step) % count;
+        if (list.items.Has(index) && Matches(list, index, wanted, exact))
+            return index;
+    }
+    return LB_ERR;
+}
+
+void RemoveAll(ListData& list) {
+    while (list.items.Count() > 0) {
+        const int last = list.items.Count() - 1;
+        TellDeleted(list, last);
+        if (list.items.Has(last))
+            list.items.Remove(last);
+    }
+    list.chosen = list.anchor = -1;
+    list.caret = list.top = list.offset = 0;
+}
+
+int MeasureItem(const ListData& list, int index) {
+    const ListOwner owner = OwnerOf(list);
+    MEASUREITEMSTRUCT item{};
+    item.CtlType = owner.kind;
+    item.CtlID = owner.id;
+    item.itemID = static_cast<UINT>(index);
+    item.itemWidth = static_cast<UINT>(ListClient(list).right);
+    item.itemHeight = static_cast<UINT>(list.itemHeight);
+    item.itemData = list.items.Has(index) ? list.items[index].data : 0;
+    if (owner.parent)
+        SendMessageA(owner.parent, WM_MEASUREITEM, owner.id, reinterpret_cast<LPARAM>(&item));
+    return std::clamp(static_cast<int>(item.itemHeight), 1, 0xFFFF);
+}
+
+LRESULT OnContentsMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lParam) {
+    const int index = static_cast<int>(wParam);
+    switch (message) {
+        case LB_ADDSTRING:
+            return OnAdd(list, lParam);
+        case LB_INSERTSTRING:
+            return OnInsert(list, index, lParam);
+        case LB_DELETESTRING:
+            return OnDelete(list, index);
+        case LB_RESETCONTENT:
+            RemoveAll(list);
+            UpdateBars(list);
+            InvalidateFrom(list, 0);
+            return LB_OKAY;
+        case LB_GETCOUNT:
+            return list.items.Count();
+        case LB_GETTEXT:
+            return OnGetText(list, index, reinterpret_cast<char*>(lParam));
+        case LB_GETTEXTLEN:
+            return OnGetText(list, index, nullptr);
+        case LB_GETITEMDATA:
+            return list.items.Has(index) ? static_cast<LRESULT>(list.items[index].data) : LB_ERR;
+        case LB_SETITEMDATA:
+            for (int i = index == -1 ? 0 : index; list.items.Has(i); ++i) {
+                list.items[i].data = static_cast<ULONG_PTR>(lParam);
+                if (index != -1)
+                    return LB_OKAY;
+            }
+            return index == -1 ? LB_OKAY : LB_ERR;
+        case LB_FINDSTRING:
+        case LB_FINDSTRINGEXACT:
+            return FindItem(list, index, lParam, message == LB_FINDSTRINGEXACT);
+        case LB_SELECTSTRING: {
+            const int found = list.Multiple() ? LB_ERR : FindItem(list, index, lParam, false);
+            return found < 0 ? found : SendMessageA(list.window, LB_SETCURSEL, static_cast<WPARAM>(found), 0);
+        }
+        case LB_SETCOUNT:
+            return OnSetCount(list, index);
+        case LB_INITSTORAGE:
+            return list.items.Reserve(index) ? list.items.Count() + index : NoSpace(list);
+        default:
+            return LB_ERR;
+    }
+}
+
+}  // namespace platform::user

@@ -1,0 +1,268 @@
+// Where the items of a list box lie, and how it scrolls.
+#include <algorithm>
+
+#include "user/controls/listbox/list.h"
+
+namespace platform::user {
+
+RECT ListClient(const ListData& list) {
+    RECT client{};
+    GetClientRect(list.window, &client);
+    return client;
+}
+
+int HeightOf(const ListData& list, int index) {
+    return list.Variable() && list.items.Has(index) ? list.items[index].height : list.itemHeight;
+}
+
+int RowsOf(const ListData& list) {
+    return std::max(1, static_cast<int>(ListClient(list).bottom) / std::max(1, list.itemHeight));
+}
+
+namespace {
+
+int ColumnsInView(const ListData& list) {
+    return std::max(1, static_cast<int>(ListClient(list).right) / std::max(1, list.columnWidth));
+}
+
+}  // namespace
+
+int PageFrom(const ListData& list, int index) {
+    if (list.Columns())
+        return RowsOf(list) * ColumnsInView(list);
+    if (!list.Variable())
+        return RowsOf(list);
+    const int height = ListClient(list).bottom;
+    int count = 0;
+    for (int used = 0; list.items.Has(index + count); ++count) {
+        used += HeightOf(list, index + count);
+        if (used > height)
+            break;
+    }
+    return std::max(1, count);
+}
+
+int LastTop(const ListData& list) {
+    const int count = list.items.Count();
+    if (list.Columns()) {
+        const int rows = RowsOf(list);
+        const int columns = (count + rows - 1) / rows;
+        return std::max(0, columns - ColumnsInView(list)) * rows;
+    }
+    if (!list.Variable())
+        return std::max(0, count - RowsOf(list));
+    int room = ListClient(list).bottom;
+    int top = count;
+    while (top > 0 && HeightOf(list, top - 1) <= room)
+        room -= HeightOf(list, --top);
+    return std::clamp(top, 0, std::max(0, count - 1));
+}
+
+RECT RectOf(const ListData& list, int index) {
+    const RECT client = ListClient(list);
+    if (list.Columns()) {
+        const int rows = RowsOf(list);
+        const int from = index - list.top;
+        const int column = from >= 0 ? from / rows : -((rows - 1 - from) / rows);
+        const int row = from - column * rows;
+        const int left = column * list.columnWidth;
+        return {left, row * list.itemHeight, left + list.columnWidth, (row + 1) * list.itemHeight};
+    }
+    RECT rect{-list.offset, 0, std::max<LONG>(client.right, list.extent - list.offset), 0};
+    if (list.Variable()) {
+        for (int i = list.top; i < index; ++i)
+            rect.top += HeightOf(list, i);
+        for (int i = index; i < list.top; ++i)
+            rect.top -= HeightOf(list, i);
+    } else {
+        rect.top = (index - list.top) * list.itemHeight;
+    }
+    rect.bottom = rect.top + HeightOf(list, index);
+    return rect;
+}
+
+int ItemAt(const ListData& list, POINT point, bool* outside) {
+    const RECT client = ListClient(list);
+    *outside = !PtInRect(&client, point);
+    const int count = list.items.Count();
+    if (count == 0)
+        return -1;
+    int index = list.top;
+    if (list.Columns()) {
+        const int rows = RowsOf(list);
+        const int width = std::max(1, list.columnWidth);
+        const int column = point.x >= 0 ? static_cast<int>(point.x) / width : -1;
+        const int row = std::clamp(static_cast<int>(point.y) / std::max(1, list.itemHeight), 0, rows - 1);
+        index += column * rows + row;
+    } else if (list.Variable()) {
+        int bottom = 0;
+        for (; index < count - 1; ++index) {
+            bottom += HeightOf(list, index);
+            if (point.y < bottom)
+                break;
+        }
+        index -= point.y < 0;
+    } else {
+        index += point.y >= 0 ? static_cast<int>(point.y) / std::max(1, list.itemHeight) : -1;
+    }
+    return std::clamp(index, 0, count - 1);
+}
+
+void FitHeight(ListData& list) {
+    const DWORD style = list.Style();
+    if ((style & (LBS_NOINTEGRALHEIGHT | LBS_OWNERDRAWVARIABLE)) || list.fitting || list.itemHeight <= 0)
+        return;
+    const RECT client = ListClient(list);
+    const int spare = client.bottom % list.itemHeight;
+    RECT rect{};
+    if (spare == 0 || client.bottom < list.itemHeight || !GetWindowRect(list.window, &rect))
+        return;
+    list.fitting = true;
+    SetWindowPos(list.window, nullptr, 0, 0, rect.right - rect.left, rect.bottom - rect.top - spare,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    list.fitting = false;
+}
+
+namespace {
+
+UINT KeepFlag(const ListData& list) {
+    return list.Style() & LBS_DISABLENOSCROLL ? SIF_DISABLENOSCROLL : 0U;
+}
+
+void SetBar(ListData& list, int bar, int last, int page, int position) {
+    const SCROLLINFO info{
+        sizeof info, SIF_RANGE | SIF_PAGE | SIF_POS | KeepFlag(list), 0, last, static_cast<UINT>(page), position, 0};
+    SetScrollInfo(list.window, bar, &info, list.redraw);
+}
+
+void UpdateAcross(ListData& list) {
+    if (!list.horizontal)
+        return;
+    if (list.Columns()) {
+        const int rows = RowsOf(list);
+        SetBar(list, SB_HORZ, std::max(0, (list.items.Count() + rows - 1) / rows - 1), ColumnsInView(list),
+               list.top / rows);
+        return;
+    }
+    const int width = ListClient(list).right;
+    SetBar(list, SB_HORZ, std::max(0, list.extent - 1), width, list.offset);
+    ScrollAcross(list, std::clamp(list.offset, 0, std::max(0, list.extent - width)));
+}
+
+}  // namespace
+
+void UpdateBars(ListData& list) {
+    if (!list.redraw)
+        return;
+    if (list.vertical && !list.Columns()) {
+        // With items of several heights the page is what fits at the end.
+        const int page = list.Variable() ? list.items.Count() - LastTop(list) : RowsOf(list);
+        SetBar(list, SB_VERT, std::max(0, list.items.Count() - 1), page, list.top);
+    }
+    UpdateAcross(list);
+    const int last = LastTop(list);
+    if (list.top > last)
+        ScrollTo(list, last);
+}
+
+void ScrollTo(ListData& list, int top) {
+    top = std::clamp(top, 0, LastTop(list));
+    if (list.Columns())
+        top -= top % RowsOf(list);
+    if (top == list.top)
+        return;
+    const RECT client = ListClient(list);
+    const RECT place = RectOf(list, top);
+    list.top = top;
+    if (list.Columns()) {
+        if (list.horizontal)
+            SetScrollPos(list.window, SB_HORZ, top / RowsOf(list), list.redraw);
+    } else if (list.vertical) {
+        SetScrollPos(list.window, SB_VERT, top, list.redraw);
+    }
+    if (!list.redraw || !IsWindowVisible(list.window))
+        return;
+    if (list.Columns() || place.top >= client.bottom || place.top <= -client.bottom)
+        InvalidateRect(list.window, nullptr, TRUE);
+    else
+        ScrollWindowEx(list.window, 0, -place.top, nullptr, nullptr, nullptr, nullptr, SW_INVALIDATE | SW_ERASE);
+}
+
+void ScrollAcross(ListData& list, int offset) {
+    offset = std::clamp(offset, 0, std::max(0, list.extent - static_cast<int>(ListClient(list).right)));
+    if (offset == list.offset)
+        return;
+    list.offset = offset;
+    SetScrollPos(list.window, SB_HORZ, offset, list.redraw);
+    if (list.redraw)
+        InvalidateRect(list.window, nullptr, TRUE);
+}
+
+void Reveal(ListData& list, int index) {
+    if (!list.items.Has(index))
+        return;
+    if (index < list.top) {
+        ScrollTo(list, index);
+    } else if (list.Columns()) {
+        const int rows = RowsOf(list);
+        const int beyond = index / rows - list.top / rows - ColumnsInView(list) + 1;
+        if (beyond > 0)
+            ScrollTo(list, list.top + beyond * rows);
+    } else if (index >= list.top + PageFrom(list, list.top)) {
+        int top = index;
+        int room = ListClient(list).bottom - HeightOf(list, index);
+        while (top > 0 && HeightOf(list, top - 1) <= room)
+            room -= HeightOf(list, --top);
+        ScrollTo(list, top);
+    }
+}
+
+void OnScroll(ListData& list, bool vertical, WPARAM wParam) {
+    const int bar = vertical ? SB_VERT : SB_HORZ;
+    const bool columns = list.Columns();
+    const int step = columns ? RowsOf(list) : 1;
+    const bool items = vertical || columns;
+    const int page = items ? std::max(step, PageFrom(list, list.top)) : static_cast<int>(ListClient(list).right);
+    const int line = items ? step : std::max(1, page / 3);
+    int wanted = items ? list.top : list.offset;
+    switch (LOWORD(wParam)) {
+        case SB_LINEUP:
+            wanted -= line;
+            break;
+        case SB_LINEDOWN:
+            wanted += line;
+            break;
+        case SB_PAGEUP:
+            wanted -= page;
+            break;
+        case SB_PAGEDOWN:
+            wanted += page;
+            break;
+        case SB_THUMBTRACK:
+        case SB_THUMBPOSITION: {
+            wanted = HIWORD(wParam);
+            // The message has room for 16 bits only.
+            SCROLLINFO info{sizeof info, SIF_RANGE | SIF_TRACKPOS, 0, 0, 0, 0, 0};
+            if (GetScrollInfo(list.window, bar, &info) && info.nMax > 0xFFFF)
+                wanted = info.nTrackPos;
+            if (columns)
+                wanted *= step;
+            break;
+        }
+        case SB_TOP:
+            wanted = 0;
+            break;
+        case SB_BOTTOM:
+            wanted = items ? LastTop(list) : list.extent;
+            break;
+        default:
+            return;
+    }
+    if (items)
+        ScrollTo(list, wanted);
+    else
+        ScrollAcross(list, wanted);
+    UpdateWindow(list.window);
+}
+
+}  // namespace platform::user

@@ -1,0 +1,258 @@
+// The "scrollbar" class: a scroll bar on its own, and the box at a window's corner that sizes it.
+#include <algorithm>
+
+#include "user/controls/controls.h"
+#include "user/scrollbar/bar.h"
+
+namespace platform::user {
+namespace {
+
+struct ScrollBarData : ControlData {
+    std::shared_ptr<BarState> bar = std::make_shared<BarState>();
+    bool keyHeld = false;
+
+    ScrollBarData() {
+        bar->high = 0;
+    }
+};
+
+bool IsVertical(HWND window) {
+    return (ControlStyle(window) & SBS_VERT) != 0;
+}
+
+bool IsSizeBox(HWND window) {
+    return (ControlStyle(window) & (SBS_SIZEBOX | SBS_SIZEGRIP)) != 0;
+}
+
+/// The aligned styles give a bar its usual width, at one side of the rectangle that it was made with.
+void Align(HWND window, const CREATESTRUCTA& create) {
+    const DWORD style = ControlStyle(window);
+    if (!(style & (SBS_TOPALIGN | SBS_BOTTOMALIGN)))
+        return;
+    RECT place{create.x, create.y, create.x + create.cx, create.y + create.cy};
+    const bool atEnd = (style & SBS_BOTTOMALIGN) != 0;
+    const bool both = IsSizeBox(window);
+    if (both || IsVertical(window)) {
+        const int width = GetSystemMetrics(SM_CXVSCROLL);
+        (atEnd ? place.left : place.right) = atEnd ? place.right - width : place.left + width;
+    }
+    if (both || !IsVertical(window)) {
+        const int height = GetSystemMetrics(SM_CYHSCROLL);
+        (atEnd ? place.top : place.bottom) = atEnd ? place.bottom - height : place.top + height;
+    }
+    SetWindowPos(window, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+// --- the caret: a grey block that blinks on the thumb
+
+RECT CaretPlace(HWND window) {
+    BarState state;
+    BarLayout layout;
+    if (!ReadBar({window, SB_CTL}, &state, &layout) || IsRectEmpty(&layout.thumb))
+        return {};
+    RECT place = layout.thumb;
+    MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&place), 2);
+    InflateRect(&place, -2, -2);
+    return place;
+}
+
+void ShowFocus(HWND window) {
+    if (GetFocus() != window)
+        return;
+    const RECT place = CaretPlace(window);
+    if (IsRectEmpty(&place)) {
+        DestroyCaret();
+        return;
+    }
+    CreateCaret(window, reinterpret_cast<HBITMAP>(1), place.right - place.left, place.bottom - place.top);
+    SetCaretPos(place.left, place.top);
+    ShowCaret(window);
+}
+
+// --- painting
+
+void PaintSizeBox(HWND window, HDC context) {
+    RECT client{};
+    GetClientRect(window, &client);
+    FillRect(context, &client, GetSysColorBrush(COLOR_3DFACE));
+    if (ControlStyle(window) & SBS_SIZEGRIP)
+        DrawFrameControl(context, &client, DFC_SCROLL, DFCS_SCROLLSIZEGRIP);
+}
+
+void OnPaint(HWND window) {
+    PAINTSTRUCT paint{};
+    const HDC context = BeginPaint(window, &paint);
+    if (context && IsSizeBox(window))
+        PaintSizeBox(window, context);
+    else if (context)
+        DrawBarControl(window, context);
+    EndPaint(window, &paint);
+}
+
+void Repaint(HWND window) {
+    const bool focused = GetFocus() == window;
+    if (focused)
+        HideCaret(window);
+    PaintBar({window, SB_CTL});
+    if (focused)
+        ShowFocus(window);
+}
+
+// --- input
+
+void OnButtonDown(HWND window, LPARAM lParam) {
+    POINT point{static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+    ClientToScreen(window, &point);
+    if (IsSizeBox(window)) {
+        const bool topLeft = (ControlStyle(window) & SBS_SIZEBOXTOPLEFTALIGN) != 0;
+        SendMessageA(GetParent(window), WM_SYSCOMMAND, SC_SIZE | (topLeft ? WMSZ_TOPLEFT : WMSZ_BOTTOMRIGHT),
+                     MAKELPARAM(point.x, point.y));
+        return;
+    }
+    if (ControlStyle(window) & WS_TABSTOP)
+        SetFocus(window);
+    TrackBar({window, SB_CTL}, point);
+}
+
+int CodeOfKey(WPARAM key) {
+    switch (key) {
+        case VK_UP:
+        case VK_LEFT:
+            return SB_LINEUP;
+        case VK_DOWN:
+        case VK_RIGHT:
+            return SB_LINEDOWN;
+        case VK_PRIOR:
+            return SB_PAGEUP;
+        case VK_NEXT:
+            return SB_PAGEDOWN;
+        case VK_HOME:
+            return SB_TOP;
+        case VK_END:
+            return SB_BOTTOM;
+        default:
+            return -1;
+    }
+}
+
+void OnKey(HWND window, ScrollBarData& data, WPARAM key, bool down) {
+    const int code = CodeOfKey(key);
+    if (code < 0 || (!down && !data.keyHeld))
+        return;
+    data.keyHeld = down;
+    TellBar({window, SB_CTL}, down ? code : SB_ENDSCROLL);
+}
+
+// --- what it shows
+
+LRESULT Change(HWND window, ScrollBarData& data, const SCROLLINFO& info, bool redraw) {
+    ApplyInfo(*data.bar, info);
+    if (info.fMask & SIF_DISABLENOSCROLL)
+        data.bar->arrows = CanScroll(*data.bar) ? ESB_ENABLE_BOTH : ESB_DISABLE_BOTH;
+    const int position = data.bar->position;
+    if (redraw)
+        Repaint(window);
+    return position;
+}
+
+LRESULT OnSetRange(HWND window, ScrollBarData& data, WPARAM low, LPARAM high, bool redraw) {
+    const int before = data.bar->position;
+    const SCROLLINFO info{sizeof info, SIF_RANGE, static_cast<int>(low), static_cast<int>(high), 0, 0, 0};
+    const LRESULT position = Change(window, data, info, redraw);
+    return position == before ? 0 : before;
+}
+
+LRESULT OnBarMessage(HWND window, ScrollBarData& data, UINT message, WPARAM wParam, LPARAM lParam) {
+    BarState& bar = *data.bar;
+    switch (message) {
+        case SBM_SETPOS: {
+            const int before = bar.position;
+            const SCROLLINFO info{sizeof info, SIF_POS, 0, 0, 0, static_cast<int>(wParam), 0};
+            Change(window, data, info, lParam != 0);
+            return before;
+        }
+        case SBM_GETPOS:
+            return bar.position;
+        case SBM_SETRANGE:
+        case SBM_SETRANGEREDRAW:
+            return OnSetRange(window, data, wParam, lParam, message == SBM_SETRANGEREDRAW);
+        case SBM_GETRANGE:
+            if (auto* low = reinterpret_cast<int*>(wParam))
+                *low = bar.low;
+            if (auto* high = reinterpret_cast<int*>(lParam))
+                *high = bar.high;
+            return 0;
+        case SBM_ENABLE_ARROWS: {
+            const bool changed = bar.arrows != wParam;
+            bar.arrows = static_cast<UINT>(wParam) & ESB_DISABLE_BOTH;
+            // A bar of which nothing works is a disabled window.
+            EnableWindow(window, bar.arrows != ESB_DISABLE_BOTH);
+            Repaint(window);
+            return changed;
+        }
+        case SBM_SETSCROLLINFO: {
+            const auto* info = reinterpret_cast<const SCROLLINFO*>(lParam);
+            return info ? Change(window, data, *info, wParam != 0) : 0;
+        }
+        case SBM_GETSCROLLINFO:
+            return FillInfo(bar, reinterpret_cast<SCROLLINFO*>(lParam));
+        default:
+            return DefWindowProcA(window, message, wParam, lParam);
+    }
+}
+
+}  // namespace
+
+std::shared_ptr<BarState> ControlBar(HWND window) {
+    const auto data = ControlOf<ScrollBarData>(window);
+    return data ? data->bar : nullptr;
+}
+
+LRESULT CALLBACK ScrollBarProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    const auto data = ControlOf<ScrollBarData>(window);
+    if (!data)
+        return DefWindowProcA(window, message, wParam, lParam);
+    switch (message) {
+        case WM_CREATE:
+            Align(window, *reinterpret_cast<const CREATESTRUCTA*>(lParam));
+            return 0;
+        case WM_GETDLGCODE:
+            return DLGC_WANTARROWS;
+        case WM_ERASEBKGND:
+            return TRUE;
+        case WM_PAINT:
+            OnPaint(window);
+            return 0;
+        case WM_PRINTCLIENT:
+            DrawBarControl(window, reinterpret_cast<HDC>(wParam));
+            return 0;
+        case WM_ENABLE:
+            data->bar->arrows = wParam ? ESB_ENABLE_BOTH : ESB_DISABLE_BOTH;
+            Repaint(window);
+            return 0;
+        case WM_SETFOCUS:
+            ShowFocus(window);
+            return 0;
+        case WM_KILLFOCUS:
+            DestroyCaret();
+            return 0;
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK:
+            OnButtonDown(window, lParam);
+            return 0;
+        case WM_KEYDOWN:
+        case WM_KEYUP:
+            OnKey(window, *data, wParam, message == WM_KEYDOWN);
+            return 0;
+        case WM_SYSCOLORCHANGE:
+            InvalidateRect(window, nullptr, TRUE);
+            return 0;
+        default:
+            if (message >= SBM_SETPOS && message <= SBM_GETSCROLLINFO)
+                return OnBarMessage(window, *data, message, wParam, lParam);
+            return DefWindowProcA(window, message, wParam, lParam);
+    }
+}
+
+}  // namespace platform::user
