@@ -14,6 +14,7 @@
 #include "cvutil32/grbutton.h"
 #include "cvutil32/list.h"
 #include "cvutil32/msgbox.h"
+#include "cvutil32/reg.h"
 #include "cvutil32/scroll.h"
 #include "cvutil32/util.h"
 

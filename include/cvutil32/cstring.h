@@ -21,6 +21,10 @@
 /// reference from GetRef() or an index that lies at or behind the end does that too; writing a NUL through a reference
 /// inside the text is not noticed.
 ///
+/// Paths and texts of the system. Some members take the text as a path, and some get it from the system: a window, a
+/// module, a profile file, the registry. Those of the latter that find nothing leave the text as it was, except the
+/// members for the registry, which make it empty.
+///
 /// Comparisons and conversions with numbers concern the length: `s == 0` asks whether the text is empty, `s > 5`
 /// whether it is longer than five, `int(s)` is its length. Both sides are compared as unsigned numbers, so nothing is
 /// greater than -1. `s == "text"` compares the texts in the system's word order.
@@ -309,6 +313,87 @@ class CVCLASS CSTRING : public CBASE {
     /// Whether Compare() finds the texts different.
     int operator!=(char const* text);
 
+    // --- paths: the separator is the backslash, a drive ends with a colon, an extension begins at the last dot of the
+    // last element
+
+    /// Appends an element of a path with a backslash before it, unless the text ends or @p part begins with one. Only
+    /// one side is looked at for each: two backslashes that meet both stay, and an empty text gets one in front.
+    /// @param part  null appends nothing.
+    CSTRING const& AppendSubdir(char const* part);
+
+    /// Same as AppendSubdir().
+    CSTRING const& AppendFile(char const* part);
+
+    /// Becomes a path made of its parts, each of which may be null or empty.
+    /// @param drive  its first character counts; a colon follows it.
+    /// @param dir    a backslash follows it, unless it ends with one.
+    /// @param name   appended as it is.
+    /// @param ext    appended behind a dot, also if it begins with one, unless the text built so far begins with a dot.
+    CSTRING const& MakePath(char const* drive, char const* dir, char const* name, char const* ext);
+
+    /// Takes this path apart: X:\\dir\\file.txt is the drive X:, the directory \\dir\\, the name file and the extension
+    /// .txt. Double quotes are dropped first; a directory, name or extension that holds a space or a semicolon comes
+    /// out in double quotes. A path without a colon has no drive. This object stays as it is.
+    /// @param drive  receives its part, as the others do; null and an invalid object are skipped.
+    CSTRING const& SplitPath(CSTRING* drive, CSTRING* dir, CSTRING* name, CSTRING* ext) const;
+
+    /// Becomes the name and the extension of a path, the name as SplitPath() gives it.
+    CSTRING const& GetFileName(char const* path);
+
+    /// Becomes the drive and the directory of a path, the directory as SplitPath() gives it.
+    CSTRING const& GetFilePath(char const* path);
+
+    // --- texts of the system, of at most 255 characters; where there is none, the text stays as it was
+
+    /// Becomes the name of a window's class. Null changes nothing.
+    CSTRING const& GetClassNameA(HWND window);
+
+    /// Becomes the path of a module's file; null is the process's program.
+    CSTRING const& GetModuleFileNameA(HINSTANCE module);
+
+    /// Becomes a value of a profile file. A value that is empty changes nothing.
+    /// @param file      null is the user's own profile; a bare name lies in the Windows folder.
+    /// @param fallback  used if there is no such key.
+    CSTRING const& GetProfileStringA(char const* file, char const* section, char const* key, char const* fallback);
+
+    /// Becomes a string of a module's resources. A null module, a missing string and an empty one change nothing.
+    CSTRING const& LoadStringA(HINSTANCE module, unsigned int id);
+
+    // --- formatted text of at most 1023 characters, as the system's wsprintfA makes it; an empty result changes nothing
+
+    /// @param args  the list of a function with variable arguments: a `va_list`, or its address where a list is not a
+    ///              pointer.
+    CSTRING const& wvsprintfA(char const* format, void* args);
+    /// Formats the arguments that follow.
+    CSTRING const& wsprintfA(char const* format, ...);
+    /// Formats the arguments that follow by a string of a module's resources.
+    CSTRING const& IDsprintf(HINSTANCE module, unsigned int id, ...);
+
+    // --- texts of the system, of any length
+
+    /// Becomes a window's text; an empty one changes nothing.
+    CSTRING const& GetWindowTextA(HWND window);
+
+    /// Becomes the text of a dialog's control; an empty one changes nothing.
+    CSTRING const& GetDlgItemTextA(HWND dialog, int id);
+
+    /// Becomes the path of the Windows folder.
+    CSTRING const& GetWindowsDirectoryA();
+
+    // --- the registry; where there is nothing, the text becomes empty
+
+    /// Becomes the name of a key's subkey.
+    CSTRING const& RegEnumKeyA(HKEY key, unsigned long index);
+
+    /// Becomes the name of a key's value.
+    /// @param data  receives the value's data as text up to its first NUL, whatever its type, if it fits into 1024
+    ///              bytes or what the object holds already; else nothing is found. Null: only the name is wanted.
+    CSTRING const& RegEnumValueA(HKEY key, unsigned long index, CSTRING* data);
+
+    /// Becomes the data of a key's value as text up to its first NUL, whatever its type.
+    /// @param valueName  null is the unnamed value.
+    CSTRING const& RegQueryValueA(HKEY key, char const* valueName);
+
   private:
     int Alloc(unsigned int size);
     int Resize(unsigned int size);
@@ -320,6 +405,10 @@ class CVCLASS CSTRING : public CBASE {
     unsigned int Search(char const* text, unsigned int length, unsigned int start, unsigned long flags) const;
     int StandardEntry() const;
     void AutoUnlock();
+    void TakeLengths();
+    void CopyPart(CSTRING const& from, unsigned int start, unsigned int end);
+    void QuotePart();
+    void EndData(unsigned int size);
 
     char* Buffer;
     std::uint32_t StrLen;

@@ -302,5 +302,7 @@ WINBASEAPI UINT WINAPI GetWindowsDirectoryA(LPSTR buffer, UINT size);
 WINBASEAPI UINT WINAPI GetSystemDirectoryA(LPSTR buffer, UINT size);
 WINBASEAPI DWORD WINAPI GetTempPathA(DWORD size, LPSTR buffer);
 
+#include "winbase/files.h"
+
 /// Where a Windows application starts.
 CVPLATFORM_EXTERN_C int WINAPI WinMain(HINSTANCE instance, HINSTANCE previous, LPSTR commandLine, int show);
