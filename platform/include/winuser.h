@@ -13,6 +13,6 @@
 #include "winuser/edit.h"
 #include "winuser/clipboard.h"
 #include "winuser/station.h"
-#include "winuser/scrollbar.h"
-#include "winuser/listbox.h"
 #include "winuser/help.h"
+#include "winuser/listbox.h"
+#include "winuser/scrollbar.h"
