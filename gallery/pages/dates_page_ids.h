@@ -2,8 +2,8 @@
 #pragma once
 
 #define IDD_DATES_PAGE 110
-#define IDS_DATES_TITLE 1100
-#define IDS_NO_DATE 1101
+#define IDS_DATES_TITLE 1000
+#define IDS_NO_DATE 1001
 
 #define IDC_DATE_VERTICAL 201
 #define IDC_BAR_VERTICAL 202
