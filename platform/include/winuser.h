@@ -16,3 +16,4 @@
 #include "winuser/help.h"
 #include "winuser/listbox.h"
 #include "winuser/scrollbar.h"
+#include "winuser/combobox.h"
