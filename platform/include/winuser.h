@@ -15,3 +15,4 @@
 #include "winuser/station.h"
 #include "winuser/scrollbar.h"
 #include "winuser/listbox.h"
+#include "winuser/combobox.h"

@@ -60,6 +60,7 @@ void RegisterDialogClasses() {
     RegisterSystemClass("edit", EditProcedure, CS_DBLCLKS, 0, IDC_IBEAM, nullptr);
     RegisterSystemClass("static", StaticProcedure, CS_DBLCLKS, 0, IDC_ARROW, nullptr);
     RegisterSystemClass("listbox", ListBoxProcedure, CS_DBLCLKS, 0, IDC_ARROW, nullptr);
+    RegisterSystemClass("combobox", ComboBoxProcedure, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 0, IDC_ARROW, nullptr);
     RegisterSystemClass("ComboLBox", ListBoxProcedure, CS_DBLCLKS | CS_SAVEBITS, 0, IDC_ARROW, nullptr);
     RegisterSystemClass("scrollbar", ScrollBarProcedure, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 0, IDC_ARROW, nullptr);
 }

@@ -83,8 +83,10 @@ void NotifyList(const ListData& list, int code) {
 }
 
 void OnListButtonDown(ListData& list, POINT point, WPARAM keys, bool second) {
-    if (!list.combo && GetFocus() != list.window) {
-        SetFocus(list.window);
+    // In a combo box the focus is in its field.
+    const HWND focus = list.combo ? list.combo : list.window;
+    if (GetFocus() != focus && !IsChild(focus, GetFocus())) {
+        SetFocus(focus);
         if (!IsWindow(list.window))
             return;
     }

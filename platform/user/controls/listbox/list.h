@@ -166,6 +166,8 @@ void OnListTimer(ListData& list);
 void EndTracking(ListData& list);
 void OnListKey(ListData& list, WPARAM key);
 void OnListCharacter(ListData& list, WPARAM character);
+/// Mouse messages to the list of a combo box, which has its own ways (combobox/drop.cpp). @returns whether it is done with.
+bool OnDroppedListInput(ListData& list, UINT message, WPARAM wParam, LPARAM lParam);
 /// Tells the owner what the user did. Only LBS_NOTIFY lists do, and those of combo boxes.
 void NotifyList(const ListData& list, int code);
 

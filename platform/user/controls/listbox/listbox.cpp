@@ -227,6 +227,8 @@ LRESULT OnListMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lParam
 }
 
 LRESULT OnInput(ListData& list, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (list.combo && OnDroppedListInput(list, message, wParam, lParam))
+        return 0;
     switch (message) {
         case WM_LBUTTONDOWN:
         case WM_LBUTTONDBLCLK:
@@ -287,6 +289,8 @@ LRESULT CALLBACK ListBoxProcedure(HWND window, UINT message, WPARAM wParam, LPAR
         case WM_DESTROY:
             RemoveAll(list);
             return 0;
+        case WM_MOUSEACTIVATE:
+            return list.combo ? MA_NOACTIVATE : DefWindowProcA(window, message, wParam, lParam);
         case WM_GETDLGCODE:
             return DLGC_WANTARROWS | DLGC_WANTCHARS;
         case WM_ERASEBKGND:

@@ -1,0 +1,427 @@
+// The "combobox" class: the parts that it is made of, focus, and the window procedure.
+#include <algorithm>
+
+#include "user/controls/combobox/combo.h"
+
+namespace platform::user {
+namespace {
+
+constexpr LONG_PTR kListId = 1000;
+constexpr LONG_PTR kEditId = 1001;
+
+// --- focus: that of the edit control is the combo box's
+
+void GainFocus(ComboData& combo) {
+    if (combo.focused)
+        return;
+    combo.focused = true;
+    if (!combo.edit)
+        RedrawCombo(combo);
+    NotifyCombo(combo, CBN_SETFOCUS);
+}
+
+void LoseFocus(ComboData& combo, HWND to) {
+    if (!combo.focused || to == combo.window || (to && (to == combo.edit || to == combo.list)))
+        return;
+    CloseUp(combo, false);
+    combo.focused = false;
+    RedrawCombo(combo);
+    NotifyCombo(combo, CBN_KILLFOCUS);
+}
+
+LRESULT DialogCodeOf(const ComboData& combo, LPARAM lParam) {
+    const auto* message = reinterpret_cast<const MSG*>(lParam);
+    const bool closes = combo.dropped && message && message->message == WM_KEYDOWN &&
+                        (message->wParam == VK_RETURN || message->wParam == VK_ESCAPE);
+    return DLGC_WANTARROWS | DLGC_WANTCHARS | (closes ? DLGC_WANTMESSAGE : 0);
+}
+
+/// The procedure of the edit control: keys that are the combo box's go there.
+LRESULT CALLBACK ComboEditProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    const HWND owner = GetParent(window);
+    const auto combo = owner ? ControlOf<ComboData>(owner) : nullptr;
+    if (!combo)
+        return EditProcedure(window, message, wParam, lParam);
+    switch (message) {
+        case WM_KEYDOWN:
+        case WM_SYSKEYDOWN:
+            return OnComboKey(*combo, message, wParam) ? 0 : EditProcedure(window, message, wParam, lParam);
+        case WM_CHAR:
+            // They have closed the list, and are no text.
+            return wParam == VK_RETURN || wParam == VK_ESCAPE ? 0 : EditProcedure(window, message, wParam, lParam);
+        case WM_GETDLGCODE:
+            return EditProcedure(window, message, wParam, lParam) | DialogCodeOf(*combo, lParam);
+        case WM_SETFOCUS: {
+            const LRESULT result = EditProcedure(window, message, wParam, lParam);
+            GainFocus(*combo);
+            return result;
+        }
+        case WM_KILLFOCUS: {
+            const LRESULT result = EditProcedure(window, message, wParam, lParam);
+            LoseFocus(*combo, reinterpret_cast<HWND>(wParam));
+            return result;
+        }
+        case WM_MOUSEWHEEL:
+            return SendMessageA(owner, message, wParam, lParam);
+        default:
+            return EditProcedure(window, message, wParam, lParam);
+    }
+}
+
+// --- creation
+
+/// Scroll bars that a combo box is made with are for its list.
+void TakeScrollStyle(ComboData& combo) {
+    const DWORD style = combo.Style();
+    combo.scrollStyle = style & (WS_VSCROLL | WS_HSCROLL);
+    SetWindowLongA(combo.window, GWL_STYLE, static_cast<LONG>(style & ~combo.scrollStyle));
+}
+
+bool MakeEdit(ComboData& combo, const CREATESTRUCTA& create) {
+    const DWORD style = combo.Style();
+    const DWORD wanted = WS_CHILD | WS_VISIBLE | ES_NOHIDESEL | (style & CBS_AUTOHSCROLL ? ES_AUTOHSCROLL : 0) |
+                         (style & CBS_UPPERCASE ? ES_UPPERCASE : 0) | (style & CBS_LOWERCASE ? ES_LOWERCASE : 0) |
+                         (style & CBS_OEMCONVERT ? ES_OEMCONVERT : 0) | (style & WS_DISABLED);
+    combo.edit = CreateWindowExA(WS_EX_NOPARENTNOTIFY, "edit", "", wanted, 0, 0, 0, 0, combo.window,
+                                 reinterpret_cast<HMENU>(kEditId), create.hInstance, nullptr);
+    if (!combo.edit)
+        return false;
+    SetWindowLongPtrA(combo.edit, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(ComboEditProcedure));
+    return true;
+}
+
+DWORD ListStyle(const ComboData& combo) {
+    const DWORD style = combo.Style();
+    DWORD list = LBS_NOTIFY | combo.scrollStyle;
+    const std::pair<DWORD, DWORD> same[] = {{CBS_SORT, LBS_SORT},
+                                            {CBS_HASSTRINGS, LBS_HASSTRINGS},
+                                            {CBS_OWNERDRAWFIXED, LBS_OWNERDRAWFIXED},
+                                            {CBS_OWNERDRAWVARIABLE, LBS_OWNERDRAWVARIABLE},
+                                            {CBS_NOINTEGRALHEIGHT, LBS_NOINTEGRALHEIGHT},
+                                            {CBS_DISABLENOSCROLL, LBS_DISABLENOSCROLL},
+                                            {WS_DISABLED, WS_DISABLED}};
+    for (const auto& [own, lists] : same)
+        list |= style & own ? lists : 0;
+    return list;
+}
+
+bool MakeList(ComboData& combo, const CREATESTRUCTA& create) {
+    const DWORD style = ListStyle(combo);
+    if (!combo.Drops()) {
+        combo.list =
+            CreateWindowExA(WS_EX_NOPARENTNOTIFY | WS_EX_CLIENTEDGE, "ComboLBox", "", style | WS_CHILD | WS_VISIBLE, 0,
+                            0, 0, 0, combo.window, reinterpret_cast<HMENU>(kListId), create.hInstance, combo.window);
+        return combo.list != nullptr;
+    }
+    combo.list =
+        CreateWindowExA(WS_EX_TOOLWINDOW, "ComboLBox", "", style | WS_POPUP | WS_BORDER, 0, 0, std::max(create.cx, 0),
+                        0, GetAncestor(combo.window, GA_ROOT), nullptr, create.hInstance, combo.window);
+    if (combo.list)
+        SetWindowLongPtrA(combo.list, GWLP_ID, kListId);
+    return combo.list != nullptr;
+}
+
+/// An owner says how high the field is.
+void AskFieldHeight(ComboData& combo) {
+    const HWND parent = GetParent(combo.window);
+    if (!combo.OwnerDrawn() || !parent)
+        return;
+    MeasureField(combo);
+    MEASUREITEMSTRUCT item{};
+    item.CtlType = ODT_COMBOBOX;
+    item.CtlID = static_cast<UINT>(GetDlgCtrlID(combo.window));
+    item.itemID = static_cast<UINT>(-1);
+    item.itemHeight = static_cast<UINT>(combo.fieldHeight);
+    SendMessageA(parent, WM_MEASUREITEM, item.CtlID, reinterpret_cast<LPARAM>(&item));
+    combo.fieldHeight = std::clamp(static_cast<int>(item.itemHeight), 1, 0xFF);
+    combo.heightGiven = true;
+}
+
+LRESULT OnCreate(ComboData& combo, const CREATESTRUCTA& create) {
+    AskFieldHeight(combo);
+    if ((combo.Kind() != CBS_DROPDOWNLIST && !MakeEdit(combo, create)) || !MakeList(combo, create))
+        return -1;
+    MeasureField(combo);
+    combo.dropHeight = std::max(0, create.cy - ClosedHeight(combo));
+    return 0;
+}
+
+void OnDestroy(ComboData& combo) {
+    if (combo.Drops() && IsWindow(combo.list))
+        DestroyWindow(combo.list);
+}
+
+// --- changes
+
+/// Of the height that a drop-down combo box is given, what is beyond the field is for the list.
+void OnSizing(ComboData& combo, WINDOWPOS& position) {
+    if (!combo.Drops() || (position.flags & SWP_NOSIZE) || combo.fieldHeight == 0)
+        return;
+    const int closed = ClosedHeight(combo);
+    if (position.cy > closed)
+        combo.dropHeight = position.cy - closed;
+    position.cy = closed;
+}
+
+void OnSetFont(ComboData& combo, WPARAM font, bool redraw) {
+    combo.font = reinterpret_cast<HFONT>(font);
+    if (combo.edit)
+        SendMessageA(combo.edit, WM_SETFONT, font, FALSE);
+    SendMessageA(combo.list, WM_SETFONT, font, FALSE);
+    // Field and dropped list together stay as high as they are.
+    const int whole = combo.dropHeight + ClosedHeight(combo);
+    MeasureField(combo);
+    combo.dropHeight = std::max(0, whole - ClosedHeight(combo));
+    if (redraw)
+        InvalidateRect(combo.window, nullptr, TRUE);
+}
+
+void OnEnable(ComboData& combo, bool enabled) {
+    if (combo.edit)
+        EnableWindow(combo.edit, enabled);
+    EnableWindow(combo.list, enabled);
+    InvalidateRect(combo.window, nullptr, TRUE);
+}
+
+void OnPaint(const ComboData& combo, HDC given) {
+    if (given) {
+        PaintCombo(combo, given);
+        return;
+    }
+    PAINTSTRUCT paint{};
+    if (const HDC context = BeginPaint(combo.window, &paint))
+        PaintCombo(combo, context);
+    EndPaint(combo.window, &paint);
+}
+
+// --- what the parts tell
+
+void OnEditNotification(ComboData& combo, UINT code) {
+    if (code == EN_ERRSPACE)
+        NotifyCombo(combo, CBN_ERRSPACE);
+    if (combo.quiet || (code != EN_CHANGE && code != EN_UPDATE))
+        return;
+    if (code == EN_UPDATE) {
+        NotifyCombo(combo, CBN_EDITUPDATE);
+        return;
+    }
+    // What is typed is no item of the list, which at most shows where it would be.
+    SendMessageA(combo.list, LB_SETCURSEL, static_cast<WPARAM>(-1), 0);
+    const std::string text = ItemText(combo, -1);
+    const LRESULT near = text.empty() ? LB_ERR
+                                      : SendMessageA(combo.list, LB_FINDSTRING, static_cast<WPARAM>(-1),
+                                                     reinterpret_cast<LPARAM>(text.c_str()));
+    if (near >= 0)
+        SendMessageA(combo.list, LB_SETTOPINDEX, static_cast<WPARAM>(near), 0);
+    NotifyCombo(combo, CBN_EDITCHANGE);
+}
+
+void OnListNotification(ComboData& combo, int code) {
+    switch (code) {
+        case LBN_SELCHANGE: {
+            if (combo.dropped && !combo.byKey)
+                CloseUp(combo, true);
+            else if (!combo.dropped)
+                NotifyCombo(combo, CBN_SELENDOK);
+            if (!IsWindow(combo.window))
+                return;
+            combo.settled = Current(combo);
+            if (!combo.edit)
+                RedrawCombo(combo);
+            NotifyCombo(combo, CBN_SELCHANGE);
+            // The parent may look at the former text until here.
+            if (combo.edit && IsWindow(combo.edit))
+                ShowSelection(combo);
+            break;
+        }
+        case LBN_DBLCLK:
+            NotifyCombo(combo, CBN_DBLCLK);
+            break;
+        case static_cast<short>(LBN_ERRSPACE):
+            NotifyCombo(combo, CBN_ERRSPACE);
+            break;
+        default:
+            break;
+    }
+}
+
+void OnCommand(ComboData& combo, WPARAM wParam, LPARAM lParam) {
+    const auto from = reinterpret_cast<HWND>(lParam);
+    if (from && from == combo.edit)
+        OnEditNotification(combo, HIWORD(wParam));
+    else if (from && from == combo.list)
+        OnListNotification(combo, static_cast<short>(HIWORD(wParam)));
+}
+
+// --- input
+
+void OnButtonDown(ComboData& combo, LPARAM lParam) {
+    SetFocus(combo.window);
+    if (!IsWindow(combo.window) || !combo.Drops())
+        return;
+    const POINT point{static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+    const RECT arrow = ArrowRect(combo);
+    const bool onArrow = PtInRect(&arrow, point) != FALSE;
+    if (combo.edit && !onArrow)
+        return;
+    if (combo.dropped) {
+        CloseUp(combo, false);
+        return;
+    }
+    combo.pressed = true;
+    DropDown(combo);
+    if (!combo.dropped)
+        combo.pressed = false;
+}
+
+void OnWheel(ComboData& combo, WPARAM wParam, LPARAM lParam) {
+    if (combo.dropped || !combo.Drops()) {
+        SendMessageA(combo.list, WM_MOUSEWHEEL, wParam, lParam);
+        return;
+    }
+    OnComboKey(combo, WM_KEYDOWN, GET_WHEEL_DELTA_WPARAM(wParam) > 0 ? VK_UP : VK_DOWN);
+}
+
+LRESULT OnText(ComboData& combo, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (combo.edit) {
+        combo.quiet = true;
+        const LRESULT result = SendMessageA(combo.edit, message, wParam, lParam);
+        combo.quiet = false;
+        return result;
+    }
+    const std::string text = ItemText(combo, Current(combo));
+    if (message == WM_GETTEXTLENGTH)
+        return static_cast<LRESULT>(text.size());
+    auto* buffer = reinterpret_cast<char*>(lParam);
+    if (message != WM_GETTEXT || !buffer || wParam == 0)
+        return CB_ERR;
+    const std::size_t length = std::min<std::size_t>(text.size(), wParam - 1);
+    std::copy_n(text.data(), length, buffer);
+    buffer[length] = '\0';
+    return static_cast<LRESULT>(length);
+}
+
+LRESULT OnInput(ComboData& combo, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK:
+            OnButtonDown(combo, lParam);
+            return 0;
+        case WM_KEYDOWN:
+        case WM_SYSKEYDOWN:
+            return OnComboKey(combo, message, wParam) ? 0 : DefWindowProcA(combo.window, message, wParam, lParam);
+        case WM_CHAR:
+            OnComboCharacter(combo, wParam);
+            return 0;
+        case WM_MOUSEWHEEL:
+            OnWheel(combo, wParam, lParam);
+            return 0;
+        case WM_CANCELMODE:
+            CloseUp(combo, false);
+            return DefWindowProcA(combo.window, message, wParam, lParam);
+        case WM_CUT:
+        case WM_COPY:
+        case WM_PASTE:
+        case WM_CLEAR:
+        case WM_UNDO:
+            return combo.edit ? SendMessageA(combo.edit, message, wParam, lParam) : 0;
+        default:
+            return DefWindowProcA(combo.window, message, wParam, lParam);
+    }
+}
+
+}  // namespace
+
+LRESULT CALLBACK ComboBoxProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    const auto data = ControlOf<ComboData>(window);
+    if (!data)
+        return DefWindowProcA(window, message, wParam, lParam);
+    ComboData& combo = *data;
+    switch (message) {
+        case WM_NCCREATE:
+            combo.window = window;
+            TakeScrollStyle(combo);
+            return DefWindowProcA(window, message, wParam, lParam);
+        case WM_CREATE:
+            return OnCreate(combo, *reinterpret_cast<const CREATESTRUCTA*>(lParam));
+        case WM_DESTROY:
+            OnDestroy(combo);
+            return 0;
+        case WM_GETDLGCODE:
+            return DialogCodeOf(combo, lParam);
+        case WM_WINDOWPOSCHANGING:
+            OnSizing(combo, *reinterpret_cast<WINDOWPOS*>(lParam));
+            return 0;
+        case WM_SIZE:
+            LayOutCombo(combo);
+            return 0;
+        case WM_ERASEBKGND:
+            return TRUE;
+        case WM_PAINT:
+        case WM_PRINTCLIENT:
+            OnPaint(combo, reinterpret_cast<HDC>(wParam));
+            return 0;
+        case WM_ENABLE:
+            OnEnable(combo, wParam != 0);
+            return 0;
+        case WM_SETFONT:
+            OnSetFont(combo, wParam, LOWORD(lParam) != 0);
+            return 0;
+        case WM_GETFONT:
+            return reinterpret_cast<LRESULT>(combo.font);
+        case WM_SETTEXT:
+        case WM_GETTEXT:
+        case WM_GETTEXTLENGTH:
+            return OnText(combo, message, wParam, lParam);
+        case WM_SETFOCUS:
+            if (combo.edit) {
+                SetFocus(combo.edit);
+                SendMessageA(combo.edit, EM_SETSEL, 0, -1);
+            } else {
+                GainFocus(combo);
+            }
+            return 0;
+        case WM_KILLFOCUS:
+            LoseFocus(combo, reinterpret_cast<HWND>(wParam));
+            return 0;
+        case WM_COMMAND:
+            OnCommand(combo, wParam, lParam);
+            return 0;
+        case WM_CTLCOLOREDIT:
+        case WM_CTLCOLORSTATIC:
+        case WM_CTLCOLORLISTBOX: {
+            const HWND parent = GetParent(window);
+            return parent ? SendMessageA(parent, message, wParam, lParam) : 0;
+        }
+        case WM_SYSCOLORCHANGE:
+            InvalidateRect(window, nullptr, TRUE);
+            return 0;
+        default:
+            if (message >= CB_GETEDITSEL && message <= CB_INITSTORAGE)
+                return OnComboMessage(combo, message, wParam, lParam);
+            return OnInput(combo, message, wParam, lParam);
+    }
+}
+
+}  // namespace platform::user
+
+using namespace platform::user;
+
+BOOL WINAPI GetComboBoxInfo(HWND window, PCOMBOBOXINFO info) {
+    if (!FindWindowObject(window))
+        return FALSE;
+    const auto combo = ControlOf<ComboData>(window);
+    if (!combo || !info || info->cbSize != sizeof *info) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return FALSE;
+    }
+    info->rcItem = TextRect(*combo);
+    info->rcButton = ArrowRect(*combo);
+    info->stateButton = !combo->Drops()  ? DWORD{STATE_SYSTEM_INVISIBLE}
+                        : combo->pressed ? DWORD{STATE_SYSTEM_PRESSED}
+                                         : 0;
+    info->hwndCombo = window;
+    info->hwndItem = combo->edit ? combo->edit : window;
+    info->hwndList = combo->list;
+    return TRUE;
+}

@@ -1,0 +1,154 @@
+// The part of a combo box that is always seen: a sunken field, and the arrow at its right.
+#include <algorithm>
+
+#include "user/controls/combobox/combo.h"
+
+namespace platform::user {
+namespace {
+
+constexpr int kEdge = 2;
+constexpr int kInset = 1;    // between the edge and the text's place
+constexpr int kSpacing = 2;  // what a line of text gets on top of the font's height
+
+/// The field's colours are those of an edit control; a disabled one is as grey as a label.
+HBRUSH FieldBrush(const ComboData& combo, HDC context) {
+    return ControlBrush(combo.window, context, combo.Style() & WS_DISABLED ? WM_CTLCOLORSTATIC : WM_CTLCOLOREDIT);
+}
+
+void AskOwner(const ComboData& combo, HDC context, const RECT& rect, bool focus) {
+    const HWND parent = GetParent(combo.window);
+    if (!parent)
+        return;
+    const int index = Current(combo);
+    DRAWITEMSTRUCT item{};
+    item.CtlType = ODT_COMBOBOX;
+    item.CtlID = static_cast<UINT>(GetDlgCtrlID(combo.window));
+    item.itemID = static_cast<UINT>(index);
+    item.itemAction = ODA_DRAWENTIRE;
+    item.itemState = ODS_COMBOBOXEDIT | (focus ? UINT{ODS_FOCUS | ODS_SELECTED} : 0U) |
+                     (combo.Style() & WS_DISABLED ? UINT{ODS_DISABLED} : 0U);
+    item.hwndItem = combo.window;
+    item.hDC = context;
+    item.rcItem = rect;
+    if (index >= 0)
+        item.itemData = static_cast<ULONG_PTR>(SendMessageA(combo.list, LB_GETITEMDATA, static_cast<WPARAM>(index), 0));
+    IntersectClipRect(context, rect.left, rect.top, rect.right, rect.bottom);
+    SendMessageA(parent, WM_DRAWITEM, item.CtlID, reinterpret_cast<LPARAM>(&item));
+}
+
+void DrawChoice(const ComboData& combo, HDC context, const RECT& rect, bool focus) {
+    const std::string text = ItemText(combo, Current(combo));
+    if (focus) {
+        SetTextColor(context, GetSysColor(COLOR_HIGHLIGHTTEXT));
+        SetBkColor(context, GetSysColor(COLOR_HIGHLIGHT));
+    } else if (combo.Style() & WS_DISABLED) {
+        SetTextColor(context, GetSysColor(COLOR_GRAYTEXT));
+    }
+    ExtTextOutA(context, rect.left + kInset, rect.top + kInset, ETO_OPAQUE | ETO_CLIPPED, &rect, text.c_str(),
+                static_cast<UINT>(text.size()), nullptr);
+    if (focus)
+        DrawFocusRect(context, &rect);
+}
+
+}  // namespace
+
+int ClosedHeight(const ComboData& combo) {
+    return combo.fieldHeight + 2 * (kEdge + kInset);
+}
+
+RECT ArrowRect(const ComboData& combo) {
+    RECT client{};
+    GetClientRect(combo.window, &client);
+    if (!combo.Drops())
+        return {};
+    const int right = client.right - kEdge;
+    return {std::max(kEdge, right - GetSystemMetrics(SM_CXVSCROLL)), kEdge, right, ClosedHeight(combo) - kEdge};
+}
+
+RECT TextRect(const ComboData& combo) {
+    RECT client{};
+    GetClientRect(combo.window, &client);
+    const int right = combo.Drops() ? ArrowRect(combo).left : client.right - kEdge;
+    return {kEdge + kInset, kEdge + kInset, std::max(kEdge + kInset, right - kInset),
+            kEdge + kInset + combo.fieldHeight};
+}
+
+void LayOutCombo(ComboData& combo) {
+    const RECT text = TextRect(combo);
+    if (combo.edit)
+        MoveWindow(combo.edit, text.left, text.top, text.right - text.left, text.bottom - text.top, TRUE);
+    if (!combo.Drops() && combo.list) {
+        RECT client{};
+        GetClientRect(combo.window, &client);
+        const int top = ClosedHeight(combo);
+        MoveWindow(combo.list, 0, top, client.right, std::max<int>(0, client.bottom - top), TRUE);
+    }
+}
+
+void MeasureField(ComboData& combo) {
+    if (!combo.heightGiven) {
+        const HDC context = GetDC(combo.window);
+        if (!context)
+            return;
+        const int saved = SaveDC(context);
+        if (combo.font)
+            SelectObject(context, combo.font);
+        TEXTMETRICA metrics{};
+        GetTextMetricsA(context, &metrics);
+        RestoreDC(context, saved);
+        ReleaseDC(combo.window, context);
+        combo.fieldHeight = std::max<int>(1, metrics.tmHeight) + kSpacing;
+    }
+    RECT rect{};
+    if (combo.Drops() && GetWindowRect(combo.window, &rect))
+        SetWindowPos(combo.window, nullptr, 0, 0, rect.right - rect.left, ClosedHeight(combo),
+                     SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    LayOutCombo(combo);
+}
+
+void PaintCombo(const ComboData& combo, HDC context) {
+    const int saved = SaveDC(context);
+    if (combo.font)
+        SelectObject(context, combo.font);
+    RECT frame{};
+    GetClientRect(combo.window, &frame);
+    frame.bottom = std::min<LONG>(frame.bottom, ClosedHeight(combo));
+    DrawEdge(context, &frame, EDGE_SUNKEN, BF_RECT);
+    RECT arrow = ArrowRect(combo);
+    if (!IsRectEmpty(&arrow)) {
+        DrawFrameControl(context, &arrow, DFC_SCROLL,
+                         DFCS_SCROLLCOMBOBOX | (combo.pressed ? UINT{DFCS_PUSHED | DFCS_FLAT} : 0U) |
+                             (combo.Style() & WS_DISABLED ? UINT{DFCS_INACTIVE} : 0U));
+    }
+    RECT field = frame;
+    InflateRect(&field, -kEdge, -kEdge);
+    if (!IsRectEmpty(&arrow))
+        field.right = arrow.left;
+    const RECT text = TextRect(combo);
+    const HBRUSH brush = FieldBrush(combo, context);
+    if (combo.edit) {
+        // The edit control draws its own part.
+        ExcludeClipRect(context, text.left, text.top, text.right, text.bottom);
+        FillRect(context, &field, brush);
+    } else {
+        const bool focus = combo.focused && !combo.dropped;
+        FillRect(context, &field, brush);
+        if (combo.OwnerDrawn())
+            AskOwner(combo, context, text, focus);
+        else
+            DrawChoice(combo, context, text, focus);
+    }
+    RestoreDC(context, saved);
+}
+
+void RedrawCombo(const ComboData& combo) {
+    if (!IsWindowVisible(combo.window))
+        return;
+    const HDC context = GetDC(combo.window);
+    if (!context)
+        return;
+    PaintCombo(combo, context);
+    ReleaseDC(combo.window, context);
+}
+
+}  // namespace platform::user
