@@ -133,6 +133,22 @@ TEST_F(ImageList, GrowsAndClosesGaps) {
     EXPECT_EQ(0, AddHalf(colours[0]));
 }
 
+TEST_F(ImageList, EveryDepthHoldsThePureColours) {
+    for (const UINT depth : {ILC_COLOR, ILC_COLORDDB, ILC_COLOR4, ILC_COLOR8, ILC_COLOR24, ILC_COLOR32}) {
+        EXPECT_TRUE(ImageList_Destroy(list));
+        list = ImageList_Create(8, 8, depth | ILC_MASK, 1, 1);
+        ASSERT_NE(nullptr, list) << depth;
+        AddHalf(RGB(255, 0, 0));
+        AddHalf(RGB(0, 0, 255));
+        canvas.Clear(kGround);
+        ImageList_Draw(list, 0, canvas, 0, 0, ILD_NORMAL);
+        ImageList_Draw(list, 1, canvas, 8, 0, ILD_NORMAL);
+        EXPECT_EQ(32, canvas.Count(canvas.All(), kRed)) << depth;
+        EXPECT_EQ(32, canvas.Count(canvas.All(), kBlue)) << depth;
+        EXPECT_EQ(64, canvas.Count({0, 0, 16, 8}, kGround)) << depth;
+    }
+}
+
 TEST_F(ImageList, MaskBitmapsAndSeveralPicturesAtOnce) {
     Canvas wide(20, 8);
     wide.Clear(kRed);
