@@ -16,8 +16,8 @@ bool IsSeparator(char ch) {
 // The signs, separators and quotes are no second bytes of double-byte characters in any code page, so the text can be
 // walked by bytes.
 
-/// Takes out every sign that is not in quotes. @return the end of what is left.
-char* RemoveSigns(char* text) {
+/// Takes out every sign that is not in quotes.
+void RemoveSigns(char* text) {
     bool quoted = false;
     char* to = text;
     for (char const* from = text; *from; ++from) {
@@ -28,7 +28,6 @@ char* RemoveSigns(char* text) {
         *to++ = *from;
     }
     *to = '\0';
-    return to;
 }
 
 /// Puts a sign before each run of separators that are not in quotes, and at the end of the text if it ends outside of
@@ -62,19 +61,19 @@ CVAPI(void) UTIL_AddRemoveSubdirSymbol(HWND dialog, int controlId, BOOL add) {
     if (field.GetStrLen() == 0) {
         return;
     }
-    char* const text = field;
-    if (!text) {
-        return;
-    }
-    auto const length = static_cast<std::size_t>(RemoveSigns(text) - text);
-    if (!add) {
-        SetDlgItemTextA(dialog, controlId, text);
-        return;
-    }
+    // Read as it stands in the block: anything that grows it would cut the text at its first accented letter.
+    char const* const whole = static_cast<CSTRING const&>(field);
+    std::size_t const size = std::strlen(whole) + 1;
     // At most one sign more for each character, and one at the end.
-    std::unique_ptr<char[]> const marked(new (std::nothrow) char[2 * length + 2]);
-    if (marked) {
-        AddSigns(text, marked.get());
-        SetDlgItemTextA(dialog, controlId, marked.get());
+    std::unique_ptr<char[]> const text(new (std::nothrow) char[size]);
+    std::unique_ptr<char[]> const marked(new (std::nothrow) char[2 * size]);
+    if (!text || !marked) {
+        return;
     }
+    std::memcpy(text.get(), whole, size);
+    RemoveSigns(text.get());
+    if (add) {
+        AddSigns(text.get(), marked.get());
+    }
+    SetDlgItemTextA(dialog, controlId, add ? marked.get() : text.get());
 }

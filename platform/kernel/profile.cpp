@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <fcntl.h>
+#include <strings.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -21,8 +22,9 @@
 
 #include "base/report.h"
 #include "base/state.h"
+#include "kernel/encoding.h"
 #include "kernel/guarded.h"
-#include "kernel/hostpath.h"
+#include "kernel/hostfile.h"
 #include "kernel/ini_file.h"
 #include "kernel/intl.h"
 #include "kernel/profile.h"
@@ -191,6 +193,30 @@ std::string WinIni() {
     return base::StateFolder() + "/win.ini";
 }
 
+// A bare name, and one in the Windows folder, which is where bare names lie, is a file of the state folder.
+std::string ProfilePath(LPCSTR file) {
+    constexpr std::string_view kWindows = "C:\\WINDOWS\\";
+    std::string_view name = file ? file : "win.ini";
+    if (name.size() > kWindows.size() && strncasecmp(name.data(), kWindows.data(), kWindows.size()) == 0) {
+        name.remove_prefix(kWindows.size());
+    }
+    std::string path;
+    if (name.find_first_of("\\/:") != std::string_view::npos) {
+        FindHostFile(file, &path);
+        return path;
+    }
+    if (name.size() == 7 && strncasecmp(name.data(), "win.ini", 7) == 0) {
+        return WinIni();
+    }
+    const std::string plain = Utf8FromAnsi(name);
+    path = base::StateFolder() + '/' + plain;
+    if (access(path.c_str(), F_OK) != 0) {
+        const std::string other = FindInAnyCase(base::StateFolder(), plain);
+        return other.empty() ? path : base::StateFolder() + '/' + other;
+    }
+    return path;
+}
+
 // Names, each ended by a NUL, and one more NUL behind the last.
 DWORD DeliverList(const std::vector<std::string>& names, LPSTR buffer, DWORD size) {
     std::string list;
@@ -336,13 +362,12 @@ BOOL WINAPI WriteProfileStringA(LPCSTR section, LPCSTR key, LPCSTR text) {
 
 UINT WINAPI GetPrivateProfileIntA(LPCSTR section, LPCSTR key, INT defaultValue, LPCSTR file) {
     return Guarded(static_cast<UINT>(defaultValue),
-                   [&] { return GetNumber(file ? HostPath(file) : WinIni(), section, key, defaultValue); });
+                   [&] { return GetNumber(ProfilePath(file), section, key, defaultValue); });
 }
 
 DWORD WINAPI GetPrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR defaultText, LPSTR buffer, DWORD size,
                                       LPCSTR file) {
-    return Guarded(DWORD{0},
-                   [&] { return GetText(file ? HostPath(file) : WinIni(), section, key, defaultText, buffer, size); });
+    return Guarded(DWORD{0}, [&] { return GetText(ProfilePath(file), section, key, defaultText, buffer, size); });
 }
 
 DWORD WINAPI GetProfileSectionA(LPCSTR section, LPSTR buffer, DWORD size) {
@@ -350,9 +375,9 @@ DWORD WINAPI GetProfileSectionA(LPCSTR section, LPSTR buffer, DWORD size) {
 }
 
 DWORD WINAPI GetPrivateProfileSectionA(LPCSTR section, LPSTR buffer, DWORD size, LPCSTR file) {
-    return Guarded(DWORD{0}, [&] { return GetSection(file ? HostPath(file) : WinIni(), section, buffer, size); });
+    return Guarded(DWORD{0}, [&] { return GetSection(ProfilePath(file), section, buffer, size); });
 }
 
 BOOL WINAPI WritePrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR text, LPCSTR file) {
-    return Guarded(FALSE, [&] { return Write(file ? HostPath(file) : WinIni(), section, key, text); });
+    return Guarded(FALSE, [&] { return Write(ProfilePath(file), section, key, text); });
 }

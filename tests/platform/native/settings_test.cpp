@@ -118,6 +118,25 @@ TEST_F(Settings, ALinkStaysALink) {
     EXPECT_EQ(Read("a", "key"), "value");
 }
 
+TEST_F(Settings, PrivateFilesByNameAndByPath) {
+    const auto read = [](const char* file) { return GetPrivateProfileIntA("a", "key", 0, file); };
+    ASSERT_TRUE(WritePrivateProfileStringA("a", "key", "7", "App.ini"));
+    EXPECT_TRUE(fs::exists(folder_ / "App.ini"));
+    for (const char* file : {"App.ini", "APP.INI", "C:\\WINDOWS\\app.ini", "c:\\windows\\App.ini"}) {
+        EXPECT_EQ(read(file), 7u) << file;
+    }
+    ASSERT_TRUE(WritePrivateProfileStringA("a", "key", "8", "app.INI"));
+    EXPECT_EQ(read("App.ini"), 8u) << "not a second file";
+    fs::create_directories(folder_ / "drive_c" / "Data");
+    ASSERT_TRUE(WritePrivateProfileStringA("a", "key", "9", "C:\\DATA\\app.ini"));
+    EXPECT_TRUE(fs::exists(folder_ / "drive_c" / "Data" / "app.ini"));
+    EXPECT_EQ(read("c:\\data\\APP.ini"), 9u);
+    SetLastError(0);
+    EXPECT_FALSE(WritePrivateProfileStringA("a", "key", "9", "C:\\None\\app.ini"));
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_PATH_NOT_FOUND));
+    EXPECT_EQ(GetPrivateProfileIntA("a", "key", 5, "Q:\\app.ini"), 5u);
+}
+
 TEST_F(Settings, SeveralWritersLoseNothing) {
     constexpr int kWriters = 4;
     constexpr int kKeys = 25;

@@ -1,0 +1,353 @@
+// The registry's file under faults: processes that are killed, that write at once, and files that are not what they
+// should be. Each test has a state folder of its own.
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <sys/mman.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <thread>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr char kPath[] = "Software\\Calverin\\Velmora\\Store test";
+
+HKEY Open() {
+    HKEY key = nullptr;
+    RegCreateKeyExA(HKEY_CURRENT_USER, kPath, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key, nullptr);
+    return key;
+}
+
+LONG Write(HKEY key, const std::string& name, DWORD value) {
+    return RegSetValueExA(key, name.c_str(), 0, REG_DWORD, reinterpret_cast<const BYTE*>(&value), sizeof value);
+}
+
+/// A number that is never written stands for a missing value.
+constexpr DWORD kMissing = 0xFFFFFFFF;
+
+DWORD Read(HKEY key, const std::string& name) {
+    DWORD value = 0;
+    DWORD size = sizeof value;
+    const LONG error = RegQueryValueExA(key, name.c_str(), nullptr, nullptr, reinterpret_cast<BYTE*>(&value), &size);
+    return error == ERROR_SUCCESS ? value : kMissing;
+}
+
+class RegistryStore : public ::testing::Test {
+  protected:
+    RegistryStore() {
+        char name[] = "/tmp/cvutil32-registry-XXXXXX";
+        folder_ = mkdtemp(name);
+        const char* home = std::getenv("CVUTIL32_HOME");
+        former_ = home ? home : "";
+        setenv("CVUTIL32_HOME", folder_.c_str(), 1);
+    }
+    ~RegistryStore() override {
+        former_.empty() ? unsetenv("CVUTIL32_HOME") : setenv("CVUTIL32_HOME", former_.c_str(), 1);
+        HKEY key = nullptr;
+        RegOpenKeyExA(HKEY_CURRENT_USER, "", 0, KEY_READ, &key);  // leaves the test's file
+        RegCloseKey(key);
+        fs::permissions(folder_, fs::perms::owner_all);
+        fs::remove_all(folder_);
+    }
+
+    fs::path File() const {
+        return folder_ / "registry.db";
+    }
+    void Put(const std::string& text) const {
+        std::ofstream(File(), std::ios::binary) << text;
+    }
+    std::string Text() const {
+        std::ostringstream text;
+        text << std::ifstream(File(), std::ios::binary).rdbuf();
+        return text.str();
+    }
+    /// Runs a piece of code in a process of its own. @returns whether it says that all is well.
+    template <class Piece>
+    static bool InProcess(Piece piece) {
+        const pid_t child = fork();
+        if (child == 0) {
+            std::exit(piece() ? 0 : 1);
+        }
+        int status = -1;
+        waitpid(child, &status, 0);
+        return status == 0;
+    }
+
+    fs::path folder_;
+    std::string former_;
+};
+
+TEST_F(RegistryStore, WhatAnotherProcessWritesIsSeenAtOnce) {
+    const HKEY key = Open();
+    Write(key, "Number", 1);
+    ASSERT_EQ(Read(key, "Number"), 1u);
+    EXPECT_TRUE(InProcess([] {
+        const HKEY own = Open();
+        return Read(own, "Number") == 1 && Write(own, "Number", 2) == ERROR_SUCCESS &&
+               Write(own, "New", 3) == ERROR_SUCCESS;
+    }));
+    EXPECT_EQ(Read(key, "Number"), 2u);
+    EXPECT_EQ(Read(key, "New"), 3u);
+    EXPECT_TRUE(InProcess([] { return RegDeleteKeyA(HKEY_CURRENT_USER, kPath) == ERROR_SUCCESS; }));
+    DWORD size = 0;
+    EXPECT_EQ(RegQueryValueExA(key, "Number", nullptr, nullptr, nullptr, &size), ERROR_KEY_DELETED);
+    RegCloseKey(key);
+}
+
+TEST_F(RegistryStore, TwoWritersLoseNothing) {
+    constexpr DWORD kWrites = 10000;
+    constexpr DWORD kNames = 50;
+    pid_t writers[2];
+    for (int writer = 0; writer < 2; ++writer) {
+        writers[writer] = fork();
+        if (writers[writer] == 0) {
+            const HKEY key = Open();
+            bool good = true;
+            for (DWORD i = 0; i < kWrites && good; ++i) {
+                // What this process wrote before must still be there, whatever the other one does.
+                const std::string name = (writer ? "b" : "a") + std::to_string(i % kNames);
+                good = (i < kNames || Read(key, name) == i - kNames) && Write(key, name, i) == ERROR_SUCCESS;
+            }
+            std::exit(good ? 0 : 1);
+        }
+    }
+    for (const pid_t writer : writers) {
+        int status = -1;
+        waitpid(writer, &status, 0);
+        EXPECT_EQ(status, 0);
+    }
+    const HKEY key = Open();
+    for (DWORD i = kWrites - kNames; i < kWrites; ++i) {
+        EXPECT_EQ(Read(key, "a" + std::to_string(i % kNames)), i);
+        EXPECT_EQ(Read(key, "b" + std::to_string(i % kNames)), i);
+    }
+    RegCloseKey(key);
+}
+
+// The child tells, in memory that it shares, what has been written; it is killed at any moment, two hundred times.
+TEST_F(RegistryStore, WhatWasWrittenOutlivesAKilledProcess) {
+    struct Shared {
+        std::atomic<DWORD> written;
+        std::atomic<DWORD> keys;
+    };
+    auto* shared =
+        static_cast<Shared*>(mmap(nullptr, sizeof(Shared), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
+    ASSERT_NE(shared, MAP_FAILED);
+    HKEY key = Open();
+    ASSERT_EQ(Write(key, "Kept", 4711), ERROR_SUCCESS);
+    RegCloseKey(key);
+    unsigned seed = 12345;
+    DWORD total = 0;
+    for (int kill = 0; kill < 200; ++kill) {
+        shared->written = shared->keys = 0;
+        const DWORD first = total + 1;
+        const pid_t child = fork();
+        if (child == 0) {
+            const HKEY own = Open();
+            for (DWORD i = first;; ++i) {
+                if (Write(own, "Number", i) != ERROR_SUCCESS || Write(own, "n" + std::to_string(i % 64), i)) {
+                    _exit(1);
+                }
+                shared->written = i;
+                HKEY sub = nullptr;
+                const std::string name = "k" + std::to_string(i % 16);
+                if (RegCreateKeyExA(own, name.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &sub, nullptr)) {
+                    _exit(2);
+                }
+                RegCloseKey(sub);
+                shared->keys = shared->keys | 1u << (i % 16);
+            }
+        }
+        seed = seed * 1103515245 + 12345;
+        std::this_thread::sleep_for(std::chrono::microseconds(2000 + (seed >> 16) % 12000));
+        ::kill(child, SIGKILL);
+        int status = 0;
+        waitpid(child, &status, 0);
+        ASSERT_TRUE(WIFSIGNALED(status)) << "the writer failed, kill " << kill;
+
+        key = Open();
+        ASSERT_NE(key, nullptr);
+        ASSERT_EQ(Read(key, "Kept"), 4711u);
+        const DWORD written = shared->written;
+        if (written) {
+            const DWORD number = Read(key, "Number");
+            ASSERT_TRUE(number == written || number == written + 1) << number << " after " << written;
+            const DWORD spread = Read(key, "n" + std::to_string(written % 64));
+            ASSERT_TRUE(spread == written || spread == written + 64);
+            total = number;
+        }
+        for (int i = 0; i < 16; ++i) {
+            HKEY sub = nullptr;
+            if (shared->keys & 1u << i) {
+                ASSERT_EQ(RegOpenKeyExA(key, ("k" + std::to_string(i)).c_str(), 0, KEY_READ, &sub), ERROR_SUCCESS);
+                RegCloseKey(sub);
+            }
+        }
+        RegCloseKey(key);
+    }
+    EXPECT_GT(total, 200u) << "the writers got somewhere";
+    munmap(shared, sizeof(Shared));
+}
+
+TEST_F(RegistryStore, AProcessThatForksGoesOn) {
+    const HKEY key = Open();
+    Write(key, "Number", 1);
+    EXPECT_TRUE(InProcess([key] { return Write(key, "Number", Read(key, "Number") + 1) == ERROR_SUCCESS; }));
+    EXPECT_EQ(Read(key, "Number"), 2u) << "an open key serves both";
+    RegCloseKey(key);
+}
+
+TEST_F(RegistryStore, ADamagedFileIsReportedAndLeftAlone) {
+    std::string rubbish;
+    for (int i = 0; i < 20000; ++i) {
+        rubbish += static_cast<char>(i * 7919 >> 3);
+    }
+    Put(rubbish);
+    ::testing::internal::CaptureStderr();
+    HKEY key = nullptr;
+    EXPECT_EQ(RegCreateKeyExA(HKEY_CURRENT_USER, kPath, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key, nullptr),
+              ERROR_REGISTRY_CORRUPT);
+    EXPECT_EQ(RegOpenKeyExA(HKEY_CURRENT_USER, kPath, 0, KEY_READ, &key), ERROR_REGISTRY_CORRUPT);
+    const std::string said = ::testing::internal::GetCapturedStderr();
+    EXPECT_NE(said.find("registry.db is damaged"), std::string::npos) << said;
+    EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 1) << "one line";
+    EXPECT_TRUE(Text() == rubbish);
+}
+
+TEST_F(RegistryStore, APageThatWasOverwritten) {
+    HKEY key = Open();
+    for (DWORD i = 0; i < 2000; ++i) {
+        Write(key, "a long name of a value, number " + std::to_string(i), i);
+    }
+    RegCloseKey(key);
+    EXPECT_TRUE(InProcess([] { return true; })) << "a fork closes the file";
+    std::string text = Text();
+    ASSERT_GT(text.size(), 65536u);
+    // All but the first pages: the tables themselves.
+    std::fill(text.begin() + 16384, text.end(), '\x5A');
+    Put(text);
+    ::testing::internal::CaptureStderr();
+    key = Open();
+    DWORD read = 0;
+    for (DWORD i = 0; i < 2000; ++i) {
+        read += Read(key, "a long name of a value, number " + std::to_string(i)) == i;
+    }
+    EXPECT_LT(read, 2000u);
+    EXPECT_NE(Write(key, "a long name of a value, number 1000", 1), ERROR_SUCCESS);
+    ::testing::internal::GetCapturedStderr();
+    RegCloseKey(key);
+}
+
+TEST_F(RegistryStore, AFileOfAnotherKindIsLeftAlone) {
+    RegCloseKey(Open());
+    EXPECT_TRUE(InProcess([] { return true; })) << "a fork closes the file";
+    // The number at 68 names the program that a database belongs to.
+    std::string before = Text();
+    before.replace(68, 4, "XYZ1");
+    Put(before);
+    ::testing::internal::CaptureStderr();
+    EXPECT_EQ(Open(), nullptr);
+    ::testing::internal::GetCapturedStderr();
+    EXPECT_TRUE(Text() == before);
+}
+
+// As another user than root, whom permissions do not hold.
+template <class Piece>
+bool AsNobody(Piece piece) {
+    const pid_t child = fork();
+    if (child == 0) {
+        if (geteuid() == 0 && (setgid(65534) != 0 || setuid(65534) != 0)) {
+            _exit(3);
+        }
+        _exit(piece() ? 0 : 1);
+    }
+    int status = -1;
+    waitpid(child, &status, 0);
+    return status == 0;
+}
+
+TEST_F(RegistryStore, AFolderThatCannotBeWrittenCanBeRead) {
+    HKEY key = Open();
+    Write(key, "Number", 5);
+    RegCloseKey(key);
+    EXPECT_TRUE(InProcess([] { return true; })) << "a fork closes the file";
+    fs::permissions(File(), fs::perms(0444));
+    fs::permissions(folder_, fs::perms(0555));
+    EXPECT_TRUE(AsNobody([] {
+        HKEY own = nullptr;
+        const LONG opened =
+            RegCreateKeyExA(HKEY_CURRENT_USER, kPath, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &own, nullptr);
+        HKEY other = nullptr;
+        return opened == ERROR_SUCCESS && Read(own, "Number") == 5 && Write(own, "Number", 6) == ERROR_ACCESS_DENIED &&
+               RegCreateKeyExA(own, "New", 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &other, nullptr) ==
+                   ERROR_ACCESS_DENIED &&
+               Read(own, "Number") == 5;
+    }));
+}
+
+TEST_F(RegistryStore, AFolderThatCannotBeMade) {
+    setenv("CVUTIL32_HOME", (folder_ / "file" / "state").c_str(), 1);
+    std::ofstream(folder_ / "file") << "in the way";
+    ::testing::internal::CaptureStderr();
+    EXPECT_EQ(Open(), nullptr);
+    EXPECT_EQ(Open(), nullptr);
+    const std::string said = ::testing::internal::GetCapturedStderr();
+    EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 1) << said;
+    setenv("CVUTIL32_HOME", folder_.c_str(), 1);
+}
+
+// A limit on the size of files stands for a full disk.
+TEST_F(RegistryStore, AFullDiskLosesNothing) {
+    HKEY key = Open();
+    Write(key, "Number", 5);
+    EXPECT_TRUE(InProcess([key] {
+        std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit limit{200000, 200000};
+        setrlimit(RLIMIT_FSIZE, &limit);
+        const std::string large(100000, 'x');
+        LONG error = ERROR_SUCCESS;
+        for (int i = 0; i < 100 && error == ERROR_SUCCESS; ++i) {
+            error = RegSetValueExA(key, ("Large" + std::to_string(i)).c_str(), 0, REG_BINARY,
+                                   reinterpret_cast<const BYTE*>(large.data()), static_cast<DWORD>(large.size()));
+        }
+        return error != ERROR_SUCCESS && Read(key, "Number") == 5;
+    }));
+    EXPECT_EQ(Read(key, "Number"), 5u);
+    EXPECT_EQ(Write(key, "Number", 6), ERROR_SUCCESS);
+    RegCloseKey(key);
+}
+
+TEST_F(RegistryStore, ThreadsWriteAtOnce) {
+    std::atomic<int> failures{0};
+    std::thread threads[4];
+    for (int t = 0; t < 4; ++t) {
+        threads[t] = std::thread([t, &failures] {
+            const HKEY key = Open();
+            for (DWORD i = 0; i < 200; ++i) {
+                const std::string name = std::to_string(t) + "/" + std::to_string(i % 10);
+                failures += Write(key, name, i) != ERROR_SUCCESS || Read(key, name) != i;
+            }
+            RegCloseKey(key);
+        });
+    }
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+    EXPECT_EQ(failures, 0);
+}
+
+}  // namespace

@@ -1,0 +1,109 @@
+// Help topics in popup windows, which hosts without a help engine show.
+#include <cvutil32/util.h>
+
+#include "tests/support/leaks.h"
+#include "tests/support/temp_folder.h"
+#include "tests/support/window.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+using testing_support::LeakCheck;
+using testing_support::PumpMessages;
+using testing_support::TempFolder;
+using testing_support::TestWindow;
+
+namespace {
+
+constexpr char kGraphicButton[] = "Calverin_GraphicButton";
+
+class UtilHelpPopup : public ::testing::Test {
+  protected:
+    UtilHelpPopup() : window_(nullptr, {50, 50, 250, 200}) {
+        folder_.MakeFile("Viewer.txt",
+                         "About this file\r\n[1001]\r\n\r\nThe name.\r\nIn two lines.\r\n[1002]\nA folder.");
+        file_ = folder_.Path("VIEWER.HLP");
+    }
+    ~UtilHelpPopup() override {
+        WinHelpA(nullptr, nullptr, HELP_QUIT, 0);
+    }
+
+    HWND Add(HWND parent, char const* type, int id) const {
+        return CreateWindowExA(0, type, "", WS_CHILD | WS_VISIBLE, 0, 0, 200, 150, parent,
+                               reinterpret_cast<HMENU>(INT_PTR{id}), GetModuleHandleA(nullptr), nullptr);
+    }
+    static std::string Shown() {
+        char text[128] = "";
+        if (HWND const popup = FindWindowA("CvHelpPopup", nullptr)) {
+            GetWindowTextA(popup, text, sizeof text);
+        }
+        return text;
+    }
+
+    DWORD const table_[5] = {7, 1001, 8, 1002, 0};
+    ULONG_PTR const data_ = reinterpret_cast<ULONG_PTR>(table_);
+    TempFolder folder_;
+    TestWindow window_;
+    std::string file_;
+};
+
+TEST_F(UtilHelpPopup, ATopicStaysUntilTheNextClickOrKey) {
+    // The first popup makes a brush that stays.
+    EXPECT_TRUE(WinHelpA(window_, file_.c_str(), HELP_CONTEXT, 1002));
+    WinHelpA(nullptr, nullptr, HELP_QUIT, 0);
+    LeakCheck const leaks;
+    HWND const control = Add(window_, "button", 7);
+    EXPECT_TRUE(UTIL_WinHelp(control, file_.c_str(), HELP_WM_HELP, data_));
+    EXPECT_EQ("The name.\nIn two lines.", Shown());
+    HWND const popup = GetCapture();
+    SendMessageA(popup, WM_LBUTTONDOWN, 0, 0);
+    EXPECT_FALSE(IsWindow(popup));
+    EXPECT_TRUE(UTIL_WinHelp(window_, file_.c_str(), HELP_CONTEXTPOPUP, 1002));
+    EXPECT_EQ("A folder.", Shown());
+    SendMessageA(GetFocus(), WM_KEYDOWN, VK_ESCAPE, 0);
+    EXPECT_EQ("", Shown());
+    DestroyWindow(control);
+    PumpMessages();
+}
+
+TEST_F(UtilHelpPopup, WhatHasNoTopicFails) {
+    EXPECT_FALSE(UTIL_WinHelp(window_, file_.c_str(), HELP_CONTEXTPOPUP, 1003));
+    EXPECT_FALSE(UTIL_WinHelp(window_, folder_.Path("other.hlp").c_str(), HELP_CONTEXTPOPUP, 1001));
+    EXPECT_FALSE(UTIL_WinHelp(window_, nullptr, HELP_CONTEXTPOPUP, 1001));
+    EXPECT_FALSE(UTIL_WinHelp(nullptr, file_.c_str(), HELP_WM_HELP, data_));
+    EXPECT_FALSE(UTIL_WinHelp(window_, file_.c_str(), HELP_WM_HELP, 0));
+    EXPECT_FALSE(UTIL_WinHelp(window_, file_.c_str(), 0x4711, 1001));
+    EXPECT_EQ("", Shown());
+}
+
+// A stand-in, in case the real class is not there yet; only its name counts.
+TEST_F(UtilHelpPopup, AGraphicButtonInAControlStandsForTheControl) {
+    WNDCLASSA record = {};
+    bool const own = !GetClassInfoA(GetModuleHandleA(nullptr), kGraphicButton, &record);
+    if (own) {
+        record.lpfnWndProc = DefWindowProcA;
+        record.hInstance = GetModuleHandleA(nullptr);
+        record.lpszClassName = kGraphicButton;
+        ASSERT_NE(0, RegisterClassA(&record));
+    }
+    HWND const around = Add(window_, "static", 8);
+    HWND const button = Add(around, kGraphicButton, 99);
+    HWND const alone = Add(window_, kGraphicButton, 98);
+    PumpMessages();
+    SetCursorPos(100, 100);
+    EXPECT_TRUE(UTIL_WinHelp(button, file_.c_str(), HELP_WM_HELP, data_));
+    EXPECT_EQ("A folder.", Shown());
+    WinHelpA(nullptr, nullptr, HELP_QUIT, 0);
+    DestroyWindow(alone);
+    SetCursorPos(100, 100);
+    EXPECT_TRUE(UTIL_WinHelp(button, file_.c_str(), HELP_CONTEXTMENU, data_));
+    EXPECT_EQ("A folder.", Shown());
+    WinHelpA(nullptr, nullptr, HELP_QUIT, 0);
+    DestroyWindow(around);
+    if (own) {
+        UnregisterClassA(kGraphicButton, GetModuleHandleA(nullptr));
+    }
+}
+
+}  // namespace
