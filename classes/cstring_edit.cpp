@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <optional>
 
 using charwalk::CountBytes;
 using charwalk::kAll;
@@ -56,7 +57,9 @@ CSTRING const& CSTRING::Insert(char const* text, unsigned int pos, unsigned int 
         return Insert(copy.Buffer, pos, count);
     }
     std::uint32_t const added = CountBytes(text, count);
-    if (!Resize(ByteCount + added + 1)) {
+    // What stands behind the walked part moves along and is its NUL, or a byte of 0x80 or above, which needs one more.
+    std::uint32_t const end = Buffer[ByteCount] ? 2 : 1;
+    if (!Resize(ByteCount + added + end)) {
         return *this;
     }
     std::size_t const at = CountBytes(Buffer, pos);
@@ -190,23 +193,27 @@ CSTRING const& CSTRING::Replace(char const* find, char const* with, int all) {
     auto const findLength = static_cast<std::uint32_t>(lstrlenA(find));
     auto const withLength = static_cast<std::uint32_t>(lstrlenA(with));
     std::uint32_t position = 0;
+    std::optional<std::uint32_t> stuck;
     do {
         position = Find(find, position);
-        if (position == kAll) {
+        std::uint32_t const left = StrLen - position;
+        if (position == kAll || stuck == left) {
             break;
         }
         std::size_t const length = std::strlen(Buffer);
         std::uint32_t const bytes = ByteCount;
-        std::uint32_t const left = StrLen - position;
         Delete(position, findLength);
         bool const stays = std::strlen(Buffer) == length;
         Insert(with, position, kAll);
         position += withLength;
-        // A match behind the walk's end stays where it is, and the text is put in at that end. Where that leads to the
-        // same match in the same place it would go on for ever.
-        std::size_t const added = std::strlen(Buffer) - length;
-        if (stays && (ByteCount == bytes || (added == ByteCount - bytes && StrLen - position == left))) {
+        // A match behind the walk's end stays where it is, and the text is put in at that end. Where that changes
+        // nothing, or leads to the same match again, it would go on for ever.
+        stuck.reset();
+        if (stays && ByteCount == bytes) {
             break;
+        }
+        if (stays && std::strlen(Buffer) - length == ByteCount - bytes) {
+            stuck = left;
         }
     } while (all);
     return *this;

@@ -28,7 +28,7 @@ for target in "${targets[@]}"; do
     corpus=build/fuzz/corpus/$target log=build/fuzz/$target.log
     mkdir -p "$corpus"
     echo "== $target"
-    "build/fuzz/bin/fuzz_$target" -max_total_time="$seconds" -timeout=10 -max_len=400 -use_value_profile=1 \
+    "build/fuzz/bin/fuzz_$target" -max_total_time="$seconds" -timeout=20 -max_len=400 -len_control=0 \
         -print_final_stats=1 -artifact_prefix="build/fuzz/found/$target-" "$corpus" "tests/fuzz/seeds/$target" >"$log" 2>&1 || {
         failed=1
         grep -vE '^#[0-9]+\s' "$log" | tail -n 40

@@ -133,6 +133,17 @@ TEST(StringEdit, ReplacesTextsWithoutLooping) {
     EXPECT_EQ(string.GetByteCount(), 3u);
 }
 
+TEST(StringEdit, TheBlockEndsWithANulAlsoBehindAByteThatTheWalkStopsAt) {
+    CSTRING string(16u);
+    EXPECT_EQ(string.GetBufLen(0), 32u);
+    char* const text = &string.GetRef(0);
+    std::memset(text, 'a', 30);
+    text[30] = '\xE9';
+    string.Insert('b', 0);
+    EXPECT_EQ(Text(string), "b" + std::string(30, 'a') + "\xE9");
+    EXPECT_EQ(string.GetBufLen(0), 48u);
+}
+
 TEST(StringSearch, OneMemberServesBothDirections) {
     CSTRING string("banana");
     EXPECT_EQ(string.Find('a', kAll), 5u);

@@ -56,11 +56,12 @@ class Pair {
   private:
     /// An item for the list; its content.
     string Item(Input& input) {
-        string const text = g_size ? input.Text(g_size) : input.Text(8, "abc");
+        // Few different ones, so that there are equal keys.
+        string const text = input.Text(std::max(g_size, 8u), "abc\x80");
         record_ = text;
         record_.resize(std::max<std::size_t>(g_size, 1));
-        object_ = text.c_str();
-        return g_size ? record_.substr(0, g_size) : text;
+        object_ = text.substr(0, text.find('\x80')).c_str();
+        return g_size ? record_.substr(0, g_size) : Bytes(object_);
     }
     void* Address() {
         return g_size ? static_cast<void*>(record_.data()) : &object_;
@@ -179,6 +180,10 @@ void Pair::Assign(Input& input) {
     }
     if (model_.size() > kMostElements / 4) {
         return;
+    }
+    for (unsigned shorter = input.Pick(4); shorter && !copied.empty(); --shorter) {
+        other.Delete(CLIST_LAST);
+        copied.pop_back();
     }
     switch (input.Pick(3)) {
         case 0:

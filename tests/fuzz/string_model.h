@@ -137,7 +137,7 @@ class StringModel {
             return;
         }
         std::uint32_t const added = Walk(text, count);
-        if (!Resize(byteCount + added + 1)) {
+        if (!Resize(byteCount + added + (At(byteCount) ? 2 : 1))) {  // a NUL always stays behind
             return;
         }
         std::uint32_t const at = Walk(block, pos);
