@@ -124,8 +124,7 @@ TEST_F(EditTest, WithoutScrollingTheTextEndsAtTheEdge) {
     const int length = GetWindowTextLengthA(edit);
     EXPECT_GT(length, 0);
     EXPECT_LT(length, 40);
-    EXPECT_EQ(1, std::count(Notified().end() - 3, Notified().end(), UINT{EN_MAXTEXT}))
-        << "once for each that does not fit";
+    EXPECT_EQ(40 - length, std::count(Notified().begin(), Notified().end(), UINT{EN_MAXTEXT})) << "once for each";
     const HWND scrolling = Make(ES_AUTOHSCROLL, "", 60);
     for (int i = 0; i < 40; ++i)
         Type(scrolling, "W");
@@ -334,6 +333,20 @@ TEST_F(EditTest, TabSelectsAllAndColoursAreAskedFor) {
     EXPECT_EQ(second, GetFocus());
     EXPECT_EQ("[second]", Marked(second));
     EXPECT_FALSE(tests::DialogKey(dialog, second, 'x', WM_CHAR) && Text(second) == "second") << "characters come in";
+    DestroyWindow(dialog);
+}
+
+TEST_F(EditTest, BorderInADialogIsSunken) {
+    tests::DialogBuilder builder(WS_POPUP);
+    builder.Title("").Item("edit", "text", 1, WS_BORDER, 5, 5, 60, 12);
+    builder.Item("static", "text", 2, WS_BORDER, 5, 25, 60, 12);
+    const HWND dialog = CreateDialogIndirectParamA(GetModuleHandleA(nullptr), builder.Data(), parent_, nullptr, 0);
+    ASSERT_NE(nullptr, dialog);
+    for (const int id : {1, 2}) {
+        const HWND control = GetDlgItem(dialog, id);
+        EXPECT_TRUE(GetWindowLongA(control, GWL_EXSTYLE) & WS_EX_CLIENTEDGE);
+        EXPECT_FALSE(GetWindowLongA(control, GWL_STYLE) & WS_BORDER);
+    }
     DestroyWindow(dialog);
 }
 
