@@ -7,6 +7,7 @@
 
 #include "cvutil32/cvapi.h"
 
+#include "cvutil32/about.h"
 #include "cvutil32/animate.h"
 #include "cvutil32/buddyfr.h"
 #include "cvutil32/cklist.h"
