@@ -2,6 +2,7 @@
 
 #include "gallery/pages/chosen_date.h"
 #include "gallery/pages/dates_page_ids.h"
+#include "gallery/pages/horizontal_step.h"
 #include "gallery/settings.h"
 #include "gallery/text.h"
 
@@ -11,7 +12,6 @@ namespace {
 constexpr char kDate[] = "Date";
 constexpr UINT_PTR kFollowTimer = 1;
 constexpr UINT kFollowMilliseconds = 100;
-constexpr char kFieldProcedure[] = "Gallery_FieldProcedure";
 
 struct DatesState {
     explicit DatesState(HWND dialog)
@@ -25,28 +25,6 @@ DatesState* PageOf(HWND dialog) {
     return reinterpret_cast<DatesState*>(GetWindowLongPtrA(dialog, DWLP_USER));
 }
 
-// A date field steps on WM_VSCROLL alone. A horizontal bar sends WM_HSCROLL: its right arrow with the code that steps
-// up and its left arrow with the one that steps down, so that the message only has to be passed on under the other
-// name.
-LRESULT CALLBACK HorizontalFieldProcedure(HWND field, UINT message, WPARAM wParam, LPARAM lParam) {
-    const auto previous = reinterpret_cast<WNDPROC>(GetPropA(field, kFieldProcedure));
-    return CallWindowProcA(previous, field, message == WM_HSCROLL ? WM_VSCROLL : message, wParam, lParam);
-}
-
-void HookHorizontalField(HWND field) {
-    const LONG_PTR previous = GetWindowLongPtrA(field, GWLP_WNDPROC);
-    if (SetPropA(field, kFieldProcedure, reinterpret_cast<HANDLE>(previous))) {
-        SetWindowLongPtrA(field, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&HorizontalFieldProcedure));
-    }
-}
-
-// Before the field goes: the bar, which hooked it first, takes its own hook away only when it finds it in place.
-void UnhookHorizontalField(HWND field) {
-    if (HANDLE previous = RemovePropA(field, kFieldProcedure)) {
-        SetWindowLongPtrA(field, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(previous));
-    }
-}
-
 void ShowChosenDate(const DatesState& page) {
     const auto instance = reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(page.dialog, GWLP_HINSTANCE));
     const std::string text = page.date.IsSet() ? page.date.IsoText() : LoadText(instance, IDS_NO_DATE);
@@ -56,7 +34,7 @@ void ShowChosenDate(const DatesState& page) {
 void OnInitDialog(HWND dialog) {
     auto* page = new DatesState(dialog);
     SetWindowLongPtrA(dialog, DWLP_USER, reinterpret_cast<LONG_PTR>(page));
-    HookHorizontalField(GetDlgItem(dialog, IDC_DATE_HORIZONTAL));
+    StepSideways(GetDlgItem(dialog, IDC_DATE_HORIZONTAL));
     if (!page->date.SetIsoText(KeptText(kDate))) {
         page->date.SetToday();
     }
@@ -72,7 +50,7 @@ void OnTimer(DatesState& page) {
 
 void OnDestroy(HWND dialog) {
     KillTimer(dialog, kFollowTimer);
-    UnhookHorizontalField(GetDlgItem(dialog, IDC_DATE_HORIZONTAL));
+    StopSteppingSideways(GetDlgItem(dialog, IDC_DATE_HORIZONTAL));
     delete PageOf(dialog);
     SetWindowLongPtrA(dialog, DWLP_USER, 0);
 }
