@@ -109,7 +109,7 @@ void SearchLowerBoundByFunction(benchmark::State& state) {
     benchmark::DoNotOptimize(compare);
     Search(state, [&](std::int32_t key) {
         auto const place = std::lower_bound(records.begin(), records.end(), key,
-                                            [&](Record& record, std::int32_t& k) { return compare(&k, &record) > 0; });
+                                            [&](Record& record, std::int32_t k) { return compare(&k, &record) > 0; });
         return place != records.end() && compare(&key, &*place) == 0 ? &*place : nullptr;
     });
 }

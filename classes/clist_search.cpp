@@ -30,18 +30,22 @@ void* CLIST::FindBinary(void* key, CLISTCOMPARE compare, unsigned int* index) co
     void* found = nullptr;
     std::uint32_t place = CLIST_NOINDEX;
     if (IsValid() && compare) {
+        const CLISTHEADER list = *header;  // a copy, as nobody else can change it while it is searched
         std::uint32_t low = 0;
-        std::uint32_t high = header->array ? header->count : 0;
-        while (low < high && !found) {
+        std::uint32_t high = list.array ? list.count : 0;
+        while (low < high) {
             const std::uint32_t middle = (low + high) / 2;
-            void* const item = header->ItemAddress(middle);
+            void* const item = list.ItemAddress(middle);
             const int order = compare(key, item);
-            if (order > 0) {
-                low = middle + 1;
-            } else {
+            if (order == 0) {
+                found = item;
                 high = middle;
-                found = order == 0 ? item : nullptr;
+                break;
             }
+            // Without a branch, which no processor could foresee.
+            const std::uint32_t above = 0u - static_cast<std::uint32_t>(order > 0);
+            low += (middle + 1 - low) & above;
+            high = middle + ((high - middle) & above);
         }
         place = high;
     }

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <optional>
 
 using charwalk::CountBytes;
 using charwalk::kAll;
@@ -193,7 +192,8 @@ CSTRING const& CSTRING::Replace(char const* find, char const* with, int all) {
     auto const findLength = static_cast<std::uint32_t>(lstrlenA(find));
     auto const withLength = static_cast<std::uint32_t>(lstrlenA(with));
     std::uint32_t position = 0;
-    std::optional<std::uint32_t> stuck;
+    constexpr std::uint64_t kNotStuck = ~std::uint64_t{0};
+    std::uint64_t stuck = kNotStuck;
     do {
         position = Find(find, position);
         std::uint32_t const left = StrLen - position;
@@ -208,7 +208,7 @@ CSTRING const& CSTRING::Replace(char const* find, char const* with, int all) {
         position += withLength;
         // A match behind the walk's end stays where it is, and the text is put in at that end. Where that changes
         // nothing, or leads to the same match again, it would go on for ever.
-        stuck.reset();
+        stuck = kNotStuck;
         if (stays && ByteCount == bytes) {
             break;
         }

@@ -166,6 +166,47 @@ TEST(CompareString, FlagsLengthsAndErrors) {
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_PARAMETER));
 }
 
+TEST(CompareString, NullsNulsAndSizes) {
+    EXPECT_EQ(CompareStringA(LOCALE_SYSTEM_DEFAULT, 0, "a", -5, "a", -1), CSTR_EQUAL) << "any negative size";
+    EXPECT_EQ(CompareStringA(LOCALE_SYSTEM_DEFAULT, 0, "a", 0, "b", 0), CSTR_EQUAL);
+    EXPECT_EQ(CompareStringA(LOCALE_SYSTEM_DEFAULT, 0, "a", 0, "b", 1), CSTR_LESS_THAN);
+    EXPECT_EQ(lstrcmpA(nullptr, nullptr), 0);
+    EXPECT_LT(lstrcmpA(nullptr, ""), 0);
+    EXPECT_GT(lstrcmpiA("", nullptr), 0);
+}
+
+TEST(CodePages, SizesAndArguments) {
+    WCHAR wide[4] = {};
+    char narrow[4] = {};
+    EXPECT_EQ(MultiByteToWideChar(1252, 0, "abc", -1, nullptr, 0), 4) << "with the NUL";
+    EXPECT_EQ(MultiByteToWideChar(1252, 0, "abc", -2, wide, 4), 4);
+    EXPECT_EQ(MultiByteToWideChar(1252, 0, "abc", 3, wide, 3), 3) << "without";
+    EXPECT_EQ(WideCharToMultiByte(1252, 0, wide, 3, nullptr, 0, nullptr, nullptr), 3);
+    EXPECT_EQ(WideCharToMultiByte(1252, 0, wide, -1, narrow, 4, nullptr, nullptr), 4);
+    EXPECT_STREQ(narrow, "abc");
+    const auto fails = [](int result, DWORD error) {
+        const DWORD last = GetLastError();
+        EXPECT_EQ(result, 0);
+        EXPECT_EQ(last, error);
+    };
+    fails(MultiByteToWideChar(1252, 0, "abc", 0, wide, 4), ERROR_INVALID_PARAMETER);
+    fails(MultiByteToWideChar(1252, 0, "abc", 3, wide, -1), ERROR_INVALID_PARAMETER);
+    fails(MultiByteToWideChar(1252, 0, "abc", 3, nullptr, 3), ERROR_INVALID_PARAMETER);
+    fails(MultiByteToWideChar(1252, 0x100, "abc", 3, wide, 3), ERROR_INVALID_FLAGS);
+    fails(MultiByteToWideChar(1252, 0, "abc", 3, wide, 2), ERROR_INSUFFICIENT_BUFFER);
+    fails(WideCharToMultiByte(1252, 0, wide, 0, narrow, 4, nullptr, nullptr), ERROR_INVALID_PARAMETER);
+    fails(WideCharToMultiByte(1252, 0, wide, 3, narrow, 2, nullptr, nullptr), ERROR_INSUFFICIENT_BUFFER);
+    const WCHAR kana = 0x3042;
+    fails(WideCharToMultiByte(932, 0, &kana, 1, narrow, 1, nullptr, nullptr), ERROR_INSUFFICIENT_BUFFER);
+    const WCHAR others[] = {0x0100, 0x2260};
+    BOOL used = FALSE;
+    EXPECT_EQ(WideCharToMultiByte(1252, 0, others, 2, narrow, 4, nullptr, &used), 2);
+    EXPECT_EQ(narrow[0], 'A') << "a letter without its accent";
+    EXPECT_EQ(narrow[1], '?') << "not a symbol without its stroke";
+    EXPECT_TRUE(used);
+    EXPECT_FALSE(IsDBCSLeadByteEx(4711, 0x81));
+}
+
 TEST(CodePages, WesternAndDoubleByte) {
     WCHAR wide[8] = {};
     EXPECT_EQ(MultiByteToWideChar(1252, 0, "\x80\xE9", 2, wide, 8), 2);
