@@ -216,6 +216,17 @@ void Print(HWND handle, WPARAM context, LPARAM what) {
 constexpr LPARAM kQueryFormat = 3;
 constexpr LRESULT kAnsiFormat = 1;
 
+// The F1 key asks for help for the window that has the focus; parents hear of it when a child has none to give.
+void AskForHelp(HWND handle) {
+    HELPINFO help{};
+    help.cbSize = sizeof help;
+    help.iContextType = HELPINFO_WINDOW;
+    help.iCtrlId = GetDlgCtrlID(handle);
+    help.hItemHandle = handle;
+    GetCursorPos(&help.MousePos);
+    SendMessageA(handle, WM_HELP, 0, reinterpret_cast<LPARAM>(&help));
+}
+
 }  // namespace
 }  // namespace platform::user
 
@@ -290,6 +301,11 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
             return SetCursorFor(handle, wParam, lParam);
         case WM_SYSKEYDOWN:
             return SystemKeyDown(handle, wParam, lParam);
+        case WM_KEYDOWN:
+            if (wParam == VK_F1) {
+                AskForHelp(handle);
+            }
+            return 0;
         case WM_RBUTTONUP: {
             POINT point{static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
             ClientToScreen(handle, &point);

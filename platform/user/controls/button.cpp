@@ -280,7 +280,7 @@ LRESULT OnInput(HWND button, ButtonData& data, UINT message, WPARAM wParam, LPAR
             return 0;
         case WM_KEYDOWN:
             OnKeyDown(button, data, wParam);
-            return 0;
+            return DefWindowProcA(button, message, wParam, lParam);
         case WM_KEYUP:
             OnKeyUp(button, data, wParam);
             return 0;

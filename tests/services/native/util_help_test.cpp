@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
 
 using testing_support::LeakCheck;
@@ -75,6 +76,20 @@ TEST_F(UtilHelpPopup, WhatHasNoTopicFails) {
     EXPECT_FALSE(UTIL_WinHelp(window_, file_.c_str(), HELP_WM_HELP, 0));
     EXPECT_FALSE(UTIL_WinHelp(window_, file_.c_str(), 0x4711, 1001));
     EXPECT_EQ("", Shown());
+}
+
+TEST_F(UtilHelpPopup, TheHelpKeyAsksForHelpForTheControl) {
+    HWND const control = Add(window_, "button", 7);
+    window_.answer = [&](testing_support::Message const& message) -> std::optional<LRESULT> {
+        if (message.id != WM_HELP) {
+            return std::nullopt;
+        }
+        auto const* help = reinterpret_cast<HELPINFO const*>(message.lParam);
+        EXPECT_EQ(7, help->iCtrlId);
+        return UTIL_WinHelp(static_cast<HWND>(help->hItemHandle), file_.c_str(), HELP_WM_HELP, data_);
+    };
+    SendMessageA(control, WM_KEYDOWN, VK_F1, 1);
+    EXPECT_EQ("The name.\nIn two lines.", Shown());
 }
 
 // A stand-in, in case the real class is not there yet; only its name counts.
