@@ -5,7 +5,6 @@
 #include "gallery/pages/horizontal_step.h"
 #include "gallery/text.h"
 
-#include <cstdio>
 #include <string>
 
 namespace gallery {
@@ -13,6 +12,8 @@ namespace {
 
 constexpr UINT_PTR kFollowTimer = 1;
 constexpr UINT kFollowMilliseconds = 100;
+constexpr DWORD kLongestVisit = 480;
+constexpr int kUsualVisit = 30;
 constexpr int kTimeFields[] = {IDC_TIME_VERTICAL, IDC_TIME_HORIZONTAL, IDC_VISIT_TIME};
 
 HINSTANCE InstanceOf(HWND page) {
@@ -28,8 +29,8 @@ std::string Appointment(HWND page) {
         return LoadText(InstanceOf(page), IDS_DATETIME_NONE);
     }
     char text[64];
-    std::snprintf(text, sizeof text, "%04u-%02u-%02u %02u:%02u:%02u", unsigned{visit.wYear}, unsigned{visit.wMonth},
-                  unsigned{visit.wDay}, unsigned{visit.wHour}, unsigned{visit.wMinute}, unsigned{visit.wSecond});
+    wsprintfA(text, LoadText(InstanceOf(page), IDS_DATETIME_VISIT).c_str(), visit.wYear, visit.wMonth, visit.wDay,
+              visit.wHour, visit.wMinute, visit.wSecond, NUMFLD_GetValue(GetDlgItem(page, IDC_VISIT_MINUTES)));
     return text;
 }
 
@@ -85,6 +86,8 @@ void ChangeClock(HWND page) {
 
 void OnInitDialog(HWND page) {
     StepSideways(GetDlgItem(page, IDC_TIME_HORIZONTAL));
+    NUMFLD_SetLimits(GetDlgItem(page, IDC_VISIT_MINUTES), 1, kLongestVisit);
+    NUMFLD_SetValue(GetDlgItem(page, IDC_VISIT_MINUTES), kUsualVisit);
     ShowClock(page);
     ShowNow(page);
     SetTimer(page, kFollowTimer, kFollowMilliseconds, nullptr);

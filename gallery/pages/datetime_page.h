@@ -1,5 +1,5 @@
 /// @file datetime_page.h
-/// Time fields with both kinds of bar, the switch between the clocks, and a date with a time read into one record.
+/// Time fields with both kinds of bar, the switch between the clocks, and a form of a date, a time and a number.
 #pragma once
 
 #include "gallery/page.h"

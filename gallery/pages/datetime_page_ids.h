@@ -2,12 +2,14 @@
 #pragma once
 
 #include <cvutil32/datectrl.h>
+#include <cvutil32/numfld.h>
 #include <cvutil32/scroll.h>
 #include <cvutil32/timectrl.h>
 
 #define IDD_DATETIME_PAGE 160
 #define IDS_DATETIME_TITLE 1600
 #define IDS_DATETIME_NONE 1601
+#define IDS_DATETIME_VISIT 1602
 
 #define IDC_TIME_VERTICAL 201
 #define IDC_TIME_VERTICAL_BAR 202
@@ -21,4 +23,6 @@
 #define IDC_VISIT_DATE_BAR 210
 #define IDC_VISIT_TIME 211
 #define IDC_VISIT_TIME_BAR 212
-#define IDC_VISIT 213
+#define IDC_VISIT_MINUTES 213
+#define IDC_VISIT_MINUTES_BAR 214
+#define IDC_VISIT 215
