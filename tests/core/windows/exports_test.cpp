@@ -28,6 +28,9 @@ TEST(Exports, FlatNamesAreUndecorated) {
                              "DATECTRL_SetDate",
                              "SCROLL_RegisterClass",
                              "SCROLL_SetAssociateWindow",
+                             "ABOUT_DisplayAboutBox",
+                             "KVMB_MessageBoxError",
+                             "KVMB_MessageBoxExtended",
                              "UTIL_GetModuleInstance",
                              "UTIL_SetModuleInstance",
                              "datectrl_EditDateWndProc"}) {
