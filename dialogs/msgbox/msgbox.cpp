@@ -5,6 +5,13 @@
 #include "dialogs/msgbox/resource.h"
 #include "dialogs/msgbox/taskmodal.h"
 
+#include <cstddef>
+
+// Applications in other languages fill the record by its offsets.
+static_assert(sizeof(void*) != 4 ||
+              (offsetof(KVMB_MESSAGEBOX, flags) == 18 && offsetof(KVMB_MESSAGEBOX, position) == 24 &&
+               offsetof(KVMB_MESSAGEBOX, buttons) == 32 && sizeof(KVMB_MESSAGEBOX) == 132));
+
 namespace {
 
 constexpr int kLongestNarrow = 140;  // characters of a message in the narrow box

@@ -9,7 +9,8 @@ TEST(Exports, FlatNamesAreUndecorated) {
     HMODULE const library = GetModuleHandleA("CVUTIL32");
     ASSERT_NE(nullptr, library);
     EXPECT_EQ(UTIL_GetModuleInstance(), library);
-    for (char const* name : {"ANIMATE_Initialize",
+    for (char const* name : {"ABOUT_DisplayAboutBox",
+                             "ANIMATE_Initialize",
                              "ANIMATE_RegisterClass",
                              "ANIMATE_Start",
                              "ANIMATE_Stop",
@@ -26,6 +27,8 @@ TEST(Exports, FlatNamesAreUndecorated) {
                              "GRBUTTON_RegisterClass",
                              "GRBUTTON_SetBitmaps",
                              "GRBUTTON_SetHBitmaps",
+                             "KVMB_MessageBoxError",
+                             "KVMB_MessageBoxExtended",
                              "NUMFLD_GetValue",
                              "NUMFLD_RegisterClass",
                              "NUMFLD_SetLimits",
