@@ -4,6 +4,8 @@
 
 #include <benchmark/benchmark.h>
 
+#include <memory>
+
 namespace {
 
 void ProbeGoodMemory(benchmark::State& state) {
@@ -12,6 +14,29 @@ void ProbeGoodMemory(benchmark::State& state) {
     for (auto _ : state) {
         benchmark::DoNotOptimize(IsBadWritePtr(memory, size));
     }
+}
+
+void ProbeStack(benchmark::State& state) {
+    char memory[64];
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(IsBadWritePtr(memory, sizeof memory));
+    }
+}
+
+void ProbeHeap(benchmark::State& state) {
+    auto const memory = std::make_unique<char[]>(64);
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(IsBadWritePtr(memory.get(), 64));
+    }
+}
+
+// Memory of nobody's: touched, with a locked instruction.
+void ProbeMapped(benchmark::State& state) {
+    void* const memory = VirtualAlloc(nullptr, 4096, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(IsBadWritePtr(memory, 64));
+    }
+    VirtualFree(memory, 0, MEM_RELEASE);
 }
 
 void TouchUnguarded(benchmark::State& state) {
@@ -30,6 +55,9 @@ void ProbeBadMemory(benchmark::State& state) {
 }
 
 BENCHMARK(ProbeGoodMemory)->Arg(8)->Arg(40)->Arg(4096);
+BENCHMARK(ProbeStack);
+BENCHMARK(ProbeHeap);
+BENCHMARK(ProbeMapped);
 BENCHMARK(TouchUnguarded)->Arg(8)->Arg(40);
 BENCHMARK(ProbeBadMemory);
 

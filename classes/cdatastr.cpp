@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <atomic>
 #include <cstdint>
 #include <new>
 #include <utility>
@@ -14,13 +15,14 @@ constexpr unsigned int kNone = 0xFFFFFFFF;
 }  // namespace
 
 // Tells a CDATASTR from a plain CSTRING. The copies of an object share one; the last of them to go takes it along, so
-// that it never reads as anything but valid while somebody holds it.
+// that it never reads as anything but valid while somebody holds it. Copies may live on different threads, which know
+// nothing of each other.
 class CDATASTRMARK {
   public:
     virtual ~CDATASTRMARK() = default;
 
     std::uint32_t signature = kMarkSignature;
-    std::uint32_t holders = 1;
+    std::atomic<std::uint32_t> holders = 1;
 };
 
 CDATASTR::CDATASTR() : marker(nullptr) {
@@ -73,9 +75,10 @@ void CDATASTR::CleanDelimiters(char delimiter) {
     char const one[] = {delimiter, '\0'};
     char const two[] = {delimiter, delimiter, '\0'};
     while (Find(two, 0) != kNone) {
-        unsigned int const before = GetStrLen();
+        unsigned int const length = GetStrLen();
+        unsigned int const bytes = GetByteCount();
         Replace(two, one, 1);
-        if (GetStrLen() == before) {
+        if (GetStrLen() == length && GetByteCount() == bytes) {
             break;  // bytes that the character walk does not reach cannot be replaced
         }
     }
@@ -119,7 +122,7 @@ void CDATASTR::RemoveDuplicates(char delimiter) {
             unsigned int const before = GetStrLen();
             Delete(at, length);
             if (GetStrLen() == before) {
-                break;
+                break;  // written under a lock that is still held
             }
         }
     }

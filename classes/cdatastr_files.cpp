@@ -19,7 +19,9 @@ int CDATASTR::EnumFileSpecs(unsigned int* position, CSTRING* specification, int*
     int found = 0;
     unsigned int const quote = self.Find('"', *position);
     bool const isQuoted = quote != kNone && self.Find(' ', 0) > quote;
-    if (isQuoted) {
+    if (*position != kNone && *position >= self.GetStrLen()) {
+        // The end of the list. Where the character walk ends early, a quote behind it would be found again and again.
+    } else if (isQuoted) {
         *specification = static_cast<CSTRING const&>(*this);
         if (specification->GetStrLen()) {
             unsigned int const closing = specification->Find('"', quote + 1);
@@ -51,17 +53,22 @@ int CDATASTR::EnumFileSpecs(unsigned int* position, CSTRING* specification, int*
     return 1;
 }
 
+// Nothing can be taken out of a text that was written under a lock which is still held.
+bool CDATASTR::Shortened(unsigned int position) {
+    unsigned int const before = GetStrLen();
+    Delete(position, 1);
+    return GetStrLen() < before;
+}
+
 void CDATASTR::NormalizeFileSpecs() {
     if (!IsValid() || GetStrLen() == 0) {
         return;
     }
     // One pass in the order of the set: what a later character uncovers at an end stays.
     for (char const* delimiter = DATASTR_DELIMITERS; *delimiter; ++delimiter) {
-        while (GetChar(0) == *delimiter) {
-            Delete(0, 1);
+        while (GetChar(0) == *delimiter && Shortened(0)) {
         }
-        while (GetStrLen() && GetChar(kNone) == *delimiter) {
-            Delete(kNone, 1);
+        while (GetStrLen() && GetChar(kNone) == *delimiter && Shortened(kNone)) {
         }
     }
     CSTRING out;

@@ -1,5 +1,6 @@
 #include <cvutil32/clist.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <new>
@@ -24,6 +25,20 @@ CBASE* AsObject(void* address) {
     return static_cast<CBASE*>(address);
 }
 
+// Most records are small, and two words cover them; a call costs more.
+void CopyBytes(void* to, const void* from, std::size_t size) {
+    std::uint64_t first;
+    std::uint64_t last;
+    if (size < sizeof first || size > 2 * sizeof first) {
+        std::memmove(to, from, size);
+        return;
+    }
+    std::memcpy(&first, from, sizeof first);
+    std::memcpy(&last, static_cast<const char*>(from) + size - sizeof last, sizeof last);
+    std::memcpy(to, &first, sizeof first);
+    std::memcpy(static_cast<char*>(to) + size - sizeof last, &last, sizeof last);
+}
+
 }  // namespace
 
 // --- the header's logic
@@ -33,20 +48,6 @@ std::uint32_t CLISTHEADER::ResolveIndex(std::uint32_t index) const {
         return index;
     }
     return index == CLIST_LAST && count > 0 ? count - 1 : CLIST_NOINDEX;
-}
-
-char* CLISTHEADER::SlotAddress(std::uint32_t index) const {
-    return array + std::size_t{slotSize} * index;
-}
-
-void* CLISTHEADER::ItemAddress(std::uint32_t index) const {
-    char* slot = SlotAddress(index);
-    if (type != CLISTTYPE_POINTER) {
-        return slot;
-    }
-    void* item;
-    std::memcpy(&item, slot, sizeof item);
-    return item;
 }
 
 void* CLISTHEADER::NewSlot(std::uint32_t index) {
@@ -65,7 +66,7 @@ void CLISTHEADER::StoreItem(void* place, const void* item) {
     }
     if (!prototype) {
         if (item) {
-            std::memmove(place, item, itemSize);
+            CopyBytes(place, item, itemSize);
         } else {
             std::memset(place, 0, itemSize);
         }
@@ -94,22 +95,43 @@ bool CLISTHEADER::CheckItem(const void* item) const {
 }
 
 bool CLISTHEADER::Grow() {
-    if (count < capacity) {
-        return true;
-    }
-    std::uint32_t wanted = capacity + capacity / 2;
-    wanted = wanted < count + 1 ? count + 1 : wanted;
-    wanted = wanted > kMostSlots ? kMostSlots : wanted;
-    if (wanted <= count) {
+    const std::uint32_t slots = std::min(std::max(count + 1, capacity + capacity / 2), kMostSlots);
+    if (slots <= capacity) {
         return false;  // the list is full: nothing is ever written beyond its array
     }
-    auto* grown = static_cast<char*>(globalblock::Resize(array, std::size_t{wanted} * slotSize));
+    const std::uint64_t bytes = std::uint64_t{slotSize} * slots;
+    auto* grown =
+        bytes > SIZE_MAX ? nullptr : static_cast<char*>(globalblock::Resize(array, static_cast<std::size_t>(bytes)));
     if (!grown) {
         return false;
     }
     array = grown;
-    capacity = wanted;
-    return true;
+    capacity = slots;
+    return count < capacity;
+}
+
+void* CLISTHEADER::Insert(void* item, std::uint32_t index) {
+    if (!array || (item && !CheckItem(item)) || index > count) {
+        return nullptr;
+    }
+    const char* const oldArray = array;
+    const std::size_t oldBytes = std::size_t{count} * slotSize;
+    if (count >= capacity && !Grow()) {
+        return nullptr;
+    }
+    char* const slot = SlotAddress(index);
+    // An item of this very list moves with its array, and again when the slots behind the index shift.
+    const auto at = reinterpret_cast<std::uintptr_t>(item) - reinterpret_cast<std::uintptr_t>(oldArray);
+    if (item && type != CLISTTYPE_POINTER && at < oldBytes) {
+        item = array + at + (at >= std::size_t{index} * slotSize ? slotSize : 0);
+    }
+    if (index < count) {
+        std::memmove(slot + slotSize, slot, std::size_t{count - index} * slotSize);
+    }
+    void* const element = NewSlot(index);
+    StoreItem(element, item);
+    ++count;
+    return element;
 }
 
 // Leaves the count and the sizes as they are; vCopy and its callers rely on it.
@@ -227,29 +249,11 @@ void* CLIST::GetItem(unsigned int index) const {
 }
 
 void* CLIST::Insert(void* item, unsigned int index) {
-    if (!IsValid() || !header->array || (item && !header->CheckItem(item)) || index > header->count) {
-        return nullptr;
-    }
-    const char* const oldArray = header->array;
-    const std::size_t oldBytes = std::size_t{header->count} * header->slotSize;
-    if (!header->Grow()) {
-        return nullptr;
-    }
-    char* const slot = header->SlotAddress(index);
-    // An item of this very list moves with its array, and again when the slots behind the index shift.
-    const auto at = reinterpret_cast<std::uintptr_t>(item) - reinterpret_cast<std::uintptr_t>(oldArray);
-    if (item && header->type != CLISTTYPE_POINTER && at < oldBytes) {
-        item = header->array + at + (at >= std::size_t{index} * header->slotSize ? header->slotSize : 0);
-    }
-    std::memmove(slot + header->slotSize, slot, std::size_t{header->count - index} * header->slotSize);
-    void* const element = header->NewSlot(index);
-    header->StoreItem(element, item);
-    ++header->count;
-    return element;
+    return IsValid() ? header->Insert(item, index) : nullptr;
 }
 
 void* CLIST::Append(void* item) {
-    return IsValid() ? Insert(item, header->count) : nullptr;
+    return IsValid() ? header->Insert(item, header->count) : nullptr;
 }
 
 void* CLIST::New() {

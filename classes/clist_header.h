@@ -18,14 +18,22 @@ struct CLISTHEADER {
 
     /// @returns the index itself, the last one for CLIST_LAST, or CLIST_NOINDEX when there is no such element.
     std::uint32_t ResolveIndex(std::uint32_t index) const;
-    char* SlotAddress(std::uint32_t index) const;
+    char* SlotAddress(std::uint32_t index) const {
+        return array + std::size_t{slotSize} * index;
+    }
     /// @returns the address that callers know an element by: its own block, or its place in the array.
-    void* ItemAddress(std::uint32_t index) const;
+    void* ItemAddress(std::uint32_t index) const {
+        char* slot = SlotAddress(index);
+        return type != CLISTTYPE_POINTER ? slot : *reinterpret_cast<void**>(slot);
+    }
     /// @returns the storage of a new element in a free slot, or null when its own block could not be had.
     void* NewSlot(std::uint32_t index);
     void StoreItem(void* place, const void* item);
     void FreeItem(void* item);
     bool CheckItem(const void* item) const;
+    /// @returns the new element's address, or null.
+    void* Insert(void* item, std::uint32_t index);
+    /// Makes room for one more element in a list that has none left.
     bool Grow();
     void FreeAll();
 };

@@ -1,7 +1,8 @@
 #include <cvutil32/clist.h>
 
-#include <cstring>
+#include <algorithm>
 #include <cstdint>
+#include <cstring>
 
 #include "classes/clist_header.h"
 #include "core/globalblock.h"
@@ -29,18 +30,22 @@ void* CLIST::FindBinary(void* key, CLISTCOMPARE compare, unsigned int* index) co
     void* found = nullptr;
     std::uint32_t place = CLIST_NOINDEX;
     if (IsValid() && compare) {
+        const CLISTHEADER list = *header;  // a copy, as nobody else can change it while it is searched
         std::uint32_t low = 0;
-        std::uint32_t high = header->array ? header->count : 0;
-        while (low < high && !found) {
+        std::uint32_t high = list.array ? list.count : 0;
+        while (low < high) {
             const std::uint32_t middle = (low + high) / 2;
-            void* const item = header->ItemAddress(middle);
+            void* const item = list.ItemAddress(middle);
             const int order = compare(key, item);
-            if (order > 0) {
-                low = middle + 1;
-            } else {
+            if (order == 0) {
+                found = item;
                 high = middle;
-                found = order == 0 ? item : nullptr;
+                break;
             }
+            // Without a branch, which no processor could foresee.
+            const std::uint32_t above = 0u - static_cast<std::uint32_t>(order > 0);
+            low += (middle + 1 - low) & above;
+            high = middle + ((high - middle) & above);
         }
         place = high;
     }
@@ -122,11 +127,15 @@ void CLIST::vCopy(const CBASE& source) {
     const std::uint32_t count = other.header->count;
     const CLISTTYPE type = other.header->type;
     const std::uint32_t itemSize = other.header->itemSize;
-    // The old count stays: a list that held elements before gets the copies behind as many empty slots, which the new
-    // array must hold too.
-    std::uint32_t const room = count > header->count ? count : header->count;
     header->FreeAll();
-    int const made = other.header->prototype ? Init(*other.header->prototype, room, type) : Init(itemSize, room, type);
+    int const made =
+        other.header->prototype ? Init(*other.header->prototype, count, type) : Init(itemSize, count, type);
+    // The old count stays: a list that held elements before gets the copies behind as many empty slots. The new array
+    // must hold these too; without memory for them there are fewer.
+    if (made && header->count > header->capacity) {
+        header->Grow();
+        header->count = std::min(header->count, header->capacity);
+    }
     for (std::uint32_t i = 0; made && i < count; ++i) {
         Append(other.GetItem(i));
     }

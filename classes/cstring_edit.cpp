@@ -56,7 +56,9 @@ CSTRING const& CSTRING::Insert(char const* text, unsigned int pos, unsigned int 
         return Insert(copy.Buffer, pos, count);
     }
     std::uint32_t const added = CountBytes(text, count);
-    if (!Resize(ByteCount + added + 1)) {
+    // What stands behind the walked part moves along and is its NUL, or a byte of 0x80 or above, which needs one more.
+    std::uint32_t const end = Buffer[ByteCount] ? 2 : 1;
+    if (!Resize(ByteCount + added + end)) {
         return *this;
     }
     std::size_t const at = CountBytes(Buffer, pos);
@@ -190,20 +192,29 @@ CSTRING const& CSTRING::Replace(char const* find, char const* with, int all) {
     auto const findLength = static_cast<std::uint32_t>(lstrlenA(find));
     auto const withLength = static_cast<std::uint32_t>(lstrlenA(with));
     std::uint32_t position = 0;
+    constexpr std::uint64_t kNotStuck = ~std::uint64_t{0};
+    std::uint64_t stuck = kNotStuck;
     do {
         position = Find(find, position);
-        if (position == kAll) {
+        std::uint32_t const left = StrLen - position;
+        if (position == kAll || stuck == left) {
             break;
         }
-        std::size_t const before = std::strlen(Buffer);
+        std::size_t const length = std::strlen(Buffer);
+        std::uint32_t const bytes = ByteCount;
         Delete(position, findLength);
-        if (std::strlen(Buffer) == before) {
-            // The match lies behind the walk's end and cannot be taken out: it would be found for ever.
-            StrLen = static_cast<std::uint32_t>(before);
-            break;
-        }
+        bool const stays = std::strlen(Buffer) == length;
         Insert(with, position, kAll);
         position += withLength;
+        // A match behind the walk's end stays where it is, and the text is put in at that end. Where that changes
+        // nothing, or leads to the same match again, it would go on for ever.
+        stuck = kNotStuck;
+        if (stays && ByteCount == bytes) {
+            break;
+        }
+        if (stays && std::strlen(Buffer) - length == ByteCount - bytes) {
+            stuck = left;
+        }
     } while (all);
     return *this;
 }

@@ -3,19 +3,28 @@
 
 #include "classes/charwalk.h"
 
+#include <array>
+
 using charwalk::CountBytes;
 using charwalk::kAll;
 
 namespace {
 
-bool IsPlain(char ch) {
-    return (ch >= '0' && ch <= '9') || (ch >= 'a' && ch <= 'z') || (ch >= 'A' && ch <= 'Z');
+// What stands for a character in every locale: small letters for both cases, and each other character of ASCII for
+// itself. Hyphen and apostrophe, which weigh nothing at first, and all else have 0.
+constexpr std::array<char, 256> MakePlainForms() {
+    std::array<char, 256> forms{};
+    for (int ch = ' '; ch < 0x7F; ++ch) {
+        bool const isCapital = ch >= 'A' && ch <= 'Z';
+        bool const weighs = ch != '-' && ch != '\'';
+        forms[static_cast<std::size_t>(ch)] = static_cast<char>(weighs ? isCapital ? ch | 0x20 : ch : 0);
+    }
+    return forms;
 }
+constexpr std::array<char, 256> kPlainForms = MakePlainForms();
 
-// Texts that begin with different plain letters or digits are different in every locale, whatever follows. This spares
-// most of the comparisons of a search.
-bool CannotMatch(char first, char second) {
-    return IsPlain(first) && IsPlain(second) && (first | 0x20) != (second | 0x20);
+char PlainForm(char ch) {
+    return kPlainForms[static_cast<unsigned char>(ch)];
 }
 
 }  // namespace
@@ -38,11 +47,15 @@ unsigned int CSTRING::Search(char const* text, unsigned int length, unsigned int
     std::uint32_t position = last ? 0 : start;
     char const* place = Buffer + CountBytes(Buffer, position);
     char const* const end = Buffer + BufLen;
-    for (; *place; place = CharNextA(place), ++position) {
+    // Texts that begin with different plain characters are different, whatever follows. This spares most of the
+    // comparisons of a search.
+    char const first = PlainForm(*text);
+    for (; *place; place = static_cast<signed char>(*place) > 0 ? place + 1 : CharNextA(place), ++position) {
         if (StrLen - position < length || static_cast<std::size_t>(end - place) < length) {
             break;
         }
-        if (CannotMatch(*place, *text)) {
+        char const form = PlainForm(*place);
+        if (form && first && form != first) {
             continue;
         }
         int const size = static_cast<int>(length);

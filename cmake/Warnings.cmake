@@ -9,6 +9,12 @@ else()
     target_compile_options(cvwarnings INTERFACE -Wno-missing-field-initializers)
 endif()
 
+if(CVUTIL32_FUZZ)
+    set(CVUTIL32_SANITIZE ON)
+    # Gcc is the compiler that decides about warnings.
+    target_compile_options(cvwarnings INTERFACE -Wno-error -Wno-c++11-narrowing)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
 if(CVUTIL32_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)

@@ -1,4 +1,5 @@
 // The library's entry point.
+#include "controls/cklist/cklist.h"
 #include "core/registration.h"
 
 #include "cvutil32/animate.h"
@@ -6,7 +7,9 @@
 #include "cvutil32/buddyfr.h"
 #include "cvutil32/datectrl.h"
 #include "cvutil32/grbutton.h"
+#include "cvutil32/numfld.h"
 #include "cvutil32/scroll.h"
+#include "cvutil32/timectrl.h"
 #include "cvutil32/treelist.h"
 #include "cvutil32/util.h"
 
@@ -21,8 +24,11 @@ constexpr registration::Function kRegistrations[] = {
     ANIMATE_RegisterClass,   // own
     BROWSE_RegisterClass,    // of the graphic button
     SCROLL_RegisterClass,    // own
+    NUMFLD_RegisterClass,    // of "edit"
     DATECTRL_RegisterClass,  // own
+    TIMECTRL_RegisterClass,  // own
     TREELIST_RegisterClass,  // own
+    cklist::Register,        // of "listbox"
 };
 
 BOOL Attach(HINSTANCE instance) {
@@ -38,6 +44,8 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID) {
     switch (reason) {
         case DLL_PROCESS_ATTACH:
             return Attach(instance);
+        case DLL_PROCESS_DETACH:
+            return cklist::Unregister(instance);
         default:
             return TRUE;
     }

@@ -1,13 +1,15 @@
 #include "gallery/options.h"
 
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
 namespace gallery {
 namespace {
 
 bool IsBlank(char c) {
     return c == ' ' || c == '\t';
 }
-
-constexpr std::string_view kCapture = "--capture";
 
 }  // namespace
 
@@ -51,9 +53,11 @@ std::vector<std::string> SplitArguments(std::string_view commandLine) {
 
 Options ParseOptions(std::string_view commandLine) {
     Options options;
+    const std::pair<std::string_view, std::string Options::*> valued[] = {{"--capture", &Options::capturePath},
+                                                                          {"--page", &Options::pageName}};
     const std::vector<std::string> arguments = SplitArguments(commandLine);
     for (std::size_t index = 0; index < arguments.size(); ++index) {
-        const std::string& argument = arguments[index];
+        const std::string_view argument = arguments[index];
         if (argument == "--help") {
             options.action = Options::Action::Help;
             return options;
@@ -62,17 +66,22 @@ Options ParseOptions(std::string_view commandLine) {
             options.action = Options::Action::Version;
             return options;
         }
-        if (argument == kCapture && index + 1 < arguments.size()) {
-            options.captureFile = arguments[++index];
-        } else if (argument.starts_with(kCapture) && argument.substr(kCapture.size()).starts_with('=')) {
-            options.captureFile = argument.substr(kCapture.size() + 1);
-        } else if (argument != kCapture) {
+        const std::string_view name = argument.substr(0, argument.find('='));
+        const auto* option = std::ranges::find(valued, name, [](const auto& entry) { return entry.first; });
+        if (option == std::end(valued)) {
             options.action = Options::Action::UnknownOption;
-            options.unknown = argument;
+            options.wrong = argument;
             return options;
         }
-        if (options.captureFile.empty()) {
-            options.action = Options::Action::FileMissing;
+        std::string& value = options.*option->second;
+        if (name.size() < argument.size()) {
+            value = argument.substr(name.size() + 1);
+        } else if (index + 1 < arguments.size()) {
+            value = arguments[++index];
+        }
+        if (value.empty()) {
+            options.action = Options::Action::ValueMissing;
+            options.wrong = name;
             return options;
         }
     }

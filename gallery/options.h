@@ -9,11 +9,12 @@
 namespace gallery {
 
 struct Options {
-    enum class Action { Show, Help, Version, UnknownOption, FileMissing };
+    enum class Action { Show, Help, Version, UnknownOption, ValueMissing };
 
     Action action = Action::Show;
-    std::string captureFile;  ///< empty without --capture
-    std::string unknown;      ///< what was not understood
+    std::string capturePath;  ///< empty without --capture
+    std::string pageName;     ///< empty without --page
+    std::string wrong;        ///< the option that was not understood, or that lacks its value
 };
 
 /// @param commandLine as WinMain gets it, without the program's name; quoted as Windows programs quote.

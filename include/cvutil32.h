@@ -7,6 +7,7 @@
 
 #include "cvutil32/cvapi.h"
 
+#include "cvutil32/about.h"
 #include "cvutil32/animate.h"
 #include "cvutil32/browse.h"
 #include "cvutil32/buddyfr.h"
@@ -14,8 +15,11 @@
 #include "cvutil32/datectrl.h"
 #include "cvutil32/grbutton.h"
 #include "cvutil32/list.h"
+#include "cvutil32/msgbox.h"
+#include "cvutil32/numfld.h"
 #include "cvutil32/reg.h"
 #include "cvutil32/scroll.h"
+#include "cvutil32/timectrl.h"
 #include "cvutil32/treelist.h"
 #include "cvutil32/util.h"
 

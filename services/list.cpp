@@ -109,6 +109,11 @@ CVAPI(DWORD) LIST_Insert(LPVOID* list, LPCVOID item, DWORD index) {
     LISTHEADER* header = Header(target);
     const std::uint32_t place = index < header->count ? index : header->count;
     char* slot = Item(target, place);
+    // An item of this very list moves with its block, and again when the items behind the index shift.
+    const std::size_t at = reinterpret_cast<std::uintptr_t>(item) - reinterpret_cast<std::uintptr_t>(*list);
+    if (item && at < std::size_t{header->count} * header->itemSize) {
+        item = static_cast<char*>(target) + at + (at >= std::size_t{place} * header->itemSize ? header->itemSize : 0);
+    }
     std::memmove(slot + header->itemSize, slot, std::size_t{header->count - place} * header->itemSize);
     if (item) {
         std::memcpy(slot, item, header->itemSize);
@@ -134,8 +139,12 @@ CVAPI(BOOL) LIST_Delete(LPVOID list, DWORD index) {
     if (!header || index >= header->count) {
         return FALSE;
     }
-    char* slot = Item(list, index);
-    std::memmove(slot, slot + header->itemSize, std::size_t{header->count - index - 1} * header->itemSize);
+    // Items that were lost with their memory are not there to be moved.
+    const std::uint32_t end = header->count < header->capacity ? header->count : header->capacity;
+    if (index + 1 < end) {
+        char* slot = Item(list, index);
+        std::memmove(slot, slot + header->itemSize, std::size_t{end - index - 1} * header->itemSize);
+    }
     --header->count;
     return TRUE;
 }

@@ -20,7 +20,7 @@ runs=20
 times=()
 for ((run = 0; run < runs; ++run)); do
     begin=$(date +%s%N)
-    build/bench/bin/gallery --capture build/bench/gallery.png
+    build/bench/bin/cvutil32-gallery --capture build/bench/gallery.png
     times+=($((($(date +%s%N) - begin) / 10000)))
 done
 sorted=($(printf '%s\n' "${times[@]}" | sort -n))
@@ -28,4 +28,4 @@ milliseconds() {
     printf '%d.%02d' $(($1 / 100)) $(($1 % 100))
 }
 echo "best $(milliseconds "${sorted[0]}") ms, median $(milliseconds "${sorted[runs / 2]}") ms of $runs runs"
-/usr/bin/time -f 'peak memory %M KiB' build/bench/bin/gallery --capture build/bench/gallery.png
+/usr/bin/time -f 'peak memory %M KiB' build/bench/bin/cvutil32-gallery --capture build/bench/gallery.png

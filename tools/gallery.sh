@@ -7,4 +7,4 @@ if [ ! -f build/native/build.ninja ]; then
     configure native -DCVUTIL32_TESTS=OFF >&2
 fi
 cmake --build build/native --target gallery >&2
-exec build/native/bin/gallery "$@"
+exec build/native/bin/cvutil32-gallery "$@"

@@ -1,6 +1,7 @@
 // A field's caret: a triangle under the character that the next key replaces.
 #include "controls/fieldedit/editor.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace fieldedit {
@@ -38,36 +39,51 @@ int CaretX(HWND field, Data const& data) {
 
 }  // namespace
 
-void MoveCaret(Rules const& rules, HWND field, int delta) {
-    Data* const data = DataOf(field);
-    if (delta == 0 || !data || GetFocus() != field) {
-        return;
-    }
+namespace {
+
+/// One character on, within the text.
+UINT NextPosition(Rules const& rules, UINT position, bool forward) {
     UINT const length = rules.TextLength();
-    for (int left = std::abs(delta); left > 0; --left) {
-        if (delta < 0 && data->caretPos > 0) {
-            --data->caretPos;
-        } else if (delta > 0 && data->caretPos + 1 < length) {
-            ++data->caretPos;
+    do {
+        if (forward ? position + 1 >= length : position == 0) {
+            break;
         }
-    }
-    // One measurement at the end shows the same caret as one after each step.
+        position += forward ? 1 : -1;
+    } while (rules.IsInsideCharacter(position));
+    return position;
+}
+
+void ShowCaretAt(HWND field, Data const& data) {
     POINT position = {};
-    int const x = CaretX(field, *data);
+    int const x = CaretX(field, data);
     HideCaret(field);
     GetCaretPos(&position);
     SetCaretPos(x, position.y);
     ShowCaret(field);
 }
 
+}  // namespace
+
+void MoveCaret(Rules const& rules, HWND field, int delta) {
+    Data* const data = DataOf(field);
+    if (delta == 0 || !data || GetFocus() != field) {
+        return;
+    }
+    for (int left = std::abs(delta); left > 0; --left) {
+        data->caretPos = NextPosition(rules, data->caretPos, delta > 0);
+    }
+    // One measurement at the end shows the same caret as one after each step.
+    ShowCaretAt(field, *data);
+}
+
 void PlaceCaret(Rules const& rules, HWND field) {
-    Data const* const data = DataOf(field);
+    Data* const data = DataOf(field);
     if (!data || GetFocus() != field) {
         return;
     }
-    int const caretPos = static_cast<int>(data->caretPos);
-    MoveCaret(rules, field, -static_cast<int>(rules.TextLength()));
-    MoveCaret(rules, field, caretPos);
+    // The text may have become shorter with the settings.
+    data->caretPos = std::min(data->caretPos, rules.TextLength() - 1);
+    ShowCaretAt(field, *data);
     RECT client;
     POINT position = {};
     GetClientRect(field, &client);

@@ -17,6 +17,11 @@ class Rules {
 
     virtual bool IsSeparator(UINT position) const = 0;
 
+    /// @return whether a position is the second byte of a character, which the caret passes over.
+    virtual bool IsInsideCharacter(UINT) const {
+        return false;
+    }
+
     virtual bool IsValid(SYSTEMTIME const& value) const = 0;
 
     /// @return the value of a field that has just been created: now, or what counts of it.
@@ -46,6 +51,6 @@ class Rules {
 };
 
 /// Room for the longest text of any kind.
-constexpr int kMaxTextSize = 12;
+constexpr int kMaxTextSize = 16;
 
 }  // namespace fieldedit

@@ -89,5 +89,7 @@ class CVCLASS CDATASTR : public CSTRING {
     void NormalizeFileSpecs();
 
   private:
+    bool Shortened(unsigned int position);
+
     CDATASTRMARK* marker;
 };

@@ -6,7 +6,8 @@
 ///
 /// Validity. Every member first checks that the object is sound (see cbase.h). On anything else it does nothing and
 /// returns what its description names: the object itself, 0, NUL or null. No member throws, and none reports an error:
-/// when memory runs out an assignment leaves an empty text, and everything else leaves the text as it was.
+/// when memory runs out an assignment leaves an empty text, a sum lacks the part that there was no room for, and
+/// everything else leaves the text as it was.
 ///
 /// Positions and counts are unsigned 32-bit numbers of characters from 0; 0xFFFFFFFF (~0) stands for all of the text or
 /// for its last character, where a member says so. They are counted by walking the text from its start, a double-byte
@@ -31,10 +32,19 @@
 ///
 ///     CSTRING path("C:\\DATA");
 ///     path += '\\';
-///     path += fileName;
+///     path += "ADDRESS.TXT";
 ///     GetWindowsDirectoryA(++path, 1024);
 ///     path--;
 ///     if (path[-1] != '\\') path += '\\';
+///
+/// Editing and searching. The same members look forwards from a position and, from ~0, for the last occurrence:
+///
+///     CSTRING file("LETTERS.OLD\\JUNE.TXT");
+///     unsigned int const dot = file.Find('.', ~0u);
+///     if (dot != ~0u) file.Delete(dot, ~0u);
+///     file.Insert(".DOC", file.GetStrLen(), ~0u);
+///     CSTRING name = file.Mid(file.Find('\\', ~0u) + 1, ~0u);
+///     if (name == "JUNE.DOC") file.Replace("OLD", "NEW", 1);
 ///
 /// Objects are not shared between threads without a lock of the caller's.
 #pragma once

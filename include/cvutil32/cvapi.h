@@ -14,9 +14,11 @@
 #include <windows.h>
 
 #ifndef CVEXPORT
+/// Before a name of the library's: where it comes from, or in the library's own build that it goes out.
 #define CVEXPORT DECLSPEC_IMPORT
 #endif
 
+/// C linkage, from C and from C++.
 #ifdef __cplusplus
 #define CVEXTERN extern "C"
 #else

@@ -27,11 +27,10 @@
 ///
 /// | message | effect |
 /// |---|---|
-/// | `WM_VSCROLL`, code SB_LINEUP (0) or SB_LINEDOWN (1) | steps the field above the caret up or down; on a separator
-/// nothing happens; an empty field shows today's date instead. This is what a micro scroll bar (scroll.h) sends | |
-/// `WM_SETFONT` | takes a font, which stays the application's; a nonzero lParam repaints | | `WM_WININICHANGE`, section
-/// "Intl" | reads the settings anew and repaints; the text keeps its old form until its value changes next | |
-/// `WM_GETDLGCODE` | answers DLGC_WANTARROWS \| DLGC_WANTCHARS |
+/// | `WM_VSCROLL`, code SB_LINEUP (0) or SB_LINEDOWN (1) | steps the field above the caret up or down; on a separator nothing happens; an empty field shows today's date instead. This is what a micro scroll bar (scroll.h) sends |
+/// | `WM_SETFONT` | takes a font, which stays the application's; a nonzero lParam repaints |
+/// | `WM_WININICHANGE`, section "Intl" | reads the settings anew and repaints; the text keeps its old form until its value changes next |
+/// | `WM_GETDLGCODE` | answers DLGC_WANTARROWS \| DLGC_WANTCHARS |
 ///
 /// The background is the brush with which the parent answers `WM_CTLCOLOREDIT`, or the window colour. The parent may
 /// set the text colours of the device context in its answer.

@@ -20,6 +20,16 @@
 /// Validity. A handle is valid if it is not null and the list's signature ("STLH") stands 24 bytes before it. Nothing
 /// else is tested: an ended list's handle and the failure value of LIST_Malloc() must not be used.
 ///
+/// Searching. A list that is kept in order is searched by halving, which also tells where a new item belongs:
+///
+///     LPVOID sorted = LIST_Malloc(16, sizeof(POINT));
+///     POINT const point = {3, 4};
+///     DWORD place;
+///     if (!LIST_BFind(sorted, LIST_TYPE_LONG, 0, &point.x, &place)) {
+///         LIST_Insert(&sorted, &point, place);
+///     }
+///     LIST_Free(sorted);
+///
 /// Walking. Each list has a cursor: LIST_GetFirstItem(), then LIST_GetNextItem() until it returns null.
 ///
 /// The functions keep no state of their own. A list is used by one thread at a time.
@@ -101,8 +111,8 @@ CVAPI(LPVOID) LIST_SetCurrentItem(LPVOID list, DWORD index);
 /// @param offset  bytes from an item's start to its key field.
 /// @param key  the key, read as the type says.
 /// @param index  takes the item's index, or the count if there is none (0 for a null list); may be null.
-/// @return the item's address, or null. Any other type returns null and leaves @p index alone (unless the list is
-/// empty).
+/// @return the item's address, or null. Any other type, and a null key for a number, returns null and leaves @p index
+/// alone (unless the list is empty).
 CVAPI(LPVOID) LIST_LFind(LPVOID list, DWORD type, LONG offset, LPCVOID key, DWORD* index);
 
 /// Finds an item with a key in a list that is in ascending order of that key; among equal ones, whichever the halving

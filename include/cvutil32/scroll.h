@@ -11,10 +11,9 @@
 ///
 /// | style | meaning |
 /// |---|---|
-/// | `SCROLL_PREVSIBLING` | the associate is the window before the bar among its siblings, which in a dialog is the one
-/// created before it; without the style it is the parent | | `SCROLL_VERTICAL` | arrows one above the other,
-/// `WM_VSCROLL`; without it side by side, `WM_HSCROLL` | | `SCROLL_ATTACH` | narrows the associate and lays the bar
-/// over its right end, as high as the associate; the bar is 9/10 of that height wide (vertical) or 10/9 (horizontal) |
+/// | `SCROLL_PREVSIBLING` | the associate is the window before the bar among its siblings, which in a dialog is the one created before it; without the style it is the parent |
+/// | `SCROLL_VERTICAL` | arrows one above the other, `WM_VSCROLL`; without it side by side, `WM_HSCROLL` |
+/// | `SCROLL_ATTACH` | narrows the associate and lays the bar over its right end, as high as the associate; the bar is 9/10 of that height wide (vertical) or 10/9 (horizontal) |
 /// | `SCROLL_ARROWKEYS` | the associate's Up and Down keys become line messages, see below |
 ///
 /// Line messages. The associate gets `WM_VSCROLL` or `WM_HSCROLL` with the bar's handle as lParam and as wParam 0 for

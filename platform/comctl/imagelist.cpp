@@ -216,7 +216,7 @@ HIMAGELIST WINAPI ImageList_Create(int cx, int cy, UINT flags, int initial, int 
         SetLastError(ERROR_NOT_ENOUGH_MEMORY);
         return nullptr;
     }
-    list.release();
+    static_cast<void>(list.release());
     return platform::base::ToHandle<HIMAGELIST>(handle);
 }
 

@@ -92,6 +92,12 @@ class Layout {
                 breakNext = at;
             }
         }
+        // Blanks that hang over the edge at a line's end take no room.
+        if (wraps && inBlank && line.width > limit && breakLength > 0) {
+            line.text.resize(breakLength);
+            line.width = breakWidth;
+            line.underline = line.underline < static_cast<int>(breakLength) ? line.underline : -1;
+        }
         line.next = at;
         return line;
     }

@@ -125,8 +125,13 @@ WINBASEAPI LCID WINAPI GetUserDefaultLCID(void);
 WINBASEAPI LANGID WINAPI GetSystemDefaultLangID(void);
 WINBASEAPI LANGID WINAPI GetUserDefaultLangID(void);
 WINBASEAPI int WINAPI GetLocaleInfoA(LCID locale, LCTYPE type, LPSTR buffer, int size);
+/// Changes the user's own settings, whatever the locale; tell other windows with WM_WININICHANGE, "intl". A time format
+/// sets the separator, the clock and the leading zero of times too, a short date format the order and separator of
+/// dates.
+WINBASEAPI BOOL WINAPI SetLocaleInfoA(LCID locale, LCTYPE type, LPCSTR data);
 
 #ifndef CVPLATFORM_NO_GENERIC_NAMES
 #define CompareString CompareStringA
 #define GetLocaleInfo GetLocaleInfoA
+#define SetLocaleInfo SetLocaleInfoA
 #endif

@@ -10,6 +10,9 @@ typedef LPSTR LPTSTR, PTSTR;
 typedef LPCSTR LPCTSTR, PCTSTR;
 #define TEXT(quote) quote
 
+/// Before a declaration: another module has it.
+#define DECLSPEC_IMPORT __attribute__((visibility("default")))
+
 typedef union _LARGE_INTEGER {
     struct {
         DWORD LowPart;

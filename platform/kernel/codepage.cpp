@@ -261,5 +261,8 @@ BOOL WINAPI IsDBCSLeadByte(BYTE byte) {
 
 BOOL WINAPI IsDBCSLeadByteEx(UINT codePage, BYTE byte) {
     const CodePage* page = FindCodePage(codePage);
+    if (!page) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+    }
     return page && page->lead[byte];
 }

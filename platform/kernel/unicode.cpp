@@ -1,6 +1,7 @@
 // Between code pages and UTF-16.
 #include <windows.h>
 
+#include <unicode/uchar.h>
 #include <unicode/unorm2.h>
 
 #include <cstring>
@@ -103,7 +104,9 @@ std::uint16_t BestFit(const CodePage& page, char16_t character) {
     const UNormalizer2* forms = unorm2_getNFKDInstance(&error);
     UChar parts[16];
     const std::int32_t length = U_SUCCESS(error) ? unorm2_getRawDecomposition(forms, character, parts, 16, &error) : -1;
-    return U_SUCCESS(error) && length > 0 ? page.fromUnicode[parts[0]] : std::uint16_t{0};
+    // A letter without its accent is near enough, a symbol without its stroke is not.
+    const bool near = U_SUCCESS(error) && (length == 1 || (length > 1 && u_isalnum(parts[0])));
+    return near ? page.fromUnicode[parts[0]] : std::uint16_t{0};
 }
 
 bool EncodePage(const CodePage& page, const char16_t* text, std::size_t size, const char* replacement, bool bestFit,
@@ -141,7 +144,7 @@ int Deliver(const std::basic_string<Char>& result, Char* to, int toSize) {
 
 int WINAPI MultiByteToWideChar(UINT codePage, DWORD flags, LPCSTR from, int fromSize, LPWSTR to, int toSize) {
     constexpr DWORD known = MB_PRECOMPOSED | MB_COMPOSITE | MB_USEGLYPHCHARS | MB_ERR_INVALID_CHARS;
-    if (!from || fromSize == 0 || fromSize < -1 || toSize < 0 || (toSize > 0 && !to)) {
+    if (!from || fromSize == 0 || toSize < 0 || (toSize > 0 && !to)) {
         return Fail(ERROR_INVALID_PARAMETER);
     }
     if ((flags & ~known) || (codePage == CP_UTF8 && (flags & ~MB_ERR_INVALID_CHARS))) {
@@ -169,7 +172,7 @@ int WINAPI MultiByteToWideChar(UINT codePage, DWORD flags, LPCSTR from, int from
 int WINAPI WideCharToMultiByte(UINT codePage, DWORD flags, LPCWSTR from, int fromSize, LPSTR to, int toSize,
                                LPCSTR defaultChar, BOOL* usedDefaultChar) {
     constexpr DWORD known = WC_COMPOSITECHECK | WC_DISCARDNS | WC_SEPCHARS | WC_DEFAULTCHAR | WC_NO_BEST_FIT_CHARS;
-    if (!from || fromSize == 0 || fromSize < -1 || toSize < 0 || (toSize > 0 && !to)) {
+    if (!from || fromSize == 0 || toSize < 0 || (toSize > 0 && !to)) {
         return Fail(ERROR_INVALID_PARAMETER);
     }
     if (codePage == CP_UTF8 && (defaultChar || usedDefaultChar)) {

@@ -3,26 +3,34 @@
 #include <unicode/uchar.h>
 #include <unicode/unorm2.h>
 
-#include <cstring>
 #include <map>
 #include <mutex>
+#include <string_view>
 
 namespace platform::kernel {
 namespace {
 
-// Punctuation comes first, then mathematical and other symbols, then digits and letters. Hyphen and apostrophe come
-// first in string sort and weigh least in word sort. What ASCII lacks follows its own kind, by code point.
-constexpr char kPunctuation[] = "'- !\"#$%&()*,./:;?@[\\]^_`{|}~";
-constexpr char kMath[] = "+<=>";
+// Punctuation comes first, then mathematical and other symbols, then digits and letters. Hyphen, dashes and apostrophe
+// come first in string sort and weigh least in word sort. What the western page lacks follows its own kind, by code
+// point.
+constexpr std::u16string_view kPunctuation =
+    u"'-\u2013\u2014 \u00A0\t\n\v\f\r!\"#$%&()*,./:;?@[\\]^_`{|}~\u00A1\u00A6\u00A8\u00AF\u00B4\u00B8\u00BF\u02DC"
+    u"\u2018\u2019\u201A\u201C\u201D\u201E\u2039\u203A\u00A2\u00A3\u00A4\u00A5\u20AC";
+constexpr std::u16string_view kMath = u"+<=>\u00B1\u00AB\u00BB\u00D7\u00F7";
+constexpr std::u16string_view kSymbols =
+    u"\u00A7\u00A9\u00AC\u00AE\u00B0\u00B5\u00B6\u00B7\u2026\u2020\u2021\u2022\u2030";
+constexpr std::size_t kHyphens = 4;  // the first of the punctuation
 constexpr std::uint32_t kFirstPunctuation = 0x10;
 constexpr std::uint32_t kOtherPunctuation = 0x100;
 constexpr std::uint32_t kFirstMath = 0x10100;
 constexpr std::uint32_t kOtherMath = 0x10200;
-constexpr std::uint32_t kOtherSymbols = 0x20200;
-constexpr std::uint32_t kDigits = 0x30200;
-constexpr std::uint32_t kLetters = 0x30300;
-constexpr std::uint32_t kOtherLetters = 0x30400;
-constexpr std::uint32_t kIdeographs = 0x40400;  // by their place in the code page
+constexpr std::uint32_t kFirstSymbol = 0x20200;
+constexpr std::uint32_t kOtherSymbols = 0x20300;
+constexpr std::uint32_t kDigits = 0x30400;
+constexpr std::uint32_t kLetters = 0x30500;
+constexpr std::uint32_t kOtherLetters = 0x30600;
+constexpr std::uint32_t kIdeographs = 0x40600;  // by their place in the code page
+static_assert(kFirstPunctuation + kPunctuation.size() < kOtherPunctuation);
 
 // The half-width Katakana from U+FF66 to U+FF9D by their full-width forms.
 constexpr char16_t kHalfWidth[] =
@@ -62,9 +70,9 @@ bool Expansion(char16_t character, Weights& weights) {
 // Letters with a stroke, and raised letters and figures, have no decomposition, but stand with their plain form.
 char16_t PlainForm(char16_t character) {
     static constexpr char16_t kForms[][2] = {
-        {0xAA, u'a'},  {0xB2, u'2'},  {0xB3, u'3'},  {0xB5, 0x3BC}, {0xB9, u'1'},  {0xBA, u'o'},
-        {0xD0, u'D'},  {0xD8, u'O'},  {0xF0, u'd'},  {0xF8, u'o'},  {0x110, u'D'}, {0x111, u'd'},
-        {0x131, u'i'}, {0x141, u'L'}, {0x142, u'l'}, {0x192, u'f'},
+        {0xAA, u'a'},  {0xB2, u'2'},  {0xB3, u'3'},  {0xB9, u'1'},  {0xBA, u'o'},
+        {0xD0, u'D'},  {0xD8, u'O'},  {0xF0, u'd'},  {0xF8, u'o'},  {0x110, u'D'},
+        {0x111, u'd'}, {0x131, u'i'}, {0x141, u'L'}, {0x142, u'l'}, {0x192, u'f'},
     };
     for (const auto& form : kForms) {
         if (form[0] == character) {
@@ -72,6 +80,21 @@ char16_t PlainForm(char16_t character) {
         }
     }
     return 0;
+}
+
+// A symbol that has a place of its own; else one with primary 0.
+Weight Listed(char16_t character) {
+    Weight weight;
+    weight.symbol = true;
+    if (const std::size_t place = kPunctuation.find(character); place != kPunctuation.npos) {
+        weight.primary = kFirstPunctuation + static_cast<std::uint32_t>(place);
+        weight.special = place < kHyphens ? static_cast<std::uint8_t>(place + 1) : 0;
+    } else if (const std::size_t math = kMath.find(character); math != kMath.npos) {
+        weight.primary = kFirstMath + static_cast<std::uint32_t>(math);
+    } else if (const std::size_t symbol = kSymbols.find(character); symbol != kSymbols.npos) {
+        weight.primary = kFirstSymbol + static_cast<std::uint32_t>(symbol);
+    }
+    return weight;
 }
 
 Weight Plain(char16_t character) {
@@ -85,27 +108,22 @@ Weight Plain(char16_t character) {
             weight.primary = kDigits + static_cast<std::uint32_t>(ascii - '0') * 2;
             return weight;
         }
-        const char* punctuation = ascii > 0 ? std::strchr(kPunctuation, ascii) : nullptr;
-        const char* math = ascii > 0 ? std::strchr(kMath, ascii) : nullptr;
-        weight.symbol = punctuation || math;
-        if (punctuation) {
-            weight.primary = kFirstPunctuation + static_cast<std::uint32_t>(punctuation - kPunctuation);
-            weight.special = ascii == '\'' ? 1 : ascii == '-' ? 2 : 0;
-        } else if (math) {
-            weight.primary = kFirstMath + static_cast<std::uint32_t>(math - kMath);
-        } else if (ascii >= '\t' && ascii <= '\r') {
-            weight.symbol = true;
-            weight.primary = 5 + static_cast<std::uint32_t>(ascii - '\t');
-        }
-        return weight;  // other control characters weigh nothing
+    }
+    if (const Weight symbol = Listed(character); symbol.primary) {
+        return symbol;
     }
     if (u_iscntrl(character)) {
-        return weight;
+        return weight;  // control characters weigh nothing
     }
     if (character == 0xAD) {
-        weight.special = 3;
+        weight.special = kHyphens + 1;
         weight.primary = kFirstPunctuation + 2;
         weight.symbol = true;
+        return weight;
+    }
+    if (character >= 0xBC && character <= 0xBE) {
+        weight.primary = kDigits + 1;  // one quarter, one half, three quarters, between 0 and 1
+        weight.accent = static_cast<std::uint8_t>(character - 0xBC + 1);
         return weight;
     }
     if (!u_isalnum(character) || u_charType(character) == U_MODIFIER_LETTER) {
@@ -136,11 +154,19 @@ bool IsIdeograph(char16_t character) {
            (character >= 0xF900 && character <= 0xFAFF);
 }
 
+// Acute, grave, circumflex, diaeresis, tilde, ring; the others by code point.
+std::uint8_t AccentOf(char16_t mark) {
+    constexpr std::u16string_view order = u"\u0301\u0300\u0302\u0308\u0303\u030A";
+    const std::size_t place = order.find(mark);
+    return static_cast<std::uint8_t>(place != order.npos ? place + 2 : (mark & 0x7F) + 10);
+}
+
 // Reduces a letter with an accent to the letter. @returns the accent's weight, 0 for none.
 std::uint8_t TakeAccent(char16_t& character) {
     if (const char16_t plain = PlainForm(character)) {
+        const bool raised = character == 0xAA || character == 0xBA;
         character = plain;
-        return 0xF0;
+        return raised ? 1 : 0xF0;
     }
     UErrorCode error = U_ZERO_ERROR;
     const UNormalizer2* forms = unorm2_getNFDInstance(&error);
@@ -152,7 +178,7 @@ std::uint8_t TakeAccent(char16_t& character) {
     }
     std::uint8_t accent = 0;
     for (std::int32_t i = 1; i < length; ++i) {
-        accent = static_cast<std::uint8_t>(accent * 31 + (parts[i] & 0x7F) + 2);
+        accent = static_cast<std::uint8_t>(accent * 31 + AccentOf(parts[i]));
     }
     character = parts[0];
     return accent;
@@ -183,7 +209,7 @@ Weights WeightsOf(char16_t character, std::uint16_t bytes) {
         char16_t base = character;
         const std::uint8_t accent = TakeAccent(base);
         weights.first = Plain(base);
-        weights.first.accent = accent;
+        weights.first.accent |= accent;
     }
     weights.first.letterCase |= form;
     weights.second.letterCase |= weights.expands ? form : 0;

@@ -236,7 +236,7 @@ bool IsOpenHere() {
 bool Close(UserHold& hold) {
     Clipboard& board = Board();
     std::optional<std::string> text;
-    if (board.changed) {
+    if (board.changed && HasHostClipboard()) {
         text = TextForHost(hold);
     }
     board.changed = false;

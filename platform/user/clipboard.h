@@ -8,6 +8,9 @@
 
 namespace platform::user {
 
+/// @returns whether the host has a clipboard to share texts with.
+bool HasHostClipboard();
+
 /// @returns whether the host has a clipboard with text in it, which is stored as UTF-8. May take a moment; lock not
 /// held.
 bool ReadHostClipboard(std::string* utf8);

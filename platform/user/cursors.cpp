@@ -139,6 +139,19 @@ unsigned CursorShape(HCURSOR cursor) {
     return icon ? icon->number : 0;
 }
 
+SIZE IconSize(HICON handle) {
+    const Icon* icon = base::Find<Icon>(handle, HandleKind::Icon);
+    if (!icon) {
+        icon = base::Find<Icon>(handle, HandleKind::Cursor);
+    }
+    if (!icon) {
+        return {0, 0};
+    }
+    const IconPicture& picture = icon->picture;
+    return {picture.width ? picture.width : GetSystemMetrics(SM_CXICON),
+            picture.height ? picture.height : GetSystemMetrics(SM_CYICON)};
+}
+
 DWORD OwnIcons() {
     return ownIcons.load();
 }

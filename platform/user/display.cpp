@@ -117,6 +117,11 @@ void ShowCursorShape(unsigned idc) {
     }
 }
 
+bool HasHostClipboard() {
+    const display::Display* shown = presenter.load(std::memory_order_acquire);
+    return shown != nullptr && shown->Interactive();
+}
+
 bool ReadHostClipboard(std::string* utf8) {
     display::Display* shown = presenter.load(std::memory_order_acquire);
     return shown != nullptr && shown->ReadClipboard(utf8);

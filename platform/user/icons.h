@@ -37,6 +37,9 @@ IconPicture DrawSystemIcon(unsigned number);
 /// @returns nothing, with the error code set, when it is missing or damaged.
 std::optional<IconPicture> ReadIconResource(HINSTANCE instance, LPCSTR name, bool cursor);
 
+/// @returns an icon's or a cursor's width and height; zeros, and no error code, for anything else.
+SIZE IconSize(HICON icon);
+
 /// @returns the icon that stands in a window's caption, null for none. Lock held.
 HICON CaptionIcon(const Window* window);
 

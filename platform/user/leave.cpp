@@ -18,18 +18,21 @@ void ForgetInput(Window* window) {
         if (thread->capture == handle) {
             MoveCapture(thread, nullptr);
         }
-        if (Shared(thread->active) == handle) {
+        // Each of these tells windows, and what they do may end this one at once.
+        if (PeekWindow(handle) == window && Shared(thread->active) == handle) {
             ActivateNext(thread, window);
         }
-        if (Shared(thread->focus) == handle) {
+        if (PeekWindow(handle) == window && Shared(thread->focus) == handle) {
             const Window* parent = (window->style & WS_CHILD) != 0 ? window->parent : nullptr;
             const bool usable = parent != nullptr && parent != Desktop() && !parent->destroying;
             MoveFocus(thread, usable ? parent->handle : nullptr);
         }
     }
     UserGuard guard(UserLock());
-    ForgetTimers(window);
-    ForgetCaret(window);
+    if (PeekWindow(handle) == window) {
+        ForgetTimers(window);
+        ForgetCaret(window);
+    }
     std::erase_if(thread->posted, [handle](const MSG& message) { return message.hwnd == handle; });
     std::erase(thread->caretSuspensions, handle);
     for (HWND* held : {&thread->active, &thread->focus, &thread->capture, &thread->menuOwner, &thread->moveSize,

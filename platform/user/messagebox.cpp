@@ -10,11 +10,13 @@ namespace platform::user {
 namespace {
 
 constexpr int kTextId = 0xFFFF;
+constexpr int kIconId = 20;
 constexpr short kButtonWidth = 50;  // dialog units from here on
 constexpr short kButtonHeight = 14;
 constexpr short kButtonGap = 4;
 constexpr short kMargin = 7;
 constexpr short kTextGap = 9;  // between the text and the buttons
+constexpr short kIconGap = 8;  // between the icon and the text
 
 struct ButtonSpec {
     int id;
@@ -41,7 +43,23 @@ struct Box {
     UINT type;
     int defaultId;
     bool closable;
+    HICON icon;
 };
+
+HICON IconOf(UINT type) {
+    switch (type & MB_ICONMASK) {
+        case MB_ICONHAND:
+            return LoadIconA(nullptr, IDI_HAND);
+        case MB_ICONQUESTION:
+            return LoadIconA(nullptr, IDI_QUESTION);
+        case MB_ICONEXCLAMATION:
+            return LoadIconA(nullptr, IDI_EXCLAMATION);
+        case MB_ICONASTERISK:
+            return LoadIconA(nullptr, IDI_ASTERISK);
+        default:
+            return nullptr;
+    }
+}
 
 bool HasCancel(const ButtonSet& set) {
     for (int index = 0; index < set.count; ++index) {
@@ -57,6 +75,8 @@ INT_PTR CALLBACK BoxProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM l
             const auto* box = reinterpret_cast<const Box*>(lParam);
             SetWindowLongPtrA(dialog, DWLP_USER, lParam);
             MessageBeep(box->type & MB_ICONMASK);
+            if (box->icon)
+                SendDlgItemMessageA(dialog, kIconId, STM_SETICON, reinterpret_cast<WPARAM>(box->icon), 0);
             const HWND button = GetDlgItem(dialog, box->defaultId);
             SendMessageA(dialog, DM_SETDEFID, static_cast<WPARAM>(box->defaultId), 0);
             if (box->type & MB_NOFOCUS)
@@ -78,7 +98,12 @@ INT_PTR CALLBACK BoxProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM l
     }
 }
 
-/// A text's size in dialog units, rounded up, when broken at a width of 5/8 of the screen.
+/// Pixels as dialog units, rounded up.
+SIZE ToUnits(LONG width, LONG height, int baseX, int baseY) {
+    return {(width * 4 + baseX - 1) / baseX, (height * 8 + baseY - 1) / baseY};
+}
+
+/// A text's size in dialog units when broken at a width of 5/8 of the screen.
 SIZE MeasureText(LPCSTR text, HFONT font, int baseX, int baseY) {
     const HDC screen = GetDC(nullptr);
     const HGDIOBJ previous = SelectObject(screen, font);
@@ -86,7 +111,7 @@ SIZE MeasureText(LPCSTR text, HFONT font, int baseX, int baseY) {
     DrawTextA(screen, text, -1, &rect, DT_CALCRECT | DT_WORDBREAK | DT_EXPANDTABS | DT_NOPREFIX);
     SelectObject(screen, previous);
     ReleaseDC(nullptr, screen);
-    return {(rect.right * 4 + baseX - 1) / baseX, (rect.bottom * 8 + baseY - 1) / baseY};
+    return ToUnits(rect.right, rect.bottom, baseX, baseY);
 }
 
 DialogItem MakeItem(const char* className, const char* text, DWORD style, int id, short x, short y, short width,
@@ -103,7 +128,7 @@ DialogItem MakeItem(const char* className, const char* text, DWORD style, int id
     return item;
 }
 
-DialogTemplate LayOut(LPCSTR text, LPCSTR caption, UINT type, const ButtonSet& set) {
+DialogTemplate LayOut(LPCSTR text, LPCSTR caption, UINT type, const ButtonSet& set, bool hasIcon) {
     DialogTemplate box;
     box.style = WS_POPUP | WS_CAPTION | DS_MODALFRAME | DS_SETFONT | DS_NOIDLEMSG | DS_CENTER;
     if (HasCancel(set))
@@ -127,14 +152,23 @@ DialogTemplate LayOut(LPCSTR text, LPCSTR caption, UINT type, const ButtonSet& s
 
     const auto textWidth = static_cast<short>(std::min<LONG>(size.cx, 0x4000));
     const auto textHeight = static_cast<short>(std::min<LONG>(size.cy, 0x4000));
+    const SIZE icon =
+        hasIcon ? ToUnits(GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON), baseX, baseY) : SIZE{0, 0};
+    const auto iconWidth = static_cast<short>(icon.cx);
+    const auto textLeft = static_cast<short>(kMargin + (hasIcon ? iconWidth + kIconGap : 0));
+    // A text lower than the icon stands in the middle beside it.
+    const auto areaHeight = std::max(textHeight, static_cast<short>(icon.cy));
+    const auto textTop = static_cast<short>(kMargin + (areaHeight - textHeight) / 2);
     const auto buttons = static_cast<short>(set.count * kButtonWidth + (set.count - 1) * kButtonGap);
-    box.width = static_cast<short>(std::max(textWidth, buttons) + 2 * kMargin);
-    const auto buttonTop = static_cast<short>(kMargin + textHeight + kTextGap);
+    box.width = static_cast<short>(std::max(textLeft + textWidth, kMargin + buttons) + kMargin);
+    const auto buttonTop = static_cast<short>(kMargin + areaHeight + kTextGap);
     box.height = static_cast<short>(buttonTop + kButtonHeight + kMargin);
 
     const DWORD alignment = type & MB_RIGHT ? SS_RIGHT : SS_LEFT;
-    box.items.push_back(MakeItem("static", text, SS_NOPREFIX | alignment, kTextId, kMargin, kMargin,
-                                 static_cast<short>(box.width - 2 * kMargin), textHeight));
+    if (hasIcon)
+        box.items.push_back(MakeItem("static", "", SS_ICON, kIconId, kMargin, kMargin, iconWidth, iconWidth));
+    box.items.push_back(MakeItem("static", text, SS_NOPREFIX | alignment, kTextId, textLeft, textTop,
+                                 static_cast<short>(box.width - textLeft - kMargin), textHeight));
     auto x = static_cast<short>((box.width - buttons) / 2);
     for (int index = 0; index < set.count; ++index) {
         const DWORD group = index == 0 ? WS_GROUP : 0;
@@ -189,8 +223,8 @@ int ShowBox(HWND owner, LPCSTR text, LPCSTR caption, UINT type) {
     }
     const ButtonSet& set = kSets[kind];
     const int chosen = static_cast<int>((type & MB_DEFMASK) >> 8);
-    const Box box{type, set.buttons[chosen < set.count ? chosen : 0].id, HasCancel(set)};
-    const DialogTemplate layout = LayOut(text ? text : "", caption, type, set);
+    const Box box{type, set.buttons[chosen < set.count ? chosen : 0].id, HasCancel(set), IconOf(type)};
+    const DialogTemplate layout = LayOut(text ? text : "", caption, type, set, box.icon != nullptr);
     const auto parameter = reinterpret_cast<LPARAM>(&box);
     INT_PTR result;
     if (!owner && (type & MB_MODEMASK) == MB_TASKMODAL) {

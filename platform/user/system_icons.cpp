@@ -70,7 +70,7 @@ auto Triangle(double middle, double top, double bottom, double half) {
 }
 
 void DrawHand(Canvas& canvas) {
-    canvas.Where(Ellipse(16.5, 16.5, 15, 15), kGrey);
+    canvas.Where(Ellipse(16.5, 16.5, 15.4, 15.4), kGrey);
     canvas.Where(Ellipse(15.5, 15.5, 15.4, 15.4), kDarkRed);
     canvas.Where(Ellipse(15.5, 15.5, 14.2, 14.2), kRed);
     canvas.Where(
@@ -98,10 +98,10 @@ void DrawBalloon(Canvas& canvas) {
             return y >= 22 && y <= 31 - grow && x >= 14 + grow && x <= 23 - (y - 22) - grow;
         };
     };
-    canvas.Where(Ellipse(16.5, 14.5, 15, 12.5), kGrey);
-    canvas.Where(Ellipse(15.5, 13.5, 15.4, 13), kBlack);
+    canvas.Where(Ellipse(16.5, 14.5, 15.4, 12.7), kGrey);
+    canvas.Where(Ellipse(15.5, 13.5, 15.4, 13.3), kBlack);
     canvas.Where(tail(0), kBlack);
-    canvas.Where(Ellipse(15.5, 13.5, 14.2, 11.8), kWhite);
+    canvas.Where(Ellipse(15.5, 13.5, 14.4, 12.3), kWhite);
     canvas.Where(tail(1.2), kWhite);
 }
 
@@ -130,7 +130,7 @@ void DrawAsterisk(Canvas& canvas) {
 
 void DrawApplication(Canvas& canvas) {
     canvas.Fill(2, 4, 30, 28, kBlack);
-    canvas.Fill(2, 4, 29, 27, kFace);
+    canvas.Fill(2, 4, 29, 27, kWhite);
     canvas.Fill(3, 5, 29, 27, kGrey);
     canvas.Fill(3, 5, 28, 26, kFace);
     canvas.Fill(4, 6, 28, 11, kNavy);

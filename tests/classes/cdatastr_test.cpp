@@ -123,6 +123,35 @@ TEST(DataString, FileSpecifications) {
     EXPECT_EQ(CDATASTR("a").EnumFileSpecs(&position, &item, nullptr), 1);
 }
 
+// What a window wrote into the buffer may hold bytes that the character walk stops at.
+void Write(CDATASTR& list, const char* text) {
+    lstrcpyA(list.BufferLock(0), text);
+    list.BufferUnlock();
+}
+
+TEST(DataString, EveryWalkEndsAlsoBehindTheEndOfTheCharacterWalk) {
+    CDATASTR list;
+    Write(list, "\"C:\\M\xFCller\" \"b\"");
+    EXPECT_EQ(Specifications(list), (Texts{"Q:C:\\M", "Q:C:\\M"}));
+    list.NormalizeFileSpecs();
+    EXPECT_LT(list.GetStrLen(), 40u);
+    Write(list, "\xE9;;;;\xE9;;");
+    list.CleanDelimiters(';');
+    Write(list, "a;b\xE9\x61\x61\x61");
+    list.RemoveDuplicates(';');
+    EXPECT_TRUE(list.IsValid());
+}
+
+TEST(DataString, ATextUnderALockIsNotWalkedForEver) {
+    CDATASTR list("ab");
+    lstrcpyA(list.BufferLock(0), "  aXbbaX; ;; ");
+    list.NormalizeFileSpecs();
+    list.CleanDelimiters(';');
+    list.RemoveDuplicates(';');
+    list.BufferUnlock();
+    EXPECT_EQ(Text(list).substr(0, 2), "aX") << "deleting works in place, as far as the length that was counted";
+}
+
 TEST(DataString, NormalizedFileSpecifications) {
     const auto normalize = [](CDATASTR& list) { list.NormalizeFileSpecs(); };
     EXPECT_EQ(Edited(" a.txt,b.txt; ", normalize), "a.txt b.txt");

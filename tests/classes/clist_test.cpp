@@ -162,6 +162,9 @@ TEST_P(ListLayouts, CopiesAndTheGapOfAnAssignment) {
     target = CLIST(sizeof(int), 0, GetParam());
     EXPECT_EQ(target.GetCount(), 5u) << "an empty source leaves as many empty slots";
     EXPECT_EQ(Values(target), (Ints{empty, empty, empty, empty, empty}));
+    CLIST& self = target;
+    target = self;
+    EXPECT_EQ(target.GetCount(), 10u) << "of itself nothing is left to copy, but its count";
     source += copy;
     EXPECT_EQ(Values(source), (Ints{1, 2, 1, 2}));
     CLIST other(sizeof(short));

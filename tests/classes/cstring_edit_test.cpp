@@ -120,7 +120,28 @@ TEST(StringEdit, ReplacesTextsWithoutLooping) {
     std::memcpy(string.BufferLock(16), "ab\xE9", 4);
     string.BufferUnlock();
     string.Replace("\xE9", "x", 1);
-    EXPECT_EQ(Text(string), "ab\xE9") << "behind the walk's end nothing can be taken out";
+    EXPECT_EQ(Text(string), "abx\xE9") << "behind the walk's end nothing is taken out, and it goes on once";
+    std::memcpy(string.BufferLock(16),
+                "ab\xE9"
+                "cd",
+                6);
+    string.BufferUnlock();
+    string.Replace("cd", "x", 1);
+    EXPECT_EQ(Text(string),
+              "abx\xE9"
+              "d");
+    EXPECT_EQ(string.GetByteCount(), 3u);
+}
+
+TEST(StringEdit, TheBlockEndsWithANulAlsoBehindAByteThatTheWalkStopsAt) {
+    CSTRING string(16u);
+    EXPECT_EQ(string.GetBufLen(0), 32u);
+    char* const text = &string.GetRef(0);
+    std::memset(text, 'a', 30);
+    text[30] = '\xE9';
+    string.Insert('b', 0);
+    EXPECT_EQ(Text(string), "b" + std::string(30, 'a') + "\xE9");
+    EXPECT_EQ(string.GetBufLen(0), 48u);
 }
 
 TEST(StringSearch, OneMemberServesBothDirections) {

@@ -167,6 +167,31 @@ TEST_F(BuddyFrame, BorderIsSunkenAndTheInsideLeftAlone) {
     host_.answer = nullptr;
 }
 
+TEST(BuddyFrameFields, TheSystemsOwnComboBoxKeepsItsHeightAndItsList) {
+    TestWindow const host;
+    auto const add = [&](char const* name, DWORD style, int height) {
+        return CreateWindowExA(0, name, "", WS_CHILD | WS_VISIBLE | style, 10, 20, 100, height, host, nullptr,
+                               GetModuleHandleA(nullptr), nullptr);
+    };
+    HWND const combo = add("combobox", CBS_DROPDOWN | WS_TABSTOP, 60);
+    HWND const button = add("button", WS_TABSTOP, 9);
+    RECT before;
+    GetWindowRect(combo, &before);
+    HWND const frame = add(BUDDYFR_CLASSNAME, 0, 9);
+    RECT after;
+    GetWindowRect(combo, &after);
+    EXPECT_TRUE(Is(after, before.left, before.top, before.right - 22, before.bottom))
+        << "closed it is as high as it was";
+    RECT dropped;
+    SendMessageA(combo, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&dropped));
+    EXPECT_GT(dropped.bottom - dropped.top, before.bottom - before.top) << "open there is room for the list";
+    RECT place;
+    GetWindowRect(frame, &place);
+    EXPECT_TRUE(Is(place, before.right - 22, before.top, before.right, before.bottom));
+    GetWindowRect(button, &place);
+    EXPECT_TRUE(Is(place, before.right - 20, before.top + 2, before.right - 2, before.bottom - 2));
+}
+
 TEST(BuddyFrameClass, HasNothingOfItsOwn) {
     WNDCLASSA record = {};
     ASSERT_TRUE(GetClassInfoA(GetModuleHandleA(nullptr), "Calverin_BuddyFrame", &record));

@@ -127,6 +127,26 @@ TEST(Frame, ParentIsSubclassedOnceAndRestored) {
     EXPECT_NE(own, &ParentProcedure);
 }
 
+TEST(Frame, ParentsEndIsPassedOnWithoutArgumentsAndUnhooks) {
+    TestWindow parent;
+    WNDPROC const own = ProcedureOf(parent);
+    CreateSample(parent);
+    parent.answer = [](Message const& message) -> std::optional<LRESULT> {
+        return message.id == WM_NCDESTROY || message.id == WM_USER + 1 ? std::optional<LRESULT>(55) : std::nullopt;
+    };
+    HANDLE const former = RemovePropA(parent, "CvTest_ParentWndProc");
+    EXPECT_EQ(0, SendMessageA(parent, WM_USER + 1, 0, 0)) << "without the property there is nobody to ask";
+    SetPropA(parent, "CvTest_ParentWndProc", former);
+    EXPECT_EQ(55, SendMessageA(parent, WM_USER + 1, 0, 0));
+
+    EXPECT_EQ(0, SendMessageA(parent, WM_NCDESTROY, 5, 6));
+    ASSERT_EQ(1u, parent.Received(WM_NCDESTROY).size());
+    EXPECT_EQ(0u, parent.Received(WM_NCDESTROY)[0].wParam);
+    EXPECT_EQ(0, parent.Received(WM_NCDESTROY)[0].lParam);
+    EXPECT_EQ(own, ProcedureOf(parent));
+    EXPECT_EQ(nullptr, GetPropA(parent, "CvTest_ParentWndProc"));
+}
+
 WNDPROC g_below;
 
 LRESULT CALLBACK OnTop(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -6,7 +6,9 @@
 #include <cvutil32/cklist.h>
 #include <cvutil32/datectrl.h>
 #include <cvutil32/grbutton.h>
+#include <cvutil32/numfld.h>
 #include <cvutil32/scroll.h>
+#include <cvutil32/timectrl.h>
 #include <cvutil32/util.h>
 
 BOOL HeadersServeC(void);
@@ -18,5 +20,5 @@ BOOL HeadersServeC(void) {
     date.wDay = 31;
     return DATECTRL_IncrementDate(&date, DATECTRL_DAY) && date.wYear == 1996 && UTIL_GetModuleInstance() != NULL &&
            SCROLL_SetAssociateWindow(NULL, NULL) == NULL && !GRBUTTON_SetHBitmaps(NULL, NULL, NULL) &&
-           !ANIMATE_Stop(NULL);
+           !ANIMATE_Stop(NULL) && TIMECTRL_IncrementTime(&date, TIMECTRL_SECOND) && NUMFLD_GetValue(NULL) == 0;
 }

@@ -33,6 +33,7 @@ TEST(Library, ClassesAreThereForEveryModule) {
     };
     for (Expected const& expected :
          {Expected{"Calverin_DateControl", CS_GLOBALCLASS | CS_HREDRAW | CS_VREDRAW, 0},
+          Expected{"Calverin_TimeControl", CS_GLOBALCLASS | CS_HREDRAW | CS_VREDRAW, 0},
           Expected{"KVS_MicroScrollbar", CS_GLOBALCLASS | CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW,
                    static_cast<int>(sizeof(LONG_PTR))}}) {
         for (HINSTANCE instance : {UTIL_GetModuleInstance(), GetModuleHandleA(nullptr)}) {
@@ -45,11 +46,26 @@ TEST(Library, ClassesAreThereForEveryModule) {
     }
 }
 
+TEST(Library, NumericFieldIsAnEditFieldWithRoomForItsData) {
+    WNDCLASSA edit = {};
+    WNDCLASSA field = {};
+    ASSERT_TRUE(GetClassInfoA(nullptr, "edit", &edit));
+    ASSERT_TRUE(GetClassInfoA(GetModuleHandleA(nullptr), NUMFLD_CLASSNAME, &field));
+    EXPECT_EQ(edit.style | CS_GLOBALCLASS, field.style | CS_GLOBALCLASS);
+    EXPECT_EQ(edit.cbWndExtra + static_cast<int>(sizeof(LONG_PTR)), field.cbWndExtra);
+    EXPECT_EQ(edit.hCursor, field.hCursor);
+    EXPECT_NE(edit.lpfnWndProc, field.lpfnWndProc);
+}
+
 TEST(Library, RegisteringAgainChangesNothing) {
     EXPECT_FALSE(DATECTRL_RegisterClass(nullptr));
     EXPECT_FALSE(SCROLL_RegisterClass(nullptr));
     EXPECT_TRUE(DATECTRL_RegisterClass(UTIL_GetModuleInstance()));
     EXPECT_TRUE(SCROLL_RegisterClass(UTIL_GetModuleInstance()));
+    EXPECT_FALSE(TIMECTRL_RegisterClass(nullptr));
+    EXPECT_TRUE(TIMECTRL_RegisterClass(UTIL_GetModuleInstance()));
+    EXPECT_FALSE(NUMFLD_RegisterClass(nullptr));
+    EXPECT_TRUE(NUMFLD_RegisterClass(UTIL_GetModuleInstance()));
     WNDCLASSA record = {};
     ASSERT_TRUE(GetClassInfoA(UTIL_GetModuleInstance(), DATECTRL_CLASSNAME, &record));
     EXPECT_EQ(&datectrl_EditDateWndProc, record.lpfnWndProc);

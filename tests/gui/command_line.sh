@@ -14,10 +14,10 @@ expect() { # <exit code> <standard output> <standard error, a pattern> <argument
 }
 
 expect 0 'gallery (CVUTIL32) [0-9]*' '' --version
-expect 0 'gallery *--capture FILE*' '' --help
+expect 0 'gallery *--capture PATH*' '' --help
 expect 2 '' 'gallery: unknown option: --frobnicate' --frobnicate
 expect 2 '' 'gallery: unknown option: file.png' file.png
-expect 2 '' 'gallery: --capture needs*' --capture
+expect 2 '' 'gallery: a value is missing after --capture' --capture
 expect 2 '' "gallery: cannot write the picture: $work/no/such/folder.png" --capture "$work/no/such/folder.png"
 
 expect 0 '' '' --capture "$work/a picture.png"

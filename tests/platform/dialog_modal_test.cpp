@@ -175,6 +175,15 @@ std::vector<int> buttonsSeen;
 int focusSeen = 0;
 WPARAM keyToPress = 0;
 HWND boxSeen = nullptr;
+bool iconSeen = false;
+
+BOOL CALLBACK LookForIcon(HWND control, LPARAM) {
+    char name[16];
+    GetClassNameA(control, name, sizeof name);
+    if (lstrcmpiA(name, "static") == 0 && SendMessageA(control, STM_GETICON, 0, 0))
+        iconSeen = true;
+    return TRUE;
+}
 
 VOID CALLBACK AnswerBox(HWND, UINT, UINT_PTR timer, DWORD) {
     const HWND box = FindWindowA("#32770", "Question?");
@@ -187,6 +196,8 @@ VOID CALLBACK AnswerBox(HWND, UINT, UINT_PTR timer, DWORD) {
             buttonsSeen.push_back(id);
     }
     focusSeen = GetDlgCtrlID(GetFocus());
+    iconSeen = false;
+    EnumChildWindows(box, LookForIcon, 0);
     PostMessageA(GetFocus(), WM_KEYDOWN, keyToPress, 1);
 }
 
@@ -200,11 +211,13 @@ int Ask(UINT type, WPARAM key) {
 TEST_F(DialogModalTest, MessageBoxes) {
     EXPECT_EQ(IDOK, Ask(MB_OK, VK_RETURN));
     EXPECT_EQ(std::vector<int>{IDOK}, buttonsSeen);
+    EXPECT_FALSE(iconSeen);
     EXPECT_EQ(owner, GetActiveWindow());
     EXPECT_EQ(IDCANCEL, Ask(MB_OKCANCEL, VK_ESCAPE));
     EXPECT_EQ((std::vector<int>{IDOK, IDCANCEL}), buttonsSeen);
     EXPECT_EQ(IDNO, Ask(MB_YESNO | MB_DEFBUTTON2 | MB_ICONQUESTION, VK_RETURN));
     EXPECT_EQ(IDNO, focusSeen);
+    EXPECT_TRUE(iconSeen);
     EXPECT_EQ((std::vector<int>{IDYES, IDNO}), buttonsSeen);
     EXPECT_EQ(IDIGNORE, Ask(MB_ABORTRETRYIGNORE | MB_DEFBUTTON3, VK_RETURN));
     EXPECT_EQ(IDCANCEL, Ask(MB_YESNOCANCEL, VK_ESCAPE));

@@ -54,13 +54,12 @@ class EditControl : public ::testing::Test {
         DWORD start = 0;
         DWORD end = 0;
         Send(edit, EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
-        std::string text = Text(edit);
+        const std::string text = Text(edit);
         if (start > end || end > text.size())
             return "selection outside of the text";
-        text.insert(end, start == end ? "|" : "]");
-        if (start != end)
-            text.insert(start, "[");
-        return text;
+        if (start == end)
+            return text.substr(0, start) + '|' + text.substr(start);
+        return text.substr(0, start) + '[' + text.substr(start, end - start) + ']' + text.substr(end);
     }
 
     static std::vector<UINT>& Notified() {

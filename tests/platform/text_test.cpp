@@ -3,6 +3,8 @@
 
 #include <cstring>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -113,6 +115,42 @@ TEST(WordOrder, LettersThenAccentsThenCaseThenHyphens) {
     }
 }
 
+// Each text comes before all that follow it: symbols, digits, letters; of equal letters those without accents, then small
+// ones, and at last those without hyphens and apostrophes.
+TEST(WordOrder, ListsOfTextsInOrder) {
+    const std::vector<std::vector<const char*>> lists = {
+        {"",  "'",    "-",    "\x96", " ", "\t",   "!",    "_", "~",    "\xBF", "\x93", "\xA3", "\x80", "+",
+         "=", "\xD7", "\xA7", "\xB0", "0", "\xBD", "\xBE", "1", "\xB2", "9",    "a",    "z",    "\x9E"},
+        {"a", "A", "\xAA", "\xE1", "\xC1", "\xE0", "\xE2", "\xE4", "\xE3", "\xE5", "ae", "b"},
+        {"cote", "Cote", "cot\xE9", "c\xF4te", "C\xF4te", "c\xF4t\xE9", "coted"},
+        {"coop", "co'op", "co-op", "co\x96op", "Coop", "Co-op", "coops", "co-ops", "corp"},
+        {"strase", "strasse",
+         "Stra\xDF"
+         "e",
+         "stra\xDF"
+         "en"},
+        {"a b2", "a.b", "a_b", "a1", "ab", "a-b", "aB",
+         "\xE1"
+         "b",
+         "abc"},
+        {"d", "D", "\xF0", "\xD0", "e"},
+        {"o", "\xBA", "\xF3", "\xF2", "\xF4", "\xF6", "\xF5", "\xF8", "oe", "\x8C", "p"},
+        {"it", "its", "it's", "itself"},
+    };
+    for (const auto& list : lists) {
+        for (std::size_t i = 0; i < list.size(); ++i) {
+            for (std::size_t j = 0; j < list.size(); ++j) {
+                const int expected = i < j ? CSTR_LESS_THAN : i > j ? CSTR_GREATER_THAN : CSTR_EQUAL;
+                EXPECT_EQ(CompareStringA(LOCALE_SYSTEM_DEFAULT, 0, list[i], -1, list[j], -1), expected)
+                    << list[i] << " " << list[j];
+            }
+        }
+    }
+    for (const auto& pair : {std::pair("ae", "\xE6"), {"ss", "\xDF"}, {"OE", "\x8C"}, {"th", "\xFE"}}) {
+        EXPECT_EQ(lstrcmpA(pair.first, pair.second), 0) << pair.first << ": a letter that counts as two";
+    }
+}
+
 TEST(CompareString, FlagsLengthsAndErrors) {
     const LCID locale = LOCALE_SYSTEM_DEFAULT;
     EXPECT_EQ(CompareStringA(locale, 0, "abcX", 3, "abcY", 3), CSTR_EQUAL);
@@ -126,6 +164,47 @@ TEST(CompareString, FlagsLengthsAndErrors) {
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_FLAGS));
     EXPECT_EQ(CompareStringA(locale, 0, nullptr, 1, "b", 1), 0);
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_PARAMETER));
+}
+
+TEST(CompareString, NullsNulsAndSizes) {
+    EXPECT_EQ(CompareStringA(LOCALE_SYSTEM_DEFAULT, 0, "a", -5, "a", -1), CSTR_EQUAL) << "any negative size";
+    EXPECT_EQ(CompareStringA(LOCALE_SYSTEM_DEFAULT, 0, "a", 0, "b", 0), CSTR_EQUAL);
+    EXPECT_EQ(CompareStringA(LOCALE_SYSTEM_DEFAULT, 0, "a", 0, "b", 1), CSTR_LESS_THAN);
+    EXPECT_EQ(lstrcmpA(nullptr, nullptr), 0);
+    EXPECT_LT(lstrcmpA(nullptr, ""), 0);
+    EXPECT_GT(lstrcmpiA("", nullptr), 0);
+}
+
+TEST(CodePages, SizesAndArguments) {
+    WCHAR wide[4] = {};
+    char narrow[4] = {};
+    EXPECT_EQ(MultiByteToWideChar(1252, 0, "abc", -1, nullptr, 0), 4) << "with the NUL";
+    EXPECT_EQ(MultiByteToWideChar(1252, 0, "abc", -2, wide, 4), 4);
+    EXPECT_EQ(MultiByteToWideChar(1252, 0, "abc", 3, wide, 3), 3) << "without";
+    EXPECT_EQ(WideCharToMultiByte(1252, 0, wide, 3, nullptr, 0, nullptr, nullptr), 3);
+    EXPECT_EQ(WideCharToMultiByte(1252, 0, wide, -1, narrow, 4, nullptr, nullptr), 4);
+    EXPECT_STREQ(narrow, "abc");
+    const auto fails = [](int result, DWORD error) {
+        const DWORD last = GetLastError();
+        EXPECT_EQ(result, 0);
+        EXPECT_EQ(last, error);
+    };
+    fails(MultiByteToWideChar(1252, 0, "abc", 0, wide, 4), ERROR_INVALID_PARAMETER);
+    fails(MultiByteToWideChar(1252, 0, "abc", 3, wide, -1), ERROR_INVALID_PARAMETER);
+    fails(MultiByteToWideChar(1252, 0, "abc", 3, nullptr, 3), ERROR_INVALID_PARAMETER);
+    fails(MultiByteToWideChar(1252, 0x100, "abc", 3, wide, 3), ERROR_INVALID_FLAGS);
+    fails(MultiByteToWideChar(1252, 0, "abc", 3, wide, 2), ERROR_INSUFFICIENT_BUFFER);
+    fails(WideCharToMultiByte(1252, 0, wide, 0, narrow, 4, nullptr, nullptr), ERROR_INVALID_PARAMETER);
+    fails(WideCharToMultiByte(1252, 0, wide, 3, narrow, 2, nullptr, nullptr), ERROR_INSUFFICIENT_BUFFER);
+    const WCHAR kana = 0x3042;
+    fails(WideCharToMultiByte(932, 0, &kana, 1, narrow, 1, nullptr, nullptr), ERROR_INSUFFICIENT_BUFFER);
+    const WCHAR others[] = {0x0100, 0x2260};
+    BOOL used = FALSE;
+    EXPECT_EQ(WideCharToMultiByte(1252, 0, others, 2, narrow, 4, nullptr, &used), 2);
+    EXPECT_EQ(narrow[0], 'A') << "a letter without its accent";
+    EXPECT_EQ(narrow[1], '?') << "not a symbol without its stroke";
+    EXPECT_TRUE(used);
+    EXPECT_FALSE(IsDBCSLeadByteEx(4711, 0x81));
 }
 
 TEST(CodePages, WesternAndDoubleByte) {

@@ -216,6 +216,39 @@ TEST_F(ListTest, ReallocBelowTheCountThenInsertIsRefused) {
     EXPECT_EQ(LIST_GetCount(list), 6u);
     const Pair pair{7, 0};
     EXPECT_EQ(LIST_Append(&list, &pair), 0xFFFFFFFFu);
+    const std::int32_t last = 6;
+    DWORD index = 99;
+    EXPECT_EQ(LIST_LFind(list, LIST_TYPE_LONG, 0, &last, &index), nullptr) << "lost with its memory";
+    EXPECT_EQ(index, 6u);
+    EXPECT_EQ(LIST_BFind(list, LIST_TYPE_LONG, 0, &last, &index), nullptr);
+    EXPECT_TRUE(LIST_Delete(list, 0));
+    EXPECT_TRUE(LIST_Delete(list, 3));
+    EXPECT_EQ(LIST_GetCount(list), 4u);
+}
+
+TEST_F(ListTest, AnItemOfItsOwnSurvivesTheMoveOfTheBlock) {
+    Fill({{1, 0}, {2, 0}, {3, 0}, {4, 0}});
+    EXPECT_EQ(LIST_Append(&list, &Items()[1]), 4u);
+    EXPECT_EQ(LIST_Insert(&list, &Items()[3], 0), 0u);
+    EXPECT_EQ(LIST_Insert(&list, &Items()[0], 3), 3u);
+    const std::vector<int> expected{4, 1, 2, 4, 3, 4, 2};
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+        EXPECT_EQ(Items()[i].id, expected[i]) << i;
+    }
+}
+
+TEST_F(ListTest, ANumberThatIsNotThereIsNotFound) {
+    Fill({{0, 0}});
+    DWORD index = 77;
+    EXPECT_EQ(LIST_LFind(list, LIST_TYPE_LONG, 0, nullptr, &index), nullptr);
+    EXPECT_EQ(LIST_BFind(list, LIST_TYPE_WORD, 0, nullptr, &index), nullptr);
+    EXPECT_EQ(index, 77u);
+    const char* const text = "a";
+    LPVOID texts = LIST_Malloc(1, sizeof text);
+    LIST_Append(&texts, &text);
+    EXPECT_EQ(LIST_BFind(texts, LIST_TYPE_LPSTR, 0, nullptr, &index), nullptr);
+    EXPECT_EQ(index, 0u) << "no text comes before all others";
+    LIST_Free(texts);
 }
 
 }  // namespace

@@ -1,14 +1,18 @@
 // Memory probes: the bytes are touched, and a fault handler answers for those that cannot be. Good memory costs neither
 // a system call nor a jump buffer. A touch for writing is one locked instruction that leaves the byte as it is, so that
-// no other thread's write is ever lost.
+// no other thread's write is ever lost. Most of what is asked about lies on the caller's own stack, in the heap that
+// grows by brk, or among the program's variables, which are writable from end to end: these are known by their bounds.
 #include <windows.h>
 
+#include <link.h>
+#include <pthread.h>
 #include <signal.h>
 #include <ucontext.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
 
 #include "kernel/probe.h"
@@ -24,11 +28,11 @@ struct Fixup {
 extern "C" const Fixup __start_cvprobe[] __attribute__((visibility("hidden")));
 extern "C" const Fixup __stop_cvprobe[] __attribute__((visibility("hidden")));
 
-#define CVPROBE_FIXUP(bad)                   \
+#define CVPROBE_FIXUP(bad)                              \
     ".pushsection cvprobe,\"a\",@progbits\n.balign 4\n" \
-    ".long 1b - .\n"                         \
-    ".long %l[" #bad                         \
-    "] - .\n"                                \
+    ".long 1b - .\n"                                    \
+    ".long %l[" #bad                                    \
+    "] - .\n"                                           \
     ".popsection\n"
 
 inline __attribute__((always_inline)) bool CanWrite(std::uintptr_t address) {
@@ -46,6 +50,79 @@ bad:
 }
 
 constexpr std::uintptr_t kPage = 4096;
+
+struct Range {
+    std::uintptr_t begin;
+    std::uintptr_t end;
+
+    bool Holds(std::uintptr_t address) const {
+        return address >= begin && address < end;
+    }
+};
+
+// The stack of a thread; the end is 0 until it is asked for.
+__attribute__((tls_model("initial-exec"))) thread_local Range t_stack;
+
+// The program's own variables.
+Range g_data;
+std::uintptr_t g_heapBegin = ~std::uintptr_t{0};
+
+// The C library's note of where the heap ends, which goes up and down; not every C library has one.
+extern "C" __attribute__((weak)) char* __curbrk;
+
+// Whether an address lies in the frames of the callers: from the frame of the probe up to the stack's end. A thread may
+// also run on a stack of somebody else's making (a signal's, a coroutine's), of which nothing is known.
+inline __attribute__((always_inline)) bool IsOnStack(std::uintptr_t address) {
+    const auto frame = reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
+    return address < t_stack.end && address >= frame && frame >= t_stack.begin;
+}
+
+inline __attribute__((always_inline)) bool IsInHeap(std::uintptr_t address) {
+    return address >= g_heapBegin && address < reinterpret_cast<std::uintptr_t>(__curbrk);
+}
+
+__attribute__((noinline)) void LearnStack() {
+    t_stack = {~std::uintptr_t{0}, 1};  // if it cannot be had, it is not asked for again
+    pthread_attr_t attributes;
+    if (pthread_getattr_np(pthread_self(), &attributes) != 0) {
+        return;
+    }
+    void* begin = nullptr;
+    std::size_t size = 0;
+    if (pthread_attr_getstack(&attributes, &begin, &size) == 0) {
+        const auto first = reinterpret_cast<std::uintptr_t>(begin);
+        t_stack = {first, first + size};
+    }
+    pthread_attr_destroy(&attributes);
+}
+
+// The writable segment of the program, without what is made read-only once it is loaded.
+int LearnData(dl_phdr_info* program, std::size_t, void*) {
+    Range data{};
+    std::uintptr_t constants = 0;
+    for (int i = 0; i < program->dlpi_phnum; ++i) {
+        const auto& segment = program->dlpi_phdr[i];
+        const std::uintptr_t end = program->dlpi_addr + segment.p_vaddr + segment.p_memsz;
+        if (segment.p_type == PT_LOAD && (segment.p_flags & PF_W)) {
+            data = {end - segment.p_memsz, end};
+        } else if (segment.p_type == PT_GNU_RELRO) {
+            constants = (end + kPage - 1) & ~(kPage - 1);
+        }
+    }
+    g_data = {std::max(data.begin, constants), data.end};
+    return 1;  // the first one is the program itself
+}
+
+// What malloc gives out early lies near the heap's beginning, unless the heap is of another kind.
+__attribute__((constructor)) void LearnMemory() {
+    dl_iterate_phdr(LearnData, nullptr);
+    void* const block = std::malloc(1);
+    const auto first = reinterpret_cast<std::uintptr_t>(block);
+    if (block && &__curbrk && first > g_data.end && first < reinterpret_cast<std::uintptr_t>(__curbrk)) {
+        g_heapBegin = first;
+    }
+    std::free(block);
+}
 
 // Touches one byte on each page of a range.
 template <bool (*CanTouch)(std::uintptr_t)>
@@ -124,6 +201,12 @@ BOOL WINAPI IsBadWritePtr(LPVOID address, UINT_PTR bytes) {
     const auto first = reinterpret_cast<std::uintptr_t>(address);
     // By far most ranges lie within one page.
     if (bytes - 1 < kPage && (first ^ (first + bytes - 1)) < kPage) [[likely]] {
+        if (IsOnStack(first) || IsInHeap(first) || g_data.Holds(first)) [[likely]] {
+            return FALSE;
+        }
+        if (!t_stack.end) {
+            LearnStack();
+        }
         return !CanWrite(first);
     }
     return bytes != 0 && !RangeIsGood<WriteTouch>(first, bytes);

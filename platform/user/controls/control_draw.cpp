@@ -39,7 +39,11 @@ void DrawDisabledText(HDC context, const std::string& text, RECT rect, UINT form
     SetBkMode(context, mode);
 }
 
-void DrawCentredBitmap(HDC context, HBITMAP bitmap, const RECT& rect) {
+namespace {
+
+/// Hands a bitmap, selected into a context of its own, to an action, together with its size.
+template <class Action>
+void WithBitmap(HDC context, HBITMAP bitmap, const Action& action) {
     BITMAP info{};
     if (!bitmap || !GetObjectA(bitmap, sizeof info, &info))
         return;
@@ -47,22 +51,37 @@ void DrawCentredBitmap(HDC context, HBITMAP bitmap, const RECT& rect) {
     if (!memory)
         return;
     const HGDIOBJ previous = SelectObject(memory, bitmap);
-    const int x = (rect.left + rect.right - info.bmWidth) / 2;
-    const int y = (rect.top + rect.bottom - info.bmHeight) / 2;
-    BitBlt(context, x, y, info.bmWidth, info.bmHeight, memory, 0, 0, SRCCOPY);
+    action(memory, info.bmWidth, info.bmHeight);
     SelectObject(memory, previous);
     DeleteDC(memory);
 }
 
+}  // namespace
+
+void DrawCentredBitmap(HDC context, HBITMAP bitmap, const RECT& rect) {
+    WithBitmap(context, bitmap, [&](HDC memory, int width, int height) {
+        const int x = (rect.left + rect.right - width) / 2;
+        const int y = (rect.top + rect.bottom - height) / 2;
+        BitBlt(context, x, y, width, height, memory, 0, 0, SRCCOPY);
+    });
+}
+
+void DrawStretchedBitmap(HDC context, HBITMAP bitmap, const RECT& rect) {
+    WithBitmap(context, bitmap, [&](HDC memory, int width, int height) {
+        StretchBlt(context, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top, memory, 0, 0, width,
+                   height, SRCCOPY);
+    });
+}
+
 void RegisterDialogClasses() {
     RegisterSystemClass("#32770", DefDlgProcA, CS_SAVEBITS | CS_DBLCLKS, DLGWINDOWEXTRA, IDC_ARROW, nullptr);
-    RegisterSystemClass("button", ButtonProcedure, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 0, IDC_ARROW, nullptr);
-    RegisterSystemClass("edit", EditProcedure, CS_DBLCLKS, 0, IDC_IBEAM, nullptr);
-    RegisterSystemClass("static", StaticProcedure, CS_DBLCLKS, 0, IDC_ARROW, nullptr);
-    RegisterSystemClass("listbox", ListBoxProcedure, CS_DBLCLKS, 0, IDC_ARROW, nullptr);
-    RegisterSystemClass("combobox", ComboBoxProcedure, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 0, IDC_ARROW, nullptr);
+    RegisterSystemClass("Button", ButtonProcedure, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 0, IDC_ARROW, nullptr);
+    RegisterSystemClass("Edit", EditProcedure, CS_DBLCLKS, 0, IDC_IBEAM, nullptr);
+    RegisterSystemClass("Static", StaticProcedure, CS_DBLCLKS, 0, IDC_ARROW, nullptr);
+    RegisterSystemClass("ListBox", ListBoxProcedure, CS_DBLCLKS, 0, IDC_ARROW, nullptr);
+    RegisterSystemClass("ComboBox", ComboBoxProcedure, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 0, IDC_ARROW, nullptr);
     RegisterSystemClass("ComboLBox", ListBoxProcedure, CS_DBLCLKS | CS_SAVEBITS, 0, IDC_ARROW, nullptr);
-    RegisterSystemClass("scrollbar", ScrollBarProcedure, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 0, IDC_ARROW, nullptr);
+    RegisterSystemClass("ScrollBar", ScrollBarProcedure, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 0, IDC_ARROW, nullptr);
 }
 
 }  // namespace platform::user

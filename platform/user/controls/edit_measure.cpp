@@ -21,7 +21,9 @@ EditMeasure::~EditMeasure() {
 }
 
 std::string Shown(const EditData& data, std::size_t start, std::size_t count) {
-    return data.password ? std::string(count, data.password) : data.text.substr(start, count);
+    // Lines may be behind the text where memory has run out between the two.
+    return data.password ? std::string(count, data.password)
+                         : data.text.substr(std::min(start, data.text.size()), count);
 }
 
 int EditMeasure::Width(std::size_t start, std::size_t count) const {

@@ -179,12 +179,13 @@ void InsertText(HWND edit, EditData& data, std::string_view text, bool mayUndo) 
     } else if (!removed.empty() || !taken.empty()) {
         Remember(data, start, removed, taken.size());
     }
-    const bool cut = taken.size() < wanted.size();
-    if (!removed.empty() || !taken.empty()) {
-        Announce(edit, data);
-    }
-    if (cut && IsWindow(edit)) {
+    // Told before the change itself is, with the text and its lines as they are now.
+    BreakLines(edit, data);
+    if (taken.size() < wanted.size()) {
         NotifyParent(edit, EN_MAXTEXT);
+    }
+    if ((!removed.empty() || !taken.empty()) && IsWindow(edit)) {
+        Announce(edit, data);
     }
 }
 

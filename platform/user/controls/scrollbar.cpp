@@ -244,7 +244,7 @@ LRESULT CALLBACK ScrollBarProcedure(HWND window, UINT message, WPARAM wParam, LP
         case WM_KEYDOWN:
         case WM_KEYUP:
             OnKey(window, *data, wParam, message == WM_KEYDOWN);
-            return 0;
+            return DefWindowProcA(window, message, wParam, lParam);
         case WM_SYSCOLORCHANGE:
             InvalidateRect(window, nullptr, TRUE);
             return 0;

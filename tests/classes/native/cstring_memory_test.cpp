@@ -1,52 +1,26 @@
-// CSTRING when the heap is exhausted. Here the program's operator new serves the library as well, so it can be made to
-// fail.
-#include <cvutil32/cstring.h>
+// CSTRING and CDATASTR when the heap is exhausted.
+#include <cvutil32/cdatastr.h>
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
+#include <algorithm>
 #include <cstring>
-#include <new>
+#include <set>
+#include <string>
+#include <utility>
+
+#include "tests/support/native/failing_memory.h"
 
 namespace {
 
-bool g_exhausted = false;
-
-struct Exhausted {
-    Exhausted() {
-        g_exhausted = true;
-    }
-    ~Exhausted() {
-        g_exhausted = false;
-    }
-};
+using std::string;
+using testing_support::FailingAllocation;
+using testing_support::NoMemory;
+using testing_support::WithEachFailure;
 
 char const* Text(CSTRING const& string) {
     return string;
 }
-
-}  // namespace
-
-void* operator new(std::size_t size, std::nothrow_t const&) noexcept {
-    return g_exhausted ? nullptr : std::malloc(size ? size : 1);
-}
-
-void* operator new(std::size_t size) {
-    if (void* const block = std::malloc(size ? size : 1)) {
-        return block;
-    }
-    throw std::bad_alloc();
-}
-
-void operator delete(void* block) noexcept {
-    std::free(block);
-}
-
-void operator delete(void* block, std::size_t) noexcept {
-    std::free(block);
-}
-
-namespace {
 
 TEST(CStringMemory, FailedGrowthEmptiesOnAssignmentAndKeepsOnAppend) {
     CSTRING text("0123456789");
@@ -54,7 +28,7 @@ TEST(CStringMemory, FailedGrowthEmptiesOnAssignmentAndKeepsOnAppend) {
     std::memset(longer, 'x', sizeof longer - 1);
     longer[sizeof longer - 1] = '\0';
     {
-        Exhausted const now;
+        NoMemory const now;
         text += longer;
         EXPECT_STREQ("0123456789", Text(text));
         EXPECT_EQ(10u, text.GetStrLen());
@@ -71,6 +45,133 @@ TEST(CStringMemory, FailedGrowthEmptiesOnAssignmentAndKeepsOnAppend) {
     }
     text = "again";
     EXPECT_STREQ("again", Text(text));
+}
+
+// Runs one member on a text; afterwards the text, which works on, is one of those that are allowed.
+template <class Member>
+void Drive(char const* text, std::set<string> const& allowed, Member member) {
+    WithEachFailure([&](FailingAllocation& failing) {
+        CSTRING object(text);
+        failing.On();
+        member(object);
+        failing.Off();
+        EXPECT_TRUE(object.IsValid());
+        EXPECT_EQ(object.GetStrLen(), std::strlen(Text(object)));
+        string const left = Text(object);
+        EXPECT_EQ(allowed.count(left), 1u) << left;
+        EXPECT_TRUE(failing.failed() || left == *allowed.rbegin()) << left;
+        object = "and on it goes";
+        EXPECT_STREQ(Text(object), "and on it goes");
+    });
+}
+
+string const kLong(70, 'z');  // does not fit into any first block, and comes last in the sets of results
+
+TEST(CStringMemory, EveryFailureOfAnEditingMemberLeavesTheTextOrEmptiesIt) {
+    Drive("abc", {"", kLong}, [](CSTRING& s) { s = kLong.c_str(); });
+    Drive("abc", {"", kLong}, [](CSTRING& s) { s = CSTRING(kLong.c_str()); });
+    Drive("", {"", "x"}, [](CSTRING& s) { s = 'x'; });
+    Drive("abc", {"abc", "abc" + kLong}, [](CSTRING& s) { s.Append(kLong.c_str()); });
+    Drive("abc", {"abc", "abc" + kLong}, [](CSTRING& s) { s += s.Left(0) + kLong.c_str(); });
+    Drive("abc", {"abc", "a" + kLong + "bc"}, [](CSTRING& s) { s.Insert(kLong.c_str(), 1, 0xFFFFFFFF); });
+    Drive("0123456789abcdefghijklmnopqrstu", {"0123456789abcdefghijklmnopqrstu", "0123456789abcdefghijklmnopqrstuv"},
+          [](CSTRING& s) { s.Insert('v', 31); });
+    Drive("abc", {"abc", "bcabc"}, [](CSTRING& s) { s.Insert(Text(s) + 1, 0, 0xFFFFFFFF); });
+    // What is replaced is taken out first.
+    Drive("a-c", {"ac", "a" + kLong + "c"}, [](CSTRING& s) { s.Replace("-", kLong.c_str(), 1); });
+    Drive("abcd", {"abcd", "axyd"}, [](CSTRING& s) { s.Replace("xy", 1, 5); });
+}
+
+TEST(CStringMemory, EveryFailureOfADirectWriteIsSeenByTheCaller) {
+    Drive("abc", {"abc", "xyz"}, [](CSTRING& s) {
+        char* const buffer = s.BufferLock(2000);
+        if (buffer) {
+            std::strcpy(buffer, "xyz");
+            EXPECT_EQ(s.BufferUnlock(), 0u);
+        }
+    });
+    Drive("abc", {"abc", "xyz"}, [](CSTRING& s) {
+        if (char* const buffer = s) {
+            std::strcpy(buffer, "xyz");
+        }
+    });
+    Drive("abc", {"abc"}, [](CSTRING& s) { EXPECT_GE(s.GetBufLen(500), 16u); });
+    Drive("0123456789abcde", {"0123456789abcde", "0123456789abcdef"}, [](CSTRING& s) {
+        if (s.GetBufLen(17) >= 17) {
+            s.GetRef(15) = 'f';
+        }
+    });
+}
+
+TEST(CStringMemory, EveryFailureOfAnExtractedTextGivesLessOfIt) {
+    auto const extracted = [](std::set<string> const& allowed, auto make) {
+        WithEachFailure([&](FailingAllocation& failing) {
+            CSTRING const source("abcdef");
+            failing.On();
+            CSTRING const part = make(source);
+            failing.Off();
+            EXPECT_TRUE(part.IsValid());
+            EXPECT_EQ(allowed.count(Text(part)), 1u) << Text(part);
+            EXPECT_STREQ(Text(source), "abcdef");
+        });
+    };
+    extracted({"", "ab"}, [](CSTRING const& s) { return s.Left(2); });
+    extracted({"", "cd"}, [](CSTRING const& s) { return s.Mid(2, 2); });
+    extracted({"", "ef"}, [](CSTRING const& s) { return s.Right(2); });
+    extracted({"", "abcdef"}, [](CSTRING const& s) { return CSTRING(s); });
+    // A sum lacks the part that there was no memory for.
+    extracted({"", "abcdef", kLong, "abcdef" + kLong}, [](CSTRING const& s) { return s + kLong.c_str(); });
+    extracted({"", "abcdef", "x", "abcdefx"}, [](CSTRING const& s) { return s + 'x'; });
+}
+
+TEST(DataStringMemory, WithoutAMarkerItIsAStringThatDoesNothing) {
+    WithEachFailure([](FailingAllocation& failing) {
+        failing.On();
+        CDATASTR list(";;a;");
+        failing.Off();
+        list.CleanDelimiters(';');
+        string const text = Text(list);
+        EXPECT_TRUE(list.IsValid() ? text == "a" || text.empty() : text == ";;a;") << text;
+        CDATASTR const copy(list);
+        EXPECT_EQ(copy.IsValid(), list.IsValid());
+    });
+}
+
+TEST(DataStringMemory, EveryMemberSurvivesEveryFailure) {
+    auto const drive = [](auto member) {
+        WithEachFailure([&](FailingAllocation& failing) {
+            CDATASTR list("\"a b\" ;;c\\;d;A,12");
+            failing.On();
+            member(list);
+            failing.Off();
+            EXPECT_TRUE(list.IsValid());
+            list = "x;y";
+            CSTRING item;
+            unsigned int position = 2;
+            EXPECT_EQ(list.EnumDataItems(&position, &item, ';'), 1);
+            EXPECT_STREQ(Text(item), "y");
+        });
+    };
+    drive([](CDATASTR& list) { list.CleanDelimiters(';'); });
+    drive([](CDATASTR& list) { list.NormalizeDelimiters(' ', DATASTR_DELIMITERS); });
+    drive([](CDATASTR& list) { list.RemoveBackslashes(';'); });
+    drive([](CDATASTR& list) { list.RemoveDuplicates(';'); });
+    drive([](CDATASTR& list) { list.NormalizeFileSpecs(); });
+    drive([](CDATASTR& list) { list = CDATASTR(kLong.c_str()); });
+    drive([](CDATASTR& list) {
+        CSTRING item;
+        unsigned int position = 0;
+        unsigned int value = 0;
+        int quoted = 0;
+        while (list.EnumDataItems(&position, &item, ';')) {
+        }
+        position = 0;
+        list.EnumDataItems(&position, &value, ',');
+        position = 0;
+        while (list.EnumFileSpecs(&position, &item, &quoted)) {
+        }
+        EXPECT_TRUE(item.IsValid());
+    });
 }
 
 }  // namespace

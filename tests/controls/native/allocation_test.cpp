@@ -1,7 +1,9 @@
 // What happens when global memory runs out, which only this host's platform layer can be told to pretend.
 #include <cvutil32/datectrl.h>
 #include <cvutil32/grbutton.h>
+#include <cvutil32/numfld.h>
 #include <cvutil32/scroll.h>
+#include <cvutil32/timectrl.h>
 
 #include "core/globalblock.h"
 #include "tests/support/leaks.h"
@@ -18,7 +20,7 @@ using testing_support::TestWindow;
 
 TEST(Allocation, ControlsWithoutMemoryAreNotCreated) {
     TestWindow const host;
-    for (char const* name : {DATECTRL_CLASSNAME, SCROLL_CLASSNAME}) {
+    for (char const* name : {DATECTRL_CLASSNAME, SCROLL_CLASSNAME, TIMECTRL_CLASSNAME}) {
         LeakCheck const leaks;
         CvPlatformFailAllocation(1);
         HWND const control = CreateWindowExA(0, name, "", WS_CHILD | WS_VISIBLE, 0, 0, 50, 20, host, nullptr,
@@ -47,6 +49,25 @@ TEST(Allocation, GraphicButtonWithoutMemoryStaysAPlainButton) {
     DeleteObject(bitmap);
     UpdateWindow(button);
     DestroyWindow(button);
+}
+
+TEST(Allocation, NumericFieldWithoutMemoryTakesDigitsButHasNoLimits) {
+    TestWindow const host;
+    LeakCheck const leaks;
+    LONG_PTR const procedure = GetWindowLongPtrA(host, GWLP_WNDPROC);
+    CvPlatformFailAllocation(1);
+    HWND const field = CreateWindowExA(0, NUMFLD_CLASSNAME, "", WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL, 0, 0, 50, 20,
+                                       host, nullptr, GetModuleHandleA(nullptr), nullptr);
+    CvPlatformFailAllocation(0);
+    ASSERT_NE(nullptr, field);
+    EXPECT_EQ(procedure, GetWindowLongPtrA(host, GWLP_WNDPROC)) << "the parent is left alone";
+    NUMFLD_SetLimits(field, 0, 9);
+    for (char const character : {'a', '1', '2'}) {
+        SendMessageA(field, WM_CHAR, static_cast<WPARAM>(character), 1);
+    }
+    SendMessageA(field, WM_VSCROLL, SB_LINEUP, 0);
+    EXPECT_EQ(12, NUMFLD_GetValue(field));
+    DestroyWindow(field);
 }
 
 TEST(Allocation, BlockThatCannotGrowStaysAsItWas) {

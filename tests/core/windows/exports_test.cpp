@@ -9,16 +9,12 @@ TEST(Exports, FlatNamesAreUndecorated) {
     HMODULE const library = GetModuleHandleA("CVUTIL32");
     ASSERT_NE(nullptr, library);
     EXPECT_EQ(UTIL_GetModuleInstance(), library);
-    for (char const* name : {"ANIMATE_Initialize",
+    for (char const* name : {"ABOUT_DisplayAboutBox",
+                             "ANIMATE_Initialize",
                              "ANIMATE_RegisterClass",
                              "ANIMATE_Start",
                              "ANIMATE_Stop",
                              "BUDDYFR_RegisterClass",
-                             "GRBUTTON_DrawButtonFace",
-                             "GRBUTTON_DrawButtonFrame",
-                             "GRBUTTON_RegisterClass",
-                             "GRBUTTON_SetBitmaps",
-                             "GRBUTTON_SetHBitmaps",
                              "DATECTRL_CompareDate",
                              "DATECTRL_DecrementDate",
                              "DATECTRL_GetDate",
@@ -26,11 +22,30 @@ TEST(Exports, FlatNamesAreUndecorated) {
                              "DATECTRL_IsValidDate",
                              "DATECTRL_RegisterClass",
                              "DATECTRL_SetDate",
+                             "GRBUTTON_DrawButtonFace",
+                             "GRBUTTON_DrawButtonFrame",
+                             "GRBUTTON_RegisterClass",
+                             "GRBUTTON_SetBitmaps",
+                             "GRBUTTON_SetHBitmaps",
+                             "KVMB_MessageBoxError",
+                             "KVMB_MessageBoxExtended",
+                             "NUMFLD_GetValue",
+                             "NUMFLD_RegisterClass",
+                             "NUMFLD_SetLimits",
+                             "NUMFLD_SetValue",
                              "SCROLL_RegisterClass",
                              "SCROLL_SetAssociateWindow",
+                             "TIMECTRL_CompareTime",
+                             "TIMECTRL_DecrementTime",
+                             "TIMECTRL_GetTime",
+                             "TIMECTRL_IncrementTime",
+                             "TIMECTRL_IsValidTime",
+                             "TIMECTRL_RegisterClass",
+                             "TIMECTRL_SetTime",
                              "UTIL_GetModuleInstance",
                              "UTIL_SetModuleInstance",
-                             "datectrl_EditDateWndProc"}) {
+                             "datectrl_EditDateWndProc",
+                             "timectrl_EditTimeWndProc"}) {
         EXPECT_NE(nullptr, GetProcAddress(library, name)) << name;
     }
 }

@@ -5,6 +5,7 @@
 #include <csetjmp>
 #include <csignal>
 #include <sys/mman.h>
+#include <ucontext.h>
 #include <unistd.h>
 
 #include <atomic>
@@ -49,6 +50,61 @@ TEST(MemoryProbe, LosesNoWriteOfAnotherThread) {
     stop = true;
     prober.join();
     EXPECT_EQ(counter.load(), kRounds);
+}
+
+// What is known by its bounds must not reach beyond them: a heap that shrank, and a stack that is not the thread's own,
+// next to which anything may lie.
+TEST(MemoryProbe, TheHeapEndsWhereItEndsNow) {
+    constexpr std::intptr_t kSize = 1 << 20;
+    auto* const area = static_cast<char*>(sbrk(kSize));
+    ASSERT_NE(area, reinterpret_cast<char*>(-1));
+    EXPECT_FALSE(IsBadWritePtr(area + kSize / 2, 8));
+    ASSERT_EQ(sbrk(-kSize), area + kSize);
+    EXPECT_TRUE(IsBadWritePtr(area + kSize / 2, 8));
+}
+
+struct OtherStack {
+    static constexpr std::size_t kSize = 256 * 1024;
+    ucontext_t outside, inside;
+    char* pages = nullptr;  ///< the stack, then a page that cannot be written
+    BOOL ownIsBad = TRUE;
+    BOOL readOnlyIsBad = FALSE;
+};
+OtherStack g_other;
+
+void ProbeFromOtherStack() {
+    char local[16] = {};
+    g_other.ownIsBad = IsBadWritePtr(local, sizeof local);
+    g_other.readOnlyIsBad = IsBadWritePtr(g_other.pages + OtherStack::kSize, 8);
+}
+
+TEST(MemoryProbe, OnAnotherStackNothingIsTakenForGranted) {
+    std::thread([] {
+        const auto page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+        char local[16] = {};
+        EXPECT_FALSE(IsBadWritePtr(local, sizeof local));
+        void* const pages =
+            mmap(nullptr, OtherStack::kSize + page, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+        ASSERT_NE(pages, MAP_FAILED);
+        g_other.pages = static_cast<char*>(pages);
+        mprotect(g_other.pages + OtherStack::kSize, page, PROT_READ);
+        getcontext(&g_other.inside);
+        g_other.inside.uc_stack.ss_sp = pages;
+        g_other.inside.uc_stack.ss_size = OtherStack::kSize;
+        g_other.inside.uc_link = &g_other.outside;
+        makecontext(&g_other.inside, ProbeFromOtherStack, 0);
+        swapcontext(&g_other.outside, &g_other.inside);
+        munmap(pages, OtherStack::kSize + page);
+        EXPECT_FALSE(g_other.ownIsBad);
+        EXPECT_TRUE(g_other.readOnlyIsBad);
+    }).join();
+}
+
+TEST(MemoryProbe, ConstantsBesideTheProgramsVariablesAreReadOnly) {
+    static char variable[16];
+    static const void* const relocated = &variable;
+    EXPECT_FALSE(IsBadWritePtr(variable, sizeof variable));
+    EXPECT_TRUE(IsBadWritePtr(const_cast<const void**>(&relocated), sizeof relocated));
 }
 
 TEST(MemoryProbeDeathTest, OtherFaultsStillEndTheProcess) {

@@ -19,7 +19,7 @@ struct ComboData : ControlData {
     int dropHeight = 0;        ///< greatest height of the dropped list
     int dropWidth = 0;         ///< least width of the dropped list
     bool extended = false;     ///< CB_SETEXTENDEDUI
-    DWORD scrollStyle = 0;  ///< WS_VSCROLL and WS_HSCROLL, which are the list's
+    DWORD scrollStyle = 0;     ///< WS_VSCROLL and WS_HSCROLL, which are the list's
     bool dropped = false;
     bool closing = false;
     bool pressed = false;    ///< the arrow is held

@@ -253,7 +253,7 @@ LRESULT OnInput(ListData& list, UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         case WM_KEYDOWN:
             OnListKey(list, wParam);
-            return 0;
+            return DefWindowProcA(list.window, message, wParam, lParam);
         case WM_CHAR:
             OnListCharacter(list, wParam);
             return 0;

@@ -1,0 +1,104 @@
+#include "gallery/pages/dates_page.h"
+
+#include "gallery/pages/chosen_date.h"
+#include "gallery/pages/dates_page_ids.h"
+#include "gallery/pages/horizontal_step.h"
+#include "gallery/settings.h"
+#include "gallery/text.h"
+
+namespace gallery {
+namespace {
+
+constexpr char kDate[] = "Date";
+constexpr UINT_PTR kFollowTimer = 1;
+constexpr UINT kFollowMilliseconds = 100;
+
+struct DatesState {
+    explicit DatesState(HWND dialog)
+        : dialog(dialog), date(GetDlgItem(dialog, IDC_DATE_VERTICAL), GetDlgItem(dialog, IDC_DATE_HORIZONTAL)) {}
+
+    HWND dialog;
+    ChosenDate date;
+};
+
+DatesState* PageOf(HWND dialog) {
+    return reinterpret_cast<DatesState*>(GetWindowLongPtrA(dialog, DWLP_USER));
+}
+
+void ShowChosenDate(const DatesState& page) {
+    const auto instance = reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(page.dialog, GWLP_HINSTANCE));
+    const std::string text = page.date.IsSet() ? page.date.IsoText() : LoadText(instance, IDS_NO_DATE);
+    SetDlgItemTextA(page.dialog, IDC_CHOSEN, text.c_str());
+}
+
+void OnInitDialog(HWND dialog) {
+    auto* page = new DatesState(dialog);
+    SetWindowLongPtrA(dialog, DWLP_USER, reinterpret_cast<LONG_PTR>(page));
+    StepSideways(GetDlgItem(dialog, IDC_DATE_HORIZONTAL));
+    if (!page->date.SetIsoText(KeptText(kDate))) {
+        page->date.SetToday();
+    }
+    ShowChosenDate(*page);
+    SetTimer(dialog, kFollowTimer, kFollowMilliseconds, nullptr);
+}
+
+void OnTimer(DatesState& page) {
+    if (page.date.Follow()) {
+        ShowChosenDate(page);
+    }
+}
+
+void OnDestroy(HWND dialog) {
+    KillTimer(dialog, kFollowTimer);
+    StopSteppingSideways(GetDlgItem(dialog, IDC_DATE_HORIZONTAL));
+    delete PageOf(dialog);
+    SetWindowLongPtrA(dialog, DWLP_USER, 0);
+}
+
+INT_PTR CALLBACK DatesPageProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
+    if (message == WM_INITDIALOG) {
+        OnInitDialog(dialog);
+        return TRUE;
+    }
+    DatesState* page = PageOf(dialog);
+    if (page == nullptr) {
+        return FALSE;
+    }
+    switch (message) {
+        case WM_TIMER:
+            OnTimer(*page);
+            return TRUE;
+        case WM_COMMAND:
+            if (LOWORD(wParam) == IDC_TODAY) {
+                page->date.SetToday();
+                ShowChosenDate(*page);
+            }
+            return TRUE;
+        case kKeepValues:
+            KeepText(kDate, ChosenIsoDate(dialog));
+            return TRUE;
+        case WM_DESTROY:
+            OnDestroy(dialog);
+            return TRUE;
+        default:
+            return FALSE;
+    }
+}
+
+}  // namespace
+
+const Page& DatesPage() {
+    static const Page page{IDS_DATES_TITLE, MAKEINTRESOURCEA(IDD_DATES_PAGE), DatesPageProcedure};
+    return page;
+}
+
+std::string ChosenIsoDate(HWND window) {
+    DatesState* page = PageOf(window);
+    if (page == nullptr) {
+        return "";
+    }
+    page->date.Follow();
+    return page->date.IsoText();
+}
+
+}  // namespace gallery

@@ -1,0 +1,174 @@
+// How static controls look: text, filled and framed rectangles, etched lines, pictures.
+#include "user/controls/static.h"
+#include "user/icons.h"
+
+namespace platform::user {
+namespace {
+
+UINT Ellipsis(DWORD style) {
+    switch (style & SS_ELLIPSISMASK) {
+        case SS_ENDELLIPSIS:
+            return DT_END_ELLIPSIS | DT_SINGLELINE;
+        case SS_PATHELLIPSIS:
+            return DT_PATH_ELLIPSIS | DT_SINGLELINE;
+        case SS_WORDELLIPSIS:
+            return DT_WORD_ELLIPSIS | DT_SINGLELINE;
+        default:
+            return 0;
+    }
+}
+
+UINT TextFormat(DWORD style) {
+    UINT format = style & SS_NOPREFIX ? DT_NOPREFIX : 0;
+    switch (StaticKind(style)) {
+        case SS_CENTER:
+            format |= DT_CENTER | DT_EXPANDTABS | DT_WORDBREAK;
+            break;
+        case SS_RIGHT:
+            format |= DT_RIGHT | DT_EXPANDTABS | DT_WORDBREAK;
+            break;
+        case SS_SIMPLE:
+            format |= DT_SINGLELINE;
+            break;
+        case SS_LEFTNOWORDWRAP:
+            format |= DT_EXPANDTABS;
+            break;
+        default:
+            format |= DT_EXPANDTABS | DT_WORDBREAK;
+            break;
+    }
+    if (style & SS_EDITCONTROL)
+        format |= DT_EDITCONTROL;
+    if (style & SS_CENTERIMAGE)
+        format |= DT_SINGLELINE | DT_VCENTER;
+    format |= Ellipsis(style);
+    return format & DT_SINGLELINE ? format & ~UINT{DT_WORDBREAK} : format;
+}
+
+struct Painter {
+    HWND control;
+    const StaticData& data;
+    HDC context;
+    DWORD style;
+    RECT client;
+
+    void Erase() const {
+        FillRect(context, &client, ControlBrush(control, context, WM_CTLCOLORSTATIC));
+    }
+
+    void Text() const {
+        Erase();
+        const std::string text = ControlText(control);
+        if (text.empty())
+            return;
+        const UINT format = TextFormat(style);
+        RECT place = client;
+        if (style & WS_DISABLED)
+            DrawDisabledText(context, text, place, format);
+        else
+            DrawTextA(context, text.c_str(), static_cast<int>(text.size()), &place, format);
+    }
+
+    void Bitmap() const {
+        Erase();
+        BITMAP info{};
+        if (!data.bitmap || !GetObjectA(data.bitmap, sizeof info, &info))
+            return;
+        const RECT whole{0, 0, info.bmWidth, info.bmHeight};
+        if (style & SS_REALSIZECONTROL)
+            DrawStretchedBitmap(context, data.bitmap, client);
+        else
+            DrawCentredBitmap(context, data.bitmap, style & SS_CENTERIMAGE ? client : whole);
+    }
+
+    void Icon() const {
+        Erase();
+        const SIZE size = IconSize(data.icon);
+        if (size.cx <= 0)
+            return;
+        const bool centred = style & SS_CENTERIMAGE;
+        DrawIconEx(context, centred ? (client.right - size.cx) / 2 : 0, centred ? (client.bottom - size.cy) / 2 : 0,
+                   data.icon, size.cx, size.cy, 0, nullptr, DI_NORMAL);
+    }
+
+    void AskOwner() const {
+        const HWND parent = GetParent(control);
+        if (!parent)
+            return;
+        Erase();
+        DRAWITEMSTRUCT item{};
+        item.CtlType = ODT_STATIC;
+        item.CtlID = static_cast<UINT>(GetDlgCtrlID(control));
+        item.itemAction = ODA_DRAWENTIRE;
+        item.itemState = style & WS_DISABLED ? ODS_DISABLED : 0;
+        item.hwndItem = control;
+        item.hDC = context;
+        item.rcItem = client;
+        SendMessageA(parent, WM_DRAWITEM, item.CtlID, reinterpret_cast<LPARAM>(&item));
+    }
+
+    void Edges(UINT sides) const {
+        RECT place = client;
+        DrawEdge(context, &place, EDGE_ETCHED, sides);
+    }
+
+    void Paint() const {
+        switch (StaticKind(style)) {
+            case SS_BLACKRECT:
+                FillRect(context, &client, GetSysColorBrush(COLOR_3DDKSHADOW));
+                break;
+            case SS_GRAYRECT:
+                FillRect(context, &client, GetSysColorBrush(COLOR_3DSHADOW));
+                break;
+            case SS_WHITERECT:
+                FillRect(context, &client, GetSysColorBrush(COLOR_3DHIGHLIGHT));
+                break;
+            case SS_BLACKFRAME:
+                FrameRect(context, &client, GetSysColorBrush(COLOR_3DDKSHADOW));
+                break;
+            case SS_GRAYFRAME:
+                FrameRect(context, &client, GetSysColorBrush(COLOR_3DSHADOW));
+                break;
+            case SS_WHITEFRAME:
+                FrameRect(context, &client, GetSysColorBrush(COLOR_3DHIGHLIGHT));
+                break;
+            case SS_ETCHEDHORZ:
+                Edges(BF_TOP | BF_BOTTOM);
+                break;
+            case SS_ETCHEDVERT:
+                Edges(BF_LEFT | BF_RIGHT);
+                break;
+            case SS_ETCHEDFRAME:
+                Edges(BF_RECT);
+                break;
+            case SS_OWNERDRAW:
+                AskOwner();
+                break;
+            case SS_BITMAP:
+                Bitmap();
+                break;
+            case SS_ICON:
+                Icon();
+                break;
+            default:
+                Text();
+                break;
+        }
+    }
+};
+
+}  // namespace
+
+void PaintStatic(HWND control, const StaticData& data, HDC context) {
+    RECT client{};
+    GetClientRect(control, &client);
+    const int saved = SaveDC(context);
+    // A picture kept in its own size may be larger than the control.
+    IntersectClipRect(context, 0, 0, client.right, client.bottom);
+    if (data.font)
+        SelectObject(context, data.font);
+    Painter{control, data, context, ControlStyle(control), client}.Paint();
+    RestoreDC(context, saved);
+}
+
+}  // namespace platform::user

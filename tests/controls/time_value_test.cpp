@@ -1,0 +1,240 @@
+// Times without a window: stepping, comparison, text, fields and typing, and the clock face as a table.
+#include <cvutil32/timectrl.h>
+
+#include "controls/timectrl/clockface.h"
+#include "controls/timectrl/timetext.h"
+#include "tests/support/clock_settings.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <string>
+
+namespace {
+
+using testing_support::ClockSettings;
+
+SYSTEMTIME Time(int hour, int minute, int second) {
+    SYSTEMTIME time = {1995, 5, 1, 6, 0, 0, 0, 77};
+    time.wHour = static_cast<WORD>(hour);
+    time.wMinute = static_cast<WORD>(minute);
+    time.wSecond = static_cast<WORD>(second);
+    return time;
+}
+
+std::string Parts(SYSTEMTIME const& time) {
+    char text[40];
+    wsprintfA(text, "%d:%02d:%02d", time.wHour, time.wMinute, time.wSecond);
+    return time.wYear == 1995 && time.wMonth == 5 && time.wDay == 6 && time.wMilliseconds == 77 ? text
+                                                                                                : "date not left alone";
+}
+
+std::string Up(SYSTEMTIME time, WORD field) {
+    EXPECT_TRUE(TIMECTRL_IncrementTime(&time, field));
+    return Parts(time);
+}
+
+std::string Down(SYSTEMTIME time, WORD field) {
+    EXPECT_TRUE(TIMECTRL_DecrementTime(&time, field));
+    return Parts(time);
+}
+
+std::string Text(int hour, int minute, int second) {
+    SYSTEMTIME const time = Time(hour, minute, second);
+    char text[40] = "";
+    EXPECT_TRUE(timectrl_FormatTime(&time, text, sizeof text));
+    return text;
+}
+
+/// Types a key and tells the result and the advance.
+std::string Typed(SYSTEMTIME time, UINT position, char key) {
+    int const advance = timectrl_EnterKey(key, position, &time);
+    return Parts(time) + " +" + std::to_string(advance);
+}
+
+void Load() {
+    WORD mode;
+    timectrl_GetIntlFormat(&mode, TRUE);
+}
+
+TEST(TimeValue, ValidTimes) {
+    EXPECT_FALSE(TIMECTRL_IsValidTime(nullptr));
+    SYSTEMTIME time = Time(23, 59, 59);
+    EXPECT_TRUE(TIMECTRL_IsValidTime(&time));
+    for (SYSTEMTIME const& bad : {Time(24, 0, 0), Time(0, 60, 0), Time(0, 0, 60), Time(65535, 0, 0)}) {
+        EXPECT_FALSE(TIMECTRL_IsValidTime(&bad));
+        time = bad;
+        EXPECT_FALSE(TIMECTRL_IncrementTime(&time, TIMECTRL_HOUR));
+        EXPECT_FALSE(TIMECTRL_DecrementTime(&time, TIMECTRL_HOUR));
+        EXPECT_EQ(0, std::memcmp(&bad, &time, sizeof time)) << "nothing is changed";
+    }
+}
+
+TEST(TimeValue, SecondsDecideBeforeMinutesAndHours) {
+    struct {
+        SYSTEMTIME a, b;
+        int expected;
+    } const cases[] = {
+        {Time(10, 0, 30), Time(11, 0, 0), 1}, {Time(10, 0, 0), Time(11, 0, 0), -1}, {Time(10, 5, 0), Time(9, 6, 0), -1},
+        {Time(10, 5, 7), Time(10, 5, 7), 0},  {Time(24, 0, 0), Time(1, 0, 0), 0},   {Time(1, 0, 0), Time(1, 60, 0), 0},
+    };
+    for (auto const& each : cases) {
+        EXPECT_EQ(each.expected, TIMECTRL_CompareTime(&each.a, &each.b));
+        EXPECT_EQ(-each.expected, TIMECTRL_CompareTime(&each.b, &each.a));
+    }
+    EXPECT_EQ(0, TIMECTRL_CompareTime(nullptr, &cases[0].a));
+    EXPECT_EQ(0, TIMECTRL_CompareTime(&cases[0].a, nullptr));
+}
+
+TEST(TimeValue, StepsCarryWithinTheDay) {
+    EXPECT_EQ("0:00:00", Up(Time(23, 59, 59), TIMECTRL_SECOND));
+    EXPECT_EQ("23:59:59", Down(Time(0, 0, 0), TIMECTRL_SECOND));
+    EXPECT_EQ("11:00:00", Up(Time(10, 59, 0), TIMECTRL_MINUTE));
+    EXPECT_EQ("9:59:30", Down(Time(10, 0, 30), TIMECTRL_MINUTE));
+    EXPECT_EQ("0:10:00", Up(Time(23, 10, 0), TIMECTRL_HOUR));
+    EXPECT_EQ("23:10:00", Down(Time(0, 10, 0), TIMECTRL_HOUR));
+    EXPECT_EQ("8:20:31", Up(Time(8, 20, 30), TIMECTRL_SECOND));
+    SYSTEMTIME time = Time(8, 20, 30);
+    for (WORD const field : {0, 5, 65535}) {
+        EXPECT_FALSE(TIMECTRL_IncrementTime(&time, field));
+        EXPECT_FALSE(TIMECTRL_DecrementTime(&time, field));
+    }
+    EXPECT_FALSE(TIMECTRL_IncrementTime(nullptr, TIMECTRL_HOUR));
+    EXPECT_FALSE(TIMECTRL_DecrementTime(nullptr, TIMECTRL_HOUR));
+    EXPECT_EQ("8:20:30", Parts(time));
+}
+
+TEST(TimeText, FollowsClockAndLeadingZero) {
+    ClockSettings const clock("h:mm:ss tt");
+    Load();
+    EXPECT_EQ("12:05:09 AM", Text(0, 5, 9));
+    EXPECT_EQ(" 9:05:09 AM", Text(9, 5, 9));
+    EXPECT_EQ("12:00:00 PM", Text(12, 0, 0));
+    EXPECT_EQ(" 1:00:00 PM", Text(13, 0, 0));
+    EXPECT_EQ("11:59:59 PM", Text(23, 59, 59));
+    EXPECT_EQ(11u, timectrl_TextLength());
+    clock.Change("hh:mm:ss tt");
+    EXPECT_EQ(" 1:00:00 PM", Text(13, 0, 0)) << "known settings are not read again";
+    Load();
+    EXPECT_EQ("01:00:00 PM", Text(13, 0, 0));
+    clock.Change("H:mm:ss");
+    Load();
+    EXPECT_EQ(" 0:05:09", Text(0, 5, 9));
+    EXPECT_EQ("13:00:00", Text(13, 0, 0));
+    EXPECT_EQ(8u, timectrl_TextLength());
+    clock.Change("HH.mm.ss", ".");
+    Load();
+    EXPECT_EQ("00.05.09", Text(0, 5, 9));
+
+    SYSTEMTIME const time = Time(1, 2, 3);
+    char buffer[5] = "zzzz";
+    EXPECT_FALSE(timectrl_FormatTime(nullptr, buffer, 5));
+    EXPECT_FALSE(timectrl_FormatTime(&time, nullptr, 5));
+    EXPECT_FALSE(timectrl_FormatTime(&time, buffer, 0));
+    EXPECT_STREQ("zzzz", buffer);
+    EXPECT_TRUE(timectrl_FormatTime(&time, buffer, 4));
+    EXPECT_STREQ("01.", buffer);
+    EXPECT_EQ(nullptr, timectrl_GetIntlFormat(nullptr, TRUE));
+}
+
+TEST(TimeText, FieldsLieWhereTheTextShowsThem) {
+    ClockSettings const clock("h:mm:ss tt");
+    Load();
+    WORD const twelve[] = {2, 2, 1, 1, 1, 3, 3, 3, 4, 4, 4, 0, 0};
+    for (UINT position = 0; position < std::size(twelve); ++position) {
+        EXPECT_EQ(twelve[position], timectrl_FieldAtPosition(TIMECTRL_MODE_12H, position)) << position;
+        EXPECT_EQ(position < 8 ? twelve[position] : 0, timectrl_FieldAtPosition(TIMECTRL_MODE_24H, position));
+        EXPECT_EQ(0, timectrl_FieldAtPosition(TIMECTRL_MODE_NONE, position));
+        EXPECT_EQ(position == 2 || position == 5 || position == 8, timectrl_IsSeparator(position)) << position;
+    }
+}
+
+TEST(TimeText, TypingReplacesDigits) {
+    ClockSettings const clock("HH:mm:ss");
+    Load();
+    EXPECT_EQ("15:20:30 +1", Typed(Time(5, 20, 30), 0, '1'));
+    EXPECT_EQ("25:20:30 +1", Typed(Time(5, 20, 30), 0, '2')) << "for the field to refuse";
+    EXPECT_EQ("9:20:30 +1", Typed(Time(5, 20, 30), 1, '9'));
+    EXPECT_EQ("5:70:30 +1", Typed(Time(5, 20, 30), 3, '7'));
+    EXPECT_EQ("5:24:30 +1", Typed(Time(5, 20, 30), 4, '4'));
+    EXPECT_EQ("5:20:00 +1", Typed(Time(5, 20, 30), 6, '0'));
+    EXPECT_EQ("5:20:35 +1", Typed(Time(5, 20, 30), 7, '5'));
+    EXPECT_EQ("5:20:30 +0", Typed(Time(5, 20, 30), 8, '5')) << "behind the text";
+    EXPECT_EQ("5:20:30 +0", Typed(Time(5, 20, 30), 0, 'p')) << "no letters by this clock";
+}
+
+TEST(TimeText, LettersChooseTheHalfOfTheDay) {
+    ClockSettings const clock("h:mm:ss tt");
+    Load();
+    for (UINT const position : {9u, 10u}) {
+        EXPECT_EQ("21:00:00 +0", Typed(Time(9, 0, 0), position, 'p'));
+        EXPECT_EQ("21:00:00 +0", Typed(Time(21, 0, 0), position, 'P'));
+        EXPECT_EQ("9:00:00 +0", Typed(Time(21, 0, 0), position, 'a'));
+        EXPECT_EQ("0:00:00 +0", Typed(Time(12, 0, 0), position, 'A'));
+        EXPECT_EQ("9:00:00 +0", Typed(Time(9, 0, 0), position, 'a'));
+    }
+}
+
+/// What a person sees at once on a 12-hour clock: the hour as two digits.
+struct Face {
+    int shown;
+    int advance;
+    bool operator==(Face const&) const = default;
+    friend std::ostream& operator<<(std::ostream& out, Face const& face) {
+        return out << face.shown << " +" << face.advance;
+    }
+};
+
+// Row: the hour shown, 1 to 12. Column: the digit typed.
+constexpr Face kTens[12][10] = {
+    // 0        1        2       3       4       5       6       7       8       9
+    {{1, 1}, {11, 1}, {2, 2}, {3, 2}, {4, 2}, {5, 2}, {6, 2}, {7, 2}, {8, 2}, {9, 2}},
+    {{2, 1}, {12, 1}, {2, 2}, {3, 2}, {4, 2}, {5, 2}, {6, 2}, {7, 2}, {8, 2}, {9, 2}},
+    {{3, 1}, {10, 1}, {2, 2}, {3, 2}, {4, 2}, {5, 2}, {6, 2}, {7, 2}, {8, 2}, {9, 2}},
+    {{4, 1}, {10, 1}, {2, 2}, {3, 2}, {4, 2}, {5, 2}, {6, 2}, {7, 2}, {8, 2}, {9, 2}},
+    {{5, 1}, {10, 1}, {2, 2}, {3, 2}, {4, 2}, {5, 2}, {6, 2}, {7, 2}, {8, 2}, {9, 2}},
+    {{6, 1}, {10, 1}, {2, 2}, {3, 2}, {4, 2}, {5, 2}, {6, 2}, {7, 2}, {8, 2}, {9, 2}},
+    {{7, 1}, {10, 1}, {2, 2}, {3, 2}, {4, 2}, {5, 2}, {6, 2}, {7, 2}, {8, 2}, {9, 2}},
+    {{8, 1}, {10, 1}, {2, 2}, {3, 2}, {4, 2}, {5, 2}, {6, 2}, {7, 2}, {8, 2}, {9, 2}},
+    {{9, 1}, {10, 1}, {2, 2}, {3, 2}, {4, 2}, {5, 2}, {6, 2}, {7, 2}, {8, 2}, {9, 2}},
+    {{1, 2}, {10, 1}, {2, 2}, {3, 2}, {4, 2}, {5, 2}, {6, 2}, {7, 2}, {8, 2}, {9, 2}},
+    {{1, 1}, {11, 1}, {2, 2}, {3, 2}, {4, 2}, {5, 2}, {6, 2}, {7, 2}, {8, 2}, {9, 2}},
+    {{2, 1}, {12, 1}, {2, 2}, {3, 2}, {4, 2}, {5, 2}, {6, 2}, {7, 2}, {8, 2}, {9, 2}},
+};
+
+constexpr Face kUnits[12][10] = {
+    {{1, 0}, {1, 1}, {2, 1}, {3, 1}, {4, 1}, {5, 1}, {6, 1}, {7, 1}, {8, 1}, {9, 1}},
+    {{2, 0}, {1, 1}, {2, 1}, {3, 1}, {4, 1}, {5, 1}, {6, 1}, {7, 1}, {8, 1}, {9, 1}},
+    {{3, 0}, {1, 1}, {2, 1}, {3, 1}, {4, 1}, {5, 1}, {6, 1}, {7, 1}, {8, 1}, {9, 1}},
+    {{4, 0}, {1, 1}, {2, 1}, {3, 1}, {4, 1}, {5, 1}, {6, 1}, {7, 1}, {8, 1}, {9, 1}},
+    {{5, 0}, {1, 1}, {2, 1}, {3, 1}, {4, 1}, {5, 1}, {6, 1}, {7, 1}, {8, 1}, {9, 1}},
+    {{6, 0}, {1, 1}, {2, 1}, {3, 1}, {4, 1}, {5, 1}, {6, 1}, {7, 1}, {8, 1}, {9, 1}},
+    {{7, 0}, {1, 1}, {2, 1}, {3, 1}, {4, 1}, {5, 1}, {6, 1}, {7, 1}, {8, 1}, {9, 1}},
+    {{8, 0}, {1, 1}, {2, 1}, {3, 1}, {4, 1}, {5, 1}, {6, 1}, {7, 1}, {8, 1}, {9, 1}},
+    {{9, 0}, {1, 1}, {2, 1}, {3, 1}, {4, 1}, {5, 1}, {6, 1}, {7, 1}, {8, 1}, {9, 1}},
+    {{10, 1}, {11, 1}, {12, 1}, {10, 0}, {10, 0}, {10, 0}, {10, 0}, {10, 0}, {10, 0}, {10, 0}},
+    {{10, 1}, {11, 1}, {12, 1}, {11, 0}, {11, 0}, {11, 0}, {11, 0}, {11, 0}, {11, 0}, {11, 0}},
+    {{10, 1}, {11, 1}, {12, 1}, {12, 0}, {12, 0}, {12, 0}, {12, 0}, {12, 0}, {12, 0}, {12, 0}},
+};
+
+TEST(TimeText, EveryDigitOnEveryHourOfTheClockFace) {
+    ClockSettings const clock("h:mm:ss tt");
+    Load();
+    for (int hour = 0; hour < 24; ++hour) {
+        int const shown = hour % 12 == 0 ? 12 : hour % 12;
+        for (int digit = 0; digit <= 9; ++digit) {
+            for (UINT const position : {0u, 1u}) {
+                SYSTEMTIME time = Time(hour, 20, 30);
+                int const advance = timectrl_EnterKey(static_cast<char>('0' + digit), position, &time);
+                Face const face{time.wHour % 12 == 0 ? 12 : time.wHour % 12, advance};
+                EXPECT_EQ((position == 0 ? kTens : kUnits)[shown - 1][digit], face)
+                    << "hour " << hour << ", digit " << digit << " at " << position;
+                EXPECT_EQ(hour >= 12, time.wHour >= 12) << "the half of the day stays";
+                EXPECT_EQ(20, time.wMinute);
+                EXPECT_EQ(30, time.wSecond);
+            }
+        }
+    }
+}
+
+}  // namespace
