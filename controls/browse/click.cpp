@@ -54,9 +54,8 @@ bool Ask(HWND parent, Data& data, CSTRING& result) {
     if (!buffer) {
         return false;
     }
-    BOOL const accepted =
-        BROWSE_DisplayBrowseDialog(parent, std::as_const(start.folder), std::as_const(start.fileName), buffer,
-                                   result.GetBufLen(1024), DialogFlags(data.options));
+    BOOL const accepted = BROWSE_DisplayBrowseDialog(parent, std::as_const(start.folder), std::as_const(start.fileName),
+                                                     buffer, result.GetBufLen(1024), DialogFlags(data.options));
     result.BufferUnlock();
     return accepted != FALSE;
 }

@@ -67,8 +67,8 @@ bool Insert(Branch& branch, IMalloc* allocator, LPCITEMIDLIST id, ULONG attribut
     bool const top = branch.parent == TVI_ROOT;
     *item = {branch.folder, CopyItem(id), top ? JoinLists(branch.parentId, id) : nullptr, top};
     branch.folder->AddRef();
-    auto const inserted =
-        reinterpret_cast<HTREEITEM>(SendMessageA(branch.treeView, TVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&insert)));
+    auto const inserted = reinterpret_cast<HTREEITEM>(
+        SendMessageA(branch.treeView, TVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&insert)));
     if (inserted) {
         branch.last = inserted;
     } else {
@@ -122,8 +122,7 @@ void SetFlag(HWND control, LONG_PTR flag, bool set) {
 }  // namespace
 
 bool FillTopLevel(HWND control) {
-    HWND const treeView =
-        IsTreeList(control) ? reinterpret_cast<HWND>(GetWindowLongPtrA(control, kTreeView)) : nullptr;
+    HWND const treeView = IsTreeList(control) ? reinterpret_cast<HWND>(GetWindowLongPtrA(control, kTreeView)) : nullptr;
     if (!treeView) {
         return false;
     }

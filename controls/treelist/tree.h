@@ -16,7 +16,7 @@ enum Slot : int {
 constexpr int kExtraBytes = 3 * sizeof(LONG_PTR);
 
 enum Flag : LONG_PTR {
-    kStarted = 1,     ///< the control started the component library
+    kStarted = 1,    ///< the control started the component library
     kFirstFill = 2,  ///< the first item's children are being read: they keep their order
 };
 

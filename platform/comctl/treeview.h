@@ -77,8 +77,8 @@ struct TreeView : user::ControlData {
     int indent = 19;
     int imageWidth = 0;
     int imageHeight = 0;
-    int top = 0;   ///< the first row shown
-    int left = 0;  ///< pixels scrolled to the left
+    int top = 0;     ///< the first row shown
+    int left = 0;    ///< pixels scrolled to the left
     int widest = 0;  ///< the right end of the widest row
     bool focused = false;
     bool ending = false;

@@ -9,8 +9,8 @@
 namespace platform::comctl {
 namespace {
 
-constexpr UINT kKeptState = TVIS_SELECTED | TVIS_CUT | TVIS_DROPHILITED | TVIS_BOLD | TVIS_EXPANDED | TVIS_EXPANDEDONCE |
-                            TVIS_OVERLAYMASK | TVIS_STATEIMAGEMASK;
+constexpr UINT kKeptState = TVIS_SELECTED | TVIS_CUT | TVIS_DROPHILITED | TVIS_BOLD | TVIS_EXPANDED |
+                            TVIS_EXPANDEDONCE | TVIS_OVERLAYMASK | TVIS_STATEIMAGEMASK;
 
 bool IsRoot(HTREEITEM item) {
     return !item || item == TVI_ROOT;

@@ -63,8 +63,8 @@ void SetBar(const TreeView& tree, int which, const SCROLLINFO& wanted) {
     SCROLLINFO present{};
     present.cbSize = sizeof present;
     present.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
-    if (!GetScrollInfo(tree.window, which, &present) || present.nMax != wanted.nMax ||
-        present.nPage != wanted.nPage || present.nPos != wanted.nPos) {
+    if (!GetScrollInfo(tree.window, which, &present) || present.nMax != wanted.nMax || present.nPage != wanted.nPage ||
+        present.nPos != wanted.nPos) {
         SetScrollInfo(tree.window, which, &wanted, TRUE);
     }
 }
@@ -143,8 +143,12 @@ RECT ButtonRect(const TreeView& tree, const TreeItem* item) {
 TreeItem* HitTest(const TreePointer& tree, POINT point, UINT& flags) {
     RECT client{};
     GetClientRect(tree->window, &client);
-    flags = (point.y < 0 ? TVHT_ABOVE : point.y >= client.bottom ? TVHT_BELOW : 0) |
-            (point.x < 0 ? TVHT_TOLEFT : point.x >= client.right ? TVHT_TORIGHT : 0);
+    flags = (point.y < 0                ? TVHT_ABOVE
+             : point.y >= client.bottom ? TVHT_BELOW
+                                        : 0) |
+            (point.x < 0               ? TVHT_TOLEFT
+             : point.x >= client.right ? TVHT_TORIGHT
+                                       : 0);
     if (flags) {
         return nullptr;
     }

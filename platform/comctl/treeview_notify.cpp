@@ -18,8 +18,7 @@ LRESULT Send(const TreeView& tree, UINT code, Notification& notification) {
 TVITEMA Describe(const TreeItem* item) {
     TVITEMA description{};
     if (item) {
-        description.mask =
-            TVIF_HANDLE | TVIF_PARAM | TVIF_STATE | TVIF_IMAGE | TVIF_SELECTEDIMAGE | TVIF_CHILDREN;
+        description.mask = TVIF_HANDLE | TVIF_PARAM | TVIF_STATE | TVIF_IMAGE | TVIF_SELECTEDIMAGE | TVIF_CHILDREN;
         description.hItem = item->handle;
         description.lParam = item->param;
         description.state = item->state;

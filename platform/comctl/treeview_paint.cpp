@@ -102,8 +102,8 @@ void PaintLabel(const TreePointer& tree, HDC context, TreeItem* item, const std:
     GetTextMetricsA(context, &metrics);
     SetTextColor(context, ink);
     SetBkColor(context, ground);
-    ExtTextOutA(context, label.left + kPadding, label.top + (tree->rowHeight - metrics.tmHeight) / 2, ETO_OPAQUE, &label,
-                text.c_str(), static_cast<UINT>(text.size()), nullptr);
+    ExtTextOutA(context, label.left + kPadding, label.top + (tree->rowHeight - metrics.tmHeight) / 2, ETO_OPAQUE,
+                &label, text.c_str(), static_cast<UINT>(text.size()), nullptr);
     if (strong && item == tree->caret) {
         DrawFocusRect(context, &label);
     }

@@ -253,9 +253,8 @@ INT_PTR CALLBACK FileDialogProcedure(HWND window, UINT message, WPARAM wParam, L
 }  // namespace
 
 bool RunFileDialog(FileDialog& dialog) {
-    const INT_PTR result =
-        user::RunDialog(dialog.record.hInstance, Template(dialog.record), dialog.record.hwndOwner, FileDialogProcedure,
-                        reinterpret_cast<LPARAM>(&dialog));
+    const INT_PTR result = user::RunDialog(dialog.record.hInstance, Template(dialog.record), dialog.record.hwndOwner,
+                                           FileDialogProcedure, reinterpret_cast<LPARAM>(&dialog));
     if (result < 0 && dialog.error == 0) {
         dialog.error = CDERR_DIALOGFAILURE;
     }

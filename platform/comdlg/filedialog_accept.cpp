@@ -44,7 +44,8 @@ bool MayGiveBack(const FileDialog& dialog, const std::string& path) {
         return true;
     }
     if (dialog.Has(OFN_PATHMUSTEXIST | OFN_FILEMUSTEXIST) && !Exists(Split(path).folder)) {
-        Complain(dialog, path, "Path does not exist.\nPlease verify that the correct path was given.", MB_ICONEXCLAMATION);
+        Complain(dialog, path, "Path does not exist.\nPlease verify that the correct path was given.",
+                 MB_ICONEXCLAMATION);
         return false;
     }
     if (dialog.Has(OFN_FILEMUSTEXIST) && !Exists(path)) {
@@ -121,9 +122,8 @@ bool OpenSelectedFolder(FileDialog& dialog) {
         return false;
     }
     const std::vector<std::size_t> rows = SelectedRows(dialog);
-    const auto folder = std::find_if(rows.begin(), rows.end(), [&](std::size_t row) {
-        return dialog.items[row].place.IsFolder();
-    });
+    const auto folder =
+        std::find_if(rows.begin(), rows.end(), [&](std::size_t row) { return dialog.items[row].place.IsFolder(); });
     if (folder == rows.end()) {
         return false;
     }

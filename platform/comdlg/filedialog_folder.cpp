@@ -132,7 +132,8 @@ std::vector<shell::Place> TrailOf(const std::string& path) {
 std::vector<std::size_t> SelectedRows(const FileDialog& dialog) {
     const HWND list = dialog.Control(lst1);
     std::vector<int> found(dialog.items.size());
-    int count = static_cast<int>(SendMessageA(list, LB_GETSELITEMS, found.size(), reinterpret_cast<LPARAM>(found.data())));
+    int count =
+        static_cast<int>(SendMessageA(list, LB_GETSELITEMS, found.size(), reinterpret_cast<LPARAM>(found.data())));
     if (count == LB_ERR) {
         // A list for one selection.
         const auto one = static_cast<int>(SendMessageA(list, LB_GETCURSEL, 0, 0));

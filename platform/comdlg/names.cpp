@@ -182,7 +182,8 @@ std::size_t WriteChoice(OPENFILENAMEA& record, const Choice& choice) {
         record.nFileOffset = static_cast<WORD>(choice.folder.size() + 1);
         record.nFileExtension = 0;
     }
-    CopyText(record.lpstrFileTitle, record.nMaxFileTitle, choice.names.size() == 1 ? choice.names.front() : std::string());
+    CopyText(record.lpstrFileTitle, record.nMaxFileTitle,
+             choice.names.size() == 1 ? choice.names.front() : std::string());
     return 0;
 }
 

@@ -73,9 +73,8 @@ int ReadDirectory(const std::string& path, Wanted wanted, std::vector<Entry>& en
             entries.push_back({found->d_name, folder, hidden});
         }
     }
-    std::sort(entries.begin(), entries.end(), [](const Entry& a, const Entry& b) {
-        return a.folder != b.folder ? a.folder : a.name < b.name;
-    });
+    std::sort(entries.begin(), entries.end(),
+              [](const Entry& a, const Entry& b) { return a.folder != b.folder ? a.folder : a.name < b.name; });
     return 0;
 }
 

@@ -47,7 +47,7 @@ HRESULT ListItems(const Place& place, SHCONTFLAGS flags, Listing& listing) {
             AddDirectory(place, flags, listing);
             return S_OK;
         case PlaceKind::Computer:
-            for (const char letter : flags & SHCONTF_FOLDERS ? Drives() : std::vector<char>()) {
+            for (const char letter : flags& SHCONTF_FOLDERS ? Drives() : std::vector<char>()) {
                 listing.push_back({ItemKind::Drive, false, std::string(1, letter)});
             }
             return S_OK;

@@ -138,7 +138,9 @@ std::string DisplayName(const Place& place) {
         case PlaceKind::Computer:
             return "My Computer";
         case PlaceKind::Drive:
-            return (place.path[0] == 'Z' ? "Host (" : IsRemovable(place.path[0]) ? "Disk (" : "Hard Disk (") +
+            return (place.path[0] == 'Z'         ? "Host ("
+                    : IsRemovable(place.path[0]) ? "Disk ("
+                                                 : "Hard Disk (") +
                    place.path.substr(0, 2) + ')';
         case PlaceKind::Folder:
         case PlaceKind::File:

@@ -15,8 +15,10 @@ enum class PlaceKind { Desktop, Computer, Drive, Folder, File };
 
 struct Place {
     PlaceKind kind = PlaceKind::Desktop;
-    std::string host;  ///< no slash at its end, so that the host's root is empty; of the desktop the folder of its files
-    std::string path;  ///< for programs, in the code page in use; drives end in a backslash. Empty: not of the file system
+    std::string
+        host;  ///< no slash at its end, so that the host's root is empty; of the desktop the folder of its files
+    std::string
+        path;  ///< for programs, in the code page in use; drives end in a backslash. Empty: not of the file system
     bool hidden = false;
 
     bool IsFolder() const {

@@ -24,8 +24,9 @@ constexpr int kButtonId = 20;
 constexpr int kBuddyId = 21;
 
 HWND Create(LPCSTR className, HWND parent, DWORD style, int id) {
-    HWND const window = CreateWindowExA(0, className, "", WS_CHILD | WS_VISIBLE | style, 10, 10, 80, 20, parent,
-                                        reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleA(nullptr), nullptr);
+    HWND const window =
+        CreateWindowExA(0, className, "", WS_CHILD | WS_VISIBLE | style, 10, 10, 80, 20, parent,
+                        reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleA(nullptr), nullptr);
     EXPECT_NE(nullptr, window) << className;
     return window;
 }

@@ -22,9 +22,8 @@ using testing_support::TestWindow;
 constexpr int kId = 9;
 
 HWND CreateTreeList(HWND parent) {
-    HWND const control =
-        CreateWindowExA(0, TREELIST_CLASSNAME, "", WS_CHILD | WS_VISIBLE, 0, 0, 280, 180, parent,
-                        reinterpret_cast<HMENU>(INT_PTR{kId}), GetModuleHandleA(nullptr), nullptr);
+    HWND const control = CreateWindowExA(0, TREELIST_CLASSNAME, "", WS_CHILD | WS_VISIBLE, 0, 0, 280, 180, parent,
+                                         reinterpret_cast<HMENU>(INT_PTR{kId}), GetModuleHandleA(nullptr), nullptr);
     EXPECT_NE(nullptr, control);
     return control;
 }
@@ -56,7 +55,8 @@ TEST_F(TreeList, TheClassIsPlainAndKeepsThreeSlots) {
     GetWindowRect(TreeViewOf(control_), &tree);
     EXPECT_EQ(own.right, tree.right - tree.left);
     EXPECT_EQ(own.bottom, tree.bottom - tree.top);
-    EXPECT_EQ(0x50810027U, static_cast<DWORD>(GetWindowLongA(TreeViewOf(control_), GWL_STYLE)) & ~(WS_VSCROLL | WS_HSCROLL));
+    EXPECT_EQ(0x50810027U,
+              static_cast<DWORD>(GetWindowLongA(TreeViewOf(control_), GWL_STYLE)) & ~(WS_VSCROLL | WS_HSCROLL));
 }
 
 TEST_F(TreeList, TheFirstItemIsOpenAndSelectedAndNobodyIsTold) {

@@ -37,9 +37,9 @@ class TreeViewTest : public ::testing::Test {
         current_ = this;
         parent_ = CreateWindowExA(0, kParentClass, "", WS_POPUP | WS_VISIBLE, 20, 20, 220, 180, nullptr, nullptr,
                                   GetModuleHandleA(nullptr), nullptr);
-        tree_ = CreateWindowExA(0, WC_TREEVIEWA, "", WS_CHILD | WS_VISIBLE | TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT,
-                                0, 0, 200, 160, parent_, reinterpret_cast<HMENU>(INT_PTR{kId}),
-                                GetModuleHandleA(nullptr), nullptr);
+        tree_ = CreateWindowExA(0, WC_TREEVIEWA, "",
+                                WS_CHILD | WS_VISIBLE | TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT, 0, 0, 200, 160,
+                                parent_, reinterpret_cast<HMENU>(INT_PTR{kId}), GetModuleHandleA(nullptr), nullptr);
         ASSERT_NE(nullptr, tree_);
     }
     void TearDown() override {
@@ -140,8 +140,7 @@ class TreeViewTest : public ::testing::Test {
                         {header->code, tree->action, tree->itemOld.hItem, tree->itemNew.hItem, tree->itemNew.lParam});
                     break;
                 case TVN_DELETEITEMA:
-                    current_->told_.push_back(
-                        {header->code, 0, tree->itemOld.hItem, nullptr, tree->itemOld.lParam});
+                    current_->told_.push_back({header->code, 0, tree->itemOld.hItem, nullptr, tree->itemOld.lParam});
                     break;
                 default:
                     break;

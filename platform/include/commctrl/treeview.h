@@ -157,7 +157,8 @@ typedef struct tagTVSORTCB {
 #define TreeView_Expand(window, item, code) \
     ((BOOL)SendMessageA((window), TVM_EXPAND, (WPARAM)(code), (LPARAM)(HTREEITEM)(item)))
 #define TreeView_GetItemRect(window, item, rect, textOnly) \
-    (*(HTREEITEM*)(rect) = (item), (BOOL)SendMessageA((window), TVM_GETITEMRECT, (WPARAM)(textOnly), (LPARAM)(RECT*)(rect)))
+    (*(HTREEITEM*)(rect) = (item),                         \
+     (BOOL)SendMessageA((window), TVM_GETITEMRECT, (WPARAM)(textOnly), (LPARAM)(RECT*)(rect)))
 #define TreeView_GetCount(window) ((UINT)SendMessageA((window), TVM_GETCOUNT, 0, 0))
 #define TreeView_SetImageList(window, list, which) \
     ((HIMAGELIST)SendMessageA((window), TVM_SETIMAGELIST, (WPARAM)(which), (LPARAM)(HIMAGELIST)(list)))
