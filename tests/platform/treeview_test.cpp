@@ -99,7 +99,7 @@ class TreeViewTest : public ::testing::Test {
     }
     RECT Rect(HTREEITEM item, bool label) {
         RECT rect{};
-        *reinterpret_cast<HTREEITEM*>(&rect) = item;
+        CopyMemory(&rect, &item, sizeof item);
         return Send(TVM_GETITEMRECT, label, reinterpret_cast<LPARAM>(&rect)) ? rect : RECT{};
     }
     void Click(POINT at) {

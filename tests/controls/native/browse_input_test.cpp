@@ -164,7 +164,7 @@ void ClickItem(HWND dialog, char const* path, int times) {
          item = folder_tree::Next(tree, TVGN_NEXTVISIBLE, item)) {
         if (folder_tree::NameOf(tree, item).find(path) != std::string::npos) {
             RECT label = {};
-            *reinterpret_cast<HTREEITEM*>(&label) = item;
+            CopyMemory(&label, &item, sizeof item);
             SendMessageA(view, TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(&label));
             Click(view, {label.left + 4, (label.top + label.bottom) / 2}, times);
             return;
