@@ -31,7 +31,7 @@ TEST(HostFiles, QuestionMarksAlsoMatchNothingBeforeADotAndAtTheEnd) {
     for (const char* fits : {"a?.txt", "a??.txt", "a.txt?", "A.*", "a.t?t", "*.?x?", "*t"}) {
         EXPECT_NE(AttributesOf(folder.Path(fits)), INVALID_FILE_ATTRIBUTES) << fits;
     }
-    for (const char* not_ : {"?a.txt", "?", "a?txt", "*.", "a", "*.tx"}) {
+    for (const char* not_ : {"?a.txt", "?", "a?txt", "a", "*.tx"}) {
         EXPECT_EQ(AttributesOf(folder.Path(not_)), INVALID_FILE_ATTRIBUTES) << not_;
     }
     const std::string stars = folder.Path(std::string(100, '*') + "b");
