@@ -75,8 +75,14 @@ POINT PlaceDialog(const DialogTemplate& dialogTemplate, HWND owner, DWORD style,
 }
 
 HWND CreateItem(HWND dialog, HINSTANCE instance, const DialogItem& item, int baseX, int baseY) {
-    const DWORD style = (item.style & ~DWORD{WS_POPUP}) | WS_CHILD;
-    return CreateWindowExA(item.exStyle | WS_EX_NOPARENTNOTIFY, item.className.c_str(), item.text.c_str(), style,
+    DWORD style = (item.style & ~DWORD{WS_POPUP}) | WS_CHILD;
+    DWORD exStyle = item.exStyle | WS_EX_NOPARENTNOTIFY;
+    // In a dialog the border of a control is sunken: templates ask for it with the flat one that there was before.
+    if (style & WS_BORDER) {
+        style &= ~DWORD{WS_BORDER};
+        exStyle |= WS_EX_CLIENTEDGE;
+    }
+    return CreateWindowExA(exStyle, item.className.c_str(), item.text.c_str(), style,
                            MulDiv(item.x, baseX, 4), MulDiv(item.y, baseY, 8), MulDiv(item.width, baseX, 4),
                            MulDiv(item.height, baseY, 8), dialog,
                            reinterpret_cast<HMENU>(static_cast<LONG_PTR>(item.id)), instance,

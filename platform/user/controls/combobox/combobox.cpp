@@ -70,11 +70,13 @@ LRESULT CALLBACK ComboEditProcedure(HWND window, UINT message, WPARAM wParam, LP
 
 // --- creation
 
-/// Scroll bars that a combo box is made with are for its list.
-void TakeScrollStyle(ComboData& combo) {
+/// Scroll bars that a combo box is made with are for its list, and its edges are its own.
+void TakeFrameStyles(ComboData& combo) {
     const DWORD style = combo.Style();
     combo.scrollStyle = style & (WS_VSCROLL | WS_HSCROLL);
-    SetWindowLongA(combo.window, GWL_STYLE, static_cast<LONG>(style & ~combo.scrollStyle));
+    SetWindowLongA(combo.window, GWL_STYLE, static_cast<LONG>(style & ~(combo.scrollStyle | WS_BORDER)));
+    const LONG exStyle = GetWindowLongA(combo.window, GWL_EXSTYLE);
+    SetWindowLongA(combo.window, GWL_EXSTYLE, exStyle & ~(WS_EX_CLIENTEDGE | WS_EX_STATICEDGE | WS_EX_WINDOWEDGE));
 }
 
 bool MakeEdit(ComboData& combo, const CREATESTRUCTA& create) {
@@ -340,7 +342,7 @@ LRESULT CALLBACK ComboBoxProcedure(HWND window, UINT message, WPARAM wParam, LPA
     switch (message) {
         case WM_NCCREATE:
             combo.window = window;
-            TakeScrollStyle(combo);
+            TakeFrameStyles(combo);
             return DefWindowProcA(window, message, wParam, lParam);
         case WM_CREATE:
             return OnCreate(combo, *reinterpret_cast<const CREATESTRUCTA*>(lParam));
