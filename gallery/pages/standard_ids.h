@@ -1,0 +1,23 @@
+/* Numbers of the Standard controls page; read by the resource compiler too. */
+#pragma once
+
+#define IDS_STANDARD_TITLE 1800
+#define IDS_STANDARD_CHOSEN 1801
+#define IDS_STANDARD_VALUE 1802
+#define IDS_STANDARD_ITEM 1810 /* and the nine after it */
+
+#define IDD_STANDARD 1800
+
+#define IDC_STANDARD_SORTED 1810
+#define IDC_STANDARD_SEVERAL 1811
+#define IDC_STANDARD_CHOSEN 1812
+#define IDC_STANDARD_CHOICE 1813
+#define IDC_STANDARD_TYPED 1814
+#define IDC_STANDARD_SIMPLE 1815
+#define IDC_STANDARD_SMALL 1816
+#define IDC_STANDARD_MEDIUM 1817
+#define IDC_STANDARD_LARGE 1818
+#define IDC_STANDARD_CHECK 1819
+#define IDC_STANDARD_THREE 1820
+#define IDC_STANDARD_BAR 1821
+#define IDC_STANDARD_VALUE 1822
