@@ -3,12 +3,14 @@
 #include "core/registration.h"
 
 #include "cvutil32/animate.h"
+#include "cvutil32/browse.h"
 #include "cvutil32/buddyfr.h"
 #include "cvutil32/datectrl.h"
 #include "cvutil32/grbutton.h"
 #include "cvutil32/numfld.h"
 #include "cvutil32/scroll.h"
 #include "cvutil32/timectrl.h"
+#include "cvutil32/treelist.h"
 #include "cvutil32/util.h"
 
 namespace {
@@ -20,10 +22,12 @@ constexpr registration::Function kRegistrations[] = {
     GRBUTTON_RegisterClass,  // of "button"
     BUDDYFR_RegisterClass,   // own
     ANIMATE_RegisterClass,   // own
+    BROWSE_RegisterClass,    // of the graphic button
     SCROLL_RegisterClass,    // own
     NUMFLD_RegisterClass,    // of "edit"
     DATECTRL_RegisterClass,  // own
     TIMECTRL_RegisterClass,  // own
+    TREELIST_RegisterClass,  // own
     cklist::Register,        // of "listbox"
 };
 

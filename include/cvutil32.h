@@ -9,6 +9,7 @@
 
 #include "cvutil32/about.h"
 #include "cvutil32/animate.h"
+#include "cvutil32/browse.h"
 #include "cvutil32/buddyfr.h"
 #include "cvutil32/cklist.h"
 #include "cvutil32/datectrl.h"
@@ -19,6 +20,7 @@
 #include "cvutil32/reg.h"
 #include "cvutil32/scroll.h"
 #include "cvutil32/timectrl.h"
+#include "cvutil32/treelist.h"
 #include "cvutil32/util.h"
 
 #ifdef __cplusplus

@@ -1,4 +1,7 @@
 #include <commctrl.h>
 
-// Image lists have no window class: there is nothing to make known.
-void WINAPI InitCommonControls(void) {}
+#include "comctl/treeview.h"
+
+void WINAPI InitCommonControls(void) {
+    platform::comctl::RegisterTreeView();
+}

@@ -1,5 +1,5 @@
 /// @file commctrl.h
-/// Common controls: image lists.
+/// Common controls: image lists and the tree view.
 #pragma once
 
 #include "windows.h"
@@ -10,3 +10,4 @@
 WINCOMMCTRLAPI void WINAPI InitCommonControls(void);
 
 #include "commctrl/imagelist.h"
+#include "commctrl/treeview.h"

@@ -12,6 +12,10 @@ typedef enum CvPlatformKind {
     CV_PLATFORM_GDI_OBJECTS,
     /// Threads, events, files, find handles and registry keys together.
     CV_PLATFORM_OTHER_HANDLES,
+    /// Folders and enumerators of the shell that somebody still holds a reference to.
+    CV_PLATFORM_COMPONENT_OBJECTS,
+    /// Blocks of the shell's allocator.
+    CV_PLATFORM_SHELL_BLOCKS,
 } CvPlatformKind;
 
 /// @returns how many objects of a kind are alive in the process; 0 for an unknown kind.
@@ -20,3 +24,8 @@ WINBASEAPI size_t CvPlatformCount(CvPlatformKind kind);
 /// Makes one of the following GlobalAlloc and GlobalReAlloc calls of the process fail with ERROR_NOT_ENOUGH_MEMORY: 1
 /// means the next one, 2 the one after it, and so on. 0 takes the order back. It holds once.
 WINBASEAPI void CvPlatformFailAllocation(unsigned count);
+
+/// Makes one of the following calls of the shell's namespace fail: a flat call, a method of an interface, or an allocation
+/// of the shell's allocator. Counted as in CvPlatformFailAllocation. @returns what was left of the order before; 0 when it
+/// had been carried out.
+WINBASEAPI unsigned CvPlatformFailShell(unsigned count);

@@ -5,6 +5,7 @@
 #include "winuser/strings.h"
 #include "winuser/window.h"
 #include "winuser/messages.h"
+#include "winuser/notify.h"
 #include "winuser/input.h"
 #include "winuser/drawing.h"
 #include "winuser/painting.h"

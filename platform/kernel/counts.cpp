@@ -3,6 +3,7 @@
 #include <initializer_list>
 
 #include "base/handle.h"
+#include "base/live.h"
 
 namespace {
 
@@ -30,6 +31,10 @@ size_t CvPlatformCount(CvPlatformKind kind) {
         case CV_PLATFORM_OTHER_HANDLES:
             return Sum({HandleKind::Thread, HandleKind::Event, HandleKind::File, HandleKind::FindFile,
                         HandleKind::RegistryKey});
+        case CV_PLATFORM_COMPONENT_OBJECTS:
+            return static_cast<size_t>(platform::base::g_componentObjects.load());
+        case CV_PLATFORM_SHELL_BLOCKS:
+            return static_cast<size_t>(platform::base::g_shellBlocks.load());
     }
     return 0;
 }

@@ -75,13 +75,13 @@ void DrawStretchedBitmap(HDC context, HBITMAP bitmap, const RECT& rect) {
 
 void RegisterDialogClasses() {
     RegisterSystemClass("#32770", DefDlgProcA, CS_SAVEBITS | CS_DBLCLKS, DLGWINDOWEXTRA, IDC_ARROW, nullptr);
-    RegisterSystemClass("button", ButtonProcedure, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 0, IDC_ARROW, nullptr);
-    RegisterSystemClass("edit", EditProcedure, CS_DBLCLKS, 0, IDC_IBEAM, nullptr);
-    RegisterSystemClass("static", StaticProcedure, CS_DBLCLKS, 0, IDC_ARROW, nullptr);
-    RegisterSystemClass("listbox", ListBoxProcedure, CS_DBLCLKS, 0, IDC_ARROW, nullptr);
-    RegisterSystemClass("combobox", ComboBoxProcedure, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 0, IDC_ARROW, nullptr);
+    RegisterSystemClass("Button", ButtonProcedure, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 0, IDC_ARROW, nullptr);
+    RegisterSystemClass("Edit", EditProcedure, CS_DBLCLKS, 0, IDC_IBEAM, nullptr);
+    RegisterSystemClass("Static", StaticProcedure, CS_DBLCLKS, 0, IDC_ARROW, nullptr);
+    RegisterSystemClass("ListBox", ListBoxProcedure, CS_DBLCLKS, 0, IDC_ARROW, nullptr);
+    RegisterSystemClass("ComboBox", ComboBoxProcedure, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 0, IDC_ARROW, nullptr);
     RegisterSystemClass("ComboLBox", ListBoxProcedure, CS_DBLCLKS | CS_SAVEBITS, 0, IDC_ARROW, nullptr);
-    RegisterSystemClass("scrollbar", ScrollBarProcedure, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 0, IDC_ARROW, nullptr);
+    RegisterSystemClass("ScrollBar", ScrollBarProcedure, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 0, IDC_ARROW, nullptr);
 }
 
 }  // namespace platform::user

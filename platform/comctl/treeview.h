@@ -1,0 +1,163 @@
+/// @file treeview.h
+/// What the files of the tree view share: items, where they lie, and the steps that change them.
+///
+/// A notification may bring anything: items come and go in it, and the window may end. Whoever sends one holds the tree by
+/// its shared pointer and looks items up again by their handles.
+#pragma once
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "user/controls/controls.h"
+
+namespace platform::comctl {
+
+struct TreeItem {
+    HTREEITEM handle = nullptr;
+    TreeItem* parent = nullptr;  ///< null: stands at the root
+    TreeItem* first = nullptr;
+    TreeItem* last = nullptr;
+    TreeItem* previous = nullptr;
+    TreeItem* next = nullptr;
+    int depth = 0;
+    std::string text;
+    bool asksText = false;  ///< LPSTR_TEXTCALLBACK
+    int image = 0;
+    int selectedImage = 0;
+    int children = 0;  ///< 0, 1 or I_CHILDRENCALLBACK, as the application said or as children came and went
+    UINT state = 0;
+    LPARAM param = 0;
+    int width = -1;  ///< of the text in pixels; -1: not measured yet
+    int row = -1;    ///< among the rows; right while these are not stale
+};
+
+struct TreeView : user::ControlData {
+    HWND window = nullptr;
+
+    // --- items. A handle holds the item's slot and how often that slot was used.
+    struct Slot {
+        std::unique_ptr<TreeItem> item;
+        std::uint32_t uses = 0;
+    };
+    std::vector<Slot> slots;
+    std::vector<std::uint32_t> freeSlots;
+    TreeItem root;  ///< stands above the items of the root; `first` and `last` alone count
+    unsigned count = 0;
+
+    TreeItem* Find(HTREEITEM handle) const;
+    /// @returns an item in no list yet. Throws bad_alloc.
+    TreeItem* New();
+    void Free(TreeItem* item);
+    TreeItem* ParentOf(TreeItem* item) {
+        return item->parent ? item->parent : &root;
+    }
+    void Link(TreeItem* parent, TreeItem* item, TreeItem* after);
+    void Unlink(TreeItem* item);
+
+    // --- rows: the items whose ancestors are all expanded, from the top
+    std::vector<TreeItem*> rows;
+    bool stale = false;
+    void Refresh();
+    /// The rows never name an item that is gone.
+    void ForgetRows();
+
+    // --- what the user sees
+    TreeItem* caret = nullptr;
+    TreeItem* dropTarget = nullptr;
+    HIMAGELIST images = nullptr;
+    HIMAGELIST stateImages = nullptr;
+    HFONT font = nullptr;
+    int rowHeight = 16;
+    int indent = 19;
+    int imageWidth = 0;
+    int imageHeight = 0;
+    int top = 0;     ///< the first row shown
+    int left = 0;    ///< pixels scrolled to the left
+    int widest = 0;  ///< the right end of the widest row
+    bool focused = false;
+    bool ending = false;
+    int wheel = 0;  ///< what the wheel has turned and not scrolled yet
+
+    std::string typed;
+    DWORD typedAt = 0;
+};
+
+using TreePointer = std::shared_ptr<TreeView>;
+
+// --- items (treeview_items.cpp)
+
+HTREEITEM InsertItem(const TreePointer& tree, const TVINSERTSTRUCTA& given);
+bool GetItem(const TreePointer& tree, TVITEMA& item);
+bool SetItem(const TreePointer& tree, const TVITEMA& item);
+bool DeleteItem(const TreePointer& tree, HTREEITEM item);
+void DeleteAll(const TreePointer& tree);
+bool SortChildren(const TreePointer& tree, HTREEITEM parent, const TVSORTCB* order);
+HTREEITEM NextItem(const TreePointer& tree, WPARAM code, HTREEITEM item);
+
+/// The text of an item, asked for where the application keeps it.
+std::string TextOf(const TreePointer& tree, TreeItem* item);
+int ImageOf(const TreePointer& tree, TreeItem* item, bool selected);
+bool HasChildren(const TreePointer& tree, TreeItem* item);
+
+// --- notifications (treeview_notify.cpp)
+
+LRESULT Notify(const TreeView& tree, UINT code);
+/// Fills in what a notification tells of an item.
+TVITEMA Describe(const TreeItem* item);
+LRESULT NotifyItems(const TreeView& tree, UINT code, UINT action, const TreeItem* before, const TreeItem* after);
+LRESULT NotifyKey(const TreeView& tree, WORD key);
+
+// --- selecting and expanding (treeview_select.cpp)
+
+/// @returns false when the application refused.
+bool Select(const TreePointer& tree, HTREEITEM item, UINT action);
+/// byUser: notifications are sent each time, not only the first.
+bool Expand(const TreePointer& tree, HTREEITEM item, UINT code, bool byUser);
+bool EnsureVisible(const TreePointer& tree, HTREEITEM item);
+
+// --- where things lie (treeview_layout.cpp)
+
+void Measure(const TreePointer& tree);
+int RowsShown(const TreeView& tree, bool whole);
+/// The x at which an item's picture begins.
+int PictureLeft(const TreeView& tree, const TreeItem* item);
+RECT RowRect(const TreeView& tree, const TreeItem* item);
+/// The part with the text. The text is measured where that has not been done.
+RECT LabelRect(const TreePointer& tree, TreeItem* item);
+RECT ButtonRect(const TreeView& tree, const TreeItem* item);
+TreeItem* HitTest(const TreePointer& tree, POINT point, UINT& flags);
+void ScrollTo(const TreePointer& tree, int top, int left);
+/// Takes changes of the rows in: sets the scroll bars and keeps the view within the rows.
+void UpdateBars(const TreePointer& tree);
+void InvalidateItem(const TreeView& tree, const TreeItem* item);
+/// Invalidates an item and all below it.
+void InvalidateFrom(const TreeView& tree, const TreeItem* item);
+void OnScroll(const TreePointer& tree, int bar, UINT code);
+void OnWheel(const TreePointer& tree, int turned);
+
+inline bool HasStyle(const TreeView& tree, DWORD style) {
+    return (user::ControlStyle(tree.window) & style) != 0;
+}
+
+// --- painting (treeview_paint.cpp)
+
+void Paint(const TreePointer& tree, HDC context, const RECT& area);
+
+// --- mouse and keyboard (treeview_input.cpp)
+
+void OnButtonDown(const TreePointer& tree, POINT point, bool twice);
+void OnRightButtonDown(const TreePointer& tree);
+bool OnKeyDown(const TreePointer& tree, WPARAM key);
+void OnCharacter(const TreePointer& tree, char character);
+void OnFocus(const TreePointer& tree, bool has);
+
+/// Registers "SysTreeView32".
+void RegisterTreeView();
+
+}  // namespace platform::comctl

@@ -1,0 +1,214 @@
+// Mouse, keyboard and typing to find.
+#include <algorithm>
+
+#include "comctl/treeview.h"
+
+namespace platform::comctl {
+namespace {
+
+constexpr DWORD kPause = 1000;  ///< milliseconds after which typing begins anew
+
+bool IsDown(int key) {
+    return GetKeyState(key) < 0;
+}
+
+/// Selects a row, kept within the rows there are.
+void SelectRow(const TreePointer& tree, int row) {
+    if (!tree->rows.empty()) {
+        row = std::clamp(row, 0, static_cast<int>(tree->rows.size()) - 1);
+        Select(tree, tree->rows[static_cast<std::size_t>(row)]->handle, TVC_BYKEYBOARD);
+    }
+}
+
+/// Left: closes an open item, else goes to the parent. Right: opens a closed one, else goes to the first child.
+void Across(const TreePointer& tree, bool right) {
+    const TreeItem* item = tree->caret;
+    if (!item) {
+        return;
+    }
+    const bool open = item->first && (item->state & TVIS_EXPANDED);
+    if (right == open) {
+        const TreeItem* to = right ? item->first : item->parent;
+        if (to) {
+            Select(tree, to->handle, TVC_BYKEYBOARD);
+        }
+    } else {
+        Expand(tree, item->handle, right ? TVE_EXPAND : TVE_COLLAPSE, true);
+    }
+}
+
+/// Control with a key scrolls and leaves the selection alone.
+bool ScrollByKey(const TreePointer& tree, WPARAM key) {
+    const HWND window = tree->window;
+    switch (key) {
+        case VK_UP:
+            return SendMessageA(window, WM_VSCROLL, SB_LINEUP, 0), true;
+        case VK_DOWN:
+            return SendMessageA(window, WM_VSCROLL, SB_LINEDOWN, 0), true;
+        case VK_PRIOR:
+            return SendMessageA(window, WM_VSCROLL, SB_PAGEUP, 0), true;
+        case VK_NEXT:
+            return SendMessageA(window, WM_VSCROLL, SB_PAGEDOWN, 0), true;
+        case VK_HOME:
+            return SendMessageA(window, WM_VSCROLL, SB_TOP, 0), true;
+        case VK_END:
+            return SendMessageA(window, WM_VSCROLL, SB_BOTTOM, 0), true;
+        case VK_LEFT:
+            return SendMessageA(window, WM_HSCROLL, SB_LINEUP, 0), true;
+        case VK_RIGHT:
+            return SendMessageA(window, WM_HSCROLL, SB_LINEDOWN, 0), true;
+        default:
+            return false;
+    }
+}
+
+bool BeginsWith(const std::string& text, const std::string& beginning) {
+    return text.size() >= beginning.size() &&
+           CompareStringA(LOCALE_USER_DEFAULT, NORM_IGNORECASE, text.c_str(), static_cast<int>(beginning.size()),
+                          beginning.c_str(), static_cast<int>(beginning.size())) == CSTR_EQUAL;
+}
+
+/// Finds the next row from `start` on, around the end, whose text begins as given. @returns -1 for none.
+int FindRow(const TreePointer& tree, int start, const std::string& beginning) {
+    const int rows = static_cast<int>(tree->rows.size());
+    for (int step = 0; step < rows; ++step) {
+        const int row = (start + step) % rows;
+        if (row < static_cast<int>(tree->rows.size()) &&
+            BeginsWith(TextOf(tree, tree->rows[static_cast<std::size_t>(row)]), beginning)) {
+            return row;
+        }
+    }
+    return -1;
+}
+
+bool IsOneLetter(const std::string& text) {
+    return std::all_of(text.begin(), text.end(), [&](char one) { return one == text[0]; });
+}
+
+void Reveal(const TreePointer& tree) {
+    // Windows of 1995 choose the first item when a tree without one comes to have the focus.
+    tree->Refresh();
+    if (!tree->caret && !tree->rows.empty()) {
+        Select(tree, tree->rows[static_cast<std::size_t>(tree->top)]->handle, TVC_UNKNOWN);
+    }
+}
+
+}  // namespace
+
+void OnFocus(const TreePointer& tree, bool has) {
+    tree->focused = has;
+    if (has) {
+        Reveal(tree);
+    }
+    if (tree->caret) {
+        InvalidateItem(*tree, tree->caret);
+    }
+    Notify(*tree, has ? NM_SETFOCUS : NM_KILLFOCUS);
+}
+
+void OnButtonDown(const TreePointer& tree, POINT point, bool twice) {
+    const HWND window = tree->window;
+    if (GetFocus() != window) {
+        SetFocus(window);
+    }
+    if (tree->ending) {
+        return;
+    }
+    UINT where = 0;
+    const TreeItem* item = HitTest(tree, point, where);
+    const HTREEITEM handle = item ? item->handle : nullptr;
+    if (where & TVHT_ONITEMBUTTON) {
+        Expand(tree, handle, TVE_TOGGLE, true);
+        return;
+    }
+    if (where & TVHT_ONITEM) {
+        Select(tree, handle, TVC_BYMOUSE);
+    }
+    // The answer of a click that is not wanted is nonzero.
+    if (!tree->ending && Notify(*tree, twice ? NM_DBLCLK : NM_CLICK) == 0 && twice && (where & TVHT_ONITEM) &&
+        !tree->ending) {
+        Expand(tree, handle, TVE_TOGGLE, true);
+    }
+}
+
+void OnRightButtonDown(const TreePointer& tree) {
+    if (GetFocus() != tree->window) {
+        SetFocus(tree->window);
+    }
+    if (!tree->ending) {
+        Notify(*tree, NM_RCLICK);
+    }
+}
+
+bool OnKeyDown(const TreePointer& tree, WPARAM key) {
+    NotifyKey(*tree, static_cast<WORD>(key));
+    if (tree->ending) {
+        return true;
+    }
+    if (IsDown(VK_CONTROL)) {
+        return ScrollByKey(tree, key);
+    }
+    UpdateBars(tree);
+    const int row = tree->caret ? tree->caret->row : -1;
+    const int page = std::max(RowsShown(*tree, true) - 1, 1);
+    const HTREEITEM caret = tree->caret ? tree->caret->handle : nullptr;
+    switch (key) {
+        case VK_UP:
+            return SelectRow(tree, row - 1), true;
+        case VK_DOWN:
+            return SelectRow(tree, row + 1), true;
+        case VK_PRIOR:
+            return SelectRow(tree, row - page), true;
+        case VK_NEXT:
+            return SelectRow(tree, row + page), true;
+        case VK_HOME:
+            return SelectRow(tree, 0), true;
+        case VK_END:
+            return SelectRow(tree, static_cast<int>(tree->rows.size()) - 1), true;
+        case VK_LEFT:
+            return Across(tree, false), true;
+        case VK_RIGHT:
+            return Across(tree, true), true;
+        case VK_BACK:
+            if (tree->caret && tree->caret->parent) {
+                Select(tree, tree->caret->parent->handle, TVC_BYKEYBOARD);
+            }
+            return true;
+        case VK_ADD:
+            return Expand(tree, caret, TVE_EXPAND, true), true;
+        case VK_SUBTRACT:
+            return Expand(tree, caret, TVE_COLLAPSE, true), true;
+        case VK_RETURN:
+            return Notify(*tree, NM_RETURN), true;
+        default:
+            return false;
+    }
+}
+
+void OnCharacter(const TreePointer& tree, char character) {
+    const auto code = static_cast<unsigned char>(character);
+    if (code < ' ' || character == '+' || character == '-' || tree->rows.empty()) {
+        return;
+    }
+    const DWORD now = GetTickCount();
+    if (now - tree->typedAt > kPause) {
+        tree->typed.clear();
+    }
+    tree->typedAt = now;
+    tree->typed += character;
+    tree->Refresh();
+    const int row = tree->caret ? std::max(tree->caret->row, 0) : 0;
+    // One letter again and again goes from one item to the next.
+    const bool same = IsOneLetter(tree->typed);
+    int found = FindRow(tree, same ? row + 1 : row, same ? tree->typed.substr(0, 1) : tree->typed);
+    if (same && tree->typed.size() > 1) {
+        // Unless there is an item that begins with the letter as often as it was typed.
+        const int exact = FindRow(tree, row, tree->typed);
+        found = exact >= 0 ? exact : found;
+    }
+    if (found >= 0) {
+        SelectRow(tree, found);
+    }
+}
+
+}  // namespace platform::comctl

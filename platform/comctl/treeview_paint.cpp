@@ -1,0 +1,157 @@
+// Painting a tree view: each row in turn, its ground first, so that nothing flickers.
+#include <algorithm>
+#include <array>
+
+#include "comctl/treeview.h"
+
+namespace platform::comctl {
+namespace {
+
+constexpr int kPadding = 2;
+
+struct Pencil {
+    HDC context;
+    HBRUSH dots;
+};
+
+COLORREF Ground(const TreeView& tree) {
+    return GetSysColor(IsWindowEnabled(tree.window) ? COLOR_WINDOW : COLOR_BTNFACE);
+}
+
+/// A brush of every other pixel.
+HBRUSH MakeDots() {
+    static constexpr std::array<WORD, 8> kRows = {0x5500, 0xAA00, 0x5500, 0xAA00, 0x5500, 0xAA00, 0x5500, 0xAA00};
+    std::array<BYTE, 16> bits{};
+    for (std::size_t i = 0; i < kRows.size(); ++i) {
+        bits[2 * i] = static_cast<BYTE>(kRows[i] >> 8);
+    }
+    const HBITMAP pattern = CreateBitmap(8, 8, 1, 1, bits.data());
+    const HBRUSH brush = CreatePatternBrush(pattern);
+    DeleteObject(pattern);
+    return brush;
+}
+
+void FillDots(const Pencil& pencil, const RECT& rect) {
+    const COLORREF text = SetTextColor(pencil.context, GetSysColor(COLOR_BTNSHADOW));
+    FillRect(pencil.context, &rect, pencil.dots);
+    SetTextColor(pencil.context, text);
+}
+
+/// The lines that lead to an item, and those that pass it on their way from an ancestor to its next sibling.
+void PaintLines(const TreeView& tree, const Pencil& pencil, const TreeItem* item) {
+    const bool atRoot = HasStyle(tree, TVS_LINESATROOT);
+    const RECT row = RowRect(tree, item);
+    const int middle = (row.top + row.bottom) / 2;
+    for (const TreeItem* level = item; level && (level->depth > 0 || atRoot); level = level->parent) {
+        const int x = PictureLeft(tree, level) - tree.indent / 2 - 1;
+        if (level == item) {
+            const bool above = level->previous || level->parent;
+            FillDots(pencil, {x, above ? row.top : middle, x + 1, level->next ? row.bottom : middle + 1});
+            FillDots(pencil, {x, middle, PictureLeft(tree, level) - 1, middle + 1});
+        } else if (level->next) {
+            FillDots(pencil, {x, row.top, x + 1, row.bottom});
+        }
+    }
+}
+
+void Fill(HDC context, const RECT& rect, COLORREF colour) {
+    const COLORREF former = SetBkColor(context, colour);
+    ExtTextOutA(context, 0, 0, ETO_OPAQUE, &rect, nullptr, 0, nullptr);
+    SetBkColor(context, former);
+}
+
+void PaintButton(const TreeView& tree, HDC context, const TreeItem* item) {
+    const RECT box = ButtonRect(tree, item);
+    const COLORREF sign = GetSysColor(COLOR_WINDOWTEXT);
+    Fill(context, box, GetSysColor(COLOR_BTNSHADOW));
+    Fill(context, {box.left + 1, box.top + 1, box.right - 1, box.bottom - 1}, GetSysColor(COLOR_WINDOW));
+    Fill(context, {box.left + 2, box.top + 4, box.right - 2, box.top + 5}, sign);
+    if (!(item->state & TVIS_EXPANDED)) {
+        Fill(context, {box.left + 4, box.top + 2, box.left + 5, box.bottom - 2}, sign);
+    }
+}
+
+void PaintPictures(const TreeView& tree, HDC context, const TreeItem* item, int image) {
+    const RECT row = RowRect(tree, item);
+    int x = PictureLeft(tree, item);
+    const int y = row.top + (tree.rowHeight - tree.imageHeight) / 2;
+    if (const UINT state = item->state & TVIS_STATEIMAGEMASK; tree.stateImages && state) {
+        ImageList_Draw(tree.stateImages, static_cast<int>(state >> 12), context, x, y, ILD_TRANSPARENT);
+        x += tree.imageWidth + 3;
+    }
+    if (tree.images) {
+        const UINT cut = item->state & TVIS_CUT ? ILD_BLEND50 : 0;
+        ImageList_DrawEx(tree.images, image, context, x, y, 0, 0, CLR_NONE, Ground(tree),
+                         ILD_TRANSPARENT | cut | (item->state & TVIS_OVERLAYMASK));
+    }
+}
+
+void PaintLabel(const TreePointer& tree, HDC context, TreeItem* item, const std::string& text) {
+    const RECT label = LabelRect(tree, item);
+    COLORREF ground = Ground(*tree);
+    COLORREF ink = GetSysColor(IsWindowEnabled(tree->window) ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT);
+    const bool strong = (item->state & TVIS_DROPHILITED) || (item == tree->caret && tree->focused && !tree->dropTarget);
+    if (strong) {
+        ground = GetSysColor(COLOR_HIGHLIGHT);
+        ink = GetSysColor(COLOR_HIGHLIGHTTEXT);
+    } else if (item == tree->caret && HasStyle(*tree, TVS_SHOWSELALWAYS)) {
+        ground = GetSysColor(COLOR_BTNFACE);
+        ink = GetSysColor(COLOR_BTNTEXT);
+    }
+    TEXTMETRICA metrics{};
+    GetTextMetricsA(context, &metrics);
+    SetTextColor(context, ink);
+    SetBkColor(context, ground);
+    ExtTextOutA(context, label.left + kPadding, label.top + (tree->rowHeight - metrics.tmHeight) / 2, ETO_OPAQUE,
+                &label, text.c_str(), static_cast<UINT>(text.size()), nullptr);
+    if (strong && item == tree->caret) {
+        DrawFocusRect(context, &label);
+    }
+}
+
+void PaintRow(const TreePointer& tree, const Pencil& pencil, HTREEITEM handle) {
+    TreeItem* item = tree->Find(handle);
+    const std::string text = TextOf(tree, item);
+    item = tree->Find(handle);
+    const int image = item && tree->images ? ImageOf(tree, item, item == tree->caret) : 0;
+    item = tree->Find(handle);
+    const bool button = item && HasStyle(*tree, TVS_HASBUTTONS) &&
+                        (item->depth > 0 || HasStyle(*tree, TVS_LINESATROOT)) && HasChildren(tree, item);
+    item = tree->Find(handle);
+    if (!item || item->row < 0) {
+        return;
+    }
+    Fill(pencil.context, RowRect(*tree, item), Ground(*tree));
+    if (HasStyle(*tree, TVS_HASLINES) && pencil.dots) {
+        SetBkColor(pencil.context, Ground(*tree));
+        PaintLines(*tree, pencil, item);
+    }
+    if (button) {
+        PaintButton(*tree, pencil.context, item);
+    }
+    PaintPictures(*tree, pencil.context, item, image);
+    PaintLabel(tree, pencil.context, item, text);
+}
+
+}  // namespace
+
+void Paint(const TreePointer& tree, HDC context, const RECT& area) {
+    RECT client{};
+    GetClientRect(tree->window, &client);
+    const HGDIOBJ font = SelectObject(context, tree->font ? tree->font : GetStockObject(DEFAULT_GUI_FONT));
+    const Pencil pencil{context, HasStyle(*tree, TVS_HASLINES) ? MakeDots() : nullptr};
+    int row = tree->top + std::max<int>(area.top, 0) / tree->rowHeight;
+    int y = (row - tree->top) * tree->rowHeight;
+    for (; y < area.bottom && row < static_cast<int>(tree->rows.size()); ++row, y += tree->rowHeight) {
+        PaintRow(tree, pencil, tree->rows[static_cast<std::size_t>(row)]->handle);
+    }
+    if (y < client.bottom) {
+        Fill(context, {0, y, client.right, client.bottom}, Ground(*tree));
+    }
+    if (pencil.dots) {
+        DeleteObject(pencil.dots);
+    }
+    SelectObject(context, font);
+}
+
+}  // namespace platform::comctl

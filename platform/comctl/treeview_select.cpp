@@ -1,0 +1,203 @@
+// Selecting, expanding and collapsing.
+#include <algorithm>
+
+#include "comctl/treeview.h"
+
+namespace platform::comctl {
+namespace {
+
+bool IsBelow(const TreeItem* item, const TreeItem* ancestor) {
+    for (item = item ? item->parent : nullptr; item; item = item->parent) {
+        if (item == ancestor) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// Expands what lies above an item.
+void ShowAncestors(const TreePointer& tree, HTREEITEM handle) {
+    std::vector<HTREEITEM> closed;
+    const TreeItem* item = tree->Find(handle);
+    for (item = item ? item->parent : nullptr; item; item = item->parent) {
+        if (!(item->state & TVIS_EXPANDED)) {
+            closed.push_back(item->handle);
+        }
+    }
+    for (auto one = closed.rbegin(); one != closed.rend(); ++one) {
+        Expand(tree, *one, TVE_EXPAND, false);
+    }
+}
+
+void SetSelected(const TreePointer& tree, TreeItem* item, bool selected) {
+    if (item) {
+        item->state = selected ? item->state | TVIS_SELECTED : item->state & ~static_cast<UINT>(TVIS_SELECTED);
+        InvalidateItem(*tree, item);
+    }
+}
+
+/// Scrolls so that as many as possible of an expanded item's children are seen, and the item itself in any case.
+void ShowChildren(const TreePointer& tree, HTREEITEM handle) {
+    tree->Refresh();
+    const TreeItem* item = tree->Find(handle);
+    if (!item || item->row < 0 || !item->last) {
+        return;
+    }
+    const int shown = RowsShown(*tree, true);
+    const int children = std::min<int>(item->last->row - item->row, shown - 1);
+    if (item->row + children >= tree->top + shown) {
+        ScrollTo(tree, item->row + children - shown + 1, tree->left);
+    }
+}
+
+bool Open(const TreePointer& tree, HTREEITEM handle, bool byUser) {
+    TreeItem* item = tree->Find(handle);
+    if (item->state & TVIS_EXPANDED) {
+        return true;
+    }
+    if (!HasChildren(tree, item)) {
+        return false;
+    }
+    item = tree->Find(handle);
+    const bool tells = item && (byUser || !(item->state & TVIS_EXPANDEDONCE));
+    if (tells && NotifyItems(*tree, TVN_ITEMEXPANDINGA, TVE_EXPAND, nullptr, item)) {
+        return false;
+    }
+    item = tree->Find(handle);
+    if (!item || !item->first) {
+        // Nothing came: the item keeps its button, and may be asked again.
+        return false;
+    }
+    item->state |= TVIS_EXPANDED | TVIS_EXPANDEDONCE;
+    tree->stale = true;
+    InvalidateFrom(*tree, item);
+    UpdateBars(tree);
+    if (tells) {
+        NotifyItems(*tree, TVN_ITEMEXPANDEDA, TVE_EXPAND, nullptr, item);
+    }
+    if (byUser) {
+        ShowChildren(tree, handle);
+    }
+    return true;
+}
+
+void DeleteChildren(const TreePointer& tree, HTREEITEM handle) {
+    const TreeItem* item = tree->Find(handle);
+    const int children = item ? item->children : 0;
+    while ((item = tree->Find(handle)) && item->first) {
+        DeleteItem(tree, item->first->handle);
+    }
+    if (TreeItem* left = tree->Find(handle)) {
+        left->children = children ? children : 1;
+        left->state &= ~static_cast<UINT>(TVIS_EXPANDED | TVIS_EXPANDEDONCE);
+    }
+}
+
+bool Close(const TreePointer& tree, HTREEITEM handle, UINT code, bool byUser) {
+    TreeItem* item = tree->Find(handle);
+    if (!item->first || !(item->state & TVIS_EXPANDED)) {
+        return false;
+    }
+    const bool tells = byUser || !(item->state & TVIS_EXPANDEDONCE);
+    if (tells && NotifyItems(*tree, TVN_ITEMEXPANDINGA, code, nullptr, item)) {
+        return false;
+    }
+    item = tree->Find(handle);
+    if (!item) {
+        return true;
+    }
+    if (IsBelow(tree->caret, item)) {
+        Select(tree, handle, TVC_UNKNOWN);
+        if (!(item = tree->Find(handle))) {
+            return true;
+        }
+    }
+    item->state &= ~static_cast<UINT>(TVIS_EXPANDED);
+    InvalidateFrom(*tree, item);
+    tree->stale = true;
+    if (code & TVE_COLLAPSERESET) {
+        DeleteChildren(tree, handle);
+    }
+    UpdateBars(tree);
+    item = tree->Find(handle);
+    if (tells && item) {
+        NotifyItems(*tree, TVN_ITEMEXPANDEDA, code, nullptr, item);
+    }
+    return true;
+}
+
+}  // namespace
+
+bool Select(const TreePointer& tree, HTREEITEM handle, UINT action) {
+    TreeItem* item = tree->Find(handle);
+    if (handle && !item) {
+        return false;
+    }
+    if (item == tree->caret) {
+        return true;
+    }
+    if (NotifyItems(*tree, TVN_SELCHANGINGA, action, tree->caret, item)) {
+        return false;
+    }
+    item = tree->Find(handle);
+    if (handle && !item) {
+        return false;
+    }
+    const TVITEMA before = Describe(tree->caret);
+    SetSelected(tree, tree->caret, false);
+    tree->caret = item;
+    SetSelected(tree, item, true);
+    if (item) {
+        EnsureVisible(tree, handle);
+        item = tree->Find(handle);
+    }
+    const TreeItem* former = tree->Find(before.hItem);
+    NotifyItems(*tree, TVN_SELCHANGEDA, action, former, item);
+    return true;
+}
+
+bool Expand(const TreePointer& tree, HTREEITEM handle, UINT code, bool byUser) {
+    const TreeItem* item = tree->Find(handle);
+    if (!item) {
+        return false;
+    }
+    UINT action = code & TVE_TOGGLE;
+    if (action == TVE_TOGGLE) {
+        action = item->state & TVIS_EXPANDED ? TVE_COLLAPSE : TVE_EXPAND;
+    }
+    if (action == TVE_EXPAND) {
+        return Open(tree, handle, byUser);
+    }
+    return action == TVE_COLLAPSE && Close(tree, handle, (code & TVE_COLLAPSERESET) | TVE_COLLAPSE, byUser);
+}
+
+bool EnsureVisible(const TreePointer& tree, HTREEITEM handle) {
+    ShowAncestors(tree, handle);
+    TreeItem* const item = tree->Find(handle);
+    if (!item) {
+        return false;
+    }
+    UpdateBars(tree);
+    const int shown = std::max(RowsShown(*tree, true), 1);
+    int top = tree->top;
+    if (item->row < top) {
+        top = item->row;
+    } else if (item->row >= top + shown) {
+        top = item->row - shown + 1;
+    }
+    RECT client{};
+    GetClientRect(tree->window, &client);
+    const RECT label = LabelRect(tree, item);
+    int left = tree->left;
+    const int begin = PictureLeft(*tree, item);
+    if (begin < 0) {
+        left += begin;
+    } else if (label.right > client.right) {
+        left += std::min<int>(label.right - client.right, begin);
+    }
+    const bool moved = top != tree->top || left != tree->left;
+    ScrollTo(tree, top, left);
+    return moved;
+}
+
+}  // namespace platform::comctl

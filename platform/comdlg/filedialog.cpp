@@ -1,0 +1,264 @@
+// The open-file dialog's window: its controls, and what it does with their messages.
+#include "comdlg/filedialog.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+#include <new>
+
+#include "kernel/hostpath.h"
+#include "user/dialog.h"
+
+namespace platform::comdlg {
+namespace {
+
+user::DialogItem Item(const char* className, int id, DWORD style, int x, int y, int width, int height,
+                      const char* text = "") {
+    user::DialogItem item;
+    item.className = className;
+    item.id = id;
+    item.style = WS_CHILD | WS_VISIBLE | style;
+    item.x = static_cast<short>(x);
+    item.y = static_cast<short>(y);
+    item.width = static_cast<short>(width);
+    item.height = static_cast<short>(height);
+    item.text = text;
+    return item;
+}
+
+user::DialogTemplate Template(const OPENFILENAMEA& record) {
+    user::DialogTemplate dialog;
+    dialog.style = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN | DS_MODALFRAME | DS_3DLOOK;
+    dialog.width = 280;
+    dialog.height = record.Flags & OFN_HIDEREADONLY ? 148 : 162;
+    dialog.title = record.lpstrTitle ? record.lpstrTitle : "Open";
+    dialog.hasFont = true;
+    dialog.pointSize = 8;
+    dialog.face = "MS Sans Serif";
+    const DWORD several = record.Flags & OFN_ALLOWMULTISELECT ? LBS_EXTENDEDSEL : 0;
+    constexpr DWORD kDrawn = WS_VSCROLL | WS_TABSTOP;
+    dialog.items = {
+        Item("static", stc4, SS_LEFTNOWORDWRAP | WS_GROUP, 7, 7, 36, 8, "Look &in:"),
+        Item("combobox", cmb2, kDrawn | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS, 46, 5, 170, 120),
+        Item("button", kUpButton, BS_OWNERDRAW | WS_TABSTOP, 222, 4, 18, 14, "Up One Level"),
+        Item("listbox", lst1,
+             WS_HSCROLL | WS_TABSTOP | LBS_NOTIFY | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | LBS_NOINTEGRALHEIGHT |
+                 LBS_MULTICOLUMN | LBS_WANTKEYBOARDINPUT | several,
+             5, 23, 270, 82),
+        Item("static", stc3, SS_LEFTNOWORDWRAP, 7, 113, 46, 8, "File &name:"),
+        Item("edit", edt1, ES_AUTOHSCROLL | WS_TABSTOP, 54, 111, 155, 12),
+        Item("static", stc2, SS_LEFTNOWORDWRAP, 7, 131, 46, 8, "Files of &type:"),
+        Item("combobox", cmb1, kDrawn | CBS_DROPDOWNLIST, 54, 129, 155, 80),
+        Item("button", IDOK, BS_DEFPUSHBUTTON | WS_TABSTOP, 222, 110, 50, 14, "&Open"),
+        Item("button", IDCANCEL, BS_PUSHBUTTON | WS_TABSTOP, 222, 128, 50, 14, "Cancel"),
+    };
+    for (user::DialogItem& item : dialog.items) {
+        if (item.id == lst1 || item.id == edt1) {
+            item.exStyle = WS_EX_CLIENTEDGE;
+        }
+    }
+    if (!(record.Flags & OFN_HIDEREADONLY)) {
+        dialog.items.push_back(
+            Item("button", chx1, BS_AUTOCHECKBOX | WS_TABSTOP, 54, 147, 155, 10, "Open as &read-only"));
+    }
+    return dialog;
+}
+
+void FillFilters(FileDialog& dialog) {
+    const HWND combo = dialog.Control(cmb1);
+    dialog.filters = ReadFilters(dialog.record.lpstrFilter);
+    for (const Filter& filter : dialog.filters) {
+        SendMessageA(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(filter.name.c_str()));
+    }
+    EnableWindow(combo, !dialog.filters.empty());
+    dialog.patterns = "*.*";
+    if (!dialog.filters.empty()) {
+        const std::size_t wanted = std::max<std::size_t>(dialog.record.nFilterIndex, 1) - 1;
+        const std::size_t index = std::min(wanted, dialog.filters.size() - 1);
+        SendMessageA(combo, CB_SETCURSEL, index, 0);
+        dialog.patterns = dialog.filters[index].patterns;
+    }
+}
+
+/// Where the dialog begins: the folder of the name given, the folder asked for, the user's own.
+void Begin(FileDialog& dialog) {
+    const std::string given = dialog.record.lpstrFile ? dialog.record.lpstrFile : "";
+    const char* asked = dialog.record.lpstrInitialDir;
+    const char* home = std::getenv("HOME");
+    std::string name = given;
+    std::vector<std::vector<shell::Place>> trails;
+    if (given.size() >= 2 && given[1] == ':') {
+        const std::size_t at = given.find_last_of("\\/:") + 1;
+        trails.push_back(TrailOf(given.substr(0, at)));
+        name = given.substr(at);
+    }
+    trails.push_back(TrailOf(asked ? asked : ""));
+    trails.push_back(TrailOf(home ? kernel::WindowsPath(home) : ""));
+    trails.push_back({shell::DesktopPlace()});
+    for (std::vector<shell::Place>& trail : trails) {
+        if (GoTo(dialog, std::move(trail))) {
+            break;
+        }
+    }
+    SetDlgItemTextA(dialog.window, edt1, name.c_str());
+}
+
+BOOL OnInit(FileDialog& dialog) {
+    SendMessageA(dialog.Control(edt1), EM_LIMITTEXT, std::max<DWORD>(dialog.record.nMaxFile, MAX_PATH), 0);
+    CheckDlgButton(dialog.window, chx1, dialog.Has(OFN_READONLY) ? BST_CHECKED : BST_UNCHECKED);
+    dialog.defaultExtension = dialog.record.lpstrDefExt ? dialog.record.lpstrDefExt : "";
+    FillFilters(dialog);
+    CreateHook(dialog);
+    Begin(dialog);
+    TellHook(dialog, CDN_INITDONE);
+    SetFocus(dialog.Control(edt1));
+    SendMessageA(dialog.Control(edt1), EM_SETSEL, 0, -1);
+    return FALSE;
+}
+
+/// The names of the files selected stand in the name field.
+void OnSelection(FileDialog& dialog) {
+    std::vector<std::string> names;
+    for (const std::size_t row : SelectedRows(dialog)) {
+        if (!dialog.items[row].place.IsFolder()) {
+            names.push_back(dialog.items[row].name);
+        }
+    }
+    if (!names.empty()) {
+        SetDlgItemTextA(dialog.window, edt1, JoinNames(names).c_str());
+    }
+    TellHook(dialog, CDN_SELCHANGE);
+}
+
+void OnFolderChosen(FileDialog& dialog) {
+    const auto index = static_cast<std::size_t>(SendMessageA(dialog.Control(cmb2), CB_GETCURSEL, 0, 0));
+    if (index >= dialog.folders.size()) {
+        return;
+    }
+    // The row and those that it lies in.
+    std::vector<shell::Place> trail(static_cast<std::size_t>(dialog.folders[index].depth) + 1);
+    int depth = dialog.folders[index].depth;
+    for (std::size_t i = index + 1; i-- > 0 && depth >= 0;) {
+        if (dialog.folders[i].depth == depth) {
+            trail[static_cast<std::size_t>(depth--)] = dialog.folders[i].place;
+        }
+    }
+    if (!GoTo(dialog, std::move(trail))) {
+        MessageBeep(0);
+        FillFolders(dialog);
+    }
+}
+
+void OnFilterChosen(FileDialog& dialog) {
+    const auto index = static_cast<std::size_t>(SendMessageA(dialog.Control(cmb1), CB_GETCURSEL, 0, 0));
+    if (index < dialog.filters.size()) {
+        dialog.patterns = dialog.filters[index].patterns;
+        Refresh(dialog);
+        TellHook(dialog, CDN_TYPECHANGE);
+    }
+}
+
+void OnCommand(FileDialog& dialog, int id, UINT code) {
+    switch (id) {
+        case IDOK:
+            Accept(dialog);
+            break;
+        case IDCANCEL:
+            EndDialog(dialog.window, FALSE);
+            break;
+        case kUpButton:
+            if (code == BN_CLICKED && dialog.trail.size() > 1) {
+                GoUp(dialog);
+            }
+            break;
+        case lst1:
+            if (code == LBN_SELCHANGE) {
+                OnSelection(dialog);
+            } else if (code == LBN_DBLCLK) {
+                Accept(dialog);
+            }
+            break;
+        case cmb1:
+            if (code == CBN_SELCHANGE) {
+                OnFilterChosen(dialog);
+            }
+            break;
+        case cmb2:
+            if (code == CBN_SELCHANGE) {
+                OnFolderChosen(dialog);
+            }
+            break;
+        default:
+            break;
+    }
+}
+
+/// Backspace in the list goes to the folder above. @returns what WM_VKEYTOITEM wants: -1 for the key's own effect.
+INT_PTR OnListKey(FileDialog& dialog, WORD key) {
+    if (key != VK_BACK) {
+        return -1;
+    }
+    if (dialog.trail.size() > 1) {
+        GoUp(dialog);
+    }
+    return -2;
+}
+
+INT_PTR OnMessage(FileDialog& dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_INITDIALOG:
+            return OnInit(dialog);
+        case WM_COMMAND:
+            OnCommand(dialog, LOWORD(wParam), HIWORD(wParam));
+            return TRUE;
+        case WM_DRAWITEM:
+            DrawRow(dialog, *reinterpret_cast<DRAWITEMSTRUCT*>(lParam));
+            return TRUE;
+        case WM_VKEYTOITEM:
+            return OnListKey(dialog, LOWORD(wParam));
+        default: {
+            LRESULT result = 0;
+            if (!AnswerQuery(dialog, message, wParam, lParam, result)) {
+                return FALSE;
+            }
+            SetWindowLongPtrA(dialog.window, DWLP_MSGRESULT, result);
+            return TRUE;
+        }
+    }
+}
+
+INT_PTR CALLBACK FileDialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_MEASUREITEM) {
+        // Comes before WM_INITDIALOG.
+        MeasureRow(*reinterpret_cast<MEASUREITEMSTRUCT*>(lParam));
+        return TRUE;
+    }
+    if (message == WM_INITDIALOG) {
+        reinterpret_cast<FileDialog*>(lParam)->window = window;
+        SetWindowLongPtrA(window, DWLP_USER, lParam);
+    }
+    auto* dialog = reinterpret_cast<FileDialog*>(GetWindowLongPtrA(window, DWLP_USER));
+    if (!dialog) {
+        return FALSE;
+    }
+    try {
+        return OnMessage(*dialog, message, wParam, lParam);
+    } catch (const std::bad_alloc&) {
+        dialog->error = CDERR_MEMALLOCFAILURE;
+        EndDialog(window, FALSE);
+        return FALSE;
+    }
+}
+
+}  // namespace
+
+bool RunFileDialog(FileDialog& dialog) {
+    const INT_PTR result = user::RunDialog(dialog.record.hInstance, Template(dialog.record), dialog.record.hwndOwner,
+                                           FileDialogProcedure, reinterpret_cast<LPARAM>(&dialog));
+    if (result < 0 && dialog.error == 0) {
+        dialog.error = CDERR_DIALOGFAILURE;
+    }
+    return result > 0;
+}
+
+}  // namespace platform::comdlg

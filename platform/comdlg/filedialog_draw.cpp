@@ -1,0 +1,95 @@
+// The rows of the open-file dialog's lists: a small icon and a name.
+#include <algorithm>
+
+#include "comdlg/filedialog.h"
+#include "shell/icons.h"
+
+namespace platform::comdlg {
+namespace {
+
+constexpr int kIcon = 16;
+constexpr int kGap = 3;
+constexpr int kLevel = 10;  ///< pixels that a level of the list of folders is indented
+
+void DrawUpButton(const DRAWITEMSTRUCT& item) {
+    const bool pressed = (item.itemState & ODS_SELECTED) != 0;
+    RECT rect = item.rcItem;
+    DrawFrameControl(item.hDC, &rect, DFC_BUTTON, DFCS_BUTTONPUSH | (pressed ? DFCS_PUSHED : 0));
+    const int x = (rect.left + rect.right - kIcon) / 2 + pressed;
+    const int y = (rect.top + rect.bottom - kIcon) / 2 + pressed;
+    const UINT faded = item.itemState & ODS_DISABLED ? ILD_BLEND50 : 0;
+    ImageList_DrawEx(shell::SmallIcons(), static_cast<int>(shell::Picture::FolderUp), item.hDC, x, y, 0, 0, CLR_NONE,
+                     GetSysColor(COLOR_BTNFACE), ILD_TRANSPARENT | faded);
+    if (item.itemState & ODS_FOCUS) {
+        InflateRect(&rect, -3, -3);
+        DrawFocusRect(item.hDC, &rect);
+    }
+}
+
+void DrawName(const DRAWITEMSTRUCT& item, const Row& row, int indent, bool open) {
+    const bool selected = (item.itemState & ODS_SELECTED) != 0;
+    TEXTMETRICA metrics{};
+    GetTextMetricsA(item.hDC, &metrics);
+    SIZE size{};
+    GetTextExtentPoint32A(item.hDC, row.name.c_str(), static_cast<int>(row.name.size()), &size);
+    FillRect(item.hDC, &item.rcItem, GetSysColorBrush(COLOR_WINDOW));
+    const int y = (item.rcItem.top + item.rcItem.bottom - kIcon) / 2;
+    const int x = item.rcItem.left + 2 + indent;
+    ImageList_DrawEx(shell::SmallIcons(), static_cast<int>(shell::PictureOf(row.place, open)), item.hDC, x, y, 0, 0,
+                     CLR_NONE, GetSysColor(COLOR_HIGHLIGHT), ILD_TRANSPARENT | (selected ? ILD_BLEND50 : 0));
+    RECT label = item.rcItem;
+    label.left = x + kIcon + kGap;
+    label.right = std::min<LONG>(label.left + size.cx + 4, item.rcItem.right);
+    SetBkColor(item.hDC, GetSysColor(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+    SetTextColor(item.hDC, GetSysColor(selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
+    ExtTextOutA(item.hDC, label.left + 2, (label.top + label.bottom - metrics.tmHeight) / 2, ETO_OPAQUE | ETO_CLIPPED,
+                &label, row.name.c_str(), static_cast<UINT>(row.name.size()), nullptr);
+    if (item.itemState & ODS_FOCUS) {
+        DrawFocusRect(item.hDC, &label);
+    }
+}
+
+}  // namespace
+
+void MeasureRow(MEASUREITEMSTRUCT& measure) {
+    measure.itemHeight = kIcon + 1;
+}
+
+void DrawRow(const FileDialog& dialog, const DRAWITEMSTRUCT& item) {
+    if (item.CtlID == kUpButton) {
+        DrawUpButton(item);
+        return;
+    }
+    const bool folders = item.CtlID == cmb2;
+    const std::vector<Row>& rows = folders ? dialog.folders : dialog.items;
+    if (item.itemID < rows.size()) {
+        const Row& row = rows[item.itemID];
+        // In its closed state the list of folders shows no levels.
+        const bool inEdit = (item.itemState & ODS_COMBOBOXEDIT) != 0;
+        DrawName(item, row, folders && !inEdit ? row.depth * kLevel : 0, folders);
+    } else {
+        FillRect(item.hDC, &item.rcItem, GetSysColorBrush(COLOR_WINDOW));
+        if (item.itemState & ODS_FOCUS) {
+            DrawFocusRect(item.hDC, &item.rcItem);
+        }
+    }
+}
+
+int ColumnWidth(const FileDialog& dialog) {
+    const HWND list = dialog.Control(lst1);
+    const HDC context = GetDC(list);
+    const HGDIOBJ font = SelectObject(context, reinterpret_cast<HFONT>(SendMessageA(list, WM_GETFONT, 0, 0)));
+    LONG widest = 60;
+    for (const Row& row : dialog.items) {
+        SIZE size{};
+        GetTextExtentPoint32A(context, row.name.c_str(), static_cast<int>(row.name.size()), &size);
+        widest = std::max(widest, size.cx);
+    }
+    SelectObject(context, font);
+    ReleaseDC(list, context);
+    RECT client{};
+    GetClientRect(list, &client);
+    return std::min<int>(widest + kIcon + kGap + 12, std::max<int>(client.right, 60));
+}
+
+}  // namespace platform::comdlg

@@ -1,0 +1,190 @@
+#include "comdlg/names.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cstring>
+
+#include "kernel/wildcards.h"
+
+namespace platform::comdlg {
+namespace {
+
+char Folded(char character) {
+    return static_cast<char>(
+        reinterpret_cast<ULONG_PTR>(CharUpperA(reinterpret_cast<LPSTR>(ULONG_PTR{static_cast<BYTE>(character)}))));
+}
+
+std::string Upper(std::string_view text) {
+    std::string capitals(text);
+    CharUpperBuffA(capitals.data(), static_cast<DWORD>(capitals.size()));
+    return capitals;
+}
+
+std::string_view Trimmed(std::string_view text) {
+    while (!text.empty() && text.front() == ' ') {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && text.back() == ' ') {
+        text.remove_suffix(1);
+    }
+    return text;
+}
+
+std::size_t NameStart(std::string_view path) {
+    const std::size_t at = path.find_last_of("\\/:");
+    return at == path.npos ? 0 : at + 1;
+}
+
+std::string WithBackslash(std::string folder) {
+    if (!folder.ends_with('\\')) {
+        folder += '\\';
+    }
+    return folder;
+}
+
+void CopyText(char* to, std::size_t size, const std::string& text) {
+    if (to && size > 0) {
+        const std::size_t length = std::min(text.size(), size - 1);
+        std::memcpy(to, text.data(), length);
+        to[length] = '\0';
+    }
+}
+
+void SetOffsets(OPENFILENAMEA& record, const std::string& path) {
+    const std::size_t name = NameStart(path);
+    const std::string extension = ExtensionOf(path);
+    record.nFileOffset = static_cast<WORD>(name);
+    // Behind the dot; where there is none, at the end.
+    record.nFileExtension = static_cast<WORD>(path.size() - extension.size());
+    const std::string wanted = record.lpstrDefExt ? record.lpstrDefExt : "";
+    record.Flags &= ~static_cast<DWORD>(OFN_EXTENSIONDIFFERENT);
+    if (!wanted.empty() && lstrcmpiA(wanted.c_str(), extension.c_str()) != 0) {
+        record.Flags |= OFN_EXTENSIONDIFFERENT;
+    }
+}
+
+}  // namespace
+
+std::vector<Filter> ReadFilters(const char* pairs) {
+    std::vector<Filter> filters;
+    while (pairs && *pairs) {
+        Filter filter;
+        filter.name = pairs;
+        pairs += filter.name.size() + 1;
+        filter.patterns = pairs;
+        pairs += filter.patterns.size() + 1;
+        filters.push_back(std::move(filter));
+    }
+    return filters;
+}
+
+bool Matches(std::string_view name, std::string_view patterns) {
+    const std::string capitals = Upper(name);
+    while (!patterns.empty()) {
+        const std::size_t end = std::min(patterns.find(';'), patterns.size());
+        const std::string_view pattern = Trimmed(patterns.substr(0, end));
+        if (!pattern.empty() && kernel::MatchesWildcards(Upper(pattern), capitals)) {
+            return true;
+        }
+        patterns.remove_prefix(std::min(end + 1, patterns.size()));
+    }
+    return false;
+}
+
+std::vector<std::string> SplitNames(std::string_view text) {
+    text = Trimmed(text);
+    if (text.find('"') == text.npos) {
+        return text.empty() ? std::vector<std::string>() : std::vector<std::string>{std::string(text)};
+    }
+    std::vector<std::string> names;
+    std::string name;
+    bool quoted = false;
+    for (const char character : std::string(text) + ' ') {
+        if (character == '"') {
+            quoted = !quoted;
+        } else if (character != ' ' || quoted) {
+            name += character;
+        } else if (!name.empty()) {
+            names.push_back(std::move(name));
+            name.clear();
+        }
+    }
+    // The last quote may be missing.
+    if (const std::string_view last = Trimmed(name); !last.empty()) {
+        names.emplace_back(last);
+    }
+    return names;
+}
+
+std::string JoinNames(const std::vector<std::string>& names) {
+    if (names.size() == 1) {
+        return names.front();
+    }
+    std::string text;
+    for (const std::string& name : names) {
+        text += (text.empty() ? "\"" : " \"") + name + '"';
+    }
+    return text;
+}
+
+std::string FullPath(const std::string& folder, std::string_view typed) {
+    std::string path(typed);
+    std::replace(path.begin(), path.end(), '/', '\\');
+    const bool drive = path.size() >= 2 && path[1] == ':' && std::isalpha(static_cast<unsigned char>(path[0]));
+    if (!drive) {
+        path = path.starts_with('\\') && folder.size() >= 2 ? folder.substr(0, 2) + path : WithBackslash(folder) + path;
+    }
+    std::string full = path.substr(0, 2);
+    full[0] = Folded(full[0]);
+    for (std::size_t at = 2; at < path.size();) {
+        const std::size_t begin = std::min(path.find_first_not_of('\\', at), path.size());
+        const std::size_t end = std::min(path.find('\\', begin), path.size());
+        const std::string part = path.substr(begin, end - begin);
+        if (part == "..") {
+            full.resize(std::max<std::size_t>(full.rfind('\\') == full.npos ? 2 : full.rfind('\\'), 2));
+        } else if (!part.empty() && part != ".") {
+            full += '\\' + part;
+        }
+        at = end;
+    }
+    return full.size() == 2 ? full + '\\' : full;
+}
+
+std::string ExtensionOf(std::string_view path) {
+    const std::string_view name = path.substr(NameStart(path));
+    const std::size_t dot = name.rfind('.');
+    return dot == name.npos ? std::string() : std::string(name.substr(dot + 1));
+}
+
+std::size_t WriteChoice(OPENFILENAMEA& record, const Choice& choice) {
+    std::string text;
+    if (choice.names.size() == 1) {
+        text = WithBackslash(choice.folder) + choice.names.front() + '\0';
+    } else {
+        text = choice.folder + '\0';
+        for (const std::string& name : choice.names) {
+            text += name + '\0';
+        }
+    }
+    if (record.Flags & OFN_ALLOWMULTISELECT) {
+        text += '\0';
+    }
+    if (!record.lpstrFile) {
+        return 0;
+    }
+    if (text.size() > record.nMaxFile) {
+        return text.size();
+    }
+    std::memcpy(record.lpstrFile, text.data(), text.size());
+    if (choice.names.size() == 1) {
+        SetOffsets(record, record.lpstrFile);
+    } else {
+        record.nFileOffset = static_cast<WORD>(choice.folder.size() + 1);
+        record.nFileExtension = 0;
+    }
+    CopyText(record.lpstrFileTitle, record.nMaxFileTitle,
+             choice.names.size() == 1 ? choice.names.front() : std::string());
+    return 0;
+}
+
+}  // namespace platform::comdlg

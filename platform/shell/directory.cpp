@@ -1,0 +1,123 @@
+#include "shell/directory.h"
+
+#include <windows.h>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <memory>
+
+#include "kernel/encoding.h"
+
+namespace platform::shell {
+namespace {
+
+struct Closer {
+    void operator()(DIR* directory) const {
+        closedir(directory);
+    }
+};
+using Directory = std::unique_ptr<DIR, Closer>;
+
+Directory Open(const std::string& path) {
+    const int file = open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK);
+    if (file < 0) {
+        return nullptr;
+    }
+    DIR* const directory = fdopendir(file);
+    if (!directory) {
+        close(file);
+    }
+    return Directory(directory);
+}
+
+bool IsDots(const char* name) {
+    return name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'));
+}
+
+bool IsFolder(const Directory& directory, const dirent& entry) {
+    if (entry.d_type == DT_DIR) {
+        return true;
+    }
+    if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN) {
+        return false;
+    }
+    struct stat facts {};
+    return fstatat(dirfd(directory.get()), entry.d_name, &facts, 0) == 0 && S_ISDIR(facts.st_mode);
+}
+
+bool SameText(const std::string& a, const std::string& b) {
+    return CompareStringA(LOCALE_USER_DEFAULT, NORM_IGNORECASE, a.c_str(), static_cast<int>(a.size()), b.c_str(),
+                          static_cast<int>(b.size())) == CSTR_EQUAL;
+}
+
+}  // namespace
+
+int ReadDirectory(const std::string& path, Wanted wanted, std::vector<Entry>& entries) {
+    const Directory directory = Open(path);
+    if (!directory) {
+        return errno;
+    }
+    while (const dirent* found = readdir(directory.get())) {
+        const bool hidden = found->d_name[0] == '.';
+        if (IsDots(found->d_name) || (hidden && !wanted.hidden)) {
+            continue;
+        }
+        const bool folder = IsFolder(directory, *found);
+        if (folder ? wanted.folders : wanted.files) {
+            entries.push_back({found->d_name, folder, hidden});
+        }
+    }
+    std::sort(entries.begin(), entries.end(),
+              [](const Entry& a, const Entry& b) { return a.folder != b.folder ? a.folder : a.name < b.name; });
+    return 0;
+}
+
+bool HasSubfolder(const std::string& path) {
+    const Directory directory = Open(path);
+    if (!directory) {
+        return false;
+    }
+    while (const dirent* found = readdir(directory.get())) {
+        if (found->d_name[0] != '.' && IsFolder(directory, *found)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool Exists(const std::string& path, bool& folder) {
+    struct stat facts {};
+    if (stat(path.c_str(), &facts) != 0) {
+        return false;
+    }
+    folder = S_ISDIR(facts.st_mode);
+    return true;
+}
+
+std::string FindEntry(const std::string& path, const std::string& name) {
+    const std::string exact = kernel::Utf8FromAnsi(name);
+    if (exact.empty() || exact == "." || exact == ".." || exact.find('/') != exact.npos) {
+        return {};
+    }
+    bool folder = false;
+    if (Exists(path + '/' + exact, folder)) {
+        return exact;
+    }
+    const Directory directory = Open(path);
+    std::string found;
+    while (const dirent* entry = directory ? readdir(directory.get()) : nullptr) {
+        if (!IsDots(entry->d_name) && SameText(kernel::AnsiFromUtf8(entry->d_name), name) &&
+            (found.empty() || entry->d_name < found)) {
+            found = entry->d_name;
+        }
+    }
+    return found;
+}
+
+}  // namespace platform::shell

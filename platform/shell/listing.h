@@ -1,0 +1,26 @@
+/// @file listing.h
+/// What a folder of the namespace holds.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "shell/place.h"
+
+namespace platform::shell {
+
+struct Listed {
+    ItemKind kind;
+    bool hidden;
+    std::string name;
+
+    Item AsItem() const {
+        return {kind, hidden, name};
+    }
+};
+using Listing = std::vector<Listed>;
+
+/// Adds the items of a folder: folders first, each kind by name. flags: SHCONTF_ bits.
+HRESULT ListItems(const Place& place, SHCONTFLAGS flags, Listing& listing);
+
+}  // namespace platform::shell

@@ -1,0 +1,78 @@
+/// @file live.h
+/// What every entry of the shell passes through: objects and blocks are counted while they live, and a test can have
+/// one call fail.
+#pragma once
+
+#include <windows.h>
+
+#include <objbase.h>
+
+#include <atomic>
+#include <cstddef>
+#include <new>
+
+namespace platform::shell {
+
+/// @returns true when the test's order makes this very call fail.
+bool FailsNow();
+
+void CountObject(int change);
+void CountBlock(int change);
+
+/// Reference counting of one interface. Made with one reference; the last Release deletes the object.
+template <class Interface>
+class Counted : public Interface {
+  public:
+    Counted() {
+        CountObject(1);
+    }
+    Counted(const Counted&) = delete;
+    Counted& operator=(const Counted&) = delete;
+    virtual ~Counted() {
+        CountObject(-1);
+    }
+
+    STDMETHODIMP_(ULONG) AddRef() override {
+        return ++references_;
+    }
+    STDMETHODIMP_(ULONG) Release() override {
+        const ULONG left = --references_;
+        if (left == 0) {
+            delete this;
+        }
+        return left;
+    }
+
+  protected:
+    /// QueryInterface for an object that has IUnknown and one more interface.
+    HRESULT Answer(REFIID asked, REFIID own, void** object) {
+        if (!object) {
+            return E_POINTER;
+        }
+        if (asked != IID_IUnknown && asked != own) {
+            *object = nullptr;
+            return E_NOINTERFACE;
+        }
+        AddRef();
+        *object = static_cast<Interface*>(this);
+        return S_OK;
+    }
+
+  private:
+    std::atomic<ULONG> references_{1};
+};
+
+/// Runs the body of a method: no exception leaves it, and a test may have it fail.
+template <class Body>
+HRESULT Method(Body body) noexcept {
+    if (FailsNow()) {
+        return E_FAIL;
+    }
+    try {
+        return body();
+    } catch (const std::exception&) {
+        return E_OUTOFMEMORY;
+    }
+}
+
+}  // namespace platform::shell

@@ -1,0 +1,285 @@
+// The browse button: its options and buddy, what a click does, the folder dialog and the hook of the file dialog.
+#include <cvutil32/browse.h>
+#include <cvutil32/treelist.h>
+
+#include "tests/controls/folder_tree.h"
+#include "tests/support/leaks.h"
+#include "tests/support/temp_folder.h"
+#include "tests/support/window.h"
+
+#include <commdlg.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace {
+
+using testing_support::LeakCheck;
+using testing_support::Message;
+using testing_support::TempFolder;
+using testing_support::TestWindow;
+
+constexpr int kButtonId = 20;
+constexpr int kBuddyId = 21;
+
+HWND Create(LPCSTR className, HWND parent, DWORD style, int id) {
+    HWND const window =
+        CreateWindowExA(0, className, "", WS_CHILD | WS_VISIBLE | style, 10, 10, 80, 20, parent,
+                        reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleA(nullptr), nullptr);
+    EXPECT_NE(nullptr, window) << className;
+    return window;
+}
+
+std::string TextOf(HWND window) {
+    char text[MAX_PATH];
+    GetWindowTextA(window, text, sizeof text);
+    return text;
+}
+
+std::string SpecsOf(HWND button) {
+    char const* specs = nullptr;
+    return BROWSE_GetFileSpecs(button, &specs) ? specs : "(none)";
+}
+
+/// What is done to the folder dialog once it is open.
+std::function<void(HWND)> g_act;
+
+void CALLBACK Act(HWND, UINT, UINT_PTR timer, DWORD) {
+    HWND const dialog = FindWindowA("#32770", "Browse for Folder");
+    if (dialog && IsWindowVisible(dialog)) {
+        KillTimer(nullptr, timer);
+        g_act(dialog);
+    }
+}
+
+void WhenOpen(std::function<void(HWND)> act) {
+    g_act = std::move(act);
+    SetTimer(nullptr, 0, 10, Act);
+}
+
+void SelectByKey(HWND tree, std::string const& folder) {
+    HTREEITEM const item = folder_tree::Reach(tree, folder);
+    EXPECT_NE(nullptr, item);
+    // The item above it first, so that a key comes to it.
+    folder_tree::Select(tree, folder_tree::Next(tree, TVGN_PREVIOUSVISIBLE, item));
+    folder_tree::Send(tree, WM_KEYDOWN, VK_DOWN, 1);
+}
+
+class BrowseButton : public testing::Test {
+  protected:
+    HWND MakeButton(DWORD style) {
+        return Create(BROWSE_CLASSNAME, host_, style, kButtonId);
+    }
+    void Click(HWND button, WORD code = BN_CLICKED) {
+        SendMessageA(host_, WM_COMMAND, MAKEWPARAM(kButtonId, code), reinterpret_cast<LPARAM>(button));
+    }
+    /// The codes of the commands that the parent got from a window.
+    std::vector<int> CodesFrom(HWND window) const {
+        std::vector<int> codes;
+        for (Message const& command : host_.Received(WM_COMMAND)) {
+            if (reinterpret_cast<HWND>(command.lParam) == window) {
+                codes.push_back(HIWORD(command.wParam));
+            }
+        }
+        return codes;
+    }
+
+    TestWindow host_;
+};
+
+TEST_F(BrowseButton, OptionsComeFromTheStyleAndTheButtonIsOwnerDrawn) {
+    HWND const button = MakeButton(BROWSE_FILEMODE | BROWSE_NOTIFY | WS_TABSTOP);
+    EXPECT_EQ(DWORD{BS_OWNERDRAW}, static_cast<DWORD>(GetWindowLongA(button, GWL_STYLE)) & 0xFFFF);
+    EXPECT_EQ(DWORD{BROWSE_FILEMODE | BROWSE_NOTIFY}, BROWSE_GetDialogOptions(button));
+    // The whole word comes back, not only what the getter tells.
+    DWORD const before = BROWSE_SetDialogOptions(button, BROWSE_APPEND | BROWSE_NOACTION | BROWSE_AUTOBUDDY);
+    // WS_VISIBLE comes later than the options are taken.
+    EXPECT_EQ(DWORD{WS_CHILD | WS_TABSTOP | BROWSE_FILEMODE | BROWSE_NOTIFY}, before & ~DWORD{WS_VISIBLE});
+    EXPECT_EQ(DWORD{BROWSE_APPEND}, BROWSE_GetDialogOptions(button));
+    EXPECT_EQ(DWORD{WS_CHILD | WS_TABSTOP | BROWSE_APPEND}, BROWSE_SetDialogOptions(button, 0) & ~DWORD{WS_VISIBLE});
+    EXPECT_EQ(0U, BROWSE_GetDialogOptions(nullptr));
+    EXPECT_EQ(0U, BROWSE_SetDialogOptions(nullptr, 2));
+}
+
+TEST_F(BrowseButton, TheBuddyIsTheNearestFieldBeforeIt) {
+    HWND const edit = Create("edit", host_, 0, 1);
+    Create("static", host_, 0, 2);
+    HWND const button = MakeButton(BROWSE_AUTOBUDDY);
+    EXPECT_EQ(edit, BROWSE_SetBuddyWindow(button, host_));
+    HWND const combo = Create("combobox", host_, CBS_DROPDOWN, 3);
+    HWND const second = MakeButton(BROWSE_AUTOBUDDY);
+    EXPECT_EQ(combo, BROWSE_SetBuddyWindow(second, edit));
+    EXPECT_EQ(edit, BROWSE_SetBuddyWindow(second, combo));
+    EXPECT_EQ(nullptr, BROWSE_SetBuddyWindow(MakeButton(0), edit));
+    EXPECT_EQ(nullptr, BROWSE_SetBuddyWindow(second, nullptr));
+    EXPECT_EQ(nullptr, BROWSE_SetBuddyWindow(nullptr, edit));
+    EXPECT_EQ(combo, BROWSE_SetBuddyWindow(second, combo));
+}
+
+TEST_F(BrowseButton, FileSpecsAreATextOfTheButton) {
+    HWND const button = MakeButton(0);
+    EXPECT_EQ("", SpecsOf(button));
+    // The answer is FALSE in any case.
+    EXPECT_FALSE(BROWSE_SetFileSpecs(button, "C:\\a;b"));
+    EXPECT_EQ("C:\\a;b", SpecsOf(button));
+    EXPECT_FALSE(BROWSE_SetFileSpecs(button, nullptr));
+    EXPECT_EQ("C:\\a;b", SpecsOf(button));
+    EXPECT_FALSE(BROWSE_GetFileSpecs(button, nullptr));
+    EXPECT_EQ("(none)", SpecsOf(nullptr));
+}
+
+TEST_F(BrowseButton, ClicksThatOpenNothing) {
+    HWND const edit = Create("edit", host_, 0, kBuddyId);
+    SetWindowTextA(edit, "text");
+    HWND const idle = MakeButton(BROWSE_AUTOBUDDY | BROWSE_NOACTION);
+    HWND const lonely = MakeButton(0);
+    host_.Forget();
+    Click(idle);
+    Click(lonely);
+    Click(MakeButton(BROWSE_AUTOBUDDY), BN_SETFOCUS);
+    EXPECT_EQ((std::vector<int>{BN_CLICKED}), CodesFrom(idle));
+    EXPECT_EQ((std::vector<int>{BN_CLICKED}), CodesFrom(lonely));
+    EXPECT_EQ("", SpecsOf(idle));
+    EXPECT_EQ("text", TextOf(edit));
+}
+
+TEST_F(BrowseButton, AChosenFolderComesInSmallLettersAndTheParentIsTold) {
+    TempFolder const folder;
+    std::string const path = folder.MakeFolder("Chosen");
+    folder.MakeFolder("Before");
+    HWND const edit = Create("edit", host_, 0, kBuddyId);
+    SetWindowTextA(edit, "old");
+    HWND const button = MakeButton(BROWSE_AUTOBUDDY | BROWSE_NOTIFY);
+    host_.Forget();
+    bool disabledAtFirst = false;
+    bool enabledLater = false;
+    WhenOpen([&](HWND dialog) {
+        disabledAtFirst = !IsWindowEnabled(GetDlgItem(dialog, IDOK));
+        SelectByKey(GetDlgItem(dialog, 102), path);
+        enabledLater = IsWindowEnabled(GetDlgItem(dialog, IDOK));
+        PostMessageA(dialog, WM_COMMAND, IDOK, 0);
+    });
+    Click(button);
+    EXPECT_TRUE(disabledAtFirst);
+    EXPECT_TRUE(enabledLater);
+    std::string lower = path;
+    CharLowerA(lower.data());
+    EXPECT_EQ(lower, TextOf(edit));
+    EXPECT_EQ(lower, SpecsOf(button));
+    EXPECT_EQ((std::vector<int>{BN_CLICKED, BRN_BEFOREBROWSE, BRN_AFTERBROWSE}), CodesFrom(button));
+    // What the application sees as the user's typing comes last, once more than from the field itself.
+    auto const codes = CodesFrom(edit);
+    ASSERT_FALSE(codes.empty());
+    EXPECT_EQ(EN_CHANGE, codes.back());
+}
+
+TEST_F(BrowseButton, AppendsToAComboBoxBehindASemicolon) {
+    TempFolder const folder;
+    std::string path = folder.MakeFolder("b");
+    HWND const combo = Create("combobox", host_, CBS_DROPDOWN, kBuddyId);
+    SetWindowTextA(combo, "first");
+    HWND const button = MakeButton(BROWSE_AUTOBUDDY | BROWSE_APPEND);
+    host_.Forget();
+    WhenOpen([&](HWND dialog) {
+        SelectByKey(GetDlgItem(dialog, 102), path);
+        PostMessageA(dialog, WM_COMMAND, IDOK, 0);
+    });
+    Click(button);
+    CharLowerA(path.data());
+    EXPECT_EQ("first;" + path, TextOf(combo));
+    auto const codes = CodesFrom(combo);
+    ASSERT_FALSE(codes.empty());
+    EXPECT_EQ(CBN_EDITCHANGE, codes.back());
+}
+
+TEST_F(BrowseButton, CancelLeavesTheBuddyAlone) {
+    HWND const edit = Create("edit", host_, 0, kBuddyId);
+    SetWindowTextA(edit, "kept");
+    HWND const button = MakeButton(BROWSE_AUTOBUDDY | BROWSE_NOTIFY);
+    host_.Forget();
+    WhenOpen([](HWND dialog) { PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0); });
+    Click(button);
+    EXPECT_EQ("kept", TextOf(edit));
+    EXPECT_EQ("kept", SpecsOf(button));
+    EXPECT_EQ((std::vector<int>{BN_CLICKED, BRN_BEFOREBROWSE}), CodesFrom(button));
+}
+
+TEST_F(BrowseButton, WindowsMayEndWhileTheyBrowse) {
+    HWND const edit = Create("edit", host_, 0, kBuddyId);
+    HWND const button = MakeButton(BROWSE_AUTOBUDDY | BROWSE_NOTIFY);
+    host_.answer = [=](Message const& message) -> std::optional<LRESULT> {
+        if (message.id == WM_COMMAND && HIWORD(message.wParam) == BRN_BEFOREBROWSE) {
+            DestroyWindow(button);
+        }
+        return std::nullopt;
+    };
+    Click(button);
+    EXPECT_FALSE(IsWindow(button));
+
+    host_.answer = nullptr;
+    HWND const second = MakeButton(BROWSE_AUTOBUDDY);
+    WhenOpen([=](HWND dialog) {
+        DestroyWindow(edit);
+        PostMessageA(dialog, WM_COMMAND, IDOK, 0);
+    });
+    Click(second);
+    EXPECT_TRUE(IsWindow(second));
+}
+
+TEST_F(BrowseButton, DialogsRefuseWhatTheyCannotUse) {
+    char buffer[8] = "same";
+    EXPECT_FALSE(BROWSE_DisplayBrowseDialog(nullptr, "", "", buffer, sizeof buffer, 0));
+    EXPECT_FALSE(BROWSE_DisplayBrowseDialog(host_, "", "", nullptr, sizeof buffer, 0));
+    EXPECT_FALSE(BROWSE_DisplayBrowseDialog(host_, "", "", buffer, 0, 0));
+    EXPECT_STREQ("same", buffer);
+    TempFolder const folder;
+    WhenOpen([&](HWND dialog) {
+        SelectByKey(GetDlgItem(dialog, 102), folder.Path());
+        PostMessageA(dialog, WM_COMMAND, IDOK, 0);
+    });
+    EXPECT_TRUE(BROWSE_DisplayBrowseDialog(host_, nullptr, nullptr, buffer, 5, 0));
+    std::string lower = folder.Path().substr(0, 4);
+    CharLowerA(lower.data());
+    EXPECT_EQ(lower, buffer);
+}
+
+TEST_F(BrowseButton, TheHookNamesTheButtonAndJudgesTheFile) {
+    HWND const accept = Create("button", host_, 0, IDOK);
+    EXPECT_EQ(1U, browse_DialogFileHookProc(host_, WM_INITDIALOG, 0, 0));
+    NMHDR notification = {};
+    notification.hwndFrom = host_;
+    notification.code = CDN_INITDONE;
+    EXPECT_EQ(0U, browse_DialogFileHookProc(host_, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&notification)));
+    EXPECT_EQ("OK", TextOf(accept));
+
+    TempFolder const folder;
+    std::string file = folder.MakeFile("there.txt");
+    OPENFILENAMEA record = {};
+    record.lpstrFile = file.data();
+    auto const judge = [&] {
+        return browse_DialogFileHookProc(host_, RegisterWindowMessageA("commdlg_FileNameOK"), 0,
+                                         reinterpret_cast<LPARAM>(&record));
+    };
+    EXPECT_EQ(0U, judge());
+    std::string missing = folder.Path("missing.txt");
+    record.lpstrFile = missing.data();
+    EXPECT_EQ(1U, judge());
+    record.Flags = OFN_ALLOWMULTISELECT;
+    EXPECT_EQ(0U, judge());
+    EXPECT_EQ(0U, browse_DialogFileHookProc(host_, WM_COMMAND, IDOK, 0));
+}
+
+TEST(BrowseButtonEnd, LeavesNothingBehind) {
+    LeakCheck const leaks;
+    TestWindow host;
+    HWND const edit = Create("edit", host, 0, kBuddyId);
+    HWND const button = Create(BROWSE_CLASSNAME, host, BROWSE_AUTOBUDDY, kButtonId);
+    BROWSE_SetFileSpecs(button, "something that takes memory of its own");
+    EXPECT_NE(nullptr, GetPropA(button, "Browse_IsValid"));
+    EXPECT_NE(nullptr, GetPropA(host, "Browse_ParentWndProc"));
+    DestroyWindow(button);
+    DestroyWindow(edit);
+}
+
+}  // namespace
