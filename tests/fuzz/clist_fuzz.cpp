@@ -4,8 +4,8 @@
 
 #include <algorithm>
 #include <cstring>
-#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tests/fuzz/halving.h"
@@ -42,7 +42,21 @@ int Compare(string const& first, string const& second) {
 }
 
 /// What an element holds; nothing where the list holds no element, but an empty slot.
-using Slot = std::optional<string>;
+struct Slot {
+    Slot() = default;
+    Slot(string text) : held(true), content(std::move(text)) {}
+
+    explicit operator bool() const {
+        return held;
+    }
+    string const& operator*() const {
+        return content;
+    }
+    bool operator==(Slot const&) const = default;
+
+    bool held = false;
+    string content;
+};
 
 class Pair {
   public:
