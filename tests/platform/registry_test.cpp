@@ -3,6 +3,7 @@
 
 #include <cstring>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -19,10 +20,25 @@ class RegistryTest : public ::testing::Test {
         RegCloseKey(key_);
         Clear();
     }
+    // Whatever a run that was ended left there goes too.
     static void Clear() {
-        for (const char* sub : {"\\b\\c\\d", "\\b\\c", "\\b", "\\A", "\\z", ""}) {
-            RegDeleteKeyA(HKEY_CURRENT_USER, (kPath + std::string(sub)).c_str());
+        DeleteTree(kPath);
+    }
+    static void DeleteTree(const std::string& path) {
+        HKEY key = nullptr;
+        if (RegOpenKeyExA(HKEY_CURRENT_USER, path.c_str(), 0, KEY_READ, &key) != ERROR_SUCCESS) {
+            return;
         }
+        std::vector<std::string> names;
+        char name[512];
+        for (DWORD i = 0; RegEnumKeyA(key, i, name, sizeof name) == ERROR_SUCCESS; ++i) {
+            names.emplace_back(name);
+        }
+        RegCloseKey(key);
+        for (const std::string& sub : names) {
+            DeleteTree(path + "\\" + sub);
+        }
+        RegDeleteKeyA(HKEY_CURRENT_USER, path.c_str());
     }
     HKEY Make(const char* path) const {
         HKEY key = nullptr;
