@@ -53,7 +53,8 @@ SCROLLINFO Bar(int range, int page, int position) {
     info.cbSize = sizeof info;
     info.fMask = SIF_ALL;
     info.nMax = std::max(range - 1, 0);
-    info.nPage = static_cast<UINT>(std::max(page, 0));
+    // A page is never longer than the range.
+    info.nPage = static_cast<UINT>(std::clamp(page, 0, info.nMax + 1));
     info.nPos = position;
     return info;
 }

@@ -2,6 +2,7 @@
 #include <cvutil32.h>
 
 #include <cvutil32/animate.h>
+#include <cvutil32/browse.h>
 #include <cvutil32/buddyfr.h>
 #include <cvutil32/cklist.h>
 #include <cvutil32/datectrl.h>
@@ -9,6 +10,7 @@
 #include <cvutil32/numfld.h>
 #include <cvutil32/scroll.h>
 #include <cvutil32/timectrl.h>
+#include <cvutil32/treelist.h>
 #include <cvutil32/util.h>
 
 BOOL HeadersServeC(void);
@@ -20,5 +22,6 @@ BOOL HeadersServeC(void) {
     date.wDay = 31;
     return DATECTRL_IncrementDate(&date, DATECTRL_DAY) && date.wYear == 1996 && UTIL_GetModuleInstance() != NULL &&
            SCROLL_SetAssociateWindow(NULL, NULL) == NULL && !GRBUTTON_SetHBitmaps(NULL, NULL, NULL) &&
-           !ANIMATE_Stop(NULL) && TIMECTRL_IncrementTime(&date, TIMECTRL_SECOND) && NUMFLD_GetValue(NULL) == 0;
+           !ANIMATE_Stop(NULL) && TIMECTRL_IncrementTime(&date, TIMECTRL_SECOND) && NUMFLD_GetValue(NULL) == 0 &&
+           BROWSE_GetDialogOptions(NULL) == 0 && TREELIST_GetFolder(NULL, NULL) == 0;
 }

@@ -1,0 +1,306 @@
+// The browse button in the user's hands: real input from the click on the button to the path in the field, on a drive of
+// the test's own.
+#include <cvutil32/browse.h>
+
+#include "tests/controls/folder_tree.h"
+#include "tests/support/leaks.h"
+#include "tests/support/window.h"
+
+#include <commdlg.h>
+#include <dlgs.h>
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+using testing_support::TestWindow;
+
+void Key(WORD key, bool down) {
+    INPUT input = {};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    input.ki.wScan = static_cast<WORD>(MapVirtualKeyA(key, MAPVK_VK_TO_VSC));
+    input.ki.dwFlags = down ? 0 : KEYEVENTF_KEYUP;
+    SendInput(1, &input, sizeof input);
+}
+
+void Press(std::vector<WORD> const& keys) {
+    for (WORD const key : keys) {
+        Key(key, true);
+        Key(key, false);
+    }
+}
+
+void Click(HWND window, POINT at, int times = 1) {
+    ClientToScreen(window, &at);
+    SetCursorPos(at.x, at.y);
+    for (int i = 0; i < times; ++i) {
+        for (DWORD const flags : {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP}) {
+            INPUT input = {};
+            input.type = INPUT_MOUSE;
+            input.mi.dwFlags = flags;
+            SendInput(1, &input, sizeof input);
+        }
+    }
+}
+
+void ClickMiddle(HWND window) {
+    RECT client;
+    GetClientRect(window, &client);
+    Click(window, {client.right / 2, client.bottom / 2});
+}
+
+/// What the user does, a step at a time: each once the one before has come to rest.
+class Hands {
+  public:
+    using Step = std::function<void(HWND dialog)>;
+
+    explicit Hands(std::vector<Step> steps) {
+        g_steps = std::move(steps);
+        g_next = 0;
+        timer_ = SetTimer(nullptr, 0, 20, Tick);
+    }
+    ~Hands() {
+        KillTimer(nullptr, timer_);
+        EXPECT_EQ(g_steps.size(), g_next) << "not all was done";
+        g_steps.clear();
+    }
+    Hands(Hands const&) = delete;
+    Hands& operator=(Hands const&) = delete;
+
+  private:
+    static void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD) {
+        HWND const dialog = GetForegroundWindow();
+        char name[16] = "";
+        GetClassNameA(dialog, name, sizeof name);
+        if (g_next < g_steps.size() && lstrcmpA(name, "#32770") == 0) {
+            g_steps[g_next++](dialog);
+        }
+    }
+
+    static std::vector<Step> g_steps;
+    static std::size_t g_next;
+    UINT_PTR timer_;
+};
+
+std::vector<Hands::Step> Hands::g_steps;
+std::size_t Hands::g_next = 0;
+
+class BrowseInput : public testing::Test {
+  protected:
+    void SetUp() override {
+        char const* home = std::getenv("CVUTIL32_HOME");
+        if (!home) {
+            GTEST_SKIP() << "needs a state folder of its own";
+        }
+        root_ = fs::path(home) / "drive_c" / "walk";
+        fs::remove_all(root_);
+        fs::create_directories(root_ / "one" / "two" / "three");
+        fs::create_directories(root_ / "other");
+        for (char const* name : {"a.txt", "b.txt", "c.txt", "d.doc"}) {
+            std::ofstream(root_ / name) << name;
+        }
+        edit_ = CreateWindowExA(0, "edit", "", WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL, 10, 10, 200, 20, host_, nullptr,
+                                nullptr, nullptr);
+    }
+    void TearDown() override {
+        if (!root_.empty()) {
+            fs::remove_all(root_);
+        }
+    }
+
+    /// Presses the button and lets the hands do the rest. @return what stands in the field.
+    std::string Browse(DWORD options, std::vector<Hands::Step> steps) {
+        HWND const button = CreateWindowExA(0, BROWSE_CLASSNAME, "", WS_CHILD | WS_VISIBLE | BROWSE_AUTOBUDDY | options,
+                                            220, 10, 20, 20, host_, nullptr, nullptr, nullptr);
+        SetForegroundWindow(host_);
+        UpdateWindow(host_);
+        {
+            Hands const hands(std::move(steps));
+            ClickMiddle(button);
+            // The dialog runs within the click.
+            testing_support::PumpMessages();
+        }
+        DestroyWindow(button);
+        char text[1024];
+        GetWindowTextA(edit_, text, sizeof text);
+        return text;
+    }
+
+    fs::path root_;
+    TestWindow host_;
+    HWND edit_ = nullptr;
+};
+
+TEST_F(BrowseInput, AFolderThreeLevelsDownByKeyboard) {
+    std::string const chosen = Browse(0, {[](HWND) {
+                                              Press({VK_DOWN, VK_RIGHT});
+                                          },
+                                          [](HWND) {
+                                              Press({'W', 'A', VK_RIGHT});
+                                          },
+                                          [](HWND) {
+                                              Press({VK_DOWN, VK_RIGHT});
+                                          },
+                                          [](HWND) {
+                                              Press({VK_RIGHT, VK_RIGHT});
+                                          },
+                                          [](HWND) { Press({VK_RIGHT}); }, [](HWND) { Press({VK_RETURN}); }});
+    EXPECT_EQ("c:\\walk\\one\\two\\three", chosen);
+}
+
+void ClickItem(HWND dialog, char const* path, int times) {
+    HWND const tree = GetDlgItem(dialog, 102);
+    HWND const view = folder_tree::TreeViewOf(tree);
+    // Found without selecting anything: by its name among the rows.
+    for (HTREEITEM item = folder_tree::Next(tree, TVGN_ROOT); item;
+         item = folder_tree::Next(tree, TVGN_NEXTVISIBLE, item)) {
+        if (folder_tree::NameOf(tree, item).find(path) != std::string::npos) {
+            RECT label = {};
+            *reinterpret_cast<HTREEITEM*>(&label) = item;
+            SendMessageA(view, TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(&label));
+            Click(view, {label.left + 4, (label.top + label.bottom) / 2}, times);
+            return;
+        }
+    }
+    ADD_FAILURE() << path << " is not shown";
+}
+
+TEST_F(BrowseInput, AFolderThreeLevelsDownByMouse) {
+    auto const open = [](char const* name) { return [=](HWND dialog) { ClickItem(dialog, name, 2); }; };
+    std::string const chosen = Browse(
+        0, {open("(C:)"), open("walk"), open("one"), open("two"), [](HWND dialog) { ClickItem(dialog, "three", 1); },
+            [](HWND dialog) { ClickMiddle(GetDlgItem(dialog, IDOK)); }});
+    EXPECT_EQ("c:\\walk\\one\\two\\three", chosen);
+}
+
+void ClickFile(HWND dialog, char const* name, int times = 1) {
+    HWND const list = GetDlgItem(dialog, lst1);
+    LRESULT const index =
+        SendMessageA(list, LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(name));
+    ASSERT_GE(index, 0) << name;
+    RECT row;
+    SendMessageA(list, LB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&row));
+    Click(list, {row.left + 8, (row.top + row.bottom) / 2}, times);
+}
+
+TEST_F(BrowseInput, ThreeFilesWithControl) {
+    SetWindowTextA(edit_, "C:\\walk\\");
+    std::string const chosen =
+        Browse(BROWSE_FILEMODE | BROWSE_MULTISELECT,
+               {[](HWND dialog) { ClickFile(dialog, "a.txt"); }, [](HWND) { Key(VK_CONTROL, true); },
+                [](HWND dialog) { ClickFile(dialog, "c.txt"); }, [](HWND dialog) { ClickFile(dialog, "d.doc"); },
+                [](HWND) { Key(VK_CONTROL, false); }, [](HWND dialog) { ClickMiddle(GetDlgItem(dialog, IDOK)); }});
+    EXPECT_EQ("C:\\walk;a.txt;c.txt;d.doc", chosen);
+}
+
+TEST_F(BrowseInput, AFileIsTypedAndMustExist) {
+    SetWindowTextA(edit_, "C:\\walk\\a.txt");
+    std::string proposed;
+    std::string caption;
+    bool refused = false;
+    std::string const chosen = Browse(BROWSE_FILEMODE, {[&](HWND dialog) {
+                                                            char text[MAX_PATH];
+                                                            GetDlgItemTextA(dialog, edt1, text, sizeof text);
+                                                            proposed = text;
+                                                            GetDlgItemTextA(dialog, IDOK, text, sizeof text);
+                                                            caption = text;
+                                                            SetDlgItemTextA(dialog, edt1, "none.txt");
+                                                            Press({VK_RETURN});
+                                                        },
+                                                        [&](HWND dialog) {
+                                                            refused = GetDlgItem(dialog, lst1) != nullptr;
+                                                            SetDlgItemTextA(dialog, edt1, "one\\two\\..\\..\\B.TXT");
+                                                            Press({VK_RETURN});
+                                                        }});
+    EXPECT_EQ("a.txt", proposed);
+    EXPECT_EQ("OK", caption);
+    EXPECT_TRUE(refused);
+    EXPECT_EQ("C:\\walk\\B.TXT", chosen);
+}
+
+TEST_F(BrowseInput, TheFileListIsWalkedByKeyboard) {
+    SetWindowTextA(edit_, "C:\\walk\\one");
+    std::string const chosen =
+        Browse(BROWSE_FILEMODE,
+               {[](HWND dialog) { SetFocus(GetDlgItem(dialog, lst1)); }, [](HWND) { Press({VK_BACK}); },
+                [](HWND) {
+                    Press({'O', 'T', VK_RETURN});
+                },
+                [](HWND) { Press({VK_BACK}); }, [](HWND) { Press({'B'}); }, [](HWND) { Press({VK_RETURN}); }});
+    EXPECT_EQ("C:\\walk\\b.txt", chosen);
+}
+
+TEST_F(BrowseInput, FiltersPatternsAndCancel) {
+    std::string texts;
+    std::string all;
+    char buffer[MAX_PATH] = "";
+    OPENFILENAMEA record = {};
+    record.lStructSize = sizeof record;
+    record.hwndOwner = host_;
+    record.lpstrFilter = "Texts\0*.txt\0Documents\0*.doc\0\0";
+    record.nFilterIndex = 2;
+    record.lpstrFile = buffer;
+    record.nMaxFile = sizeof buffer;
+    record.lpstrInitialDir = "C:\\walk";
+    record.Flags = OFN_EXPLORER | OFN_FILEMUSTEXIST;
+    auto const list = [](HWND dialog) {
+        std::string names;
+        HWND const items = GetDlgItem(dialog, lst1);
+        for (LRESULT i = 0; i < SendMessageA(items, LB_GETCOUNT, 0, 0); ++i) {
+            char text[MAX_PATH];
+            SendMessageA(items, LB_GETTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(text));
+            names += std::string(text) + ' ';
+        }
+        return names;
+    };
+    BOOL accepted = TRUE;
+    {
+        Hands const hands({[&](HWND dialog) {
+                               texts = list(dialog);
+                               SetDlgItemTextA(dialog, edt1, "a*.*");
+                               Press({VK_RETURN});
+                           },
+                           [&](HWND dialog) {
+                               all = list(dialog);
+                               Press({VK_ESCAPE});
+                           }});
+        accepted = GetOpenFileNameA(&record);
+    }
+    EXPECT_FALSE(accepted);
+    EXPECT_EQ(0U, CommDlgExtendedError());
+    EXPECT_EQ("one other d.doc ", texts);
+    EXPECT_EQ("one other a.txt ", all);
+    // A buffer too small for the choice tells how much it would take.
+    record.nMaxFile = 4;
+    {
+        Hands const hands({[&](HWND dialog) {
+            SetDlgItemTextA(dialog, edt1, "d.doc");
+            Press({VK_RETURN});
+        }});
+        EXPECT_FALSE(GetOpenFileNameA(&record));
+    }
+    EXPECT_EQ(DWORD{FNERR_BUFFERTOOSMALL}, CommDlgExtendedError());
+    WORD needed = 0;
+    CopyMemory(&needed, buffer, sizeof needed);
+    EXPECT_EQ(sizeof "C:\\walk\\d.doc", needed);
+    record.lStructSize = 3;
+    EXPECT_FALSE(GetOpenFileNameA(&record));
+    EXPECT_EQ(DWORD{CDERR_STRUCTSIZE}, CommDlgExtendedError());
+}
+
+TEST_F(BrowseInput, NothingIsLeftOver) {
+    Browse(BROWSE_FILEMODE, {[](HWND) { Press({VK_ESCAPE}); }});
+    testing_support::LeakCheck const leaks;
+    Browse(BROWSE_FILEMODE, {[](HWND) { Press({VK_ESCAPE}); }});
+    Browse(0, {[](HWND) { Press({VK_ESCAPE}); }});
+}
+
+}  // namespace
