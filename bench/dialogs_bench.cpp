@@ -1,5 +1,5 @@
-// The standard dialogs from opening to closing, beside a message box's template that nobody fills or lays out. The owner closes each one when it hears
-// that the dialog has nothing left to do, which is after it has painted itself.
+// The standard dialogs from opening to closing, beside a message box's template that nobody fills or lays out. The owner
+// closes each one when it hears that the dialog has nothing left to do, which is after it has painted itself.
 #include <cvutil32/about.h>
 #include <cvutil32/msgbox.h>
 #include <cvutil32/util.h>
