@@ -1,5 +1,6 @@
 #include "gallery/frame.h"
 
+#include "gallery/help.h"
 #include "gallery/pages.h"
 #include "gallery/pages/dates_page.h"
 #include "gallery/resource.h"
@@ -175,6 +176,10 @@ INT_PTR CALLBACK FrameProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM
         case WM_COMMAND:
             OnCommand(*frame, LOWORD(wParam), HIWORD(wParam));
             return TRUE;
+        case WM_HELP:
+            return ShowHelp(*reinterpret_cast<const HELPINFO*>(lParam)) ? TRUE : FALSE;
+        case WM_CONTEXTMENU:
+            return ShowContextMenuHelp(reinterpret_cast<HWND>(wParam)) ? TRUE : FALSE;
         case WM_WININICHANGE:
             TellPages(*frame, lParam);
             return TRUE;
