@@ -1,6 +1,8 @@
-// The standard dialogs from opening to closing, beside the system's own message box. The owner closes each one when it hears
-// that the dialog has nothing left to do, which is after it has painted itself.
+// The standard dialogs from opening to closing, beside a message box's template that nobody fills or lays out. The owner
+// closes each one when it hears that the dialog has nothing left to do, which is after it has painted itself.
+#include <cvutil32/about.h>
 #include <cvutil32/msgbox.h>
+#include <cvutil32/util.h>
 
 #include <benchmark/benchmark.h>
 
@@ -68,10 +70,10 @@ void ExtendedMessageBox(benchmark::State& state) {
     state.SetItemsProcessed(state.iterations());
 }
 
-void SystemMessageBox(benchmark::State& state) {
+void AboutBox(benchmark::State& state) {
     Owner const owner;
     for (auto _ : state) {
-        if (MessageBoxA(owner, kText, "Benchmark", MB_OKCANCEL | MB_ICONQUESTION) != IDOK) {
+        if (ABOUT_DisplayAboutBox(owner, nullptr, nullptr, "Planner", "Version 2.1", kText, IDI_APPLICATION) != 0) {
             state.SkipWithError("the box could not be shown");
             break;
         }
@@ -79,7 +81,27 @@ void SystemMessageBox(benchmark::State& state) {
     state.SetItemsProcessed(state.iterations());
 }
 
+INT_PTR CALLBACK EndByCommand(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
+    if (message == WM_COMMAND) {
+        EndDialog(dialog, static_cast<INT_PTR>(wParam));
+    }
+    return message == WM_COMMAND || message == WM_INITDIALOG;
+}
+
+void TemplateAsItIs(benchmark::State& state) {
+    constexpr int kNarrowBox = 10100;
+    Owner const owner;
+    for (auto _ : state) {
+        if (DialogBoxParamA(UTIL_GetModuleInstance(), MAKEINTRESOURCEA(kNarrowBox), owner, EndByCommand, 0) != IDOK) {
+            state.SkipWithError("the dialog could not be shown");
+            break;
+        }
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+
 BENCHMARK(ExtendedMessageBox)->Arg(2)->Arg(8)->Unit(benchmark::kMicrosecond);
-BENCHMARK(SystemMessageBox)->Unit(benchmark::kMicrosecond);
+BENCHMARK(AboutBox)->Unit(benchmark::kMicrosecond);
+BENCHMARK(TemplateAsItIs)->Unit(benchmark::kMicrosecond);
 
 }  // namespace

@@ -92,6 +92,11 @@ void PressInTimeField(benchmark::State& state) {
         Field::Press(key);
         key = key == '1' ? '2' : '1';
     }
+    SYSTEMTIME after = {};
+    TIMECTRL_GetTime(field, &after);
+    if (after.wMinute % 10 != 1 && after.wMinute % 10 != 2) {
+        state.SkipWithError("the keys do not reach the field");
+    }
     state.SetItemsProcessed(state.iterations() * 3);
 }
 
@@ -99,9 +104,13 @@ void PressInNumericField(benchmark::State& state) {
     Field const field(NUMFLD_CLASSNAME, ES_AUTOHSCROLL);
     NUMFLD_SetLimits(field, 0, 99999);
     WORD key = '1';
+    Field::Press(key);
+    if (NUMFLD_GetValue(field) != 1) {
+        state.SkipWithError("the key does not reach the field");
+    }
     for (auto _ : state) {
-        Field::Press(key);
         key = key == '1' ? VK_BACK : '1';
+        Field::Press(key);
     }
     state.SetItemsProcessed(state.iterations());
 }

@@ -1,5 +1,5 @@
 // The registry: reads and writes of one value, by a key that stays open and as applications do it, with a list of names
-// beside them. The peer of the writes is what any lasting write costs at least: a pwrite() to a file.
+// beside them.
 #include <windows.h>
 
 #include <benchmark/benchmark.h>

@@ -1,5 +1,6 @@
 #include "gallery/frame.h"
 
+#include "gallery/help.h"
 #include "gallery/pages.h"
 #include "gallery/pages/dates_page.h"
 #include "gallery/resource.h"
@@ -144,6 +145,15 @@ void OnCommand(Frame& frame, int id, int code) {
     }
 }
 
+// Only windows of the top level are told of new settings.
+void TellPages(const Frame& frame, LPARAM section) {
+    for (HWND page : frame.pages) {
+        if (page != nullptr) {
+            SendMessageA(page, WM_WININICHANGE, 0, section);
+        }
+    }
+}
+
 void OnDestroy(HWND dialog) {
     delete FrameOf(dialog);
     SetWindowLongPtrA(dialog, DWLP_USER, 0);
@@ -165,6 +175,13 @@ INT_PTR CALLBACK FrameProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM
     switch (message) {
         case WM_COMMAND:
             OnCommand(*frame, LOWORD(wParam), HIWORD(wParam));
+            return TRUE;
+        case WM_HELP:
+            return ShowHelp(*reinterpret_cast<const HELPINFO*>(lParam)) ? TRUE : FALSE;
+        case WM_CONTEXTMENU:
+            return ShowContextMenuHelp(reinterpret_cast<HWND>(wParam)) ? TRUE : FALSE;
+        case WM_WININICHANGE:
+            TellPages(*frame, lParam);
             return TRUE;
         case WM_DESTROY:
             OnDestroy(dialog);

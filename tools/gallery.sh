@@ -6,5 +6,5 @@ install_packages "${build_packages[@]}"
 if [ ! -f build/native/build.ninja ]; then
     configure native -DCVUTIL32_TESTS=OFF >&2
 fi
-cmake --build build/native --target gallery >&2
+cmake --build build/native --target gallery cvreg >&2
 exec build/native/bin/cvutil32-gallery "$@"

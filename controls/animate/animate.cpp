@@ -26,6 +26,9 @@ constexpr int OffsetOf(Slot slot) {
     return slot * static_cast<int>(sizeof(LONG_PTR));
 }
 
+// Callers of 32 bits read these words by their numbers.
+static_assert(sizeof(LONG_PTR) != 4 || (OffsetOf(kRunning) == 4 && OffsetOf(kNext) == 8 && OffsetOf(kSlots) == 12));
+
 LONG_PTR Get(HWND control, Slot slot) {
     return GetWindowLongPtrA(control, OffsetOf(slot));
 }

@@ -14,6 +14,8 @@ enum Slot : int {
     kTreeView = 2 * sizeof(LONG_PTR)  ///< the child window
 };
 constexpr int kExtraBytes = 3 * sizeof(LONG_PTR);
+// Callers of 32 bits read these words by their numbers.
+static_assert(sizeof(LONG_PTR) != 4 || (kFlags == 4 && kTreeView == 8 && kExtraBytes == 12));
 
 enum Flag : LONG_PTR {
     kStarted = 1,    ///< the control started the component library

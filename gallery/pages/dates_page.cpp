@@ -48,6 +48,14 @@ void OnTimer(DatesState& page) {
     }
 }
 
+// A field writes its text anew when it gets a value.
+void TakeSettings(DatesState& page, LPARAM section) {
+    for (const int id : {IDC_DATE_VERTICAL, IDC_DATE_HORIZONTAL}) {
+        SendDlgItemMessageA(page.dialog, id, WM_WININICHANGE, 0, section);
+    }
+    page.date.SetIsoText(page.date.IsoText());
+}
+
 void OnDestroy(HWND dialog) {
     KillTimer(dialog, kFollowTimer);
     StopSteppingSideways(GetDlgItem(dialog, IDC_DATE_HORIZONTAL));
@@ -55,7 +63,7 @@ void OnDestroy(HWND dialog) {
     SetWindowLongPtrA(dialog, DWLP_USER, 0);
 }
 
-INT_PTR CALLBACK DatesPageProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
+INT_PTR CALLBACK DatesPageProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_INITDIALOG) {
         OnInitDialog(dialog);
         return TRUE;
@@ -73,6 +81,9 @@ INT_PTR CALLBACK DatesPageProcedure(HWND dialog, UINT message, WPARAM wParam, LP
                 page->date.SetToday();
                 ShowChosenDate(*page);
             }
+            return TRUE;
+        case WM_WININICHANGE:
+            TakeSettings(*page, lParam);
             return TRUE;
         case kKeepValues:
             KeepText(kDate, ChosenIsoDate(dialog));

@@ -19,10 +19,10 @@
 ///
 /// Messages that an application may send:
 ///
-/// | message    | effect                                                                                 |
-/// |------------|----------------------------------------------------------------------------------------|
-/// | `WM_CLOSE` | stops the animation and releases its pictures; the window stays                        |
-/// | `WM_TIMER` | draws the next picture, whatever the timer's identifier; nothing happens without pictures |
+/// | message    | effect                                                           |
+/// |------------|------------------------------------------------------------------|
+/// | `WM_CLOSE` | stops the animation and releases its pictures; the window stays  |
+/// | `WM_TIMER` | draws the next picture, if any, whatever the timer's identifier  |
 ///
 /// The pictures belong to the control and are released by `WM_CLOSE` alone. A control inside a dialog does not get that
 /// message by itself: send it before the dialog goes, or the pictures stay in memory.

@@ -24,8 +24,8 @@
 ///   Only a text's first 255 characters are shown.
 /// - `WM_DRAWITEM` of other controls reaches the parent, with the control's identifier as wParam; the answer is
 ///   discarded: it is 0.
-/// - `WM_MEASUREITEM` never reaches the parent. Every owner-drawn list box of this parent gets the height that the check
-///   list would have; other controls keep the height that they ask with.
+/// - `WM_MEASUREITEM` never reaches the parent. Every owner-drawn list box of this parent gets the height that the
+///   check list would have; other controls keep the height that they ask with.
 ///
 /// The class has no functions. The library registers it when it is loaded and takes it back when it is unloaded.
 #pragma once

@@ -78,15 +78,20 @@ TEST(CStringSystem, StringsOfResources) {
     EXPECT_EQ("12 files in C:\\DATA", Text(string.IDsprintf(nullptr, IDS_TEST_FORMAT, 1, "x")));
 }
 
+// Lists are pointers on one host and arrays on another.
+template <class List>
+void* AsArgument(List& list) {
+    if constexpr (std::is_pointer_v<List>) {
+        return list;
+    } else {
+        return &list;
+    }
+}
+
 void FormatInto(CSTRING& string, char const* format, ...) {
     std::va_list list;
     va_start(list, format);
-    // Lists are pointers on one host and arrays on another.
-    if constexpr (std::is_pointer_v<std::va_list>) {
-        string.wvsprintfA(format, *reinterpret_cast<void**>(&list));
-    } else {
-        string.wvsprintfA(format, &list);
-    }
+    string.wvsprintfA(format, AsArgument(list));
     va_end(list);
 }
 

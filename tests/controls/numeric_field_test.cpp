@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 
 namespace {
 
@@ -66,6 +67,31 @@ TEST_F(NumericField, TakesDigitsAndBackspaceOnly) {
         EXPECT_EQ(character >= '0' && character <= '9' ? std::string(1, static_cast<char>(character)) : "", Text())
             << character;
     }
+}
+
+TEST_F(NumericField, PastedTextIsNotFiltered) {
+    NUMFLD_SetLimits(field_, 0, 99999);
+    for (auto const& [pasted, text, value] :
+         {std::tuple{"-12x", "-12x", -12}, std::tuple{"abc", "abc", 0}, std::tuple{"123456789012", "12345", 12345}}) {
+        HGLOBAL const block = GlobalAlloc(GMEM_MOVEABLE, 20);
+        lstrcpyA(static_cast<LPSTR>(GlobalLock(block)), pasted);
+        GlobalUnlock(block);
+        ASSERT_TRUE(OpenClipboard(host_));
+        EmptyClipboard();
+        SetClipboardData(CF_TEXT, block);
+        CloseClipboard();
+        SetWindowTextA(field_, "");
+        Type("\x16");
+        EXPECT_EQ("", Text()) << "Ctrl+V is a character that is dropped";
+        SendMessageA(field_, WM_PASTE, 0, 0);
+        EXPECT_EQ(text, Text());
+        EXPECT_EQ(value, NUMFLD_GetValue(field_));
+        SendMessageA(field_, WM_VSCROLL, SB_LINEUP, 0);
+    }
+    EXPECT_EQ("12346", Text());
+    ASSERT_TRUE(OpenClipboard(host_));
+    EmptyClipboard();
+    CloseClipboard();
 }
 
 TEST_F(NumericField, LimitsSetTheLengthOfTheText) {

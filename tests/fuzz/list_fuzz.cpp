@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/fuzz/halving.h"
 #include "tests/fuzz/input.h"
 
 namespace {
@@ -13,7 +14,7 @@ namespace {
 using fuzz::Input;
 using std::string;
 
-constexpr std::uint32_t kMostItems = 300;
+constexpr std::uint32_t kMostItems = 80;
 constexpr DWORD kFailed = 0xFFFFFFFF;
 
 class Pair {
@@ -126,10 +127,10 @@ void Pair::FindNumber(DWORD type, Number key) {
         return;
     }
     item = LIST_BFind(list_, type, offset, &key, &index);
-    auto const range = std::equal_range(numbers.begin(), numbers.end(), key);
-    auto const begin = static_cast<std::size_t>(range.first - numbers.begin());
-    auto const end = static_cast<std::size_t>(range.second - numbers.begin());
-    FUZZ_CHECK(begin == end ? !item && index == begin : index >= begin && index < end && item == Address(index));
+    auto const order = [&](std::size_t i) { return (key > numbers[i]) - (key < numbers[i]); };
+    fuzz::Halved const place = fuzz::Halve(numbers.size(), order);
+    FUZZ_CHECK(index == place.index);
+    FUZZ_CHECK(item == (place.found ? Address(index) : nullptr));
 }
 
 void Pair::Find(Input& input) {

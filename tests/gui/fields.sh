@@ -41,7 +41,8 @@ start_gallery() { # <page> <number of fields>
         kill -0 "$program" 2>/dev/null || fail "the gallery ended at once: $(<"$work/err")"
         window=$(xdotool search --onlyvisible --name '^CVUTIL32$' 2>/dev/null | head -1 || true)
         if [ -n "$window" ] && shoot start; then
-            mapfile -t fields < <(find_fields "$work/start.png" | sort -n -k2,2 -k1,1)
+            # Pieces of the list of pages are wider or lower than a field.
+            mapfile -t fields < <(find_fields "$work/start.png" | awk '$3 < 95 && $4 > 15' | sort -n -k2,2 -k1,1)
             [ "${#fields[@]}" != "$2" ] || return 0
         fi
         sleep 0.1

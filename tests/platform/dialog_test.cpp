@@ -298,4 +298,14 @@ TEST_F(DialogTest, NothingIsLeftBehind) {
     EXPECT_EQ(user, GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS));
 }
 
+TEST_F(DialogTest, BordersOfControlsAreSunken) {
+    DialogBuilder builder(WS_POPUP);
+    builder.Title("").Item("listbox", "", 1, WS_BORDER, 4, 4, 60, 40).Item("combobox", "", 2, WS_BORDER, 4, 50, 60, 40);
+    const HWND dialog = Make(builder);
+    ASSERT_NE(nullptr, dialog);
+    EXPECT_FALSE(GetWindowLongA(GetDlgItem(dialog, 1), GWL_STYLE) & WS_BORDER);
+    EXPECT_TRUE(GetWindowLongA(GetDlgItem(dialog, 1), GWL_EXSTYLE) & WS_EX_CLIENTEDGE);
+    EXPECT_FALSE(GetWindowLongA(GetDlgItem(dialog, 2), GWL_EXSTYLE) & WS_EX_CLIENTEDGE);
+}
+
 }  // namespace

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstring>
 #include <functional>
 #include <string>
 #include <vector>
@@ -99,7 +100,7 @@ class TreeViewTest : public ::testing::Test {
     }
     RECT Rect(HTREEITEM item, bool label) {
         RECT rect{};
-        CopyMemory(&rect, &item, sizeof item);
+        std::memcpy(&rect, &item, sizeof item);  // the message takes the item where it puts the rectangle
         return Send(TVM_GETITEMRECT, label, reinterpret_cast<LPARAM>(&rect)) ? rect : RECT{};
     }
     void Click(POINT at) {

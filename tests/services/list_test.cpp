@@ -132,6 +132,17 @@ TEST_F(ListTest, BinarySearchFindsOrTellsThePlace) {
     }
 }
 
+TEST_F(ListTest, AmongEqualKeysTheHalvingDecides) {
+    Fill({{0, 3}, {1, 7}, {2, 7}, {3, 7}, {4, 7}, {5, 7}, {6, 9}});
+    const std::uint32_t seven = 7;
+    DWORD index = 99;
+    EXPECT_EQ(LIST_BFind(list, LIST_TYPE_DWORD, 4, &seven, &index), &Items()[3]);
+    EXPECT_EQ(index, 3u);
+    LIST_Delete(list, 6);
+    LIST_Delete(list, 0);
+    EXPECT_EQ(LIST_BFind(list, LIST_TYPE_DWORD, 4, &seven, &index), &Items()[2]);
+}
+
 TEST_F(ListTest, KeyTypesDifferInSign) {
     Fill({{0, 0xFFFF}, {1, 5}});
     const std::int16_t minusOne = -1;

@@ -114,6 +114,10 @@ int ScrollLines(HWND edit, EditData& data, int lines);
 /// Lines that fit in full, at least 1.
 int PageLines(const EditData& data);
 
+/// Shows the lines and the visible ones among them on the bar of a multi-line control that has one (edit_bar.cpp). To be called
+/// after any change of either.
+void ShowEditBar(HWND edit, const EditData& data);
+
 // --- layout (edit_lines.cpp, edit_measure.cpp)
 
 /// Works out the format rectangle and the lines anew, after a change of size, font, margins, style or text.

@@ -120,6 +120,7 @@ void BreakLines(HWND edit, EditData& data) {
         start = end + 2;
     }
     data.firstLine = std::min(data.firstLine, data.lines.size() - 1);
+    ShowEditBar(edit, data);
 }
 
 void LayOut(HWND edit, EditData& data) {
@@ -209,6 +210,9 @@ bool ScrollToCaret(HWND edit, EditData& data) {
     const bool multi = IsMultiLine(edit);
     const bool sideways = (!multi || !Wraps(edit)) && ScrollSideways(measure, data);
     const bool upright = multi && ScrollUpright(data);
+    if (upright) {
+        ShowEditBar(edit, data);
+    }
     return sideways || upright;
 }
 
@@ -220,6 +224,7 @@ int ScrollLines(HWND edit, EditData& data, int lines) {
         return 0;
     }
     data.firstLine = static_cast<std::size_t>(wanted);
+    ShowEditBar(edit, data);
     NotifyParent(edit, EN_VSCROLL);
     if (IsWindow(edit)) {
         RedrawEdit(edit);

@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -164,7 +165,7 @@ void ClickItem(HWND dialog, char const* path, int times) {
          item = folder_tree::Next(tree, TVGN_NEXTVISIBLE, item)) {
         if (folder_tree::NameOf(tree, item).find(path) != std::string::npos) {
             RECT label = {};
-            CopyMemory(&label, &item, sizeof item);
+            std::memcpy(&label, &item, sizeof item);  // the message takes the item where it puts the rectangle
             SendMessageA(view, TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(&label));
             Click(view, {label.left + 4, (label.top + label.bottom) / 2}, times);
             return;

@@ -331,6 +331,23 @@ TEST_F(RegistryStore, AFullDiskLosesNothing) {
     RegCloseKey(key);
 }
 
+TEST_F(RegistryStore, NamesThatCannotBe) {
+    const HKEY key = Open();
+    HKEY sub = nullptr;
+    const auto create = [&](const char* name) {
+        return RegCreateKeyExA(key, name, 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &sub, nullptr);
+    };
+    EXPECT_EQ(create(std::string(256, 'k').c_str()), ERROR_INVALID_PARAMETER);
+    EXPECT_EQ(create("\\a"), ERROR_BAD_PATHNAME);
+    EXPECT_EQ(create(nullptr), ERROR_BADKEY);
+    EXPECT_NE(Write(key, std::string(16384, 'v'), 1), ERROR_SUCCESS);
+    EXPECT_EQ(Write(key, std::string(16383, 'v'), 1), ERROR_SUCCESS);
+    EXPECT_EQ(Write(key, "\xE9t\xE9", 2), ERROR_SUCCESS);
+    EXPECT_EQ(Read(key, "\xC9T\xC9"), 2u) << "accented letters have two cases too";
+    EXPECT_EQ(RegDeleteKeyA(HKEY_LOCAL_MACHINE, ""), ERROR_ACCESS_DENIED);
+    RegCloseKey(key);
+}
+
 TEST_F(RegistryStore, ThreadsWriteAtOnce) {
     std::atomic<int> failures{0};
     std::thread threads[4];

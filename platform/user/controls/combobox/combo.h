@@ -1,6 +1,6 @@
 /// @file combo.h
-/// The combo box: what its files share. combobox.cpp is the window procedure with the parts it is made of, field.cpp lays out
-/// and draws what is always seen, drop.cpp drops the list and closes it, contents.cpp passes messages on to the list.
+/// The combo box: what its files share. combobox.cpp is the window procedure, parts.cpp makes the parts, field.cpp lays out and
+/// draws what is always seen, drop.cpp drops the list and closes it, contents.cpp passes messages on to the list.
 #pragma once
 
 #include "user/controls/controls.h"
@@ -42,6 +42,16 @@ struct ComboData : ControlData {
         return (Style() & (CBS_OWNERDRAWFIXED | CBS_OWNERDRAWVARIABLE)) != 0;
     }
 };
+
+// --- parts.cpp
+
+/// Takes away the styles whose scroll bars and edges are not the window's own.
+void TakeFrameStyles(ComboData& combo);
+LRESULT OnCreateCombo(ComboData& combo, const CREATESTRUCTA& create);
+/// The focus comes to the combo box or its edit control, or leaves both for another window.
+void GainFocus(ComboData& combo);
+void LoseFocus(ComboData& combo, HWND to);
+LRESULT ComboDialogCode(const ComboData& combo, LPARAM lParam);
 
 // --- field.cpp
 

@@ -1,150 +1,10 @@
-// The "combobox" class: the parts that it is made of, focus, and the window procedure.
+// The "combobox" class: changes, what its parts tell, input, and the window procedure.
 #include <algorithm>
 
 #include "user/controls/combobox/combo.h"
 
 namespace platform::user {
 namespace {
-
-constexpr LONG_PTR kListId = 1000;
-constexpr LONG_PTR kEditId = 1001;
-
-// --- focus: that of the edit control is the combo box's
-
-void GainFocus(ComboData& combo) {
-    if (combo.focused)
-        return;
-    combo.focused = true;
-    if (!combo.edit)
-        RedrawCombo(combo);
-    NotifyCombo(combo, CBN_SETFOCUS);
-}
-
-void LoseFocus(ComboData& combo, HWND to) {
-    if (!combo.focused || to == combo.window || (to && (to == combo.edit || to == combo.list)))
-        return;
-    CloseUp(combo, false);
-    combo.focused = false;
-    RedrawCombo(combo);
-    NotifyCombo(combo, CBN_KILLFOCUS);
-}
-
-LRESULT DialogCodeOf(const ComboData& combo, LPARAM lParam) {
-    const auto* message = reinterpret_cast<const MSG*>(lParam);
-    const bool closes = combo.dropped && message && message->message == WM_KEYDOWN &&
-                        (message->wParam == VK_RETURN || message->wParam == VK_ESCAPE);
-    return DLGC_WANTARROWS | DLGC_WANTCHARS | (closes ? DLGC_WANTMESSAGE : 0);
-}
-
-/// The procedure of the edit control: keys that are the combo box's go there.
-LRESULT CALLBACK ComboEditProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    const HWND owner = GetParent(window);
-    const auto combo = owner ? ControlOf<ComboData>(owner) : nullptr;
-    if (!combo)
-        return EditProcedure(window, message, wParam, lParam);
-    switch (message) {
-        case WM_KEYDOWN:
-        case WM_SYSKEYDOWN:
-            return OnComboKey(*combo, message, wParam) ? 0 : EditProcedure(window, message, wParam, lParam);
-        case WM_CHAR:
-            // They have closed the list, and are no text.
-            return wParam == VK_RETURN || wParam == VK_ESCAPE ? 0 : EditProcedure(window, message, wParam, lParam);
-        case WM_GETDLGCODE:
-            return EditProcedure(window, message, wParam, lParam) | DialogCodeOf(*combo, lParam);
-        case WM_SETFOCUS: {
-            const LRESULT result = EditProcedure(window, message, wParam, lParam);
-            GainFocus(*combo);
-            return result;
-        }
-        case WM_KILLFOCUS: {
-            const LRESULT result = EditProcedure(window, message, wParam, lParam);
-            LoseFocus(*combo, reinterpret_cast<HWND>(wParam));
-            return result;
-        }
-        case WM_MOUSEWHEEL:
-            return SendMessageA(owner, message, wParam, lParam);
-        default:
-            return EditProcedure(window, message, wParam, lParam);
-    }
-}
-
-// --- creation
-
-/// Scroll bars that a combo box is made with are for its list.
-void TakeScrollStyle(ComboData& combo) {
-    const DWORD style = combo.Style();
-    combo.scrollStyle = style & (WS_VSCROLL | WS_HSCROLL);
-    SetWindowLongA(combo.window, GWL_STYLE, static_cast<LONG>(style & ~combo.scrollStyle));
-}
-
-bool MakeEdit(ComboData& combo, const CREATESTRUCTA& create) {
-    const DWORD style = combo.Style();
-    const DWORD wanted = WS_CHILD | WS_VISIBLE | ES_NOHIDESEL | (style & CBS_AUTOHSCROLL ? ES_AUTOHSCROLL : 0) |
-                         (style & CBS_UPPERCASE ? ES_UPPERCASE : 0) | (style & CBS_LOWERCASE ? ES_LOWERCASE : 0) |
-                         (style & CBS_OEMCONVERT ? ES_OEMCONVERT : 0) | (style & WS_DISABLED);
-    combo.edit = CreateWindowExA(WS_EX_NOPARENTNOTIFY, "edit", "", wanted, 0, 0, 0, 0, combo.window,
-                                 reinterpret_cast<HMENU>(kEditId), create.hInstance, nullptr);
-    if (!combo.edit)
-        return false;
-    SetWindowLongPtrA(combo.edit, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(ComboEditProcedure));
-    return true;
-}
-
-DWORD ListStyle(const ComboData& combo) {
-    const DWORD style = combo.Style();
-    DWORD list = LBS_NOTIFY | combo.scrollStyle;
-    const std::pair<DWORD, DWORD> same[] = {{CBS_SORT, LBS_SORT},
-                                            {CBS_HASSTRINGS, LBS_HASSTRINGS},
-                                            {CBS_OWNERDRAWFIXED, LBS_OWNERDRAWFIXED},
-                                            {CBS_OWNERDRAWVARIABLE, LBS_OWNERDRAWVARIABLE},
-                                            {CBS_NOINTEGRALHEIGHT, LBS_NOINTEGRALHEIGHT},
-                                            {CBS_DISABLENOSCROLL, LBS_DISABLENOSCROLL},
-                                            {WS_DISABLED, WS_DISABLED}};
-    for (const auto& [own, lists] : same)
-        list |= style & own ? lists : 0;
-    return list;
-}
-
-bool MakeList(ComboData& combo, const CREATESTRUCTA& create) {
-    const DWORD style = ListStyle(combo);
-    if (!combo.Drops()) {
-        combo.list =
-            CreateWindowExA(WS_EX_NOPARENTNOTIFY | WS_EX_CLIENTEDGE, "ComboLBox", "", style | WS_CHILD | WS_VISIBLE, 0,
-                            0, 0, 0, combo.window, reinterpret_cast<HMENU>(kListId), create.hInstance, combo.window);
-        return combo.list != nullptr;
-    }
-    combo.list =
-        CreateWindowExA(WS_EX_TOOLWINDOW, "ComboLBox", "", style | WS_POPUP | WS_BORDER, 0, 0, std::max(create.cx, 0),
-                        0, GetAncestor(combo.window, GA_ROOT), nullptr, create.hInstance, combo.window);
-    if (combo.list)
-        SetWindowLongPtrA(combo.list, GWLP_ID, kListId);
-    return combo.list != nullptr;
-}
-
-/// An owner says how high the field is.
-void AskFieldHeight(ComboData& combo) {
-    const HWND parent = GetParent(combo.window);
-    if (!combo.OwnerDrawn() || !parent)
-        return;
-    MeasureField(combo);
-    MEASUREITEMSTRUCT item{};
-    item.CtlType = ODT_COMBOBOX;
-    item.CtlID = static_cast<UINT>(GetDlgCtrlID(combo.window));
-    item.itemID = static_cast<UINT>(-1);
-    item.itemHeight = static_cast<UINT>(combo.fieldHeight);
-    SendMessageA(parent, WM_MEASUREITEM, item.CtlID, reinterpret_cast<LPARAM>(&item));
-    combo.fieldHeight = std::clamp(static_cast<int>(item.itemHeight), 1, 0xFF);
-    combo.heightGiven = true;
-}
-
-LRESULT OnCreate(ComboData& combo, const CREATESTRUCTA& create) {
-    AskFieldHeight(combo);
-    if ((combo.Kind() != CBS_DROPDOWNLIST && !MakeEdit(combo, create)) || !MakeList(combo, create))
-        return -1;
-    MeasureField(combo);
-    combo.dropHeight = std::max(0, create.cy - ClosedHeight(combo));
-    return 0;
-}
 
 void OnDestroy(ComboData& combo) {
     if (combo.Drops() && IsWindow(combo.list))
@@ -340,15 +200,15 @@ LRESULT CALLBACK ComboBoxProcedure(HWND window, UINT message, WPARAM wParam, LPA
     switch (message) {
         case WM_NCCREATE:
             combo.window = window;
-            TakeScrollStyle(combo);
+            TakeFrameStyles(combo);
             return DefWindowProcA(window, message, wParam, lParam);
         case WM_CREATE:
-            return OnCreate(combo, *reinterpret_cast<const CREATESTRUCTA*>(lParam));
+            return OnCreateCombo(combo, *reinterpret_cast<const CREATESTRUCTA*>(lParam));
         case WM_DESTROY:
             OnDestroy(combo);
             return 0;
         case WM_GETDLGCODE:
-            return DialogCodeOf(combo, lParam);
+            return ComboDialogCode(combo, lParam);
         case WM_WINDOWPOSCHANGING:
             OnSizing(combo, *reinterpret_cast<WINDOWPOS*>(lParam));
             return 0;

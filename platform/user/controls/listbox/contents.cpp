@@ -191,12 +191,17 @@ int FindItem(const ListData& list, int start, LPARAM wanted, bool exact) {
 }
 
 void RemoveAll(ListData& list) {
+    // The owner hears of each item and may ask for the same again.
+    if (list.emptying)
+        return;
+    list.emptying = true;
     while (list.items.Count() > 0) {
         const int last = list.items.Count() - 1;
         TellDeleted(list, last);
         if (list.items.Has(last))
             list.items.Remove(last);
     }
+    list.emptying = false;
     list.chosen = list.anchor = -1;
     list.caret = list.top = list.offset = 0;
 }

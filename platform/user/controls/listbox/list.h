@@ -66,6 +66,7 @@ struct ListData : ControlData {
     bool vertical = false;
     bool horizontal = false;  ///< made with a scroll bar, which comes and goes
     bool redraw = true;       ///< WM_SETREDRAW
+    bool emptying = false;    ///< all items are going
     bool fitting = false;     ///< is giving itself a height
 
     int chosen = -1;  ///< the selected item of a list with single selection

@@ -1,0 +1,15 @@
+/// @file help.h
+/// Context help: the F1 key, the question mark in the caption and the right mouse button.
+#pragma once
+
+#include <windows.h>
+
+namespace gallery {
+
+/// Answers WM_HELP. @param info as it comes with the message. @returns whether a topic was shown.
+bool ShowHelp(const HELPINFO& info);
+
+/// Answers WM_CONTEXTMENU. @param control the window that was clicked.
+bool ShowContextMenuHelp(HWND control);
+
+}  // namespace gallery

@@ -1,0 +1,23 @@
+/* Numbers of the Standard controls page; read by the resource compiler too. */
+#pragma once
+
+#define IDS_STANDARD_TITLE 1900
+#define IDS_STANDARD_CHOSEN 1901
+#define IDS_STANDARD_VALUE 1902
+#define IDS_STANDARD_ITEM 1910 /* and the nine after it */
+
+#define IDD_STANDARD 1900
+
+#define IDC_STANDARD_SORTED 1910
+#define IDC_STANDARD_SEVERAL 1911
+#define IDC_STANDARD_CHOSEN 1912
+#define IDC_STANDARD_CHOICE 1913
+#define IDC_STANDARD_TYPED 1914
+#define IDC_STANDARD_SIMPLE 1915
+#define IDC_STANDARD_SMALL 1916
+#define IDC_STANDARD_MEDIUM 1917
+#define IDC_STANDARD_LARGE 1918
+#define IDC_STANDARD_CHECK 1919
+#define IDC_STANDARD_THREE 1920
+#define IDC_STANDARD_BAR 1921
+#define IDC_STANDARD_VALUE 1922
