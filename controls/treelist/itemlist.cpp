@@ -39,7 +39,9 @@ LPITEMIDLIST JoinLists(LPCITEMIDLIST first, LPCITEMIDLIST second) {
     UINT const tail = ListSize(second);
     LPITEMIDLIST const joined = Allocate(head + tail);
     if (joined) {
-        CopyMemory(joined, first, head);
+        if (head) {
+            CopyMemory(joined, first, head);
+        }
         CopyMemory(reinterpret_cast<BYTE*>(joined) + head, second, tail);
     }
     return joined;

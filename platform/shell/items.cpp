@@ -63,7 +63,7 @@ OwnedList MakeItem(const Item& item) {
     list->mkid.cb = static_cast<USHORT>(size);
     bytes[kKindAt] = BYTE(item.kind);
     bytes[kFlagsAt] = item.hidden ? kHidden : 0;
-    std::memcpy(bytes + kNameAt, item.name.data(), item.name.size());
+    std::copy(item.name.begin(), item.name.end(), bytes + kNameAt);
     return list;
 }
 
