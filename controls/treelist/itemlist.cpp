@@ -69,9 +69,9 @@ bool NameOf(IShellFolder* folder, LPCITEMIDLIST item, DWORD form, char* buffer, 
     }
     switch (name.uType) {
         case STRRET_WSTR:
-            // Four bytes, whatever the buffer holds: a longer name gives none. The wide text is not freed. Both are as
-            // callers have always seen them.
-            *buffer = '\0';
+            // Four bytes, whatever the buffer holds: a longer name does not fit. The wide text is not freed. Both are as
+            // callers have always seen them. What is left of a name that did not fit ends in any case.
+            ZeroMemory(buffer, 5);
             WideCharToMultiByte(CP_ACP, 0, name.pOleStr, -1, buffer, 4, nullptr, nullptr);
             return true;
         case STRRET_OFFSET:

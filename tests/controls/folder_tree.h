@@ -4,12 +4,43 @@
 #include <windows.h>
 
 #include <commctrl.h>
+#include <shlobj.h>
 
 #include <cvutil32/treelist.h>
 
 #include <string>
 
 namespace folder_tree {
+
+/// Whether this host's shell hands out names as wide texts. The control takes no more of them than fits into four bytes,
+/// so that it cannot follow a path there.
+inline bool NamesAreWide() {
+    IShellFolder* desktop = nullptr;
+    IMalloc* allocator = nullptr;
+    IEnumIDList* items = nullptr;
+    LPITEMIDLIST item = nullptr;
+    STRRET name = {};
+    name.uType = STRRET_CSTR;
+    CoInitialize(nullptr);
+    if (SUCCEEDED(SHGetMalloc(&allocator)) && SUCCEEDED(SHGetDesktopFolder(&desktop)) &&
+        desktop->EnumObjects(nullptr, SHCONTF_FOLDERS, &items) == S_OK && items->Next(1, &item, nullptr) == S_OK) {
+        desktop->GetDisplayNameOf(item, SHGDN_NORMAL, &name);
+        if (name.uType == STRRET_WSTR) {
+            allocator->Free(name.pOleStr);
+        }
+        allocator->Free(item);
+    }
+    if (items) {
+        items->Release();
+    }
+    if (desktop) {
+        desktop->Release();
+    }
+    CoUninitialize();
+    return name.uType == STRRET_WSTR;
+}
+
+constexpr char kWideNames[] = "the shell's names are wide";
 
 inline HWND TreeViewOf(HWND control) {
     return GetWindow(control, GW_CHILD);
