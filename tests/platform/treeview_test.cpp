@@ -104,9 +104,9 @@ class TreeViewTest : public ::testing::Test {
         return Send(TVM_GETITEMRECT, label, reinterpret_cast<LPARAM>(&rect)) ? rect : RECT{};
     }
     void Click(POINT at) {
-        Send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(at.x, at.y));
-        // Elsewhere the press waits to see whether it becomes a drag: its end comes through the queue.
+        // Elsewhere the press itself waits for its end, to see whether it becomes a drag: the end is in the queue before it.
         PostMessageA(tree_, WM_LBUTTONUP, 0, MAKELPARAM(at.x, at.y));
+        Send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(at.x, at.y));
         MSG message;
         while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
             DispatchMessageA(&message);
