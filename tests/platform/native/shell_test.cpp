@@ -10,6 +10,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -201,6 +202,37 @@ TEST_F(ShellTest, FoldersThatCannotBeReadOrAreGone) {
         fs::permissions(root_ / "locked", fs::perms::none);
         EXPECT_EQ("(failed)", ListPath(Path("locked")));
     }
+}
+
+TEST_F(ShellTest, ANameThatIsTooLongForAPathIsShownAllTheSame) {
+    const std::string name(255, 'n');
+    fs::create_directory(root_ / name);
+    IShellFolder* const folder = Bind(Path());
+    ASSERT_NE(nullptr, folder);
+    IEnumIDList* items = nullptr;
+    ASSERT_EQ(S_OK, folder->EnumObjects(nullptr, SHCONTF_FOLDERS, &items));
+    LPITEMIDLIST item = nullptr;
+    ASSERT_EQ(S_OK, items->Next(1, &item, nullptr));
+    EXPECT_EQ(name, NameOf(folder, item, SHGDN_NORMAL));
+    EXPECT_EQ("(none)", NameOf(folder, item, SHGDN_FORPARSING));
+    allocator_->Free(item);
+    items->Release();
+    folder->Release();
+}
+
+TEST_F(ShellTest, ADriveWithoutAMediumIsThereAndCannotBeOpened) {
+    const char* home = std::getenv("CVUTIL32_HOME");
+    if (!home) {
+        GTEST_SKIP() << "needs a state folder of its own";
+    }
+    const fs::path drive = fs::path(home) / "drive_b";
+    fs::create_directories(home);
+    fs::remove(drive);
+    fs::create_directory_symlink("/nowhere/at/all", drive);
+    const std::string drives = ListPath("::{20D04FE0-3AEA-1069-A2D8-08002B30309D}");
+    EXPECT_EQ("(unbound)", ListPath("B:\\"));
+    fs::remove(drive);
+    EXPECT_NE(std::string::npos, drives.find("Disk (B:)/+")) << drives;
 }
 
 TEST_F(ShellTest, ListsFromElsewhereAreRefused) {
