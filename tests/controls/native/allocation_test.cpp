@@ -1,4 +1,5 @@
 // What happens when global memory runs out, which only this host's platform layer can be told to pretend.
+#include <cvutil32/browse.h>
 #include <cvutil32/datectrl.h>
 #include <cvutil32/grbutton.h>
 #include <cvutil32/numfld.h>
@@ -31,6 +32,24 @@ TEST(Allocation, ControlsWithoutMemoryAreNotCreated) {
     HWND const control = CreateWindowExA(0, DATECTRL_CLASSNAME, "", WS_CHILD, 0, 0, 50, 20, host, nullptr,
                                          GetModuleHandleA(nullptr), nullptr);
     EXPECT_NE(nullptr, control) << "and are once there is memory again";
+}
+
+TEST(Allocation, BrowseButtonWithoutMemoryIsAGraphicButtonOnly) {
+    TestWindow const host;
+    LeakCheck const leaks;
+    CvPlatformFailAllocation(1);
+    HWND const button = CreateWindowExA(0, BROWSE_CLASSNAME, "", WS_CHILD | WS_VISIBLE | BROWSE_AUTOBUDDY, 0, 0, 20, 20,
+                                        host, nullptr, nullptr, nullptr);
+    CvPlatformFailAllocation(0);
+    ASSERT_NE(nullptr, button);
+    EXPECT_EQ(nullptr, GetPropA(button, "Browse_IsValid"));
+    EXPECT_NE(nullptr, GetPropA(button, "GrButton_IsValid"));
+    char const* specs = nullptr;
+    EXPECT_FALSE(BROWSE_GetFileSpecs(button, &specs));
+    EXPECT_EQ(0U, BROWSE_SetDialogOptions(button, BROWSE_FILEMODE));
+    EXPECT_EQ(nullptr, BROWSE_SetBuddyWindow(button, host));
+    SendMessageA(host, WM_COMMAND, MAKEWPARAM(0, BN_CLICKED), reinterpret_cast<LPARAM>(button));
+    DestroyWindow(button);
 }
 
 TEST(Allocation, GraphicButtonWithoutMemoryStaysAPlainButton) {
