@@ -3,7 +3,10 @@
 #pragma once
 
 #include "winuser/strings.h"
+#include "winuser/class.h"
 #include "winuser/window.h"
+#include "winuser/icon.h"
+#include "winuser/metrics.h"
 #include "winuser/messages.h"
 #include "winuser/notify.h"
 #include "winuser/input.h"

@@ -216,17 +216,6 @@ void Print(HWND handle, WPARAM context, LPARAM what) {
 constexpr LPARAM kQueryFormat = 3;
 constexpr LRESULT kAnsiFormat = 1;
 
-// The F1 key asks for help for the window that has the focus; parents hear of it when a child has none to give.
-void AskForHelp(HWND handle) {
-    HELPINFO help{};
-    help.cbSize = sizeof help;
-    help.iContextType = HELPINFO_WINDOW;
-    help.iCtrlId = GetDlgCtrlID(handle);
-    help.hItemHandle = handle;
-    GetCursorPos(&help.MousePos);
-    SendMessageA(handle, WM_HELP, 0, reinterpret_cast<LPARAM>(&help));
-}
-
 }  // namespace
 }  // namespace platform::user
 
@@ -302,8 +291,11 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
         case WM_SYSKEYDOWN:
             return SystemKeyDown(handle, wParam, lParam);
         case WM_KEYDOWN:
+            // The F1 key asks for help for the window that has the focus.
             if (wParam == VK_F1) {
-                AskForHelp(handle);
+                POINT pointer{};
+                GetCursorPos(&pointer);
+                AskForHelp(handle, pointer);
             }
             return 0;
         case WM_RBUTTONUP: {
@@ -313,8 +305,12 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
         }
         case WM_NCRBUTTONUP:
             return SendMessageA(handle, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(handle), lParam);
+        case WM_HELP: {
+            // What has no help of its own leaves it to its parent, and a window of the top level to its owner.
+            const HWND above = IsChildStyle(window->style) ? GetParent(handle) : GetWindow(handle, GW_OWNER);
+            return above ? SendMessageA(above, message, wParam, lParam) : 0;
+        }
         case WM_CONTEXTMENU:
-        case WM_HELP:
         case WM_MOUSEWHEEL:
             if (IsChildStyle(window->style)) {
                 if (const HWND parent = GetParent(handle)) {

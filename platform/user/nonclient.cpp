@@ -103,6 +103,10 @@ CaptionParts LayOutCaption(const Window* window, RECT windowRect) {
         const int width = close.right - close.left;
         parts.maximize = {close.left - 2 - width, close.top, close.left - 2, close.bottom};
         parts.minimize = {parts.maximize.left - width, close.top, parts.maximize.left, close.bottom};
+    } else if (!(window->exStyle & WS_EX_TOOLWINDOW) && (window->exStyle & WS_EX_CONTEXTHELP)) {
+        // The question mark stands only where there are no boxes to minimise and maximise.
+        const int width = close.right - close.left;
+        parts.help = {close.left - 2 - width, close.top, close.left - 2, close.bottom};
     }
     return parts;
 }
@@ -151,7 +155,7 @@ LRESULT HitTest(HWND handle, POINT point) {
         if (PtInRect(&parts.minimize, point)) {
             return window->style & WS_MINIMIZEBOX ? HTMINBUTTON : HTCAPTION;
         }
-        return HTCAPTION;
+        return PtInRect(&parts.help, point) ? HTHELP : HTCAPTION;
     }
     const RECT down = BarRect(window, true);
     const RECT across = BarRect(window, false);

@@ -20,6 +20,7 @@ struct CaptionParts {
     RECT close;
     RECT minimize;
     RECT maximize;
+    RECT help;
 };
 CaptionParts LayOutCaption(const Window* window, RECT windowRect);
 
@@ -34,5 +35,18 @@ void PaintFrame(HWND window, HRGN region, int pressed = HTNOWHERE);
 void PressFrame(HWND window, int hitCode, POINT point);
 
 LRESULT SystemCommand(HWND window, WPARAM command, POINT point);
+
+/// The next message of a loop that handles a window's frame. @returns false when the loop has to end: the window is gone,
+/// or the program ends, which is passed on.
+bool NextMessage(HWND window, MSG* message);
+
+/// @returns whether a message comes from the keyboard or the mouse, which such a loop keeps to itself.
+bool IsInput(UINT message);
+
+/// The question mark of a caption was pressed: the next click on the window asks for help on what lies there.
+void RunHelpMode(HWND window);
+
+/// Asks a window for help on itself with WM_HELP. @param point the pointer's place on the screen.
+void AskForHelp(HWND window, POINT point);
 
 }  // namespace platform::user

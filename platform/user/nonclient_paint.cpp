@@ -128,6 +128,7 @@ void DrawCaption(HDC context, const Picture& picture, int pressed) {
     DrawButton(memory, parts.maximize, maximized ? DFCS_CAPTIONRESTORE : DFCS_CAPTIONMAX, pressed == HTMAXBUTTON,
                !(picture.style & WS_MAXIMIZEBOX));
     DrawButton(memory, parts.minimize, DFCS_CAPTIONMIN, pressed == HTMINBUTTON, !(picture.style & WS_MINIMIZEBOX));
+    DrawButton(memory, parts.help, DFCS_CAPTIONHELP, pressed == HTHELP, false);
     RECT text = parts.bar;
     if (!IsRectEmpty(&parts.icon)) {
         DrawIconEx(memory, parts.icon.left, parts.icon.top, picture.icon, parts.icon.right - parts.icon.left,
@@ -136,6 +137,7 @@ void DrawCaption(HDC context, const Picture& picture, int pressed) {
     }
     text.left += 3;
     text.right = !IsRectEmpty(&parts.minimize) ? parts.minimize.left
+                 : !IsRectEmpty(&parts.help)   ? parts.help.left
                  : !IsRectEmpty(&parts.close)  ? parts.close.left
                                                : parts.bar.right;
     text.right -= 2;

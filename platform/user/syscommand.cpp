@@ -81,22 +81,6 @@ bool ArrowStep(WPARAM key, int* dx, int* dy) {
     return *dx != 0 || *dy != 0;
 }
 
-/// The next message of a modal loop. @returns false when the loop has to end; the end of the program is passed on.
-bool NextMessage(HWND handle, MSG* message) {
-    if (!PeekWindow(handle)) {
-        return false;
-    }
-    const BOOL got = GetMessageA(message, nullptr, 0, 0);
-    if (got == 0) {
-        PostQuitMessage(static_cast<int>(message->wParam));
-    }
-    return got > 0;
-}
-
-bool IsInput(UINT message) {
-    return (message >= WM_KEYFIRST && message <= WM_KEYLAST) || (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST);
-}
-
 void SetMoveSize(HWND handle) {
     ThreadState* self = CurrentThread();
     const UserGuard guard(UserLock());
@@ -199,6 +183,21 @@ bool TrackButton(HWND handle, int button) {
 
 }  // namespace
 
+bool NextMessage(HWND handle, MSG* message) {
+    if (!PeekWindow(handle)) {
+        return false;
+    }
+    const BOOL got = GetMessageA(message, nullptr, 0, 0);
+    if (got == 0) {
+        PostQuitMessage(static_cast<int>(message->wParam));
+    }
+    return got > 0;
+}
+
+bool IsInput(UINT message) {
+    return (message >= WM_KEYFIRST && message <= WM_KEYLAST) || (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST);
+}
+
 void PressFrame(HWND handle, int hitCode, POINT point) {
     const LPARAM where = MAKELPARAM(point.x, point.y);
     switch (hitCode) {
@@ -214,6 +213,11 @@ void PressFrame(HWND handle, int hitCode, POINT point) {
         case HTCLOSE:
             if (TrackButton(handle, hitCode)) {
                 SendMessageA(handle, WM_SYSCOMMAND, SC_CLOSE, where);
+            }
+            break;
+        case HTHELP:
+            if (TrackButton(handle, hitCode)) {
+                SendMessageA(handle, WM_SYSCOMMAND, SC_CONTEXTHELP, where);
             }
             break;
         case HTMINBUTTON:
@@ -266,6 +270,9 @@ LRESULT SystemCommand(HWND handle, WPARAM command, POINT point) {
                 break;
             }
             SendMessageA(handle, WM_CLOSE, 0, 0);
+            break;
+        case SC_CONTEXTHELP:
+            RunHelpMode(handle);
             break;
         case SC_MINIMIZE:
             ShowWindow(handle, SW_MINIMIZE);

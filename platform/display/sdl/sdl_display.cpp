@@ -9,10 +9,13 @@
 #include <memory>
 #include <utility>
 
+#include "display/sdl/help_cursor.h"
+
 namespace platform::display {
 namespace {
 
 constexpr unsigned kArrow = 32512;  // IDC_ARROW as a number
+constexpr unsigned kHelp = 32651;   // IDC_HELP
 constexpr int kFrameMilliseconds = 8;
 constexpr int kIdleMilliseconds = 1000;
 constexpr std::chrono::milliseconds kClipboardWait{2000};
@@ -331,7 +334,7 @@ void SdlDisplay::ApplyCursor() {
     }
     SDL_Cursor*& cursor = cursors[wanted];
     if (cursor == nullptr) {
-        cursor = SDL_CreateSystemCursor(SystemCursor(wanted));
+        cursor = wanted == kHelp ? MakeHelpCursor() : SDL_CreateSystemCursor(SystemCursor(wanted));
     }
     if (cursor != nullptr) {
         SDL_SetCursor(cursor);

@@ -258,6 +258,7 @@ typedef VOID(CALLBACK* SENDASYNCPROC)(HWND window, UINT message, ULONG_PTR data,
 #define SC_SCREENSAVE 0xF140
 #define SC_HOTKEY 0xF150
 #define SC_DEFAULT 0xF160
+#define SC_CONTEXTHELP 0xF180
 
 // Changes of state that keyboard cues follow (WM_CHANGEUISTATE)
 #define UIS_SET 1

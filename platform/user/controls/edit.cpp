@@ -162,7 +162,7 @@ LRESULT OnInput(HWND edit, EditData& data, UINT message, WPARAM wParam, LPARAM l
     switch (message) {
         case WM_KEYDOWN:
             OnEditKey(edit, data, wParam);
-            return 0;
+            return DefWindowProcA(edit, message, wParam, lParam);
         case WM_CHAR:
             OnEditCharacter(edit, data, wParam);
             return 0;
