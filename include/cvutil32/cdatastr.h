@@ -54,6 +54,7 @@ class CVCLASS CDATASTR : public CSTRING {
     void CleanDelimiters(char delimiter);
 
     /// Replaces every character of a set by the delimiter.
+    /// @param delimiter  what they become.
     /// @param set  zero-terminated, such as DATASTR_DELIMITERS; null changes nothing.
     void NormalizeDelimiters(char delimiter, char const* set);
 
@@ -67,10 +68,13 @@ class CVCLASS CDATASTR : public CSTRING {
     /// Takes the next item.
     /// @param position  in: where to start, 0 for the first item; out: behind the item and its delimiter.
     /// @param item  takes the item's text, empty between two adjacent delimiters and at the end of the list.
+    /// @param delimiter  what ends an item.
     /// @return 1, or 0 at the end of the list or for a null or invalid argument (nothing is written for the latter).
     int EnumDataItems(unsigned int* position, CSTRING* item, char delimiter) const;
 
     /// Takes the next item as a signed decimal number.
+    /// @param position  as above.
+    /// @param delimiter  as above.
     /// @param value  takes the number's low 32 bits; 0 if the item does not begin with one; unchanged if it is blank.
     /// @return 1, or 0 at the end of the list, for an item that is no number (the position has moved past it) or for a
     /// null

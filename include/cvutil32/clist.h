@@ -120,13 +120,14 @@ class CVCLASS CLIST : public CBASE {
     /// Finds the first match from a start on.
     /// @param key  what @p compare gets as its first argument.
     /// @param compare  only whether its result is 0 counts; null finds nothing.
-    /// @param index  in: where to start; out: the match's index or CLIST_NOINDEX. Null starts at 0. To go on behind a
-    /// match,
-    ///               add one to its index and call again.
+    /// @param index  in: where to start; out: the match's index or CLIST_NOINDEX. Null starts at 0. To go on
+    ///               behind a match, add one to its index and call again.
     /// @return the element's address, or null.
     void* FindLinear(void* key, CLISTCOMPARE compare, unsigned int* index) const;
 
     /// Finds a match by halving, in a list that is in ascending order under the same comparison.
+    /// @param key  what @p compare gets as its first argument.
+    /// @param compare  0 for a match, below 0 where the key belongs before the element, above 0 behind it; null finds nothing.
     /// @param index  out only: the match's index, or where the key would be inserted; CLIST_NOINDEX for an invalid list
     /// or a
     ///               null comparison. May be null.

@@ -277,6 +277,7 @@ class CVCLASS CSTRING : public CBASE {
     CSTRING const& Replace(char from, char to, int all);
 
     /// Overwrites characters with as many of a text.
+    /// @param text  what is put in.
     /// @param pos  where to begin; with ~0 the last @p count characters are taken out and nothing is put in.
     /// @param count  how many; fewer if either text ends before.
     CSTRING const& Replace(char const* text, unsigned int pos, unsigned int count);
@@ -284,6 +285,7 @@ class CVCLASS CSTRING : public CBASE {
     /// Replaces a text by another one, everywhere or where it is found first. The search goes on behind what was put in.
     /// @param find  what Find() looks for; null and an empty text change nothing.
     /// @param with  null changes nothing; an empty text takes out.
+    /// @param all  nonzero for everywhere, 0 for the first place alone.
     CSTRING const& Replace(char const* find, char const* with, int all);
 
     // --- extracting; the results are new objects, empty ones of an invalid object
@@ -298,6 +300,7 @@ class CVCLASS CSTRING : public CBASE {
     // --- searching, as the system's locale compares
 
     /// Finds a character.
+    /// @param ch  one of the code page in use.
     /// @param start  where to begin; ~0 looks for the last one in the whole text.
     /// @return its position; ~0 if there is none; 0 on an invalid object.
     unsigned int Find(char ch, unsigned int start);
@@ -344,7 +347,10 @@ class CVCLASS CSTRING : public CBASE {
     /// Takes this path apart: X:\\dir\\file.txt is the drive X:, the directory \\dir\\, the name file and the extension
     /// .txt. Double quotes are dropped first; a directory, name or extension that holds a space or a semicolon comes
     /// out in double quotes. A path without a colon has no drive. This object stays as it is.
-    /// @param drive  receives its part, as the others do; null and an invalid object are skipped.
+    /// @param drive  receives the drive with its colon. Null and an invalid object are skipped, here and below.
+    /// @param dir    receives the directory with both its backslashes.
+    /// @param name   receives the name without the extension.
+    /// @param ext    receives the extension with its dot.
     CSTRING const& SplitPath(CSTRING* drive, CSTRING* dir, CSTRING* name, CSTRING* ext) const;
 
     /// Becomes the name and the extension of a path, the name as SplitPath() gives it.
@@ -363,6 +369,8 @@ class CVCLASS CSTRING : public CBASE {
 
     /// Becomes a value of a profile file. A value that is empty changes nothing.
     /// @param file      null is the user's own profile; a bare name lies in the Windows folder.
+    /// @param section   the name in brackets, without them.
+    /// @param key       the name before the equals sign.
     /// @param fallback  used if there is no such key.
     CSTRING const& GetProfileStringA(char const* file, char const* section, char const* key, char const* fallback);
 
@@ -371,6 +379,7 @@ class CVCLASS CSTRING : public CBASE {
 
     // --- formatted text of at most 1023 characters, as the system's wsprintfA makes it; an empty result changes nothing
 
+    /// @param format  as wsprintfA takes it.
     /// @param args  the list of a function with variable arguments: a `va_list`, or its address where a list is not a
     ///              pointer.
     CSTRING const& wvsprintfA(char const* format, void* args);
@@ -396,11 +405,14 @@ class CVCLASS CSTRING : public CBASE {
     CSTRING const& RegEnumKeyA(HKEY key, unsigned long index);
 
     /// Becomes the name of a key's value.
+    /// @param key   an open key.
+    /// @param index  from 0.
     /// @param data  receives the value's data as text up to its first NUL, whatever its type, if it fits into 1024
     ///              bytes or what the object holds already; else nothing is found. Null: only the name is wanted.
     CSTRING const& RegEnumValueA(HKEY key, unsigned long index, CSTRING* data);
 
     /// Becomes the data of a key's value as text up to its first NUL, whatever its type.
+    /// @param key        an open key.
     /// @param valueName  null is the unnamed value.
     CSTRING const& RegQueryValueA(HKEY key, char const* valueName);
 
