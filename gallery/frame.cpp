@@ -177,9 +177,9 @@ INT_PTR CALLBACK FrameProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM
             OnCommand(*frame, LOWORD(wParam), HIWORD(wParam));
             return TRUE;
         case WM_HELP:
-            return ShowHelp(*reinterpret_cast<const HELPINFO*>(lParam)) ? TRUE : FALSE;
+            return ShowHelp(dialog, *reinterpret_cast<const HELPINFO*>(lParam)) ? TRUE : FALSE;
         case WM_CONTEXTMENU:
-            return ShowContextMenuHelp(reinterpret_cast<HWND>(wParam)) ? TRUE : FALSE;
+            return ShowContextMenuHelp(dialog, reinterpret_cast<HWND>(wParam)) ? TRUE : FALSE;
         case WM_WININICHANGE:
             TellPages(*frame, lParam);
             return TRUE;

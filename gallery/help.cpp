@@ -109,7 +109,14 @@ constexpr Range kRanges[] = {
     {IDC_DIALOGS_RESULT, IDC_DIALOGS_RESULT, kBoxResult},
 };
 
-DWORD TopicOf(DWORD id) {
+DWORD TopicOf(HWND frame, HWND control) {
+    if (!IsChild(frame, control)) {
+        // Other dialogs have the frame's numbers for controls of their own.
+        char name[64] = "";
+        GetClassNameA(control, name, sizeof name);
+        return lstrcmpiA(name, TREELIST_CLASSNAME) == 0 ? DWORD{kFolderTree} : 0;
+    }
+    const auto id = static_cast<DWORD>(GetDlgCtrlID(control));
     for (const Range& range : kRanges) {
         if (id >= range.first && id <= range.last) {
             return range.topic;
@@ -131,11 +138,11 @@ std::string HelpFile() {
     return folder + "gallery.hlp";
 }
 
-bool Show(HWND control, UINT command) {
+bool Show(HWND frame, HWND control, UINT command) {
     // A part of a control (the field of a combo box, the tree of a folder tree list) has the topic of the whole.
     DWORD topic = 0;
     while (control != nullptr && topic == 0 && (GetWindowLongA(control, GWL_STYLE) & WS_CHILD) != 0) {
-        topic = TopicOf(static_cast<DWORD>(GetDlgCtrlID(control)));
+        topic = TopicOf(frame, control);
         if (topic == 0) {
             control = GetParent(control);
         }
@@ -149,12 +156,12 @@ bool Show(HWND control, UINT command) {
 
 }  // namespace
 
-bool ShowHelp(const HELPINFO& info) {
-    return info.iContextType == HELPINFO_WINDOW && Show(static_cast<HWND>(info.hItemHandle), HELP_WM_HELP);
+bool ShowHelp(HWND frame, const HELPINFO& info) {
+    return info.iContextType == HELPINFO_WINDOW && Show(frame, static_cast<HWND>(info.hItemHandle), HELP_WM_HELP);
 }
 
-bool ShowContextMenuHelp(HWND control) {
-    return Show(control, HELP_CONTEXTMENU);
+bool ShowContextMenuHelp(HWND frame, HWND control) {
+    return Show(frame, control, HELP_CONTEXTMENU);
 }
 
 }  // namespace gallery

@@ -6,10 +6,11 @@
 
 namespace gallery {
 
-/// Answers WM_HELP. @param info as it comes with the message. @returns whether a topic was shown.
-bool ShowHelp(const HELPINFO& info);
+/// Answers WM_HELP, which dialogs of the library pass on to the frame that owns them. @param info as it comes with the
+/// message. @returns whether a topic was shown.
+bool ShowHelp(HWND frame, const HELPINFO& info);
 
 /// Answers WM_CONTEXTMENU. @param control the window that was clicked.
-bool ShowContextMenuHelp(HWND control);
+bool ShowContextMenuHelp(HWND frame, HWND control);
 
 }  // namespace gallery
