@@ -1,17 +1,16 @@
-// Help on a control: the question mark of a caption, the click that asks, and the way that WM_HELP takes.
+// Help on a control by the question mark of a caption: input that nobody else can disturb.
 #include <gtest/gtest.h>
 
 #include <windows.h>
 
 #include <vector>
 
-#include "recorder.h"
+#include "../recorder.h"
 
 namespace {
 
 using tests::Heard;
 using tests::Pump;
-using tests::PumpUntil;
 using tests::Recorder;
 
 constexpr int kLeft = 100;
@@ -38,7 +37,7 @@ INPUT Key(WORD key, DWORD flags = 0) {
     return input;
 }
 
-/// What WM_HELP brought to a window; the record that it points to is gone afterwards.
+/// What WM_HELP brought to a window; what its parameter points to is gone afterwards.
 struct Asked {
     HWND by;
     HELPINFO info;
@@ -53,8 +52,11 @@ class ContextHelp : public ::testing::Test {
             if (heard.message == WM_HELP) {
                 asked.push_back({heard.window, *reinterpret_cast<const HELPINFO*>(heard.lParam)});
             }
-            if (heard.message == WM_SYSCOMMAND) {
-                PostMessageA(heard.window, kDuring, 0, 0);
+            // Each of them begins a loop, which delivers what is posted.
+            if (heard.message == WM_NCLBUTTONDOWN || heard.message == WM_SYSCOMMAND) {
+                PostMessageA(heard.window, kDuring, heard.message, 0);
+            } else if (heard.message == kDuring && heard.wParam == WM_NCLBUTTONDOWN) {
+                pressedEdge = TopLeftOf(HTHELP);
             } else if (heard.message == kDuring) {
                 cursor = GetCursor();
                 capture = GetCapture();
@@ -85,18 +87,41 @@ class ContextHelp : public ::testing::Test {
     LRESULT Hit(POINT point) const {
         return SendMessageA(window, WM_NCHITTEST, 0, MAKELPARAM(point.x, point.y));
     }
-    /// The middle of what answers with a hit code in the row through the close box.
-    POINT MiddleOf(LRESULT code) const {
-        const int y = kTop + GetSystemMetrics(SM_CYFIXEDFRAME) + GetSystemMetrics(SM_CYCAPTION) / 2;
-        int first = 0;
-        int last = 0;
-        for (int x = kLeft; x < kLeft + kWidth; ++x) {
-            if (Hit({x, y}) == code) {
-                first = first ? first : x;
-                last = x;
+    /// The part of the caption that answers with a hit code.
+    RECT PartOf(LRESULT code) const {
+        RECT part{};
+        for (int y = kTop; y < kTop + GetSystemMetrics(SM_CYFIXEDFRAME) + GetSystemMetrics(SM_CYCAPTION); ++y) {
+            for (int x = kLeft; x < kLeft + kWidth; ++x) {
+                const RECT pixel{x, y, x + 1, y + 1};
+                if (Hit({x, y}) == code) {
+                    UnionRect(&part, &part, &pixel);
+                }
             }
         }
-        return {(first + last) / 2, y};
+        return part;
+    }
+    POINT MiddleOf(LRESULT code) const {
+        const RECT part = PartOf(code);
+        return {(part.left + part.right) / 2, (part.top + part.bottom) / 2};
+    }
+    COLORREF TopLeftOf(LRESULT code) const {
+        const RECT part = PartOf(code);
+        HDC screen = GetDC(nullptr);
+        const COLORREF colour = GetPixel(screen, part.left, part.top);
+        ReleaseDC(nullptr, screen);
+        return colour;
+    }
+    /// @returns how many pixels of a part have a colour.
+    int Count(const RECT& part, int colour) const {
+        HDC screen = GetDC(nullptr);
+        int count = 0;
+        for (int y = part.top; y < part.bottom; ++y) {
+            for (int x = part.left; x < part.right; ++x) {
+                count += GetPixel(screen, x, y) == GetSysColor(colour) ? 1 : 0;
+            }
+        }
+        ReleaseDC(nullptr, screen);
+        return count;
     }
     static POINT In(HWND child, int x = 50, int y = 30) {
         POINT point{x, y};
@@ -107,7 +132,6 @@ class ContextHelp : public ::testing::Test {
     static void Play(std::vector<INPUT> inputs) {
         SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
         Pump();
-        PumpUntil([] { return GetQueueStatus(QS_INPUT) == 0; });
     }
     void AskAbout(POINT point) {
         const POINT mark = MiddleOf(HTHELP);
@@ -119,14 +143,22 @@ class ContextHelp : public ::testing::Test {
     std::vector<Asked> asked;
     HCURSOR cursor = nullptr;  ///< while help is asked for
     HWND capture = nullptr;
+    COLORREF pressedEdge = CLR_INVALID;
 };
 
 TEST_F(ContextHelp, TheMarkStandsLeftOfTheCloseBoxWhereNoOtherBoxesDo) {
     Make();
+    const RECT part = PartOf(HTHELP);
+    const RECT close = PartOf(HTCLOSE);
+    EXPECT_EQ(part.right - part.left, close.right - close.left);
+    EXPECT_EQ(part.top, close.top);
+    EXPECT_EQ(part.bottom, close.bottom);
+    EXPECT_EQ(part.right + 2, close.left);
+    EXPECT_EQ(TopLeftOf(HTHELP), GetSysColor(COLOR_3DHILIGHT));
+    const RECT face{part.left + 2, part.top + 2, part.right - 2, part.bottom - 2};
+    EXPECT_GT(Count(face, COLOR_3DFACE), 40);
+    EXPECT_GT(Count(face, COLOR_BTNTEXT), 15);
     const POINT mark = MiddleOf(HTHELP);
-    const POINT close = MiddleOf(HTCLOSE);
-    EXPECT_LT(mark.x, close.x);
-    EXPECT_LT(close.x - mark.x, 2 * GetSystemMetrics(SM_CXSIZE));
     DestroyWindow(window);
     for (const DWORD box : {DWORD{WS_MINIMIZEBOX}, DWORD{WS_MAXIMIZEBOX}}) {
         Make(kStyle | box);
@@ -160,6 +192,8 @@ TEST_F(ContextHelp, TheControlUnderTheClickIsAskedAndThenItsParents) {
         EXPECT_EQ(each.info.MousePos.x, click.x);
         EXPECT_EQ(each.info.MousePos.y, click.y);
     }
+    EXPECT_EQ(pressedEdge, GetSysColor(COLOR_3DDKSHADOW));
+    EXPECT_EQ(TopLeftOf(HTHELP), GetSysColor(COLOR_3DHILIGHT));
     EXPECT_EQ(cursor, LoadCursorA(nullptr, IDC_HELP));
     EXPECT_EQ(capture, window);
     // The click was for help and nothing else.
@@ -224,12 +258,14 @@ TEST_F(ContextHelp, TheMarkCountsOnlyWhenReleasedThere) {
 
 TEST_F(ContextHelp, TheOwnerIsAskedAfterAWindowOfTheTopLevel) {
     Make();
-    HWND owned = CreateWindowExA(0, Recorder::kClass, "", WS_POPUP, 0, 0, 50, 50, window, nullptr, nullptr, nullptr);
-    SendMessageA(owned, WM_KEYDOWN, VK_F1, 1);
+    HWND owned = Recorder::Get().Make(WS_POPUP | WS_VISIBLE, 0, 0, 50, 50, window);
+    HWND child = MakeChild("edit", 0, 5, owned);
+    SetFocus(child);
+    Play({Key(VK_F1), Key(VK_F1, KEYEVENTF_KEYUP)});
     ASSERT_EQ(asked.size(), 2U);
     EXPECT_EQ(asked[0].by, owned);
     EXPECT_EQ(asked[1].by, window);
-    EXPECT_EQ(asked[1].info.hItemHandle, owned);
+    EXPECT_EQ(asked[1].info.hItemHandle, child);
 }
 
 }  // namespace
