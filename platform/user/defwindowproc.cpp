@@ -290,14 +290,6 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
             return SetCursorFor(handle, wParam, lParam);
         case WM_SYSKEYDOWN:
             return SystemKeyDown(handle, wParam, lParam);
-        case WM_KEYDOWN:
-            // The F1 key asks for help for the window that has the focus.
-            if (wParam == VK_F1) {
-                POINT pointer{};
-                GetCursorPos(&pointer);
-                AskForHelp(handle, pointer);
-            }
-            return 0;
         case WM_RBUTTONUP: {
             POINT point{static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
             ClientToScreen(handle, &point);

@@ -1,7 +1,9 @@
 // Cooking keyboard input: the message that a key makes depends on Alt, on what has the focus and on what was down
 // before.
 #include <algorithm>
+#include <new>
 
+#include "user/nonclient.h"
 #include "user/queue.h"
 
 namespace platform::user {
@@ -9,6 +11,27 @@ namespace {
 
 bool IsDown(const BYTE (&keys)[256], BYTE key) {
     return (keys[key] & 0x80) != 0;
+}
+
+void RunHelpKey(const SentMessage& errand) {
+    POINT pointer{};
+    GetCursorPos(&pointer);
+    if (PeekWindow(errand.window) != nullptr) {
+        AskForHelp(errand.window, pointer);
+    }
+}
+
+// The F1 key asks for help whatever the window does with the key itself, and after it has heard of the key.
+void NoteHelpKey(ThreadState* self, HWND window) {
+    auto* errand = new (std::nothrow) SentMessage;
+    if (errand == nullptr) {
+        return;
+    }
+    errand->errand = RunHelpKey;
+    errand->window = window;
+    if (!Enqueue(self, errand)) {
+        delete errand;
+    }
 }
 
 }  // namespace
@@ -71,6 +94,10 @@ Cooked CookKey(ThreadState* self, const InputEvent& event, bool (*wanted)(const 
         self->lastKey.key = key;
         self->lastKey.data = message->lParam;
         self->lastKey.unicode = event.unicode;
+    }
+    if (remove && deliver && event.down && !wasDown && key == VK_F1 && !IsDown(keys, VK_MENU) && !control &&
+        !IsDown(keys, VK_SHIFT)) {
+        NoteHelpKey(self, window);
     }
     return deliver ? Cooked::Message : Cooked::Dropped;
 }

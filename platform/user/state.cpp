@@ -196,21 +196,3 @@ int WINAPI MapWindowPoints(HWND from, HWND to, LPPOINT points, UINT count) {
     }
     return MAKELONG(dx, dy);
 }
-
-BOOL WINAPI GetWindowPlacement(HWND handle, WINDOWPLACEMENT* placement) {
-    const UserGuard guard(UserLock());
-    const Window* window = FindWindowObject(handle);
-    if (!window || !placement || placement->length != sizeof(WINDOWPLACEMENT)) {
-        if (window) {
-            SetLastError(ERROR_INVALID_PARAMETER);
-        }
-        return FALSE;
-    }
-    const bool iconic = (window->style & WS_MINIMIZE) != 0;
-    const bool zoomed = (window->style & WS_MAXIMIZE) != 0;
-    placement->flags = 0;
-    placement->showCmd = static_cast<UINT>(iconic ? SW_SHOWMINIMIZED : zoomed ? SW_SHOWMAXIMIZED : SW_SHOWNORMAL);
-    placement->ptMinPosition = placement->ptMaxPosition = {-1, -1};
-    placement->rcNormalPosition = iconic || zoomed ? window->restoredRect : window->windowRect;
-    return TRUE;
-}

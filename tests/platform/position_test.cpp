@@ -250,6 +250,34 @@ TEST_F(Positions, WindowsCanBeMadeMaximised) {
     }
 }
 
+TEST_F(Positions, APlacementIsTheNormalPlaceAndTheState) {
+    HWND window = Make(WS_CAPTION | WS_THICKFRAME | WS_VISIBLE, 10, 10, 200, 150, nullptr, kRed);
+    WINDOWPLACEMENT placement{};
+    placement.length = sizeof placement;
+    placement.showCmd = SW_SHOWMAXIMIZED;
+    placement.ptMinPosition = placement.ptMaxPosition = {-1, -1};
+    placement.rcNormalPosition = {30, 40, 280, 220};
+    EXPECT_TRUE(SetWindowPlacement(window, &placement));
+    EXPECT_TRUE(IsZoomed(window));
+    WINDOWPLACEMENT read{};
+    read.length = sizeof read;
+    EXPECT_TRUE(GetWindowPlacement(window, &read));
+    EXPECT_EQ(read.showCmd, static_cast<UINT>(SW_SHOWMAXIMIZED));
+    ExpectRect(read.rcNormalPosition, 30, 40, 280, 220);
+
+    placement.showCmd = SW_SHOWNORMAL;
+    placement.rcNormalPosition = {50, 60, 300, 240};
+    EXPECT_TRUE(SetWindowPlacement(window, &placement));
+    EXPECT_FALSE(IsZoomed(window));
+    RECT rect;
+    GetWindowRect(window, &rect);
+    ExpectRect(rect, 50, 60, 300, 240);
+
+    HWND child = Make(WS_CHILD | WS_VISIBLE, 5, 6, 20, 30, window, kGreen);
+    EXPECT_TRUE(GetWindowPlacement(child, &read));
+    ExpectRect(read.rcNormalPosition, 5, 6, 25, 36);
+}
+
 TEST_F(Positions, OwnedPopupsGoAndComeWithTheirOwner) {
     HWND owner = Make(kTop, 10, 10, 60, 60, nullptr, kRed);
     HWND shown = Make(kTop, 20, 20, 20, 20, owner, kGreen);

@@ -85,6 +85,11 @@ SdlDisplay::SdlDisplay(const Sink& sink, const Source& source, int width, int he
 
 SdlDisplay::~SdlDisplay() {
     running = false;
+    if (thread.get_id() == std::this_thread::get_id()) {
+        // The desktop is gone, and the host's library ends the program from within the loop.
+        thread.detach();
+        return;
+    }
     if (thread.joinable()) {
         Post();
         thread.join();

@@ -281,7 +281,10 @@ WINUSERAPI BOOL WINAPI EndDeferWindowPos(HDWP batch);
 WINUSERAPI BOOL WINAPI ShowOwnedPopups(HWND owner, BOOL show);
 WINUSERAPI BOOL WINAPI CloseWindow(HWND window);
 
+/// ptMinPosition and ptMaxPosition are always (-1, -1): the system chooses where minimised and maximised windows lie.
 WINUSERAPI BOOL WINAPI GetWindowPlacement(HWND window, WINDOWPLACEMENT* placement);
+/// Leaves ptMinPosition and ptMaxPosition aside.
+WINUSERAPI BOOL WINAPI SetWindowPlacement(HWND window, const WINDOWPLACEMENT* placement);
 WINUSERAPI BOOL WINAPI GetWindowRect(HWND window, LPRECT rect);
 WINUSERAPI BOOL WINAPI GetClientRect(HWND window, LPRECT rect);
 WINUSERAPI BOOL WINAPI ClientToScreen(HWND window, LPPOINT point);

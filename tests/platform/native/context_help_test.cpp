@@ -258,9 +258,10 @@ TEST_F(ContextHelp, TheMarkCountsOnlyWhenReleasedThere) {
 
 TEST_F(ContextHelp, TheOwnerIsAskedAfterAWindowOfTheTopLevel) {
     Make();
-    HWND owned = Recorder::Get().Make(WS_POPUP, 0, 0, 50, 50, window);
+    HWND owned = Recorder::Get().Make(WS_POPUP | WS_VISIBLE, 0, 0, 50, 50, window);
     HWND child = MakeChild("edit", 0, 5, owned);
-    SendMessageA(child, WM_KEYDOWN, VK_F1, 1);
+    SetFocus(child);
+    Play({Key(VK_F1), Key(VK_F1, KEYEVENTF_KEYUP)});
     ASSERT_EQ(asked.size(), 2U);
     EXPECT_EQ(asked[0].by, owned);
     EXPECT_EQ(asked[1].by, window);

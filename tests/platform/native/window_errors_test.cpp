@@ -50,4 +50,15 @@ TEST_F(WindowErrors, NarrowLongsDoNotHoldPointers) {
     DestroyWindow(window);
 }
 
+TEST_F(WindowErrors, APlacementSaysHowLongItIs) {
+    HWND window = Recorder::Get().Make(WS_POPUP, 0, 0, 10, 10);
+    WINDOWPLACEMENT placement{};
+    EXPECT_FALSE(GetWindowPlacement(window, &placement));
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_PARAMETER));
+    SetLastError(0);
+    EXPECT_FALSE(SetWindowPlacement(window, &placement));
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_PARAMETER));
+    DestroyWindow(window);
+}
+
 }  // namespace

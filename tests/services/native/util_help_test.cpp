@@ -88,7 +88,17 @@ TEST_F(UtilHelpPopup, TheHelpKeyAsksForHelpForTheControl) {
         EXPECT_EQ(7, help->iCtrlId);
         return UTIL_WinHelp(static_cast<HWND>(help->hItemHandle), file_.c_str(), HELP_WM_HELP, data_);
     };
-    SendMessageA(control, WM_KEYDOWN, VK_F1, 1);
+    ShowWindow(window_, SW_SHOW);
+    SetForegroundWindow(window_);
+    SetFocus(control);
+    INPUT key = {};
+    key.type = INPUT_KEYBOARD;
+    key.ki.wVk = VK_F1;
+    SendInput(1, &key, sizeof key);
+    PumpMessages();
+    key.ki.dwFlags = KEYEVENTF_KEYUP;
+    SendInput(1, &key, sizeof key);
+    PumpMessages();
     EXPECT_EQ("The name.\nIn two lines.", Shown());
 }
 
