@@ -97,6 +97,7 @@ void OnButtonDown(const TreePointer& tree, POINT point, bool twice) {
         return;
     }
     if (where & TVHT_ONITEM) {
+        tree->typing.Forget();
         Select(tree, handle, TVC_BYMOUSE);
     }
     // The answer of a click that is not wanted is nonzero.
@@ -116,6 +117,7 @@ void OnRightButtonDown(const TreePointer& tree) {
 }
 
 bool OnKeyDown(const TreePointer& tree, WPARAM key) {
+    tree->typing.OnKey(key);
     NotifyKey(*tree, static_cast<WORD>(key));
     if (tree->ending) {
         return true;

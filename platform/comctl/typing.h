@@ -18,7 +18,13 @@ class Typing {
     int Find(char character, int row, int rows, const TextOfRow& textOf);
     /// @returns whether another character would go on with what was typed.
     bool IsUnderWay() const;
-    /// Typing begins anew: the rows are others.
+    /// A key that moves, and typing begins anew.
+    void OnKey(WPARAM key) {
+        if (key == VK_BACK || (key >= VK_PRIOR && key <= VK_DOWN)) {
+            Forget();
+        }
+    }
+    /// Typing begins anew: the rows are others, or the user has gone to another.
     void Forget() {
         typed_.clear();
     }

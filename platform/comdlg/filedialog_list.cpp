@@ -47,6 +47,11 @@ LRESULT CALLBACK ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lP
     if (message == WM_KEYDOWN && wParam == VK_SPACE && dialog->typing.IsUnderWay()) {
         return 0;  // its character goes on with the name
     }
+    if (message == WM_KEYDOWN) {
+        dialog->typing.OnKey(wParam);
+    } else if (message == WM_LBUTTONDOWN) {
+        dialog->typing.Forget();
+    }
     return CallWindowProcA(dialog->listProcedure, list, message, wParam, lParam);
 }
 

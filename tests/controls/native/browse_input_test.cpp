@@ -148,7 +148,8 @@ TEST_F(BrowseInput, AFolderThreeLevelsDownByKeyboard) {
                                               Press({'W', 'A', VK_RIGHT});
                                           },
                                           [](HWND) {
-                                              Press({VK_DOWN, VK_RIGHT});
+                                              // A key that moves has ended what was typed before.
+                                              Press({'O', 'N', VK_RIGHT});
                                           },
                                           [](HWND) {
                                               Press({VK_RIGHT, VK_RIGHT});
