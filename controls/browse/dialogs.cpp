@@ -17,7 +17,7 @@ namespace {
 
 constexpr int kTree = 102;
 
-// Known once the first open-file dialog has started; 0 is no message that a dialog gets.
+// Known once the first open-file dialog has started.
 UINT g_fileOk = 0;
 
 // --- the open-file dialog
@@ -147,7 +147,9 @@ CVAPI(UINT_PTR) browse_DialogFileHookProc(HWND dialog, UINT message, WPARAM, LPA
             browse::g_fileOk = RegisterWindowMessageA(FILEOKSTRINGA);
             return 1;
         default:
-            return message == browse::g_fileOk ? browse::Judge(dialog, *reinterpret_cast<OPENFILENAMEA const*>(lParam))
-                                               : 0;
+            // WM_NULL comes with nothing to judge.
+            return message && message == browse::g_fileOk
+                       ? browse::Judge(dialog, *reinterpret_cast<OPENFILENAMEA const*>(lParam))
+                       : 0;
     }
 }

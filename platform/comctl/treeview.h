@@ -14,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "comctl/typing.h"
 #include "user/controls/controls.h"
 
 namespace platform::comctl {
@@ -84,8 +85,7 @@ struct TreeView : user::ControlData {
     bool ending = false;
     int wheel = 0;  ///< what the wheel has turned and not scrolled yet
 
-    std::string typed;
-    DWORD typedAt = 0;
+    Typing typing;
 };
 
 using TreePointer = std::shared_ptr<TreeView>;

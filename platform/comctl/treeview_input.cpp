@@ -6,8 +6,6 @@
 namespace platform::comctl {
 namespace {
 
-constexpr DWORD kPause = 1000;  ///< milliseconds after which typing begins anew
-
 bool IsDown(int key) {
     return GetKeyState(key) < 0;
 }
@@ -62,29 +60,6 @@ bool ScrollByKey(const TreePointer& tree, WPARAM key) {
     }
 }
 
-bool BeginsWith(const std::string& text, const std::string& beginning) {
-    return text.size() >= beginning.size() &&
-           CompareStringA(LOCALE_USER_DEFAULT, NORM_IGNORECASE, text.c_str(), static_cast<int>(beginning.size()),
-                          beginning.c_str(), static_cast<int>(beginning.size())) == CSTR_EQUAL;
-}
-
-/// Finds the next row from `start` on, around the end, whose text begins as given. @returns -1 for none.
-int FindRow(const TreePointer& tree, int start, const std::string& beginning) {
-    const int rows = static_cast<int>(tree->rows.size());
-    for (int step = 0; step < rows; ++step) {
-        const int row = (start + step) % rows;
-        if (row < static_cast<int>(tree->rows.size()) &&
-            BeginsWith(TextOf(tree, tree->rows[static_cast<std::size_t>(row)]), beginning)) {
-            return row;
-        }
-    }
-    return -1;
-}
-
-bool IsOneLetter(const std::string& text) {
-    return std::all_of(text.begin(), text.end(), [&](char one) { return one == text[0]; });
-}
-
 void Reveal(const TreePointer& tree) {
     // Windows of 1995 choose the first item when a tree without one comes to have the focus.
     tree->Refresh();
@@ -122,6 +97,7 @@ void OnButtonDown(const TreePointer& tree, POINT point, bool twice) {
         return;
     }
     if (where & TVHT_ONITEM) {
+        tree->typing.Forget();
         Select(tree, handle, TVC_BYMOUSE);
     }
     // The answer of a click that is not wanted is nonzero.
@@ -141,6 +117,7 @@ void OnRightButtonDown(const TreePointer& tree) {
 }
 
 bool OnKeyDown(const TreePointer& tree, WPARAM key) {
+    tree->typing.OnKey(key);
     NotifyKey(*tree, static_cast<WORD>(key));
     if (tree->ending) {
         return true;
@@ -190,22 +167,12 @@ void OnCharacter(const TreePointer& tree, char character) {
     if (code < ' ' || character == '+' || character == '-' || tree->rows.empty()) {
         return;
     }
-    const DWORD now = GetTickCount();
-    if (now - tree->typedAt > kPause) {
-        tree->typed.clear();
-    }
-    tree->typedAt = now;
-    tree->typed += character;
     tree->Refresh();
     const int row = tree->caret ? std::max(tree->caret->row, 0) : 0;
-    // One letter again and again goes from one item to the next.
-    const bool same = IsOneLetter(tree->typed);
-    int found = FindRow(tree, same ? row + 1 : row, same ? tree->typed.substr(0, 1) : tree->typed);
-    if (same && tree->typed.size() > 1) {
-        // Unless there is an item that begins with the letter as often as it was typed.
-        const int exact = FindRow(tree, row, tree->typed);
-        found = exact >= 0 ? exact : found;
-    }
+    const int found = tree->typing.Find(character, row, static_cast<int>(tree->rows.size()), [&](int at) {
+        const auto index = static_cast<std::size_t>(at);
+        return index < tree->rows.size() ? TextOf(tree, tree->rows[index]) : std::string();
+    });
     if (found >= 0) {
         SelectRow(tree, found);
     }

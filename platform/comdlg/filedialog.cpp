@@ -107,6 +107,7 @@ BOOL OnInit(FileDialog& dialog) {
     SendMessageA(dialog.Control(edt1), EM_LIMITTEXT, std::max<DWORD>(dialog.record.nMaxFile, MAX_PATH), 0);
     CheckDlgButton(dialog.window, chx1, dialog.Has(OFN_READONLY) ? BST_CHECKED : BST_UNCHECKED);
     dialog.defaultExtension = dialog.record.lpstrDefExt ? dialog.record.lpstrDefExt : "";
+    SubclassList(dialog);
     FillFilters(dialog);
     CreateHook(dialog);
     Begin(dialog);
@@ -114,20 +115,6 @@ BOOL OnInit(FileDialog& dialog) {
     SetFocus(dialog.Control(edt1));
     SendMessageA(dialog.Control(edt1), EM_SETSEL, 0, -1);
     return FALSE;
-}
-
-/// The names of the files selected stand in the name field.
-void OnSelection(FileDialog& dialog) {
-    std::vector<std::string> names;
-    for (const std::size_t row : SelectedRows(dialog)) {
-        if (!dialog.items[row].place.IsFolder()) {
-            names.push_back(dialog.items[row].name);
-        }
-    }
-    if (!names.empty()) {
-        SetDlgItemTextA(dialog.window, edt1, JoinNames(names).c_str());
-    }
-    TellHook(dialog, CDN_SELCHANGE);
 }
 
 void OnFolderChosen(FileDialog& dialog) {
@@ -237,7 +224,7 @@ INT_PTR CALLBACK FileDialogProcedure(HWND window, UINT message, WPARAM wParam, L
         reinterpret_cast<FileDialog*>(lParam)->window = window;
         SetWindowLongPtrA(window, DWLP_USER, lParam);
     }
-    auto* dialog = reinterpret_cast<FileDialog*>(GetWindowLongPtrA(window, DWLP_USER));
+    FileDialog* const dialog = DialogOf(window);
     if (!dialog) {
         return FALSE;
     }

@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "comctl/typing.h"
 #include "comdlg/names.h"
 #include "shell/place.h"
 
@@ -37,6 +38,8 @@ struct FileDialog {
     std::vector<Row> items;           ///< as the list shows them
     std::vector<Row> folders;         ///< as the list of folders shows them
     std::string defaultExtension;
+    WNDPROC listProcedure = nullptr;  ///< of the list's class
+    comctl::Typing typing;            ///< in the list
     DWORD error = 0;
 
     bool Has(DWORD flag) const {
@@ -49,6 +52,11 @@ struct FileDialog {
         return GetDlgItem(window, id);
     }
 };
+
+/// @returns the dialog of a window; null before it is set up.
+inline FileDialog* DialogOf(HWND window) {
+    return reinterpret_cast<FileDialog*>(GetWindowLongPtrA(window, DWLP_USER));
+}
 
 /// Runs the dialog. @returns whether something was chosen.
 bool RunFileDialog(FileDialog& dialog);
@@ -65,9 +73,16 @@ bool GoInto(FileDialog& dialog, std::size_t row);
 std::vector<shell::Place> TrailOf(const std::string& path);
 /// Reads the folder shown anew, as when the patterns have changed. @returns false when it cannot be read.
 bool Refresh(FileDialog& dialog);
+void FillFolders(FileDialog& dialog);
+
+// --- the list of files (filedialog_list.cpp)
+
+/// The list finds what is typed by all its letters.
+void SubclassList(FileDialog& dialog);
 /// The rows of the list that are selected.
 std::vector<std::size_t> SelectedRows(const FileDialog& dialog);
-void FillFolders(FileDialog& dialog);
+/// The names of the files selected go into the name field.
+void OnSelection(FileDialog& dialog);
 
 // --- choosing (filedialog_accept.cpp)
 

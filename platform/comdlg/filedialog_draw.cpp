@@ -28,8 +28,6 @@ void DrawUpButton(const DRAWITEMSTRUCT& item) {
 
 void DrawName(const DRAWITEMSTRUCT& item, const Row& row, int indent, bool open) {
     const bool selected = (item.itemState & ODS_SELECTED) != 0;
-    TEXTMETRICA metrics{};
-    GetTextMetricsA(item.hDC, &metrics);
     SIZE size{};
     GetTextExtentPoint32A(item.hDC, row.name.c_str(), static_cast<int>(row.name.size()), &size);
     FillRect(item.hDC, &item.rcItem, GetSysColorBrush(COLOR_WINDOW));
@@ -42,8 +40,12 @@ void DrawName(const DRAWITEMSTRUCT& item, const Row& row, int indent, bool open)
     label.right = std::min<LONG>(label.left + size.cx + 4, item.rcItem.right);
     SetBkColor(item.hDC, GetSysColor(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
     SetTextColor(item.hDC, GetSysColor(selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
-    ExtTextOutA(item.hDC, label.left + 2, (label.top + label.bottom - metrics.tmHeight) / 2, ETO_OPAQUE | ETO_CLIPPED,
-                &label, row.name.c_str(), static_cast<UINT>(row.name.size()), nullptr);
+    FillRect(item.hDC, &label, GetSysColorBrush(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+    RECT text = label;
+    InflateRect(&text, -2, 0);
+    // A name that is too long for its column shows that there is more of it.
+    DrawTextA(item.hDC, row.name.c_str(), static_cast<int>(row.name.size()), &text,
+              DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
     if (item.itemState & ODS_FOCUS) {
         DrawFocusRect(item.hDC, &label);
     }
@@ -68,10 +70,8 @@ void DrawRow(const FileDialog& dialog, const DRAWITEMSTRUCT& item) {
         const bool inEdit = (item.itemState & ODS_COMBOBOXEDIT) != 0;
         DrawName(item, row, folders && !inEdit ? row.depth * kLevel : 0, folders);
     } else {
+        // A folder without items shows nothing, also where the focus is.
         FillRect(item.hDC, &item.rcItem, GetSysColorBrush(COLOR_WINDOW));
-        if (item.itemState & ODS_FOCUS) {
-            DrawFocusRect(item.hDC, &item.rcItem);
-        }
     }
 }
 

@@ -33,6 +33,7 @@ bool ListFolder(const FileDialog& dialog, const shell::Place& folder, std::vecto
 
 void ShowItems(FileDialog& dialog) {
     const HWND list = dialog.Control(lst1);
+    dialog.typing.Forget();
     SendMessageA(list, WM_SETREDRAW, FALSE, 0);
     SendMessageA(list, LB_RESETCONTENT, 0, 0);
     SendMessageA(list, LB_SETCOLUMNWIDTH, static_cast<WPARAM>(ColumnWidth(dialog)), 0);
@@ -127,26 +128,6 @@ std::vector<shell::Place> TrailOf(const std::string& path) {
         trail.push_back(*shell::PlaceBelow(trail.back(), shell::ReadItem(item)));
     }
     return trail;
-}
-
-std::vector<std::size_t> SelectedRows(const FileDialog& dialog) {
-    const HWND list = dialog.Control(lst1);
-    std::vector<int> found(dialog.items.size());
-    int count =
-        static_cast<int>(SendMessageA(list, LB_GETSELITEMS, found.size(), reinterpret_cast<LPARAM>(found.data())));
-    if (count == LB_ERR) {
-        // A list for one selection.
-        const auto one = static_cast<int>(SendMessageA(list, LB_GETCURSEL, 0, 0));
-        found.assign(1, one);
-        count = one < 0 ? 0 : 1;
-    }
-    std::vector<std::size_t> rows;
-    for (int i = 0; i < count; ++i) {
-        if (static_cast<std::size_t>(found[static_cast<std::size_t>(i)]) < dialog.items.size()) {
-            rows.push_back(static_cast<std::size_t>(found[static_cast<std::size_t>(i)]));
-        }
-    }
-    return rows;
 }
 
 }  // namespace platform::comdlg

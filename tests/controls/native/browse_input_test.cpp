@@ -148,7 +148,8 @@ TEST_F(BrowseInput, AFolderThreeLevelsDownByKeyboard) {
                                               Press({'W', 'A', VK_RIGHT});
                                           },
                                           [](HWND) {
-                                              Press({VK_DOWN, VK_RIGHT});
+                                              // A key that moves has ended what was typed before.
+                                              Press({'O', 'N', VK_RIGHT});
                                           },
                                           [](HWND) {
                                               Press({VK_RIGHT, VK_RIGHT});
@@ -237,6 +238,107 @@ TEST_F(BrowseInput, TheFileListIsWalkedByKeyboard) {
                 },
                 [](HWND) { Press({VK_BACK}); }, [](HWND) { Press({'B'}); }, [](HWND) { Press({VK_RETURN}); }});
     EXPECT_EQ("C:\\walk\\b.txt", chosen);
+}
+
+std::string SelectedFile(HWND dialog) {
+    HWND const list = GetDlgItem(dialog, lst1);
+    std::string names;
+    for (LRESULT i = 0; i < SendMessageA(list, LB_GETCOUNT, 0, 0); ++i) {
+        char text[MAX_PATH] = "";
+        SendMessageA(list, LB_GETTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(text));
+        names += SendMessageA(list, LB_GETSEL, static_cast<WPARAM>(i), 0) > 0 ? std::string(text) + '|' : "";
+    }
+    return names;
+}
+
+TEST_F(BrowseInput, TheFileListFindsWhatIsTyped) {
+    std::ofstream(root_ / "on top.txt");
+    std::ofstream(root_ / "oo.txt");
+    for (DWORD const options : {DWORD{BROWSE_FILEMODE}, DWORD{BROWSE_FILEMODE | BROWSE_MULTISELECT}}) {
+        SetWindowTextA(edit_, "C:\\walk");
+        std::vector<std::string> found;
+        auto const note = [&](HWND dialog) { found.push_back(SelectedFile(dialog)); };
+        std::string const chosen = Browse(options, {[](HWND dialog) {
+                                                        SetFocus(GetDlgItem(dialog, lst1));
+                                                        Press({'O'});
+                                                    },
+                                                    [&](HWND dialog) {
+                                                        note(dialog);
+                                                        // A capital letter leaves the selection one row.
+                                                        Key(VK_SHIFT, true);
+                                                        Press({'T'});
+                                                        Key(VK_SHIFT, false);
+                                                    },
+                                                    [&](HWND dialog) {
+                                                        note(dialog);
+                                                        // Another folder, and typing begins anew.
+                                                        Press({VK_RETURN, VK_BACK, 'O', 'N', VK_SPACE, 'T'});
+                                                    },
+                                                    [&](HWND dialog) {
+                                                        note(dialog);
+                                                        Press({VK_RETURN});
+                                                    }});
+        EXPECT_EQ((std::vector<std::string>{"one|", "other|", "on top.txt|"}), found);
+        EXPECT_EQ("C:\\walk\\on top.txt", chosen);
+    }
+}
+
+/// @return how many pixels of the list of files, along its first row, are not the ground's.
+int InkOfFirstRow(HWND dialog) {
+    HWND const list = GetDlgItem(dialog, lst1);
+    UpdateWindow(list);
+    RECT client;
+    GetClientRect(list, &client);
+    HDC const context = GetDC(list);
+    int ink = 0;
+    for (int y = 0; y < 17; ++y) {
+        for (int x = 0; x < client.right; ++x) {
+            ink += GetPixel(context, x, y) != GetSysColor(COLOR_WINDOW);
+        }
+    }
+    ReleaseDC(list, context);
+    return ink;
+}
+
+TEST_F(BrowseInput, RowsOfTheFileListAreDrawnWithinIt) {
+    // Longer than the list is wide: it ends in three dots, whose last is followed by blank pixels.
+    std::string const longName(200, 'l');
+    std::ofstream(root_ / longName);
+    fs::create_directories(root_ / "empty");
+    SetWindowTextA(edit_, "C:\\walk\\empty");
+    int emptyInk = -1;
+    std::vector<int> dots;
+    Browse(BROWSE_FILEMODE, {[](HWND dialog) { SetFocus(GetDlgItem(dialog, lst1)); },
+                             [&](HWND dialog) {
+                                 emptyInk = InkOfFirstRow(dialog);
+                                 Press({VK_BACK, 'L'});
+                             },
+                             [&](HWND dialog) {
+                                 HWND const list = GetDlgItem(dialog, lst1);
+                                 UpdateWindow(list);
+                                 RECT row;
+                                 SendMessageA(list, LB_GETITEMRECT,
+                                              static_cast<WPARAM>(SendMessageA(list, LB_GETCURSEL, 0, 0)),
+                                              reinterpret_cast<LPARAM>(&row));
+                                 HDC const context = GetDC(list);
+                                 // The ink of each of the last columns inside the focus rectangle: dots, or whole letters.
+                                 for (int x = row.right - 10; x < row.right - 2; ++x) {
+                                     int ink = 0;
+                                     for (int y = row.top + 2; y < row.bottom - 2; ++y) {
+                                         ink += GetPixel(context, x, y) == GetSysColor(COLOR_HIGHLIGHTTEXT);
+                                     }
+                                     dots.push_back(ink);
+                                 }
+                                 ReleaseDC(list, context);
+                                 Press({VK_ESCAPE});
+                             }});
+    EXPECT_EQ(0, emptyInk);
+    int inked = 0;
+    for (int const ink : dots) {
+        EXPECT_LE(ink, 1) << "a letter is cut in two";
+        inked += ink;
+    }
+    EXPECT_GE(inked, 2) << "there are no dots";
 }
 
 TEST_F(BrowseInput, FiltersPatternsAndCancel) {
