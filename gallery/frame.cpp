@@ -44,6 +44,7 @@ HWND MakePage(const Frame& frame, const Page& page) {
     // Behind the list, so that the Tab key comes to the page's controls before the buttons.
     SetWindowPos(window, GetDlgItem(frame.dialog, IDC_PAGES), area.left, area.top, area.right - area.left,
                  area.bottom - area.top, SWP_NOACTIVATE);
+    RestoreValues(window, page.kept);
     return window;
 }
 
@@ -117,9 +118,11 @@ void OnInitDialog(HWND dialog, Result& result) {
 
 void Accept(Frame& frame) {
     KeepPlace(frame);
-    for (HWND page : frame.pages) {
-        if (page != nullptr) {
+    const auto pages = Pages();
+    for (std::size_t index = 0; index < pages.size(); ++index) {
+        if (HWND page = frame.pages[index]) {
             SendMessageA(page, kKeepValues, 0, 0);
+            KeepValues(page, pages[index].kept);
         }
     }
     frame.result.isoDate = ChosenIsoDate(frame.pages[kDatesPage]);

@@ -10,6 +10,7 @@ build_packages=(g++ cmake ninja-build pkg-config binutils-mingw-w64-x86-64 libsd
     libfontconfig-dev libpixman-1-dev libsqlite3-dev xfonts-100dpi)
 test_packages=(googletest xvfb xauth xdotool x11-utils imagemagick)
 bench_packages=(libbenchmark-dev time)
+lint_packages=(clang-format clang-tidy)
 package_packages=(zip dpkg-dev file doxygen)
 fuzz_packages=(clang libclang-rt-14-dev)
 windows_packages=(cmake ninja-build googletest g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix

@@ -109,7 +109,11 @@ INT_PTR CALLBACK PageProcedure(HWND page, UINT message, WPARAM wParam, LPARAM) {
 }  // namespace
 
 Page const& BrowsePage() {
-    static Page const page = {IDS_BROWSE_TITLE, MAKEINTRESOURCEA(IDD_BROWSE), PageProcedure};
+    static const KeptValue kept[] = {
+        {IDC_BROWSE_FILE, "File"},    {IDC_BROWSE_FILES, "Files"},   {IDC_BROWSE_FOLDER, "Folder"},
+        {IDC_BROWSE_COMBO, "Recent"}, {IDC_BROWSE_APPEND, "Append"},
+    };
+    static Page const page = {IDS_BROWSE_TITLE, MAKEINTRESOURCEA(IDD_BROWSE), PageProcedure, kept};
     return page;
 }
 

@@ -172,7 +172,23 @@ INT_PTR CALLBACK DialogsPageProcedure(HWND page, UINT message, WPARAM wParam, LP
 }  // namespace
 
 Page const& DialogsPage() {
-    static const Page page{IDS_DIALOGS_TITLE, MAKEINTRESOURCEA(IDD_DIALOGS), DialogsPageProcedure};
+    static const KeptValue kept[] = {
+        {IDC_DIALOGS_CAPTION, "BoxTitle"},
+        {IDC_DIALOGS_MESSAGE, "BoxMessage"},
+        {IDC_DIALOGS_REASON, "BoxReason"},
+        {IDC_DIALOGS_LABELS, "BoxButtons"},
+        {IDC_DIALOGS_DEFAULT, "BoxDefault"},
+        {IDC_DIALOGS_NO_ICON, "BoxNoIcon"},
+        {IDC_DIALOGS_HAND, "BoxHand"},
+        {IDC_DIALOGS_QUESTION, "BoxQuestion"},
+        {IDC_DIALOGS_EXCLAMATION, "BoxExclamation"},
+        {IDC_DIALOGS_ASTERISK, "BoxAsterisk"},
+        {IDC_DIALOGS_BY_LENGTH, "BoxByLength"},
+        {IDC_DIALOGS_NARROW, "BoxNarrow"},
+        {IDC_DIALOGS_WIDE, "BoxWide"},
+        {IDC_DIALOGS_TASKMODAL, "BoxTaskModal"},
+    };
+    static const Page page{IDS_DIALOGS_TITLE, MAKEINTRESOURCEA(IDD_DIALOGS), DialogsPageProcedure, kept};
     return page;
 }
 

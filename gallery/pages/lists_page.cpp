@@ -127,7 +127,10 @@ INT_PTR CALLBACK ListsProcedure(HWND page, UINT message, WPARAM wParam, LPARAM l
 }  // namespace
 
 Page const& ListsPage() {
-    static const Page page = {IDS_LISTS_TITLE, MAKEINTRESOURCEA(IDD_LISTS), ListsProcedure};
+    static const KeptValue kept[] = {
+        {IDC_LISTS_CHECKS, "Ticked"},
+    };
+    static const Page page = {IDS_LISTS_TITLE, MAKEINTRESOURCEA(IDD_LISTS), ListsProcedure, kept};
     return page;
 }
 

@@ -81,7 +81,13 @@ INT_PTR CALLBACK NumbersPageProcedure(HWND page, UINT message, WPARAM wParam, LP
 }  // namespace
 
 const Page& NumbersPage() {
-    static const Page page{IDS_NUMBERS_TITLE, MAKEINTRESOURCEA(IDD_NUMBERS_PAGE), NumbersPageProcedure};
+    static const KeptValue kept[] = {
+        {IDC_MINIMUM, "Minimum"},
+        {IDC_MAXIMUM, "Maximum"},
+        {IDC_NUMBER_VERTICAL, "VerticalNumber"},
+        {IDC_NUMBER_HORIZONTAL, "HorizontalNumber"},
+    };
+    static const Page page{IDS_NUMBERS_TITLE, MAKEINTRESOURCEA(IDD_NUMBERS_PAGE), NumbersPageProcedure, kept};
     return page;
 }
 

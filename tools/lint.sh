@@ -1,0 +1,15 @@
+#!/bin/bash
+# The format of all sources and, with clang-tidy, the library itself. Needs the compile commands of a build: tools/test.sh first.
+source "$(dirname "$0")/common.sh"
+
+install_packages "${lint_packages[@]}"
+commands=build/native
+[ -f "$commands/compile_commands.json" ] || die "no build to take the compile commands from: run tools/test.sh first"
+
+git ls-files '*.cpp' '*.h' '*.c' | xargs clang-format --dry-run -Werror
+log=$commands/lint.log
+if ! run-clang-tidy -quiet -p "$commands" "^$root/(core|classes|services|controls|dialogs)/" >"$log" 2>&1; then
+    grep -E "(warning|error):" "$log" | sort -u
+    die "clang-tidy has something to say, see $log"
+fi
+say "format and clang-tidy have nothing to say"
