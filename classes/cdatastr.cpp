@@ -44,6 +44,7 @@ CDATASTR::CDATASTR(CDATASTR const& other) : CSTRING(other), marker(nullptr) {
     }
 }
 
+// NOLINTNEXTLINE(bugprone-unhandled-self-assignment): equal markers say that there is nothing to take over.
 CDATASTR& CDATASTR::operator=(CDATASTR const& other) {
     CSTRING::operator=(other);
     if (IsValid() && other.IsValid() && marker != other.marker) {
