@@ -351,6 +351,7 @@ CSTRING::operator char const*() const {
     return IsValid() ? Buffer : nullptr;
 }
 
+// NOLINTNEXTLINE(bugprone-unhandled-self-assignment): Copy() takes parts of its own buffer too.
 CSTRING const& CSTRING::operator=(CSTRING const& other) {
     if (StandardEntry() && other.IsValid()) {
         Copy(other.Buffer, other.AutoLocked ? kAll : other.ByteCount);

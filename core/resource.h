@@ -14,4 +14,4 @@
 /* Bitmaps. */
 #define CVRES_BROWSE 10211      /* a sheet with a folder, on the browse button */
 #define CVRES_BROWSE_MASK 10212 /* white in the corners that let the button show */
-#define CVRES_CHECKS 20099 /* two cells side by side: an empty box, a ticked box */
+#define CVRES_CHECKS 20099      /* two cells side by side: an empty box, a ticked box */

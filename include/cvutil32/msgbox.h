@@ -93,8 +93,7 @@ typedef struct KVMB_MESSAGEBOX {
     WORD defaultButton;                    ///< index of the default button, which has the focus; set to 0 if too large
     WORD buttonCount;                      ///< entries of `buttons` in use, at most KVMB_MAXBUTTONS
     KVMB_BUTTON buttons[KVMB_MAXBUTTONS];  ///< from top to bottom
-    LPVOID
-        disabledWindows;  ///< written by the library: the windows that a task-modal box disabled; not valid afterwards
+    LPVOID disabledWindows;  ///< written by the library: what a task-modal box disabled; not valid afterwards
 } KVMB_MESSAGEBOX;
 
 #pragma pack(pop)

@@ -26,7 +26,7 @@ struct ControlData;
 struct WindowClass {
     ATOM atom = 0;
     std::string name;
-    bool system = false;          ///< defined by the layer itself (button, static, #32770 ...), seen by every module
+    bool system = false;           ///< defined by the layer itself (button, static, #32770 ...), seen by every module
     HINSTANCE instance = nullptr;  ///< the module that registered it
     UINT style = 0;
     WNDPROC procedure = nullptr;
@@ -63,35 +63,35 @@ struct Window {
     RECT windowRect{};  ///< screen coordinates
     RECT clientRect{};  ///< screen coordinates
 
-    Window* parent = nullptr;  ///< WS_CHILD: the parent; else the desktop window (null for the desktop itself)
-    Window* owner = nullptr;   ///< top-level windows only
+    Window* parent = nullptr;      ///< WS_CHILD: the parent; else the desktop window (null for the desktop itself)
+    Window* owner = nullptr;       ///< top-level windows only
     Window* firstChild = nullptr;  ///< top of the z-order
     Window* next = nullptr;        ///< the one below in z-order
     Window* previous = nullptr;    ///< the one above in z-order
 
     // Painting (painting module). Regions are relative to the window rectangle's top left corner, so they move with it.
     gdi::Region update;
-    bool eraseNeeded = false;     ///< WM_ERASEBKGND is due with the next BeginPaint
-    bool frameNeeded = false;     ///< WM_NCPAINT is due
-    bool internalPaint = false;   ///< RDW_INTERNALPAINT
-    HDC classOrOwnContext = nullptr;  ///< CS_OWNDC
+    bool eraseNeeded = false;                 ///< WM_ERASEBKGND is due with the next BeginPaint
+    bool frameNeeded = false;                 ///< WM_NCPAINT is due
+    bool internalPaint = false;               ///< RDW_INTERNALPAINT
+    HDC classOrOwnContext = nullptr;          ///< CS_OWNDC
     struct PaintState* paintState = nullptr;  ///< the painting module's own: cached visible regions
-    bool sizeSent = false;         ///< WM_SIZE and WM_MOVE were sent; else the first ShowWindow sends them
-    bool hiddenByOwner = false;     ///< hidden by ShowOwnedPopups(owner, FALSE)
+    bool sizeSent = false;                    ///< WM_SIZE and WM_MOVE were sent; else the first ShowWindow sends them
+    bool hiddenByOwner = false;               ///< hidden by ShowOwnedPopups(owner, FALSE)
 
-    RECT restoredRect{};           ///< normal position while minimised or maximised
+    RECT restoredRect{};  ///< normal position while minimised or maximised
     bool destroying = false;
-    bool ending = false;           ///< its children are gone, or going: no new ones are made
-    bool created = false;          ///< WM_CREATE has returned
-    bool captionActive = false;    ///< how the caption was drawn last (WM_NCACTIVATE)
-    bool restoreMaximised = false; ///< minimised while it was maximised
-    HICON bigIcon = nullptr;       ///< WM_SETICON
+    bool ending = false;            ///< its children are gone, or going: no new ones are made
+    bool created = false;           ///< WM_CREATE has returned
+    bool captionActive = false;     ///< how the caption was drawn last (WM_NCACTIVATE)
+    bool restoreMaximised = false;  ///< minimised while it was maximised
+    HICON bigIcon = nullptr;        ///< WM_SETICON
     HICON smallIcon = nullptr;
     unsigned activeStamp = 0;  ///< grows with each activation: tells which popup was active last (activation.cpp)
 
     // Dialogs and controls: shared, so that a handler that is running outlives its window.
-    std::shared_ptr<DialogState> dialog;  ///< made when DefDlgProcA first sees the window
-    std::shared_ptr<ControlData> control;  ///< what a predefined control keeps (controls/controls.h)
+    std::shared_ptr<DialogState> dialog;      ///< made when DefDlgProcA first sees the window
+    std::shared_ptr<ControlData> control;     ///< what a predefined control keeps (controls/controls.h)
     std::shared_ptr<struct WindowBars> bars;  ///< scroll bars, made when they are first asked about (scrollbar/bar.h)
 };
 
@@ -118,7 +118,8 @@ bool IsAncestor(const Window* ancestor, const Window* window);
 Window* TopLevel(Window* window);
 
 /// Registers a class of the layer's own. The controls and dialogs call it from InitialiseClasses.
-void RegisterSystemClass(const char* name, WNDPROC procedure, UINT style, int windowExtra, LPCSTR cursor, HBRUSH background);
+void RegisterSystemClass(const char* name, WNDPROC procedure, UINT style, int windowExtra, LPCSTR cursor,
+                         HBRUSH background);
 /// Registers all system classes once; called before the first class look-up.
 void InitialiseClasses();
 

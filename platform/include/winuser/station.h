@@ -19,7 +19,8 @@ typedef struct tagUSEROBJECTFLAGS {
 } USEROBJECTFLAGS, *PUSEROBJECTFLAGS;
 
 WINUSERAPI HWINSTA WINAPI GetProcessWindowStation(void);
-WINUSERAPI BOOL WINAPI GetUserObjectInformationA(HANDLE object, int index, PVOID information, DWORD size, LPDWORD needed);
+WINUSERAPI BOOL WINAPI GetUserObjectInformationA(HANDLE object, int index, PVOID information, DWORD size,
+                                                 LPDWORD needed);
 
 #ifndef CVPLATFORM_NO_GENERIC_NAMES
 #define GetUserObjectInformation GetUserObjectInformationA

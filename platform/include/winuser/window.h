@@ -30,8 +30,7 @@
 #define WS_ICONIC WS_MINIMIZE
 #define WS_SIZEBOX WS_THICKFRAME
 #define WS_TILEDWINDOW WS_OVERLAPPEDWINDOW
-#define WS_OVERLAPPEDWINDOW \
-    (WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX | WS_MAXIMIZEBOX)
+#define WS_OVERLAPPEDWINDOW (WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX | WS_MAXIMIZEBOX)
 #define WS_POPUPWINDOW (WS_POPUP | WS_BORDER | WS_SYSMENU)
 #define WS_CHILDWINDOW (WS_CHILD)
 
@@ -84,8 +83,9 @@ typedef struct tagCREATESTRUCTA {
     DWORD dwExStyle;
 } CREATESTRUCTA, *LPCREATESTRUCTA;
 
-WINUSERAPI HWND WINAPI CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, int x, int y, int width,
-                                       int height, HWND parent, HMENU menu, HINSTANCE instance, LPVOID parameter);
+WINUSERAPI HWND WINAPI CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, int x, int y,
+                                       int width, int height, HWND parent, HMENU menu, HINSTANCE instance,
+                                       LPVOID parameter);
 #define CreateWindowA(className, text, style, x, y, width, height, parent, menu, instance, parameter) \
     CreateWindowExA(0L, className, text, style, x, y, width, height, parent, menu, instance, parameter)
 WINUSERAPI BOOL WINAPI DestroyWindow(HWND window);
@@ -276,7 +276,8 @@ WINUSERAPI BOOL WINAPI SetWindowPos(HWND window, HWND after, int x, int y, int w
 WINUSERAPI BOOL WINAPI MoveWindow(HWND window, int x, int y, int width, int height, BOOL repaint);
 WINUSERAPI BOOL WINAPI ShowWindow(HWND window, int show);
 WINUSERAPI HDWP WINAPI BeginDeferWindowPos(int count);
-WINUSERAPI HDWP WINAPI DeferWindowPos(HDWP batch, HWND window, HWND after, int x, int y, int width, int height, UINT flags);
+WINUSERAPI HDWP WINAPI DeferWindowPos(HDWP batch, HWND window, HWND after, int x, int y, int width, int height,
+                                      UINT flags);
 WINUSERAPI BOOL WINAPI EndDeferWindowPos(HDWP batch);
 WINUSERAPI BOOL WINAPI ShowOwnedPopups(HWND owner, BOOL show);
 WINUSERAPI BOOL WINAPI CloseWindow(HWND window);
