@@ -35,7 +35,7 @@ start_gallery() { # <page>
         kill -0 "$program" 2>/dev/null || fail "the gallery ended at once: $(<"$work/err")"
         window=$(xdotool search --onlyvisible --name '^CVUTIL32$' 2>/dev/null | head -1 || true)
         if [ -n "$window" ] && timeout 5 import -window "$window" "$work/start.png" 2>/dev/null; then
-            read -r size left top <<<"$(convert "$work/start.png" -trim -format '%wx%h %X %Y' info:)"
+            read -r size left top <<<"$(convert "$work/start.png" -trim -format '%wx%h %X %Y' info: 2>/dev/null)"
             [ "$size" != 497x379 ] || return 0
         fi
         sleep 0.1
