@@ -114,8 +114,10 @@ void OnCommand(HWND page, ButtonsState& state, int id) {
             break;
         case IDC_BUTTONS_STOP:
             ANIMATE_Stop(clock);
-            // The button that is about to be disabled must not keep the focus.
-            SetFocus(GetDlgItem(page, IDC_BUTTONS_START));
+            // The button that is about to be disabled must keep neither the focus nor the default button's border; the
+            // dialog moves both.
+            SendMessageA(GetParent(page), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(GetDlgItem(page, IDC_BUTTONS_START)),
+                         TRUE);
             ShowPlaying(page, false);
             break;
         default:

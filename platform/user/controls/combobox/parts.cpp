@@ -69,7 +69,7 @@ LRESULT CALLBACK ComboEditProcedure(HWND window, UINT message, WPARAM wParam, LP
 
 bool MakeEdit(ComboData& combo, const CREATESTRUCTA& create) {
     const DWORD style = combo.Style();
-    const DWORD wanted = WS_CHILD | WS_VISIBLE | ES_NOHIDESEL | (style & CBS_AUTOHSCROLL ? ES_AUTOHSCROLL : 0) |
+    const DWORD wanted = WS_CHILD | WS_VISIBLE | (style & CBS_AUTOHSCROLL ? ES_AUTOHSCROLL : 0) |
                          (style & CBS_UPPERCASE ? ES_UPPERCASE : 0) | (style & CBS_LOWERCASE ? ES_LOWERCASE : 0) |
                          (style & CBS_OEMCONVERT ? ES_OEMCONVERT : 0) | (style & WS_DISABLED);
     combo.edit = CreateWindowExA(WS_EX_NOPARENTNOTIFY, "edit", "", wanted, 0, 0, 0, 0, combo.window,

@@ -1,0 +1,142 @@
+#!/bin/bash
+# The pages Buttons and Lists in a real window, by keys and by mouse. What counts is read back from the window: places of the page
+# must change, or must look again as they did before.
+source "$(dirname "$0")/common.sh"
+need Xvfb xdotool import convert compare
+
+unset CVUTIL32_DISPLAY WAYLAND_DISPLAY
+program=
+server=
+cleanup() {
+    [ -z "$program" ] || kill "$program" 2>/dev/null || true
+    [ -z "$server" ] || kill "$server" 2>/dev/null || true
+}
+trap cleanup EXIT
+
+start_server() {
+    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$work/display" 2>"$work/server.log" &
+    server=$!
+    local try
+    for try in {1..100}; do
+        [ ! -s "$work/display" ] || break
+        kill -0 "$server" 2>/dev/null || fail "Xvfb does not start: $(tail -1 "$work/server.log")"
+        sleep 0.1
+    done
+    DISPLAY=:$(<"$work/display")
+    export DISPLAY
+}
+
+# Places are counted from the dialog's corner; they hold for the dialog font that the layer brings.
+start_gallery() { # <page>
+    "$gallery" --page "$1" >"$work/out" 2>"$work/err" &
+    program=$!
+    local try size=
+    for try in {1..100}; do
+        kill -0 "$program" 2>/dev/null || fail "the gallery ended at once: $(<"$work/err")"
+        window=$(xdotool search --onlyvisible --name '^CVUTIL32$' 2>/dev/null | head -1 || true)
+        if [ -n "$window" ] && timeout 5 import -window "$window" "$work/start.png" 2>/dev/null; then
+            read -r size left top <<<"$(convert "$work/start.png" -trim -format '%wx%h %X %Y' info: 2>/dev/null)"
+            [ "$size" != 497x379 ] || return 0
+        fi
+        sleep 0.1
+    done
+    [ -n "$size" ] || fail "the gallery shows no window within ten seconds"
+    skip "the dialog is $size: another font"
+}
+
+end_gallery() {
+    kill "$program" 2>/dev/null || true
+    wait "$program" 2>/dev/null || true
+    program=
+}
+
+look() { # <place> <name>
+    timeout 5 import -window "$window" "$work/$2.full.png" 2>/dev/null || fail "no picture of the window"
+    local w h x y
+    IFS='x+' read -r w h x y <<<"$1"
+    convert "$work/$2.full.png" -crop "${w}x${h}+$((left + x))+$((top + y))" +repage "$work/$2.png"
+}
+
+same() { # <name> <name>
+    compare -metric AE "$work/$1.png" "$work/$2.png" null: 2>/dev/null
+}
+
+# Waits until a place looks as it did in a picture, or no longer does.
+await() { # <same|other> <place> <name> <complaint>
+    local try
+    for try in {1..50}; do
+        look "$2" now
+        if same "$3" now; then
+            [ "$1" != same ] || return 0
+        else
+            [ "$1" != other ] || return 0
+        fi
+        sleep 0.1
+    done
+    fail "$4"
+}
+
+point() { # <x> <y>
+    xdotool mousemove --window "$window" $((left + $1)) $((top + $2))
+}
+
+start_server
+
+start_gallery Buttons
+clicks=200x12+140+117 face=48x34+140+56 clock=60x60+140+255
+look "$clicks" none
+look "$face" raised
+look "$clock" blank
+point 163 73
+xdotool mousedown 1
+await other "$face" raised "a pressed button does not look pressed"
+look "$face" pressed
+point 163 200
+await other "$face" pressed "the button stays pressed when the mouse has left it"
+point 163 73
+await same "$face" pressed "the button is not pressed again when the mouse returns"
+point 163 200
+await other "$face" pressed "the button stays pressed when the mouse has left it again"
+look "$face" left
+xdotool mouseup 1
+# Input is worked off in its order: when Tab has taken the focus away, the release is over.
+xdotool key Tab
+await other "$face" left "Tab does not leave the button"
+look "$clicks" off
+same none off || fail "a release beside the button is a click"
+xdotool key shift+Tab space
+await other "$clicks" none "space does not press the button"
+look "$clicks" one
+point 163 73
+xdotool click 1
+await other "$clicks" one "the mouse does not press the button"
+xdotool key alt+s
+await other "$clock" blank "the animation does not start"
+look "$clock" playing
+await other "$clock" playing "the animation stands still"
+xdotool key alt+t
+await same "$clock" blank "the animation does not stop"
+end_gallery
+
+start_gallery Lists
+ticked=150x14+132+187 combo=150x16+238+273
+look "$ticked" three
+look "$combo" unfocused
+point 138 62
+xdotool click 1
+await other "$ticked" three "a click does not tick"
+xdotool key space
+await same "$ticked" three "space does not take the tick away"
+xdotool key alt+m
+await other "$combo" unfocused "Alt+M does not lead to the combo box"
+xdotool key Tab
+await same "$combo" unfocused "the combo box is highlighted without the focus"
+# The list covers what is below it, and gives it back.
+below=150x60+238+290
+look "$below" covered
+xdotool key alt+m alt+Down
+await other "$below" covered "Alt+Down does not drop the list"
+xdotool key Escape
+await same "$below" covered "what was under the list is not drawn again"
+end_gallery
+echo "passed: buttons and lists by keys and mouse"
