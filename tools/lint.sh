@@ -9,7 +9,7 @@ commands=build/native
 git ls-files '*.cpp' '*.h' '*.c' | xargs clang-format --dry-run -Werror
 log=$commands/lint.log
 if ! run-clang-tidy -quiet -p "$commands" "^$root/(core|classes|services|controls|dialogs)/" >"$log" 2>&1; then
-    grep -E "(warning|error):" "$log" | sort -u
+    sed 's/\x1b\[[0-9;]*m//g' "$log" | grep -E "(warning|error):" | sort -u
     die "clang-tidy has something to say, see $log"
 fi
 say "format and clang-tidy have nothing to say"
