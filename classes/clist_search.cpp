@@ -82,7 +82,7 @@ void CLIST::Sort(CLISTCOMPARE compare) {
 
 // --- whole lists
 
-// NOLINTNEXTLINE(bugprone-unhandled-self-assignment): vCopy() leaves a list that is copied onto itself alone.
+// NOLINTNEXTLINE(bugprone-unhandled-self-assignment): a list copied onto itself keeps no element but its count.
 CLIST& CLIST::operator=(const CLIST& other) {
     if (IsValid() && other.IsValid()) {
         vCopy(other);
