@@ -68,7 +68,7 @@ program_folder() {
 package_linux() {
     install_packages "${build_packages[@]}" "${package_packages[@]}"
     [ -f build/release/build.ninja ] ||
-        cmake --preset native -B build/release -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=/usr -DCVUTIL32_TESTS=OFF
+        cmake --preset native -B build/release -DCMAKE_INSTALL_PREFIX=/usr -DCVUTIL32_TESTS=OFF
     cmake --build build/release
     (cd build/release && cpack -B "$packages" >/dev/null)
     rm -rf "$packages/_CPack_Packages"

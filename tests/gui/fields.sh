@@ -16,7 +16,7 @@ cleanup() {
 trap cleanup EXIT
 
 start_server() {
-    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$work/display" 2>"$work/server.log" &
+    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset 3>"$work/display" 2>"$work/server.log" &
     server=$!
     local try
     for try in {1..100}; do
