@@ -43,8 +43,14 @@ std::string ApplicationPath() {
 
 std::string PathOf(const void* address) {
     Dl_info info{};
-    if (!dladdr(address, &info) || !info.dli_fname) {
+    link_map* map = nullptr;
+    if (!dladdr1(address, &info, reinterpret_cast<void**>(&map), RTLD_DL_LINKMAP) || !info.dli_fname) {
         return {};
+    }
+    // The program is told by its empty name: the loader knows it by what it was started as, which is no path when it was
+    // found on the search path.
+    if (map != nullptr && *map->l_name == '\0') {
+        return ApplicationPath();
     }
     char resolved[PATH_MAX];
     return realpath(info.dli_fname, resolved) ? resolved : info.dli_fname;

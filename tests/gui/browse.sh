@@ -184,11 +184,15 @@ file_row() { # <row>
 
 start_server
 start_gallery Browse
-mapfile -t fields < <(convert "$work/now.png" -fill black +opaque white -define connected-components:verbose=true \
-    -define connected-components:area-threshold=1000 -connected-components 4 null: |
-    sed -nE 's/^ *[0-9]+: ([0-9]+)x([0-9]+)\+([0-9]+)\+([0-9]+) [^ ]+ [0-9]+ (gray\(255\)|srgb\(255,255,255\)|white).*/\3 \4 \1 \2/p' |
-    awk '$3 > 200 && $3 < 260 && $4 > 12 && $4 < 26' | sort -n -k2)
-[ "${#fields[@]}" -ge 3 ] || fail "the page shows ${#fields[@]} fields"
+find_page_fields() {
+    shoot
+    mapfile -t fields < <(convert "$work/now.png" -fill black +opaque white -define connected-components:verbose=true \
+        -define connected-components:area-threshold=1000 -connected-components 4 null: |
+        sed -nE 's/^ *[0-9]+: ([0-9]+)x([0-9]+)\+([0-9]+)\+([0-9]+) [^ ]+ [0-9]+ (gray\(255\)|srgb\(255,255,255\)|white).*/\3 \4 \1 \2/p' |
+        awk '$3 > 200 && $3 < 260 && $4 > 12 && $4 < 26' | sort -n -k2)
+    [ "${#fields[@]}" -ge 3 ]
+}
+wait_for "three fields" find_page_fields
 file=0 files=1 folder=2
 
 expect $folder o 'c:\walk\one\two\three' folder

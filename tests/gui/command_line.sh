@@ -28,5 +28,12 @@ read -r width height <<<"$(identify -format '%w %h' "$work/a picture.png")"
 expect 0 '' "gallery: no desktop*$CVUTIL32_HOME/gallery.png"
 cmp -s "$work/a picture.png" "$CVUTIL32_HOME/gallery.png" || fail "the picture without a desktop is another one"
 
+# Found on the search path, a program is started by its bare name.
+by_path=$gallery
+gallery=$(basename "$by_path")
+PATH=$(dirname "$by_path"):$PATH expect 0 'gallery (CVUTIL32) [0-9]*' '' --version
+PATH=$(dirname "$by_path"):$PATH expect 0 '' '' --capture "$work/by path.png"
+gallery=$by_path
+
 DISPLAY=:9999 CVUTIL32_DISPLAY=sdl expect 0 '' "cvutil32: no window on the desktop:*"
 echo "passed"
