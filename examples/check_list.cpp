@@ -10,7 +10,8 @@ static void ShowCount(HWND dialog) {
 }
 
 static void Fill(HWND list) {
-    for (const char* part : {"Air filter", "Brake pads", "Drive belt", "Fuel pump"}) {
+    static const char* const parts[] = {"Air filter", "Brake pads", "Drive belt", "Fuel pump"};
+    for (const char* part : parts) {
         SendMessageA(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(part));
     }
     SendMessageA(list, LB_SETSEL, TRUE, 1);  // ticked
