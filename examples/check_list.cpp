@@ -36,5 +36,6 @@ static INT_PTR CALLBACK DialogProcedure(HWND dialog, UINT message, WPARAM wParam
 }
 
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int) {
+    LoadLibraryA("CVUTIL32.dll");  // nothing else here calls the library, and unloaded it has no window classes
     return static_cast<int>(DialogBoxParamA(instance, MAKEINTRESOURCEA(IDD_EXAMPLE), nullptr, DialogProcedure, 0));
 }
