@@ -2,19 +2,10 @@
 # Browsing and answering in a real window, by the keyboard alone and by the mouse alone: a folder three levels down, a file, three
 # files, a message box. The field must look as it does when the expected text is typed into it.
 source "$(dirname "$0")/common.sh"
-need Xvfb xdotool import convert compare
-"$gallery" --page Browse --capture "$work/page.png" >/dev/null 2>&1 || skip "the gallery has no page Browse"
+source "$(dirname "$0")/window.sh"
 
 mkdir -p "$CVUTIL32_HOME"/drive_c/WINDOWS "$CVUTIL32_HOME"/drive_c/walk/one/two/three
 touch "$CVUTIL32_HOME"/drive_c/walk/{a,b,c}.txt
-unset CVUTIL32_DISPLAY WAYLAND_DISPLAY
-program=
-server=
-cleanup() {
-    [ -z "$program" ] || kill "$program" 2>/dev/null || true
-    [ -z "$server" ] || kill "$server" 2>/dev/null || true
-}
-trap cleanup EXIT
 
 # wait_for <what> <command...>: tries the command until it succeeds.
 wait_for() {
@@ -25,19 +16,6 @@ wait_for() {
         [ "$SECONDS" -lt "$end" ] || fail "$what: waited for in vain (see $work/now.png)"
         sleep 0.05
     done
-}
-
-start_server() {
-    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset 3>"$work/display" 2>"$work/server.log" &
-    server=$!
-    local try
-    for try in {1..100}; do
-        [ ! -s "$work/display" ] || break
-        kill -0 "$server" 2>/dev/null || fail "Xvfb does not start: $(tail -1 "$work/server.log")"
-        sleep 0.1
-    done
-    DISPLAY=:$(<"$work/display")
-    export DISPLAY
 }
 
 shoot() { # [<name>]

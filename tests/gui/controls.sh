@@ -2,29 +2,7 @@
 # The pages Buttons and Lists in a real window, by keys and by mouse. What counts is read back from the window: places of the page
 # must change, or must look again as they did before.
 source "$(dirname "$0")/common.sh"
-need Xvfb xdotool import convert compare
-
-unset CVUTIL32_DISPLAY WAYLAND_DISPLAY
-program=
-server=
-cleanup() {
-    [ -z "$program" ] || kill "$program" 2>/dev/null || true
-    [ -z "$server" ] || kill "$server" 2>/dev/null || true
-}
-trap cleanup EXIT
-
-start_server() {
-    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset 3>"$work/display" 2>"$work/server.log" &
-    server=$!
-    local try
-    for try in {1..100}; do
-        [ ! -s "$work/display" ] || break
-        kill -0 "$server" 2>/dev/null || fail "Xvfb does not start: $(tail -1 "$work/server.log")"
-        sleep 0.1
-    done
-    DISPLAY=:$(<"$work/display")
-    export DISPLAY
-}
+source "$(dirname "$0")/window.sh"
 
 # Places are counted from the dialog's corner; they hold for the dialog font that the layer brings.
 start_gallery() { # <page>

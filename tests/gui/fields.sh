@@ -2,31 +2,9 @@
 # A form of a date, a time and a number in a real window, filled by the keyboard alone and then by the mouse: both must come to
 # the same picture. The clock is switched by the mouse too.
 source "$(dirname "$0")/common.sh"
-need Xvfb xdotool import convert compare
-[[ "$("$gallery" --help)" == *--page* ]] || skip "the gallery has no pages"
+source "$(dirname "$0")/window.sh"
 
 printf 'iTime=1\r\niTLZero=1\r\nsTime=:\r\n' >>"$CVUTIL32_HOME/win.ini"
-unset CVUTIL32_DISPLAY WAYLAND_DISPLAY
-program=
-server=
-cleanup() {
-    [ -z "$program" ] || kill "$program" 2>/dev/null || true
-    [ -z "$server" ] || kill "$server" 2>/dev/null || true
-}
-trap cleanup EXIT
-
-start_server() {
-    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset 3>"$work/display" 2>"$work/server.log" &
-    server=$!
-    local try
-    for try in {1..100}; do
-        [ ! -s "$work/display" ] || break
-        kill -0 "$server" 2>/dev/null || fail "Xvfb does not start: $(tail -1 "$work/server.log")"
-        sleep 0.1
-    done
-    DISPLAY=:$(<"$work/display")
-    export DISPLAY
-}
 
 shoot() { # <name>
     import -window "$window" "$work/$1.png" 2>/dev/null
