@@ -154,33 +154,6 @@ TEST_F(ComboBoxTest, FocusIsThatOfTheWhole) {
     EXPECT_FALSE(IsWindowEnabled(edit));
 }
 
-bool ShowsHighlight(HWND window) {
-    UpdateWindow(window);
-    RECT client{};
-    GetClientRect(window, &client);
-    const HDC context = GetDC(window);
-    bool found = false;
-    for (int y = 0; y < client.bottom && !found; ++y) {
-        for (int x = 0; x < client.right && !found; ++x)
-            found = GetPixel(context, x, y) == GetSysColor(COLOR_HIGHLIGHT);
-    }
-    ReleaseDC(window, context);
-    return found;
-}
-
-TEST_F(ComboBoxTest, TheTextIsHighlightedOnlyWithTheFocus) {
-    ShowWindow(parent_, SW_SHOWNA);
-    const HWND combo = Filled(CBS_DROPDOWN);
-    const HWND edit = Parts(combo).hwndItem;
-    Send(combo, CB_SETCURSEL, 1);
-    SetFocus(combo);
-    EXPECT_TRUE(ShowsHighlight(edit));
-    SetFocus(parent_);
-    EXPECT_FALSE(ShowsHighlight(edit));
-    SetFocus(combo);
-    EXPECT_TRUE(ShowsHighlight(edit));
-}
-
 TEST_F(ComboBoxTest, ClickingAnItemTakesIt) {
     const HWND combo = Filled(CBS_DROPDOWN);
     const COMBOBOXINFO parts = Parts(combo);
