@@ -28,8 +28,10 @@ check_imports() {
 # The manual as text and, where Doxygen can be had, the reference.
 install_documents() { # <folder>
     mkdir -p "$1"
-    cp -r README.md CHANGELOG.md docs/*.md docs/controls docs/pictures "$1"/ 2>/dev/null || true
-    tools/docs.sh >/dev/null
+    cp -r CHANGELOG.md docs/*.md docs/controls docs/dialogs docs/pictures "$1"/
+    # The manual lies beside it here.
+    sed 's#(docs/#(#g; s#(examples)#(../examples)#; s#(CONTRIBUTING.md)##' README.md >"$1/README.md"
+    tools/docs.sh
     cp -r build/docs/html "$1/reference"
 }
 
@@ -41,6 +43,8 @@ package_windows() {
     for preset in windows32 windows64; do
         tools/build-windows.sh $preset
         cmake --install build/$preset --prefix "$folder" --strip >/dev/null
+        # The tool's first lines tell how it was called; what other linkers want to know is whose names these are.
+        sed -i -e '/^;/d' -e '1i LIBRARY CVUTIL32.dll' "$folder/$(library_folder $preset)/CVUTIL32.def"
         cmake -S examples -B build/$preset/examples -G Ninja -DCMAKE_BUILD_TYPE=Release \
             -DCMAKE_TOOLCHAIN_FILE="$(sed -nE 's/^CMAKE_TOOLCHAIN_FILE:[A-Z]+=//p' build/$preset/CMakeCache.txt)" \
             -DCMAKE_FIND_ROOT_PATH_MODE_PACKAGE=BOTH \
