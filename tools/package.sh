@@ -44,7 +44,7 @@ package_windows() {
         tools/build-windows.sh $preset
         cmake --install build/$preset --prefix "$folder" --strip >/dev/null
         # The tool's first lines tell how it was called; what other linkers want to know is whose names these are.
-        sed -i -e '/^;/d' -e '1i LIBRARY CVUTIL32.dll' "$folder/$(library_folder $preset)/CVUTIL32.def"
+        sed -i -e '1i LIBRARY CVUTIL32.dll' -e '/^;/d' "$folder/$(library_folder $preset)/CVUTIL32.def"
         cmake -S examples -B build/$preset/examples -G Ninja -DCMAKE_BUILD_TYPE=Release \
             -DCMAKE_TOOLCHAIN_FILE="$(sed -nE 's/^CMAKE_TOOLCHAIN_FILE:[A-Z]+=//p' build/$preset/CMakeCache.txt)" \
             -DCMAKE_FIND_ROOT_PATH_MODE_PACKAGE=BOTH \
