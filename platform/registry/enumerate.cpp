@@ -15,15 +15,9 @@ LONG WINAPI RegEnumKeyExA(HKEY key, DWORD index, LPSTR name, LPDWORD size, LPDWO
     if (!name || !size || reserved || (className && !classSize)) {
         return ERROR_INVALID_PARAMETER;
     }
-    return Answer([&]() -> LONG {
-        KeyId id = 0;
-        LONG error = FindHandleKey(key, KEY_ENUMERATE_SUB_KEYS, &id);
-        if (error != ERROR_SUCCESS) {
-            return error;
-        }
-        Store::Use store{&error};
+    return OnKey(key, KEY_ENUMERATE_SUB_KEYS, [&](Store& store, KeyId id) -> LONG {
         const std::vector<ListedKey>* list = nullptr;
-        error = store ? store->ListKeys(id, &list) : error;
+        LONG error = store.ListKeys(id, &list);
         if (error != ERROR_SUCCESS) {
             return error;
         }
@@ -33,8 +27,7 @@ LONG WINAPI RegEnumKeyExA(HKEY key, DWORD index, LPSTR name, LPDWORD size, LPDWO
         const ListedKey& found = (*list)[index];
         error = DeliverName(found.name, name, size);
         if (error == ERROR_SUCCESS && classSize) {
-            error = className ? DeliverName(found.className, className, classSize)
-                              : (*classSize = static_cast<DWORD>(found.className.size()), ERROR_SUCCESS);
+            error = DeliverClass(found.className, className, classSize);
         }
         if (lastWrite) {
             *lastWrite = FILETIME{};
@@ -52,15 +45,9 @@ LONG WINAPI RegEnumValueA(HKEY key, DWORD index, LPSTR name, LPDWORD nameSize, L
     if (!name || !nameSize || reserved || (data && !dataSize)) {
         return ERROR_INVALID_PARAMETER;
     }
-    return Answer([&]() -> LONG {
-        KeyId id = 0;
-        LONG error = FindHandleKey(key, KEY_QUERY_VALUE, &id);
-        if (error != ERROR_SUCCESS) {
-            return error;
-        }
-        Store::Use store{&error};
+    return OnKey(key, KEY_QUERY_VALUE, [&](Store& store, KeyId id) -> LONG {
         const std::vector<ListedValue>* list = nullptr;
-        error = store ? store->ListValues(id, &list) : error;
+        LONG error = store.ListValues(id, &list);
         if (error != ERROR_SUCCESS) {
             return error;
         }
@@ -73,7 +60,7 @@ LONG WINAPI RegEnumValueA(HKEY key, DWORD index, LPSTR name, LPDWORD nameSize, L
         }
         if (type || dataSize) {
             const Value* value = nullptr;
-            error = store->ReadValue(id, found.name, &value);
+            error = store.ReadValue(id, found.name, &value);
             error = error == ERROR_SUCCESS ? DeliverData(*value, type, data, dataSize) : error;
         }
         return error == ERROR_SUCCESS ? DeliverName(found.name, name, nameSize) : error;
@@ -86,19 +73,13 @@ LONG WINAPI RegQueryInfoKeyA(HKEY key, LPSTR className, LPDWORD classSize, LPDWO
     if (reserved || (className && !classSize)) {
         return ERROR_INVALID_PARAMETER;
     }
-    return Answer([&]() -> LONG {
-        KeyId id = 0;
-        LONG error = FindHandleKey(key, KEY_QUERY_VALUE, &id);
-        if (error != ERROR_SUCCESS) {
-            return error;
-        }
-        Store::Use store{&error};
+    return OnKey(key, KEY_QUERY_VALUE, [&](Store& store, KeyId id) -> LONG {
         const std::vector<ListedKey>* keyList = nullptr;
         const std::vector<ListedValue>* valueList = nullptr;
         std::string ownClass;
-        error = store ? store->ListKeys(id, &keyList) : error;
-        error = error == ERROR_SUCCESS ? store->ListValues(id, &valueList) : error;
-        error = error == ERROR_SUCCESS ? store->ClassOf(id, &ownClass) : error;
+        LONG error = store.ListKeys(id, &keyList);
+        error = error == ERROR_SUCCESS ? store.ListValues(id, &valueList) : error;
+        error = error == ERROR_SUCCESS ? store.ClassOf(id, &ownClass) : error;
         if (error != ERROR_SUCCESS) {
             return error;
         }
@@ -126,10 +107,6 @@ LONG WINAPI RegQueryInfoKeyA(HKEY key, LPSTR className, LPDWORD classSize, LPDWO
         if (lastWrite) {
             *lastWrite = FILETIME{};
         }
-        if (classSize) {
-            return className ? DeliverName(ownClass, className, classSize)
-                             : (*classSize = static_cast<DWORD>(ownClass.size()), ERROR_SUCCESS);
-        }
-        return ERROR_SUCCESS;
+        return classSize ? DeliverClass(ownClass, className, classSize) : ERROR_SUCCESS;
     });
 }

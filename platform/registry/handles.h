@@ -6,6 +6,8 @@
 
 #include "registry/database.h"
 
+#include "registry/store.h"
+
 namespace platform::registry {
 
 /// @returns an open handle, or ERROR_OUTOFMEMORY.
@@ -26,6 +28,20 @@ LONG Answer(Call call) {
     } catch (const std::exception&) {
         return ERROR_OUTOFMEMORY;
     }
+}
+
+/// Runs a call on the key of a handle that must have been opened with a right, with the store in use: `call(store, key)`.
+template <class Call>
+LONG OnKey(HKEY handle, REGSAM right, Call call) {
+    return Answer([&]() -> LONG {
+        KeyId key = 0;
+        LONG error = FindHandleKey(handle, right, &key);
+        if (error != ERROR_SUCCESS) {
+            return error;
+        }
+        Store::Use store{&error};
+        return store ? call(*store.operator->(), key) : error;
+    });
 }
 
 }  // namespace platform::registry

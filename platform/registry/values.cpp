@@ -14,18 +14,10 @@ LONG WINAPI RegQueryValueExA(HKEY key, LPCSTR name, LPDWORD reserved, LPDWORD ty
     if (reserved || (data && !size)) {
         return ERROR_INVALID_PARAMETER;
     }
-    return Answer([&]() -> LONG {
-        KeyId id = 0;
-        LONG error = FindHandleKey(key, KEY_QUERY_VALUE, &id);
-        if (error != ERROR_SUCCESS) {
-            return error;
-        }
-        if (Store::Use store{&error}) {
-            const Value* value = nullptr;
-            error = store->ReadValue(id, name ? name : "", &value);
-            return error == ERROR_SUCCESS ? DeliverData(*value, type, data, size) : error;
-        }
-        return error;
+    return OnKey(key, KEY_QUERY_VALUE, [&](Store& store, KeyId id) -> LONG {
+        const Value* value = nullptr;
+        const LONG error = store.ReadValue(id, name ? name : "", &value);
+        return error == ERROR_SUCCESS ? DeliverData(*value, type, data, size) : error;
     });
 }
 
@@ -34,12 +26,7 @@ LONG WINAPI RegSetValueExA(HKEY key, LPCSTR name, DWORD reserved, DWORD type, co
     if (reserved || (size && !data) || plain.size() > kMostValueName) {
         return ERROR_INVALID_PARAMETER;
     }
-    return Answer([&]() -> LONG {
-        KeyId id = 0;
-        LONG error = FindHandleKey(key, KEY_SET_VALUE, &id);
-        if (error != ERROR_SUCCESS) {
-            return error;
-        }
+    return OnKey(key, KEY_SET_VALUE, [&](Store& store, KeyId id) -> LONG {
         // Callers often leave the NUL of a text uncounted; it is kept all the same.
         std::string terminated;
         std::string_view bytes(reinterpret_cast<const char*>(data), size);
@@ -48,23 +35,11 @@ LONG WINAPI RegSetValueExA(HKEY key, LPCSTR name, DWORD reserved, DWORD type, co
             terminated.append(bytes).push_back('\0');
             bytes = terminated;
         }
-        if (Store::Use store{&error}) {
-            error = store->WriteValue(id, plain, type, bytes);
-        }
-        return error;
+        return store.WriteValue(id, plain, type, bytes);
     });
 }
 
 LONG WINAPI RegDeleteValueA(HKEY key, LPCSTR name) {
-    return Answer([&]() -> LONG {
-        KeyId id = 0;
-        LONG error = FindHandleKey(key, KEY_SET_VALUE, &id);
-        if (error != ERROR_SUCCESS) {
-            return error;
-        }
-        if (Store::Use store{&error}) {
-            error = store->DeleteValue(id, name ? name : "");
-        }
-        return error;
-    });
+    return OnKey(key, KEY_SET_VALUE,
+                 [&](Store& store, KeyId id) -> LONG { return store.DeleteValue(id, name ? name : ""); });
 }
