@@ -1,6 +1,7 @@
 // The date field as a window: value, keys, mouse, steps, caret, picture and settings.
 #include <cvutil32/datectrl.h>
 
+#include "tests/support/field_driver.h"
 #include "tests/support/leaks.h"
 #include "tests/support/profile.h"
 #include "tests/support/window.h"
@@ -12,6 +13,7 @@
 
 namespace {
 
+using testing_support::FieldDriver;
 using testing_support::IntlSetting;
 using testing_support::LeakCheck;
 using testing_support::Message;
@@ -22,7 +24,7 @@ using testing_support::TestWindow;
 constexpr int kWidth = 110;
 constexpr int kHeight = 26;
 
-class DateField : public testing::Test {
+class DateField : public testing::Test, protected FieldDriver {
   protected:
     DateField() {
         Create();
@@ -65,50 +67,6 @@ class DateField : public testing::Test {
         ASSERT_EQ(field_, GetFocus());
     }
 
-    void Key(WPARAM key) const {
-        SendMessageA(field_, WM_KEYDOWN, key, 1);
-    }
-    void Type(char const* characters) const {
-        for (; *characters; ++characters) {
-            SendMessageA(field_, WM_CHAR, static_cast<unsigned char>(*characters), 1);
-        }
-    }
-    void Scroll(WORD code) const {
-        SendMessageA(field_, WM_VSCROLL, MAKEWPARAM(code, 0), 0);
-    }
-
-    void MoveTo(int position) const {
-        Key(VK_HOME);
-        for (int i = 0; i < position; ++i) {
-            Key(VK_RIGHT);
-        }
-    }
-
-    static POINT Caret() {
-        POINT position = {-1, -1};
-        GetCaretPos(&position);
-        return position;
-    }
-
-    int Extent(char const* text, int count) const {
-        HDC const dc = GetDC(field_);
-        SIZE size = {};
-        GetTextExtentPoint32A(dc, text, count, &size);
-        ReleaseDC(field_, dc);
-        return size.cx;
-    }
-
-    /// The position whose place the caret has, given the text that is shown; -1 for none.
-    int CaretIn(char const* text) const {
-        int const x = Caret().x;
-        for (int position = 0; position < 8; ++position) {
-            if (Extent(text, position) == x) {
-                return position;
-            }
-        }
-        return -1;
-    }
-
     /// What a field with this text must look like on the host's answer to WM_CTLCOLOREDIT, or on the window colour.
     Picture Expected(char const* text, COLORREF background) const {
         HDC const dc = GetDC(field_);
@@ -132,7 +90,6 @@ class DateField : public testing::Test {
     IntlSetting order_{"iDate", "0"};
     IntlSetting separator_{"sDate", "/"};
     TestWindow host_;
-    HWND field_ = nullptr;
 };
 
 std::string Today() {

@@ -2,6 +2,7 @@
 #include <cvutil32/timectrl.h>
 
 #include "tests/support/clock_settings.h"
+#include "tests/support/field_driver.h"
 #include "tests/support/leaks.h"
 #include "tests/support/window.h"
 
@@ -13,6 +14,7 @@
 namespace {
 
 using testing_support::ClockSettings;
+using testing_support::FieldDriver;
 using testing_support::LeakCheck;
 using testing_support::Picture;
 using testing_support::PictureOf;
@@ -21,7 +23,7 @@ using testing_support::TestWindow;
 constexpr int kWidth = 120;
 constexpr int kHeight = 26;
 
-class TimeField : public testing::Test {
+class TimeField : public testing::Test, protected FieldDriver {
   protected:
     TimeField() {
         Create();
@@ -65,43 +67,6 @@ class TimeField : public testing::Test {
         return time.wMilliseconds == 0 ? text : "milliseconds left";
     }
 
-    void Key(WPARAM key) const {
-        SendMessageA(field_, WM_KEYDOWN, key, 1);
-    }
-    void Type(char const* characters) const {
-        for (; *characters; ++characters) {
-            SendMessageA(field_, WM_CHAR, static_cast<unsigned char>(*characters), 1);
-        }
-    }
-    void Scroll(WORD code) const {
-        SendMessageA(field_, WM_VSCROLL, MAKEWPARAM(code, 0), 0);
-    }
-    void MoveTo(int position) const {
-        Key(VK_HOME);
-        for (int i = 0; i < position; ++i) {
-            Key(VK_RIGHT);
-        }
-    }
-
-    int Extent(char const* text, int count) const {
-        HDC const dc = GetDC(field_);
-        SIZE size = {};
-        GetTextExtentPoint32A(dc, text, count, &size);
-        ReleaseDC(field_, dc);
-        return size.cx;
-    }
-    /// The position whose place the caret has, given the text that is shown; -1 for none.
-    int CaretIn(char const* text) const {
-        POINT caret = {};
-        GetCaretPos(&caret);
-        for (int position = 0; position < lstrlenA(text); ++position) {
-            if (Extent(text, position) == caret.x) {
-                return position;
-            }
-        }
-        return -1;
-    }
-
     Picture Expected(char const* text) const {
         HDC const dc = GetDC(field_);
         HDC const memory = CreateCompatibleDC(dc);
@@ -121,7 +86,6 @@ class TimeField : public testing::Test {
 
     ClockSettings clock_{"HH:mm:ss"};
     TestWindow host_;
-    HWND field_ = nullptr;
 };
 
 TEST_F(TimeField, IsEmptyUntilItGetsATime) {
