@@ -102,7 +102,7 @@ struct StockTable {
     }
 };
 
-const StockTable& Table() {
+const StockTable& AllStock() {
     static const StockTable table;
     return table;
 }
@@ -163,7 +163,7 @@ int DescribeBitmap(const Bitmap& bitmap, int room, LPVOID buffer) {
 }  // namespace
 
 const StockObjects& Stock() {
-    return Table().inside;
+    return AllStock().inside;
 }
 
 void NoteStock(Object* object) {
@@ -200,7 +200,7 @@ using namespace platform::gdi;
 using platform::base::HandleKind;
 
 HGDIOBJ WINAPI GetStockObject(int index) {
-    const auto& objects = Table().objects;
+    const auto& objects = AllStock().objects;
     if (index < 0 || index >= static_cast<int>(objects.size()) || !objects[static_cast<std::size_t>(index)]) {
         return nullptr;
     }

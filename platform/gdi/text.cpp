@@ -120,14 +120,6 @@ void DrawGlyph(const Surface& surface, const RECT& clip, const Glyph& glyph, int
     }
 }
 
-RECT Cut(const RECT& a, const RECT& b) {
-    return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right), std::min(a.bottom, b.bottom)};
-}
-
-bool Holds(const RECT& rect) {
-    return rect.left < rect.right && rect.top < rect.bottom;
-}
-
 void DrawLine(DeviceContext& context, const Line& line, RealizedFont& font, const RECT& cell, const RECT* limit) {
     const std::uint32_t ink = NativeColour(context.surface, PixelOf(context.state.textColour));
     const int baseline = cell.top + font.Metrics().ascent;

@@ -16,14 +16,6 @@ using namespace platform::kernel;
 
 namespace {
 
-DWORD Deliver(const std::string& text, LPSTR buffer, DWORD size) {
-    if (!buffer || text.size() >= size) {
-        return static_cast<DWORD>(text.size() + 1);
-    }
-    std::memcpy(buffer, text.c_str(), text.size() + 1);
-    return static_cast<DWORD>(text.size());
-}
-
 bool IsLetter(char character) {
     return (character | 0x20) >= 'a' && (character | 0x20) <= 'z';
 }
@@ -64,7 +56,7 @@ DWORD WINAPI GetLogicalDriveStringsA(DWORD size, LPSTR buffer) {
                 roots.append(1, letter).append(":\\").append(1, '\0');
             }
         }
-        return Deliver(roots, buffer, size);
+        return CopyOut(roots, buffer, size);
     });
 }
 
@@ -76,7 +68,7 @@ DWORD WINAPI GetCurrentDirectoryA(DWORD size, LPSTR buffer) {
             SetLastError(static_cast<DWORD>(ErrorOfHost(error.value())));
             return 0;
         }
-        return Deliver(DrivePath(host == "/" ? "" : host), buffer, size);
+        return CopyOut(DrivePath(host == "/" ? "" : host), buffer, size);
     });
 }
 

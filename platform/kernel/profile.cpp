@@ -34,7 +34,7 @@ namespace base = platform::base;
 
 namespace {
 
-constexpr off_t kMostBytes = 16 << 20;
+constexpr off_t kMostFileBytes = 16 << 20;
 
 struct Descriptor {
     int number;
@@ -88,7 +88,7 @@ std::optional<std::string> ReadText(const std::string& path, struct stat* status
         if (errno == ENOENT || errno == ENOTDIR) {
             return std::string();
         }
-    } else if (fstat(file.number, status) == 0 && S_ISREG(status->st_mode) && status->st_size <= kMostBytes) {
+    } else if (fstat(file.number, status) == 0 && S_ISREG(status->st_mode) && status->st_size <= kMostFileBytes) {
         std::string text;
         if (ReadAll(file.number, status->st_size, text)) {
             return text;

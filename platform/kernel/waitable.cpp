@@ -10,6 +10,7 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
+#include "base/fail.h"
 #include "base/handle.h"
 #include "kernel/module.h"
 
@@ -38,12 +39,6 @@ std::mutex& SharesLock() {
     return lock;
 }
 
-template <class Result>
-Result Fail(DWORD error, Result result) {
-    SetLastError(error);
-    return result;
-}
-
 HANDLE MakeHandle(HandleKind kind, const std::shared_ptr<Waitable>& object) {
     auto share = std::make_unique<HandleShare>(HandleShare{object});
     const std::uint32_t handle = base::InsertHandle(kind, share.get());
@@ -60,7 +55,7 @@ std::shared_ptr<Waitable> FindWaitable(HANDLE handle, std::initializer_list<Hand
             return share->object;
         }
     }
-    return Fail<std::shared_ptr<Waitable>>(ERROR_INVALID_HANDLE, nullptr);
+    return base::Fail<std::shared_ptr<Waitable>>(ERROR_INVALID_HANDLE, nullptr);
 }
 
 void RunThread(const std::shared_ptr<Waitable>& object, LPTHREAD_START_ROUTINE start, LPVOID parameter) {
@@ -78,13 +73,13 @@ void RunThread(const std::shared_ptr<Waitable>& object, LPTHREAD_START_ROUTINE s
 HANDLE WINAPI CreateThread(LPSECURITY_ATTRIBUTES, SIZE_T, LPTHREAD_START_ROUTINE start, LPVOID parameter, DWORD flags,
                            LPDWORD id) {
     if (!start || flags != 0) {
-        return Fail<HANDLE>(ERROR_INVALID_PARAMETER, nullptr);
+        return base::Fail<HANDLE>(ERROR_INVALID_PARAMETER, nullptr);
     }
     try {
         auto object = std::make_shared<Waitable>();
         const HANDLE handle = MakeHandle(HandleKind::Thread, object);
         if (!handle) {
-            return Fail<HANDLE>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+            return base::Fail<HANDLE>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
         }
         struct Started {
             std::mutex lock;
@@ -103,7 +98,7 @@ HANDLE WINAPI CreateThread(LPSECURITY_ATTRIBUTES, SIZE_T, LPTHREAD_START_ROUTINE
             }).detach();
         } catch (...) {
             CloseHandle(handle);
-            return Fail<HANDLE>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+            return base::Fail<HANDLE>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
         }
         std::unique_lock guard(started->lock);
         started->changed.wait(guard, [&] { return started->id != 0; });
@@ -112,13 +107,13 @@ HANDLE WINAPI CreateThread(LPSECURITY_ATTRIBUTES, SIZE_T, LPTHREAD_START_ROUTINE
         }
         return handle;
     } catch (...) {
-        return Fail<HANDLE>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+        return base::Fail<HANDLE>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
     }
 }
 
 BOOL WINAPI GetExitCodeThread(HANDLE thread, LPDWORD code) {
     if (!code) {
-        return Fail(ERROR_INVALID_PARAMETER, FALSE);
+        return base::Fail(ERROR_INVALID_PARAMETER, FALSE);
     }
     const auto object = FindWaitable(thread, {HandleKind::Thread});
     if (!object) {
@@ -131,16 +126,16 @@ BOOL WINAPI GetExitCodeThread(HANDLE thread, LPDWORD code) {
 
 HANDLE WINAPI CreateEventA(LPSECURITY_ATTRIBUTES, BOOL manualReset, BOOL initialState, LPCSTR name) {
     if (name) {
-        return Fail<HANDLE>(ERROR_NOT_SUPPORTED, nullptr);  // events are not shared between processes here
+        return base::Fail<HANDLE>(ERROR_NOT_SUPPORTED, nullptr);  // events are not shared between processes here
     }
     try {
         auto object = std::make_shared<Waitable>();
         object->manualReset = manualReset != FALSE;
         object->signalled = initialState != FALSE;
         const HANDLE handle = MakeHandle(HandleKind::Event, object);
-        return handle ? handle : Fail<HANDLE>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+        return handle ? handle : base::Fail<HANDLE>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
     } catch (...) {
-        return Fail<HANDLE>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+        return base::Fail<HANDLE>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
     }
 }
 
@@ -191,7 +186,7 @@ BOOL WINAPI CloseHandle(HANDLE handle) {
             return TRUE;
         }
     }
-    return Fail(ERROR_INVALID_HANDLE, FALSE);
+    return base::Fail(ERROR_INVALID_HANDLE, FALSE);
 }
 
 DWORD WINAPI GetCurrentThreadId(void) {

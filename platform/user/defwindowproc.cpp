@@ -291,7 +291,7 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
         case WM_SYSKEYDOWN:
             return SystemKeyDown(handle, wParam, lParam);
         case WM_RBUTTONUP: {
-            POINT point{static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+            POINT point = MousePoint(lParam);
             ClientToScreen(handle, &point);
             return SendMessageA(handle, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(handle), MAKELPARAM(point.x, point.y));
         }

@@ -26,16 +26,6 @@ void Remove(Window* window) {
     GiveBackWindow()(window);
 }
 
-std::vector<HWND> OwnedBy(const Window* owner) {
-    std::vector<HWND> list;
-    for (const Window* window = Desktop()->firstChild; window; window = window->next) {
-        if (window->owner == owner) {
-            list.push_back(window->handle);
-        }
-    }
-    return list;
-}
-
 /// WM_DESTROY comes to a window before its children, which all still live.
 void SendDestroy(HWND handle) {
     SendMessageA(handle, WM_DESTROY, 0, 0);
@@ -130,7 +120,7 @@ bool DestroyTree(HWND handle) {
         if (!window || window->destroying) {
             return window != nullptr;
         }
-        owned = OwnedBy(window);
+        owned = WindowsOwnedBy(window);
         window->destroying = true;
     }
     NotifyParents(handle, WM_DESTROY);

@@ -42,7 +42,7 @@ void ReleaseOwner(DialogState& state) {
 }
 
 /// Takes what is in the queue, telling the owner first when there is nothing. @returns false on WM_QUIT.
-bool NextMessage(HWND dialog, HWND owner, bool tellIdle, MSG& message) {
+bool NextDialogMessage(HWND dialog, HWND owner, bool tellIdle, MSG& message) {
     if (tellIdle && owner && !PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE)) {
         SendMessageA(owner, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(dialog));
         // The owner may have ended the dialog; nothing would then wake the loop.
@@ -59,7 +59,7 @@ void RunModalLoop(HWND dialog, HWND owner, const std::shared_ptr<DialogState>& s
     const bool tellIdle = !(GetWindowLongA(dialog, GWL_STYLE) & DS_NOIDLEMSG);
     while (!state->ended && IsWindow(dialog)) {
         MSG message{};
-        if (!NextMessage(dialog, owner, tellIdle, message)) {
+        if (!NextDialogMessage(dialog, owner, tellIdle, message)) {
             // It is for the loops further out too.
             PostQuitMessage(static_cast<int>(message.wParam));
             return;

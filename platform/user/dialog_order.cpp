@@ -11,13 +11,13 @@ struct Stop {
     bool eligible;
 };
 
-DWORD StyleOf(HWND window) {
+DWORD StyleOfItem(HWND window) {
     return static_cast<DWORD>(GetWindowLongA(window, GWL_STYLE));
 }
 
 /// Visible and enabled by its own style: the dialog itself may still be hidden.
 bool IsReachable(HWND window) {
-    return (StyleOf(window) & (WS_VISIBLE | WS_DISABLED)) == WS_VISIBLE;
+    return (StyleOfItem(window) & (WS_VISIBLE | WS_DISABLED)) == WS_VISIBLE;
 }
 
 bool IsContainer(HWND window) {
@@ -27,7 +27,7 @@ bool IsContainer(HWND window) {
 void CollectStops(HWND parent, std::vector<Stop>& stops) {
     for (HWND child = GetWindow(parent, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
         const bool container = IsContainer(child);
-        stops.push_back({child, !container && IsReachable(child) && (StyleOf(child) & WS_TABSTOP)});
+        stops.push_back({child, !container && IsReachable(child) && (StyleOfItem(child) & WS_TABSTOP)});
         if (container && IsReachable(child))
             CollectStops(child, stops);
     }
@@ -80,10 +80,10 @@ HWND NextInGroup(HWND dialog, HWND control, bool previous) {
             place = index;
     }
     size_t first = place;
-    while (first > 0 && !(StyleOf(siblings[first]) & WS_GROUP))
+    while (first > 0 && !(StyleOfItem(siblings[first]) & WS_GROUP))
         --first;
     size_t end = place + 1;
-    while (end < siblings.size() && !(StyleOf(siblings[end]) & WS_GROUP))
+    while (end < siblings.size() && !(StyleOfItem(siblings[end]) & WS_GROUP))
         ++end;
 
     const size_t count = end - first;

@@ -67,7 +67,7 @@ char UpperCase(char character) {
     return text[0];
 }
 
-std::string TextOf(HWND window) {
+std::string CaptionOf(HWND window) {
     const int length = GetWindowTextLengthA(window);
     std::string text(static_cast<size_t>(length > 0 ? length : 0) + 1, '\0');
     text.resize(static_cast<size_t>(GetWindowTextA(window, text.data(), static_cast<int>(text.size()))));
@@ -100,7 +100,7 @@ bool HasMnemonic(HWND control, char wanted) {
         if (lstrcmpiA(name, "static") == 0 && (GetWindowLongA(control, GWL_STYLE) & SS_NOPREFIX))
             return false;
     }
-    return MnemonicOf(TextOf(control)) == wanted;
+    return MnemonicOf(CaptionOf(control)) == wanted;
 }
 
 void CollectReachable(HWND parent, std::vector<HWND>& controls) {

@@ -236,7 +236,7 @@ MINMAXINFO QueryMinMax(HWND handle) {
 
 LRESULT DefaultNonClient(Window* window, UINT message, WPARAM wParam, LPARAM lParam) {
     const HWND handle = window->handle;
-    const POINT point{static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+    const POINT point = MousePoint(lParam);
     switch (message) {
         case WM_NCCALCSIZE: {
             const UINT classStyle = window->windowClass->style;

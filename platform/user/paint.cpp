@@ -4,14 +4,11 @@
 #include "base/handle.h"
 #include "gdi/device_context.h"
 #include "user/painting.h"
+#include "user/queue.h"
 #include "user/thread.h"
 
 namespace platform::user {
 namespace {
-
-Window* Peek(HWND handle) {
-    return base::Find<Window>(handle, base::HandleKind::Window);
-}
 
 /// Children lose what their parent paints over.
 void InvalidateOverpainted(Window* parent, const gdi::Region& painted) {
@@ -55,7 +52,7 @@ void SendFramePaint(HWND handle) {
     HRGN object = nullptr;
     {
         UserGuard guard(UserLock());
-        Window* window = Peek(handle);
+        Window* window = PeekWindow(handle);
         if (window == nullptr || !window->frameNeeded) {
             return;
         }
@@ -88,7 +85,7 @@ void SendErase(HWND handle) {
     HDC context = nullptr;
     {
         UserGuard guard(UserLock());
-        Window* window = Peek(handle);
+        Window* window = PeekWindow(handle);
         if (window == nullptr || !window->eraseNeeded) {
             return;
         }
@@ -107,7 +104,7 @@ void SendErase(HWND handle) {
     ReleaseContext(context);
     if (!erased) {
         UserGuard guard(UserLock());
-        if (Window* window = Peek(handle); window != nullptr) {
+        if (Window* window = PeekWindow(handle); window != nullptr) {
             window->eraseNeeded = true;
         }
     }
@@ -117,7 +114,7 @@ void UpdateTree(HWND handle, UINT children, bool eraseOnly) {
     bool due = false;
     {
         UserGuard guard(UserLock());
-        Window* window = Peek(handle);
+        Window* window = PeekWindow(handle);
         if (window == nullptr || !IsShown(window)) {
             return;
         }
@@ -137,7 +134,7 @@ void UpdateTree(HWND handle, UINT children, bool eraseOnly) {
     PaintList list;
     {
         UserGuard guard(UserLock());
-        const Window* window = Peek(handle);
+        const Window* window = PeekWindow(handle);
         if (window == nullptr || window->firstChild == nullptr || (children & RDW_NOCHILDREN) != 0 ||
             (window->style & WS_MINIMIZE) != 0) {
             return;
@@ -213,7 +210,7 @@ HDC WINAPI BeginPaint(HWND handle, LPPAINTSTRUCT paint) {
     if (erase && SendMessageA(handle, WM_ERASEBKGND, reinterpret_cast<WPARAM>(context), 0) == 0) {
         paint->fErase = TRUE;
         UserGuard guard(UserLock());
-        if (Window* window = Peek(handle); window != nullptr) {
+        if (Window* window = PeekWindow(handle); window != nullptr) {
             window->eraseNeeded = true;
         }
     }

@@ -10,13 +10,13 @@ namespace {
 
 constexpr int kKeyStep = 8;
 
-DWORD StyleOf(HWND handle) {
+DWORD LiveStyle(HWND handle) {
     const Window* window = PeekWindow(handle);
     return window ? window->style : 0;
 }
 
 HWND ParentOf(HWND handle) {
-    return IsChildStyle(StyleOf(handle)) ? GetParent(handle) : nullptr;
+    return IsChildStyle(LiveStyle(handle)) ? GetParent(handle) : nullptr;
 }
 
 void Place(HWND handle, RECT rect) {
@@ -88,7 +88,7 @@ void SetMoveSize(HWND handle) {
 }
 
 /// One round of moving or sizing: where the window was, what of it follows, and how far by now.
-struct Drag {
+struct MoveDrag {
     HWND window;
     int part;
     RECT start{};
@@ -115,7 +115,7 @@ struct Drag {
 
 /// Moves or sizes until the button is let go, or Enter or Escape is pressed. Escape puts everything back.
 void MoveOrSize(HWND handle, int part, bool byMouse, POINT from) {
-    Drag drag{handle, part};
+    MoveDrag drag{handle, part};
     GetWindowRect(handle, &drag.start);
     if (part != HTCAPTION) {
         drag.limits = QueryMinMax(handle);
@@ -228,7 +228,7 @@ void PressFrame(HWND handle, int hitCode, POINT point) {
         case HTMAXBUTTON:
             if (TrackButton(handle, hitCode)) {
                 SendMessageA(handle, WM_SYSCOMMAND,
-                             static_cast<WPARAM>(StyleOf(handle) & WS_MAXIMIZE ? SC_RESTORE : SC_MAXIMIZE), where);
+                             static_cast<WPARAM>(LiveStyle(handle) & WS_MAXIMIZE ? SC_RESTORE : SC_MAXIMIZE), where);
             }
             break;
         case HTVSCROLL:
@@ -246,7 +246,7 @@ void PressFrame(HWND handle, int hitCode, POINT point) {
 
 LRESULT SystemCommand(HWND handle, WPARAM command, POINT point) {
     const WPARAM detail = command & 0xF;
-    const DWORD style = StyleOf(handle);
+    const DWORD style = LiveStyle(handle);
     switch (command & 0xFFF0) {
         case SC_MOVE:
             if (!(style & (WS_MAXIMIZE | WS_MINIMIZE))) {

@@ -116,17 +116,23 @@ void OffsetTree(Window* window, int dx, int dy) {
     }
 }
 
-}  // namespace platform::user
-
-using namespace platform::user;
-
-namespace {
-
 HWND HandleOf(const Window* window) {
     return window && window != MessageRoot() ? window->handle : nullptr;
 }
 
-}  // namespace
+std::vector<HWND> WindowsOwnedBy(const Window* owner) {
+    std::vector<HWND> owned;
+    for (const Window* window = Desktop()->firstChild; window; window = window->next) {
+        if (window->owner == owner) {
+            owned.push_back(window->handle);
+        }
+    }
+    return owned;
+}
+
+}  // namespace platform::user
+
+using namespace platform::user;
 
 HWND WINAPI GetDesktopWindow(VOID) {
     return Desktop()->handle;

@@ -131,6 +131,16 @@ inline bool IsChildStyle(DWORD style) {
 /// The parent of message-only windows (HWND_MESSAGE): never shown, never enumerated.
 Window* MessageRoot();
 
+/// @returns the handle by which applications may know a window; null for none and for the parent of message-only windows.
+HWND HandleOf(const Window* window);
+/// @returns the top-level windows of an owner, from the top of the z-order. Lock held.
+std::vector<HWND> WindowsOwnedBy(const Window* owner);
+
+/// @returns the point that a mouse message carries.
+inline POINT MousePoint(LPARAM lParam) {
+    return {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+}
+
 /// Moves the rectangles of a window and of all its descendants, without a word to them. Lock held.
 void OffsetTree(Window* window, int dx, int dy);
 

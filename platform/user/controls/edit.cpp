@@ -29,7 +29,7 @@ LRESULT GetText(const EditData& data, WPARAM size, char* buffer) {
 }
 
 /// Enter goes to the default button of a dialog unless the style, or Ctrl, keeps it.
-LRESULT DialogCodeOf(HWND edit, LPARAM lParam) {
+LRESULT EditDialogCode(HWND edit, LPARAM lParam) {
     LRESULT code = DLGC_WANTCHARS | DLGC_HASSETSEL | DLGC_WANTARROWS;
     const auto* message = reinterpret_cast<const MSG*>(lParam);
     const DWORD style = ControlStyle(edit);
@@ -213,7 +213,7 @@ LRESULT Handle(HWND edit, EditData& data, UINT message, WPARAM wParam, LPARAM lP
         case WM_GETTEXTLENGTH:
             return static_cast<LRESULT>(data.text.size());
         case WM_GETDLGCODE:
-            return DialogCodeOf(edit, lParam);
+            return EditDialogCode(edit, lParam);
         case WM_SETFONT:
             OnSetFont(edit, data, wParam, LOWORD(lParam) != 0);
             return 0;

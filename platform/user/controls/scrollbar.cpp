@@ -102,7 +102,7 @@ void Repaint(HWND window) {
 // --- input
 
 void OnButtonDown(HWND window, LPARAM lParam) {
-    POINT point{static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+    POINT point = MousePoint(lParam);
     ClientToScreen(window, &point);
     if (IsSizeBox(window)) {
         const bool topLeft = (ControlStyle(window) & SBS_SIZEBOXTOPLEFTALIGN) != 0;

@@ -119,7 +119,7 @@ void OnButtonDown(ComboData& combo, LPARAM lParam) {
     SetFocus(combo.window);
     if (!IsWindow(combo.window) || !combo.Drops())
         return;
-    const POINT point{static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+    const POINT point = MousePoint(lParam);
     const RECT arrow = ArrowRect(combo);
     const bool onArrow = PtInRect(&arrow, point) != FALSE;
     if (combo.edit && !onArrow)
