@@ -7,7 +7,7 @@
 #include <new>
 #include <utility>
 
-#include "gdi/surface.h"
+#include "gdi/surface/surface.h"
 
 namespace platform::comctl {
 

@@ -6,8 +6,8 @@
 #include <cstring>
 #include <new>
 
-#include "kernel/hostpath.h"
-#include "user/dialog.h"
+#include "kernel/files/hostpath.h"
+#include "user/dialog/dialog.h"
 
 namespace platform::comdlg {
 namespace {

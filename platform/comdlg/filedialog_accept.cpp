@@ -2,7 +2,7 @@
 #include <algorithm>
 
 #include "comdlg/filedialog.h"
-#include "kernel/wildcards.h"
+#include "kernel/files/wildcards.h"
 
 namespace platform::comdlg {
 namespace {

@@ -3,7 +3,7 @@
 #include <cstring>
 
 #include "comdlg/filedialog.h"
-#include "user/dialog.h"
+#include "user/dialog/dialog.h"
 
 namespace platform::comdlg {
 namespace {

@@ -11,7 +11,7 @@
 
 #include "base/report.h"
 #include "base/state.h"
-#include "kernel/encoding.h"
+#include "kernel/text/encoding.h"
 
 namespace platform::registry {
 namespace {

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cctype>
 
-#include "kernel/encoding.h"
-#include "kernel/hostpath.h"
+#include "kernel/text/encoding.h"
+#include "kernel/files/hostpath.h"
 #include "shell/directory.h"
 
 namespace platform::shell {

@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "base/handle.h"
-#include "user/thread.h"
-#include "user/window.h"
+#include "user/model/thread.h"
+#include "user/model/window.h"
 
 namespace platform::user {
 

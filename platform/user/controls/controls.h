@@ -8,7 +8,7 @@
 #include <new>
 #include <string>
 
-#include "user/window.h"
+#include "user/model/window.h"
 
 namespace platform::user {
 

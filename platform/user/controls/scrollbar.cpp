@@ -2,7 +2,7 @@
 #include <algorithm>
 
 #include "user/controls/controls.h"
-#include "user/scrollbar/bar.h"
+#include "user/frame/scrollbar/bar.h"
 
 namespace platform::user {
 namespace {

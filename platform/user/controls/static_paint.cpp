@@ -1,6 +1,6 @@
 // How static controls look: text, filled and framed rectangles, etched lines, pictures.
 #include "user/controls/static.h"
-#include "user/icons.h"
+#include "user/resource/icons.h"
 
 namespace platform::user {
 namespace {

@@ -3,7 +3,7 @@
 #include <cstring>
 
 #include "user/controls/listbox/list.h"
-#include "user/dialog.h"
+#include "user/dialog/dialog.h"
 
 namespace platform::user {
 namespace {

@@ -1,0 +1,159 @@
+// Making device-dependent bitmaps, and their raw bits.
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+
+#include "gdi/bitmap/bitmaps.h"
+#include "gdi/context/context.h"
+
+namespace platform::gdi {
+
+std::unique_ptr<Bitmap> NewBitmap(int width, int height, int bitsPerPixel) {
+    const bool format =
+        bitsPerPixel == 1 || bitsPerPixel == 4 || bitsPerPixel == 8 || bitsPerPixel == 24 || bitsPerPixel == 32;
+    if (!format || width <= 0 || height <= 0) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return nullptr;
+    }
+    const std::int64_t row = DwordRowBytes(width, bitsPerPixel);
+    auto bitmap = FitsMemory(row, height) ? NewObject<Bitmap>() : nullptr;
+    if (bitmap) {
+        bitmap->width = width;
+        bitmap->height = height;
+        bitmap->bitsPerPixel = bitsPerPixel;
+        bitmap->rowBytes = static_cast<std::size_t>(row);
+        bitmap->bits = static_cast<std::byte*>(std::calloc(static_cast<std::size_t>(height), bitmap->rowBytes));
+        if (!bitmap->bits) {
+            bitmap.reset();
+        }
+    }
+    if (!bitmap) {
+        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+    }
+    return bitmap;
+}
+
+}  // namespace platform::gdi
+
+using namespace platform::gdi;
+
+namespace {
+
+std::size_t OuterRowBytes(const Bitmap& bitmap) {
+    return static_cast<std::size_t>(bitmap.section ? DwordRowBytes(bitmap.width, bitmap.bitsPerPixel)
+                                                   : WordRowBytes(bitmap.width, bitmap.bitsPerPixel));
+}
+
+/// Copies whole and partial rows between a bitmap and the application's rows.
+LONG CopyBits(const Bitmap& bitmap, std::size_t size, std::byte* out, const std::byte* in) {
+    const std::size_t outer = OuterRowBytes(bitmap);
+    const std::size_t total = std::min(size, outer * static_cast<std::size_t>(bitmap.height));
+    for (std::size_t done = 0, row = 0; done < total; done += outer, ++row) {
+        std::byte* bits = bitmap.bits + row * bitmap.rowBytes;
+        const std::size_t part = std::min(outer, total - done);
+        if (out) {
+            std::memcpy(out + done, bits, part);
+        } else {
+            std::memcpy(bits, in + done, part);
+        }
+    }
+    return static_cast<LONG>(total);
+}
+
+}  // namespace
+
+HBITMAP WINAPI CreateBitmap(int width, int height, UINT planes, UINT bitsPerPixel, const void* bits) {
+    if (width == 0 || height == 0) {
+        return platform::base::ToHandle<HBITMAP>(Stock().defaultBitmap->handle);
+    }
+    if (planes != 1) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return nullptr;
+    }
+    auto bitmap = NewBitmap(width, std::abs(height), static_cast<int>(bitsPerPixel));
+    if (!bitmap) {
+        return nullptr;
+    }
+    if (bits) {
+        CopyBits(*bitmap, bitmap->Bytes(), nullptr, static_cast<const std::byte*>(bits));
+    }
+    return FileObject<HBITMAP>(std::move(bitmap));
+}
+
+HBITMAP WINAPI CreateBitmapIndirect(const BITMAP* bitmap) {
+    if (!bitmap || bitmap->bmType != 0) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return nullptr;
+    }
+    return CreateBitmap(bitmap->bmWidth, bitmap->bmHeight, bitmap->bmPlanes, bitmap->bmBitsPixel, bitmap->bmBits);
+}
+
+HBITMAP WINAPI CreateCompatibleBitmap(HDC handle, int width, int height) {
+    const auto* context = FindObject<DeviceContext>(handle);
+    if (!context) {
+        return nullptr;
+    }
+    if (width == 0 || height == 0) {
+        return platform::base::ToHandle<HBITMAP>(Stock().defaultBitmap->handle);
+    }
+    auto bitmap = NewBitmap(width, height, context->surface.bitsPerPixel);
+    if (!bitmap) {
+        return nullptr;
+    }
+    // Like the section that is selected: the same format and colours.
+    if (context->state.bitmap && context->state.bitmap->section) {
+        const Bitmap& model = *context->state.bitmap;
+        bitmap->section = true;
+        if (model.palette) {
+            const auto size = static_cast<std::size_t>(model.paletteSize);
+            bitmap->palette.reset(new (std::nothrow) std::uint32_t[size]);
+            if (!bitmap->palette) {
+                SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+                return nullptr;
+            }
+            std::copy_n(model.palette.get(), size, bitmap->palette.get());
+            bitmap->paletteSize = model.paletteSize;
+        }
+    }
+    return FileObject<HBITMAP>(std::move(bitmap));
+}
+
+LONG WINAPI GetBitmapBits(HBITMAP handle, LONG size, LPVOID bits) {
+    const auto* bitmap = FindObject<Bitmap>(handle);
+    if (!bitmap) {
+        return 0;
+    }
+    if (!bits) {
+        return static_cast<LONG>(OuterRowBytes(*bitmap) * static_cast<std::size_t>(bitmap->height));
+    }
+    return size > 0 ? CopyBits(*bitmap, static_cast<std::size_t>(size), static_cast<std::byte*>(bits), nullptr) : 0;
+}
+
+LONG WINAPI SetBitmapBits(HBITMAP handle, DWORD size, const void* bits) {
+    const auto* bitmap = FindObject<Bitmap>(handle);
+    if (!bitmap || !bits) {
+        return 0;
+    }
+    return CopyBits(*bitmap, size, nullptr, static_cast<const std::byte*>(bits));
+}
+
+BOOL WINAPI GetBitmapDimensionEx(HBITMAP handle, LPSIZE size) {
+    const auto* bitmap = FindObject<Bitmap>(handle);
+    if (!bitmap || !size) {
+        return FALSE;
+    }
+    *size = bitmap->dimension;
+    return TRUE;
+}
+
+BOOL WINAPI SetBitmapDimensionEx(HBITMAP handle, int width, int height, LPSIZE previous) {
+    auto* bitmap = FindObject<Bitmap>(handle);
+    if (!bitmap) {
+        return FALSE;
+    }
+    if (previous) {
+        *previous = bitmap->dimension;
+    }
+    bitmap->dimension = {width, height};
+    return TRUE;
+}

@@ -1,0 +1,380 @@
+// Device-independent bitmaps.
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+
+#include "gdi/bitmap/bitmaps.h"
+#include "gdi/bitmap/convert.h"
+
+namespace platform::gdi {
+
+Surface DibLayout::View(const void* bits, int lines) const {
+    Surface surface;
+    auto* first = static_cast<std::byte*>(const_cast<void*>(bits));
+    const auto stride = static_cast<std::ptrdiff_t>(rowBytes);
+    surface.width = width;
+    surface.height = lines;
+    surface.bitsPerPixel = bitsPerPixel;
+    surface.bits = topDown ? first : first + stride * (lines - 1);
+    surface.stride = topDown ? stride : -stride;
+    surface.palette = palette.data();
+    surface.paletteSize = 1 << std::min(bitsPerPixel, 8);
+    return surface;
+}
+
+std::optional<DibLayout> ReadLayout(const void* info, UINT usage, bool colours, std::size_t room) {
+    if (!info || usage > DIB_PAL_COLORS || (room && room < sizeof(BITMAPCOREHEADER))) {
+        return std::nullopt;
+    }
+    DibLayout layout;
+    DWORD size = 0;
+    std::memcpy(&size, info, sizeof(size));
+    DWORD used = 0;
+    std::size_t entry = sizeof(RGBQUAD);
+    int planes = 0;
+    if (size == sizeof(BITMAPCOREHEADER)) {
+        BITMAPCOREHEADER core;
+        std::memcpy(&core, info, sizeof(core));
+        layout.width = core.bcWidth;
+        layout.height = core.bcHeight;
+        layout.bitsPerPixel = core.bcBitCount;
+        planes = core.bcPlanes;
+        entry = sizeof(RGBTRIPLE);
+    } else if (size >= sizeof(BITMAPINFOHEADER) && (!room || room >= size)) {
+        BITMAPINFOHEADER header;
+        std::memcpy(&header, info, sizeof(header));
+        layout.width = header.biWidth;
+        layout.topDown = header.biHeight < 0;
+        if (header.biHeight == INT32_MIN) {
+            return std::nullopt;
+        }
+        layout.height = std::abs(header.biHeight);
+        layout.bitsPerPixel = header.biBitCount;
+        planes = header.biPlanes;
+        used = header.biClrUsed;
+        layout.masks = header.biCompression == BI_BITFIELDS && size == sizeof(BITMAPINFOHEADER);
+        if (header.biCompression != BI_RGB && !(header.biCompression == BI_BITFIELDS && header.biBitCount == 32)) {
+            return std::nullopt;
+        }
+        if (header.biCompression == BI_BITFIELDS) {
+            // Only the order of colours that every 32-bit bitmap here has.
+            std::array<DWORD, 3> order{};
+            if (room && room < sizeof(header) + sizeof(order)) {
+                return std::nullopt;
+            }
+            std::memcpy(order.data(), static_cast<const std::byte*>(info) + sizeof(header), sizeof(order));
+            if (order != std::array<DWORD, 3>{0xFF0000, 0x00FF00, 0x0000FF}) {
+                return std::nullopt;
+            }
+        }
+    } else {
+        return std::nullopt;
+    }
+    const int bits = layout.bitsPerPixel;
+    if (planes != 1 || layout.width <= 0 || (bits != 1 && bits != 4 && bits != 8 && bits != 24 && bits != 32) ||
+        !FitsMemory(DwordRowBytes(layout.width, bits), layout.height)) {
+        return std::nullopt;
+    }
+    layout.rowBytes = static_cast<std::size_t>(DwordRowBytes(layout.width, bits));
+    layout.headerBytes = size + (layout.masks ? 3 * sizeof(DWORD) : 0);
+    const int most = bits <= 8 ? 1 << bits : 0;
+    layout.paletteSize = used && used < static_cast<DWORD>(most) ? static_cast<int>(used) : most;
+    if (usage == DIB_PAL_COLORS) {
+        entry = sizeof(WORD);
+    }
+    // A bitmap of true colours may list colours too, for those who want to make a palette.
+    const std::size_t listed = bits <= 8 ? static_cast<std::size_t>(layout.paletteSize) : used <= 256 ? used : 0;
+    layout.paletteBytes = listed * entry;
+    if (room && room < layout.headerBytes + layout.paletteBytes) {
+        return std::nullopt;
+    }
+    if (bits > 8) {
+        return layout;
+    }
+    std::copy_n(DefaultPalette(bits), most, layout.palette.begin());
+    const auto* at = static_cast<const BYTE*>(info) + layout.headerBytes;
+    if (colours && usage == DIB_RGB_COLORS) {
+        layout.palette.fill(0);
+        for (std::size_t i = 0; i < static_cast<std::size_t>(layout.paletteSize); ++i, at += entry) {
+            layout.palette[i] = static_cast<std::uint32_t>(at[0] | at[1] << 8 | at[2] << 16);
+        }
+    }
+    return layout;
+}
+
+}  // namespace platform::gdi
+
+using namespace platform::gdi;
+
+namespace {
+
+/// Copies rows between two surfaces of equal width.
+void CopyRows(const Surface& from, int fromRow, const Surface& to, int toRow, int count, int width) {
+    const MonoColours plain;
+    Converter converter(from, to, plain);
+    std::vector<std::uint32_t> row(static_cast<std::size_t>(width));
+    for (int i = 0; i < count; ++i) {
+        ReadRow(from, 0, fromRow + i, width, row.data());
+        converter.Convert(row.data(), width);
+        WriteRow(to, 0, toRow + i, width, row.data());
+    }
+}
+
+/// Rows are numbered from the bottom where the bitmap's are stored so. @returns the top row of a run of lines.
+int TopRow(const DibLayout& layout, int start, int lines) {
+    return layout.topDown ? start : layout.height - start - lines;
+}
+
+std::optional<DibLayout> Checked(const void* info, UINT usage, bool colours) {
+    auto layout = ReadLayout(info, usage, colours);
+    if (!layout) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+    }
+    return layout;
+}
+
+/// A view that takes a bitmap's pixels for colours: bits of a monochrome one are black and white.
+Surface ColourView(const Bitmap& bitmap) {
+    Surface surface = bitmap.View();
+    surface.monochrome = false;
+    return surface;
+}
+
+void WritePalette(BITMAPINFO* info, const DibLayout& layout, const Surface& from, UINT usage) {
+    if (layout.bitsPerPixel > 8) {
+        return;
+    }
+    auto* at = reinterpret_cast<BYTE*>(info) + layout.headerBytes;
+    const bool own = from.bitsPerPixel == layout.bitsPerPixel;
+    const std::uint32_t* colours = own ? from.palette : DefaultPalette(layout.bitsPerPixel);
+    const int count = own ? from.paletteSize : 1 << layout.bitsPerPixel;
+    const bool core = info->bmiHeader.biSize == sizeof(BITMAPCOREHEADER);
+    for (int i = 0; i < 1 << layout.bitsPerPixel; ++i) {
+        if (usage == DIB_PAL_COLORS) {
+            const WORD index = static_cast<WORD>(i);
+            std::memcpy(at, &index, sizeof(index));
+            at += sizeof(index);
+            continue;
+        }
+        const std::uint32_t pixel = i < count ? colours[i] : 0;
+        at[0] = static_cast<BYTE>(pixel);
+        at[1] = static_cast<BYTE>(pixel >> 8);
+        at[2] = static_cast<BYTE>(pixel >> 16);
+        if (!core) {
+            at[3] = 0;
+        }
+        at += core ? 3 : 4;
+    }
+}
+
+}  // namespace
+
+HBITMAP WINAPI CreateDIBSection(HDC, const BITMAPINFO* info, UINT usage, void** bits, HANDLE section, DWORD) {
+    if (bits) {
+        *bits = nullptr;
+    }
+    const auto layout = Checked(info, usage, true);
+    if (!layout) {
+        return nullptr;
+    }
+    if (section || layout->height == 0) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return nullptr;
+    }
+    auto bitmap = NewBitmap(layout->width, layout->height, layout->bitsPerPixel);
+    if (!bitmap) {
+        return nullptr;
+    }
+    bitmap->section = true;
+    bitmap->topDown = layout->topDown;
+    if (layout->bitsPerPixel <= 8) {
+        const std::size_t size = std::size_t{1} << layout->bitsPerPixel;
+        bitmap->palette.reset(new (std::nothrow) std::uint32_t[size]);
+        if (!bitmap->palette) {
+            SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+            return nullptr;
+        }
+        std::copy_n(layout->palette.begin(), size, bitmap->palette.get());
+        bitmap->paletteSize = static_cast<int>(size);
+    }
+    void* memory = bitmap->bits;
+    const HBITMAP handle = FileObject<HBITMAP>(std::move(bitmap));
+    if (handle && bits) {
+        *bits = memory;
+    }
+    return handle;
+}
+
+HBITMAP WINAPI CreateDIBitmap(HDC context, const BITMAPINFOHEADER* header, DWORD init, const void* bits,
+                              const BITMAPINFO* info, UINT usage) {
+    const auto layout = Checked(header, DIB_RGB_COLORS, false);
+    if (!layout) {
+        return nullptr;
+    }
+    const HBITMAP bitmap = context ? CreateCompatibleBitmap(context, layout->width, layout->height)
+                                   : CreateBitmap(layout->width, layout->height, 1, 1, nullptr);
+    if (bitmap && init & CBM_INIT && bits && info &&
+        !SetDIBits(context, bitmap, 0, static_cast<UINT>(layout->height), bits, info, usage)) {
+        DeleteObject(bitmap);
+        return nullptr;
+    }
+    return bitmap;
+}
+
+int WINAPI GetDIBits(HDC context, HBITMAP handle, UINT start, UINT lines, LPVOID bits, LPBITMAPINFO info, UINT usage) {
+    const auto* bitmap = FindObject<Bitmap>(handle);
+    if (!bitmap || !FindObject<DeviceContext>(context)) {
+        return 0;
+    }
+    if (!info) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return 0;
+    }
+    BITMAPINFOHEADER& header = info->bmiHeader;
+    const bool core = header.biSize == sizeof(BITMAPCOREHEADER);
+    if (!bits && !core && header.biSize >= sizeof(BITMAPINFOHEADER) && header.biBitCount == 0) {
+        // Only the bitmap's own measures are asked for.
+        header.biWidth = bitmap->width;
+        header.biHeight = bitmap->section && bitmap->topDown ? -bitmap->height : bitmap->height;
+        header.biPlanes = 1;
+        header.biBitCount = static_cast<WORD>(bitmap->bitsPerPixel);
+        header.biCompression = BI_RGB;
+        header.biSizeImage = static_cast<DWORD>(bitmap->Bytes());
+        header.biXPelsPerMeter = header.biYPelsPerMeter = 0;
+        header.biClrUsed = header.biClrImportant = 0;
+        return TRUE;
+    }
+    const auto layout = Checked(info, usage, false);
+    if (!layout) {
+        return 0;
+    }
+    const Surface from = ColourView(*bitmap);
+    if (!core) {
+        header.biSizeImage = static_cast<DWORD>(layout->Bytes());
+        header.biClrUsed = 0;
+    }
+    WritePalette(info, *layout, from, usage);
+    if (!bits) {
+        return bitmap->height;
+    }
+    if (start >= static_cast<UINT>(layout->height)) {
+        return 0;
+    }
+    const int count = static_cast<int>(std::min(lines, static_cast<UINT>(layout->height) - start));
+    if (count == 0) {
+        return 0;
+    }
+    return Guarded(0, [&] {
+        // The colours in the header are by now those of the bitmap.
+        DibLayout written = ReadLayout(info, usage, true).value_or(*layout);
+        const Surface to = written.View(bits, count);
+        const int first = TopRow(*layout, static_cast<int>(start), count);
+        const int width = std::min(bitmap->width, layout->width);
+        const int rows = std::clamp(bitmap->height - first, 0, count);
+        if (rows > 0) {
+            CopyRows(from, first, to, 0, rows, width);
+        }
+        return count;
+    });
+}
+
+int WINAPI SetDIBits(HDC, HBITMAP handle, UINT start, UINT lines, const void* bits, const BITMAPINFO* info,
+                     UINT usage) {
+    auto* bitmap = FindObject<Bitmap>(handle);
+    const auto layout = bitmap ? Checked(info, usage, true) : std::nullopt;
+    if (!layout || !bits || start >= static_cast<UINT>(layout->height)) {
+        return 0;
+    }
+    const int count = static_cast<int>(std::min(lines, static_cast<UINT>(layout->height) - start));
+    return Guarded(0, [&] {
+        const Surface from = layout->View(bits, count);
+        const int first = TopRow(*layout, static_cast<int>(start), count);
+        const int rows = std::clamp(bitmap->height - first, 0, count);
+        if (rows > 0) {
+            Surface to = bitmap->View();
+            // Black and white decide the bits of a monochrome bitmap.
+            to.monochrome = false;
+            CopyRows(from, 0, to, first, rows, std::min(bitmap->width, layout->width));
+        }
+        return count;
+    });
+}
+
+int WINAPI SetDIBitsToDevice(HDC context, int x, int y, DWORD width, DWORD height, int sourceX, int sourceY, UINT start,
+                             UINT lines, const void* bits, const BITMAPINFO* info, UINT usage) {
+    const Drawing drawing(context);
+    const auto layout = drawing ? Checked(info, usage, true) : std::nullopt;
+    if (!layout || !bits || start >= static_cast<UINT>(layout->height)) {
+        return 0;
+    }
+    const int count = static_cast<int>(std::min(lines, static_cast<UINT>(layout->height) - start));
+    constexpr DWORD kFar = 1 << 28;
+    width = std::min(width, kFar);
+    height = std::min(height, kFar);
+    sourceX = Near(sourceX);
+    sourceY = Near(sourceY);
+    return Guarded(0, [&] {
+        const Surface from = layout->View(bits, count);
+        // The lower left corner of the source counts from the bottom of the bitmap; only the rows at hand are drawn.
+        const int top =
+            layout->height - sourceY - static_cast<int>(height) - TopRow(*layout, static_cast<int>(start), count);
+        const POINT at = drawing->ToSurface(x, y);
+        const RECT target{at.x, at.y, at.x + static_cast<LONG>(width), at.y + static_cast<LONG>(height)};
+        const RECT source{sourceX, top, sourceX + static_cast<LONG>(width), top + static_cast<LONG>(height)};
+        DrawSurface(*drawing, target, from, source, false, false, kCopySource, {});
+        return count;
+    });
+}
+
+int WINAPI StretchDIBits(HDC context, int x, int y, int width, int height, int sourceX, int sourceY, int sourceWidth,
+                         int sourceHeight, const void* bits, const BITMAPINFO* info, UINT usage, DWORD operation) {
+    const Drawing drawing(context);
+    const auto layout = drawing ? Checked(info, usage, true) : std::nullopt;
+    if (!layout || !bits || layout->height == 0 || !width || !height || !sourceWidth || !sourceHeight) {
+        return 0;
+    }
+    for (int* value : {&width, &height, &sourceX, &sourceY, &sourceWidth, &sourceHeight}) {
+        *value = Near(*value);
+    }
+    return Guarded(0, [&] {
+        const Surface from = layout->View(bits, layout->height);
+        const POINT at = drawing->ToSurface(x, y);
+        const RECT target{std::min(at.x, at.x + width), std::min(at.y, at.y + height), std::max(at.x, at.x + width),
+                          std::max(at.y, at.y + height)};
+        const int top = layout->topDown ? sourceY : layout->height - sourceY - sourceHeight;
+        const RECT source{std::min(sourceX, sourceX + sourceWidth), std::min(top, top + sourceHeight),
+                          std::max(sourceX, sourceX + sourceWidth), std::max(top, top + sourceHeight)};
+        DrawSurface(*drawing, target, from, source, (width < 0) != (sourceWidth < 0),
+                    (height < 0) != (sourceHeight < 0), OperationOf(operation), {});
+        return layout->height;
+    });
+}
+
+UINT WINAPI GetDIBColorTable(HDC handle, UINT start, UINT count, RGBQUAD* colours) {
+    const auto* context = FindObject<DeviceContext>(handle);
+    const Bitmap* bitmap = context ? context->state.bitmap : nullptr;
+    if (!bitmap || !bitmap->section || !bitmap->palette || !colours) {
+        return 0;
+    }
+    UINT done = 0;
+    for (; done < count && start + done < static_cast<UINT>(bitmap->paletteSize); ++done) {
+        const std::uint32_t pixel = bitmap->palette[start + done];
+        colours[done] = {static_cast<BYTE>(pixel), static_cast<BYTE>(pixel >> 8), static_cast<BYTE>(pixel >> 16), 0};
+    }
+    return done;
+}
+
+UINT WINAPI SetDIBColorTable(HDC handle, UINT start, UINT count, const RGBQUAD* colours) {
+    const auto* context = FindObject<DeviceContext>(handle);
+    const Bitmap* bitmap = context ? context->state.bitmap : nullptr;
+    if (!bitmap || !bitmap->section || !bitmap->palette || !colours) {
+        return 0;
+    }
+    UINT done = 0;
+    for (; done < count && start + done < static_cast<UINT>(bitmap->paletteSize); ++done) {
+        const RGBQUAD& colour = colours[done];
+        bitmap->palette[start + done] =
+            static_cast<std::uint32_t>(colour.rgbBlue | colour.rgbGreen << 8 | colour.rgbRed << 16);
+    }
+    return done;
+}

@@ -1,0 +1,110 @@
+/// @file painting.h
+/// What the files of painting and positions share: visible regions with their cache, window contexts, the steps of a
+/// paint. All of it is called with UserLock held unless a comment says otherwise.
+#pragma once
+
+#include <windows.h>
+
+#include <array>
+#include <cstdint>
+
+#include "gdi/surface/region.h"
+#include "user/model/window.h"
+
+namespace platform::user {
+
+/// How a visible region is cut; the bits index the cache.
+enum VisibleFlags : unsigned {
+    kVisibleWhole = 1,         ///< the whole window, not only its client area
+    kVisibleClipChildren = 2,  ///< without its children
+    kVisibleClipSiblings = 4,  ///< without siblings above it; top-level windows are always cut so
+    kVisibleParentClip = 8,    ///< the parent's client area, whatever of it the window covers
+    kVisibleFlagCount = 16
+};
+
+struct PaintState {
+    struct Entry {
+        gdi::Region region;
+        std::uint64_t generation = 0;
+    };
+    std::array<Entry, kVisibleFlagCount> visible;
+    std::uint64_t prunedGeneration = 0;  ///< when the update region was last cut to what is visible
+};
+
+/// Grows with every WindowsChanged.
+std::uint64_t WindowsGeneration();
+
+/// The visible region, in screen coordinates; valid until the next call for the same window.
+const gdi::Region& Visible(Window* window, unsigned flags);
+
+/// The flags that a window's own styles ask for.
+unsigned StyleFlags(const Window* window);
+
+/// The update region in screen coordinates, cut to what is visible now.
+gdi::Region ScreenUpdate(Window* window);
+
+/// Cuts the update region to what is still visible. @returns whether anything is left to paint.
+bool PruneUpdate(Window* window);
+
+/// Adds an area, in screen coordinates and already cut to the visible region, to a window's update region.
+void MarkInvalid(Window* window, gdi::Region area, bool erase, bool frame);
+
+/// Invalidates a window and all its descendants, frames and backgrounds included, where they are visible in an area.
+void InvalidateTree(Window* window, const gdi::Region& area);
+
+/// Invalidates what lies under an area within a parent's client area: the parent itself and its children.
+void ExposeWithin(Window* parent, const gdi::Region& area);
+
+/// Fills an area of the desktop with its colour.
+void PaintDesktop(const gdi::Region& area);
+
+// --- contexts (dc.cpp)
+
+constexpr DWORD kContextUseStyle = 0x00010000;  ///< resolve clipping from the styles of class and window
+
+/// Hands out a context for a window. limit: null, or the area of the screen that drawing is held to.
+/// @returns null when memory has run out.
+HDC AcquireContext(Window* window, DWORD flags, const gdi::Region* limit, bool painting);
+
+/// Takes a context back. @returns false when it is not one that AcquireContext gave. painting: tells whether it was a
+/// paint context. Takes the lock itself.
+bool ReleaseContext(HDC context, bool* painting = nullptr);
+
+/// Brings the contexts that are in use up to date after windows changed.
+void RefreshContexts();
+
+// --- steps of a paint (paint.cpp); they send messages, so the lock must not be held
+
+/// Sends WM_NCPAINT when the frame is due. The window may be gone afterwards.
+void SendFramePaint(HWND handle);
+
+/// Sends WM_ERASEBKGND when it is due, to a context of its own.
+void SendErase(HWND handle);
+
+/// Sends WM_PAINT to a window and its descendants where it is due, each once, parents first.
+/// children: 0 as WS_CLIPCHILDREN says, RDW_ALLCHILDREN or RDW_NOCHILDREN. erase: only frames and backgrounds.
+void UpdateTree(HWND handle, UINT children, bool eraseOnly);
+
+// --- positions
+
+/// One change of place, order or visibility on its way through the documented steps.
+struct PositionChange {
+    WINDOWPOS position{};
+    bool alive = true;
+};
+
+/// Runs changes through all steps together. Takes the lock itself, and sends messages. @returns false when a window was
+/// gone.
+bool ChangePositions(PositionChange* changes, std::size_t count);
+
+/// Moves a window in the z-order, together with the windows it owns and, unless SWP_NOOWNERZORDER is set, its owners.
+/// touched: gets every window that moved, the window first.
+void ChangeOrder(Window* window, HWND after, UINT flags);
+
+/// Moves a window's rectangles and those of its descendants.
+void ShiftTree(Window* window, int dx, int dy);
+
+/// The rectangles as the parent counts them: client coordinates for children, the screen's for top-level windows.
+POINT ParentOrigin(const Window* window);
+
+}  // namespace platform::user

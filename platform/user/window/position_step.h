@@ -1,0 +1,47 @@
+/// @file position_step.h
+/// One window's way through a change of positions.
+#pragma once
+
+#include <windows.h>
+
+#include <vector>
+
+#include "gdi/surface/region.h"
+#include "user/painting/painting.h"
+
+namespace platform::user {
+
+/// What WM_WINDOWPOSCHANGED says of the client area beyond the public flags; DefWindowProcA decides on WM_SIZE and
+/// WM_MOVE by them.
+constexpr UINT kNoClientSize = 0x0800;
+constexpr UINT kNoClientMove = 0x1000;
+
+/// Which pixels of a window stay good over a change.
+enum class Keep { Window, Client, Nothing };
+
+struct Step {
+    PositionChange* change = nullptr;
+    bool alive = false;
+    bool order = false;  ///< its place in the z-order changes
+    RECT oldWindow{}, oldClient{}, newWindow{}, newClient{};
+    Keep keep = Keep::Window;
+    RECT validSource{}, validTarget{};  ///< with Keep::Client
+    bool wasVisible = false;
+    gdi::Region oldPixels;  ///< what the window showed
+};
+
+/// Makes the changes in the window tree and brings the screen's pixels and the update regions in line. Takes the lock.
+void ApplySteps(std::vector<Step>& steps);
+
+/// @returns whether a value names a place in the z-order other than a sibling.
+inline bool IsInsertAfter(HWND after) {
+    return after == HWND_TOP || after == HWND_BOTTOM || after == HWND_TOPMOST || after == HWND_NOTOPMOST;
+}
+
+/// @returns whether a window lies in the z-order where it is to go.
+bool InPlace(const Window* window, HWND after);
+
+/// The windows that a change of order may move besides the window itself: those of the same owner group.
+void CollectGroup(Window* window, std::vector<Window*>& group);
+
+}  // namespace platform::user
