@@ -4,6 +4,8 @@
 #include <mutex>
 #include <new>
 
+#include "user/window/class.h"
+
 namespace platform::comctl {
 namespace {
 

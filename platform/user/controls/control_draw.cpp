@@ -1,5 +1,8 @@
 #include "user/controls/controls.h"
 
+#include "user/window/above.h"
+#include "user/window/class.h"
+
 namespace platform::user {
 
 LRESULT NotifyParent(HWND control, UINT code) {

@@ -12,9 +12,6 @@
 
 namespace platform::user {
 
-/// Registers "#32770" and the classes of the predefined controls; InitialiseClasses calls it.
-void RegisterDialogClasses();
-
 LRESULT CALLBACK ButtonProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT CALLBACK EditProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT CALLBACK StaticProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "user/controls/controls.h"
+#include "user/frame/above.h"
 #include "user/frame/scrollbar/bar.h"
 
 namespace platform::user {

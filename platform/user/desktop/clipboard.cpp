@@ -9,7 +9,9 @@
 #include <vector>
 
 #include "kernel/text/encoding.h"
-#include "user/queue.h"
+#include "user/input/above.h"
+#include "user/model/thread.h"
+#include "user/model/window.h"
 
 namespace platform::user {
 namespace {

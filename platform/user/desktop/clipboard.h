@@ -1,5 +1,5 @@
 /// @file clipboard.h
-/// What the clipboard and the display have to do with each other, and with windows that end.
+/// What the clipboard and the display have to do with each other.
 #pragma once
 
 #include <windows.h>
@@ -17,9 +17,5 @@ bool ReadHostClipboard(std::string* utf8);
 
 /// Gives the host's clipboard a text.
 void WriteHostClipboard(const std::string& utf8);
-
-/// A window is about to end: what it has put off rendering is rendered, and a clipboard that it holds open is closed.
-/// Lock not held.
-void LeaveClipboard(HWND window);
 
 }  // namespace platform::user

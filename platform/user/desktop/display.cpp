@@ -7,7 +7,9 @@
 
 #include "gdi/surface/screen.h"
 #include "user/desktop/clipboard.h"
-#include "user/queue.h"
+#include "user/input/above.h"
+#include "user/input/input.h"
+#include "user/message/above.h"
 
 namespace platform::user {
 namespace {

@@ -4,11 +4,12 @@
 #include <cstring>
 
 #include "gdi/context/device_context.h"
-#include "gdi/surface/screen.h"
 #include "gdi/context/syscolors.h"
-#include "user/resource/icons.h"
-#include "user/queue.h"
+#include "gdi/surface/screen.h"
+#include "user/message/queue.h"
 #include "user/model/window.h"
+#include "user/painting/painting.h"
+#include "user/resource/icons.h"
 
 using namespace platform::user;
 

@@ -6,8 +6,9 @@
 
 #include "gdi/context/objects.h"
 #include "user/frame/nonclient.h"
-#include "user/queue.h"
 #include "user/model/window.h"
+#include "user/painting/painting.h"
+#include "user/window/above.h"
 
 namespace platform::user {
 namespace {

@@ -3,7 +3,8 @@
 #include <vector>
 
 #include "user/frame/nonclient.h"
-#include "user/queue.h"
+#include "user/input/above.h"
+#include "user/input/input.h"
 
 namespace platform::user {
 namespace {

@@ -1,9 +1,9 @@
 // The frame around a client area: how wide it is, and what part of it a point lies on.
 #include "user/frame/nonclient.h"
 
-#include "user/resource/icons.h"
-#include "user/queue.h"
 #include "user/frame/scrollbar/bar.h"
+#include "user/resource/icons.h"
+#include "user/window/above.h"
 
 namespace platform::user {
 

@@ -6,6 +6,14 @@
 
 namespace platform::user {
 
+/// The insets that style and extended style give a window: client rectangle of a window rectangle.
+RECT ClientFromWindow(const Window* window, const RECT& windowRect);
+/// WM_NCPAINT, WM_NCHITTEST, WM_NCCALCSIZE, WM_NCLBUTTONDOWN, WM_SYSCOMMAND, ... as DefWindowProcA answers them.
+LRESULT DefaultNonClient(Window* window, UINT message, WPARAM wParam, LPARAM lParam);
+
+/// WM_SETCURSOR's default, once the parents have been asked. @returns whether a cursor was set.
+bool SetHitCursor(HWND hit, int hitCode, UINT mouseMessage);
+
 /// @returns how many pixels wide the frame is on each side, the sunken client edge left out.
 int FrameWidth(DWORD style, DWORD exStyle);
 
@@ -45,8 +53,5 @@ bool IsInput(UINT message);
 
 /// The question mark of a caption was pressed: the next click on the window asks for help on what lies there.
 void RunHelpMode(HWND window);
-
-/// Asks a window for help on itself with WM_HELP. @param point the pointer's place on the screen.
-void AskForHelp(HWND window, POINT point);
 
 }  // namespace platform::user

@@ -3,10 +3,9 @@
 #include <string>
 
 #include "gdi/context/objects.h"
-#include "user/resource/icons.h"
 #include "user/frame/nonclient.h"
-#include "user/queue.h"
 #include "user/frame/scrollbar/bar.h"
+#include "user/resource/icons.h"
 
 namespace platform::user {
 namespace {

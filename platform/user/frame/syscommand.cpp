@@ -2,8 +2,10 @@
 #include <algorithm>
 
 #include "user/frame/nonclient.h"
-#include "user/queue.h"
 #include "user/frame/scrollbar/bar.h"
+#include "user/input/input.h"
+#include "user/model/thread.h"
+#include "user/window/above.h"
 
 namespace platform::user {
 namespace {

@@ -3,7 +3,10 @@
 #include <new>
 #include <vector>
 
-#include "user/queue.h"
+#include "user/input/input.h"
+#include "user/message/queue.h"
+#include "user/model/input_state.h"
+#include "user/model/thread.h"
 
 namespace platform::user {
 namespace {

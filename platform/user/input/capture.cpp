@@ -1,5 +1,6 @@
 // Mouse capture: one window of a thread may take all mouse messages until it lets go.
-#include "user/queue.h"
+#include "user/input/input.h"
+#include "user/model/thread.h"
 
 namespace platform::user {
 

@@ -8,7 +8,11 @@
 
 #include "base/clock.h"
 #include "gdi/surface/screen.h"
-#include "user/queue.h"
+#include "user/input/input.h"
+#include "user/message/above.h"
+#include "user/model/thread.h"
+#include "user/painting/above.h"
+#include "user/painting/painting.h"
 
 namespace platform::user {
 namespace {

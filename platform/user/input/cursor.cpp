@@ -1,7 +1,10 @@
 // The mouse pointer: its place, its shape, and how long two clicks belong together.
 #include <algorithm>
 
-#include "user/queue.h"
+#include "user/input/above.h"
+#include "user/input/input.h"
+#include "user/model/input_state.h"
+#include "user/resource/icons.h"
 
 namespace platform::user {
 namespace {

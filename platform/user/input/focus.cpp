@@ -1,7 +1,9 @@
 // The keyboard focus of a thread.
 #include <algorithm>
 
-#include "user/queue.h"
+#include "user/input/input.h"
+#include "user/model/input_state.h"
+#include "user/model/thread.h"
 
 namespace platform::user {
 namespace {

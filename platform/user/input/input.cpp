@@ -1,10 +1,14 @@
 // The system's side of input: where the keys and the cursor are, and which thread an event belongs to.
+#include "user/input/input.h"
+
 #include <algorithm>
 #include <new>
 
 #include "base/clock.h"
 #include "gdi/surface/screen.h"
-#include "user/queue.h"
+#include "user/input/above.h"
+#include "user/model/input_state.h"
+#include "user/model/thread.h"
 
 namespace platform::user {
 namespace {
@@ -73,11 +77,6 @@ void File(ThreadState* thread, const InputEvent& event) {
 }
 
 }  // namespace
-
-InputState& Input() {
-    static auto* input = new InputState;
-    return *input;
-}
 
 Window* WindowAt(POINT point) {
     return WindowBelow(Desktop(), point);

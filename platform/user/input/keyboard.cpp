@@ -2,7 +2,9 @@
 #include <algorithm>
 #include <cstring>
 
-#include "user/queue.h"
+#include "user/model/input_state.h"
+#include "user/model/thread.h"
+#include "user/model/window.h"
 
 namespace platform::user {
 namespace {

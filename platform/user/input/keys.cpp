@@ -3,8 +3,12 @@
 #include <algorithm>
 #include <new>
 
-#include "user/frame/nonclient.h"
-#include "user/queue.h"
+#include "user/input/above.h"
+#include "user/input/input.h"
+#include "user/message/above.h"
+#include "user/message/queue.h"
+#include "user/model/input_state.h"
+#include "user/model/thread.h"
 
 namespace platform::user {
 namespace {

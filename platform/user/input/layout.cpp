@@ -3,7 +3,7 @@
 #include <cstring>
 #include <iterator>
 
-#include "user/queue.h"
+#include "user/input/input.h"
 
 namespace platform::user {
 namespace {

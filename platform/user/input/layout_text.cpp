@@ -1,7 +1,7 @@
 // The characters of the US keyboard.
 #include <iterator>
 
-#include "user/queue.h"
+#include "user/input/input.h"
 
 namespace platform::user {
 namespace {

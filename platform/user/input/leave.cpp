@@ -2,7 +2,10 @@
 #include <algorithm>
 
 #include "user/desktop/clipboard.h"
-#include "user/queue.h"
+#include "user/input/above.h"
+#include "user/input/input.h"
+#include "user/message/queue.h"
+#include "user/model/thread.h"
 
 namespace platform::user {
 

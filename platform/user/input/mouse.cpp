@@ -4,7 +4,9 @@
 #include <new>
 #include <vector>
 
-#include "user/queue.h"
+#include "user/input/input.h"
+#include "user/message/above.h"
+#include "user/model/thread.h"
 
 namespace platform::user {
 namespace {

@@ -1,6 +1,9 @@
 // Input made by programs; it goes the way of real input.
 #include "gdi/surface/screen.h"
-#include "user/queue.h"
+
+#include "user/input/input.h"
+#include "user/model/input_state.h"
+#include "user/model/thread.h"
 
 namespace platform::user {
 namespace {

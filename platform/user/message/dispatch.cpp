@@ -1,6 +1,8 @@
 // Delivering a message that was taken.
 #include "base/clock.h"
-#include "user/queue.h"
+
+#include "user/message/queue.h"
+#include "user/model/thread.h"
 
 using namespace platform::user;
 

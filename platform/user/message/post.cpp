@@ -6,7 +6,9 @@
 #include <string_view>
 
 #include "base/clock.h"
-#include "user/queue.h"
+#include "user/message/queue.h"
+#include "user/model/input_state.h"
+#include "user/model/thread.h"
 
 namespace platform::user {
 namespace {

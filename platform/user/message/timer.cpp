@@ -4,7 +4,9 @@
 #include <new>
 
 #include "base/clock.h"
-#include "user/queue.h"
+#include "user/message/queue.h"
+#include "user/model/input_state.h"
+#include "user/model/thread.h"
 
 namespace platform::user {
 namespace {

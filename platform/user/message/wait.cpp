@@ -2,7 +2,9 @@
 #include <algorithm>
 
 #include "base/clock.h"
-#include "user/queue.h"
+#include "user/message/above.h"
+#include "user/message/queue.h"
+#include "user/model/thread.h"
 
 namespace platform::user {
 namespace {

@@ -10,7 +10,9 @@
 
 #include "base/clock.h"
 #include "base/report.h"
-#include "user/queue.h"
+#include "user/model/above.h"
+#include "user/model/input_state.h"
+#include "user/model/window.h"
 
 namespace platform::user {
 namespace {

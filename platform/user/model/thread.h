@@ -11,10 +11,10 @@
 #include <vector>
 
 #include "gdi/surface/region.h"
+#include "user/model/window.h"
 
 namespace platform::user {
 
-struct Window;
 struct SentMessage;
 
 enum class InputKind : std::uint8_t { Move, Button, Wheel, Key };
@@ -101,17 +101,14 @@ struct ThreadState {
 /// @returns the calling thread's state, made on first use and filed until the thread ends.
 ThreadState* CurrentThread();
 
+/// The thread with this id if it has a queue. Lock held.
+ThreadState* FindThread(DWORD id);
+
 /// Sets wake bits (QS_POSTMESSAGE, QS_PAINT, ...) and wakes the thread if it waits. Lock held.
 void WakeThread(ThreadState* thread, DWORD bits);
 
-/// The screen has been drawn to and a natural pause has come (a paint ended, the queue is empty): lets the display
-/// present.
-void PresentSoon();
-
-/// Input from the display or from SendInput, in screen coordinates; safe from any thread.
-void InjectMouseMove(int x, int y);
-void InjectMouseButton(int button, bool down);
-void InjectMouseWheel(int delta);
-void InjectKey(unsigned virtualKey, unsigned scanCode, bool extended, bool down, unsigned unicode);
+/// Sleeps until the thread is woken, or until a deadline of base::TickCount64 (UINT64_MAX: none). The lock is released
+/// meanwhile, and may have been woken for nothing.
+void Sleep(ThreadState* self, UserHold& hold, std::uint64_t deadline);
 
 }  // namespace platform::user

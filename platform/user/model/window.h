@@ -15,6 +15,7 @@
 #include <string>
 #include <vector>
 
+#include "base/handle.h"
 #include "gdi/surface/region.h"
 
 namespace platform::user {
@@ -96,20 +97,36 @@ struct Window {
 };
 
 using UserGuard = std::lock_guard<std::recursive_mutex>;
+using UserHold = std::unique_lock<std::recursive_mutex>;
 std::recursive_mutex& UserLock();
 
-// --- windows (window.cpp, tree.cpp, class.cpp)
+/// Reads a field that other threads may write, without holding the lock longer.
+template <class Value>
+Value Shared(const Value& field) {
+    UserGuard guard(UserLock());
+    return field;
+}
 
 /// @returns the live window of a handle, else null with ERROR_INVALID_WINDOW_HANDLE set. HWND_DESKTOP (null) is not one.
 Window* FindWindowObject(HWND handle);
 
+/// The live window of a handle or null; leaves the last error alone.
+inline Window* PeekWindow(HWND handle) {
+    return base::Find<Window>(handle, base::HandleKind::Window);
+}
+
 /// @returns the desktop window, which is made on first use and covers the screen; it belongs to no thread.
 Window* Desktop();
+/// The parent of message-only windows (HWND_MESSAGE): never shown, never enumerated.
+Window* MessageRoot();
 
-/// Puts a window into its parent's child list: after == HWND_TOP, HWND_BOTTOM, HWND_TOPMOST, HWND_NOTOPMOST or a sibling.
-/// Topmost windows stay above the others. Lock held.
-void LinkWindow(Window* window, HWND after);
-void UnlinkWindow(Window* window);
+/// @returns the handle by which applications may know a window; null for none and for the parent of message-only windows.
+HWND HandleOf(const Window* window);
+
+/// @returns whether the style is that of a child window: WS_CHILD without WS_POPUP.
+inline bool IsChildStyle(DWORD style) {
+    return (style & (WS_CHILD | WS_POPUP)) == WS_CHILD;
+}
 
 /// @returns whether the window and all its ancestors have WS_VISIBLE.
 bool IsShown(const Window* window);
@@ -117,115 +134,14 @@ bool IsAncestor(const Window* ancestor, const Window* window);
 /// @returns the top-level window above (or at) a window; null for the desktop.
 Window* TopLevel(Window* window);
 
-/// Registers a class of the layer's own. The controls and dialogs call it from InitialiseClasses.
-void RegisterSystemClass(const char* name, WNDPROC procedure, UINT style, int windowExtra, LPCSTR cursor,
-                         HBRUSH background);
-/// Registers all system classes once; called before the first class look-up.
-void InitialiseClasses();
-
-/// @returns whether the style is that of a child window: WS_CHILD without WS_POPUP.
-inline bool IsChildStyle(DWORD style) {
-    return (style & (WS_CHILD | WS_POPUP)) == WS_CHILD;
-}
-
-/// The parent of message-only windows (HWND_MESSAGE): never shown, never enumerated.
-Window* MessageRoot();
-
-/// @returns the handle by which applications may know a window; null for none and for the parent of message-only windows.
-HWND HandleOf(const Window* window);
-/// @returns the top-level windows of an owner, from the top of the z-order. Lock held.
-std::vector<HWND> WindowsOwnedBy(const Window* owner);
+/// Where the parent counts a window's place from: its client area for children, the screen for top-level windows.
+POINT ParentOrigin(const Window* window);
+/// Moves a window's rectangles and those of its descendants, without a word to them. Lock held.
+void ShiftTree(Window* window, int dx, int dy);
 
 /// @returns the point that a mouse message carries.
 inline POINT MousePoint(LPARAM lParam) {
     return {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
 }
-
-/// Moves the rectangles of a window and of all its descendants, without a word to them. Lock held.
-void OffsetTree(Window* window, int dx, int dy);
-
-/// @returns the class that a module sees under a name or atom (its own, then global ones, then the system's), else null.
-/// Lock held.
-WindowClass* FindClass(HINSTANCE instance, LPCSTR name);
-
-/// The size and tracking limits of a window as WM_GETMINMAXINFO leaves them. Sends; no lock held.
-MINMAXINFO QueryMinMax(HWND window);
-
-/// WM_SETCURSOR's default, once the parents have been asked. @returns whether a cursor was set.
-bool SetHitCursor(HWND hit, int hitCode, UINT mouseMessage);
-
-/// @returns the number of the system cursor that a cursor shows (IDC_ARROW ... as a number), 0 for none.
-unsigned CursorShape(HCURSOR cursor);
-
-// --- non-client area (nonclient*.cpp)
-
-/// The insets that style and extended style give a window: client rectangle of a window rectangle.
-RECT ClientFromWindow(const Window* window, const RECT& windowRect);
-/// WM_NCPAINT, WM_NCHITTEST, WM_NCCALCSIZE, WM_NCLBUTTONDOWN, WM_SYSCOMMAND, ... as DefWindowProcA answers them.
-LRESULT DefaultNonClient(Window* window, UINT message, WPARAM wParam, LPARAM lParam);
-
-// --- positions (position.cpp)
-
-/// Hides a window that is about to be destroyed and exposes what lay under it, without asking it (no WM_WINDOWPOSCHANGING).
-void HideForDestruction(Window* window);
-
-// --- painting (visible.cpp, update.cpp, paint.cpp)
-
-/// The part of the screen, in screen coordinates, that drawing to the window (or only its client area) reaches: cut by
-/// ancestors, by siblings above it where WS_CLIPSIBLINGS is set (top-level windows always cut each other) and by its own
-/// children where WS_CLIPCHILDREN is set or clipChildren is asked. Lock held.
-gdi::Region VisibleRegion(Window* window, bool clientOnly, bool clipChildren);
-
-/// Invalidates whatever lies in an area of the screen that nobody has drawn: windows from the top of the z-order, and the
-/// desktop's background. Area in screen coordinates.
-void ExposeScreen(const gdi::Region& area);
-
-/// Adds to a window's update region (window-relative) and tells its thread that painting is due. Lock held.
-void AddUpdate(Window* window, const gdi::Region& area, bool erase, bool frame);
-
-/// @returns whether the window has something to paint (update region or internal paint). Lock held.
-bool NeedsPaint(const Window* window);
-
-/// @returns the next window of a thread that is to get WM_PAINT: `within` (null: any) or a descendant; parents before
-/// children, top-level windows from the top of the z-order. Sends nothing. Lock held.
-Window* NextPaintWindow(ThreadState* thread, Window* within);
-
-/// Forgets device contexts and regions of a window that is going away.
-void ForgetPainting(Window* window);
-
-/// Called after any change of the tree, of a rectangle, of WS_VISIBLE, WS_CLIPCHILDREN, WS_CLIPSIBLINGS, WS_MINIMIZE or
-/// WS_EX_TRANSPARENT: visible regions are worked out anew when they are next asked for. Cheap. Lock held.
-void WindowsChanged();
-
-/// A window's WM_PAINT leaves the queue: an internal paint request is over with it. Lock held.
-void TakePaintRequest(Window* window);
-
-/// @returns how many window contexts are handed out and not released yet, for GetGuiResources.
-int ContextsInUse();
-
-// --- input state (thread.h's owner: focus.cpp, activation.cpp, capture.cpp, timer.cpp, caret.cpp)
-
-/// Takes a dying window out of focus, activation, capture, timers, caret, posted messages and mouse tracking, and
-/// activates another window where it was the active one.
-void ForgetInput(Window* window);
-
-/// A window was disabled or hidden: gives up capture, moves focus or activation away as documented.
-void LeaveDisabledOrHidden(Window* window);
-
-/// Activates a top-level window (WM_NCACTIVATE, WM_ACTIVATE, WM_ACTIVATEAPP, focus, z-order). @returns false when the
-/// window refused or cannot be activated (disabled, hidden, a child).
-bool ActivateWindow(HWND window, bool byMouse);
-
-/// The caret is taken off the screen while its window is painted or moved, and comes back after. Calls nest.
-void SuspendCaret(HWND window);
-void ResumeCaret(HWND window);
-
-// --- desktop-wide
-
-/// Calls a window's procedure directly (same thread).
-LRESULT CallProcedure(WNDPROC procedure, HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-
-/// Sends a message to all top-level windows of all threads (WM_SYSCOLORCHANGE, WM_WININICHANGE); bounded wait.
-void BroadcastSetting(UINT message, WPARAM wParam, LPARAM lParam);
 
 }  // namespace platform::user

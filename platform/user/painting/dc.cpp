@@ -8,7 +8,6 @@
 #include "base/handle.h"
 #include "gdi/context/device_context.h"
 #include "user/painting/painting.h"
-#include "user/model/thread.h"
 
 namespace platform::user {
 namespace {

@@ -2,8 +2,9 @@
 // colour.
 #include <algorithm>
 
-#include "gdi/surface/screen.h"
 #include "gdi/context/syscolors.h"
+#include "gdi/surface/screen.h"
+#include "user/model/above.h"
 #include "user/painting/painting.h"
 
 namespace platform::user {

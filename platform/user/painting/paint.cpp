@@ -3,9 +3,9 @@
 
 #include "base/handle.h"
 #include "gdi/context/device_context.h"
+#include "user/message/above.h"
+#include "user/painting/above.h"
 #include "user/painting/painting.h"
-#include "user/queue.h"
-#include "user/model/thread.h"
 
 namespace platform::user {
 namespace {

@@ -1,6 +1,5 @@
 /// @file painting.h
-/// What the files of painting and positions share: visible regions with their cache, window contexts, the steps of a
-/// paint. All of it is called with UserLock held unless a comment says otherwise.
+/// What painting gives: visible regions with their cache, update regions, window contexts, the steps of a paint. All of it is called with UserLock held unless a comment says otherwise.
 #pragma once
 
 #include <windows.h>
@@ -55,8 +54,27 @@ void InvalidateTree(Window* window, const gdi::Region& area);
 /// Invalidates what lies under an area within a parent's client area: the parent itself and its children.
 void ExposeWithin(Window* parent, const gdi::Region& area);
 
-/// Fills an area of the desktop with its colour.
-void PaintDesktop(const gdi::Region& area);
+/// The part of the screen, in screen coordinates, that drawing to the window (or only its client area) reaches: cut by
+/// ancestors, by siblings above it where WS_CLIPSIBLINGS is set (top-level windows always cut each other) and by its own
+/// children where WS_CLIPCHILDREN is set or clipChildren is asked. Lock held.
+gdi::Region VisibleRegion(Window* window, bool clientOnly, bool clipChildren);
+
+/// Invalidates whatever lies in an area of the screen that nobody has drawn: windows from the top of the z-order, and the
+/// desktop's background. Area in screen coordinates.
+void ExposeScreen(const gdi::Region& area);
+
+/// Adds to a window's update region (window-relative) and tells its thread that painting is due. Lock held.
+void AddUpdate(Window* window, const gdi::Region& area, bool erase, bool frame);
+
+/// @returns whether the window has something to paint (update region or internal paint). Lock held.
+bool NeedsPaint(const Window* window);
+
+/// Forgets device contexts and regions of a window that is going away.
+void ForgetPainting(Window* window);
+
+/// Called after any change of the tree, of a rectangle, of WS_VISIBLE, WS_CLIPCHILDREN, WS_CLIPSIBLINGS, WS_MINIMIZE or
+/// WS_EX_TRANSPARENT: visible regions are worked out anew when they are next asked for. Cheap. Lock held.
+void WindowsChanged();
 
 // --- contexts (dc.cpp)
 
@@ -85,26 +103,7 @@ void SendErase(HWND handle);
 /// children: 0 as WS_CLIPCHILDREN says, RDW_ALLCHILDREN or RDW_NOCHILDREN. erase: only frames and backgrounds.
 void UpdateTree(HWND handle, UINT children, bool eraseOnly);
 
-// --- positions
-
-/// One change of place, order or visibility on its way through the documented steps.
-struct PositionChange {
-    WINDOWPOS position{};
-    bool alive = true;
-};
-
-/// Runs changes through all steps together. Takes the lock itself, and sends messages. @returns false when a window was
-/// gone.
-bool ChangePositions(PositionChange* changes, std::size_t count);
-
-/// Moves a window in the z-order, together with the windows it owns and, unless SWP_NOOWNERZORDER is set, its owners.
-/// touched: gets every window that moved, the window first.
-void ChangeOrder(Window* window, HWND after, UINT flags);
-
-/// Moves a window's rectangles and those of its descendants.
-void ShiftTree(Window* window, int dx, int dy);
-
-/// The rectangles as the parent counts them: client coordinates for children, the screen's for top-level windows.
-POINT ParentOrigin(const Window* window);
+/// @returns how many window contexts are handed out and not released yet, for GetGuiResources.
+int ContextsInUse();
 
 }  // namespace platform::user

@@ -7,8 +7,9 @@
 #include "gdi/context/context.h"
 #include "gdi/context/device_context.h"
 #include "gdi/surface/screen.h"
-#include "user/painting/painting.h"
 #include "user/model/thread.h"
+#include "user/painting/above.h"
+#include "user/painting/painting.h"
 
 namespace platform::user {
 namespace {

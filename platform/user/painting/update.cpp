@@ -4,8 +4,9 @@
 #include "base/handle.h"
 #include "gdi/context/context.h"
 #include "gdi/context/device_context.h"
-#include "user/painting/painting.h"
+#include "user/message/above.h"
 #include "user/model/thread.h"
+#include "user/painting/painting.h"
 
 namespace platform::user {
 namespace {

@@ -1,9 +1,9 @@
 // Icons and cursors in a module's resources: a group that names pictures of several sizes, and the pictures themselves,
 // device-independent bitmaps with a second, monochrome half that tells where the background shows.
+#include "user/resource/icons.h"
+
 #include <cstdlib>
 #include <cstring>
-
-#include "user/resource/icons.h"
 
 namespace platform::user {
 namespace {

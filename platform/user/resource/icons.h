@@ -46,4 +46,7 @@ HICON CaptionIcon(const Window* window);
 /// @returns how many icons and cursors the application made and has not destroyed.
 DWORD OwnIcons();
 
+/// @returns the number of the system cursor that a cursor shows (IDC_ARROW ... as a number), 0 for none.
+unsigned CursorShape(HCURSOR cursor);
+
 }  // namespace platform::user

@@ -1,7 +1,7 @@
 // The icons that the system brings along, as the 1995 scheme draws them: sixteen colours, 32 by 32 pixels.
-#include <cmath>
-
 #include "user/resource/icons.h"
+
+#include <cmath>
 
 namespace platform::user {
 namespace {

@@ -1,5 +1,5 @@
 // Window classes: registration, look-up in the documented order, and what can be asked about them.
-#include "user/model/window.h"
+#include "user/window/class.h"
 
 #include <algorithm>
 #include <cstring>
@@ -7,8 +7,10 @@
 #include <mutex>
 #include <new>
 
-#include "user/model/atoms.h"
 #include "user/controls/controls.h"
+#include "user/model/atoms.h"
+#include "user/model/window.h"
+#include "user/window/above.h"
 
 namespace platform::user {
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "base/handle.h"
-#include "user/window/position_step.h"
+#include "user/window/position.h"
 
 namespace platform::user {
 namespace {

@@ -1,8 +1,12 @@
 // How windows end: the messages of destruction in the documented order, and what is left to clear away.
 #include <new>
 
+#include "user/input/input.h"
+#include "user/model/thread.h"
+#include "user/painting/painting.h"
 #include "user/window/lifetime.h"
-#include "user/queue.h"
+#include "user/window/position.h"
+#include "user/window/tree.h"
 
 namespace platform::user {
 namespace {

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "user/model/atoms.h"
-#include "user/queue.h"
+#include "user/model/thread.h"
 #include "user/model/window.h"
 
 using namespace platform::user;

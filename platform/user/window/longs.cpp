@@ -2,8 +2,9 @@
 #include <cstring>
 #include <utility>
 
-#include "user/queue.h"
+#include "user/model/thread.h"
 #include "user/model/window.h"
+#include "user/painting/painting.h"
 
 using namespace platform::user;
 

@@ -1,6 +1,4 @@
 // Where a window lies when it is neither minimised nor maximised, and which of the three it is.
-#include "user/painting/painting.h"
-#include "user/queue.h"
 #include "user/model/window.h"
 
 using namespace platform::user;

@@ -1,15 +1,17 @@
 // Changing a window's place, size, order and visibility, in the documented steps: WM_WINDOWPOSCHANGING, WM_NCCALCSIZE,
 // the change itself with the pixels that stay good, what was uncovered and what is new, WM_WINDOWPOSCHANGED. Several
 // windows go through each step together, so that none is drawn where another one is about to be.
+#include "user/window/position.h"
+
 #include <algorithm>
 #include <new>
 #include <vector>
 
 #include "gdi/surface/screen.h"
-#include "user/painting/painting.h"
-#include "user/window/position_step.h"
-#include "user/queue.h"
+#include "user/input/input.h"
 #include "user/model/thread.h"
+#include "user/painting/above.h"
+#include "user/painting/painting.h"
 
 namespace platform::user {
 namespace {
@@ -213,18 +215,7 @@ void Report(Step& step) {
 
 }  // namespace
 
-POINT ParentOrigin(const Window* window) {
-    const Window* parent = window->parent;
-    return parent == nullptr ? POINT{0, 0} : POINT{parent->clientRect.left, parent->clientRect.top};
-}
 
-void ShiftTree(Window* window, int dx, int dy) {
-    OffsetRect(&window->windowRect, dx, dy);
-    OffsetRect(&window->clientRect, dx, dy);
-    for (Window* child = window->firstChild; child != nullptr; child = child->next) {
-        ShiftTree(child, dx, dy);
-    }
-}
 
 bool ChangePositions(PositionChange* changes, std::size_t count) {
     std::vector<Step> steps;

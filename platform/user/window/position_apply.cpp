@@ -3,8 +3,8 @@
 #include <new>
 
 #include "gdi/surface/screen.h"
-#include "user/window/position_step.h"
-#include "user/queue.h"
+#include "user/painting/painting.h"
+#include "user/window/position.h"
 
 namespace platform::user {
 namespace {

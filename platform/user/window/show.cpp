@@ -4,8 +4,11 @@
 #include <vector>
 
 #include "gdi/surface/screen.h"
+#include "user/input/input.h"
+#include "user/model/thread.h"
 #include "user/painting/painting.h"
-#include "user/queue.h"
+#include "user/window/above.h"
+#include "user/window/tree.h"
 
 namespace platform::user {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <unistd.h>
 
-#include "user/queue.h"
+#include "user/input/input.h"
 #include "user/model/window.h"
 
 using namespace platform::user;

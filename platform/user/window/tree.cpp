@@ -1,6 +1,8 @@
 // The window tree: parents, owners, z-order, and the ways to walk it.
-#include "user/queue.h"
+#include "user/window/tree.h"
+
 #include "user/model/window.h"
+#include "user/painting/painting.h"
 
 namespace platform::user {
 namespace {
@@ -79,46 +81,7 @@ void UnlinkWindow(Window* window) {
     WindowsChanged();
 }
 
-bool IsShown(const Window* window) {
-    for (; window; window = window->parent) {
-        if (!(window->style & WS_VISIBLE)) {
-            return false;
-        }
-    }
-    return true;
-}
 
-bool IsAncestor(const Window* ancestor, const Window* window) {
-    while (window && IsChildStyle(window->style)) {
-        window = window->parent;
-        if (window == ancestor) {
-            return true;
-        }
-    }
-    return false;
-}
-
-Window* TopLevel(Window* window) {
-    if (!window || window == Desktop() || window == MessageRoot()) {
-        return nullptr;
-    }
-    while (window->parent && window->parent != Desktop() && window->parent != MessageRoot()) {
-        window = window->parent;
-    }
-    return window;
-}
-
-void OffsetTree(Window* window, int dx, int dy) {
-    OffsetRect(&window->windowRect, dx, dy);
-    OffsetRect(&window->clientRect, dx, dy);
-    for (Window* child = window->firstChild; child; child = child->next) {
-        OffsetTree(child, dx, dy);
-    }
-}
-
-HWND HandleOf(const Window* window) {
-    return window && window != MessageRoot() ? window->handle : nullptr;
-}
 
 std::vector<HWND> WindowsOwnedBy(const Window* owner) {
     std::vector<HWND> owned;

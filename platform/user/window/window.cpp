@@ -6,64 +6,14 @@
 #include <new>
 
 #include "gdi/surface/screen.h"
+#include "user/message/queue.h"
+#include "user/model/thread.h"
+#include "user/window/above.h"
+#include "user/window/class.h"
 #include "user/window/lifetime.h"
-#include "user/painting/painting.h"
-#include "user/queue.h"
+#include "user/window/tree.h"
 
 namespace platform::user {
-
-std::recursive_mutex& UserLock() {
-    // Never destroyed: threads may outlive the statics of this library.
-    static auto& lock = *new std::recursive_mutex;
-    return lock;
-}
-
-Window* FindWindowObject(HWND handle) {
-    Window* window = base::Find<Window>(handle, base::HandleKind::Window);
-    if (!window) [[unlikely]] {
-        SetLastError(ERROR_INVALID_WINDOW_HANDLE);
-    }
-    return window;
-}
-
-namespace {
-
-Window* MakeRoot(const char* className, const RECT& area) {
-    auto* windowClass = new WindowClass;
-    windowClass->atom = static_cast<ATOM>(32769);
-    windowClass->name = className;
-    windowClass->system = true;
-    windowClass->procedure = DefWindowProcA;
-    auto* root = new Window;
-    root->windowClass = windowClass;
-    root->procedure = DefWindowProcA;
-    root->style = WS_VISIBLE | WS_CLIPCHILDREN | WS_CLIPSIBLINGS | WS_POPUP;
-    root->windowRect = root->clientRect = area;
-    root->created = true;
-    root->handle = base::ToHandle<HWND>(base::InsertHandle(base::HandleKind::Window, root));
-    return root;
-}
-
-RECT ScreenArea() {
-    const gdi::ScreenView screen = gdi::Screen();
-    return {0, 0, screen.width, screen.height};
-}
-
-}  // namespace
-
-Window* Desktop() {
-    static Window* const desktop = [] {
-        Window* root = MakeRoot("#32769", ScreenArea());
-        PaintDesktop(gdi::Region(root->windowRect));
-        return root;
-    }();
-    return desktop;
-}
-
-Window* MessageRoot() {
-    static Window* const root = MakeRoot("Message", RECT{0, 0, 100, 100});
-    return root;
-}
 
 namespace {
 

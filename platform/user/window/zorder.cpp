@@ -5,7 +5,9 @@
 #include <vector>
 
 #include "base/handle.h"
-#include "user/window/position_step.h"
+#include "user/painting/painting.h"
+#include "user/window/position.h"
+#include "user/window/tree.h"
 
 namespace platform::user {
 namespace {

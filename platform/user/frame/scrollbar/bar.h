@@ -85,9 +85,4 @@ void TrackBar(const Bar& bar, POINT point);
 /// Sends a code to the window that listens to a bar.
 void TellBar(const Bar& bar, int code, int position = 0);
 
-// --- controls/scrollbar.cpp
-
-/// @returns the state of a scroll bar control, null for another window. Alive as long as the pointer is held.
-std::shared_ptr<BarState> ControlBar(HWND window);
-
 }  // namespace platform::user

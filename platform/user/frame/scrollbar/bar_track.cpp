@@ -1,5 +1,6 @@
 // A scroll bar under the mouse: arrows and shaft repeat while they are held, the thumb follows the pointer.
-#include "user/queue.h"
+#include "user/frame/above.h"
+#include "user/frame/nonclient.h"
 #include "user/frame/scrollbar/bar.h"
 
 namespace platform::user {

@@ -4,8 +4,7 @@
 #include <cstring>
 #include <new>
 
-#include "user/frame/nonclient.h"
-#include "user/queue.h"
+#include "user/frame/above.h"
 
 namespace platform::user {
 namespace {

@@ -1,5 +1,5 @@
-/// @file position_step.h
-/// One window's way through a change of positions.
+/// @file position.h
+/// Changes of place, order and visibility, and one window's way through such a change.
 #pragma once
 
 #include <windows.h>
@@ -7,9 +7,26 @@
 #include <vector>
 
 #include "gdi/surface/region.h"
-#include "user/painting/painting.h"
+#include "user/model/window.h"
 
 namespace platform::user {
+
+/// One change of place, order or visibility on its way through the documented steps.
+struct PositionChange {
+    WINDOWPOS position{};
+    bool alive = true;
+};
+
+/// Runs changes through all steps together. Takes the lock itself, and sends messages. @returns false when a window was
+/// gone.
+bool ChangePositions(PositionChange* changes, std::size_t count);
+
+/// Moves a window in the z-order, together with the windows it owns and, unless SWP_NOOWNERZORDER is set, its owners.
+/// touched: gets every window that moved, the window first.
+void ChangeOrder(Window* window, HWND after, UINT flags);
+
+/// Hides a window that is about to be destroyed and exposes what lay under it, without asking it (no WM_WINDOWPOSCHANGING).
+void HideForDestruction(Window* window);
 
 /// What WM_WINDOWPOSCHANGED says of the client area beyond the public flags; DefWindowProcA decides on WM_SIZE and
 /// WM_MOVE by them.
