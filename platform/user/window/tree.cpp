@@ -223,7 +223,7 @@ HWND WINAPI SetParent(HWND handle, HWND newParent) {
             window->owner = nullptr;
         }
         LinkWindow(window, HWND_TOP);
-        OffsetTree(window, to.left - from.left, to.top - from.top);
+        ShiftTree(window, to.left - from.left, to.top - from.top);
     }
     if (visible) {
         ShowWindow(handle, SW_SHOWNA);
