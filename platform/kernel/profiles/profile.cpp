@@ -27,7 +27,7 @@
 #include "kernel/files/hostfile.h"
 #include "kernel/profiles/ini_file.h"
 #include "kernel/locale/intl.h"
-#include "kernel/profiles/profile.h"
+#include "kernel/text/above.h"
 
 using namespace platform::kernel;
 namespace base = platform::base;

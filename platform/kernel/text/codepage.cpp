@@ -11,7 +11,7 @@
 #include <string>
 
 #include "base/report.h"
-#include "kernel/profiles/profile.h"
+#include "kernel/text/above.h"
 
 namespace platform::kernel {
 namespace {

@@ -1,5 +1,5 @@
-/// @file profile.h
-/// What other parts of the layer read from win.ini.
+/// @file above.h
+/// What text asks of the room profiles, which implements it: win.ini names the code page.
 #pragma once
 
 #include <optional>
