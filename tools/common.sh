@@ -81,6 +81,17 @@ configure() {
     [ $stale = no ] || cmake --preset "$preset" "$@"
 }
 
+# build_examples <preset> <prefix>: in build/<preset>/examples, against the package that was installed there.
+build_examples() {
+    local toolchain libraries
+    toolchain=$(sed -nE 's/^CMAKE_TOOLCHAIN_FILE:[A-Z]+=//p' "build/$1/CMakeCache.txt")
+    libraries=$(sed -nE 's/^CMAKE_INSTALL_LIBDIR:[A-Z]+=//p' "build/$1/CMakeCache.txt")
+    cmake -S examples -B "build/$1/examples" -G Ninja -DCMAKE_BUILD_TYPE=Release ${toolchain:+-DCMAKE_TOOLCHAIN_FILE="$toolchain"} \
+        -DCMAKE_C_FLAGS="-Wall -Wextra -Werror" -DCMAKE_CXX_FLAGS="-Wall -Wextra -Werror" \
+        -DCMAKE_FIND_ROOT_PATH_MODE_PACKAGE=BOTH -Dcvutil32_DIR="$2/$libraries/cmake/cvutil32" >/dev/null
+    cmake --build "build/$1/examples"
+}
+
 # Runs a command on a virtual X server of its own.
 on_virtual_screen() {
     xvfb-run -a -s "-screen 0 1280x1024x24" "$@"

@@ -30,3 +30,10 @@
 
 /// Visibility of a class that is exported as a whole.
 #define CVCLASS CVEXPORT
+
+/// Behind a declaration: the compiler warns where the result is thrown away, if it can.
+#ifdef __GNUC__
+#define CVRESULT __attribute__((warn_unused_result))
+#else
+#define CVRESULT
+#endif
