@@ -224,7 +224,7 @@ BOOL WINAPI EndPaint(HWND handle, const PAINTSTRUCT* paint) {
     bool painting = false;
     if (ReleaseContext(paint->hdc, &painting) && painting) {
         ResumeCaret(handle);
-        PresentSoon();
+        OpenDisplay();
     }
     return TRUE;
 }
