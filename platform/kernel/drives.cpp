@@ -11,6 +11,7 @@
 
 #include "kernel/guarded.h"
 #include "kernel/hostfile.h"
+#include "kernel/probe.h"
 
 using namespace platform::kernel;
 
@@ -24,10 +25,6 @@ DWORD Deliver(const std::string& text, LPSTR buffer, DWORD size) {
     return static_cast<DWORD>(text.size());
 }
 
-bool IsLetter(char character) {
-    return (character | 0x20) >= 'a' && (character | 0x20) <= 'z';
-}
-
 }  // namespace
 
 UINT WINAPI GetDriveTypeA(LPCSTR root) {
@@ -35,10 +32,15 @@ UINT WINAPI GetDriveTypeA(LPCSTR root) {
         if (!root) {
             return DRIVE_FIXED;  // of the current folder, which is there
         }
+        FullPath full;
         std::string folder;
-        const bool whole =
-            IsLetter(root[0]) && root[1] == ':' && (!root[2] || ((root[2] == '\\' || root[2] == '/') && !root[3]));
-        return whole && DriveFolder(root[0], &folder) ? DRIVE_FIXED : DRIVE_NO_ROOT_DIR;
+        if (!IsReadableText(root) || Complete(root, &full) != ERROR_SUCCESS) {
+            return DRIVE_NO_ROOT_DIR;
+        }
+        // "C:" alone is the drive here, whatever its current folder; a folder below a root is no root.
+        const bool alone = root[1] == ':' && !root[2];
+        const bool whole = alone || (full.closed && full.names.empty());
+        return whole && DriveFolder(full.drive, &folder) ? DRIVE_FIXED : DRIVE_NO_ROOT_DIR;
     });
 }
 
