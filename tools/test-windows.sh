@@ -24,7 +24,7 @@ run() {
         [ -f "$test" ] || die "no tests in build/windows64/bin"
         count=$((count + 1))
         echo "== $(basename "$test")"
-        timeout 600 "$wine" "$test" --gtest_brief=1 </dev/null || { failed=$((failed + 1)); echo "FAILED: $(basename "$test")"; }
+        timeout 1800 "$wine" "$test" --gtest_brief=1 </dev/null || { failed=$((failed + 1)); echo "FAILED: $(basename "$test")"; }
     done
     wineserver=$(command -v wineserver || command -v wineserver64 || echo /usr/lib/wine/wineserver64)
     "$wineserver" -k 2>/dev/null || true

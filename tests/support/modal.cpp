@@ -11,7 +11,7 @@ namespace testing_support {
 namespace {
 
 constexpr UINT kLook = 10;         // milliseconds between two looks at the active window
-constexpr UINT kPatience = 10000;  // until a dialog that was left open is ended
+constexpr UINT kPatience = 60000;  // until a dialog that was left open is ended
 constexpr char kVisited[] = "CvTestVisited";
 constexpr int kTimedOut = 9999;
 
