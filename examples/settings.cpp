@@ -39,8 +39,8 @@ int main() {
     CHECK(width == 300);  // never stored
 
     char folder[MAX_PATH];
-    CHECK(Reg_GetProfileString(HKEY_CURRENT_USER, kSection, "Folder", "C:\\", folder, sizeof folder) == 10);
-    CHECK(lstrcmpA(folder, "C:\\LETTERS") == 0);
+    DWORD const length = Reg_GetProfileString(HKEY_CURRENT_USER, kSection, "Folder", "C:\\", folder, sizeof folder);
+    CHECK(length == 10 && lstrcmpA(folder, "C:\\LETTERS") == 0);
     CHECK(Reg_GetProfileString(HKEY_CURRENT_USER, kSection, "Folder", "C:\\", folder, 6) == 3);  // no room: the default
 
     char const* const files[] = {"JUNE.TXT", "JULY.TXT"};

@@ -34,8 +34,8 @@ static void FieldOfPaths() {
 
 int main() {
     char number[16];
-    UTIL_LongToStringWithCommas(1234567, number, sizeof number);
-    CHECK(lstrlenA(number) >= 7);  // "1,234,567", with the user's own separator
+    UTIL_LongToStringWithCommas(1234567, number, sizeof number);  // "1,234,567", with the user's own separator
+    CHECK(lstrlenA(number) >= 7);
     OnDisk();
     FieldOfPaths();
     CHECK(UTIL_GetModuleInstance() != nullptr);  // the library's own resources

@@ -45,7 +45,8 @@
 ///
 /// Numbers that are no lengths. `CSTRING(65)` is an empty text with room for 65 bytes, while `s = 65`, `s += 65` and the
 /// sum `s + 65` concern the one character "A". A position is an `unsigned int`: an index or a length of the type `size_t`
-/// compiles on Linux and is ambiguous on 64-bit Windows, and no position ever equals `std::string::npos`.
+/// compiles on Linux and is ambiguous on 64-bit Windows, and where it has 64 bits no position equals
+/// `std::string::npos`.
 ///
 /// Constant objects, and with them the result of an assignment, have no comparisons; `lstrcmpA(s, "text") == 0` serves
 /// there, and wherever texts are put in order: `s < t` would compare addresses, so that a `std::map` of strings needs a
