@@ -28,5 +28,7 @@
 /// Linkage, visibility, result type and calling convention of a flat function.
 #define CVAPI(result) CVEXTERN CVEXPORT result WINAPI
 
+#ifndef CVCLASS
 /// Visibility of a class that is exported as a whole.
 #define CVCLASS CVEXPORT
+#endif
