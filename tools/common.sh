@@ -14,7 +14,7 @@ lint_packages=(clang-format clang-tidy)
 package_packages=(zip dpkg-dev file doxygen)
 fuzz_packages=(clang libclang-rt-14-dev)
 windows_packages=(cmake ninja-build googletest g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix
-    binutils-mingw-w64-x86-64 binutils-mingw-w64-i686)
+    binutils-mingw-w64-x86-64 binutils-mingw-w64-i686 clang lld llvm)
 wine_packages=(wine64 xvfb xauth)
 
 say() {

@@ -48,11 +48,18 @@ package_windows() {
         build_examples $preset "$folder"
         cp build/$preset/examples/bin/*.exe "$folder/$(program_folder $preset)"/
     done
+    for preset in lib lib64; do
+        [ -f "$folder/$preset/CVUTIL32.lib" ] || die "no $preset/CVUTIL32.lib was made"
+    done
+    # Finds the package of the width that is asked for.
+    mkdir -p "$folder/cmake"
+    cp cmake/either_width.cmake "$folder/cmake/cvutil32Config.cmake"
     check_imports "$folder"/bin/*.dll "$folder"/bin/*.exe "$folder"/bin64/*.dll "$folder"/bin64/*.exe
     mkdir -p "$folder/examples"
     cp examples/* "$folder/examples"/
     cp LICENSE "$folder"/
     install_documents "$folder/doc"
+    sed "1s/.*/# CVUTIL32 $version for Windows/; s#](\([a-z]\)#](doc/\1#g" docs/windows.md >"$folder/README.md"
     (cd "$packages" && zip -qr "$name.zip" "$name")
     say "made build/package/$name.zip"
 }

@@ -28,8 +28,10 @@
 /// Linkage, visibility, result type and calling convention of a flat function.
 #define CVAPI(result) CVEXTERN CVEXPORT result WINAPI
 
+#ifndef CVCLASS
 /// Visibility of a class that is exported as a whole.
 #define CVCLASS CVEXPORT
+#endif
 
 /// Behind a declaration: the compiler warns where the result is thrown away, if it can.
 #ifdef __GNUC__
