@@ -82,6 +82,7 @@ struct ThreadState {
     std::deque<InputEvent> input;        ///< routed to this thread, not yet taken
     SentMessage* answering = nullptr;    ///< from another thread, being handled now
     bool sleeping = false;
+    bool ending = false;         ///< is over; its windows are being cleared away
     HWND lastActive = nullptr;   ///< what to activate when the thread comes to the foreground again
     bool comingForward = false;  ///< was given the foreground, and has yet to activate its window
     bool altAlone = false;       ///< no other key was pressed since Alt went down
