@@ -117,7 +117,7 @@ LRESULT CallPaint(HWND handle, WPARAM wParam, LPARAM lParam) {
     bool outer = false;
     {
         UserGuard guard(UserLock());
-        Window* window = Peek(handle);
+        Window* window = PeekWindow(handle);
         if (window == nullptr) {
             return 0;
         }
@@ -126,7 +126,7 @@ LRESULT CallPaint(HWND handle, WPARAM wParam, LPARAM lParam) {
     }
     const LRESULT result = CallProcedure(procedure, handle, WM_PAINT, wParam, lParam);
     UserGuard guard(UserLock());
-    Window* window = Peek(handle);
+    Window* window = PeekWindow(handle);
     if (window == nullptr) {
         return result;
     }
