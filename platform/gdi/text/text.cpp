@@ -273,7 +273,9 @@ BOOL WINAPI GetTextExtentPoint32A(HDC handle, LPCSTR text, int length, LPSIZE si
         return FALSE;
     }
     return Guarded(FALSE, [&] {
-        *size = {TextWidth(*context, text, length), Realize(*context->state.font).Height()};
+        // No text is not even as high as a line.
+        *size = length == 0 ? SIZE{}
+                            : SIZE{TextWidth(*context, text, length), Realize(*context->state.font).Height()};
         return TRUE;
     });
 }

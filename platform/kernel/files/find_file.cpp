@@ -20,6 +20,7 @@
 #include "kernel/guarded.h"
 #include "kernel/files/hostfile.h"
 #include "kernel/files/wildcards.h"
+#include "kernel/memory/probe.h"
 
 using namespace platform::kernel;
 namespace base = platform::base;
@@ -139,8 +140,11 @@ HANDLE OpenSearch(std::unique_ptr<Search> search) {
 
 HANDLE WINAPI FindFirstFileA(LPCSTR path, LPWIN32_FIND_DATAA data) {
     return Guarded(INVALID_HANDLE_VALUE, [&]() -> HANDLE {
-        if (!path || !data || !*path) {
+        if (!IsReadableText(path) || !*path) {
             return base::Fail(ERROR_PATH_NOT_FOUND, INVALID_HANDLE_VALUE);
+        }
+        if (IsBadWritePtr(data, sizeof *data)) {
+            return base::Fail(ERROR_NOACCESS, INVALID_HANDLE_VALUE);
         }
         const std::size_t start = LastName(path);
         const std::string name = path + start;
@@ -150,8 +154,12 @@ HANDLE WINAPI FindFirstFileA(LPCSTR path, LPWIN32_FIND_DATAA data) {
         auto search = std::make_unique<Search>();
         if (!HasWildcards(name)) {
             std::string host;
-            if (const LONG error = FindHostFile(path, &host)) {
+            bool root = false;
+            if (const LONG error = FindHostFile(path, &host, &root)) {
                 return base::Fail(error, INVALID_HANDLE_VALUE);
+            }
+            if (root) {
+                return base::Fail(ERROR_FILE_NOT_FOUND, INVALID_HANDLE_VALUE);
             }
             struct stat status {};
             if (!Look(host, &status)) {
@@ -164,10 +172,8 @@ HANDLE WINAPI FindFirstFileA(LPCSTR path, LPWIN32_FIND_DATAA data) {
             return OpenSearch(std::move(search));
         }
         std::string_view folder(path, start);
-        LONG error = folder.empty() ? FindHostFile(".", &search->folder) : FindHostFile(folder, &search->folder);
-        std::string driveRoot;
-        const bool root = search->folder == "/" || (start == 3 && path[1] == ':' && DriveFolder(path[0], &driveRoot) &&
-                                                    driveRoot == search->folder);
+        bool root = false;
+        LONG error = FindHostFile(folder.empty() ? "." : folder, &search->folder, &root);
         error = error ? error : List(search->folder, name, root, &search->names);
         if (error) {
             return base::Fail(error, INVALID_HANDLE_VALUE);
@@ -182,6 +188,9 @@ BOOL WINAPI FindNextFileA(HANDLE handle, LPWIN32_FIND_DATAA data) {
         auto* search = base::Find<Search>(handle, HandleKind::FindFile);
         if (!search) {
             return base::Fail(ERROR_INVALID_HANDLE, FALSE);
+        }
+        if (IsBadWritePtr(data, sizeof *data)) {
+            return base::Fail(ERROR_NOACCESS, FALSE);
         }
         return Advance(search, data) ? TRUE : base::Fail(ERROR_NO_MORE_FILES, FALSE);
     });
@@ -199,7 +208,7 @@ BOOL WINAPI FindClose(HANDLE handle) {
 DWORD WINAPI GetFileAttributesA(LPCSTR path) {
     return Guarded(INVALID_FILE_ATTRIBUTES, [&]() -> DWORD {
         std::string host;
-        if (!path || !*path) {
+        if (!IsReadableText(path) || !*path) {
             return base::Fail(ERROR_PATH_NOT_FOUND, INVALID_FILE_ATTRIBUTES);
         }
         if (const LONG error = FindHostFile(path, &host)) {

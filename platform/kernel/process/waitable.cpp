@@ -1,9 +1,9 @@
 // Threads and events, and waiting for them.
-#include <windows.h>
+#include "kernel/process/waitable.h"
 
+#include <algorithm>
 #include <chrono>
 #include <condition_variable>
-#include <memory>
 #include <mutex>
 #include <thread>
 
@@ -17,7 +17,7 @@
 namespace base = platform::base;
 using base::HandleKind;
 
-namespace {
+namespace platform::kernel {
 
 // What a handle leads to; a running thread and those who wait hold it too.
 struct Waitable {
@@ -26,7 +26,27 @@ struct Waitable {
     bool signalled = false;
     bool manualReset = true;
     DWORD exitCode = STILL_ACTIVE;
+    std::vector<const ObjectWait*> waits;  // of threads that wait for more than this
+
+    // Lock held.
+    void Signal() {
+        signalled = true;
+        changed.notify_all();
+        for (const ObjectWait* wait : waits) {
+            wait->Wake();
+        }
+    }
+    void Take() {
+        signalled = signalled && manualReset;
+    }
 };
+
+}  // namespace platform::kernel
+
+using platform::kernel::ObjectWait;
+using platform::kernel::Waitable;
+
+namespace {
 
 // The handle table keeps plain pointers: this is the share that belongs to the handle.
 struct HandleShare {
@@ -64,11 +84,80 @@ void RunThread(const std::shared_ptr<Waitable>& object, LPTHREAD_START_ROUTINE s
     platform::kernel::NotifyThread(DLL_THREAD_DETACH);
     const std::lock_guard guard(object->lock);
     object->exitCode = code;
-    object->signalled = true;
-    object->changed.notify_all();
+    object->Signal();
 }
 
 }  // namespace
+
+namespace platform::kernel {
+
+ObjectWait::ObjectWait(const HANDLE* handles, DWORD count, void (*wake)(void* context), void* context)
+    : wake_(wake), context_(context) {
+    objects_.reserve(count);
+    ordered_.reserve(count);
+    for (DWORD i = 0; i < count; ++i) {
+        auto object = FindWaitable(handles[i], {HandleKind::Event, HandleKind::Thread});
+        if (!object) {
+            error_ = ERROR_INVALID_HANDLE;
+            return;
+        }
+        ordered_.push_back(object.get());
+        objects_.push_back(std::move(object));
+    }
+    std::sort(ordered_.begin(), ordered_.end());
+    ordered_.erase(std::unique(ordered_.begin(), ordered_.end()), ordered_.end());
+    std::size_t known = 0;
+    try {
+        for (; known < ordered_.size(); ++known) {
+            const std::lock_guard guard(ordered_[known]->lock);
+            ordered_[known]->waits.push_back(this);
+        }
+    } catch (...) {
+        ordered_.resize(known);
+        Forget();
+        throw;
+    }
+}
+
+ObjectWait::~ObjectWait() {
+    if (error_ == ERROR_SUCCESS) {
+        Forget();
+    }
+}
+
+void ObjectWait::Forget() {
+    for (Waitable* object : ordered_) {
+        const std::lock_guard guard(object->lock);
+        std::erase(object->waits, this);
+    }
+}
+
+DWORD ObjectWait::Take(bool all) {
+    if (!all) {
+        for (std::size_t i = 0; i < objects_.size(); ++i) {
+            const std::lock_guard guard(objects_[i]->lock);
+            if (objects_[i]->signalled) {
+                objects_[i]->Take();
+                return WAIT_OBJECT_0 + static_cast<DWORD>(i);
+            }
+        }
+        return WAIT_TIMEOUT;
+    }
+    for (Waitable* object : ordered_) {
+        object->lock.lock();
+    }
+    const bool signalled =
+        std::all_of(ordered_.begin(), ordered_.end(), [](const Waitable* object) { return object->signalled; });
+    for (Waitable* object : ordered_) {
+        if (signalled) {
+            object->Take();
+        }
+        object->lock.unlock();
+    }
+    return signalled ? WAIT_OBJECT_0 : WAIT_TIMEOUT;
+}
+
+}  // namespace platform::kernel
 
 HANDLE WINAPI CreateThread(LPSECURITY_ATTRIBUTES, SIZE_T, LPTHREAD_START_ROUTINE start, LPVOID parameter, DWORD flags,
                            LPDWORD id) {
@@ -145,8 +234,7 @@ BOOL WINAPI SetEvent(HANDLE event) {
         return FALSE;
     }
     const std::lock_guard guard(object->lock);
-    object->signalled = true;
-    object->changed.notify_all();
+    object->Signal();
     return TRUE;
 }
 
@@ -172,9 +260,7 @@ DWORD WINAPI WaitForSingleObject(HANDLE handle, DWORD milliseconds) {
     } else if (!object->changed.wait_for(guard, std::chrono::milliseconds(milliseconds), ready)) {
         return WAIT_TIMEOUT;
     }
-    if (!object->manualReset) {
-        object->signalled = false;
-    }
+    object->Take();
     return WAIT_OBJECT_0;
 }
 

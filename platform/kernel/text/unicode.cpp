@@ -103,8 +103,8 @@ std::uint16_t BestFit(const CodePage& page, char16_t character) {
     UChar parts[16];
     const std::int32_t length = U_SUCCESS(error) ? unorm2_getRawDecomposition(forms, character, parts, 16, &error) : -1;
     // A letter without its accent is near enough, a symbol without its stroke is not.
-    const bool near = U_SUCCESS(error) && (length == 1 || (length > 1 && u_isalnum(parts[0])));
-    return near ? page.fromUnicode[parts[0]] : std::uint16_t{0};
+    const bool isNear = U_SUCCESS(error) && (length == 1 || (length > 1 && u_isalnum(parts[0])));
+    return isNear ? page.fromUnicode[parts[0]] : std::uint16_t{0};
 }
 
 bool EncodePage(const CodePage& page, const char16_t* text, std::size_t size, const char* replacement, bool bestFit,

@@ -85,13 +85,10 @@ void EraseDialog(HWND dialog, HDC context) {
 }
 
 void NextControl(HWND dialog, WPARAM wParam, LPARAM lParam) {
-    if (LOWORD(lParam)) {
+    if (LOWORD(lParam))
         FocusControl(dialog, reinterpret_cast<HWND>(wParam));
-        return;
-    }
-    const HWND focus = GetFocus();
-    const HWND from = focus && IsChild(dialog, focus) ? focus : nullptr;
-    FocusControl(dialog, GetNextDlgTabItem(dialog, from, wParam != 0));
+    else
+        FocusNext(dialog, wParam != 0);
 }
 
 /// Brings a dialog back into the work area.

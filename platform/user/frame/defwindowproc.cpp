@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "gdi/context/objects.h"
+#include "kernel/memory/probe.h"
 #include "user/frame/nonclient.h"
 #include "user/model/window.h"
 #include "user/painting/painting.h"
@@ -14,13 +15,18 @@ namespace platform::user {
 namespace {
 
 LRESULT SetText(HWND handle, LPCSTR text) {
+    const std::size_t length = text ? kernel::ProbeLength(text) : 0;
+    if (length == kernel::kBadText) {
+        SetLastError(ERROR_NOACCESS);
+        return FALSE;
+    }
     UserHold hold(UserLock());
     Window* window = PeekWindow(handle);
     if (!window) {
         return FALSE;
     }
     try {
-        window->text = text ? text : "";
+        window->text.assign(text ? text : "", length);
     } catch (const std::bad_alloc&) {
         return FALSE;
     }

@@ -67,8 +67,8 @@ void MoveCapture(ThreadState* self, HWND window);
 /// activates another window where it was the active one.
 void ForgetInput(Window* window);
 
-/// A window was disabled or hidden: gives up capture, moves focus or activation away as documented.
-void LeaveDisabledOrHidden(Window* window);
+/// A window was hidden or, else, disabled: gives up capture, moves focus and, when hidden, activation away as documented.
+void LeaveDisabledOrHidden(Window* window, bool hidden);
 
 /// Activates a top-level window (WM_NCACTIVATE, WM_ACTIVATE, WM_ACTIVATEAPP, focus, z-order). @returns false when the
 /// window refused or cannot be activated (disabled, hidden, a child).

@@ -97,9 +97,9 @@ UINT FrameMessage(UINT message) {
 
 bool IsSecondClick(const ThreadState* self, HWND window, UINT message, const InputEvent& event) {
     const auto& last = self->lastClick;
-    const auto near = [](LONG a, LONG b, int metric) { return std::abs(a - b) * 2 <= GetSystemMetrics(metric); };
+    const auto isNear = [](LONG a, LONG b, int metric) { return std::abs(a - b) * 2 <= GetSystemMetrics(metric); };
     return last.window == window && last.message == message && event.time - last.time <= GetDoubleClickTime() &&
-           near(event.point.x, last.point.x, SM_CXDOUBLECLK) && near(event.point.y, last.point.y, SM_CYDOUBLECLK);
+           isNear(event.point.x, last.point.x, SM_CXDOUBLECLK) && isNear(event.point.y, last.point.y, SM_CYDOUBLECLK);
 }
 
 LPARAM PointIn(const Window* window, POINT point) {

@@ -37,10 +37,14 @@ Window* NextPaintWindow(ThreadState* thread, Window* within);
 /// A window's WM_PAINT leaves the queue: an internal paint request is over with it. Lock held.
 void TakePaintRequest(Window* window);
 
+/// Calls a window's procedure with WM_PAINT. Until that paints, the queue has no second WM_PAINT for the window: a procedure that
+/// takes messages first would get it for ever. Same thread; no lock held.
+LRESULT CallPaint(HWND handle, WPARAM wParam, LPARAM lParam);
+
 // --- desktop
 
-/// The screen has been drawn to and a natural pause has come (a paint ended, the queue is empty): lets the display
-/// present.
-void PresentSoon();
+/// A pause has come (a paint ended, the queue is empty): starts the display if there is something to show by now.
+/// From then on whatever is drawn wakes it, and nothing else does.
+void OpenDisplay();
 
 }  // namespace platform::user

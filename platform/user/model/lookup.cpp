@@ -82,7 +82,8 @@ Window* TopLevel(Window* window) {
     if (!window || window == Desktop() || window == MessageRoot()) {
         return nullptr;
     }
-    while (window->parent && window->parent != Desktop() && window->parent != MessageRoot()) {
+    while (IsChildStyle(window->style) && window->parent && window->parent != Desktop() &&
+           window->parent != MessageRoot()) {
         window = window->parent;
     }
     return window;

@@ -75,6 +75,7 @@ struct Window {
     bool eraseNeeded = false;                 ///< WM_ERASEBKGND is due with the next BeginPaint
     bool frameNeeded = false;                 ///< WM_NCPAINT is due
     bool internalPaint = false;               ///< RDW_INTERNALPAINT
+    bool paintRuns = false;                   ///< its WM_PAINT is being handled and has not come to BeginPaint
     HDC classOrOwnContext = nullptr;          ///< CS_OWNDC
     struct PaintState* paintState = nullptr;  ///< the painting module's own: cached visible regions
     bool sizeSent = false;                    ///< WM_SIZE and WM_MOVE were sent; else the first ShowWindow sends them
@@ -131,7 +132,8 @@ inline bool IsChildStyle(DWORD style) {
 /// @returns whether the window and all its ancestors have WS_VISIBLE.
 bool IsShown(const Window* window);
 bool IsAncestor(const Window* ancestor, const Window* window);
-/// @returns the top-level window above (or at) a window; null for the desktop.
+/// @returns the first window at or above one that is no child by its style: what is activated for it, and what can own others.
+/// Null for the desktop.
 Window* TopLevel(Window* window);
 
 /// Where the parent counts a window's place from: its client area for children, the screen for top-level windows.

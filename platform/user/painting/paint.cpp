@@ -1,6 +1,8 @@
 // The steps of a paint: WM_NCPAINT where the frame is due, WM_ERASEBKGND where the background is, WM_PAINT.
 #include "user/painting/paint_list.h"
 
+#include <utility>
+
 #include "base/handle.h"
 #include "gdi/context/device_context.h"
 #include "user/message/above.h"
@@ -110,8 +112,36 @@ void SendErase(HWND handle) {
     }
 }
 
+LRESULT CallPaint(HWND handle, WPARAM wParam, LPARAM lParam) {
+    WNDPROC procedure = nullptr;
+    bool outer = false;
+    {
+        UserGuard guard(UserLock());
+        Window* window = PeekWindow(handle);
+        if (window == nullptr) {
+            return 0;
+        }
+        procedure = window->procedure;
+        outer = std::exchange(window->paintRuns, true);
+    }
+    const LRESULT result = CallProcedure(procedure, handle, WM_PAINT, wParam, lParam);
+    UserGuard guard(UserLock());
+    Window* window = PeekWindow(handle);
+    if (window == nullptr) {
+        return result;
+    }
+    window->paintRuns = window->paintRuns && outer;
+    if (!window->paintRuns && NeedsPaint(window) && window->thread != nullptr) {
+        // The queue may have passed it over meanwhile.
+        window->thread->paintWindows = 1;
+        WakeThread(window->thread, QS_PAINT);
+    }
+    return result;
+}
+
 void UpdateTree(HWND handle, UINT children, bool eraseOnly) {
     bool due = false;
+    bool own = false;
     {
         UserGuard guard(UserLock());
         Window* window = PeekWindow(handle);
@@ -121,12 +151,15 @@ void UpdateTree(HWND handle, UINT children, bool eraseOnly) {
         due = NeedsPaint(window) && PruneUpdate(window);
         if (due && !eraseOnly) {
             TakePaintRequest(window);
+            own = window->thread == CurrentThread();
         }
     }
     if (due) {
         if (eraseOnly) {
             SendFramePaint(handle);
             SendErase(handle);
+        } else if (own) {
+            CallPaint(handle, 0, 0);
         } else {
             SendMessageA(handle, WM_PAINT, 0, 0);
         }
@@ -185,6 +218,7 @@ HDC WINAPI BeginPaint(HWND handle, LPPAINTSTRUCT paint) {
         }
         gdi::Region region = std::move(window->update);
         window->update.Clear();
+        window->paintRuns = false;
         region.Offset(window->windowRect.left, window->windowRect.top);
         region.Intersect(Visible(window, StyleFlags(window)));
         InvalidateOverpainted(window, region);
@@ -224,7 +258,7 @@ BOOL WINAPI EndPaint(HWND handle, const PAINTSTRUCT* paint) {
     bool painting = false;
     if (ReleaseContext(paint->hdc, &painting) && painting) {
         ResumeCaret(handle);
-        PresentSoon();
+        OpenDisplay();
     }
     return TRUE;
 }

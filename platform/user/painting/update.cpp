@@ -19,7 +19,7 @@ Window* Search(Window* window, const ThreadState* thread) {
     if ((window->style & WS_VISIBLE) == 0) {
         return nullptr;
     }
-    if (window->thread == thread && NeedsPaint(window) && PruneUpdate(window)) {
+    if (window->thread == thread && !window->paintRuns && NeedsPaint(window) && PruneUpdate(window)) {
         return window;
     }
     return (window->style & WS_MINIMIZE) != 0 ? nullptr : SearchChildren(window, thread);

@@ -185,7 +185,7 @@ void Report(Step& step) {
     UINT& flags = position.flags;
     if ((flags & SWP_HIDEWINDOW) != 0) {
         if (Window* window = PeekWindow(handle); window != nullptr) {
-            LeaveDisabledOrHidden(window);
+            LeaveDisabledOrHidden(window, true);
         }
     }
     if ((flags & (SWP_NOACTIVATE | SWP_HIDEWINDOW)) == 0) {

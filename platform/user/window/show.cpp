@@ -231,7 +231,7 @@ BOOL WINAPI ShowWindow(HWND handle, int show) {
     }
     if (bitOnly) {
         if (!plan.show) {
-            LeaveDisabledOrHidden(window);
+            LeaveDisabledOrHidden(window, true);
         }
         return wasVisible;
     }

@@ -82,6 +82,14 @@ void UnlinkWindow(Window* window) {
 }
 
 
+bool LeadsTo(const Window* window, const Window* target) {
+    for (; window; window = window->parent) {
+        if (window == target || (window->owner && LeadsTo(window->owner, target))) {
+            return true;
+        }
+    }
+    return false;
+}
 
 std::vector<HWND> WindowsOwnedBy(const Window* owner) {
     std::vector<HWND> owned;
@@ -96,6 +104,18 @@ std::vector<HWND> WindowsOwnedBy(const Window* owner) {
 }  // namespace platform::user
 
 using namespace platform::user;
+
+namespace {
+
+/// The end of the chain of parents, whatever the styles on the way.
+Window* RootOf(Window* window) {
+    while (window->parent && window->parent != Desktop() && window->parent != MessageRoot()) {
+        window = window->parent;
+    }
+    return window;
+}
+
+}  // namespace
 
 HWND WINAPI GetDesktopWindow(VOID) {
     return Desktop()->handle;
@@ -123,10 +143,10 @@ HWND WINAPI GetAncestor(HWND handle, UINT flags) {
         case GA_PARENT:
             return HandleOf(window->parent);
         case GA_ROOT:
-            return HandleOf(TopLevel(window));
+            return HandleOf(RootOf(window));
         case GA_ROOTOWNER:
-            for (window = TopLevel(window); window && window->owner;) {
-                window = TopLevel(window->owner);
+            for (window = RootOf(window); window->owner;) {
+                window = RootOf(window->owner);
             }
             return HandleOf(window);
         default:
@@ -195,7 +215,7 @@ HWND WINAPI SetParent(HWND handle, HWND newParent) {
             SetLastError(ERROR_ACCESS_DENIED);
             return nullptr;
         }
-        if (window == parent || IsAncestor(window, parent)) {
+        if (LeadsTo(parent, window)) {
             SetLastError(ERROR_INVALID_PARAMETER);
             return nullptr;
         }
@@ -211,6 +231,11 @@ HWND WINAPI SetParent(HWND handle, HWND newParent) {
         Window* parent = newParent == HWND_MESSAGE ? MessageRoot() : newParent ? PeekWindow(newParent) : Desktop();
         if (!window || !parent || parent->ending) {
             SetLastError(ERROR_INVALID_WINDOW_HANDLE);
+            return nullptr;
+        }
+        // Hiding it has let procedures run.
+        if (LeadsTo(parent, window)) {
+            SetLastError(ERROR_INVALID_PARAMETER);
             return nullptr;
         }
         // It keeps its place within the client area of whoever is its parent.

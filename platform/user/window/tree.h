@@ -15,6 +15,10 @@ namespace platform::user {
 void LinkWindow(Window* window, HWND after);
 void UnlinkWindow(Window* window);
 
+/// @returns whether a window is, or hangs on, another one by parents and owners: the other one cannot come under it then.
+/// Lock held.
+bool LeadsTo(const Window* window, const Window* target);
+
 /// @returns the top-level windows of an owner, from the top of the z-order. Lock held.
 std::vector<HWND> WindowsOwnedBy(const Window* owner);
 

@@ -6,6 +6,7 @@
 #include <new>
 
 #include "gdi/surface/screen.h"
+#include "kernel/memory/probe.h"
 #include "user/message/queue.h"
 #include "user/model/thread.h"
 #include "user/window/above.h"
@@ -170,7 +171,7 @@ bool Introduce(HWND handle, CREATESTRUCTA* given) {
         if (!window) {
             return false;
         }
-        if (window->style & WS_THICKFRAME) {
+        if ((window->style & WS_THICKFRAME) && !IsChildStyle(window->style)) {
             Limit(window, limits);
             given->cx = window->windowRect.right - window->windowRect.left;
             given->cy = window->windowRect.bottom - window->windowRect.top;
@@ -255,6 +256,9 @@ HWND WINAPI CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD 
     if (!className) {
         SetLastError(ERROR_CANNOT_FIND_WND_CLASS);
         return nullptr;
+    }
+    if (text && platform::kernel::ProbeLength(text) == platform::kernel::kBadText) {
+        return Refuse(ERROR_NOACCESS);
     }
     InitialiseClasses();
     Request request;

@@ -137,6 +137,19 @@ LRESULT OnSetItemHeight(ListData& list, int index, int height) {
     return LB_OKAY;
 }
 
+/// The item nearest to a point among those in view, and in the high word whether the point misses it.
+LRESULT OnItemFromPoint(const ListData& list, POINT point) {
+    const RECT client = ListClient(list);
+    const POINT inside{std::clamp<LONG>(point.x, 0, std::max<LONG>(0, client.right - 1)),
+                       std::clamp<LONG>(point.y, 0, std::max<LONG>(0, client.bottom - 1))};
+    bool outside = false;
+    const int found = ItemAt(list, inside, &outside);
+    if (found < 0)
+        return MAKELRESULT(found, TRUE);
+    const RECT item = RectOf(list, found);
+    return MAKELRESULT(found, !PtInRect(&client, point) || !PtInRect(&item, point));
+}
+
 LRESULT OnLayoutMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lParam) {
     const int index = static_cast<int>(wParam);
     switch (message) {
@@ -156,11 +169,8 @@ LRESULT OnLayoutMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lPar
             return list.Variable() && !list.items.Has(index) ? LB_ERR : HeightOf(list, index);
         case LB_SETITEMHEIGHT:
             return OnSetItemHeight(list, index, static_cast<int>(LOWORD(lParam)));
-        case LB_ITEMFROMPOINT: {
-            bool outside = false;
-            const int found = ItemAt(list, MousePoint(lParam), &outside);
-            return MAKELRESULT(found, outside || found < 0);
-        }
+        case LB_ITEMFROMPOINT:
+            return OnItemFromPoint(list, MousePoint(lParam));
         case LB_SETCOLUMNWIDTH:
             list.columnWidth = std::max(1, index);
             Renew(list);
