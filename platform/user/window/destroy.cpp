@@ -2,6 +2,7 @@
 #include <new>
 
 #include "user/input/input.h"
+#include "user/message/queue.h"
 #include "user/model/thread.h"
 #include "user/painting/painting.h"
 #include "user/window/lifetime.h"
