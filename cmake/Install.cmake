@@ -28,7 +28,6 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/cvutil32Config.cmake ${CMAKE_CURRENT_B
 
 if(WIN32)
     install(FILES gallery/help/gallery.txt DESTINATION ${CMAKE_INSTALL_BINDIR})
-    install(FILES $<TARGET_LINKER_FILE_DIR:cvutil32>/CVUTIL32.def DESTINATION ${CMAKE_INSTALL_LIBDIR})
     return()
 endif()
 

@@ -44,7 +44,7 @@ bool Insert(Branch& branch, IMalloc* allocator, LPCITEMIDLIST id, ULONG attribut
         return false;
     }
     char name[256];
-    if (!NameOf(branch.folder, id, SHGDN_NORMAL, name, sizeof name)) {
+    if (NameOf(branch.folder, id, SHGDN_NORMAL, name, sizeof name) == Name::kNone) {
         allocator->Free(item);
         return false;
     }

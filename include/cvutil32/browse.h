@@ -41,6 +41,10 @@
 /// Names with characters of 0x80 and above. The text of a CSTRING ends at the first of them when it is appended, and so
 /// does what the buddy gets; in a list of several files, a name that begins with one ends the list before it.
 ///
+/// Choosing a folder on a system whose shell gives wide names (today's Windows) comes to the roots of drives and no
+/// further: the dialog's folder tree finds no other paths there, and its OK button stays disabled (treelist.h). The
+/// open-file dialog is the system's and finds everything.
+///
 /// An empty buddy leaves the file specs as they were: with `BROWSE_APPEND` the new choice then follows the last one.
 ///
 /// A button's data lives from its WM_NCCREATE to its WM_NCDESTROY. If there is no memory for it the window remains a

@@ -26,7 +26,12 @@
 /// - `WM_MEASUREITEM` never reaches the parent. Every owner-drawn list box of this parent gets the height that the
 ///   check list would have; other controls keep the height that they ask with.
 ///
-/// The class has no functions. The library registers it when it is loaded and takes it back when it is unloaded.
+/// One column only: all boxes are drawn in the first one, so that with `LBS_MULTICOLUMN` a later column's tick lies on the
+/// first one's items.
+///
+/// The class has no functions. The library registers it when it is loaded and takes it back when it is unloaded. Being
+/// linked with the library does not load it where nothing else of it is called: such a program calls
+/// `LoadLibraryA("CVUTIL32.dll")` before the dialog opens.
 #pragma once
 
 /// Class name of the check list.

@@ -20,8 +20,15 @@
 /// click puts it under the pointer. A digit replaces the digit above the caret, which then moves on, past a separator.
 /// A tens digit that makes the field far too large becomes its only digit ('3' on the month 05 gives 03) and the caret
 /// goes on to the next field; a value a little too large becomes the largest allowed ('1' on the month 05 gives 12). A
-/// digit that would leave a month or a day 0 is dropped. Years are typed with two digits and lie in 1980 to 2079. The
-/// first key, whatever it is, fills an empty field with today's date and is dropped itself.
+/// digit that would leave a month or a day 0 is dropped. Years are typed with two digits and lie in 1980 to 2079; any
+/// other year keeps its two digits' look until it is typed into (1975 and 2075 look alike). The first character typed,
+/// whatever it is, fills an empty field with today's date and is dropped itself: of "24" the field takes the 4.
+///
+/// Typing a whole date from Home leaves another date than the one that was typed for 2 to 4 of 100 pairs of an old and a
+/// new date, because each digit is judged by what stands beside it at that moment. A 0 on the tens of 10, 20 or 30 is
+/// dropped; the caret stays, and the digits after it go to the wrong places. A day is cut to the length of a month that
+/// stands there only for a moment: typing 30.07. over 28.12. passes 30.02. Show a date that matters once more, in words,
+/// before it is acted on.
 ///
 /// Messages that an application may send:
 ///

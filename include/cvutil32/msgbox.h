@@ -28,6 +28,11 @@
 /// "\r\n"; "&" is an ordinary character in a message and marks the mnemonic in a label. Labels are as wide as the
 /// buttons of the box, 48 dialog units; what is longer is cut off at its sides.
 ///
+/// A box does not scroll. Its end leaves a screen of 640 by 480 pixels with more than about 1500 characters of ordinary text
+/// in the wide box, 900 in the narrow one, or 31 lines; one of 800 by 600 with 2000, 1200 or 41, one of 1024 by 768 with
+/// 2600, 1600 or 54. The buttons, at the top, stay in reach. A word of more than about 80 letters, such as a long path,
+/// pushes them off the right edge of the smallest of these screens: put line ends into it.
+///
 /// Place. With a `position` its top left corner is there; without one it is centred over its owner, inside the screen.
 /// Without an owner it keeps the place of its template, near the screen's top left corner.
 ///

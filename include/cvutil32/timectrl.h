@@ -24,6 +24,11 @@
 /// the day. On the designator A and P choose the half of the day, and digits are dropped. The first key, whatever it
 /// is, fills an empty field with the time of now and is dropped itself.
 ///
+/// Typing a whole time from Home leaves another time than the one that was typed for 8 of 100 pairs of an old and a new
+/// time by the 24-hour clock, and for 6 by the 12-hour clock, because each digit is judged by the one beside it. A 2 on
+/// the tens of 04 to 09 and 14 to 19 would be hour 24 to 29 and is dropped; the caret stays, and the digits after it go to
+/// the wrong places. By the 12-hour clock a 0 on the tens of 10 makes the hour 1 and goes on to the minutes.
+///
 /// Messages that an application may send:
 ///
 /// | message | effect |

@@ -6,9 +6,8 @@
 namespace platform::comctl {
 namespace {
 
-constexpr int kGap = 3;      ///< between an item's picture and its label
-constexpr int kPadding = 2;  ///< between a label's edge and its text
-constexpr int kLine = 20;    ///< pixels that the horizontal arrows scroll
+constexpr int kGap = 3;    ///< between an item's picture and its label
+constexpr int kLine = 20;  ///< pixels that the horizontal arrows scroll
 
 class MeasuringContext {
   public:
@@ -78,7 +77,7 @@ void FindWidest(const TreePointer& tree) {
         if (item->width < 0 && !item->asksText) {
             item->width = WidthOf(context, item->text);
         }
-        const int right = LabelLeft(*tree, item) + tree->left + std::max(item->width, 0) + 2 * kPadding;
+        const int right = LabelLeft(*tree, item) + tree->left + std::max(item->width, 0) + 2 * kLabelPadding;
         tree->widest = std::max(tree->widest, right);
     }
 }
@@ -130,7 +129,7 @@ RECT LabelRect(const TreePointer& tree, TreeItem* item) {
     }
     RECT label = RowRect(*tree, item);
     label.left = LabelLeft(*tree, item);
-    label.right = label.left + item->width + 2 * kPadding;
+    label.right = label.left + item->width + 2 * kLabelPadding;
     return label;
 }
 

@@ -7,8 +7,6 @@
 namespace platform::comctl {
 namespace {
 
-constexpr int kPadding = 2;
-
 struct Pencil {
     HDC context;
     HBRUSH dots;
@@ -107,7 +105,7 @@ void PaintLabel(const TreePointer& tree, HDC context, TreeItem* item, const std:
     GetTextMetricsA(context, &metrics);
     SetTextColor(context, ink);
     SetBkColor(context, ground);
-    ExtTextOutA(context, label.left + kPadding, label.top + (tree->rowHeight - metrics.tmHeight) / 2, ETO_OPAQUE,
+    ExtTextOutA(context, label.left + kLabelPadding, label.top + (tree->rowHeight - metrics.tmHeight) / 2, ETO_OPAQUE,
                 &label, text.c_str(), static_cast<UINT>(text.size()), nullptr);
     if (strong && item == tree->caret) {
         DrawFocusRect(context, &label);

@@ -8,10 +8,22 @@
 
 namespace platform::gdi {
 
+bool IsDepth(int bitsPerPixel) {
+    switch (bitsPerPixel) {
+        case 1:
+        case 4:
+        case 8:
+        case 16:
+        case 24:
+        case 32:
+            return true;
+        default:
+            return false;
+    }
+}
+
 std::unique_ptr<Bitmap> NewBitmap(int width, int height, int bitsPerPixel) {
-    const bool format =
-        bitsPerPixel == 1 || bitsPerPixel == 4 || bitsPerPixel == 8 || bitsPerPixel == 24 || bitsPerPixel == 32;
-    if (!format || width <= 0 || height <= 0) {
+    if (!IsDepth(bitsPerPixel) || width <= 0 || height <= 0) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return nullptr;
     }
@@ -66,11 +78,16 @@ HBITMAP WINAPI CreateBitmap(int width, int height, UINT planes, UINT bitsPerPixe
     if (width == 0 || height == 0) {
         return platform::base::ToHandle<HBITMAP>(Stock().defaultBitmap->handle);
     }
-    if (planes != 1) {
+    if (planes != 1 || bitsPerPixel == 0 || bitsPerPixel > 32 || height == INT32_MIN) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return nullptr;
     }
-    auto bitmap = NewBitmap(width, std::abs(height), static_cast<int>(bitsPerPixel));
+    // A pixel takes what is needed for that many bits.
+    int depth = static_cast<int>(bitsPerPixel);
+    while (!IsDepth(depth)) {
+        ++depth;
+    }
+    auto bitmap = NewBitmap(width, std::abs(height), depth);
     if (!bitmap) {
         return nullptr;
     }
@@ -104,6 +121,7 @@ HBITMAP WINAPI CreateCompatibleBitmap(HDC handle, int width, int height) {
     if (context->state.bitmap && context->state.bitmap->section) {
         const Bitmap& model = *context->state.bitmap;
         bitmap->section = true;
+        bitmap->sixGreen = model.sixGreen;
         if (model.palette) {
             const auto size = static_cast<std::size_t>(model.paletteSize);
             bitmap->palette.reset(new (std::nothrow) std::uint32_t[size]);

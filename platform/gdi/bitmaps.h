@@ -10,9 +10,20 @@
 
 namespace platform::gdi {
 
+/// @returns whether there are bitmaps with so many bits a pixel.
+bool IsDepth(int bitsPerPixel);
+
 /// @returns a bitmap of zeroes with rows of multiples of four bytes; null, with the error set, for a bad size or
 /// format.
 std::unique_ptr<Bitmap> NewBitmap(int width, int height, int bitsPerPixel);
+
+/// @returns which bits of a pixel are red's, green's and blue's: of 32, or of 16, six or five of them green's.
+constexpr std::array<DWORD, 3> Masks(int bitsPerPixel, bool sixGreen) {
+    if (bitsPerPixel == 32) {
+        return {0xFF0000, 0x00FF00, 0x0000FF};
+    }
+    return sixGreen ? std::array<DWORD, 3>{0xF800, 0x07E0, 0x001F} : std::array<DWORD, 3>{0x7C00, 0x03E0, 0x001F};
+}
 
 /// A device-independent bitmap's header, checked.
 struct DibLayout {
@@ -21,6 +32,7 @@ struct DibLayout {
     bool topDown = false;
     int bitsPerPixel = 0;
     bool masks = false;  ///< three colour masks follow the header
+    bool sixGreen = false;
     std::size_t rowBytes = 0;
     std::size_t headerBytes = 0;   ///< header and masks
     std::size_t paletteBytes = 0;  ///< the colours that follow

@@ -9,14 +9,6 @@ namespace platform::gdi {
 
 namespace {
 
-RECT Cut(const RECT& a, const RECT& b) {
-    return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right), std::min(a.bottom, b.bottom)};
-}
-
-bool Holds(const RECT& rect) {
-    return rect.left < rect.right && rect.top < rect.bottom;
-}
-
 Ink BrushInk(const DeviceContext& context, Operation operation) {
     return UsesPattern(operation) ? InkOf(context, *context.state.brush) : Ink{};
 }

@@ -32,7 +32,7 @@ Converter::Converter(const Surface& from, const Surface& to, const MonoColours& 
         }
     } else if (to.monochrome) {
         kind_ = Kind::Match;
-        match_ = PixelOf(colours.match);
+        match_ = NativeColour(from, PixelOf(colours.match));
     } else if (to.Indexed()) {
         kind_ = Kind::Nearest;
     }

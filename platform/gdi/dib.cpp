@@ -19,6 +19,7 @@ Surface DibLayout::View(const void* bits, int lines) const {
     surface.stride = topDown ? stride : -stride;
     surface.palette = palette.data();
     surface.paletteSize = 1 << std::min(bitsPerPixel, 8);
+    surface.sixGreen = sixGreen;
     return surface;
 }
 
@@ -53,17 +54,19 @@ std::optional<DibLayout> ReadLayout(const void* info, UINT usage, bool colours, 
         planes = header.biPlanes;
         used = header.biClrUsed;
         layout.masks = header.biCompression == BI_BITFIELDS && size == sizeof(BITMAPINFOHEADER);
-        if (header.biCompression != BI_RGB && !(header.biCompression == BI_BITFIELDS && header.biBitCount == 32)) {
+        const bool fields = header.biCompression == BI_BITFIELDS && (header.biBitCount == 16 || header.biBitCount == 32);
+        if (header.biCompression != BI_RGB && !fields) {
             return std::nullopt;
         }
-        if (header.biCompression == BI_BITFIELDS) {
-            // Only the order of colours that every 32-bit bitmap here has.
+        if (fields) {
+            // Only the orders of colours that bitmaps here have.
             std::array<DWORD, 3> order{};
             if (room && room < sizeof(header) + sizeof(order)) {
                 return std::nullopt;
             }
             std::memcpy(order.data(), static_cast<const std::byte*>(info) + sizeof(header), sizeof(order));
-            if (order != std::array<DWORD, 3>{0xFF0000, 0x00FF00, 0x0000FF}) {
+            layout.sixGreen = header.biBitCount == 16 && order == Masks(16, true);
+            if (order != Masks(header.biBitCount, layout.sixGreen)) {
                 return std::nullopt;
             }
         }
@@ -71,7 +74,7 @@ std::optional<DibLayout> ReadLayout(const void* info, UINT usage, bool colours, 
         return std::nullopt;
     }
     const int bits = layout.bitsPerPixel;
-    if (planes != 1 || layout.width <= 0 || (bits != 1 && bits != 4 && bits != 8 && bits != 24 && bits != 32) ||
+    if (planes != 1 || layout.width <= 0 || !IsDepth(bits) ||
         !FitsMemory(DwordRowBytes(layout.width, bits), layout.height)) {
         return std::nullopt;
     }
@@ -120,9 +123,9 @@ void CopyRows(const Surface& from, int fromRow, const Surface& to, int toRow, in
     }
 }
 
-/// Rows are numbered from the bottom where the bitmap's are stored so. @returns the top row of a run of lines.
+/// Lines are numbered from the bottom, whichever of them is stored first. @returns the top row of a run of them.
 int TopRow(const DibLayout& layout, int start, int lines) {
-    return layout.topDown ? start : layout.height - start - lines;
+    return layout.height - start - lines;
 }
 
 std::optional<DibLayout> Checked(const void* info, UINT usage, bool colours) {
@@ -187,6 +190,7 @@ HBITMAP WINAPI CreateDIBSection(HDC, const BITMAPINFO* info, UINT usage, void** 
     }
     bitmap->section = true;
     bitmap->topDown = layout->topDown;
+    bitmap->sixGreen = layout->sixGreen;
     if (layout->bitsPerPixel <= 8) {
         const std::size_t size = std::size_t{1} << layout->bitsPerPixel;
         bitmap->palette.reset(new (std::nothrow) std::uint32_t[size]);
@@ -238,11 +242,17 @@ int WINAPI GetDIBits(HDC context, HBITMAP handle, UINT start, UINT lines, LPVOID
         header.biHeight = bitmap->section && bitmap->topDown ? -bitmap->height : bitmap->height;
         header.biPlanes = 1;
         header.biBitCount = static_cast<WORD>(bitmap->bitsPerPixel);
-        header.biCompression = BI_RGB;
+        header.biCompression = bitmap->bitsPerPixel == 16 ? BI_BITFIELDS : BI_RGB;
         header.biSizeImage = static_cast<DWORD>(bitmap->Bytes());
         header.biXPelsPerMeter = header.biYPelsPerMeter = 0;
         header.biClrUsed = header.biClrImportant = 0;
         return TRUE;
+    }
+    if (!core && header.biSize >= sizeof(header) && header.biCompression == BI_BITFIELDS &&
+        (header.biBitCount == 16 || header.biBitCount == 32)) {
+        // Which bits are which colour's is told, not asked.
+        const auto masks = Masks(header.biBitCount, bitmap->sixGreen && header.biBitCount == 16);
+        std::memcpy(reinterpret_cast<std::byte*>(info) + sizeof(header), masks.data(), sizeof(masks));
     }
     const auto layout = Checked(info, usage, false);
     if (!layout) {
@@ -274,7 +284,11 @@ int WINAPI GetDIBits(HDC context, HBITMAP handle, UINT start, UINT lines, LPVOID
         if (rows > 0) {
             CopyRows(from, first, to, 0, rows, width);
         }
-        return count;
+        // Lines below the bitmap are asked for when the header is higher than the bitmap is.
+        for (int row = rows; row < count; ++row) {
+            std::memset(to.Row(row), 0, layout->rowBytes);
+        }
+        return rows;
     });
 }
 

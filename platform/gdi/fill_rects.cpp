@@ -31,7 +31,11 @@ void Frame(DeviceContext& context, const RECT& rect, Operation operation, const 
 
 int WINAPI FillRect(HDC handle, const RECT* rect, HBRUSH brush) {
     const Drawing drawing(handle);
-    const Brush* object = drawing && rect ? BrushOrColour(brush) : nullptr;
+    if (!drawing || !rect) {
+        return 0;
+    }
+    // Without a brush the one that is selected fills.
+    const Brush* object = brush ? BrushOrColour(brush) : drawing->state.brush;
     if (!object) {
         return 0;
     }

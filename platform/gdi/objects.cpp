@@ -1,10 +1,12 @@
 // Handles of drawing objects: asking, deleting, and the stock objects.
 #include "gdi/objects.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <cstring>
 
+#include "gdi/bitmaps.h"
 #include "gdi/context.h"
 
 namespace platform::gdi {
@@ -21,6 +23,7 @@ Surface Bitmap::View() const {
     surface.height = height;
     surface.bitsPerPixel = bitsPerPixel;
     surface.monochrome = bitsPerPixel == 1 && !section;
+    surface.sixGreen = sixGreen;
     if (bitsPerPixel <= 8) {
         surface.palette = palette ? palette.get() : DefaultPalette(bitsPerPixel);
         surface.paletteSize = palette ? paletteSize : 1 << bitsPerPixel;
@@ -102,7 +105,7 @@ struct StockTable {
     }
 };
 
-const StockTable& Table() {
+const StockTable& AllStock() {
     static const StockTable table;
     return table;
 }
@@ -157,13 +160,17 @@ int DescribeBitmap(const Bitmap& bitmap, int room, LPVOID buffer) {
     section.dsBmih.biBitCount = plain.bmBitsPixel;
     section.dsBmih.biSizeImage = static_cast<DWORD>(bitmap.Bytes());
     section.dsBmih.biClrUsed = static_cast<DWORD>(bitmap.palette ? bitmap.paletteSize : 0);
+    if (bitmap.bitsPerPixel == 16) {
+        section.dsBmih.biCompression = BI_BITFIELDS;
+        std::copy_n(Masks(16, bitmap.sixGreen).begin(), 3, section.dsBitfields);
+    }
     return CopyOut(&section, sizeof(section), room, buffer);
 }
 
 }  // namespace
 
 const StockObjects& Stock() {
-    return Table().inside;
+    return AllStock().inside;
 }
 
 void NoteStock(Object* object) {
@@ -200,7 +207,7 @@ using namespace platform::gdi;
 using platform::base::HandleKind;
 
 HGDIOBJ WINAPI GetStockObject(int index) {
-    const auto& objects = Table().objects;
+    const auto& objects = AllStock().objects;
     if (index < 0 || index >= static_cast<int>(objects.size()) || !objects[static_cast<std::size_t>(index)]) {
         return nullptr;
     }

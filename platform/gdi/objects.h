@@ -56,6 +56,7 @@ struct Bitmap : Object {
     int bitsPerPixel = 0;
     bool section = false;  ///< a device-independent bitmap whose bits the application sees
     bool topDown = true;
+    bool sixGreen = false;    ///< of 16 bits six are green's
     bool sharedBits = false;  ///< the bits belong to somebody else
     std::size_t rowBytes = 0;
     std::byte* bits = nullptr;  ///< the first row in memory

@@ -9,10 +9,6 @@ static_assert(sizeof(pixman_box32_t) == sizeof(RECT) && sizeof(pixman_box32_t::x
 
 namespace {
 
-bool Holds(const RECT& rect) {
-    return rect.left < rect.right && rect.top < rect.bottom;
-}
-
 // The library counts a rectangle's sides unsigned, so one that is wider than 31 bits is cut to what a screen can hold.
 RECT Sane(const RECT& rect) {
     constexpr LONG kFar = 1 << 29;

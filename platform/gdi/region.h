@@ -6,9 +6,20 @@
 
 #include <pixman.h>
 
+#include <algorithm>
 #include <span>
 
 namespace platform::gdi {
+
+/// @returns what two rectangles have in common; inverted where they have nothing.
+inline RECT Cut(const RECT& a, const RECT& b) {
+    return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right), std::min(a.bottom, b.bottom)};
+}
+
+/// @returns whether there is a pixel in it.
+inline bool Holds(const RECT& rect) {
+    return rect.left < rect.right && rect.top < rect.bottom;
+}
 
 /// A set of pixels, kept as non-overlapping rectangles in y-x bands. Rectangles exclude right and bottom, and an empty
 /// or inverted one adds nothing. When memory runs out the result is empty and Valid() turns false.

@@ -1,6 +1,6 @@
 /// @file surface.h
-/// Pixels in memory, in the five formats that bitmaps have. Rows are read and written as native values: 0x00RRGGBB
-/// where pixels hold colours (24 and 32 bits), an index where they hold indices (1, 4 and 8 bits).
+/// Pixels in memory, in the formats that bitmaps have. Rows are read and written as native values: 0x00RRGGBB where
+/// pixels hold colours (16, 24 and 32 bits), an index where they hold indices (1, 4 and 8 bits).
 #pragma once
 
 #include <windef.h>
@@ -19,6 +19,7 @@ struct Surface {
     const std::uint32_t* palette = nullptr;  ///< colours of the indices
     int paletteSize = 0;
     bool monochrome = false;  ///< a device-dependent bitmap of one bit, which takes its colours from contexts
+    bool sixGreen = false;    ///< of 16 bits six are green's, else five of 15 are each colour's
 
     bool Indexed() const {
         return bitsPerPixel <= 8;

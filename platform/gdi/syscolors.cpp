@@ -26,7 +26,7 @@ constexpr std::array<COLORREF, kColours> kStandard{
     RGB(255, 255, 255), RGB(0, 0, 0),       RGB(223, 223, 223), RGB(0, 0, 0),       RGB(255, 255, 225),
     RGB(192, 192, 192), RGB(0, 0, 255),     RGB(0, 0, 128),     RGB(128, 128, 128)};
 
-ColourTable& Table() {
+ColourTable& Colours() {
     static ColourTable& table = *[] {
         static ColourTable made;
         for (std::size_t i = 0; i < kStandard.size(); ++i) {
@@ -45,7 +45,8 @@ bool Known(int index) {
 }  // namespace
 
 std::uint32_t SystemColourPixel(int index) {
-    return Known(index) ? PixelOf(Table().values[static_cast<std::size_t>(index)].load(std::memory_order_relaxed)) : 0;
+    return Known(index) ? PixelOf(Colours().values[static_cast<std::size_t>(index)].load(std::memory_order_relaxed))
+                        : 0;
 }
 
 }  // namespace platform::gdi
@@ -53,11 +54,11 @@ std::uint32_t SystemColourPixel(int index) {
 using namespace platform::gdi;
 
 DWORD WINAPI GetSysColor(int index) {
-    return Known(index) ? Table().values[static_cast<std::size_t>(index)].load(std::memory_order_relaxed) : 0;
+    return Known(index) ? Colours().values[static_cast<std::size_t>(index)].load(std::memory_order_relaxed) : 0;
 }
 
 HBRUSH WINAPI GetSysColorBrush(int index) {
-    return Known(index) ? Table().brushes[static_cast<std::size_t>(index)] : nullptr;
+    return Known(index) ? Colours().brushes[static_cast<std::size_t>(index)] : nullptr;
 }
 
 BOOL WINAPI SetSysColors(int count, const INT* elements, const COLORREF* colours) {
@@ -70,8 +71,8 @@ BOOL WINAPI SetSysColors(int count, const INT* elements, const COLORREF* colours
         for (int i = 0; i < count; ++i) {
             if (Known(elements[i])) {
                 const auto index = static_cast<std::size_t>(elements[i]);
-                Table().values[index] = colours[i] & 0x00FFFFFF;
-                RecolourBrush(Table().brushes[index], colours[i] & 0x00FFFFFF);
+                Colours().values[index] = colours[i] & 0x00FFFFFF;
+                RecolourBrush(Colours().brushes[index], colours[i] & 0x00FFFFFF);
             }
         }
     }

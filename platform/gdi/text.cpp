@@ -120,14 +120,6 @@ void DrawGlyph(const Surface& surface, const RECT& clip, const Glyph& glyph, int
     }
 }
 
-RECT Cut(const RECT& a, const RECT& b) {
-    return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right), std::min(a.bottom, b.bottom)};
-}
-
-bool Holds(const RECT& rect) {
-    return rect.left < rect.right && rect.top < rect.bottom;
-}
-
 void DrawLine(DeviceContext& context, const Line& line, RealizedFont& font, const RECT& cell, const RECT* limit) {
     const std::uint32_t ink = NativeColour(context.surface, PixelOf(context.state.textColour));
     const int baseline = cell.top + font.Metrics().ascent;
@@ -281,7 +273,9 @@ BOOL WINAPI GetTextExtentPoint32A(HDC handle, LPCSTR text, int length, LPSIZE si
         return FALSE;
     }
     return Guarded(FALSE, [&] {
-        *size = {TextWidth(*context, text, length), Realize(*context->state.font).Height()};
+        // No text is not even as high as a line.
+        *size = length == 0 ? SIZE{}
+                            : SIZE{TextWidth(*context, text, length), Realize(*context->state.font).Height()};
         return TRUE;
     });
 }

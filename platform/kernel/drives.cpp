@@ -11,34 +11,24 @@
 
 #include "kernel/guarded.h"
 #include "kernel/hostfile.h"
+#include "kernel/probe.h"
 
 using namespace platform::kernel;
-
-namespace {
-
-DWORD Deliver(const std::string& text, LPSTR buffer, DWORD size) {
-    if (!buffer || text.size() >= size) {
-        return static_cast<DWORD>(text.size() + 1);
-    }
-    std::memcpy(buffer, text.c_str(), text.size() + 1);
-    return static_cast<DWORD>(text.size());
-}
-
-bool IsLetter(char character) {
-    return (character | 0x20) >= 'a' && (character | 0x20) <= 'z';
-}
-
-}  // namespace
 
 UINT WINAPI GetDriveTypeA(LPCSTR root) {
     return Guarded(UINT{DRIVE_UNKNOWN}, [&]() -> UINT {
         if (!root) {
             return DRIVE_FIXED;  // of the current folder, which is there
         }
+        FullPath full;
         std::string folder;
-        const bool whole =
-            IsLetter(root[0]) && root[1] == ':' && (!root[2] || ((root[2] == '\\' || root[2] == '/') && !root[3]));
-        return whole && DriveFolder(root[0], &folder) ? DRIVE_FIXED : DRIVE_NO_ROOT_DIR;
+        if (!IsReadableText(root) || Complete(root, &full) != ERROR_SUCCESS) {
+            return DRIVE_NO_ROOT_DIR;
+        }
+        // "C:" alone is the drive here, whatever its current folder; a folder below a root is no root.
+        const bool alone = root[1] == ':' && !root[2];
+        const bool whole = alone || (full.closed && full.names.empty());
+        return whole && DriveFolder(full.drive, &folder) ? DRIVE_FIXED : DRIVE_NO_ROOT_DIR;
     });
 }
 
@@ -64,7 +54,7 @@ DWORD WINAPI GetLogicalDriveStringsA(DWORD size, LPSTR buffer) {
                 roots.append(1, letter).append(":\\").append(1, '\0');
             }
         }
-        return Deliver(roots, buffer, size);
+        return CopyOut(roots, buffer, size);
     });
 }
 
@@ -76,7 +66,7 @@ DWORD WINAPI GetCurrentDirectoryA(DWORD size, LPSTR buffer) {
             SetLastError(static_cast<DWORD>(ErrorOfHost(error.value())));
             return 0;
         }
-        return Deliver(DrivePath(host == "/" ? "" : host), buffer, size);
+        return CopyOut(DrivePath(host == "/" ? "" : host), buffer, size);
     });
 }
 

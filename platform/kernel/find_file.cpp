@@ -14,10 +14,12 @@
 #include <utility>
 #include <vector>
 
+#include "base/fail.h"
 #include "base/handle.h"
 #include "kernel/encoding.h"
 #include "kernel/guarded.h"
 #include "kernel/hostfile.h"
+#include "kernel/probe.h"
 #include "kernel/wildcards.h"
 
 using namespace platform::kernel;
@@ -31,12 +33,6 @@ struct Search {
     std::vector<std::string> names;  ///< UTF-8
     std::size_t next = 0;
 };
-
-template <class Result>
-Result Fail(LONG error, Result result) {
-    SetLastError(static_cast<DWORD>(error));
-    return result;
-}
 
 FILETIME FileTime(const timespec& time) {
     constexpr std::int64_t kEpoch = 11644473600;  // seconds from 1601 to 1970
@@ -134,7 +130,7 @@ std::size_t LastName(LPCSTR path) {
 HANDLE OpenSearch(std::unique_ptr<Search> search) {
     const std::uint32_t handle = base::InsertHandle(HandleKind::FindFile, search.get());
     if (!handle) {
-        return Fail(ERROR_NOT_ENOUGH_MEMORY, INVALID_HANDLE_VALUE);
+        return base::Fail(ERROR_NOT_ENOUGH_MEMORY, INVALID_HANDLE_VALUE);
     }
     search.release();
     return base::ToHandle<HANDLE>(handle);
@@ -144,41 +140,46 @@ HANDLE OpenSearch(std::unique_ptr<Search> search) {
 
 HANDLE WINAPI FindFirstFileA(LPCSTR path, LPWIN32_FIND_DATAA data) {
     return Guarded(INVALID_HANDLE_VALUE, [&]() -> HANDLE {
-        if (!path || !data || !*path) {
-            return Fail(ERROR_PATH_NOT_FOUND, INVALID_HANDLE_VALUE);
+        if (!IsReadableText(path) || !*path) {
+            return base::Fail(ERROR_PATH_NOT_FOUND, INVALID_HANDLE_VALUE);
+        }
+        if (IsBadWritePtr(data, sizeof *data)) {
+            return base::Fail(ERROR_NOACCESS, INVALID_HANDLE_VALUE);
         }
         const std::size_t start = LastName(path);
         const std::string name = path + start;
         if (name.empty()) {
-            return Fail(ERROR_FILE_NOT_FOUND, INVALID_HANDLE_VALUE);
+            return base::Fail(ERROR_FILE_NOT_FOUND, INVALID_HANDLE_VALUE);
         }
         auto search = std::make_unique<Search>();
         if (!HasWildcards(name)) {
             std::string host;
-            if (const LONG error = FindHostFile(path, &host)) {
-                return Fail(error, INVALID_HANDLE_VALUE);
+            bool root = false;
+            if (const LONG error = FindHostFile(path, &host, &root)) {
+                return base::Fail(error, INVALID_HANDLE_VALUE);
+            }
+            if (root) {
+                return base::Fail(ERROR_FILE_NOT_FOUND, INVALID_HANDLE_VALUE);
             }
             struct stat status {};
             if (!Look(host, &status)) {
                 const LONG error = ErrorOfHost(errno);
                 const std::string folder = host.substr(0, host.find_last_of('/'));
                 const bool lost = error == ERROR_FILE_NOT_FOUND && !folder.empty() && access(folder.c_str(), F_OK) != 0;
-                return Fail(lost ? ERROR_PATH_NOT_FOUND : error, INVALID_HANDLE_VALUE);
+                return base::Fail(lost ? ERROR_PATH_NOT_FOUND : error, INVALID_HANDLE_VALUE);
             }
             Describe(status, name == "." || name == ".." ? name : host.substr(host.find_last_of('/') + 1), data);
             return OpenSearch(std::move(search));
         }
         std::string_view folder(path, start);
-        LONG error = folder.empty() ? FindHostFile(".", &search->folder) : FindHostFile(folder, &search->folder);
-        std::string driveRoot;
-        const bool root = search->folder == "/" || (start == 3 && path[1] == ':' && DriveFolder(path[0], &driveRoot) &&
-                                                    driveRoot == search->folder);
+        bool root = false;
+        LONG error = FindHostFile(folder.empty() ? "." : folder, &search->folder, &root);
         error = error ? error : List(search->folder, name, root, &search->names);
         if (error) {
-            return Fail(error, INVALID_HANDLE_VALUE);
+            return base::Fail(error, INVALID_HANDLE_VALUE);
         }
         return Advance(search.get(), data) ? OpenSearch(std::move(search))
-                                           : Fail(ERROR_FILE_NOT_FOUND, INVALID_HANDLE_VALUE);
+                                           : base::Fail(ERROR_FILE_NOT_FOUND, INVALID_HANDLE_VALUE);
     });
 }
 
@@ -186,16 +187,19 @@ BOOL WINAPI FindNextFileA(HANDLE handle, LPWIN32_FIND_DATAA data) {
     return Guarded(FALSE, [&]() -> BOOL {
         auto* search = base::Find<Search>(handle, HandleKind::FindFile);
         if (!search) {
-            return Fail(ERROR_INVALID_HANDLE, FALSE);
+            return base::Fail(ERROR_INVALID_HANDLE, FALSE);
         }
-        return Advance(search, data) ? TRUE : Fail(ERROR_NO_MORE_FILES, FALSE);
+        if (IsBadWritePtr(data, sizeof *data)) {
+            return base::Fail(ERROR_NOACCESS, FALSE);
+        }
+        return Advance(search, data) ? TRUE : base::Fail(ERROR_NO_MORE_FILES, FALSE);
     });
 }
 
 BOOL WINAPI FindClose(HANDLE handle) {
     auto* search = static_cast<Search*>(base::RemoveHandle(base::ToNumber(handle), HandleKind::FindFile));
     if (!search) {
-        return Fail(ERROR_INVALID_HANDLE, FALSE);
+        return base::Fail(ERROR_INVALID_HANDLE, FALSE);
     }
     delete search;
     return TRUE;
@@ -204,15 +208,15 @@ BOOL WINAPI FindClose(HANDLE handle) {
 DWORD WINAPI GetFileAttributesA(LPCSTR path) {
     return Guarded(INVALID_FILE_ATTRIBUTES, [&]() -> DWORD {
         std::string host;
-        if (!path || !*path) {
-            return Fail(ERROR_PATH_NOT_FOUND, INVALID_FILE_ATTRIBUTES);
+        if (!IsReadableText(path) || !*path) {
+            return base::Fail(ERROR_PATH_NOT_FOUND, INVALID_FILE_ATTRIBUTES);
         }
         if (const LONG error = FindHostFile(path, &host)) {
-            return Fail(error, INVALID_FILE_ATTRIBUTES);
+            return base::Fail(error, INVALID_FILE_ATTRIBUTES);
         }
         struct stat status {};
         if (!Look(host, &status)) {
-            return Fail(ErrorOfHost(errno), INVALID_FILE_ATTRIBUTES);
+            return base::Fail(ErrorOfHost(errno), INVALID_FILE_ATTRIBUTES);
         }
         return Attributes(status, std::string_view(host).substr(host.find_last_of('/') + 1));
     });

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr std::size_t kMostBytes = 1024;
+constexpr std::size_t kMostResultBytes = 1024;
 
 struct Conversion {
     bool left = false;
@@ -23,7 +23,7 @@ class Output {
     explicit Output(LPSTR to) : to_(to) {}
 
     void Put(char character) {
-        if (length_ + 1 < kMostBytes) {
+        if (length_ + 1 < kMostResultBytes) {
             to_[length_++] = character;
         }
     }
@@ -49,7 +49,7 @@ class Output {
 
 // Text that fills its field from the left or the right.
 void PutField(Output& out, const Conversion& how, const char* text, std::size_t size) {
-    const int padding = how.width - static_cast<int>(std::min<std::size_t>(size, kMostBytes));
+    const int padding = how.width - static_cast<int>(std::min<std::size_t>(size, kMostResultBytes));
     if (!how.left) {
         out.Fill(how.zeros ? '0' : ' ', padding);
     }
@@ -128,9 +128,9 @@ void PutWide(Output& out, const Conversion& how, LPCWSTR text) {
         return;
     }
     // More than the whole output can hold is not looked at; every unit is at most two bytes of an ANSI page.
-    char narrow[2 * kMostBytes + 1];
+    char narrow[2 * kMostResultBytes + 1];
     int units = 0;
-    while (units < static_cast<int>(kMostBytes) && text[units]) {
+    while (units < static_cast<int>(kMostResultBytes) && text[units]) {
         ++units;
     }
     const int size =

@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <climits>
 #include <filesystem>
+#include <iterator>
 #include <memory>
 #include <system_error>
 
@@ -27,28 +28,72 @@ bool IsFolder(const std::string& path) {
     return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 
-std::string CurrentFolder() {
+// The names in a text with slashes.
+std::vector<std::string> Split(std::string_view text) {
+    std::vector<std::string> names;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find('/'), text.size());
+        if (end) {
+            names.emplace_back(text.substr(0, end));
+        }
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return names;
+}
+
+// The letter of the drive among the folders of the state folder that a host's path leads to or into; 'z' for none.
+char DriveOf(std::string_view host, std::string_view state) {
+    constexpr std::string_view kDrive = "/drive_";
+    const bool inside = host.size() > state.size() + kDrive.size() && host.starts_with(state) &&
+                        host.substr(state.size()).starts_with(kDrive);
+    if (!inside) {
+        return 'z';
+    }
+    const std::string_view rest = host.substr(state.size() + kDrive.size());
+    return rest[0] >= 'a' && rest[0] < 'z' && (rest.size() == 1 || rest[1] == '/') ? rest[0] : 'z';
+}
+
+std::size_t DriveLength(std::string_view state) {
+    return state.size() + std::size("/drive_c") - 1;
+}
+
+// The current folder. The host tells it without links, so the state folder is looked at without them too.
+FullPath Current() {
     std::error_code error;
-    return std::filesystem::current_path(error).string();
+    const std::string host = std::filesystem::current_path(error).string();
+    const std::string state = std::filesystem::weakly_canonical(base::StateFolder(), error).string();
+    FullPath current;
+    current.drive = DriveOf(host, state);
+    current.names = Split(std::string_view(host).substr(current.drive == 'z' ? 0 : DriveLength(state)));
+    return current;
+}
+
+// What the system makes of a name: of the last one nothing remains behind its last character that is no dot or blank, and
+// any other one loses a single dot.
+std::string_view Made(std::string_view name, bool last) {
+    if (last) {
+        return WithoutTail(name);
+    }
+    return name.ends_with('.') && !name.ends_with("..") ? name.substr(0, name.size() - 1) : name;
 }
 
 // Goes from a folder that exists to what lies below it.
-std::string Descend(std::string folder, std::string_view rest) {
-    while (!rest.empty()) {
-        const std::size_t end = std::min(rest.find('/'), rest.size());
-        const std::string name(rest.substr(0, end));
-        rest.remove_prefix(std::min(end + 1, rest.size()));
-        if (name.empty()) {
-            continue;
-        }
-        std::string next = folder + '/' + name;
-        if (access(next.c_str(), F_OK) != 0) {
-            const std::string other = FindInAnyCase(folder, name);
-            if (!other.empty()) {
-                next = folder + '/' + other;
+std::string Descend(std::string folder, const FullPath& full) {
+    for (std::size_t i = 0; i < full.names.size(); ++i) {
+        const std::string_view made = Made(full.names[i], i + 1 == full.names.size() && !full.closed);
+        std::string found;
+        for (const std::string_view name : {std::string_view(full.names[i]), made}) {
+            if (found.empty() && !name.empty()) {
+                const std::string exact(name);
+                found = access((folder + '/' + exact).c_str(), F_OK) == 0 ? exact : FindInAnyCase(folder, exact);
             }
         }
-        folder = std::move(next);
+        if (found.empty()) {
+            found = made;
+        }
+        if (!found.empty()) {
+            folder.append(1, '/').append(found);
+        }
     }
     return folder;
 }
@@ -89,33 +134,67 @@ bool DriveFolder(char letter, std::string* folder) {
     return IsFolder(*folder);
 }
 
-LONG FindHostFile(std::string_view path, std::string* host) {
+std::string_view WithoutTail(std::string_view name) {
+    return name.substr(0, name.find_last_not_of(". ") + 1);
+}
+
+LONG Complete(std::string_view path, FullPath* full) {
     if (path.size() >= MAX_PATH) {
         return ERROR_FILENAME_EXCED_RANGE;
     }
-    std::string rest = Utf8FromAnsi(path);
-    std::replace(rest.begin(), rest.end(), '\\', '/');
-    std::string folder;
-    if (rest.size() >= 2 && rest[1] == ':') {
-        if (!DriveFolder(rest[0], &folder)) {
-            return ERROR_PATH_NOT_FOUND;
-        }
-        rest.erase(0, 2);
-    } else if (rest.starts_with("//")) {
+    std::string text = Utf8FromAnsi(path);
+    std::replace(text.begin(), text.end(), '\\', '/');
+    std::string_view rest = text;
+    if (rest.starts_with("//") || rest.find_first_not_of(' ') == std::string_view::npos) {
         return ERROR_PATH_NOT_FOUND;
-    } else if (!rest.starts_with('/')) {
-        folder = CurrentFolder();
+    }
+    const bool hasDrive = rest.size() >= 2 && rest[1] == ':';
+    const auto letter = static_cast<char>(rest[0] | 0x20);
+    if (hasDrive && (letter < 'a' || letter > 'z')) {
+        return ERROR_PATH_NOT_FOUND;
+    }
+    rest.remove_prefix(hasDrive ? 2 : 0);
+    *full = {};
+    if (hasDrive) {
+        full->drive = letter;
+    }
+    if (const bool fromRoot = rest.starts_with('/'); !fromRoot || !hasDrive) {
+        FullPath current = Current();
+        if (!hasDrive || current.drive == letter) {
+            full->drive = current.drive;
+            full->names = fromRoot ? std::vector<std::string>() : std::move(current.names);
+        }
+    }
+    full->closed = rest.empty() || rest.ends_with('/');
+    for (std::string& name : Split(rest)) {
+        if (name == ".." && !full->names.empty()) {
+            full->names.pop_back();
+        } else if (name != "." && name != "..") {
+            full->names.push_back(std::move(name));
+        }
+    }
+    return ERROR_SUCCESS;
+}
+
+LONG FindHostFile(std::string_view path, std::string* host, bool* root) {
+    FullPath full;
+    const LONG error = Complete(path, &full);
+    if (error != ERROR_SUCCESS) {
+        return error;
+    }
+    std::string folder;
+    if (!DriveFolder(full.drive, &folder)) {
+        return ERROR_PATH_NOT_FOUND;
+    }
+    if (root) {
+        *root = full.names.empty();
     }
     *host = folder;
-    for (std::string_view left = rest; !left.empty();) {
-        const std::size_t end = std::min(left.find('/'), left.size());
-        if (end) {
-            host->append(1, '/').append(left.substr(0, end));
-        }
-        left.remove_prefix(std::min(end + 1, left.size()));
+    for (const std::string& name : full.names) {
+        host->append(1, '/').append(name);
     }
     if (!host->empty() && access(host->c_str(), F_OK) != 0) {
-        *host = Descend(folder, rest);
+        *host = Descend(std::move(folder), full);
     }
     if (host->empty()) {
         *host = "/";
@@ -124,11 +203,11 @@ LONG FindHostFile(std::string_view path, std::string* host) {
 }
 
 std::string DrivePath(const std::string& host) {
-    const std::string drives = base::StateFolder() + "/drive_";
+    const std::string state = base::StateFolder();
+    const char drive = DriveOf(host, state);
     std::string path = "Z:" + host;
-    if (host.starts_with(drives) && host.size() > drives.size() &&
-        (host.size() == drives.size() + 1 || host[drives.size() + 1] == '/')) {
-        path = std::string(1, static_cast<char>(host[drives.size()] & ~0x20)) + ":" + host.substr(drives.size() + 1);
+    if (drive != 'z') {
+        path = std::string(1, static_cast<char>(drive & ~0x20)) + ":" + host.substr(DriveLength(state));
     }
     if (path.size() == 2) {
         path += '/';

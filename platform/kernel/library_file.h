@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace platform::kernel {
 
@@ -12,8 +13,17 @@ std::string ApplicationPath();
 /// @returns the host's path of the module that an address lies in, empty when it lies in none.
 std::string PathOf(const void* address);
 
-/// @returns the name by which Windows callers know a module: without folder, "lib" and ending, in small letters.
-std::string PlainName(std::string name);
+/// Whether a caller's name without a folder means the application in this file: "gallery" or "gallery.exe", in any case.
+bool NamesApplication(const std::string& name, const std::string& path);
+
+/// The name by which callers know a library: in small letters, without folder, "lib" and ending.
+/// @param name  a caller's name ("CVUTIL32", "cvutil32.DLL") or the host's ("libCVUTIL32.so.0.1.0").
+std::string PlainName(const std::string& name);
+
+bool HasFolder(const std::string& name);
+
+/// @returns the host's files, with links followed, that a caller's name with a folder may mean, the best one first.
+std::vector<std::string> NamedFiles(const std::string& name);
 
 /// Opens a library by the name that LoadLibraryA gets. @returns the loader's handle, or null.
 void* OpenLibrary(const std::string& name);

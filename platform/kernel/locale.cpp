@@ -8,10 +8,12 @@
 #include <optional>
 #include <string>
 
+#include "base/fail.h"
 #include "kernel/intl.h"
 #include "kernel/locale_values.h"
 
 using namespace platform::kernel;
+namespace base = platform::base;
 
 namespace {
 
@@ -55,15 +57,10 @@ std::optional<std::string> UsersValue(LCTYPE type) {
     return std::strcmp(value, kMissing) == 0 ? std::nullopt : std::optional<std::string>(value);
 }
 
-int Fail(DWORD error) {
-    SetLastError(error);
-    return 0;
-}
-
 int Find(LCID locale, LCTYPE type, LPSTR buffer, int size) {
     const std::optional<LocaleNames> names = NamesOf(locale);
     if (!names || size < 0 || (size > 0 && !buffer)) {
-        return Fail(ERROR_INVALID_PARAMETER);
+        return base::Fail(ERROR_INVALID_PARAMETER, 0);
     }
     const LCTYPE item = type & ~LCTYPE{LOCALE_NOUSEROVERRIDE | LOCALE_USE_CP_ACP};
     std::optional<std::string> value;
@@ -74,14 +71,14 @@ int Find(LCID locale, LCTYPE type, LPSTR buffer, int size) {
         value = LocaleValue(*names, item);
     }
     if (!value) {
-        return Fail(ERROR_INVALID_FLAGS);
+        return base::Fail(ERROR_INVALID_FLAGS, 0);
     }
     const auto needed = static_cast<int>(value->size()) + 1;
     if (size == 0) {
         return needed;
     }
     if (needed > size) {
-        return Fail(ERROR_INSUFFICIENT_BUFFER);
+        return base::Fail(ERROR_INSUFFICIENT_BUFFER, 0);
     }
     std::memcpy(buffer, value->c_str(), static_cast<std::size_t>(needed));
     return needed;
@@ -109,6 +106,6 @@ int WINAPI GetLocaleInfoA(LCID locale, LCTYPE type, LPSTR buffer, int size) {
     try {
         return Find(locale, type, buffer, size);
     } catch (const std::bad_alloc&) {
-        return Fail(ERROR_NOT_ENOUGH_MEMORY);
+        return base::Fail(ERROR_NOT_ENOUGH_MEMORY, 0);
     }
 }

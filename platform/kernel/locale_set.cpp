@@ -6,10 +6,12 @@
 #include <new>
 #include <string>
 
+#include "base/fail.h"
 #include "kernel/intl.h"
 #include "kernel/locale_patterns.h"
 
 using namespace platform::kernel;
+namespace base = platform::base;
 
 namespace {
 
@@ -36,23 +38,18 @@ bool WriteShortDate(const std::string& pattern) {
            Write(LOCALE_SDATE, PatternSeparator(pattern, "/"));
 }
 
-BOOL Fail(DWORD error) {
-    SetLastError(error);
-    return FALSE;
-}
-
 }  // namespace
 
 BOOL WINAPI SetLocaleInfoA(LCID locale, LCTYPE type, LPCSTR data) try {
     if (!data || GetLocaleInfoA(locale, LOCALE_ILANGUAGE, nullptr, 0) == 0) {
-        return Fail(ERROR_INVALID_PARAMETER);
+        return base::Fail(ERROR_INVALID_PARAMETER, FALSE);
     }
     const LCTYPE item = type & ~LCTYPE{LOCALE_NOUSEROVERRIDE | LOCALE_USE_CP_ACP};
     if (!IntlKey(item) || item == LOCALE_SCOUNTRY) {
-        return Fail(ERROR_INVALID_FLAGS);
+        return base::Fail(ERROR_INVALID_FLAGS, FALSE);
     }
     if (std::strlen(data) > LongestOf(item)) {
-        return Fail(ERROR_INVALID_PARAMETER);
+        return base::Fail(ERROR_INVALID_PARAMETER, FALSE);
     }
     switch (item) {
         case LOCALE_STIMEFORMAT:
@@ -63,5 +60,5 @@ BOOL WINAPI SetLocaleInfoA(LCID locale, LCTYPE type, LPCSTR data) try {
             return Write(item, data);
     }
 } catch (const std::bad_alloc&) {
-    return Fail(ERROR_NOT_ENOUGH_MEMORY);
+    return base::Fail(ERROR_NOT_ENOUGH_MEMORY, FALSE);
 }

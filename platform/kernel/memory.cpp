@@ -11,7 +11,10 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "base/fail.h"
 #include "base/handle.h"
+
+namespace base = platform::base;
 
 namespace {
 
@@ -31,7 +34,7 @@ struct alignas(16) Block {
 };
 static_assert(sizeof(Block) == 32);
 
-constexpr std::size_t kMostBytes = std::size_t{1} << 39;
+constexpr std::size_t kMostBlockBytes = std::size_t{1} << 39;
 
 std::atomic<unsigned> failCountdown{0};
 
@@ -43,12 +46,6 @@ bool MustFail() {
         }
     }
     return false;
-}
-
-template <class Result>
-Result Fail(DWORD error, Result result) {
-    SetLastError(error);
-    return result;
 }
 
 HGLOBAL ToGlobal(Block* block) {
@@ -82,12 +79,12 @@ Block* FindBlock(HGLOBAL memory) {
     if (!block) {
         block = BlockAt(memory);
     }
-    return block ? block : Fail<Block*>(ERROR_INVALID_HANDLE, nullptr);
+    return block ? block : base::Fail<Block*>(ERROR_INVALID_HANDLE, nullptr);
 }
 
 // Gives a block another size. @returns its new place, or null with the block as it was.
 Block* Resize(Block* block, std::size_t size, bool zero, bool mayMove) {
-    if (size > kMostBytes || MustFail()) {
+    if (size > kMostBlockBytes || MustFail()) {
         return nullptr;
     }
     const std::size_t old = block->discarded ? 0 : block->size;
@@ -117,11 +114,11 @@ Block* Resize(Block* block, std::size_t size, bool zero, bool mayMove) {
 
 HGLOBAL Discard(Block* block) {
     if (block->locks != 0) {
-        return Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+        return base::Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
     }
     Block* kept = Resize(block, 0, false, true);
     if (!kept) {
-        return Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+        return base::Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
     }
     kept->discarded = true;
     return ToGlobal(kept);
@@ -138,15 +135,15 @@ HGLOBAL Modify(Block* block, UINT flags) {
 
 HGLOBAL WINAPI GlobalAlloc(UINT flags, SIZE_T size) {
     if (flags & ~UINT{GMEM_VALID_FLAGS}) {
-        return Fail<HGLOBAL>(ERROR_INVALID_PARAMETER, nullptr);
+        return base::Fail<HGLOBAL>(ERROR_INVALID_PARAMETER, nullptr);
     }
-    if (size > kMostBytes || MustFail()) {
-        return Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+    if (size > kMostBlockBytes || MustFail()) {
+        return base::Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
     }
     const std::size_t total = size + sizeof(Block);
     void* memory = flags & GMEM_ZEROINIT ? std::calloc(1, total) : std::malloc(total);
     if (!memory) {
-        return Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+        return base::Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
     }
     auto* block = new (memory) Block;
     block->size = size;
@@ -156,7 +153,7 @@ HGLOBAL WINAPI GlobalAlloc(UINT flags, SIZE_T size) {
     block->handle = platform::base::InsertHandle(HandleKind::GlobalBlock, block);
     if (!block->handle) {
         std::free(memory);
-        return Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+        return base::Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
     }
     return ToGlobal(block);
 }
@@ -174,7 +171,7 @@ HGLOBAL WINAPI GlobalReAlloc(HGLOBAL memory, SIZE_T size, UINT flags) {
     }
     const bool mayMove = (block->movable && block->locks == 0) || (flags & GMEM_MOVEABLE);
     Block* resized = Resize(block, size, flags & GMEM_ZEROINIT, mayMove);
-    return resized ? ToGlobal(resized) : Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+    return resized ? ToGlobal(resized) : base::Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
 }
 
 HGLOBAL WINAPI GlobalFree(HGLOBAL memory) {
@@ -185,7 +182,7 @@ HGLOBAL WINAPI GlobalFree(HGLOBAL memory) {
     // Of two threads that free one block, one takes it out of the table.
     void* removed = block ? platform::base::RemoveHandle(block->handle, HandleKind::GlobalBlock) : nullptr;
     if (!removed) {
-        return Fail(ERROR_INVALID_HANDLE, memory);
+        return base::Fail(ERROR_INVALID_HANDLE, memory);
     }
     std::free(removed);
     return nullptr;
@@ -197,7 +194,7 @@ LPVOID WINAPI GlobalLock(HGLOBAL memory) {
         return FindBlock(memory) ? memory : nullptr;
     }
     if (block->discarded) {
-        return Fail<LPVOID>(ERROR_DISCARDED, nullptr);
+        return base::Fail<LPVOID>(ERROR_DISCARDED, nullptr);
     }
     std::uint32_t locks = block->locks.load(std::memory_order_relaxed);
     while (locks < GMEM_LOCKCOUNT && !block->locks.compare_exchange_weak(locks, locks + 1)) {
@@ -213,15 +210,15 @@ BOOL WINAPI GlobalUnlock(HGLOBAL memory) {
     std::uint32_t locks = block->locks.load(std::memory_order_relaxed);
     do {
         if (locks == 0) {
-            return Fail(ERROR_NOT_LOCKED, FALSE);
+            return base::Fail(ERROR_NOT_LOCKED, FALSE);
         }
     } while (!block->locks.compare_exchange_weak(locks, locks - 1));
-    return locks == 1 ? Fail(NO_ERROR, FALSE) : TRUE;
+    return locks == 1 ? base::Fail(NO_ERROR, FALSE) : TRUE;
 }
 
 HGLOBAL WINAPI GlobalHandle(LPCVOID address) {
     Block* block = BlockAt(address);
-    return block ? ToGlobal(block) : Fail<HGLOBAL>(ERROR_INVALID_HANDLE, nullptr);
+    return block ? ToGlobal(block) : base::Fail<HGLOBAL>(ERROR_INVALID_HANDLE, nullptr);
 }
 
 SIZE_T WINAPI GlobalSize(HGLOBAL memory) {

@@ -2,6 +2,7 @@
 
 #include <dlfcn.h>
 
+#include <algorithm>
 #include <atomic>
 #include <cstdio>
 #include <cstdlib>
@@ -10,9 +11,11 @@
 
 #include "base/handle.h"
 #include "base/report.h"
+#include "kernel/encoding.h"
 #include "kernel/guarded.h"
 #include "kernel/hostpath.h"
 #include "kernel/library_file.h"
+#include "kernel/probe.h"
 #include "kernel/start/module_registration.h"
 
 namespace platform::kernel {
@@ -103,8 +106,19 @@ Module* FindByName(const std::string& name) {
     if (IsSystemName(plain)) {
         return System();
     }
+    Module* const application = Application();
+    if (HasFolder(name)) {
+        const std::vector<std::string> files = NamedFiles(name);
+        if (application && std::find(files.begin(), files.end(), application->path) != files.end()) {
+            return application;
+        }
+        return files.empty() ? nullptr : FindByPath(files[0]);
+    }
+    if (application && NamesApplication(name, application->path)) {
+        return application;
+    }
     for (const auto& module : Modules()) {
-        if (PlainName(module->path) == plain) {
+        if (!module->application && PlainName(AnsiFromUtf8(module->path)) == plain) {
             return module.get();
         }
     }
@@ -199,6 +213,10 @@ void CvPlatformDetachModule(HINSTANCE instance) {
 
 HMODULE WINAPI GetModuleHandleA(LPCSTR name) {
     return Guarded(HMODULE{}, [&]() -> decltype(HMODULE{}) {
+        if (name && !IsReadableText(name)) {
+            SetLastError(ERROR_NOACCESS);
+            return nullptr;
+        }
         const std::lock_guard guard(ModuleLock());
         const Module* module = name ? FindByName(name) : Application();
         if (!module) {
@@ -219,6 +237,10 @@ DWORD WINAPI GetModuleFileNameA(HMODULE handle, LPSTR buffer, DWORD size) {
         const std::string path = WindowsPath(module->path);
         const bool fits = path.size() < size;
         const DWORD copied = fits ? static_cast<DWORD>(path.size()) : size - 1;
+        if (IsBadWritePtr(buffer, copied + 1)) {
+            SetLastError(ERROR_NOACCESS);
+            return 0;
+        }
         std::memcpy(buffer, path.data(), copied);
         buffer[copied] = '\0';
         SetLastError(fits ? NO_ERROR : ERROR_INSUFFICIENT_BUFFER);
@@ -228,7 +250,7 @@ DWORD WINAPI GetModuleFileNameA(HMODULE handle, LPSTR buffer, DWORD size) {
 
 HMODULE WINAPI LoadLibraryA(LPCSTR name) {
     return Guarded(HMODULE{}, [&]() -> decltype(HMODULE{}) {
-        if (!name || !*name) {
+        if (!IsReadableText(name) || !*name) {
             SetLastError(ERROR_INVALID_PARAMETER);
             return nullptr;
         }
@@ -267,8 +289,12 @@ HMODULE WINAPI LoadLibraryA(LPCSTR name) {
             SetLastError(ERROR_NOT_ENOUGH_MEMORY);
             return nullptr;
         }
-        module->loaded = loaded;
-        module->loads = 1;
+        // Another thread may have come first.
+        if (++module->loads == 1) {
+            module->loaded = loaded;
+        } else {
+            dlclose(loaded);
+        }
         return module->handle;
     });
 }
@@ -322,8 +348,9 @@ FARPROC WINAPI GetProcAddress(HMODULE handle, LPCSTR name) {
             path = module->application ? std::string() : module->path;
         }
         // Exports have no numbers here.
-        void* opened =
-            IS_INTRESOURCE(name) ? nullptr : dlopen(path.empty() ? nullptr : path.c_str(), RTLD_NOW | RTLD_NOLOAD);
+        void* opened = IS_INTRESOURCE(name) || !IsReadableText(name)
+                           ? nullptr
+                           : dlopen(path.empty() ? nullptr : path.c_str(), RTLD_NOW | RTLD_NOLOAD);
         void* address = opened ? dlsym(opened, name) : nullptr;
         if (opened) {
             dlclose(opened);

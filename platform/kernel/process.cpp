@@ -15,6 +15,7 @@
 #include "kernel/hostpath.h"
 
 using platform::kernel::AnsiFromUtf8;
+using platform::kernel::CopyOut;
 using platform::kernel::Utf8FromAnsi;
 
 namespace {
@@ -41,15 +42,6 @@ std::string MakeCommandLine() {
         line += (line.empty() ? "" : " ") + Quoted(AnsiFromUtf8(argument));
     }
     return line;
-}
-
-DWORD Deliver(const std::string& value, LPSTR buffer, DWORD size) {
-    const auto length = static_cast<DWORD>(value.size());
-    if (!buffer || length >= size) {
-        return length + 1;
-    }
-    std::memcpy(buffer, value.c_str(), length + 1);
-    return length;
 }
 
 // Standard handles are numbers of their own, which no table ever gives out.
@@ -81,7 +73,7 @@ DWORD WINAPI GetEnvironmentVariableA(LPCSTR name, LPSTR buffer, DWORD size) {
             SetLastError(ERROR_ENVVAR_NOT_FOUND);
             return 0;
         }
-        return Deliver(AnsiFromUtf8(value), buffer, size);
+        return CopyOut(AnsiFromUtf8(value), buffer, size);
     } catch (const std::bad_alloc&) {
         SetLastError(ERROR_NOT_ENOUGH_MEMORY);
         return 0;
@@ -158,11 +150,11 @@ void WINAPI ExitProcess(UINT code) {
 }
 
 UINT WINAPI GetWindowsDirectoryA(LPSTR buffer, UINT size) {
-    return Deliver("C:\\WINDOWS", buffer, size);
+    return CopyOut("C:\\WINDOWS", buffer, size);
 }
 
 UINT WINAPI GetSystemDirectoryA(LPSTR buffer, UINT size) {
-    return Deliver("C:\\WINDOWS\\SYSTEM", buffer, size);
+    return CopyOut("C:\\WINDOWS\\SYSTEM", buffer, size);
 }
 
 DWORD WINAPI GetTempPathA(DWORD size, LPSTR buffer) {
@@ -172,7 +164,7 @@ DWORD WINAPI GetTempPathA(DWORD size, LPSTR buffer) {
         if (!path.ends_with('\\')) {
             path += '\\';
         }
-        return Deliver(path, buffer, size);
+        return CopyOut(path, buffer, size);
     } catch (const std::bad_alloc&) {
         SetLastError(ERROR_NOT_ENOUGH_MEMORY);
         return 0;

@@ -34,7 +34,7 @@ namespace base = platform::base;
 
 namespace {
 
-constexpr off_t kMostBytes = 16 << 20;
+constexpr off_t kMostFileBytes = 16 << 20;
 
 struct Descriptor {
     int number;
@@ -88,7 +88,7 @@ std::optional<std::string> ReadText(const std::string& path, struct stat* status
         if (errno == ENOENT || errno == ENOTDIR) {
             return std::string();
         }
-    } else if (fstat(file.number, status) == 0 && S_ISREG(status->st_mode) && status->st_size <= kMostBytes) {
+    } else if (fstat(file.number, status) == 0 && S_ISREG(status->st_mode) && status->st_size <= kMostFileBytes) {
         std::string text;
         if (ReadAll(file.number, status->st_size, text)) {
             return text;
@@ -195,21 +195,22 @@ std::string WinIni() {
 
 // A bare name, and one in the Windows folder, which is where bare names lie, is a file of the state folder.
 std::string ProfilePath(LPCSTR file) {
-    constexpr std::string_view kWindows = "C:\\WINDOWS\\";
-    std::string_view name = file ? file : "win.ini";
-    if (name.size() > kWindows.size() && strncasecmp(name.data(), kWindows.data(), kWindows.size()) == 0) {
-        name.remove_prefix(kWindows.size());
+    std::string plain = Utf8FromAnsi(WithoutTail(file ? file : "win.ini"));
+    if (plain.find_first_of("\\/:") != std::string::npos) {
+        FullPath full;
+        std::string path;
+        if (Complete(file, &full) == ERROR_SUCCESS && full.drive == 'c' && full.names.size() == 2 && !full.closed &&
+            strcasecmp(full.names[0].c_str(), "WINDOWS") == 0) {
+            plain = WithoutTail(full.names[1]);
+        } else {
+            FindHostFile(file, &path);
+            return path;
+        }
     }
-    std::string path;
-    if (name.find_first_of("\\/:") != std::string_view::npos) {
-        FindHostFile(file, &path);
-        return path;
-    }
-    if (name.size() == 7 && strncasecmp(name.data(), "win.ini", 7) == 0) {
+    if (strcasecmp(plain.c_str(), "win.ini") == 0) {
         return WinIni();
     }
-    const std::string plain = Utf8FromAnsi(name);
-    path = base::StateFolder() + '/' + plain;
+    std::string path = base::StateFolder() + '/' + plain;
     if (access(path.c_str(), F_OK) != 0) {
         const std::string other = FindInAnyCase(base::StateFolder(), plain);
         return other.empty() ? path : base::StateFolder() + '/' + other;

@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "base/fail.h"
 #include "base/handle.h"
 #include "base/report.h"
 #include "kernel/module.h"
@@ -10,12 +11,6 @@ using namespace platform::kernel;
 namespace base = platform::base;
 
 namespace {
-
-template <class Result>
-Result Fail(DWORD error, Result result) {
-    SetLastError(error);
-    return result;
-}
 
 void Read(Module& module) {
     if (module.resourcesRead) {
@@ -69,13 +64,13 @@ ResourceEntry* Find(HMODULE handle, LPCSTR name, LPCSTR type, int language) {
         if (best) {
             return best;
         }
-        return Fail<ResourceEntry*>(nameSeen                    ? ERROR_RESOURCE_LANG_NOT_FOUND
-                                    : typeSeen                  ? ERROR_RESOURCE_NAME_NOT_FOUND
-                                    : module->resources.empty() ? ERROR_RESOURCE_DATA_NOT_FOUND
-                                                                : ERROR_RESOURCE_TYPE_NOT_FOUND,
-                                    nullptr);
+        return base::Fail<ResourceEntry*>(nameSeen                    ? ERROR_RESOURCE_LANG_NOT_FOUND
+                                          : typeSeen                  ? ERROR_RESOURCE_NAME_NOT_FOUND
+                                          : module->resources.empty() ? ERROR_RESOURCE_DATA_NOT_FOUND
+                                                                      : ERROR_RESOURCE_TYPE_NOT_FOUND,
+                                          nullptr);
     } catch (const std::bad_alloc&) {
-        return Fail<ResourceEntry*>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+        return base::Fail<ResourceEntry*>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
     }
 }
 
@@ -87,7 +82,7 @@ HRSRC HandleOf(ResourceEntry* entry) {
     if (entry && !entry->handle) {
         entry->handle = base::InsertHandle(base::HandleKind::Resource, entry);
         if (!entry->handle) {
-            return Fail<HRSRC>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+            return base::Fail<HRSRC>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
         }
     }
     return entry ? base::ToHandle<HRSRC>(entry->handle) : nullptr;
@@ -117,17 +112,17 @@ HRSRC WINAPI FindResourceExA(HMODULE module, LPCSTR type, LPCSTR name, WORD lang
 
 // A loaded resource is its own memory: the handle serves for both.
 HGLOBAL WINAPI LoadResource(HMODULE, HRSRC resource) {
-    return Entry(resource) ? static_cast<HGLOBAL>(resource) : Fail<HGLOBAL>(ERROR_INVALID_HANDLE, nullptr);
+    return Entry(resource) ? static_cast<HGLOBAL>(resource) : base::Fail<HGLOBAL>(ERROR_INVALID_HANDLE, nullptr);
 }
 
 LPVOID WINAPI LockResource(HGLOBAL resource) {
     const ResourceEntry* entry = base::Find<ResourceEntry>(resource, base::HandleKind::Resource);
-    return entry ? const_cast<unsigned char*>(entry->data.data()) : Fail<LPVOID>(ERROR_INVALID_HANDLE, nullptr);
+    return entry ? const_cast<unsigned char*>(entry->data.data()) : base::Fail<LPVOID>(ERROR_INVALID_HANDLE, nullptr);
 }
 
 DWORD WINAPI SizeofResource(HMODULE, HRSRC resource) {
     const ResourceEntry* entry = Entry(resource);
-    return entry ? static_cast<DWORD>(entry->data.size()) : Fail<DWORD>(ERROR_INVALID_HANDLE, 0);
+    return entry ? static_cast<DWORD>(entry->data.size()) : base::Fail<DWORD>(ERROR_INVALID_HANDLE, 0);
 }
 
 BOOL WINAPI FreeResource(HGLOBAL) {

@@ -7,19 +7,17 @@
 #include <cstring>
 #include <string>
 
+#include "base/fail.h"
 #include "kernel/codepage.h"
 
 using platform::kernel::CodePage;
 using platform::kernel::FindCodePage;
 
+namespace base = platform::base;
+
 namespace {
 
 constexpr char16_t kNoCharacter = 0xFFFD;
-
-int Fail(DWORD error) {
-    SetLastError(error);
-    return 0;
-}
 
 // Appends one code point; lone halves and what lies beyond Unicode become the replacement character.
 void AppendUtf16(std::u16string& out, char32_t code) {
@@ -105,8 +103,8 @@ std::uint16_t BestFit(const CodePage& page, char16_t character) {
     UChar parts[16];
     const std::int32_t length = U_SUCCESS(error) ? unorm2_getRawDecomposition(forms, character, parts, 16, &error) : -1;
     // A letter without its accent is near enough, a symbol without its stroke is not.
-    const bool near = U_SUCCESS(error) && (length == 1 || (length > 1 && u_isalnum(parts[0])));
-    return near ? page.fromUnicode[parts[0]] : std::uint16_t{0};
+    const bool isNear = U_SUCCESS(error) && (length == 1 || (length > 1 && u_isalnum(parts[0])));
+    return isNear ? page.fromUnicode[parts[0]] : std::uint16_t{0};
 }
 
 bool EncodePage(const CodePage& page, const char16_t* text, std::size_t size, const char* replacement, bool bestFit,
@@ -137,7 +135,7 @@ int Deliver(const std::basic_string<Char>& result, Char* to, int toSize) {
     }
     const int copied = length < toSize ? length : toSize;
     std::memcpy(to, result.data(), static_cast<std::size_t>(copied) * sizeof(Char));
-    return length <= toSize ? length : Fail(ERROR_INSUFFICIENT_BUFFER);
+    return length <= toSize ? length : base::Fail(ERROR_INSUFFICIENT_BUFFER, 0);
 }
 
 }  // namespace
@@ -145,14 +143,14 @@ int Deliver(const std::basic_string<Char>& result, Char* to, int toSize) {
 int WINAPI MultiByteToWideChar(UINT codePage, DWORD flags, LPCSTR from, int fromSize, LPWSTR to, int toSize) {
     constexpr DWORD known = MB_PRECOMPOSED | MB_COMPOSITE | MB_USEGLYPHCHARS | MB_ERR_INVALID_CHARS;
     if (!from || fromSize == 0 || toSize < 0 || (toSize > 0 && !to)) {
-        return Fail(ERROR_INVALID_PARAMETER);
+        return base::Fail(ERROR_INVALID_PARAMETER, 0);
     }
     if ((flags & ~known) || (codePage == CP_UTF8 && (flags & ~MB_ERR_INVALID_CHARS))) {
-        return Fail(ERROR_INVALID_FLAGS);
+        return base::Fail(ERROR_INVALID_FLAGS, 0);
     }
     const CodePage* page = codePage == CP_UTF8 ? nullptr : FindCodePage(codePage);
     if (!page && codePage != CP_UTF8) {
-        return Fail(ERROR_INVALID_PARAMETER);
+        return base::Fail(ERROR_INVALID_PARAMETER, 0);
     }
     try {
         const auto* bytes = reinterpret_cast<const unsigned char*>(from);
@@ -161,11 +159,11 @@ int WINAPI MultiByteToWideChar(UINT codePage, DWORD flags, LPCSTR from, int from
         out.reserve(size);
         const bool valid = page ? DecodePage(*page, bytes, size, out) : DecodeUtf8(bytes, size, out);
         if (!valid && (flags & MB_ERR_INVALID_CHARS)) {
-            return Fail(ERROR_NO_UNICODE_TRANSLATION);
+            return base::Fail(ERROR_NO_UNICODE_TRANSLATION, 0);
         }
         return Deliver(out, to, toSize);
     } catch (const std::bad_alloc&) {
-        return Fail(ERROR_NOT_ENOUGH_MEMORY);
+        return base::Fail(ERROR_NOT_ENOUGH_MEMORY, 0);
     }
 }
 
@@ -173,17 +171,17 @@ int WINAPI WideCharToMultiByte(UINT codePage, DWORD flags, LPCWSTR from, int fro
                                LPCSTR defaultChar, BOOL* usedDefaultChar) {
     constexpr DWORD known = WC_COMPOSITECHECK | WC_DISCARDNS | WC_SEPCHARS | WC_DEFAULTCHAR | WC_NO_BEST_FIT_CHARS;
     if (!from || fromSize == 0 || toSize < 0 || (toSize > 0 && !to)) {
-        return Fail(ERROR_INVALID_PARAMETER);
+        return base::Fail(ERROR_INVALID_PARAMETER, 0);
     }
     if (codePage == CP_UTF8 && (defaultChar || usedDefaultChar)) {
-        return Fail(ERROR_INVALID_PARAMETER);
+        return base::Fail(ERROR_INVALID_PARAMETER, 0);
     }
     if (flags & ~known) {
-        return Fail(ERROR_INVALID_FLAGS);
+        return base::Fail(ERROR_INVALID_FLAGS, 0);
     }
     const CodePage* page = codePage == CP_UTF8 ? nullptr : FindCodePage(codePage);
     if (!page && codePage != CP_UTF8) {
-        return Fail(ERROR_INVALID_PARAMETER);
+        return base::Fail(ERROR_INVALID_PARAMETER, 0);
     }
     try {
         const std::size_t size =
@@ -202,6 +200,6 @@ int WINAPI WideCharToMultiByte(UINT codePage, DWORD flags, LPCWSTR from, int fro
         }
         return Deliver(out, to, toSize);
     } catch (const std::bad_alloc&) {
-        return Fail(ERROR_NOT_ENOUGH_MEMORY);
+        return base::Fail(ERROR_NOT_ENOUGH_MEMORY, 0);
     }
 }

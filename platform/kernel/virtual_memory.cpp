@@ -9,6 +9,10 @@
 #include <mutex>
 #include <new>
 
+#include "base/fail.h"
+
+namespace base = platform::base;
+
 namespace {
 
 struct Area {
@@ -53,12 +57,6 @@ int HostProtection(DWORD protection) {
     }
 }
 
-template <class Result>
-Result Fail(DWORD error, Result result) {
-    SetLastError(error);
-    return result;
-}
-
 }  // namespace
 
 // Reserving and committing are one step here, at an address that the host chooses.
@@ -66,31 +64,31 @@ LPVOID WINAPI VirtualAlloc(LPVOID address, SIZE_T size, DWORD type, DWORD protec
     const int host = HostProtection(protection);
     if (address || size == 0 || size > SIZE_MAX / 2 || host < 0 || !(type & MEM_COMMIT) ||
         (type & ~DWORD{MEM_COMMIT | MEM_RESERVE})) {
-        return Fail<LPVOID>(ERROR_INVALID_PARAMETER, nullptr);
+        return base::Fail<LPVOID>(ERROR_INVALID_PARAMETER, nullptr);
     }
     const std::size_t rounded = (size + PageSize() - 1) & ~(PageSize() - 1);
     void* memory = mmap(nullptr, rounded, host, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
     if (memory == MAP_FAILED) {
-        return Fail<LPVOID>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+        return base::Fail<LPVOID>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
     }
     try {
         const std::lock_guard guard(AreasLock());
         Areas()[reinterpret_cast<std::uintptr_t>(memory)] = Area{rounded, {}, protection};
     } catch (const std::bad_alloc&) {
         munmap(memory, rounded);
-        return Fail<LPVOID>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+        return base::Fail<LPVOID>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
     }
     return memory;
 }
 
 BOOL WINAPI VirtualFree(LPVOID address, SIZE_T size, DWORD type) {
     if (size != 0 || type != MEM_RELEASE) {
-        return Fail(ERROR_INVALID_PARAMETER, FALSE);
+        return base::Fail(ERROR_INVALID_PARAMETER, FALSE);
     }
     const std::lock_guard guard(AreasLock());
     const auto area = Areas().find(reinterpret_cast<std::uintptr_t>(address));
     if (area == Areas().end()) {
-        return Fail(ERROR_INVALID_ADDRESS, FALSE);
+        return base::Fail(ERROR_INVALID_ADDRESS, FALSE);
     }
     munmap(address, area->second.size);
     Areas().erase(area);
@@ -101,26 +99,26 @@ BOOL WINAPI VirtualFree(LPVOID address, SIZE_T size, DWORD type) {
 BOOL WINAPI VirtualProtect(LPVOID address, SIZE_T size, DWORD protection, PDWORD previous) {
     const int host = HostProtection(protection);
     if (host < 0 || size == 0) {
-        return Fail(ERROR_INVALID_PARAMETER, FALSE);
+        return base::Fail(ERROR_INVALID_PARAMETER, FALSE);
     }
     if (!previous) {
-        return Fail(ERROR_NOACCESS, FALSE);
+        return base::Fail(ERROR_NOACCESS, FALSE);
     }
     const auto at = reinterpret_cast<std::uintptr_t>(address);
     const std::lock_guard guard(AreasLock());
     auto found = Areas().upper_bound(at);
     if (found == Areas().begin()) {
-        return Fail(ERROR_INVALID_ADDRESS, FALSE);
+        return base::Fail(ERROR_INVALID_ADDRESS, FALSE);
     }
     --found;
     Area& area = found->second;
     if (at - found->first >= area.size || size > area.size - (at - found->first)) {
-        return Fail(ERROR_INVALID_ADDRESS, FALSE);
+        return base::Fail(ERROR_INVALID_ADDRESS, FALSE);
     }
     const std::uintptr_t first = at & ~(PageSize() - 1);
     const std::uintptr_t last = (at + size - 1) & ~(PageSize() - 1);
     if (mprotect(reinterpret_cast<void*>(first), last - first + PageSize(), host) != 0) {
-        return Fail(ERROR_ACCESS_DENIED, FALSE);
+        return base::Fail(ERROR_ACCESS_DENIED, FALSE);
     }
     const auto former = area.protection.find(first);
     *previous = former == area.protection.end() ? area.initial : former->second;

@@ -1,22 +1,23 @@
 // Threads and events, and waiting for them.
-#include <windows.h>
+#include "kernel/waitable.h"
 
+#include <algorithm>
 #include <chrono>
 #include <condition_variable>
-#include <memory>
 #include <mutex>
 #include <thread>
 
 #include <sys/syscall.h>
 #include <unistd.h>
 
+#include "base/fail.h"
 #include "base/handle.h"
 #include "kernel/module.h"
 
 namespace base = platform::base;
 using base::HandleKind;
 
-namespace {
+namespace platform::kernel {
 
 // What a handle leads to; a running thread and those who wait hold it too.
 struct Waitable {
@@ -25,7 +26,27 @@ struct Waitable {
     bool signalled = false;
     bool manualReset = true;
     DWORD exitCode = STILL_ACTIVE;
+    std::vector<const ObjectWait*> waits;  // of threads that wait for more than this
+
+    // Lock held.
+    void Signal() {
+        signalled = true;
+        changed.notify_all();
+        for (const ObjectWait* wait : waits) {
+            wait->Wake();
+        }
+    }
+    void Take() {
+        signalled = signalled && manualReset;
+    }
 };
+
+}  // namespace platform::kernel
+
+using platform::kernel::ObjectWait;
+using platform::kernel::Waitable;
+
+namespace {
 
 // The handle table keeps plain pointers: this is the share that belongs to the handle.
 struct HandleShare {
@@ -36,12 +57,6 @@ struct HandleShare {
 std::mutex& SharesLock() {
     static auto& lock = *new std::mutex;
     return lock;
-}
-
-template <class Result>
-Result Fail(DWORD error, Result result) {
-    SetLastError(error);
-    return result;
 }
 
 HANDLE MakeHandle(HandleKind kind, const std::shared_ptr<Waitable>& object) {
@@ -60,7 +75,7 @@ std::shared_ptr<Waitable> FindWaitable(HANDLE handle, std::initializer_list<Hand
             return share->object;
         }
     }
-    return Fail<std::shared_ptr<Waitable>>(ERROR_INVALID_HANDLE, nullptr);
+    return base::Fail<std::shared_ptr<Waitable>>(ERROR_INVALID_HANDLE, nullptr);
 }
 
 void RunThread(const std::shared_ptr<Waitable>& object, LPTHREAD_START_ROUTINE start, LPVOID parameter) {
@@ -69,22 +84,91 @@ void RunThread(const std::shared_ptr<Waitable>& object, LPTHREAD_START_ROUTINE s
     platform::kernel::NotifyThread(DLL_THREAD_DETACH);
     const std::lock_guard guard(object->lock);
     object->exitCode = code;
-    object->signalled = true;
-    object->changed.notify_all();
+    object->Signal();
 }
 
 }  // namespace
 
+namespace platform::kernel {
+
+ObjectWait::ObjectWait(const HANDLE* handles, DWORD count, void (*wake)(void* context), void* context)
+    : wake_(wake), context_(context) {
+    objects_.reserve(count);
+    ordered_.reserve(count);
+    for (DWORD i = 0; i < count; ++i) {
+        auto object = FindWaitable(handles[i], {HandleKind::Event, HandleKind::Thread});
+        if (!object) {
+            error_ = ERROR_INVALID_HANDLE;
+            return;
+        }
+        ordered_.push_back(object.get());
+        objects_.push_back(std::move(object));
+    }
+    std::sort(ordered_.begin(), ordered_.end());
+    ordered_.erase(std::unique(ordered_.begin(), ordered_.end()), ordered_.end());
+    std::size_t known = 0;
+    try {
+        for (; known < ordered_.size(); ++known) {
+            const std::lock_guard guard(ordered_[known]->lock);
+            ordered_[known]->waits.push_back(this);
+        }
+    } catch (...) {
+        ordered_.resize(known);
+        Forget();
+        throw;
+    }
+}
+
+ObjectWait::~ObjectWait() {
+    if (error_ == ERROR_SUCCESS) {
+        Forget();
+    }
+}
+
+void ObjectWait::Forget() {
+    for (Waitable* object : ordered_) {
+        const std::lock_guard guard(object->lock);
+        std::erase(object->waits, this);
+    }
+}
+
+DWORD ObjectWait::Take(bool all) {
+    if (!all) {
+        for (std::size_t i = 0; i < objects_.size(); ++i) {
+            const std::lock_guard guard(objects_[i]->lock);
+            if (objects_[i]->signalled) {
+                objects_[i]->Take();
+                return WAIT_OBJECT_0 + static_cast<DWORD>(i);
+            }
+        }
+        return WAIT_TIMEOUT;
+    }
+    for (Waitable* object : ordered_) {
+        object->lock.lock();
+    }
+    const bool signalled =
+        std::all_of(ordered_.begin(), ordered_.end(), [](const Waitable* object) { return object->signalled; });
+    for (Waitable* object : ordered_) {
+        if (signalled) {
+            object->Take();
+        }
+        object->lock.unlock();
+    }
+    return signalled ? WAIT_OBJECT_0 : WAIT_TIMEOUT;
+}
+
+}  // namespace platform::kernel
+
 HANDLE WINAPI CreateThread(LPSECURITY_ATTRIBUTES, SIZE_T, LPTHREAD_START_ROUTINE start, LPVOID parameter, DWORD flags,
                            LPDWORD id) {
     if (!start || flags != 0) {
-        return Fail<HANDLE>(ERROR_INVALID_PARAMETER, nullptr);
+        return base::Fail<HANDLE>(ERROR_INVALID_PARAMETER, nullptr);
     }
     try {
         auto object = std::make_shared<Waitable>();
         const HANDLE handle = MakeHandle(HandleKind::Thread, object);
         if (!handle) {
-            return Fail<HANDLE>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+            return base::Fail<HANDLE>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
         }
         struct Started {
             std::mutex lock;
@@ -103,7 +187,7 @@ HANDLE WINAPI CreateThread(LPSECURITY_ATTRIBUTES, SIZE_T, LPTHREAD_START_ROUTINE
             }).detach();
         } catch (...) {
             CloseHandle(handle);
-            return Fail<HANDLE>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+            return base::Fail<HANDLE>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
         }
         std::unique_lock guard(started->lock);
         started->changed.wait(guard, [&] { return started->id != 0; });
@@ -112,13 +196,13 @@ HANDLE WINAPI CreateThread(LPSECURITY_ATTRIBUTES, SIZE_T, LPTHREAD_START_ROUTINE
         }
         return handle;
     } catch (...) {
-        return Fail<HANDLE>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+        return base::Fail<HANDLE>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
     }
 }
 
 BOOL WINAPI GetExitCodeThread(HANDLE thread, LPDWORD code) {
     if (!code) {
-        return Fail(ERROR_INVALID_PARAMETER, FALSE);
+        return base::Fail(ERROR_INVALID_PARAMETER, FALSE);
     }
     const auto object = FindWaitable(thread, {HandleKind::Thread});
     if (!object) {
@@ -131,16 +215,16 @@ BOOL WINAPI GetExitCodeThread(HANDLE thread, LPDWORD code) {
 
 HANDLE WINAPI CreateEventA(LPSECURITY_ATTRIBUTES, BOOL manualReset, BOOL initialState, LPCSTR name) {
     if (name) {
-        return Fail<HANDLE>(ERROR_NOT_SUPPORTED, nullptr);  // events are not shared between processes here
+        return base::Fail<HANDLE>(ERROR_NOT_SUPPORTED, nullptr);  // events are not shared between processes here
     }
     try {
         auto object = std::make_shared<Waitable>();
         object->manualReset = manualReset != FALSE;
         object->signalled = initialState != FALSE;
         const HANDLE handle = MakeHandle(HandleKind::Event, object);
-        return handle ? handle : Fail<HANDLE>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+        return handle ? handle : base::Fail<HANDLE>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
     } catch (...) {
-        return Fail<HANDLE>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+        return base::Fail<HANDLE>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
     }
 }
 
@@ -150,8 +234,7 @@ BOOL WINAPI SetEvent(HANDLE event) {
         return FALSE;
     }
     const std::lock_guard guard(object->lock);
-    object->signalled = true;
-    object->changed.notify_all();
+    object->Signal();
     return TRUE;
 }
 
@@ -177,9 +260,7 @@ DWORD WINAPI WaitForSingleObject(HANDLE handle, DWORD milliseconds) {
     } else if (!object->changed.wait_for(guard, std::chrono::milliseconds(milliseconds), ready)) {
         return WAIT_TIMEOUT;
     }
-    if (!object->manualReset) {
-        object->signalled = false;
-    }
+    object->Take();
     return WAIT_OBJECT_0;
 }
 
@@ -191,7 +272,7 @@ BOOL WINAPI CloseHandle(HANDLE handle) {
             return TRUE;
         }
     }
-    return Fail(ERROR_INVALID_HANDLE, FALSE);
+    return base::Fail(ERROR_INVALID_HANDLE, FALSE);
 }
 
 DWORD WINAPI GetCurrentThreadId(void) {

@@ -21,6 +21,9 @@ LONG WINAPI RegCreateKeyExA(HKEY key, LPCSTR subkey, DWORD reserved, LPSTR class
     if (!result || reserved || options != REG_OPTION_NON_VOLATILE) {
         return ERROR_INVALID_PARAMETER;
     }
+    if (!IsGood(subkey) || !IsGood(className) || !AreGood(result, disposition)) {
+        return ERROR_NOACCESS;
+    }
     return Answer([&]() -> LONG {
         KeyId from = 0;
         KeyId found = 0;
@@ -55,6 +58,9 @@ LONG WINAPI RegOpenKeyExA(HKEY key, LPCSTR subkey, DWORD, REGSAM access, PHKEY r
     if (!result) {
         return ERROR_INVALID_PARAMETER;
     }
+    if (!IsGood(subkey) || !AreGood(result)) {
+        return ERROR_NOACCESS;
+    }
     *result = nullptr;
     return Answer([&]() -> LONG {
         KeyId from = 0;
@@ -77,6 +83,9 @@ LONG WINAPI RegOpenKeyA(HKEY key, LPCSTR subkey, PHKEY result) {
 LONG WINAPI RegDeleteKeyA(HKEY key, LPCSTR subkey) {
     if (!subkey) {
         return ERROR_INVALID_PARAMETER;
+    }
+    if (!IsGood(subkey)) {
+        return ERROR_NOACCESS;
     }
     return Answer([&]() -> LONG {
         KeyId from = 0;

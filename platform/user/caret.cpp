@@ -14,8 +14,8 @@ namespace platform::user {
 namespace {
 
 constexpr UINT kDefaultBlink = 530;
-constexpr std::uint32_t kWhite = 0x00FFFFFF;
-const HBITMAP kGrey = reinterpret_cast<HBITMAP>(static_cast<UINT_PTR>(1));
+constexpr std::uint32_t kAllInk = 0x00FFFFFF;
+const HBITMAP kGreyCaret = reinterpret_cast<HBITMAP>(static_cast<UINT_PTR>(1));
 
 UINT blinkTime = kDefaultBlink;  // guarded by UserLock
 
@@ -98,13 +98,13 @@ std::vector<std::uint32_t> PatternOf(HBITMAP bitmap, const BITMAP& shape) {
         pixels.clear();
     }
     for (std::uint32_t& pixel : pixels) {
-        pixel &= kWhite;
+        pixel &= kAllInk;
     }
     return pixels;
 }
 
 std::vector<std::uint32_t> BlockPattern(int width, int height, bool grey) {
-    std::vector<std::uint32_t> pixels(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), kWhite);
+    std::vector<std::uint32_t> pixels(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), kAllInk);
     for (std::size_t i = 0; grey && i < pixels.size(); ++i) {
         const std::size_t x = i % static_cast<std::size_t>(width);
         const std::size_t y = i / static_cast<std::size_t>(width);
@@ -199,14 +199,14 @@ BOOL WINAPI CreateCaret(HWND window, HBITMAP bitmap, int width, int height) {
     }
     try {
         std::vector<std::uint32_t> pattern;
-        if (bitmap == nullptr || bitmap == kGrey) {
+        if (bitmap == nullptr || bitmap == kGreyCaret) {
             width = width != 0 ? width : GetSystemMetrics(SM_CXBORDER);
             height = height != 0 ? height : GetSystemMetrics(SM_CYBORDER);
             if (width < 0 || height < 0) {
                 SetLastError(ERROR_INVALID_PARAMETER);
                 return FALSE;
             }
-            pattern = BlockPattern(width, height, bitmap == kGrey);
+            pattern = BlockPattern(width, height, bitmap == kGreyCaret);
         } else {
             BITMAP shape{};
             if (GetObjectA(bitmap, sizeof shape, &shape) != sizeof shape) {

@@ -72,7 +72,7 @@ void OnSetFocus(HWND dialog, DialogState& state) {
         FocusControl(dialog, first);
 }
 
-void EraseBackground(HWND dialog, HDC context) {
+void EraseDialog(HWND dialog, HDC context) {
     const auto dc = reinterpret_cast<WPARAM>(context);
     const auto self = reinterpret_cast<LPARAM>(dialog);
     auto brush = reinterpret_cast<HBRUSH>(SendMessageA(dialog, WM_CTLCOLORDLG, dc, self));
@@ -85,13 +85,10 @@ void EraseBackground(HWND dialog, HDC context) {
 }
 
 void NextControl(HWND dialog, WPARAM wParam, LPARAM lParam) {
-    if (LOWORD(lParam)) {
+    if (LOWORD(lParam))
         FocusControl(dialog, reinterpret_cast<HWND>(wParam));
-        return;
-    }
-    const HWND focus = GetFocus();
-    const HWND from = focus && IsChild(dialog, focus) ? focus : nullptr;
-    FocusControl(dialog, GetNextDlgTabItem(dialog, from, wParam != 0));
+    else
+        FocusNext(dialog, wParam != 0);
 }
 
 /// Brings a dialog back into the work area.
@@ -122,7 +119,7 @@ void Close(HWND dialog) {
 LRESULT DefaultAnswer(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam, DialogState& state) {
     switch (message) {
         case WM_ERASEBKGND:
-            EraseBackground(dialog, reinterpret_cast<HDC>(wParam));
+            EraseDialog(dialog, reinterpret_cast<HDC>(wParam));
             return TRUE;
         case WM_SHOWWINDOW:
             if (!wParam)

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "gdi/objects.h"
+#include "kernel/probe.h"
 #include "user/nonclient.h"
 #include "user/queue.h"
 #include "user/window.h"
@@ -13,13 +14,18 @@ namespace platform::user {
 namespace {
 
 LRESULT SetText(HWND handle, LPCSTR text) {
+    const std::size_t length = text ? kernel::ProbeLength(text) : 0;
+    if (length == kernel::kBadText) {
+        SetLastError(ERROR_NOACCESS);
+        return FALSE;
+    }
     UserHold hold(UserLock());
     Window* window = PeekWindow(handle);
     if (!window) {
         return FALSE;
     }
     try {
-        window->text = text ? text : "";
+        window->text.assign(text ? text : "", length);
     } catch (const std::bad_alloc&) {
         return FALSE;
     }
@@ -291,7 +297,7 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
         case WM_SYSKEYDOWN:
             return SystemKeyDown(handle, wParam, lParam);
         case WM_RBUTTONUP: {
-            POINT point{static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+            POINT point = MousePoint(lParam);
             ClientToScreen(handle, &point);
             return SendMessageA(handle, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(handle), MAKELPARAM(point.x, point.y));
         }

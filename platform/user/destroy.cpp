@@ -26,10 +26,18 @@ void Remove(Window* window) {
     GiveBackWindow()(window);
 }
 
-std::vector<HWND> OwnedBy(const Window* owner) {
+bool IsWithin(const Window* window, const Window* ancestor) {
+    while (window && window != ancestor) {
+        window = window->parent;
+    }
+    return window != nullptr;
+}
+
+/// The windows that a window, or one of its thread within it, owns.
+std::vector<HWND> OwnedWithin(const Window* owner) {
     std::vector<HWND> list;
     for (const Window* window = Desktop()->firstChild; window; window = window->next) {
-        if (window->owner == owner) {
+        if (window->owner && window->owner->thread == owner->thread && IsWithin(window->owner, owner)) {
             list.push_back(window->handle);
         }
     }
@@ -44,7 +52,9 @@ void SendDestroy(HWND handle) {
         const UserGuard guard(UserLock());
         if (const Window* window = PeekWindow(handle)) {
             for (const Window* child = window->firstChild; child; child = child->next) {
-                children.push_back(child->handle);
+                if (child->thread == window->thread) {
+                    children.push_back(child->handle);
+                }
             }
         }
     }
@@ -52,6 +62,29 @@ void SendDestroy(HWND handle) {
         if (PeekWindow(child)) {
             SendDestroy(child);
         }
+    }
+}
+
+void RunDestruction(const SentMessage& sent) {
+    DestroyWindow(sent.window);
+}
+
+/// A child of another thread loses its parent, which is all that happens to a window from outside its thread. Only that can destroy
+/// it, and does so when it next looks at its messages, or at its end: nothing waits for a thread that may not take any more. Lock
+/// held.
+void HandOver(Window* window) {
+    UnlinkWindow(window);
+    window->parent = MessageRoot();
+    window->style &= ~static_cast<DWORD>(WS_VISIBLE);
+    LinkWindow(window, HWND_TOP);
+    auto* errand = new (std::nothrow) SentMessage;
+    if (!errand) {
+        return;
+    }
+    errand->errand = RunDestruction;
+    errand->window = window->handle;
+    if (!Enqueue(window->thread, errand)) {
+        delete errand;
     }
 }
 
@@ -86,6 +119,10 @@ void NotifyParents(HWND handle, UINT event) {
                 !window->parent || window->parent == Desktop() || window->parent == MessageRoot()) {
                 return;
             }
+            // A thread that ends waits for no other, which may be waiting for its end.
+            if (window->thread && window->thread->ending && window->parent->thread != window->thread) {
+                return;
+            }
             if (child == handle) {
                 what = MAKEWPARAM(event, window->id);
             }
@@ -107,6 +144,9 @@ void EndWindow(HWND handle) {
                 return;
             }
             window->ending = true;
+            while (window->firstChild && window->firstChild->thread != window->thread) {
+                HandOver(window->firstChild);
+            }
             child = window->firstChild ? window->firstChild->handle : nullptr;
         }
         if (!child) {
@@ -130,7 +170,7 @@ bool DestroyTree(HWND handle) {
         if (!window || window->destroying) {
             return window != nullptr;
         }
-        owned = OwnedBy(window);
+        owned = OwnedWithin(window);
         window->destroying = true;
     }
     NotifyParents(handle, WM_DESTROY);
@@ -152,7 +192,7 @@ bool DestroyTree(HWND handle) {
         HideForDestruction(window);
     }
     if (Window* window = PeekWindow(handle)) {
-        LeaveDisabledOrHidden(window);
+        LeaveDisabledOrHidden(window, true);
     }
     if (PeekWindow(handle)) {
         SendDestroy(handle);

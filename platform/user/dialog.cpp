@@ -1,5 +1,6 @@
 // Making dialogs, and the loops of modal ones.
 #include <new>
+#include <utility>
 
 #include "user/dialog.h"
 
@@ -13,25 +14,28 @@ DialogState::~DialogState() {
 std::shared_ptr<DialogState> FindDialogState(HWND dialog) {
     const UserGuard guard(UserLock());
     const Window* window = FindWindowObject(dialog);
-    return window ? window->dialog : nullptr;
+    return window && window->dialog && !window->dialog->keysOnly ? window->dialog : nullptr;
 }
 
-std::shared_ptr<DialogState> NeedDialogState(HWND dialog) {
+namespace {
+
+std::shared_ptr<DialogState> NeedState(HWND handle, bool keysOnly) {
     const UserGuard guard(UserLock());
-    Window* window = FindWindowObject(dialog);
+    Window* window = FindWindowObject(handle);
     if (!window)
         return nullptr;
     if (!window->dialog && !window->destroying) {
         try {
             window->dialog = std::make_shared<DialogState>();
+            window->dialog->keysOnly = keysOnly;
         } catch (const std::bad_alloc&) {
             SetLastError(ERROR_NOT_ENOUGH_MEMORY);
         }
     }
+    if (window->dialog && !keysOnly)
+        window->dialog->keysOnly = false;
     return window->dialog;
 }
-
-namespace {
 
 /// The owner is enabled before the dialog goes, so that activation falls to it and not to another application's window.
 void ReleaseOwner(DialogState& state) {
@@ -41,39 +45,105 @@ void ReleaseOwner(DialogState& state) {
         EnableWindow(owner, TRUE);
 }
 
-/// Takes what is in the queue, telling the owner first when there is nothing. @returns false on WM_QUIT.
-bool NextMessage(HWND dialog, HWND owner, bool tellIdle, MSG& message) {
-    if (tellIdle && owner && !PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE)) {
-        SendMessageA(owner, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(dialog));
-        // The owner may have ended the dialog; nothing would then wake the loop.
-        const auto state = FindDialogState(dialog);
-        if (!state || state->ended) {
-            message = MSG{};
-            return true;
-        }
-    }
-    return GetMessageA(&message, nullptr, 0, 0) != 0;
+/// The active window hears that a modal dialog comes; an owner has heard so as it was disabled.
+void CancelMode(HWND disabled) {
+    const HWND active = GetActiveWindow();
+    if (active && active != disabled)
+        SendMessageA(active, WM_CANCELMODE, 0, 0);
 }
 
-void RunModalLoop(HWND dialog, HWND owner, const std::shared_ptr<DialogState>& state) {
-    const bool tellIdle = !(GetWindowLongA(dialog, GWL_STYLE) & DS_NOIDLEMSG);
-    while (!state->ended && IsWindow(dialog)) {
-        MSG message{};
-        if (!NextMessage(dialog, owner, tellIdle, message)) {
-            // It is for the loops further out too.
-            PostQuitMessage(static_cast<int>(message.wParam));
-            return;
-        }
-        if (message.message == WM_NULL && !message.hwnd)
-            continue;
-        if (!IsDialogMessageA(dialog, &message)) {
-            TranslateMessage(&message);
-            DispatchMessageA(&message);
+/// Whoever holds the mouse would get what is meant for the dialog.
+void TakeMouse() {
+    if (const HWND holder = GetCapture())
+        SendMessageA(holder, WM_CANCELMODE, 0, 0);
+    if (GetCapture())
+        ReleaseCapture();
+}
+
+/// The messages of a modal dialog, until it has ended.
+class ModalLoop {
+  public:
+    ModalLoop(HWND dialog, HWND owner, std::shared_ptr<DialogState> state)
+        : dialog_(dialog), owner_(owner), state_(std::move(state)) {
+        const LONG style = GetWindowLongA(dialog, GWL_STYLE);
+        shown_ = (style & WS_VISIBLE) != 0;
+        if (style & DS_NOIDLEMSG)
+            owner_ = nullptr;
+    }
+
+    void Run() {
+        TakeMouse();
+        while (Runs()) {
+            MSG message{};
+            if (!Next(message)) {
+                // It is for the loops further out too.
+                PostQuitMessage(static_cast<int>(message.wParam));
+                return;
+            }
+            if (message.message == WM_NULL && !message.hwnd)
+                continue;
+            if (!IsDialogMessageA(dialog_, &message)) {
+                TranslateMessage(&message);
+                DispatchMessageA(&message);
+            }
         }
     }
+
+  private:
+    bool Runs() const {
+        return !state_->ended && IsWindow(dialog_);
+    }
+
+    /// Timers come when there is nothing else, and may come for ever.
+    static bool Idle() {
+        MSG message;
+        return !PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE) || message.message == WM_TIMER;
+    }
+
+    /// Takes what is in the queue. When there is nothing, the dialog is shown, so that one that a waiting message ends is
+    /// never seen, and then the owner is told. Either may end it; nothing would then wake the loop. @returns false on WM_QUIT.
+    bool Next(MSG& message) {
+        if (!shown_ && Idle()) {
+            shown_ = true;
+            ShowDialog(dialog_);
+        }
+        if (owner_ && Runs() && !PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE))
+            SendMessageA(owner_, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(dialog_));
+        return !Runs() || GetMessageA(&message, nullptr, 0, 0) != 0;
+    }
+
+    const HWND dialog_;
+    HWND owner_;
+    const std::shared_ptr<DialogState> state_;
+    bool shown_;
+};
+
+/// What is disabled for an owner that was named: the first window at or above it that is no child.
+HWND TopLevelOf(HWND owner) {
+    const UserGuard guard(UserLock());
+    Window* window = owner ? FindWindowObject(owner) : nullptr;
+    const Window* top = window ? TopLevel(window) : nullptr;
+    return top ? top->handle : nullptr;
 }
 
 }  // namespace
+
+std::shared_ptr<DialogState> NeedDialogState(HWND dialog) {
+    return NeedState(dialog, false);
+}
+
+std::shared_ptr<DialogState> NeedKeyState(HWND window) {
+    return NeedState(window, true);
+}
+
+void ShowDialog(HWND dialog) {
+    const bool toForeground = (GetWindowLongA(dialog, GWL_STYLE) & DS_SETFOREGROUND) != 0;
+    ShowWindow(dialog, SW_SHOWNORMAL);
+    if (toForeground)
+        SetForegroundWindow(dialog);
+    if (IsWindow(dialog))
+        UpdateWindow(dialog);
+}
 
 INT_PTR RunDialog(HINSTANCE instance, const DialogTemplate& dialogTemplate, HWND owner, DLGPROC procedure,
                   LPARAM initParam) {
@@ -83,11 +153,12 @@ INT_PTR RunDialog(HINSTANCE instance, const DialogTemplate& dialogTemplate, HWND
     }
     if (owner == GetDesktopWindow())
         owner = nullptr;
-    const HWND root = owner ? GetAncestor(owner, GA_ROOT) : nullptr;
+    const HWND root = TopLevelOf(owner);
     // An owner that was disabled before stays so afterwards.
     const HWND disabled = root && IsWindowEnabled(root) ? root : nullptr;
     if (disabled)
         EnableWindow(disabled, FALSE);
+    CancelMode(disabled);
 
     const HWND dialog = CreateDialogFromTemplate(instance, dialogTemplate, owner, procedure, initParam, true, disabled);
     const auto state = dialog ? FindDialogState(dialog) : nullptr;
@@ -98,7 +169,7 @@ INT_PTR RunDialog(HINSTANCE instance, const DialogTemplate& dialogTemplate, HWND
         SetLastError(error);
         return -1;
     }
-    RunModalLoop(dialog, root, state);
+    ModalLoop(dialog, root, state).Run();
     ReleaseOwner(*state);
     if (IsWindow(dialog))
         DestroyWindow(dialog);
@@ -196,6 +267,9 @@ WINUSERAPI BOOL WINAPI EndDialog(HWND dialog, INT_PTR result) {
     const bool wasActive = GetActiveWindow() == dialog;
     state->ended = true;
     state->result = result;
+    // Whoever disabled the owner of a modeless dialog made it a modal one.
+    if (owner && !state->modal && !IsWindowEnabled(owner))
+        state->disabledOwner = owner;
     ReleaseOwner(*state);
     SetWindowPos(dialog, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_HIDEWINDOW);
     if (wasActive && owner && GetActiveWindow() != owner && IsWindowEnabled(owner))

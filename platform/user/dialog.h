@@ -64,6 +64,9 @@ struct DialogState {
     INT_PTR result = 0;
     HWND disabledOwner = nullptr;  ///< to be enabled again when the dialog ends
 
+    bool keysOnly = false;        ///< of a plain window, which has a state only because IsDialogMessageA serves it
+    HWND firstDefault = nullptr;  ///< of a plain window: the button that wore the default outline first
+
     DialogState() = default;
     DialogState(const DialogState&) = delete;
     DialogState& operator=(const DialogState&) = delete;
@@ -74,8 +77,13 @@ struct DialogState {
 std::shared_ptr<DialogState> FindDialogState(HWND dialog);
 /// The same, made when missing; null when the window is dead or memory has run out.
 std::shared_ptr<DialogState> NeedDialogState(HWND dialog);
+/// The state of a dialog, or of a plain window that is treated as one; made when missing.
+std::shared_ptr<DialogState> NeedKeyState(HWND window);
 
-/// Makes a dialog and its controls, sends WM_INITDIALOG, and shows it where the template or `modal` says so.
+/// Shows a dialog that is done with WM_INITDIALOG. It may be gone afterwards.
+void ShowDialog(HWND dialog);
+
+/// Makes a dialog and its controls, sends WM_INITDIALOG, and shows it where the template says so; its loop shows a modal one.
 HWND CreateDialogFromTemplate(HINSTANCE instance, const DialogTemplate& dialogTemplate, HWND owner, DLGPROC procedure,
                               LPARAM initParam, bool modal, HWND disabledOwner);
 /// The modal counterpart: runs until EndDialog, WM_QUIT or the window's death.
@@ -94,9 +102,15 @@ UINT DialogCode(HWND control);
 /// Gives a control the focus as the keyboard does: selects all text, moves the default button's outline.
 void FocusControl(HWND dialog, HWND control);
 
+/// The same with the next tab stop after the focus, or the one before.
+void FocusNext(HWND dialog, bool previous);
+
 /// The focus goes from one control to another: the push button with the focus, else the dialog's own default button,
 /// wears the default outline.
 void MoveDefaultButton(HWND dialog, HWND newFocus);
+
+/// @returns the button that wears the default outline, null for none.
+HWND OutlinedButton(HWND dialog);
 
 /// DM_SETDEFID: files the new default button and moves the outline to it.
 void SetDefaultId(HWND dialog, int id);

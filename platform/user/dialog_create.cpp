@@ -129,9 +129,6 @@ HWND CreateFrame(HINSTANCE instance, const DialogTemplate& dialogTemplate, HWND 
         className = MAKEINTATOM(dialogTemplate.classAtom);
     else if (!dialogTemplate.className.empty())
         className = dialogTemplate.className.c_str();
-    // A control can be named as the owner; what owns a top-level window is the top-level window above it.
-    if (owner && !(style & WS_CHILD))
-        owner = GetAncestor(owner, GA_ROOT);
     return CreateWindowExA(exStyle, className, dialogTemplate.title.c_str(), style, place.x, place.y, width, height,
                            owner, nullptr, instance, nullptr);
 }
@@ -190,13 +187,8 @@ HWND CreateDialogFromTemplate(HINSTANCE instance, const DialogTemplate& dialogTe
     Initialise(dialog, dialogTemplate, initParam);
     if (!IsWindow(dialog))
         return nullptr;
-    if ((modal || (dialogTemplate.style & WS_VISIBLE)) && !state->ended) {
-        if (dialogTemplate.style & DS_SETFOREGROUND)
-            SetForegroundWindow(dialog);
-        ShowWindow(dialog, SW_SHOWNORMAL);
-        if (IsWindow(dialog))
-            UpdateWindow(dialog);
-    }
+    if ((dialogTemplate.style & WS_VISIBLE) && !state->ended)
+        ShowDialog(dialog);
     return IsWindow(dialog) ? dialog : nullptr;
 }
 

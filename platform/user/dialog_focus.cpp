@@ -39,12 +39,28 @@ UINT DialogCode(HWND control) {
     return static_cast<UINT>(SendMessageA(control, WM_GETDLGCODE, 0, 0));
 }
 
+HWND OutlinedButton(HWND dialog) {
+    HWND found = nullptr;
+    ForEachControl(dialog, [&](HWND control) {
+        if (!found && (DialogCode(control) & DLGC_DEFPUSHBUTTON))
+            found = control;
+    });
+    return found;
+}
+
 void MoveDefaultButton(HWND dialog, HWND newFocus) {
-    const auto state = FindDialogState(dialog);
+    const auto state = NeedKeyState(dialog);
+    if (!state)
+        return;
+    // A plain window has no DM_SETDEFID: the button that it was made with is its own.
+    if (state->keysOnly && !state->firstDefault)
+        state->firstDefault = OutlinedButton(dialog);
     HWND target = nullptr;
     if (newFocus && newFocus != dialog && (DialogCode(newFocus) & kPushButton))
         target = newFocus;
-    else if (state && state->hasDefault)
+    else if (state->keysOnly)
+        target = IsChild(dialog, state->firstDefault) ? state->firstDefault : nullptr;
+    else if (state->hasDefault)
         target = FindControl(dialog, state->defaultId);
 
     ForEachControl(dialog, [&](HWND control) {
@@ -75,6 +91,12 @@ void FocusControl(HWND dialog, HWND control) {
     const HWND focus = GetFocus();
     if (IsWindow(dialog) && focus && IsChild(dialog, focus))
         MoveDefaultButton(dialog, focus);
+}
+
+void FocusNext(HWND dialog, bool previous) {
+    const HWND focus = GetFocus();
+    const HWND from = focus && IsChild(dialog, focus) ? focus : nullptr;
+    FocusControl(dialog, GetNextDlgTabItem(dialog, from, previous));
 }
 
 HWND FirstFocus(HWND dialog) {

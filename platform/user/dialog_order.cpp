@@ -1,4 +1,5 @@
 // The order of controls: tab stops through nested pages, and groups of siblings.
+#include <algorithm>
 #include <vector>
 
 #include "user/dialog.h"
@@ -11,13 +12,13 @@ struct Stop {
     bool eligible;
 };
 
-DWORD StyleOf(HWND window) {
+DWORD StyleOfItem(HWND window) {
     return static_cast<DWORD>(GetWindowLongA(window, GWL_STYLE));
 }
 
 /// Visible and enabled by its own style: the dialog itself may still be hidden.
 bool IsReachable(HWND window) {
-    return (StyleOf(window) & (WS_VISIBLE | WS_DISABLED)) == WS_VISIBLE;
+    return (StyleOfItem(window) & (WS_VISIBLE | WS_DISABLED)) == WS_VISIBLE;
 }
 
 bool IsContainer(HWND window) {
@@ -27,7 +28,7 @@ bool IsContainer(HWND window) {
 void CollectStops(HWND parent, std::vector<Stop>& stops) {
     for (HWND child = GetWindow(parent, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
         const bool container = IsContainer(child);
-        stops.push_back({child, !container && IsReachable(child) && (StyleOf(child) & WS_TABSTOP)});
+        stops.push_back({child, !container && IsReachable(child) && (StyleOfItem(child) & WS_TABSTOP)});
         if (container && IsReachable(child))
             CollectStops(child, stops);
     }
@@ -60,38 +61,53 @@ HWND NextTabStop(HWND dialog, HWND control, bool previous) {
     return control == dialog ? nullptr : control;
 }
 
-HWND NextInGroup(HWND dialog, HWND control, bool previous) {
-    while (control && control != dialog && GetParent(control) != dialog && !IsContainer(GetParent(control)))
-        control = GetParent(control);
-    const HWND parent = control && control != dialog ? GetParent(control) : dialog;
-    if (!parent)
-        return nullptr;
-
-    std::vector<HWND> siblings;
-    for (HWND child = GetWindow(parent, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
-        siblings.push_back(child);
-    if (siblings.empty())
-        return nullptr;
-
-    const bool given = control && control != dialog;
-    size_t place = given ? 0 : (previous ? siblings.size() - 1 : 0);
-    for (size_t index = 0; given && index < siblings.size(); ++index) {
-        if (siblings[index] == control)
-            place = index;
+/// The controls in the order of groups. It goes on through nested pages, whose own WS_GROUP says nothing as long as what is on
+/// them can be reached.
+void CollectMembers(HWND parent, std::vector<HWND>& members) {
+    for (HWND child = GetWindow(parent, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+        if (IsContainer(child) && IsReachable(child))
+            CollectMembers(child, members);
+        else
+            members.push_back(child);
     }
-    size_t first = place;
-    while (first > 0 && !(StyleOf(siblings[first]) & WS_GROUP))
-        --first;
-    size_t end = place + 1;
-    while (end < siblings.size() && !(StyleOf(siblings[end]) & WS_GROUP))
-        ++end;
+}
 
-    const size_t count = end - first;
-    size_t index = given ? place - first : (previous ? 0 : count - 1);
+/// Where a control, or the control that it is a part of, stands among the members.
+size_t MemberAt(HWND dialog, HWND control, const std::vector<HWND>& members) {
+    for (; control && control != dialog; control = GetParent(control)) {
+        const auto found = std::find(members.begin(), members.end(), control);
+        if (found != members.end())
+            return static_cast<size_t>(found - members.begin());
+    }
+    return kNowhere;
+}
+
+HWND NextInGroup(HWND dialog, HWND control, bool previous) {
+    std::vector<HWND> members;
+    CollectMembers(dialog, members);
+    const size_t size = members.size();
+    if (size == 0)
+        return nullptr;
+    const bool given = control && control != dialog;
+    const size_t place = given ? MemberAt(dialog, control, members) : (previous ? size - 1 : 0);
+    if (place == kNowhere)
+        return control;
+    if (!given && IsReachable(members[place]))
+        return members[place];
+    // The last group goes on at the beginning when nothing begins one there.
+    const auto begins = [&](size_t index) { return (StyleOfItem(members[index]) & WS_GROUP) != 0; };
+    size_t first = place;
+    for (size_t step = 1; step < size && !begins(first); ++step)
+        first = (first + size - 1) % size;
+    size_t count = 1;
+    while (count < size && !begins((first + count) % size))
+        ++count;
+
+    size_t index = (place + size - first) % size;
     for (size_t step = 0; step < count; ++step) {
         index = previous ? (index + count - 1) % count : (index + 1) % count;
-        const HWND candidate = siblings[first + index];
-        if (IsReachable(candidate) && !IsContainer(candidate))
+        const HWND candidate = members[(first + index) % size];
+        if (IsReachable(candidate))
             return candidate;
     }
     return given ? control : nullptr;

@@ -28,5 +28,8 @@ LRESULT WINAPI DispatchMessageA(const MSG* message) {
     }
     const WNDPROC procedure = target->procedure;
     hold.unlock();
+    if (message->message == WM_PAINT) {
+        return CallPaint(message->hwnd, message->wParam, message->lParam);
+    }
     return CallProcedure(procedure, message->hwnd, message->message, message->wParam, message->lParam);
 }

@@ -102,12 +102,10 @@ void StartDisplay() {
 
 }  // namespace
 
-void PresentSoon() {
+void OpenDisplay() {
     if (presenter.load(std::memory_order_relaxed) == nullptr) {
         StartDisplay();
-        return;
     }
-    WakePresenter();
 }
 
 void ShowCursorShape(unsigned idc) {

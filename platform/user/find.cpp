@@ -10,10 +10,6 @@ using namespace platform::user;
 
 namespace {
 
-HWND HandleOf(const Window* window) {
-    return window && window != MessageRoot() ? window->handle : nullptr;
-}
-
 std::vector<HWND> Children(const Window* parent) {
     std::vector<HWND> list;
     for (const Window* child = parent->firstChild; child; child = child->next) {

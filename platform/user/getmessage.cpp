@@ -215,7 +215,7 @@ BOOL WINAPI GetMessageA(LPMSG message, HWND window, UINT first, UINT last) {
         const DWORD seen = SeenBits(filter);
         if ((self->wakeBits & seen) == 0) {
             hold.unlock();
-            PresentSoon();
+            OpenDisplay();
             hold.lock();
         }
         // Something may have come while the lock was open, or a timer just now; it has left its bit.
@@ -239,7 +239,7 @@ BOOL WINAPI PeekMessageA(LPMSG message, HWND window, UINT first, UINT last, UINT
     }
     CheckCaret(self);
     hold.unlock();
-    PresentSoon();
+    OpenDisplay();
     return FALSE;
 }
 

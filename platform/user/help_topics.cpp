@@ -64,7 +64,13 @@ std::string ReadTopics(LPCSTR helpFile) {
     }
     std::ostringstream text;
     text << std::ifstream(host, std::ios::binary).rdbuf();
-    return kernel::AnsiFromUtf8(text.str());
+    std::string utf8 = text.str();
+    // Editors put it there, and it is no part of the first line.
+    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+    if (utf8.starts_with(kByteOrderMark)) {
+        utf8.erase(0, kByteOrderMark.size());
+    }
+    return kernel::AnsiFromUtf8(utf8);
 }
 
 }  // namespace platform::user

@@ -18,6 +18,21 @@ void Translate(const MSG& message) {
     DispatchMessageA(&message);
 }
 
+/// A dialog is asked to move the focus, and may have its own way; a plain window knows of no such message.
+void GoNext(HWND dialog, bool previous) {
+    if (FindDialogState(dialog))
+        SendMessageA(dialog, WM_NEXTDLGCTL, previous, 0);
+    else
+        FocusNext(dialog, previous);
+}
+
+void GoTo(HWND dialog, HWND control) {
+    if (FindDialogState(dialog))
+        SendMessageA(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
+    else
+        FocusControl(dialog, control);
+}
+
 // --- arrows
 
 void MoveInGroup(HWND dialog, HWND from, bool previous) {
@@ -55,7 +70,13 @@ void PressDefault(HWND dialog, HWND focus) {
         return;
     }
     const LRESULT answer = SendMessageA(dialog, DM_GETDEFID, 0, 0);
-    const int id = HIWORD(answer) == DC_HASDEFID ? LOWORD(answer) : IDOK;
+    const bool named = HIWORD(answer) == DC_HASDEFID;
+    // A plain window has no answer; its default button is the one that looks so.
+    if (const HWND outlined = named || FindDialogState(dialog) ? nullptr : OutlinedButton(dialog)) {
+        SendCommand(GetParent(outlined), GetDlgCtrlID(outlined), outlined);
+        return;
+    }
+    const int id = named ? LOWORD(answer) : IDOK;
     SendCommand(dialog, id, GetDlgItem(dialog, id));
 }
 
@@ -67,7 +88,7 @@ char UpperCase(char character) {
     return text[0];
 }
 
-std::string TextOf(HWND window) {
+std::string CaptionOf(HWND window) {
     const int length = GetWindowTextLengthA(window);
     std::string text(static_cast<size_t>(length > 0 ? length : 0) + 1, '\0');
     text.resize(static_cast<size_t>(GetWindowTextA(window, text.data(), static_cast<int>(text.size()))));
@@ -100,7 +121,7 @@ bool HasMnemonic(HWND control, char wanted) {
         if (lstrcmpiA(name, "static") == 0 && (GetWindowLongA(control, GWL_STYLE) & SS_NOPREFIX))
             return false;
     }
-    return MnemonicOf(TextOf(control)) == wanted;
+    return MnemonicOf(CaptionOf(control)) == wanted;
 }
 
 void CollectReachable(HWND parent, std::vector<HWND>& controls) {
@@ -141,10 +162,10 @@ bool FollowMnemonic(HWND dialog, HWND focus, char character) {
     if (code & DLGC_STATIC) {
         const HWND next = GetNextDlgTabItem(dialog, found, FALSE);
         if (next && next != found)
-            SendMessageA(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(next), TRUE);
+            GoTo(dialog, next);
         return true;
     }
-    SendMessageA(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(found), TRUE);
+    GoTo(dialog, found);
     if (matches == 1 && IsWindow(found) && (code & (DLGC_BUTTON | DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)))
         SendMessageA(found, BM_CLICK, 0, 0);
     return true;
@@ -160,7 +181,7 @@ bool OnKeyDown(HWND dialog, const MSG& message) {
         case VK_TAB:
             if (code & DLGC_WANTTAB)
                 return false;
-            SendMessageA(dialog, WM_NEXTDLGCTL, GetKeyState(VK_SHIFT) < 0, 0);
+            GoNext(dialog, GetKeyState(VK_SHIFT) < 0);
             return true;
         case VK_LEFT:
         case VK_UP:

@@ -59,13 +59,13 @@ constexpr KeyText kText[] = {
     {VK_NUMPAD9, '9', '9'},
 };
 
-struct ControlText {
+struct KeyName {
     BYTE key;
     bool shift;
     char character;
 };
 
-constexpr ControlText kControl[] = {
+constexpr KeyName kControlKeys[] = {
     {VK_OEM_4, false, '\x1B'},  {VK_OEM_5, false, '\x1C'}, {VK_OEM_102, false, '\x1C'}, {VK_OEM_6, false, '\x1D'},
     {VK_BACK, false, '\x7F'},   {VK_RETURN, false, '\n'},  {VK_ESCAPE, false, '\x1B'},  {VK_SPACE, false, ' '},
     {VK_CANCEL, false, '\x03'}, {'2', true, '\0'},         {'6', true, '\x1E'},         {VK_OEM_MINUS, true, '\x1F'},
@@ -75,7 +75,7 @@ int ControlCharacter(UINT key, bool shift) {
     if (key >= 'A' && key <= 'Z') {
         return static_cast<int>(key - 'A' + 1);
     }
-    for (const ControlText& each : kControl) {
+    for (const KeyName& each : kControlKeys) {
         if (each.key == key && each.shift == shift) {
             return static_cast<unsigned char>(each.character);
         }
@@ -124,7 +124,7 @@ SHORT WINAPI VkKeyScanA(CHAR character) {
     if (character >= 1 && character <= 26 && character != '\n') {
         return static_cast<SHORT>((character - 1 + 'A') | kControlKey);
     }
-    for (const ControlText& each : kControl) {
+    for (const KeyName& each : kControlKeys) {
         if (each.character == character) {
             return static_cast<SHORT>(each.key | kControlKey | (each.shift ? kShift : 0));
         }

@@ -24,7 +24,7 @@ void ForgetInput(Window* window) {
         }
         if (PeekWindow(handle) == window && Shared(thread->focus) == handle) {
             const Window* parent = (window->style & WS_CHILD) != 0 ? window->parent : nullptr;
-            const bool usable = parent != nullptr && parent != Desktop() && !parent->destroying;
+            const bool usable = parent != nullptr && parent->thread == thread && !parent->destroying;
             MoveFocus(thread, usable ? parent->handle : nullptr);
         }
     }
@@ -43,13 +43,12 @@ void ForgetInput(Window* window) {
     }
 }
 
-void LeaveDisabledOrHidden(Window* window) {
+void LeaveDisabledOrHidden(Window* window, bool hidden) {
     ThreadState* thread = window->thread;
     if (thread == nullptr || thread != CurrentThread()) {
         return;
     }
     const HWND handle = window->handle;
-    const bool hidden = (window->style & WS_VISIBLE) == 0;
     const auto within = [handle](HWND held) {
         UserGuard guard(UserLock());
         const Window* ancestor = PeekWindow(handle);
@@ -73,7 +72,7 @@ void LeaveDisabledOrHidden(Window* window) {
         UserGuard guard(UserLock());
         const Window* each = PeekWindow(handle);
         if (hidden && each != nullptr && (each->style & WS_CHILD) != 0 && each->parent != nullptr &&
-            each->parent != Desktop()) {
+            each->parent->thread == thread) {
             next = each->parent->handle;
         }
     }

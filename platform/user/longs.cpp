@@ -116,16 +116,6 @@ LONG_PTR Get(HWND handle, int index, bool wide) {
     }
 }
 
-/// @returns whether `owner` may own the window: a window cannot own itself, directly or not.
-bool MayOwn(const Window* owner, const Window* window) {
-    for (; owner; owner = owner->owner) {
-        if (owner == window) {
-            return false;
-        }
-    }
-    return true;
-}
-
 LONG_PTR SetOwner(HWND handle, HWND value) {
     {
         const UserGuard guard(UserLock());
@@ -135,7 +125,7 @@ LONG_PTR SetOwner(HWND handle, HWND value) {
             return 0;
         }
         if (!IsChildStyle(window->style)) {
-            if (!MayOwn(TopLevel(owner), window)) {
+            if (LeadsTo(owner, window)) {
                 SetLastError(ERROR_INVALID_PARAMETER);
                 return 0;
             }

@@ -95,9 +95,9 @@ UINT FrameMessage(UINT message) {
 
 bool IsSecondClick(const ThreadState* self, HWND window, UINT message, const InputEvent& event) {
     const auto& last = self->lastClick;
-    const auto near = [](LONG a, LONG b, int metric) { return std::abs(a - b) * 2 <= GetSystemMetrics(metric); };
+    const auto isNear = [](LONG a, LONG b, int metric) { return std::abs(a - b) * 2 <= GetSystemMetrics(metric); };
     return last.window == window && last.message == message && event.time - last.time <= GetDoubleClickTime() &&
-           near(event.point.x, last.point.x, SM_CXDOUBLECLK) && near(event.point.y, last.point.y, SM_CYDOUBLECLK);
+           isNear(event.point.x, last.point.x, SM_CXDOUBLECLK) && isNear(event.point.y, last.point.y, SM_CYDOUBLECLK);
 }
 
 LPARAM PointIn(const Window* window, POINT point) {
@@ -105,7 +105,7 @@ LPARAM PointIn(const Window* window, POINT point) {
 }
 
 // Ancestors hear of presses in their descendants.
-void NotifyParents(UserHold& hold, HWND window, UINT message, POINT point) {
+void TellParentsOfPress(UserHold& hold, HWND window, UINT message, POINT point) {
     for (;;) {
         const Window* child = PeekWindow(window);
         if (child == nullptr || (child->style & WS_CHILD) == 0 || (child->exStyle & WS_EX_NOPARENTNOTIFY) != 0 ||
@@ -155,7 +155,7 @@ bool Accompany(ThreadState* self, UserHold& hold, const InputEvent& event, const
         return false;
     }
     if (press) {
-        NotifyParents(hold, target.window, ButtonMessage(event), event.point);
+        TellParentsOfPress(hold, target.window, ButtonMessage(event), event.point);
         if (!AskForActivation(self, hold, target, message)) {
             return false;
         }

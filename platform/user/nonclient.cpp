@@ -227,8 +227,11 @@ MINMAXINFO QueryMinMax(HWND handle) {
         const RECT ground = window && window->parent ? window->parent->clientRect : Desktop()->clientRect;
         limits.ptMaxSize = {ground.right - ground.left + 2 * frame, ground.bottom - ground.top + 2 * frame};
         limits.ptMaxPosition = {-frame, -frame};
+        // The least size has room for a caption with its buttons; a mere frame needs its own edges only.
+        const bool plain = window && !(window->style & (WS_BORDER | WS_DLGFRAME));
+        limits.ptMinTrackSize = plain ? POINT{2 * frame, 2 * frame}
+                                      : POINT{GetSystemMetrics(SM_CXMINTRACK), GetSystemMetrics(SM_CYMINTRACK)};
     }
-    limits.ptMinTrackSize = {GetSystemMetrics(SM_CXMINTRACK), GetSystemMetrics(SM_CYMINTRACK)};
     limits.ptMaxTrackSize = {GetSystemMetrics(SM_CXMAXTRACK), GetSystemMetrics(SM_CYMAXTRACK)};
     SendMessageA(handle, WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
     return limits;
@@ -236,7 +239,7 @@ MINMAXINFO QueryMinMax(HWND handle) {
 
 LRESULT DefaultNonClient(Window* window, UINT message, WPARAM wParam, LPARAM lParam) {
     const HWND handle = window->handle;
-    const POINT point{static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+    const POINT point = MousePoint(lParam);
     switch (message) {
         case WM_NCCALCSIZE: {
             const UINT classStyle = window->windowClass->style;

@@ -1,17 +1,16 @@
 // The steps of a paint: WM_NCPAINT where the frame is due, WM_ERASEBKGND where the background is, WM_PAINT.
 #include "user/paint_list.h"
 
+#include <utility>
+
 #include "base/handle.h"
 #include "gdi/device_context.h"
 #include "user/painting.h"
+#include "user/queue.h"
 #include "user/thread.h"
 
 namespace platform::user {
 namespace {
-
-Window* Peek(HWND handle) {
-    return base::Find<Window>(handle, base::HandleKind::Window);
-}
 
 /// Children lose what their parent paints over.
 void InvalidateOverpainted(Window* parent, const gdi::Region& painted) {
@@ -55,7 +54,7 @@ void SendFramePaint(HWND handle) {
     HRGN object = nullptr;
     {
         UserGuard guard(UserLock());
-        Window* window = Peek(handle);
+        Window* window = PeekWindow(handle);
         if (window == nullptr || !window->frameNeeded) {
             return;
         }
@@ -88,7 +87,7 @@ void SendErase(HWND handle) {
     HDC context = nullptr;
     {
         UserGuard guard(UserLock());
-        Window* window = Peek(handle);
+        Window* window = PeekWindow(handle);
         if (window == nullptr || !window->eraseNeeded) {
             return;
         }
@@ -107,29 +106,60 @@ void SendErase(HWND handle) {
     ReleaseContext(context);
     if (!erased) {
         UserGuard guard(UserLock());
-        if (Window* window = Peek(handle); window != nullptr) {
+        if (Window* window = PeekWindow(handle); window != nullptr) {
             window->eraseNeeded = true;
         }
     }
 }
 
-void UpdateTree(HWND handle, UINT children, bool eraseOnly) {
-    bool due = false;
+LRESULT CallPaint(HWND handle, WPARAM wParam, LPARAM lParam) {
+    WNDPROC procedure = nullptr;
+    bool outer = false;
     {
         UserGuard guard(UserLock());
-        Window* window = Peek(handle);
+        Window* window = PeekWindow(handle);
+        if (window == nullptr) {
+            return 0;
+        }
+        procedure = window->procedure;
+        outer = std::exchange(window->paintRuns, true);
+    }
+    const LRESULT result = CallProcedure(procedure, handle, WM_PAINT, wParam, lParam);
+    UserGuard guard(UserLock());
+    Window* window = PeekWindow(handle);
+    if (window == nullptr) {
+        return result;
+    }
+    window->paintRuns = window->paintRuns && outer;
+    if (!window->paintRuns && NeedsPaint(window) && window->thread != nullptr) {
+        // The queue may have passed it over meanwhile.
+        window->thread->paintWindows = 1;
+        WakeThread(window->thread, QS_PAINT);
+    }
+    return result;
+}
+
+void UpdateTree(HWND handle, UINT children, bool eraseOnly) {
+    bool due = false;
+    bool own = false;
+    {
+        UserGuard guard(UserLock());
+        Window* window = PeekWindow(handle);
         if (window == nullptr || !IsShown(window)) {
             return;
         }
         due = NeedsPaint(window) && PruneUpdate(window);
         if (due && !eraseOnly) {
             TakePaintRequest(window);
+            own = window->thread == CurrentThread();
         }
     }
     if (due) {
         if (eraseOnly) {
             SendFramePaint(handle);
             SendErase(handle);
+        } else if (own) {
+            CallPaint(handle, 0, 0);
         } else {
             SendMessageA(handle, WM_PAINT, 0, 0);
         }
@@ -137,7 +167,7 @@ void UpdateTree(HWND handle, UINT children, bool eraseOnly) {
     PaintList list;
     {
         UserGuard guard(UserLock());
-        const Window* window = Peek(handle);
+        const Window* window = PeekWindow(handle);
         if (window == nullptr || window->firstChild == nullptr || (children & RDW_NOCHILDREN) != 0 ||
             (window->style & WS_MINIMIZE) != 0) {
             return;
@@ -188,6 +218,7 @@ HDC WINAPI BeginPaint(HWND handle, LPPAINTSTRUCT paint) {
         }
         gdi::Region region = std::move(window->update);
         window->update.Clear();
+        window->paintRuns = false;
         region.Offset(window->windowRect.left, window->windowRect.top);
         region.Intersect(Visible(window, StyleFlags(window)));
         InvalidateOverpainted(window, region);
@@ -213,7 +244,7 @@ HDC WINAPI BeginPaint(HWND handle, LPPAINTSTRUCT paint) {
     if (erase && SendMessageA(handle, WM_ERASEBKGND, reinterpret_cast<WPARAM>(context), 0) == 0) {
         paint->fErase = TRUE;
         UserGuard guard(UserLock());
-        if (Window* window = Peek(handle); window != nullptr) {
+        if (Window* window = PeekWindow(handle); window != nullptr) {
             window->eraseNeeded = true;
         }
     }
@@ -227,7 +258,7 @@ BOOL WINAPI EndPaint(HWND handle, const PAINTSTRUCT* paint) {
     bool painting = false;
     if (ReleaseContext(paint->hdc, &painting) && painting) {
         ResumeCaret(handle);
-        PresentSoon();
+        OpenDisplay();
     }
     return TRUE;
 }

@@ -5,18 +5,14 @@
 #include <new>
 #include <vector>
 
-#include "base/handle.h"
 #include "gdi/screen.h"
 #include "user/painting.h"
 #include "user/position_step.h"
+#include "user/queue.h"
 #include "user/thread.h"
 
 namespace platform::user {
 namespace {
-
-Window* Peek(HWND handle) {
-    return base::Find<Window>(handle, base::HandleKind::Window);
-}
 
 bool SameSize(const RECT& a, const RECT& b) {
     return a.right - a.left == b.right - b.left && a.bottom - a.top == b.bottom - b.top;
@@ -131,7 +127,7 @@ void CalculateClient(Step& step) {
     UINT classStyle = 0;
     {
         UserGuard guard(UserLock());
-        const Window* window = Peek(position.hwnd);
+        const Window* window = PeekWindow(position.hwnd);
         if (window == nullptr) {
             return;
         }
@@ -186,8 +182,8 @@ void Report(Step& step) {
     const HWND handle = position.hwnd;
     UINT& flags = position.flags;
     if ((flags & SWP_HIDEWINDOW) != 0) {
-        if (Window* window = Peek(handle); window != nullptr) {
-            LeaveDisabledOrHidden(window);
+        if (Window* window = PeekWindow(handle); window != nullptr) {
+            LeaveDisabledOrHidden(window, true);
         }
     }
     if ((flags & (SWP_NOACTIVATE | SWP_HIDEWINDOW)) == 0) {
@@ -195,7 +191,7 @@ void Report(Step& step) {
         bool shown = false;
         {
             UserGuard guard(UserLock());
-            const Window* window = Peek(handle);
+            const Window* window = PeekWindow(handle);
             if (window == nullptr) {
                 return;
             }
@@ -208,7 +204,7 @@ void Report(Step& step) {
             ActivateWindow(handle, false);
         }
     }
-    if (!ChangesAnything(flags) || Peek(handle) == nullptr) {
+    if (!ChangesAnything(flags) || PeekWindow(handle) == nullptr) {
         return;
     }
     // Documented for the place: what the window came to, even where it was not asked for.

@@ -2,19 +2,14 @@
 #include <algorithm>
 #include <new>
 
-#include "base/handle.h"
 #include "gdi/screen.h"
 #include "user/position_step.h"
-#include "user/thread.h"
+#include "user/queue.h"
 
 namespace platform::user {
 namespace {
 
 constexpr unsigned kPixels = kVisibleWhole | kVisibleClipSiblings;
-
-Window* Peek(HWND handle) {
-    return base::Find<Window>(handle, base::HandleKind::Window);
-}
 
 /// A window that only moves in the z-order because another one of its owner group does.
 struct Companion {
@@ -88,7 +83,7 @@ std::vector<Companion> Companions(const std::vector<Step>& steps) {
     std::vector<Companion> companions;
     std::vector<Window*> group;
     for (const Step& step : steps) {
-        Window* window = step.alive && step.order ? Peek(step.change->position.hwnd) : nullptr;
+        Window* window = step.alive && step.order ? PeekWindow(step.change->position.hwnd) : nullptr;
         if (window != nullptr && window->parent == Desktop()) {
             CollectGroup(window, group);
         }
@@ -117,7 +112,7 @@ void ApplySteps(std::vector<Step>& steps) {
         // Then they are drawn when next something uncovers them.
     }
     for (Step& step : steps) {
-        Window* window = step.alive ? Peek(step.change->position.hwnd) : nullptr;
+        Window* window = step.alive ? PeekWindow(step.change->position.hwnd) : nullptr;
         step.alive = window != nullptr;
         if (window != nullptr) {
             step.wasVisible = (window->style & WS_VISIBLE) != 0;
@@ -127,7 +122,7 @@ void ApplySteps(std::vector<Step>& steps) {
         }
     }
     for (Step& step : steps) {
-        Window* window = step.alive ? Peek(step.change->position.hwnd) : nullptr;
+        Window* window = step.alive ? PeekWindow(step.change->position.hwnd) : nullptr;
         if (window == nullptr) {
             continue;
         }
@@ -148,7 +143,7 @@ void ApplySteps(std::vector<Step>& steps) {
     Window* parent = nullptr;
     bool sameParent = true;
     for (Step& step : steps) {
-        Window* window = step.alive ? Peek(step.change->position.hwnd) : nullptr;
+        Window* window = step.alive ? PeekWindow(step.change->position.hwnd) : nullptr;
         if (window == nullptr || (step.change->position.flags & SWP_NOREDRAW) != 0) {
             continue;
         }

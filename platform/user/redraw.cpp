@@ -53,6 +53,9 @@ void ValidateWalk(Window* window, const gdi::Region& area, UINT flags) {
     if ((flags & RDW_NOERASE) != 0 || window->update.Empty()) {
         window->eraseNeeded = false;
     }
+    if (window->update.Empty()) {
+        window->paintRuns = false;
+    }
     if (!AffectsChildren(window, flags)) {
         return;
     }
@@ -197,7 +200,7 @@ BOOL WINAPI ValidateRect(HWND handle, const RECT* rect) {
         // Documented so: without a window everything is invalidated.
         return RedrawWindow(nullptr, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
     }
-    if (!RedrawWindow(handle, rect, nullptr, RDW_VALIDATE | RDW_NOCHILDREN)) {
+    if (!RedrawWindow(handle, rect, nullptr, RDW_VALIDATE)) {
         return FALSE;
     }
     FinishFrame(handle);

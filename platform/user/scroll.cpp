@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "base/handle.h"
+#include "gdi/context.h"
 #include "gdi/device_context.h"
 #include "gdi/screen.h"
 #include "user/painting.h"
@@ -11,10 +12,6 @@
 
 namespace platform::user {
 namespace {
-
-int TypeOf(const gdi::Region& region) {
-    return region.Empty() ? NULLREGION : region.IsRect() ? SIMPLEREGION : COMPLEXREGION;
-}
 
 gdi::Region Shifted(const gdi::Region& region, int dx, int dy) {
     gdi::Region moved = region;
@@ -160,7 +157,7 @@ int WINAPI ScrollWindowEx(HWND handle, int dx, int dy, const RECT* scroll, const
     if (updateRect != nullptr) {
         *updateRect = exposed.Bounds();
     }
-    const int type = TypeOf(exposed);
+    const int type = gdi::Complexity(exposed);
     if (updateRegion != nullptr && !gdi::AssignRegion(updateRegion, exposed)) {
         SetLastError(ERROR_INVALID_HANDLE);
         return ERROR;

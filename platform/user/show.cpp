@@ -156,16 +156,6 @@ bool IsVisibleItself(const Window* window) {
     return (window->style & WS_VISIBLE) != 0;
 }
 
-std::vector<HWND> OwnedBy(const Window* owner) {
-    std::vector<HWND> owned;
-    for (const Window* window = Desktop()->firstChild; window != nullptr; window = window->next) {
-        if (window->owner == owner) {
-            owned.push_back(window->handle);
-        }
-    }
-    return owned;
-}
-
 /// @returns whether a window is to go or to come with its owner.
 bool FollowsOwner(HWND handle, bool show) {
     UserGuard guard(UserLock());
@@ -238,7 +228,7 @@ BOOL WINAPI ShowWindow(HWND handle, int show) {
     }
     if (bitOnly) {
         if (!plan.show) {
-            LeaveDisabledOrHidden(window);
+            LeaveDisabledOrHidden(window, true);
         }
         return wasVisible;
     }
@@ -272,7 +262,7 @@ BOOL WINAPI ShowOwnedPopups(HWND owner, BOOL show) {
             return FALSE;
         }
         try {
-            owned = OwnedBy(window);
+            owned = WindowsOwnedBy(window);
         } catch (const std::bad_alloc&) {
             SetLastError(ERROR_NOT_ENOUGH_MEMORY);
             return FALSE;

@@ -70,7 +70,7 @@ BOOL WINAPI EnableWindow(HWND handle, BOOL enable) {
         }
         window->style |= WS_DISABLED;
         hold.unlock();
-        LeaveDisabledOrHidden(window);
+        LeaveDisabledOrHidden(window, false);
     }
     SendMessageA(handle, WM_ENABLE, enable != FALSE, 0);
     return wasDisabled;

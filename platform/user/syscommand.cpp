@@ -9,14 +9,15 @@ namespace platform::user {
 namespace {
 
 constexpr int kKeyStep = 8;
+constexpr int kReach = 32;  ///< how much of a caption stays in sight
 
-DWORD StyleOf(HWND handle) {
+DWORD LiveStyle(HWND handle) {
     const Window* window = PeekWindow(handle);
     return window ? window->style : 0;
 }
 
 HWND ParentOf(HWND handle) {
-    return IsChildStyle(StyleOf(handle)) ? GetParent(handle) : nullptr;
+    return IsChildStyle(LiveStyle(handle)) ? GetParent(handle) : nullptr;
 }
 
 void Place(HWND handle, RECT rect) {
@@ -27,6 +28,48 @@ void Place(HWND handle, RECT rect) {
 
 bool Touches(int edge, std::initializer_list<int> codes) {
     return std::find(codes.begin(), codes.end(), edge) != codes.end();
+}
+
+/// Where a window can be seen: on the screen, a child in its parent's client area.
+RECT SightOf(const Window* window) {
+    return IsChildStyle(window->style) && window->parent ? window->parent->clientRect : Desktop()->windowRect;
+}
+
+/// What a window can be moved by: its caption between the icon and the buttons.
+RECT GripOf(const Window* window, const RECT& rect) {
+    const CaptionParts parts = LayOutCaption(window, rect);
+    RECT grip = parts.bar;
+    grip.left = parts.icon.right > parts.icon.left ? parts.icon.right : grip.left;
+    for (const RECT& button : {parts.help, parts.minimize, parts.maximize, parts.close}) {
+        grip.right = button.right > button.left ? std::min(grip.right, button.left) : grip.right;
+    }
+    return grip.left < grip.right ? grip : parts.bar;
+}
+
+/// Moves a rectangle for a window back to where the caption can be got hold of.
+void KeepInReach(HWND handle, RECT* rect) {
+    const UserGuard guard(UserLock());
+    const Window* window = PeekWindow(handle);
+    if (!window || CaptionHeight(window->style, window->exStyle) == 0) {
+        return;
+    }
+    const RECT sight = SightOf(window);
+    const RECT grip = GripOf(window, *rect);
+    const LONG reach = std::min<LONG>(kReach, grip.right - grip.left);
+    LONG dx = std::min<LONG>(0, sight.right - reach - grip.left);
+    dx = std::max(dx, sight.left + reach - grip.right);
+    LONG dy = std::min<LONG>(0, sight.bottom - grip.bottom);
+    dy = std::max(dy, sight.top - rect->top);
+    OffsetRect(rect, dx, dy);
+}
+
+/// An edge follows the pointer no further than the pointer can be seen.
+POINT InSight(HWND handle, POINT point) {
+    const UserGuard guard(UserLock());
+    const Window* window = PeekWindow(handle);
+    const RECT sight = window ? SightOf(window) : RECT{point.x, point.y, point.x + 1, point.y + 1};
+    return {std::clamp(point.x, sight.left, std::max(sight.left, sight.right - 1)),
+            std::clamp(point.y, sight.top, std::max(sight.top, sight.bottom - 1))};
 }
 
 /// The rectangle after its edge, or all of it, followed the pointer by an offset.
@@ -88,7 +131,7 @@ void SetMoveSize(HWND handle) {
 }
 
 /// One round of moving or sizing: where the window was, what of it follows, and how far by now.
-struct Drag {
+struct MoveDrag {
     HWND window;
     int part;
     RECT start{};
@@ -99,23 +142,39 @@ struct Drag {
     void Apply() const {
         RECT rect = Follow(start, part, dx, dy, limits);
         const bool moving = part == HTCAPTION;
+        if (moving) {
+            KeepInReach(window, &rect);
+        }
         SendMessageA(window, moving ? WM_MOVING : WM_SIZING, moving ? 0 : SizingEdge(part),
                      reinterpret_cast<LPARAM>(&rect));
         Place(window, rect);
     }
 
     void MoveTo(POINT from, POINT to) {
+        to = part == HTCAPTION ? to : InSight(window, to);
         if (dx != to.x - from.x || dy != to.y - from.y) {
             dx = to.x - from.x;
             dy = to.y - from.y;
             Apply();
         }
     }
+
+    /// An arrow key goes on from where the last one has led.
+    void Step(int stepX, int stepY) {
+        dx += stepX;
+        dy += stepY;
+        Apply();
+        RECT now;
+        if (part == HTCAPTION && GetWindowRect(window, &now)) {
+            dx = now.left - start.left;
+            dy = now.top - start.top;
+        }
+    }
 };
 
 /// Moves or sizes until the button is let go, or Enter or Escape is pressed. Escape puts everything back.
 void MoveOrSize(HWND handle, int part, bool byMouse, POINT from) {
-    Drag drag{handle, part};
+    MoveDrag drag{handle, part};
     GetWindowRect(handle, &drag.start);
     if (part != HTCAPTION) {
         drag.limits = QueryMinMax(handle);
@@ -139,9 +198,7 @@ void MoveOrSize(HWND handle, int part, bool byMouse, POINT from) {
             Place(handle, drag.start);
             break;
         } else if (message.message == WM_KEYDOWN && ArrowStep(message.wParam, &stepX, &stepY)) {
-            drag.dx += stepX;
-            drag.dy += stepY;
-            drag.Apply();
+            drag.Step(stepX, stepY);
         } else if (!IsInput(message.message)) {
             DispatchMessageA(&message);
         }
@@ -228,7 +285,7 @@ void PressFrame(HWND handle, int hitCode, POINT point) {
         case HTMAXBUTTON:
             if (TrackButton(handle, hitCode)) {
                 SendMessageA(handle, WM_SYSCOMMAND,
-                             static_cast<WPARAM>(StyleOf(handle) & WS_MAXIMIZE ? SC_RESTORE : SC_MAXIMIZE), where);
+                             static_cast<WPARAM>(LiveStyle(handle) & WS_MAXIMIZE ? SC_RESTORE : SC_MAXIMIZE), where);
             }
             break;
         case HTVSCROLL:
@@ -246,7 +303,7 @@ void PressFrame(HWND handle, int hitCode, POINT point) {
 
 LRESULT SystemCommand(HWND handle, WPARAM command, POINT point) {
     const WPARAM detail = command & 0xF;
-    const DWORD style = StyleOf(handle);
+    const DWORD style = LiveStyle(handle);
     switch (command & 0xFFF0) {
         case SC_MOVE:
             if (!(style & (WS_MAXIMIZE | WS_MINIMIZE))) {

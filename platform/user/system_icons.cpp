@@ -77,8 +77,8 @@ void DrawHand(Canvas& canvas) {
         [](double x, double y) {
             const double dx = x - 15.5;
             const double dy = y - 15.5;
-            const bool near = std::fabs(dx) <= 7.5 && std::fabs(dy) <= 7.5;
-            return near && (std::fabs(dx - dy) <= 3 || std::fabs(dx + dy) <= 3);
+            const bool inside = std::fabs(dx) <= 7.5 && std::fabs(dy) <= 7.5;
+            return inside && (std::fabs(dx - dy) <= 3 || std::fabs(dx + dy) <= 3);
         },
         kWhite);
 }

@@ -38,6 +38,7 @@ void EndThread(ThreadState* thread) {
     std::vector<HWND> windows;
     {
         UserGuard guard(UserLock());
+        thread->ending = true;
         try {
             CollectWindows(Desktop(), thread, &windows);
             CollectWindows(MessageRoot(), thread, &windows);

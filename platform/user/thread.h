@@ -82,6 +82,8 @@ struct ThreadState {
     std::deque<InputEvent> input;        ///< routed to this thread, not yet taken
     SentMessage* answering = nullptr;    ///< from another thread, being handled now
     bool sleeping = false;
+    bool objectSignalled = false;  ///< one of the kernel objects it waits for, since it last looked at them
+    bool ending = false;         ///< is over; its windows are being cleared away
     HWND lastActive = nullptr;   ///< what to activate when the thread comes to the foreground again
     bool comingForward = false;  ///< was given the foreground, and has yet to activate its window
     bool altAlone = false;       ///< no other key was pressed since Alt went down
@@ -104,9 +106,9 @@ ThreadState* CurrentThread();
 /// Sets wake bits (QS_POSTMESSAGE, QS_PAINT, ...) and wakes the thread if it waits. Lock held.
 void WakeThread(ThreadState* thread, DWORD bits);
 
-/// The screen has been drawn to and a natural pause has come (a paint ended, the queue is empty): lets the display
-/// present.
-void PresentSoon();
+/// A pause has come (a paint ended, the queue is empty): starts the display if there is something to show by now.
+/// From then on whatever is drawn wakes it, and nothing else does.
+void OpenDisplay();
 
 /// Input from the display or from SendInput, in screen coordinates; safe from any thread.
 void InjectMouseMove(int x, int y);

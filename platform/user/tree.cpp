@@ -102,10 +102,20 @@ Window* TopLevel(Window* window) {
     if (!window || window == Desktop() || window == MessageRoot()) {
         return nullptr;
     }
-    while (window->parent && window->parent != Desktop() && window->parent != MessageRoot()) {
+    while (IsChildStyle(window->style) && window->parent && window->parent != Desktop() &&
+           window->parent != MessageRoot()) {
         window = window->parent;
     }
     return window;
+}
+
+bool LeadsTo(const Window* window, const Window* target) {
+    for (; window; window = window->parent) {
+        if (window == target || (window->owner && LeadsTo(window->owner, target))) {
+            return true;
+        }
+    }
+    return false;
 }
 
 void OffsetTree(Window* window, int dx, int dy) {
@@ -116,14 +126,32 @@ void OffsetTree(Window* window, int dx, int dy) {
     }
 }
 
+HWND HandleOf(const Window* window) {
+    return window && window != MessageRoot() ? window->handle : nullptr;
+}
+
+std::vector<HWND> WindowsOwnedBy(const Window* owner) {
+    std::vector<HWND> owned;
+    for (const Window* window = Desktop()->firstChild; window; window = window->next) {
+        if (window->owner == owner) {
+            owned.push_back(window->handle);
+        }
+    }
+    return owned;
+}
+
 }  // namespace platform::user
 
 using namespace platform::user;
 
 namespace {
 
-HWND HandleOf(const Window* window) {
-    return window && window != MessageRoot() ? window->handle : nullptr;
+/// The end of the chain of parents, whatever the styles on the way.
+Window* RootOf(Window* window) {
+    while (window->parent && window->parent != Desktop() && window->parent != MessageRoot()) {
+        window = window->parent;
+    }
+    return window;
 }
 
 }  // namespace
@@ -154,10 +182,10 @@ HWND WINAPI GetAncestor(HWND handle, UINT flags) {
         case GA_PARENT:
             return HandleOf(window->parent);
         case GA_ROOT:
-            return HandleOf(TopLevel(window));
+            return HandleOf(RootOf(window));
         case GA_ROOTOWNER:
-            for (window = TopLevel(window); window && window->owner;) {
-                window = TopLevel(window->owner);
+            for (window = RootOf(window); window->owner;) {
+                window = RootOf(window->owner);
             }
             return HandleOf(window);
         default:
@@ -226,7 +254,7 @@ HWND WINAPI SetParent(HWND handle, HWND newParent) {
             SetLastError(ERROR_ACCESS_DENIED);
             return nullptr;
         }
-        if (window == parent || IsAncestor(window, parent)) {
+        if (LeadsTo(parent, window)) {
             SetLastError(ERROR_INVALID_PARAMETER);
             return nullptr;
         }
@@ -242,6 +270,11 @@ HWND WINAPI SetParent(HWND handle, HWND newParent) {
         Window* parent = newParent == HWND_MESSAGE ? MessageRoot() : newParent ? PeekWindow(newParent) : Desktop();
         if (!window || !parent || parent->ending) {
             SetLastError(ERROR_INVALID_WINDOW_HANDLE);
+            return nullptr;
+        }
+        // Hiding it has let procedures run.
+        if (LeadsTo(parent, window)) {
+            SetLastError(ERROR_INVALID_PARAMETER);
             return nullptr;
         }
         // It keeps its place within the client area of whoever is its parent.

@@ -2,6 +2,7 @@
 #include <new>
 
 #include "base/handle.h"
+#include "gdi/context.h"
 #include "gdi/device_context.h"
 #include "user/painting.h"
 #include "user/thread.h"
@@ -17,7 +18,7 @@ Window* Search(Window* window, const ThreadState* thread) {
     if ((window->style & WS_VISIBLE) == 0) {
         return nullptr;
     }
-    if (window->thread == thread && NeedsPaint(window) && PruneUpdate(window)) {
+    if (window->thread == thread && !window->paintRuns && NeedsPaint(window) && PruneUpdate(window)) {
         return window;
     }
     return (window->style & WS_MINIMIZE) != 0 ? nullptr : SearchChildren(window, thread);
@@ -36,10 +37,6 @@ Window* SearchChildren(Window* parent, const ThreadState* thread) {
         }
     }
     return transparent;
-}
-
-int TypeOf(const gdi::Region& region) {
-    return region.Empty() ? NULLREGION : region.IsRect() ? SIMPLEREGION : COMPLEXREGION;
 }
 
 /// The update region of the client area in client coordinates.
@@ -175,7 +172,7 @@ int WINAPI GetUpdateRgn(HWND handle, HRGN result, BOOL erase) {
         SetLastError(ERROR_INVALID_HANDLE);
         return ERROR;
     }
-    return TypeOf(region);
+    return gdi::Complexity(region);
 }
 
 int WINAPI ExcludeUpdateRgn(HDC context, HWND handle) {

@@ -1,7 +1,10 @@
 // Waiting for messages without taking any, and asking what there is.
 #include <algorithm>
+#include <optional>
 
 #include "base/clock.h"
+#include "kernel/guarded.h"
+#include "kernel/waitable.h"
 #include "user/queue.h"
 
 namespace platform::user {
@@ -38,74 +41,52 @@ DWORD PendingBits(ThreadState* self) {
     return bits;
 }
 
-enum class Waited { Message, Objects, TimedOut, Failed };
+enum class Waited { Message, Objects, TimedOut };
 
-struct Objects {
-    const HANDLE* handles = nullptr;
-    DWORD count = 0;
-    bool all = false;
-};
-
-// Takes the objects that the caller waits for if they are signalled: one of them, or all together. The lock is open
-// meanwhile. @returns what the waiting functions say.
-DWORD TakeObjects(const Objects& objects, UserHold& hold) {
-    hold.unlock();
-    DWORD outcome = WAIT_TIMEOUT;
-    for (DWORD i = 0; i < objects.count; ++i) {
-        const DWORD state = WaitForSingleObject(objects.handles[i], 0);
-        if (state == WAIT_FAILED) {
-            outcome = WAIT_FAILED;
-            break;
-        }
-        if (state != WAIT_TIMEOUT && (!objects.all || i + 1 == objects.count)) {
-            outcome = WAIT_OBJECT_0 + (objects.all ? 0 : i);
-            break;
-        }
-        if (state == WAIT_TIMEOUT && objects.all) {
-            // The looks before this one have taken events that reset themselves; threads do not mind.
-            const DWORD error = GetLastError();
-            for (DWORD taken = 0; taken < i; ++taken) {
-                SetEvent(objects.handles[taken]);
-            }
-            SetLastError(error);
-            break;
-        }
-    }
-    hold.lock();
-    return outcome;
+void NoteSignalled(void* thread) {
+    UserGuard guard(UserLock());
+    auto* self = static_cast<ThreadState*>(thread);
+    self->objectSignalled = true;
+    WakeThread(self, 0);
 }
 
-// Kernel objects do not wake a message queue, so while a thread waits for both it looks at them this often.
-constexpr std::uint64_t kObjectInterval = 5;
-
 // Waits for messages that came since the queue was last looked at (or for any with `present`), or for kernel objects,
-// whose outcome goes to `taken`.
-Waited Wait(ThreadState* self, UserHold& hold, DWORD mask, bool present, const Objects& objects, std::uint64_t deadline,
-            DWORD* taken) {
+// whose outcome goes to `taken`. `all`: for a message and all objects together.
+Waited Wait(ThreadState* self, UserHold& hold, DWORD mask, bool present, kernel::ObjectWait* objects, bool all,
+            std::uint64_t deadline, DWORD* taken) {
+    const auto arrived = [&] {
+        return (self->wakeBits & mask) != 0 || (present && (PendingBits(self) & mask) != 0);
+    };
     for (;;) {
         const std::uint64_t next = std::min(CheckTimers(self), CheckCaret(self));
-        const bool message = (self->wakeBits & mask) != 0 || (present && (PendingBits(self) & mask) != 0);
-        if (objects.count > 0 && (message || !objects.all)) {
-            *taken = TakeObjects(objects, hold);
+        const bool message = arrived();
+        self->objectSignalled = false;
+        if (objects != nullptr && (message || !all)) {
+            // Those who signal take the objects' locks before this one.
+            hold.unlock();
+            *taken = objects->Take(all);
+            hold.lock();
             if (*taken != WAIT_TIMEOUT) {
-                return *taken == WAIT_FAILED ? Waited::Failed : Waited::Objects;
+                return Waited::Objects;
             }
         }
-        if (message && !objects.all) {
+        if (message && !all) {
             return Waited::Message;
         }
         if (!self->sent.empty()) {
             ServeSent(self, hold);
-            if ((mask & QS_SENDMESSAGE) != 0) {
+            if ((mask & QS_SENDMESSAGE) != 0 && !all) {
                 return Waited::Message;
             }
             continue;
         }
-        const std::uint64_t now = base::TickCount64();
-        if (now >= deadline) {
+        if (base::TickCount64() >= deadline) {
             return Waited::TimedOut;
         }
-        Sleep(self, hold, std::min({next, deadline, objects.count > 0 ? now + kObjectInterval : UINT64_MAX}));
+        // What came while the lock was open has woken nobody.
+        if (!self->objectSignalled && arrived() == message) {
+            Sleep(self, hold, std::min(next, deadline));
+        }
     }
 }
 
@@ -116,22 +97,30 @@ DWORD WaitForMessagesAndObjects(DWORD count, const HANDLE* handles, bool all, DW
         SetLastError(ERROR_INVALID_PARAMETER);
         return WAIT_FAILED;
     }
-    PresentSoon();
-    UserHold hold(UserLock());
-    const std::uint64_t deadline = milliseconds == INFINITE ? UINT64_MAX : base::TickCount64() + milliseconds;
-    DWORD taken = 0;
-    switch (Wait(self, hold, mask, present, {handles, count, all}, deadline, &taken)) {
-        case Waited::Message:
-            self->wakeBits &= ~mask;
-            return WAIT_OBJECT_0 + count;
-        case Waited::Objects:
-            return taken;
-        case Waited::TimedOut:
-            return WAIT_TIMEOUT;
-        case Waited::Failed:
-            break;
-    }
-    return WAIT_FAILED;
+    OpenDisplay();
+    return kernel::Guarded(WAIT_FAILED, [&]() -> DWORD {
+        std::optional<kernel::ObjectWait> objects;
+        if (count > 0) {
+            objects.emplace(handles, count, NoteSignalled, self);
+            if (const DWORD error = objects->Error(); error != ERROR_SUCCESS || (all && objects->HasTwice())) {
+                SetLastError(error != ERROR_SUCCESS ? error : ERROR_INVALID_PARAMETER);
+                return WAIT_FAILED;
+            }
+        }
+        UserHold hold(UserLock());
+        const std::uint64_t deadline = milliseconds == INFINITE ? UINT64_MAX : base::TickCount64() + milliseconds;
+        DWORD taken = 0;
+        switch (Wait(self, hold, mask, present, objects ? &*objects : nullptr, all && objects, deadline, &taken)) {
+            case Waited::Message:
+                self->wakeBits &= ~mask;
+                return WAIT_OBJECT_0 + count;
+            case Waited::Objects:
+                return taken;
+            case Waited::TimedOut:
+                break;
+        }
+        return WAIT_TIMEOUT;
+    });
 }
 
 }  // namespace
@@ -144,10 +133,10 @@ BOOL WINAPI WaitMessage(VOID) {
     if (self == nullptr) {
         return FALSE;
     }
-    PresentSoon();
+    OpenDisplay();
     UserHold hold(UserLock());
     DWORD taken = 0;
-    Wait(self, hold, QS_ALLINPUT | QS_ALLPOSTMESSAGE, false, {}, UINT64_MAX, &taken);
+    Wait(self, hold, QS_ALLINPUT | QS_ALLPOSTMESSAGE, false, nullptr, false, UINT64_MAX, &taken);
     return TRUE;
 }
 

@@ -6,6 +6,7 @@
 #include <new>
 
 #include "gdi/screen.h"
+#include "kernel/probe.h"
 #include "user/lifetime.h"
 #include "user/painting.h"
 #include "user/queue.h"
@@ -220,7 +221,7 @@ bool Introduce(HWND handle, CREATESTRUCTA* given) {
         if (!window) {
             return false;
         }
-        if (window->style & WS_THICKFRAME) {
+        if ((window->style & WS_THICKFRAME) && !IsChildStyle(window->style)) {
             Limit(window, limits);
             given->cx = window->windowRect.right - window->windowRect.left;
             given->cy = window->windowRect.bottom - window->windowRect.top;
@@ -305,6 +306,9 @@ HWND WINAPI CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD 
     if (!className) {
         SetLastError(ERROR_CANNOT_FIND_WND_CLASS);
         return nullptr;
+    }
+    if (text && platform::kernel::ProbeLength(text) == platform::kernel::kBadText) {
+        return Refuse(ERROR_NOACCESS);
     }
     InitialiseClasses();
     Request request;

@@ -74,6 +74,7 @@ struct Window {
     bool eraseNeeded = false;                 ///< WM_ERASEBKGND is due with the next BeginPaint
     bool frameNeeded = false;                 ///< WM_NCPAINT is due
     bool internalPaint = false;               ///< RDW_INTERNALPAINT
+    bool paintRuns = false;                   ///< its WM_PAINT is being handled and has not come to BeginPaint
     HDC classOrOwnContext = nullptr;          ///< CS_OWNDC
     struct PaintState* paintState = nullptr;  ///< the painting module's own: cached visible regions
     bool sizeSent = false;                    ///< WM_SIZE and WM_MOVE were sent; else the first ShowWindow sends them
@@ -114,8 +115,12 @@ void UnlinkWindow(Window* window);
 /// @returns whether the window and all its ancestors have WS_VISIBLE.
 bool IsShown(const Window* window);
 bool IsAncestor(const Window* ancestor, const Window* window);
-/// @returns the top-level window above (or at) a window; null for the desktop.
+/// @returns the first window at or above one that is no child by its style: what is activated for it, and what can own others.
+/// Null for the desktop.
 Window* TopLevel(Window* window);
+/// @returns whether a window is, or hangs on, another one by parents and owners: the other one cannot come under it then.
+/// Lock held.
+bool LeadsTo(const Window* window, const Window* target);
 
 /// Registers a class of the layer's own. The controls and dialogs call it from InitialiseClasses.
 void RegisterSystemClass(const char* name, WNDPROC procedure, UINT style, int windowExtra, LPCSTR cursor,
@@ -130,6 +135,16 @@ inline bool IsChildStyle(DWORD style) {
 
 /// The parent of message-only windows (HWND_MESSAGE): never shown, never enumerated.
 Window* MessageRoot();
+
+/// @returns the handle by which applications may know a window; null for none and for the parent of message-only windows.
+HWND HandleOf(const Window* window);
+/// @returns the top-level windows of an owner, from the top of the z-order. Lock held.
+std::vector<HWND> WindowsOwnedBy(const Window* owner);
+
+/// @returns the point that a mouse message carries.
+inline POINT MousePoint(LPARAM lParam) {
+    return {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+}
 
 /// Moves the rectangles of a window and of all its descendants, without a word to them. Lock held.
 void OffsetTree(Window* window, int dx, int dy);
@@ -190,6 +205,10 @@ void WindowsChanged();
 /// A window's WM_PAINT leaves the queue: an internal paint request is over with it. Lock held.
 void TakePaintRequest(Window* window);
 
+/// Calls a window's procedure with WM_PAINT. Until that paints, the queue has no second WM_PAINT for the window: a procedure that
+/// takes messages first would get it for ever. Same thread; no lock held.
+LRESULT CallPaint(HWND handle, WPARAM wParam, LPARAM lParam);
+
 /// @returns how many window contexts are handed out and not released yet, for GetGuiResources.
 int ContextsInUse();
 
@@ -199,8 +218,8 @@ int ContextsInUse();
 /// activates another window where it was the active one.
 void ForgetInput(Window* window);
 
-/// A window was disabled or hidden: gives up capture, moves focus or activation away as documented.
-void LeaveDisabledOrHidden(Window* window);
+/// A window was hidden or, else, disabled: gives up capture, moves focus and, when hidden, activation away as documented.
+void LeaveDisabledOrHidden(Window* window, bool hidden);
 
 /// Activates a top-level window (WM_NCACTIVATE, WM_ACTIVATE, WM_ACTIVATEAPP, focus, z-order). @returns false when the
 /// window refused or cannot be activated (disabled, hidden, a child).

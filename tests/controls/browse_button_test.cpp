@@ -43,6 +43,14 @@ std::string SpecsOf(HWND button) {
     return BROWSE_GetFileSpecs(button, &specs) ? specs : "(none)";
 }
 
+/// A folder that the folder dialog can give: any, or a root where the shell's names are wide.
+std::string Choosable(TempFolder const& folder, std::string const& name) {
+    TestWindow host;
+    HWND const tree = Create(TREELIST_CLASSNAME, host, 0, 1);
+    std::string const path = folder.MakeFolder(name);
+    return folder_tree::Found(tree, path).empty() ? path.substr(0, 3) : path;
+}
+
 constexpr char kFolderDialog[] = "Browse for Folder";
 constexpr char kFileDialog[] = "Browse";
 
@@ -161,11 +169,8 @@ TEST_F(BrowseButton, ClicksThatOpenNothing) {
 }
 
 TEST_F(BrowseButton, AChosenFolderComesInSmallLettersAndTheParentIsTold) {
-    if (folder_tree::NamesAreWide()) {
-        GTEST_SKIP() << folder_tree::kWideNames;
-    }
     TempFolder const folder;
-    std::string const path = folder.MakeFolder("Chosen");
+    std::string const path = Choosable(folder, "Chosen");
     folder.MakeFolder("Before");
     HWND const edit = Create("edit", host_, 0, kBuddyId);
     SetWindowTextA(edit, "old");
@@ -174,8 +179,11 @@ TEST_F(BrowseButton, AChosenFolderComesInSmallLettersAndTheParentIsTold) {
     bool disabledAtFirst = false;
     bool enabledLater = false;
     WhenOpen([&](HWND dialog) {
+        HWND const tree = GetDlgItem(dialog, 102);
         disabledAtFirst = !IsWindowEnabled(GetDlgItem(dialog, IDOK));
-        SelectByKey(GetDlgItem(dialog, 102), path);
+        SelectByKey(tree, folder.Path("Before"));
+        EXPECT_EQ(!folder_tree::Found(tree, folder.Path("Before")).empty(), IsWindowEnabled(GetDlgItem(dialog, IDOK)));
+        SelectByKey(tree, path);
         enabledLater = IsWindowEnabled(GetDlgItem(dialog, IDOK));
         PostMessageA(dialog, WM_COMMAND, IDOK, 0);
     });
@@ -194,11 +202,8 @@ TEST_F(BrowseButton, AChosenFolderComesInSmallLettersAndTheParentIsTold) {
 }
 
 TEST_F(BrowseButton, AppendsToAComboBoxBehindASemicolon) {
-    if (folder_tree::NamesAreWide()) {
-        GTEST_SKIP() << folder_tree::kWideNames;
-    }
     TempFolder const folder;
-    std::string path = folder.MakeFolder("b");
+    std::string path = Choosable(folder, "b");
     HWND const combo = Create("combobox", host_, CBS_DROPDOWN, kBuddyId);
     SetWindowTextA(combo, "first");
     HWND const button = MakeButton(BROWSE_AUTOBUDDY | BROWSE_APPEND);
@@ -240,11 +245,8 @@ TEST_F(BrowseButton, NothingOfTheOldTextIsLeftBehindAFile) {
 }
 
 TEST_F(BrowseButton, NothingOfTheOldTextIsLeftBehindAFolder) {
-    if (folder_tree::NamesAreWide()) {
-        GTEST_SKIP() << folder_tree::kWideNames;
-    }
     TempFolder const folder;
-    std::string path = folder.MakeFolder("b");
+    std::string const path = Choosable(folder, "b");
     auto const browse = [&](HWND button) {
         WhenOpen([&](HWND dialog) {
             SelectByKey(GetDlgItem(dialog, 102), path);
@@ -316,17 +318,15 @@ TEST_F(BrowseButton, DialogsRefuseWhatTheyCannotUse) {
 }
 
 TEST_F(BrowseButton, ALongPathIsCutAtTheBuffersSize) {
-    if (folder_tree::NamesAreWide()) {
-        GTEST_SKIP() << folder_tree::kWideNames;
-    }
     char buffer[8] = "";
     TempFolder const folder;
+    std::string const path = Choosable(folder, "b");
     WhenOpen([&](HWND dialog) {
-        SelectByKey(GetDlgItem(dialog, 102), folder.Path());
+        SelectByKey(GetDlgItem(dialog, 102), path);
         PostMessageA(dialog, WM_COMMAND, IDOK, 0);
     });
-    EXPECT_TRUE(BROWSE_DisplayBrowseDialog(host_, nullptr, nullptr, buffer, 5, 0));
-    std::string lower = folder.Path().substr(0, 4);
+    EXPECT_TRUE(BROWSE_DisplayBrowseDialog(host_, nullptr, nullptr, buffer, 3, 0));
+    std::string lower = path.substr(0, 2);
     CharLowerA(lower.data());
     EXPECT_EQ(lower, buffer);
 }

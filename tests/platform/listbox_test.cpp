@@ -151,7 +151,7 @@ TEST_F(ListBoxTest, FindsAndSelectsTexts) {
 TEST_F(ListBoxTest, ValuesOfItems) {
     const HWND list = Filled(0, {"a", "b"});
     EXPECT_EQ(0, Send(list, LB_GETITEMDATA, 1));
-    Send(list, LB_SETITEMDATA, 1, 4711);
+    EXPECT_TRUE(Send(list, LB_SETITEMDATA, 1, 4711));
     EXPECT_EQ(4711, Send(list, LB_GETITEMDATA, 1));
     EXPECT_EQ(LB_ERR, Send(list, LB_SETITEMDATA, 2, 1));
     Send(list, LB_INSERTSTRING, 0, reinterpret_cast<LPARAM>("new"));
@@ -356,6 +356,27 @@ TEST_F(ListBoxTest, ScrollsItemsIntoView) {
 
     const HWND kept = Make(WS_VSCROLL | LBS_DISABLENOSCROLL);
     EXPECT_TRUE(GetWindowLongA(kept, GWL_STYLE) & WS_VSCROLL);
+}
+
+TEST_F(ListBoxTest, ThePointsItem) {
+    const HWND list = Make(LBS_NOINTEGRALHEIGHT);
+    const auto at = [&](int x, int y) { return Send(list, LB_ITEMFROMPOINT, 0, MAKELPARAM(x, y)); };
+    EXPECT_EQ(MAKELRESULT(-1, 1), at(5, 5)) << "none";
+    for (int i = 0; i < 2; ++i)
+        Send(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("item"));
+    const int height = static_cast<int>(Send(list, LB_GETITEMHEIGHT));
+    RECT client{};
+    GetClientRect(list, &client);
+    ASSERT_GT(client.bottom, 3 * height);
+    EXPECT_EQ(MAKELRESULT(1, 0), at(5, height));
+    EXPECT_EQ(MAKELRESULT(1, 1), at(5, 2 * height)) << "below the last one, though in the window";
+    EXPECT_EQ(MAKELRESULT(0, 1), at(-5, 5));
+    EXPECT_EQ(MAKELRESULT(1, 1), at(client.right, height));
+    for (int i = 0; i < 40; ++i)
+        Send(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("item"));
+    Send(list, LB_SETTOPINDEX, 5);
+    EXPECT_EQ(MAKELRESULT(5, 1), at(5, -100)) << "the nearest in view";
+    EXPECT_EQ(MAKELRESULT(5 + (client.bottom - 1) / height, 1), at(5, client.bottom + 100));
 }
 
 TEST_F(ListBoxTest, AnOwnerMeasuresDrawsAndHearsOfDeletion) {

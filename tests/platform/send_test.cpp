@@ -22,6 +22,7 @@ std::atomic<HWND> partner{nullptr};
 std::atomic<HWND> mine{nullptr};
 std::atomic<bool> inSend{false};
 std::atomic<int> afterReply{0};
+HANDLE goOn = nullptr;  // what a window that hangs waits for
 std::atomic<DWORD> handlerThread{0};
 
 // Counts down by turns between both threads, each waiting for the other.
@@ -44,11 +45,11 @@ LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lPar
         case kReplyEarly:
             EXPECT_TRUE(ReplyMessage(77));
             ReplyMessage(78);  // too late to change the answer
-            Sleep(50);
+            WaitForSingleObject(goOn, INFINITE);
             ++afterReply;
             return 99;
         case kHang:
-            Sleep(static_cast<DWORD>(wParam));
+            WaitForSingleObject(goOn, INFINITE);
             return 1;
         case kStop:
             PostQuitMessage(0);
@@ -69,6 +70,7 @@ HWND MakeWindow() {
 class SendTest : public ::testing::Test {
   protected:
     void SetUp() override {
+        goOn = CreateEventA(nullptr, TRUE, FALSE, nullptr);
         mine = MakeWindow();
         ASSERT_NE(mine.load(), nullptr);
         partner = nullptr;
@@ -85,12 +87,14 @@ class SendTest : public ::testing::Test {
         }
     }
     void TearDown() override {
+        SetEvent(goOn);
         if (thread.joinable()) {
             PostMessageA(partner, kStop, 0, 0);
             thread.join();
         }
         DestroyWindow(mine);
         Pump();
+        CloseHandle(goOn);
     }
     std::thread thread;
 };
@@ -114,6 +118,7 @@ TEST_F(SendTest, ReplyLetsTheSenderGoOn) {
     afterReply = 0;
     EXPECT_EQ(SendMessageA(partner, kReplyEarly, 0, 0), 77);
     EXPECT_EQ(afterReply.load(), 0);
+    SetEvent(goOn);
     EXPECT_EQ(SendMessageA(partner, kAdd, 1, 1), 2);
     EXPECT_EQ(afterReply.load(), 1);
 }
@@ -121,23 +126,21 @@ TEST_F(SendTest, ReplyLetsTheSenderGoOn) {
 TEST_F(SendTest, TimeoutGivesUp) {
     DWORD_PTR result = 5;
     SetLastError(0);
-    EXPECT_EQ(SendMessageTimeoutA(partner, kHang, 300, 0, SMTO_NORMAL, 30, &result), 0);
+    EXPECT_EQ(SendMessageTimeoutA(partner, kHang, 0, 0, SMTO_NORMAL, 30, &result), 0);
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_TIMEOUT));
-    EXPECT_NE(SendMessageTimeoutA(partner, kAdd, 2, 3, SMTO_NORMAL, 5000, &result), 0);
+    SetEvent(goOn);
+    EXPECT_NE(SendMessageTimeoutA(partner, kAdd, 2, 3, SMTO_NORMAL, tests::kPatience, &result), 0);
     EXPECT_EQ(result, 5u);
 }
 
 TEST_F(SendTest, NotificationsDoNotWait) {
-    const DWORD start = GetTickCount();
-    EXPECT_TRUE(SendNotifyMessageA(partner, kHang, 200, 0));
-    EXPECT_LT(GetTickCount() - start, 150u);
+    EXPECT_TRUE(SendNotifyMessageA(partner, kHang, 0, 0)) << "and it came back, though nothing lets the window go on";
     EXPECT_FALSE(SendNotifyMessageA(partner, WM_SETTEXT, 0, reinterpret_cast<LPARAM>("text")));
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_MESSAGE_SYNC_ONLY));
     EXPECT_FALSE(PostMessageA(partner, WM_GETTEXT, 0, 0));
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_MESSAGE_SYNC_ONLY));
-    // Sent messages of one thread arrive in their order, so this one comes after.
+    SetEvent(goOn);
     EXPECT_EQ(SendMessageA(partner, kAdd, 1, 1), 2);
-    EXPECT_GE(GetTickCount() - start, 150u);
 }
 
 LRESULT callbackResult = 0;
@@ -166,7 +169,7 @@ TEST_F(SendTest, WaitingThreadsAnswerInEveryWait) {
     std::thread sender([&answer] { answer = static_cast<int>(SendMessageA(mine, kAdd, 3, 4)); });
     const DWORD start = GetTickCount();
     MSG message;
-    while (answer == 0 && GetTickCount() - start < 2000) {
+    while (answer == 0 && GetTickCount() - start < tests::kPatience) {
         MsgWaitForMultipleObjects(0, nullptr, FALSE, 50, QS_POSTMESSAGE);
         PeekMessageA(&message, nullptr, WM_USER + 99, WM_USER + 99, PM_REMOVE);
     }
@@ -180,7 +183,7 @@ TEST_F(SendTest, WindowsGoWithTheirThread) {
     ASSERT_NE(window.load(), nullptr);
     // The thread's end may be seen by join a little before its windows are gone.
     const DWORD start = GetTickCount();
-    while (IsWindow(window) && GetTickCount() - start < 2000) {
+    while (IsWindow(window) && GetTickCount() - start < tests::kPatience) {
         Sleep(1);
     }
     EXPECT_FALSE(IsWindow(window));

@@ -56,6 +56,10 @@ bool RangeIsGood(std::uintptr_t first, std::uintptr_t size) {
 
 namespace platform::kernel {
 
+bool IsReadable(const void* memory, std::size_t size) {
+    return size == 0 || RangeIsGood<CanRead>(reinterpret_cast<std::uintptr_t>(memory), size);
+}
+
 std::size_t ProbeLength(const char* text, std::size_t most) {
     for (std::size_t done = 0; done < most;) {
         const auto at = reinterpret_cast<std::uintptr_t>(text) + done;
@@ -78,7 +82,7 @@ BOOL WINAPI IsBadWritePtr(LPVOID address, UINT_PTR size) {
 }
 
 BOOL WINAPI IsBadReadPtr(const void* address, UINT_PTR size) {
-    return size != 0 && !RangeIsGood<CanRead>(reinterpret_cast<std::uintptr_t>(address), size);
+    return !platform::kernel::IsReadable(address, size);
 }
 
 BOOL WINAPI IsBadStringPtrA(LPCSTR text, UINT_PTR size) {

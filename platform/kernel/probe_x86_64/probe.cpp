@@ -213,10 +213,14 @@ BOOL WINAPI IsBadWritePtr(LPVOID address, UINT_PTR bytes) {
 }
 
 BOOL WINAPI IsBadReadPtr(const void* address, UINT_PTR bytes) {
-    return bytes != 0 && !RangeIsGood<ReadTouch>(reinterpret_cast<std::uintptr_t>(address), bytes);
+    return !platform::kernel::IsReadable(address, bytes);
 }
 
 namespace platform::kernel {
+
+bool IsReadable(const void* memory, std::size_t size) {
+    return size == 0 || RangeIsGood<ReadTouch>(reinterpret_cast<std::uintptr_t>(memory), size);
+}
 
 // Each page is probed once, and searched with the host's own fast search.
 std::size_t ProbeLength(const char* text, std::size_t most) {

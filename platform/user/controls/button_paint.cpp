@@ -13,7 +13,7 @@ constexpr int kSideGap = 2;       // between the bevel and text at a push button
 constexpr int kCaptionInset = 9;  // of a group box's text from its left edge
 constexpr int kCaptionGap = 2;    // that the frame keeps from the text
 
-struct Painter {
+struct ButtonPainter {
     HWND button;
     const ButtonData& data;
     HDC context;
@@ -41,7 +41,7 @@ struct Painter {
     }
 };
 
-UINT TextFormat(const Painter& painter) {
+UINT TextFormat(const ButtonPainter& painter) {
     UINT format = painter.style & BS_MULTILINE ? DT_WORDBREAK : DT_SINGLELINE;
     switch (painter.style & BS_CENTER) {
         case BS_LEFT:
@@ -56,7 +56,7 @@ UINT TextFormat(const Painter& painter) {
 }
 
 /// @returns the rectangle that the text fills within an area, by the button's alignment.
-RECT PlaceText(const Painter& painter, const RECT& area, UINT format) {
+RECT PlaceText(const ButtonPainter& painter, const RECT& area, UINT format) {
     RECT measured = area;
     DrawTextA(painter.context, painter.text.c_str(), static_cast<int>(painter.text.size()), &measured,
               format | DT_CALCRECT);
@@ -83,7 +83,7 @@ RECT PlaceText(const Painter& painter, const RECT& area, UINT format) {
     return place;
 }
 
-void DrawLabel(const Painter& painter, RECT place, UINT format) {
+void DrawLabel(const ButtonPainter& painter, RECT place, UINT format) {
     if (painter.Disabled()) {
         DrawDisabledText(painter.context, painter.text, place, format);
         return;
@@ -92,13 +92,13 @@ void DrawLabel(const Painter& painter, RECT place, UINT format) {
 }
 
 /// A button whose style and picture agree shows the picture instead of its text.
-bool ShowsPicture(const Painter& painter) {
+bool ShowsPicture(const ButtonPainter& painter) {
     const UINT kind = painter.data.imageKind;
     return painter.data.image &&
            ((kind == IMAGE_BITMAP && (painter.style & BS_BITMAP)) || (kind == IMAGE_ICON && (painter.style & BS_ICON)));
 }
 
-SIZE PictureSize(const Painter& painter) {
+SIZE PictureSize(const ButtonPainter& painter) {
     BITMAP info{};
     if (painter.data.imageKind == IMAGE_BITMAP) {
         GetObjectA(painter.data.image, sizeof info, &info);
@@ -114,7 +114,7 @@ SIZE PictureSize(const Painter& painter) {
     return {info.bmWidth, icon.hbmColor ? info.bmHeight : info.bmHeight / 2};
 }
 
-void DrawPicture(const Painter& painter, const RECT& area) {
+void DrawPicture(const ButtonPainter& painter, const RECT& area) {
     if (painter.data.imageKind == IMAGE_BITMAP) {
         DrawCentredBitmap(painter.context, static_cast<HBITMAP>(painter.data.image), area);
         return;
@@ -125,14 +125,14 @@ void DrawPicture(const Painter& painter, const RECT& area) {
 }
 
 /// The picture of a check box or a radio button begins where its text would.
-RECT PlacePicture(const Painter& painter, const RECT& area) {
+RECT PlacePicture(const ButtonPainter& painter, const RECT& area) {
     const SIZE size = PictureSize(painter);
     const int top = area.top + (area.bottom - area.top - size.cy) / 2;
     const int left = painter.style & BS_LEFTTEXT ? std::max<int>(area.left, area.right - size.cx) : area.left;
     return {left, top, std::min<LONG>(area.right, left + size.cx), top + size.cy};
 }
 
-void DrawContents(const Painter& painter, const RECT& area) {
+void DrawContents(const ButtonPainter& painter, const RECT& area) {
     if (ShowsPicture(painter)) {
         DrawPicture(painter, area);
         return;
@@ -151,7 +151,7 @@ void DrawContents(const Painter& painter, const RECT& area) {
     RestoreDC(painter.context, saved);
 }
 
-void PaintPush(const Painter& painter) {
+void PaintPush(const ButtonPainter& painter) {
     ControlBrush(painter.button, painter.context, WM_CTLCOLORBTN);
     RECT frame = painter.client;
     const bool isDefault = painter.Kind() == BS_DEFPUSHBUTTON;
@@ -185,7 +185,7 @@ void PaintPush(const Painter& painter) {
     }
 }
 
-UINT BoxState(const Painter& painter) {
+UINT BoxState(const ButtonPainter& painter) {
     UINT state = IsRadioKind(painter.Kind()) ? DFCS_BUTTONRADIO : DFCS_BUTTONCHECK;
     if (painter.data.state & BST_INDETERMINATE)
         state = DFCS_BUTTON3STATE | DFCS_CHECKED;
@@ -200,7 +200,7 @@ UINT BoxState(const Painter& painter) {
     return state;
 }
 
-void PaintBox(const Painter& painter) {
+void PaintBox(const ButtonPainter& painter) {
     const HBRUSH brush = ControlBrush(painter.button, painter.context, WM_CTLCOLORSTATIC);
     FillRect(painter.context, &painter.client, brush);
     const bool boxAtRight = painter.style & BS_LEFTTEXT;
@@ -237,7 +237,7 @@ void PaintBox(const Painter& painter) {
     }
 }
 
-void PaintGroup(const Painter& painter) {
+void PaintGroup(const ButtonPainter& painter) {
     const HBRUSH brush = ControlBrush(painter.button, painter.context, WM_CTLCOLORSTATIC);
     TEXTMETRICA metrics{};
     GetTextMetricsA(painter.context, &metrics);
@@ -266,7 +266,7 @@ void PaintGroup(const Painter& painter) {
     DrawLabel(painter, area, format);
 }
 
-void AskOwner(const Painter& painter, UINT action) {
+void AskOwner(const ButtonPainter& painter, UINT action) {
     const HWND parent = GetParent(painter.button);
     if (!parent)
         return;
@@ -286,7 +286,7 @@ void AskOwner(const Painter& painter, UINT action) {
 }  // namespace
 
 void PaintButton(HWND button, const ButtonData& data, HDC context, UINT action) {
-    Painter painter{button, data, context, ControlStyle(button), {}, ControlText(button)};
+    ButtonPainter painter{button, data, context, ControlStyle(button), {}, ControlText(button)};
     GetClientRect(button, &painter.client);
     const int saved = SaveDC(context);
     if (data.font)

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "kernel/probe.h"
+
 namespace platform::user {
 namespace {
 
@@ -28,16 +30,19 @@ LRESULT GetText(const EditData& data, WPARAM size, char* buffer) {
     return static_cast<LRESULT>(length);
 }
 
-/// Enter goes to the default button of a dialog unless the style, or Ctrl, keeps it.
-LRESULT DialogCodeOf(HWND edit, LPARAM lParam) {
-    LRESULT code = DLGC_WANTCHARS | DLGC_HASSETSEL | DLGC_WANTARROWS;
-    const auto* message = reinterpret_cast<const MSG*>(lParam);
+/// With several lines the control wants all keys. Only Tab, and Enter unless the style keeps it, go to the dialog; with Ctrl
+/// these two are text.
+LRESULT EditDialogCode(HWND edit, EditData& data, LPARAM lParam) {
+    constexpr LRESULT kCode = DLGC_WANTCHARS | DLGC_HASSETSEL | DLGC_WANTARROWS;
     const DWORD style = ControlStyle(edit);
-    if ((style & ES_MULTILINE) && message && message->message == WM_KEYDOWN && message->wParam == VK_RETURN &&
-        ((style & ES_WANTRETURN) || GetKeyState(VK_CONTROL) < 0)) {
-        code |= DLGC_WANTMESSAGE;
+    if (!(style & ES_MULTILINE)) {
+        return kCode;
     }
-    return code;
+    data.inDialog = true;
+    const auto* message = reinterpret_cast<const MSG*>(lParam);
+    const WPARAM key = message && message->message == WM_KEYDOWN ? message->wParam : 0;
+    const bool dialogs = key == VK_TAB || (key == VK_RETURN && !(style & ES_WANTRETURN));
+    return dialogs && GetKeyState(VK_CONTROL) >= 0 ? kCode : kCode | DLGC_WANTALLKEYS;
 }
 
 void OnSetFont(HWND edit, EditData& data, WPARAM font, bool redraw) {
@@ -124,9 +129,15 @@ LRESULT OnWheel(HWND edit, EditData& data, WPARAM wParam, LPARAM lParam) {
 LRESULT OnTextMessage(HWND edit, EditData& data, UINT message, WPARAM wParam, LPARAM lParam) {
     const bool readOnly = (ControlStyle(edit) & ES_READONLY) != 0;
     switch (message) {
-        case WM_SETTEXT:
-            SetEditText(edit, data, reinterpret_cast<LPCSTR>(lParam));
+        case WM_SETTEXT: {
+            const auto* text = reinterpret_cast<const char*>(lParam);
+            if (text && kernel::ProbeLength(text) == kernel::kBadText) {
+                SetLastError(ERROR_NOACCESS);
+                return FALSE;
+            }
+            SetEditText(edit, data, text);
             return TRUE;
+        }
         case EM_REPLACESEL:
             InsertText(edit, data, lParam ? reinterpret_cast<LPCSTR>(lParam) : "", wParam != 0);
             return 0;
@@ -213,7 +224,7 @@ LRESULT Handle(HWND edit, EditData& data, UINT message, WPARAM wParam, LPARAM lP
         case WM_GETTEXTLENGTH:
             return static_cast<LRESULT>(data.text.size());
         case WM_GETDLGCODE:
-            return DialogCodeOf(edit, lParam);
+            return EditDialogCode(edit, data, lParam);
         case WM_SETFONT:
             OnSetFont(edit, data, wParam, LOWORD(lParam) != 0);
             return 0;

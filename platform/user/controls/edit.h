@@ -56,6 +56,7 @@ struct EditData : ControlData {
     int wantedX = -1;           ///< column that Up and Down keep to, from the line's left; -1: that of the caret
 
     bool focused = false;
+    bool inDialog = false;  ///< has been asked for WM_GETDLGCODE
     Drag drag = Drag::None;
     std::size_t wordStart = 0;  ///< the word that a drag by words began in
     std::size_t wordEnd = 0;

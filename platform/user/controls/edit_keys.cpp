@@ -155,6 +155,17 @@ void OnEditKey(HWND edit, EditData& data, WPARAM key) {
                 PasteText(edit, data);
             }
             return;
+        case VK_TAB:
+            if (multi && data.inDialog && control) {
+                TypeText(edit, data, "\t");
+            }
+            return;
+        case VK_ESCAPE:
+            // The control has taken the key from the dialog, and gives it back.
+            if (multi && data.inDialog) {
+                PostMessageA(GetParent(edit), WM_CLOSE, 0, 0);
+            }
+            return;
         default:
             return;
     }

@@ -6,12 +6,8 @@
 namespace platform::user {
 namespace {
 
-constexpr UINT_PTR kScrollTimer = 1;
-constexpr UINT kScrollMilliseconds = 50;
-
-POINT PointFrom(LPARAM lParam) {
-    return {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
-}
+constexpr UINT_PTR kEditScrollTimer = 1;
+constexpr UINT kEditScrollMilliseconds = 50;
 
 /// A point outside is drawn to its edge and one character beyond, so that a drag scrolls at the pace of its timer.
 std::size_t PositionNear(HWND edit, const EditData& data, POINT point) {
@@ -29,7 +25,7 @@ void Begin(HWND edit, EditData& data, EditData::Drag drag, POINT point) {
     data.drag = drag;
     data.dragPoint = point;
     SetCapture(edit);
-    SetTimer(edit, kScrollTimer, kScrollMilliseconds, nullptr);
+    SetTimer(edit, kEditScrollTimer, kEditScrollMilliseconds, nullptr);
 }
 
 /// By words, the word that the drag began in stays selected, whichever way it goes.
@@ -51,7 +47,7 @@ void Follow(HWND edit, EditData& data) {
 }  // namespace
 
 void OnEditPress(HWND edit, EditData& data, WPARAM flags, LPARAM point) {
-    const POINT place = PointFrom(point);
+    const POINT place = MousePoint(point);
     Begin(edit, data, EditData::Drag::Characters, place);
     if (GetFocus() != edit) {
         SetFocus(edit);
@@ -63,7 +59,7 @@ void OnEditPress(HWND edit, EditData& data, WPARAM flags, LPARAM point) {
 }
 
 void OnEditDoubleClick(HWND edit, EditData& data, LPARAM point) {
-    const POINT place = PointFrom(point);
+    const POINT place = MousePoint(point);
     const std::size_t position = PositionAt(edit, data, place);
     data.wordStart = WordLeft(data, std::min(NextPosition(data.text, position), data.text.size()));
     data.wordEnd = WordRight(data, data.wordStart);
@@ -74,7 +70,7 @@ void OnEditDoubleClick(HWND edit, EditData& data, LPARAM point) {
 
 void OnEditMove(HWND edit, EditData& data, LPARAM point) {
     if (data.drag != EditData::Drag::None) {
-        data.dragPoint = PointFrom(point);
+        data.dragPoint = MousePoint(point);
         Follow(edit, data);
     }
 }
@@ -90,7 +86,7 @@ void EndEditDrag(HWND edit, EditData& data) {
         return;
     }
     data.drag = EditData::Drag::None;
-    KillTimer(edit, kScrollTimer);
+    KillTimer(edit, kEditScrollTimer);
     if (GetCapture() == edit) {
         ReleaseCapture();
     }

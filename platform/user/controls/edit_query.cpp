@@ -74,7 +74,7 @@ LRESULT PointOfCharacter(HWND edit, const EditData& data, std::size_t position) 
 }
 
 LRESULT CharacterAt(HWND edit, const EditData& data, LPARAM lParam) {
-    const POINT point{static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+    const POINT point = MousePoint(lParam);
     RECT client{};
     GetClientRect(edit, &client);
     if (!PtInRect(&client, point)) {

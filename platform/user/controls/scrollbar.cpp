@@ -10,6 +10,7 @@ namespace {
 struct ScrollBarData : ControlData {
     std::shared_ptr<BarState> bar = std::make_shared<BarState>();
     bool keyHeld = false;
+    bool idle = false;  ///< disabled by SIF_DISABLENOSCROLL, until there is something to scroll
 
     ScrollBarData() {
         bar->high = 0;
@@ -102,7 +103,7 @@ void Repaint(HWND window) {
 // --- input
 
 void OnButtonDown(HWND window, LPARAM lParam) {
-    POINT point{static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+    POINT point = MousePoint(lParam);
     ClientToScreen(window, &point);
     if (IsSizeBox(window)) {
         const bool topLeft = (ControlStyle(window) & SBS_SIZEBOXTOPLEFTALIGN) != 0;
@@ -148,9 +149,17 @@ void OnKey(HWND window, ScrollBarData& data, WPARAM key, bool down) {
 
 LRESULT Change(HWND window, ScrollBarData& data, const SCROLLINFO& info, bool redraw) {
     ApplyInfo(*data.bar, info);
-    if (info.fMask & SIF_DISABLENOSCROLL)
-        data.bar->arrows = CanScroll(*data.bar) ? ESB_ENABLE_BOTH : ESB_DISABLE_BOTH;
     const int position = data.bar->position;
+    // What the application has disabled itself comes to life only where it says so.
+    const bool asked = (info.fMask & SIF_DISABLENOSCROLL) != 0;
+    if (asked || data.idle) {
+        const bool alive = CanScroll(*data.bar);
+        data.idle = !alive;
+        if (alive || asked) {
+            data.bar->arrows = alive ? ESB_ENABLE_BOTH : ESB_DISABLE_BOTH;
+            EnableWindow(window, alive);
+        }
+    }
     if (redraw)
         Repaint(window);
     return position;
@@ -184,10 +193,11 @@ LRESULT OnBarMessage(HWND window, ScrollBarData& data, UINT message, WPARAM wPar
                 *high = bar.high;
             return 0;
         case SBM_ENABLE_ARROWS: {
-            const bool changed = bar.arrows != wParam;
-            bar.arrows = static_cast<UINT>(wParam) & ESB_DISABLE_BOTH;
-            // A bar of which nothing works is a disabled window.
-            EnableWindow(window, bar.arrows != ESB_DISABLE_BOTH);
+            const UINT arrows = static_cast<UINT>(wParam) & ESB_DISABLE_BOTH;
+            const bool changed = bar.arrows != arrows;
+            // A bar of which nothing works is a disabled window. One that is enabled has both arrows to begin with.
+            EnableWindow(window, arrows != ESB_DISABLE_BOTH);
+            bar.arrows = arrows;
             Repaint(window);
             return changed;
         }
@@ -228,6 +238,7 @@ LRESULT CALLBACK ScrollBarProcedure(HWND window, UINT message, WPARAM wParam, LP
             DrawBarControl(window, reinterpret_cast<HDC>(wParam));
             return 0;
         case WM_ENABLE:
+            data->idle = data->idle && !wParam;
             data->bar->arrows = wParam ? ESB_ENABLE_BOTH : ESB_DISABLE_BOTH;
             Repaint(window);
             return 0;

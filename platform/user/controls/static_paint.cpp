@@ -45,7 +45,7 @@ UINT TextFormat(DWORD style) {
     return format & DT_SINGLELINE ? format & ~UINT{DT_WORDBREAK} : format;
 }
 
-struct Painter {
+struct StaticPainter {
     HWND control;
     const StaticData& data;
     HDC context;
@@ -167,7 +167,7 @@ void PaintStatic(HWND control, const StaticData& data, HDC context) {
     IntersectClipRect(context, 0, 0, client.right, client.bottom);
     if (data.font)
         SelectObject(context, data.font);
-    Painter{control, data, context, ControlStyle(control), client}.Paint();
+    StaticPainter{control, data, context, ControlStyle(control), client}.Paint();
     RestoreDC(context, saved);
 }
 

@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <utility>
 #include <vector>
 
 #include "../recorder.h"
@@ -82,6 +83,55 @@ TEST_F(FrameInput, EscapePutsTheWindowBack) {
     EXPECT_GE(Recorder::Get().Count(WM_MOVING), 1);
     EXPECT_EQ(Place().left, 100);
     EXPECT_EQ(Place().top, 100);
+}
+
+TEST_F(FrameInput, TheCaptionStaysInReach) {
+    const int width = GetSystemMetrics(SM_CXSCREEN);
+    const int height = GetSystemMetrics(SM_CYSCREEN);
+    // How much of the caption there is to take hold of on the screen.
+    const auto grip = [&] {
+        int seen = 0;
+        const int y = Place().top + 12;
+        for (int x = 0; x < width && y >= 0 && y < height; ++x) {
+            seen += SendMessageA(window, WM_NCHITTEST, 0, MAKELPARAM(x, y)) == HTCAPTION ? 1 : 0;
+        }
+        return seen;
+    };
+    const int whole = grip();
+    const POINT corners[] = {{0, 0}, {width - 1, 0}, {0, height - 1}, {width - 1, height - 1}};
+    for (const POINT corner : corners) {
+        // By either end of the caption.
+        for (const int from : {104, 240}) {
+            SetWindowPos(window, nullptr, 100, 100, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+            Play({At(from, 106, MOUSEEVENTF_LEFTDOWN), At(200, 150, 0), At(corner.x, corner.y, 0),
+                  At(corner.x, corner.y, MOUSEEVENTF_LEFTUP)});
+            EXPECT_GE(Place().top, 0);
+            EXPECT_LE(Place().top + GetSystemMetrics(SM_CYCAPTION), height);
+            EXPECT_GE(grip(), 30) << corner.x << ", " << corner.y << " from " << from;
+            EXPECT_LE(grip(), whole);
+        }
+    }
+    // By the keyboard: what is pressed beyond the end does not count.
+    const auto move = [&](std::vector<std::pair<WORD, int>> keys) {
+        std::vector<INPUT> inputs;
+        keys.emplace_back(VK_RETURN, 1);
+        for (const auto& [key, times] : keys) {
+            for (int i = 0; i < times; ++i) {
+                inputs.push_back(Key(key));
+                inputs.push_back(Key(key, KEYEVENTF_KEYUP));
+            }
+        }
+        SetWindowPos(window, nullptr, 100, 100, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+        SendMessageA(window, WM_SYSCOMMAND, SC_MOVE, 0);
+        Pump();
+        return Place();
+    };
+    const RECT end = move({{VK_LEFT, 100}, {VK_UP, 100}});
+    EXPECT_EQ(end.top, 0);
+    EXPECT_GE(grip(), 30);
+    EXPECT_LT(end.left, 0);
+    EXPECT_EQ(move({{VK_LEFT, 100}, {VK_UP, 100}, {VK_RIGHT, 1}}).left, end.left + 8);
 }
 
 TEST_F(FrameInput, BordersSizeWithinTheLimits) {

@@ -11,10 +11,6 @@ namespace {
 constexpr int kWheelLines = 3;
 constexpr int kDefaultTab = 2;  // dialog units
 
-POINT PointOf(LPARAM lParam) {
-    return {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
-}
-
 void Renew(ListData& list) {
     FitHeight(list);
     UpdateBars(list);
@@ -72,14 +68,14 @@ void OnSize(ListData& list) {
 
 void OnPaint(ListData& list, HDC given) {
     if (given) {
-        PaintList(list, given, ListClient(list));
+        PaintItems(list, given, ListClient(list));
         return;
     }
     PAINTSTRUCT paint{};
     const HDC context = BeginPaint(list.window, &paint);
     // What is not drawn now is marked again when drawing is switched on.
     if (context && list.redraw)
-        PaintList(list, context, paint.rcPaint);
+        PaintItems(list, context, paint.rcPaint);
     EndPaint(list.window, &paint);
 }
 
@@ -141,6 +137,19 @@ LRESULT OnSetItemHeight(ListData& list, int index, int height) {
     return LB_OKAY;
 }
 
+/// The item nearest to a point among those in view, and in the high word whether the point misses it.
+LRESULT OnItemFromPoint(const ListData& list, POINT point) {
+    const RECT client = ListClient(list);
+    const POINT inside{std::clamp<LONG>(point.x, 0, std::max<LONG>(0, client.right - 1)),
+                       std::clamp<LONG>(point.y, 0, std::max<LONG>(0, client.bottom - 1))};
+    bool outside = false;
+    const int found = ItemAt(list, inside, &outside);
+    if (found < 0)
+        return MAKELRESULT(found, TRUE);
+    const RECT item = RectOf(list, found);
+    return MAKELRESULT(found, !PtInRect(&client, point) || !PtInRect(&item, point));
+}
+
 LRESULT OnLayoutMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lParam) {
     const int index = static_cast<int>(wParam);
     switch (message) {
@@ -160,11 +169,8 @@ LRESULT OnLayoutMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lPar
             return list.Variable() && !list.items.Has(index) ? LB_ERR : HeightOf(list, index);
         case LB_SETITEMHEIGHT:
             return OnSetItemHeight(list, index, static_cast<int>(LOWORD(lParam)));
-        case LB_ITEMFROMPOINT: {
-            bool outside = false;
-            const int found = ItemAt(list, PointOf(lParam), &outside);
-            return MAKELRESULT(found, outside || found < 0);
-        }
+        case LB_ITEMFROMPOINT:
+            return OnItemFromPoint(list, MousePoint(lParam));
         case LB_SETCOLUMNWIDTH:
             list.columnWidth = std::max(1, index);
             Renew(list);
@@ -232,13 +238,13 @@ LRESULT OnInput(ListData& list, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_LBUTTONDOWN:
         case WM_LBUTTONDBLCLK:
-            OnListButtonDown(list, PointOf(lParam), wParam, message == WM_LBUTTONDBLCLK);
+            OnListButtonDown(list, MousePoint(lParam), wParam, message == WM_LBUTTONDBLCLK);
             return 0;
         case WM_LBUTTONUP:
-            OnListButtonUp(list, PointOf(lParam));
+            OnListButtonUp(list, MousePoint(lParam));
             return 0;
         case WM_MOUSEMOVE:
-            OnListMouseMove(list, PointOf(lParam));
+            OnListMouseMove(list, MousePoint(lParam));
             return 0;
         case WM_MOUSEWHEEL:
             return OnWheel(list, wParam) ? 0 : DefWindowProcA(list.window, message, wParam, lParam);
