@@ -37,7 +37,7 @@ int IconOf(LPCITEMIDLIST fullId, UINT flags) {
     return information.iIcon;
 }
 
-/// @return false if the filling has to end here.
+/// @return false if the filling has to end here: without memory or a name, and when somebody answered by ending the tree.
 bool Insert(Branch& branch, IMalloc* allocator, LPCITEMIDLIST id, ULONG attributes) {
     auto const item = static_cast<Item*>(allocator->Alloc(sizeof(Item)));
     if (!item) {
@@ -69,15 +69,16 @@ bool Insert(Branch& branch, IMalloc* allocator, LPCITEMIDLIST id, ULONG attribut
     branch.folder->AddRef();
     auto const inserted = reinterpret_cast<HTREEITEM>(
         SendMessageA(branch.treeView, TVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&insert)));
+    bool const there = IsWindow(branch.treeView);
     if (inserted) {
         branch.last = inserted;
-    } else {
+    } else if (there) {
         Discard(item);
     }
     if (fullId) {
         allocator->Free(fullId);
     }
-    return true;
+    return there;
 }
 
 /// @return false if it was broken off.
@@ -112,6 +113,18 @@ void FillChildren(HWND treeView, IShellFolder* folder, LPCITEMIDLIST parentId, H
         SetCursor(LoadCursorA(nullptr, IDC_ARROW));
     }
     allocator->Release();
+}
+
+/// The same with a copy of the parent's list, which goes with the tree if somebody ends that meanwhile.
+void FillBelow(HWND treeView, IShellFolder* folder, LPCITEMIDLIST parentId, HTREEITEM parent) {
+    Allocator const allocator;
+    LPITEMIDLIST const kept = allocator && parentId ? JoinLists(nullptr, parentId) : nullptr;
+    if (kept || !parentId) {
+        FillChildren(treeView, folder, kept, parent);
+    }
+    if (kept) {
+        allocator->Free(kept);
+    }
 }
 
 void SetFlag(HWND control, LONG_PTR flag, bool set) {
@@ -157,7 +170,7 @@ void FillFirstTime(HWND control, TVITEMA const& opened) {
         }
         // The reference that comes with the binding stays with the children, each of which adds its own: it is not
         // released, also when there are none.
-        FillChildren(treeView, static_cast<IShellFolder*>(bound), item->fullId, opened.hItem);
+        FillBelow(treeView, static_cast<IShellFolder*>(bound), item->fullId, opened.hItem);
     }
     if (!(GetWindowLongPtrA(control, kFlags) & kFirstFill)) {
         SendMessageA(treeView, TVM_SORTCHILDREN, 0, reinterpret_cast<LPARAM>(opened.hItem));

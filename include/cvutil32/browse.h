@@ -22,8 +22,8 @@
 /// | `BROWSE_NOACTION` | a click is no more than a click: the application acts on it |
 ///
 /// A click. The parent gets the click as it does from any button. Then, unless there is no buddy, the buddy's text becomes
-/// the button's file specs, and tells where the dialog begins: an existing file is proposed in its folder, an existing
-/// folder is shown. If the user accepts, the buddy gets the new text and the parent a `WM_COMMAND` from the buddy as if
+/// the button's file specs, and tells where the open-file dialog begins: an existing file is proposed in its folder, an
+/// existing folder is shown. The folder dialog always opens at the top, whatever the buddy holds. If the user accepts, the buddy gets the new text and the parent a `WM_COMMAND` from the buddy as if
 /// the user had typed it: `EN_CHANGE` from an edit field, `CBN_EDITCHANGE` from anything else. If the user cancels, the
 /// buddy keeps its text.
 ///

@@ -19,9 +19,8 @@
 /// check lists and `WM_MEASUREITEM` for everything by itself:
 ///
 /// - An item shows the box at a fixed distance from the list's left edge, then its text, in the colour that the list's
-///   device context has. A selected item is not highlighted: the tick is the only sign. The item that has the focus
-///   shows an empty box when it is drawn as a whole while it is selected, and so does every item of a disabled list.
-///   Only a text's first 255 characters are shown.
+///   device context has. A selected item is not highlighted: the tick is the only sign. Every item of a disabled list
+///   shows an empty box. Only a text's first 255 characters are shown.
 /// - `WM_DRAWITEM` of other controls reaches the parent, with the control's identifier as wParam; the answer is
 ///   discarded: it is 0.
 /// - `WM_MEASUREITEM` never reaches the parent. Every owner-drawn list box of this parent gets the height that the

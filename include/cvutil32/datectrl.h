@@ -5,7 +5,7 @@
 /// day, month and year in the order and with the separator of the user's international settings ("Intl", iDate and
 /// sDate):
 ///
-///     CONTROL "", IDC_DUE, "Calverin_DateControl", WS_CHILD | WS_VISIBLE | WS_BORDER, 60, 10, 44, 12
+///     CONTROL "", IDC_DUE, "Calverin_DateControl", WS_CHILD | WS_VISIBLE | WS_BORDER, 60, 10, 44, 14
 ///
 /// It has no styles of its own and always takes part in tabbing: WS_TABSTOP is added when it is created. It is empty
 /// until it gets a date, and an empty field paints nothing but its background. It sends its parent no notifications:
@@ -36,7 +36,7 @@
 /// |---|---|
 /// | `WM_VSCROLL`, code SB_LINEUP (0) or SB_LINEDOWN (1) | steps the field above the caret up or down; on a separator nothing happens; an empty field shows today's date instead. This is what a micro scroll bar (scroll.h) sends |
 /// | `WM_SETFONT` | takes a font, which stays the application's; a nonzero lParam repaints |
-/// | `WM_WININICHANGE`, section "Intl" | reads the settings anew and repaints; the text keeps its old form until its value changes next |
+/// | `WM_WININICHANGE`, section "Intl" | reads the settings anew and repaints; the text keeps its old form until its value changes next. Top-level windows alone get this message from the system: the dialog must pass it on |
 /// | `WM_GETDLGCODE` | answers DLGC_WANTARROWS \| DLGC_WANTCHARS |
 ///
 /// The background is the brush with which the parent answers `WM_CTLCOLOREDIT`, or the window colour. The parent may

@@ -158,7 +158,7 @@ TreeItem* HitTest(const TreePointer& tree, POINT point, UINT& flags) {
         flags = TVHT_NOWHERE;
         return nullptr;
     }
-    TreeItem* const item = tree->rows[static_cast<std::size_t>(row)];
+    TreeItem* item = tree->rows[static_cast<std::size_t>(row)];
     const HTREEITEM handle = item->handle;
     const bool button = HasStyle(*tree, TVS_HASBUTTONS) && (item->depth > 0 || HasStyle(*tree, TVS_LINESATROOT)) &&
                         HasChildren(tree, item);
@@ -166,6 +166,10 @@ TreeItem* HitTest(const TreePointer& tree, POINT point, UINT& flags) {
         return nullptr;
     }
     const RECT label = LabelRect(tree, item);
+    item = tree->Find(handle);
+    if (!item) {
+        return nullptr;
+    }
     const int picture = PictureLeft(*tree, item);
     if (point.x >= label.right) {
         flags = TVHT_ONITEMRIGHT;

@@ -85,7 +85,12 @@ void PaintPictures(const TreeView& tree, HDC context, const TreeItem* item, int 
 }
 
 void PaintLabel(const TreePointer& tree, HDC context, TreeItem* item, const std::string& text) {
+    const HTREEITEM handle = item->handle;
     const RECT label = LabelRect(tree, item);
+    item = tree->Find(handle);
+    if (!item) {
+        return;
+    }
     COLORREF ground = Ground(*tree);
     COLORREF ink = GetSysColor(IsWindowEnabled(tree->window) ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT);
     const bool strong = (item->state & TVIS_DROPHILITED) || (item == tree->caret && tree->focused && !tree->dropTarget);

@@ -71,8 +71,10 @@ bool Open(const TreePointer& tree, HTREEITEM handle, bool byUser) {
     item->state |= TVIS_EXPANDED | TVIS_EXPANDEDONCE;
     tree->stale = true;
     InvalidateFrom(*tree, item);
+    // A bar that comes or goes sends messages.
     UpdateBars(tree);
-    if (tells) {
+    item = tree->Find(handle);
+    if (tells && item) {
         NotifyItems(*tree, TVN_ITEMEXPANDEDA, TVE_EXPAND, nullptr, item);
     }
     if (byUser) {
@@ -173,11 +175,11 @@ bool Expand(const TreePointer& tree, HTREEITEM handle, UINT code, bool byUser) {
 
 bool EnsureVisible(const TreePointer& tree, HTREEITEM handle) {
     ShowAncestors(tree, handle);
-    TreeItem* const item = tree->Find(handle);
+    UpdateBars(tree);
+    TreeItem* item = tree->Find(handle);
     if (!item) {
         return false;
     }
-    UpdateBars(tree);
     const int shown = std::max(RowsShown(*tree, true), 1);
     int top = tree->top;
     if (item->row < top) {
@@ -188,6 +190,10 @@ bool EnsureVisible(const TreePointer& tree, HTREEITEM handle) {
     RECT client{};
     GetClientRect(tree->window, &client);
     const RECT label = LabelRect(tree, item);
+    item = tree->Find(handle);
+    if (!item) {
+        return false;
+    }
     int left = tree->left;
     const int begin = PictureLeft(*tree, item);
     if (begin < 0) {

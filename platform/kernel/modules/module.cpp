@@ -3,6 +3,7 @@
 #include <dlfcn.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -35,6 +36,9 @@ struct Loading {
     bool refused = false;
 };
 thread_local Loading loading;
+
+// The one part of the layer that keeps something for modules.
+std::atomic<void (*)(HINSTANCE module)> forgetful = nullptr;
 
 Module* AddModule(std::string path) {
     auto module = std::make_unique<Module>();
@@ -136,6 +140,10 @@ Module* FindModule(HMODULE module) {
     return found;
 }
 
+void WhenModulesGo(void (*forget)(HINSTANCE)) {
+    forgetful = forget;
+}
+
 void NotifyThread(DWORD reason) {
     std::vector<std::pair<HINSTANCE, BOOL(WINAPI*)(HINSTANCE, DWORD, LPVOID)>> entries;
     {
@@ -192,6 +200,10 @@ void CvPlatformDetachModule(HINSTANCE instance) {
     }
     if (module->entry) {
         module->entry(instance, DLL_PROCESS_DETACH, nullptr);
+    }
+    // Without the lock, which that part of the layer takes after its own.
+    if (const auto forget = module->application ? nullptr : forgetful.load()) {
+        forget(instance);
     }
     const std::lock_guard guard(ModuleLock());
     if (!module->application) {

@@ -34,6 +34,9 @@ std::recursive_mutex& ModuleLock();
 /// @returns the module of a handle (null: the application), or null with ERROR_INVALID_HANDLE set. Lock held.
 Module* FindModule(HMODULE module);
 
+/// Has a function called for each library that goes, once its entry point was told.
+void WhenModulesGo(void (*forget)(HINSTANCE module));
+
 /// Tells every library's entry point about a thread that begins or ends.
 void NotifyThread(DWORD reason);
 

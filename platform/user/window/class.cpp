@@ -7,7 +7,7 @@
 #include <mutex>
 #include <new>
 
-#include "user/controls/controls.h"
+#include "kernel/modules/module.h"
 #include "user/model/atoms.h"
 #include "user/model/window.h"
 #include "user/window/above.h"
@@ -109,6 +109,37 @@ ATOM Look(HINSTANCE instance, LPCSTR name, WNDCLASSEXA* result) {
     return found->atom;
 }
 
+/// Takes one class out. @return false if there is none, and else a brush that is nobody's any more.
+bool ForgetOne(HINSTANCE module, HBRUSH& background) {
+    const UserGuard guard(UserLock());
+    auto& classes = Classes();
+    const auto found = std::find_if(classes.begin(), classes.end(),
+                                    [=](const auto& one) { return !one->system && one->instance == module; });
+    if (found == classes.end()) {
+        return false;
+    }
+    if ((*found)->windows > 0) {
+        // Kept for them, but found by nobody any more.
+        (*found)->instance = nullptr;
+        (*found)->style &= ~UINT{CS_GLOBALCLASS};
+        background = nullptr;
+    } else {
+        background = (*found)->background;
+        ClassAtoms().Delete((*found)->atom);
+        classes.erase(found);
+    }
+    return true;
+}
+
+// A module's classes go with it, since its procedures do.
+void ForgetClasses(HINSTANCE module) {
+    for (HBRUSH background = nullptr; ForgetOne(module, background);) {
+        if (IsRealBrush(background)) {
+            DeleteObject(background);
+        }
+    }
+}
+
 }  // namespace
 
 WindowClass* FindClass(HINSTANCE instance, LPCSTR name) {
@@ -151,7 +182,10 @@ void RegisterSystemClass(const char* name, WNDPROC procedure, UINT style, int wi
 
 void InitialiseClasses() {
     static std::once_flag once;
-    std::call_once(once, [] { RegisterDialogClasses(); });
+    std::call_once(once, [] {
+        RegisterDialogClasses();
+        kernel::WhenModulesGo(ForgetClasses);
+    });
 }
 
 }  // namespace platform::user
