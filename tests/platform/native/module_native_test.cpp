@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/kernel/start/module_registration.h"
+#include "platform/kernel/modules/start/module_registration.h"
 #include "tests/support/temp_folder.h"
 
 namespace {
