@@ -199,6 +199,19 @@ changes file_row 2
 click_unit 247 117
 chosen $file file mouse
 
+# What is chosen takes the place of a longer text without leaving its tail.
+enter f 'Q:\a\folder\that\is\not\there.txt'
+press f
+text 'C:\walk\b.txt'
+keys Return
+chosen $file file typed
+
+expect $folder o 'c:\' root
+enter o 'Q:\a\folder\that\is\not\there'
+press o
+keys Down Return
+chosen $folder root keyboard
+
 expect $files i 'C:\walk;a.txt;b.txt;c.txt' files
 enter i 'C:\walk'
 press i
