@@ -50,10 +50,11 @@ place_is() { # <place> <picture>
     shoot && crop now "$1" part && same "$2" part
 }
 
-# The server goes on between two programs; one that ends with its last client is not back in time for the next.
 display_is_there() {
-    [ -s "$work/display" ] || { kill -0 "$server" 2>/dev/null || fail "Xvfb does not start: $(tail -1 "$work/server.log")"; false; }
+    kill -0 "$server" 2>/dev/null || fail "Xvfb does not start: $(tail -1 "$work/server.log")"
+    [ -s "$work/display" ]
 }
+# The server goes on between two programs; one that ends with its last client is not back in time for the next.
 start_server() {
     Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset 3>"$work/display" 2>"$work/server.log" &
     server=$!
