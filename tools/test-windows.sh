@@ -52,10 +52,16 @@ if [ "${1:-}" = --inside ]; then
     exit
 fi
 [ $# -gt 0 ] || set -- windows32 windows64
+install_packages "${windows_packages[@]}"
 for preset in "$@"; do
-    tools/build-windows.sh "$preset"
-    code=0
-    tools/wine.sh "$preset" "$0" --inside "$preset" || code=$?
+    # Wine is made ready, which is mostly waiting for the net, while the compiler works.
+    tools/wine.sh "$preset" &
+    ready=$!
+    built=0 code=0
+    tools/build-windows.sh "$preset" || built=$?
+    wait $ready || code=$?
+    [ $built = 0 ] || exit $built
+    [ $code != 0 ] || tools/wine.sh "$preset" "$script" --inside "$preset" || code=$?
     case $code in
     0) ;;
     125) say "the tests of $preset are not run here" ;;
