@@ -1,5 +1,5 @@
 // A date field with its bar, and a default button that asks a question: what held_arrow.sh drives. Prints the date when the
-// question came up, and when it was answered.
+// question comes up, and when it is answered.
 #include <cvutil32.h>
 
 #include <cstdio>
@@ -25,9 +25,10 @@ INT_PTR CALLBACK Procedure(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
         return TRUE;
     }
     if (message == WM_COMMAND && LOWORD(wParam) == IDOK) {
-        const std::string asked = DateOf(dialog);
+        std::puts(DateOf(dialog).c_str());
+        std::fflush(stdout);
         MessageBoxA(dialog, "Is that the day?", "Question", MB_OK);
-        std::printf("%s %s\n", asked.c_str(), DateOf(dialog).c_str());
+        std::puts(DateOf(dialog).c_str());
         EndDialog(dialog, 0);
     }
     return message == WM_COMMAND;

@@ -133,8 +133,10 @@ Window* Make(const Request& request) {
     const POINT origin = request.parent == Desktop() || request.parent == MessageRoot()
                              ? POINT{0, 0}
                              : POINT{request.parent->clientRect.left, request.parent->clientRect.top};
-    made->windowRect = {origin.x + given.x, origin.y + given.y, origin.x + given.x + given.cx,
-                        origin.y + given.y + given.cy};
+    // As far as SetWindowPos would bring it.
+    const LONG left = origin.x + std::clamp(given.x, -0x8000, 0x7fff);
+    const LONG top = origin.y + std::clamp(given.y, -0x8000, 0x7fff);
+    made->windowRect = {left, top, left + std::min(given.cx, 0x7fff), top + std::min(given.cy, 0x7fff)};
     made->clientRect = made->windowRect;
     const std::uint32_t handle = base::InsertHandle(base::HandleKind::Window, made.get());
     if (!handle) {

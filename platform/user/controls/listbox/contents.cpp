@@ -264,7 +264,7 @@ LRESULT OnContentsMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lP
         case LB_SETCOUNT:
             return OnSetCount(list, index);
         case LB_INITSTORAGE:
-            return list.items.Reserve(index) ? list.items.Count() + index : NoSpace(list);
+            return list.items.Reserve(index) ? LRESULT{list.items.Count()} + std::max(index, 0) : NoSpace(list);
         default:
             return LB_ERR;
     }
