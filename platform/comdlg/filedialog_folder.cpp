@@ -126,7 +126,7 @@ void GoUp(FileDialog& dialog) {
 
 std::string PathOrName(const shell::Place& place) {
     return place.kind == shell::PlaceKind::Folder || place.kind == shell::PlaceKind::File ? place.path
-                                                                                        : shell::DisplayName(place);
+                                                                                          : shell::DisplayName(place);
 }
 
 HRESULT WhyUnreachable(const std::string& path) {

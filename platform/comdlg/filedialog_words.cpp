@@ -29,9 +29,24 @@ const char* WordsOf(HRESULT why) {
     }
 }
 
-/// A name that somebody has typed, short enough for a box on the screen.
+/// A name that somebody has typed, short enough for a line on the screen: its middle is left out.
 std::string Shown(const std::string& name) {
-    return name.size() > MAX_PATH ? name.substr(0, MAX_PATH) + "..." : name;
+    constexpr std::ptrdiff_t kStart = 40;
+    constexpr std::ptrdiff_t kRest = 40;
+    const char* const first = name.c_str();
+    const char* const last = first + name.size();
+    if (last - first <= kStart + kRest) {
+        return name;
+    }
+    const char* start = first;
+    while (start - first < kStart) {
+        start = CharNextA(start);
+    }
+    const char* rest = start;
+    while (last - rest > kRest) {
+        rest = CharNextA(rest);
+    }
+    return std::string(first, start) + "..." + rest;
 }
 
 void Tell(const FileDialog& dialog, const std::string& text) {

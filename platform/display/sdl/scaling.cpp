@@ -47,8 +47,7 @@ int Unscaled(int at, int shown, int size) {
 }  // namespace
 
 Box Cut(const Box& a, const Box& b) {
-    return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right),
-            std::min(a.bottom, b.bottom)};
+    return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right), std::min(a.bottom, b.bottom)};
 }
 
 Placement::Placement(int width, int height, int windowWidth, int windowHeight) : width_(width), height_(height) {

@@ -17,6 +17,7 @@ namespace {
 constexpr unsigned kArrow = 32512;  // IDC_ARROW as a number
 constexpr unsigned kHelp = 32651;   // IDC_HELP
 constexpr int kFrameMilliseconds = 8;
+constexpr int kRetryMilliseconds = 1000;
 constexpr int kForEver = -1;
 constexpr std::chrono::milliseconds kClipboardWait{2000};
 
@@ -167,7 +168,7 @@ void SdlDisplay::Loop() {
     while (running) {
         const bool due = changed || stale;
         const int rest = static_cast<int>(nextFrame - SDL_GetTicks());
-        const int wait = !due ? kForEver : std::clamp(rest, 0, kFrameMilliseconds);
+        const int wait = !due ? kForEver : std::max(rest, 0);
         SDL_Event event;
         if (SDL_WaitEventTimeout(&event, wait) != 0) {
             do {
@@ -178,9 +179,10 @@ void SdlDisplay::Loop() {
         RunTasks();
         if ((changed || stale) && static_cast<int>(nextFrame - SDL_GetTicks()) <= 0) {
             const bool whole = stale;
-            stale = changed = false;
-            view.Present(whole);
-            nextFrame = SDL_GetTicks() + kFrameMilliseconds;
+            changed = false;
+            // Where the window cannot be drawn in, it may be later.
+            stale = !view.Present(whole);
+            nextFrame = SDL_GetTicks() + (stale ? kRetryMilliseconds : kFrameMilliseconds);
         }
     }
 }

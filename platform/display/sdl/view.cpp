@@ -53,10 +53,10 @@ bool View::Draw(const Picture& picture, SDL_Surface* shown, const Placement& pla
     return SDL_BlitSurface(scaled, &from, shown, &to) == 0;
 }
 
-void View::Present(bool whole) {
+bool View::Present(bool whole) {
     SDL_Surface* shown = SDL_GetWindowSurface(window);
     if (shown == nullptr) {
-        return;
+        return false;
     }
     const Placement placement(width, height, shown->w, shown->h);
     if (whole) {
@@ -68,16 +68,18 @@ void View::Present(bool whole) {
     const Picture picture = source.picture();
     const bool changed = source.takeDirty(&part.left, &part.top, &part.right, &part.bottom);
     part = whole ? all : changed ? Cut(part, all) : Box{};
-    const bool drawn = picture.width >= width && picture.height >= height && !part.Empty() &&
-                       Draw(picture, shown, placement, part);
+    const bool drawn =
+        picture.width >= width && picture.height >= height && (part.Empty() || Draw(picture, shown, placement, part));
     source.unlock();
-    if (whole) {
-        SDL_UpdateWindowSurface(window);
-    } else if (drawn) {
-        const Box box = placement.ToWindow(part);
-        const SDL_Rect rect{box.left, box.top, box.Width(), box.Height()};
-        SDL_UpdateWindowSurfaceRects(window, &rect, 1);
+    if (!drawn) {
+        return false;
     }
+    if (whole) {
+        return SDL_UpdateWindowSurface(window) == 0;
+    }
+    const Box box = part.Empty() ? part : placement.ToWindow(part);
+    const SDL_Rect rect{box.left, box.top, box.Width(), box.Height()};
+    return box.Empty() || SDL_UpdateWindowSurfaceRects(window, &rect, 1) == 0;
 }
 
 }  // namespace platform::display

@@ -21,8 +21,8 @@ class View {
     /// Before the window goes.
     void Detach();
 
-    /// Shows what has changed, or all of it.
-    void Present(bool whole);
+    /// Shows what has changed, or all of it. @returns false when it cannot, and has to be asked for all of it again.
+    bool Present(bool whole);
 
     /// @returns a place of the window in the picture, inside it or not.
     SDL_Point ToPicture(int x, int y) const;

@@ -27,6 +27,7 @@ std::optional<DibLayout> ReadLayout(const void* info, UINT usage, bool colours, 
     if (!info || usage > DIB_PAL_COLORS || (room && room < sizeof(BITMAPCOREHEADER))) {
         return std::nullopt;
     }
+    constexpr DWORD kLargestHeader = 124;  // the fifth version
     DibLayout layout;
     DWORD size = 0;
     std::memcpy(&size, info, sizeof(size));
@@ -41,7 +42,7 @@ std::optional<DibLayout> ReadLayout(const void* info, UINT usage, bool colours, 
         layout.bitsPerPixel = core.bcBitCount;
         planes = core.bcPlanes;
         entry = sizeof(RGBTRIPLE);
-    } else if (size >= sizeof(BITMAPINFOHEADER) && (!room || room >= size)) {
+    } else if (size >= sizeof(BITMAPINFOHEADER) && size <= kLargestHeader && (!room || room >= size)) {
         BITMAPINFOHEADER header;
         std::memcpy(&header, info, sizeof(header));
         layout.width = header.biWidth;
@@ -54,7 +55,8 @@ std::optional<DibLayout> ReadLayout(const void* info, UINT usage, bool colours, 
         planes = header.biPlanes;
         used = header.biClrUsed;
         layout.masks = header.biCompression == BI_BITFIELDS && size == sizeof(BITMAPINFOHEADER);
-        const bool fields = header.biCompression == BI_BITFIELDS && (header.biBitCount == 16 || header.biBitCount == 32);
+        const bool fields =
+            header.biCompression == BI_BITFIELDS && (header.biBitCount == 16 || header.biBitCount == 32);
         if (header.biCompression != BI_RGB && !fields) {
             return std::nullopt;
         }

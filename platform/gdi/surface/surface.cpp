@@ -15,8 +15,8 @@ std::uint32_t ColourOf16(std::uint16_t value, bool sixGreen) {
 }
 
 std::uint16_t PixelOf16(std::uint32_t colour, bool sixGreen) {
-    const std::uint32_t high = sixGreen ? (colour >> 8 & 0xF800) | (colour >> 5 & 0x07E0)
-                                        : (colour >> 9 & 0x7C00) | (colour >> 6 & 0x03E0);
+    const std::uint32_t high =
+        sixGreen ? (colour >> 8 & 0xF800) | (colour >> 5 & 0x07E0) : (colour >> 9 & 0x7C00) | (colour >> 6 & 0x03E0);
     return static_cast<std::uint16_t>(high | (colour >> 3 & 0x001F));
 }
 

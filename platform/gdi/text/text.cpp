@@ -274,8 +274,7 @@ BOOL WINAPI GetTextExtentPoint32A(HDC handle, LPCSTR text, int length, LPSIZE si
     }
     return Guarded(FALSE, [&] {
         // No text is not even as high as a line.
-        *size = length == 0 ? SIZE{}
-                            : SIZE{TextWidth(*context, text, length), Realize(*context->state.font).Height()};
+        *size = length == 0 ? SIZE{} : SIZE{TextWidth(*context, text, length), Realize(*context->state.font).Height()};
         return TRUE;
     });
 }

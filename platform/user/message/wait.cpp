@@ -56,9 +56,7 @@ void NoteSignalled(void* thread) {
 // whose outcome goes to `taken`. `all`: for a message and all objects together.
 Waited Wait(ThreadState* self, UserHold& hold, DWORD mask, bool present, kernel::ObjectWait* objects, bool all,
             std::uint64_t deadline, DWORD* taken) {
-    const auto arrived = [&] {
-        return (self->wakeBits & mask) != 0 || (present && (PendingBits(self) & mask) != 0);
-    };
+    const auto arrived = [&] { return (self->wakeBits & mask) != 0 || (present && (PendingBits(self) & mask) != 0); };
     for (;;) {
         const std::uint64_t next = std::min(CheckTimers(self), CheckCaret(self));
         const bool message = arrived();

@@ -107,9 +107,9 @@ class OpenDialog : public testing::Test {
 };
 
 TEST_F(OpenDialog, ARefusedNameIsExplainedAndSelected) {
-    EXPECT_EQ("C:\\walk\\b.txt",
-              Open({Type("none.txt"), Read(), Mark(), Type("no\\way.txt"), Read(), Mark(), Type("a<b.txt"), Read(), Mark(),
-                    Type("\"a.txt\" \"b.txt\""), Read(), Mark(), Type("nowhere\\*.txt"), Read(), Type("b.txt")}));
+    EXPECT_EQ("C:\\walk\\b.txt", Open({Type("none.txt"), Read(), Mark(), Type("no\\way.txt"), Read(), Mark(),
+                                       Type("a<b.txt"), Read(), Mark(), Type("\"a.txt\" \"b.txt\""), Read(), Mark(),
+                                       Type("nowhere\\*.txt"), Read(), Type("b.txt")}));
     std::string const file = "\nFile not found.\nPlease verify the correct file name was given.";
     std::string const path = "\nPath does not exist.\nPlease verify the correct path was given.";
     std::string const name = "\nThe above file name is invalid.";
@@ -124,14 +124,14 @@ TEST_F(OpenDialog, ARefusedNameIsExplainedAndSelected) {
 TEST_F(OpenDialog, APatternBehindAFolderIsAppliedThere) {
     std::string listed;
     EXPECT_EQ("C:\\walk\\one\\c.txt", Open({Type("one\\*.txt"),
-                                             [&](HWND dialog) {
-                                                 char text[64] = "";
-                                                 SendDlgItemMessageA(dialog, lst1, LB_GETTEXT, 1,
-                                                                     reinterpret_cast<LPARAM>(text));
-                                                 listed = text;
-                                                 said_.push_back(Selected(GetDlgItem(dialog, edt1)));
-                                             },
-                                             Type("c.txt")}));
+                                            [&](HWND dialog) {
+                                                char text[64] = "";
+                                                SendDlgItemMessageA(dialog, lst1, LB_GETTEXT, 1,
+                                                                    reinterpret_cast<LPARAM>(text));
+                                                listed = text;
+                                                said_.push_back(Selected(GetDlgItem(dialog, edt1)));
+                                            },
+                                            Type("c.txt")}));
     EXPECT_EQ("c.txt", listed);
     EXPECT_EQ(std::vector<std::string>{"*.txt"}, said_);
 }
@@ -155,17 +155,69 @@ TEST_F(OpenDialog, WhatAHookRefusesIsExplainedUnlessItHasSpoken) {
     record_.lpfnHook = Refusing;
     g_speaks = false;
     Open({Type("none.txt"), Read(), Mark(), Type("no\\way.txt"), Read(), Type("a.txt"), Read(), Mark(), Leave()});
-    EXPECT_EQ((std::vector<std::string>{"C:\\walk\\none.txt\nFile not found.\nPlease verify the correct file name was "
-                                        "given.",
-                                        "none.txt",
-                                        "C:\\walk\\no\\way.txt\nPath does not exist.\nPlease verify the correct path was "
-                                        "given.",
-                                        "C:\\walk\\a.txt\nThe above file name is invalid.", "a.txt"}),
-              said_);
+    EXPECT_EQ(
+        (std::vector<std::string>{"C:\\walk\\none.txt\nFile not found.\nPlease verify the correct file name was "
+                                  "given.",
+                                  "none.txt",
+                                  "C:\\walk\\no\\way.txt\nPath does not exist.\nPlease verify the correct path was "
+                                  "given.",
+                                  "C:\\walk\\a.txt\nThe above file name is invalid.", "a.txt"}),
+        said_);
     said_.clear();
     g_speaks = true;
     Open({Type("none.txt"), Read(), Mark(), Leave()});
     EXPECT_EQ((std::vector<std::string>{"Not this one", "none.txt"}), said_);
+}
+
+UINT g_when = 0;
+bool g_destroys = false;
+
+/// Does away with the dialog when a notification or a message comes.
+UINT_PTR CALLBACK Ending(HWND hook, UINT message, WPARAM, LPARAM lParam) {
+    static UINT const chosen = RegisterWindowMessageA(FILEOKSTRINGA);
+    UINT const what = message == WM_NOTIFY ? reinterpret_cast<OFNOTIFYA const*>(lParam)->hdr.code
+                      : message == chosen  ? UINT{WM_NULL}
+                                           : message;
+    if (what != g_when) {
+        return 0;
+    }
+    if (g_destroys) {
+        DestroyWindow(GetParent(hook));
+    } else {
+        EndDialog(GetParent(hook), FALSE);
+    }
+    return 0;
+}
+
+TEST_F(OpenDialog, AHookMayEndTheDialogAtAnyTime) {
+    record_.Flags = OFN_EXPLORER | OFN_ENABLEHOOK;
+    record_.lpfnHook = Ending;
+    record_.lpstrFilter = "All\0*.*\0Texts\0*.txt\0\0";
+    for (UINT const when : {UINT{WM_INITDIALOG}, CDN_INITDONE, CDN_FOLDERCHANGE, CDN_SELCHANGE, CDN_TYPECHANGE,
+                            CDN_FILEOK, UINT{WM_NULL}}) {
+        for (bool const destroys : {false, true}) {
+            SCOPED_TRACE(testing::Message() << when << (destroys ? ", destroyed" : ", ended"));
+            g_when = when;
+            g_destroys = destroys;
+            bool const atOnce = when == WM_INITDIALOG || when == CDN_INITDONE || when == CDN_FOLDERCHANGE;
+            std::vector<Hands::Step> steps;
+            if (when == CDN_SELCHANGE) {
+                steps.push_back([](HWND dialog) {
+                    SetFocus(GetDlgItem(dialog, lst1));
+                    Press({'A'});
+                });
+            } else if (when == CDN_TYPECHANGE) {
+                steps.push_back([](HWND dialog) {
+                    SetFocus(GetDlgItem(dialog, cmb1));
+                    Press({VK_DOWN});
+                });
+            } else if (!atOnce) {
+                steps.push_back(Type("a.txt"));
+            }
+            EXPECT_EQ("", Open(std::move(steps)));
+            EXPECT_TRUE(IsWindowEnabled(host_));
+        }
+    }
 }
 
 TEST_F(OpenDialog, AFolderThatCannotBeReadIsToldAndAnotherIsShown) {

@@ -21,8 +21,8 @@ std::vector<std::uint32_t> Picture() {
     return pixels;
 }
 
-std::vector<std::uint32_t> Drawn(const std::vector<std::uint32_t>& picture, const Placement& placement, Box part, int width,
-                                 int height, std::vector<std::uint32_t> onto) {
+std::vector<std::uint32_t> Drawn(const std::vector<std::uint32_t>& picture, const Placement& placement, Box part,
+                                 int width, int height, std::vector<std::uint32_t> onto) {
     onto.resize(static_cast<std::size_t>(width) * height);
     DrawScaled(picture.data(), kWidth, kWidth, kHeight, placement.Area(), placement.ToWindow(part), onto.data(), width);
     return onto;
@@ -62,7 +62,8 @@ TEST(DisplayScaling, WhatIsDrawnInPartsIsWhatIsDrawnAtOnce) {
                 }
             }
             const auto first = Drawn(before, placement, all, width, height, {});
-            EXPECT_EQ(Drawn(after, placement, all, width, height, {}), Drawn(after, placement, part, width, height, first))
+            EXPECT_EQ(Drawn(after, placement, all, width, height, {}),
+                      Drawn(after, placement, part, width, height, first))
                 << width << " by " << height << ", from " << part.left << ", " << part.top;
         }
     }

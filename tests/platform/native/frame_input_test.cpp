@@ -160,6 +160,27 @@ TEST_F(FrameInput, ADoubleClickOnTheCaptionMaximisesAndRestores) {
     EXPECT_EQ(Place().left, 100);
 }
 
+TEST_F(FrameInput, AWindowMayGoWhileItIsDragged) {
+    for (const UINT when : {UINT{WM_ENTERSIZEMOVE}, UINT{WM_MOVING}, UINT{WM_SIZING}, UINT{WM_WINDOWPOSCHANGING}}) {
+        HWND going =
+            Recorder::Get().Make(WS_POPUP | WS_VISIBLE | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME, 100, 100, 200, 150);
+        SetForegroundWindow(going);
+        Pump();
+        Recorder::Get().answer = [=](const Heard& heard, LRESULT*) {
+            if (heard.message == when && heard.window == going) {
+                DestroyWindow(going);
+            }
+            return false;
+        };
+        const int x = when == WM_SIZING ? 299 : 180;
+        const int y = when == WM_SIZING ? 180 : 112;
+        Play({At(x, y, MOUSEEVENTF_LEFTDOWN), At(x + 20, y + 9, 0), At(x + 30, y + 9, MOUSEEVENTF_LEFTUP)});
+        EXPECT_FALSE(IsWindow(going)) << when;
+        Recorder::Get().answer = nullptr;
+        EXPECT_EQ(GetCapture(), nullptr);
+    }
+}
+
 TEST_F(FrameInput, TheEndOfTheProgramEndsADrag) {
     Recorder::Get().answer = [](const Heard& heard, LRESULT*) {
         if (heard.message == WM_MOVING) {
