@@ -83,10 +83,10 @@ struct ThreadState {
     SentMessage* answering = nullptr;    ///< from another thread, being handled now
     bool sleeping = false;
     bool objectSignalled = false;  ///< one of the kernel objects it waits for, since it last looked at them
-    bool ending = false;         ///< is over; its windows are being cleared away
-    HWND lastActive = nullptr;   ///< what to activate when the thread comes to the foreground again
-    bool comingForward = false;  ///< was given the foreground, and has yet to activate its window
-    bool altAlone = false;       ///< no other key was pressed since Alt went down
+    bool ending = false;           ///< is over; its windows are being cleared away
+    HWND lastActive = nullptr;     ///< what to activate when the thread comes to the foreground again
+    bool comingForward = false;    ///< was given the foreground, and has yet to activate its window
+    bool altAlone = false;         ///< no other key was pressed since Alt went down
     struct {
         WPARAM key = 0;
         LPARAM data = 0;

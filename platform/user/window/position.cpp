@@ -215,8 +215,6 @@ void Report(Step& step) {
 
 }  // namespace
 
-
-
 bool ChangePositions(PositionChange* changes, std::size_t count) {
     std::vector<Step> steps;
     try {

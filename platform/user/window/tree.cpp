@@ -81,7 +81,6 @@ void UnlinkWindow(Window* window) {
     WindowsChanged();
 }
 
-
 bool LeadsTo(const Window* window, const Window* target) {
     for (; window; window = window->parent) {
         if (window == target || (window->owner && LeadsTo(window->owner, target))) {
