@@ -4,6 +4,7 @@
 
 #include "comdlg/filedialog.h"
 #include "kernel/files/wildcards.h"
+#include "user/dialog/dialog.h"
 
 namespace platform::comdlg {
 namespace {
@@ -52,10 +53,15 @@ void End(FileDialog& dialog, const Choice& choice) {
     flags = readOnly ? flags | OFN_READONLY : flags & ~static_cast<DWORD>(OFN_READONLY);
     dialog.record.nFilterIndex = static_cast<DWORD>(SendMessageA(dialog.Control(cmb1), CB_GETCURSEL, 0, 0) + 1);
     dialog.interrupted = false;
-    if (!TellHook(dialog, CDN_FILEOK) && !HookRefuses(dialog)) {
-        EndDialog(dialog.window, TRUE);
-    } else {
+    const bool refused = TellHook(dialog, CDN_FILEOK) || HookRefuses(dialog);
+    const auto state = user::FindDialogState(dialog.window);
+    if (!state || state->ended) {
+        return;  // the hook has done so, and with its own result
+    }
+    if (refused) {
         TellRefusedByHook(dialog, PathsOf(choice));
+    } else {
+        EndDialog(dialog.window, TRUE);
     }
 }
 

@@ -122,7 +122,7 @@ inline HTREEITEM Reach(HWND control, std::string const& path, HTREEITEM parent =
             return item;
         }
         // Drives stand below an item that is no place on a disk.
-        bool const onDisk = place.size() > 2 && place[1] == ':';
+        bool const onDisk = place.size() > 2 && IsCharAlphaA(place[0]) && place[1] == ':';
         if (onDisk ? BeginsWith(path, place) : depth == 0) {
             Expand(control, item);
             if (HTREEITEM const found = Reach(control, path, item, depth + 1)) {
