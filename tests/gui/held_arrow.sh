@@ -3,17 +3,6 @@
 source "$(dirname "$0")/common.sh"
 source "$(dirname "$0")/window.sh"
 
-# wait_for <what> <command...>: tries the command until it succeeds.
-wait_for() {
-    local what=$1 end=$((SECONDS + 30))
-    shift
-    until "$@"; do
-        kill -0 "$program" 2>/dev/null || fail "the program ended at once: $(<"$work/err")"
-        [ "$SECONDS" -lt "$end" ] || fail "$what: waited for in vain"
-        sleep 0.1
-    done
-}
-
 field_is_shown() {
     import -window root "$work/start.png" 2>/dev/null
     read -r x y w h <<<"$(find_fields "$work/start.png")"

@@ -53,7 +53,8 @@ TEST_F(OddMessages, ComboBoxes) {
         const HWND combo = Make("combobox", style);
         for (const int odd : kOddNumbers) {
             Send(combo, CB_SETDROPPEDWIDTH, odd, odd);
-            EXPECT_EQ(CB_ERR, Send(combo, CB_SETITEMDATA, odd ? odd : 1, odd));
+            // -1 stands for all items, of which there are none.
+            EXPECT_EQ(odd == -1 ? LRESULT{TRUE} : LRESULT{CB_ERR}, Send(combo, CB_SETITEMDATA, odd ? odd : 1, odd));
             Send(combo, CB_SHOWDROPDOWN, TRUE, 0);
             RECT rect{};
             Send(combo, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&rect));
