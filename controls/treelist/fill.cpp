@@ -69,16 +69,15 @@ bool Insert(Branch& branch, IMalloc* allocator, LPCITEMIDLIST id, ULONG attribut
     branch.folder->AddRef();
     auto const inserted = reinterpret_cast<HTREEITEM>(
         SendMessageA(branch.treeView, TVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&insert)));
-    bool const there = IsWindow(branch.treeView);
     if (inserted) {
         branch.last = inserted;
-    } else if (there) {
-        Discard(item);
+    } else {
+        Discard(item);  // no item has it, also where the tree has gone before it was asked
     }
     if (fullId) {
         allocator->Free(fullId);
     }
-    return there;
+    return IsWindow(branch.treeView);
 }
 
 /// @return false if it was broken off.
