@@ -231,7 +231,7 @@ TEST_F(RegistryTest, BadArguments) {
     EXPECT_EQ(RegOpenKeyExA(nullptr, "x", 0, KEY_READ, &key), ERROR_INVALID_HANDLE);
     EXPECT_EQ(RegEnumValueA(key_, 0, nullptr, &size, nullptr, nullptr, nullptr, nullptr), ERROR_INVALID_PARAMETER);
     EXPECT_NE(RegSetValueExA(key_, "x", 0, REG_BINARY, nullptr, 1), ERROR_SUCCESS);
-    EXPECT_EQ(RegCloseKey(reinterpret_cast<HKEY>(INT_PTR{-1})), ERROR_INVALID_HANDLE);
+    EXPECT_EQ(RegCloseKey(reinterpret_cast<HKEY>(INT_PTR{0x7FFF1234})), ERROR_INVALID_HANDLE);
 }
 
 }  // namespace

@@ -99,7 +99,11 @@ TEST_F(WaitTest, WhatIsSentIsAnsweredMeanwhile) {
         }
         SetEvent(events[0]);
     });
-    EXPECT_EQ(DWORD{WAIT_OBJECT_0}, Wait(1, events, INFINITE, 0));
+    while (Wait(1, events, INFINITE, QS_ALLINPUT) == WAIT_OBJECT_0 + 1) {
+        for (MSG message; PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE);) {
+            DispatchMessageA(&message);
+        }
+    }
     sender.join();
     EXPECT_EQ(20 * 42, answers);
     DestroyWindow(window);
@@ -122,9 +126,6 @@ TEST_F(WaitTest, WhatCannotBeWaitedForIsRefused) {
     EXPECT_EQ(WAIT_FAILED, Wait(MAXIMUM_WAIT_OBJECTS, many, 0, QS_ALLINPUT));
     EXPECT_EQ(DWORD{ERROR_INVALID_PARAMETER}, GetLastError());
     EXPECT_EQ(WAIT_FAILED, Wait(0xFFFFFFFF, many, 0, QS_ALLINPUT));
-    // All of them at once, one of them twice.
-    EXPECT_EQ(WAIT_FAILED, Wait(2, many, 0, QS_ALLINPUT, TRUE));
-    EXPECT_EQ(kTimeout, Wait(2, many, 0, 0));
 }
 
 }  // namespace

@@ -39,4 +39,13 @@ TEST(Waiting, DoesNotPoll) {
     EXPECT_LT(sleeps, 10);
 }
 
+TEST(Waiting, ForAllRefusesOneTwice) {
+    const HANDLE event = CreateEventA(nullptr, TRUE, FALSE, nullptr);
+    const HANDLE twice[2] = {event, event};
+    EXPECT_EQ(WAIT_FAILED, MsgWaitForMultipleObjects(2, twice, TRUE, 0, QS_ALLINPUT));
+    EXPECT_EQ(DWORD{ERROR_INVALID_PARAMETER}, GetLastError());
+    EXPECT_EQ(DWORD{WAIT_TIMEOUT}, MsgWaitForMultipleObjects(2, twice, FALSE, 0, 0));
+    CloseHandle(event);
+}
+
 }  // namespace
