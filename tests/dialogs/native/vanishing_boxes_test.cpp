@@ -1,4 +1,4 @@
-// The two standard dialogs, and the windows around them, may be ended at any message: see tests/controls/vanishing_test.cpp.
+// The two standard dialogs, and the windows around them, may be ended at any message: see tests/controls/native/vanishing_test.cpp.
 #include <cvutil32/about.h>
 #include <cvutil32/msgbox.h>
 
