@@ -73,10 +73,14 @@ class Tour : public testing::Test {
 void TakePicture(HWND dialog) {
     auto const picture = gallery::CaptureWindow(dialog);
     ASSERT_TRUE(picture);
-    auto const count = [&](std::uint32_t colour) { return std::ranges::count(picture->pixels, colour); };
+    auto const count = [&](int which) {
+        COLORREF const colour = GetSysColor(which);
+        auto const pixel = static_cast<std::uint32_t>(RGB(GetBValue(colour), GetGValue(colour), GetRValue(colour)));
+        return std::ranges::count(picture->pixels, pixel);
+    };
     auto const all = static_cast<std::ptrdiff_t>(picture->pixels.size());
-    EXPECT_GT(count(0xFFFFFF), all / 5);
-    EXPECT_GT(count(0xC0C0C0), all / 4);
+    EXPECT_GT(count(COLOR_WINDOW), all / 5);
+    EXPECT_GT(count(COLOR_3DFACE), all / 4);
     if (char const* const folder = std::getenv("CVUTIL32_PICTURES")) {
         EXPECT_TRUE(gallery::WritePng(std::string(folder) + "/tour.png", *picture));
     }
