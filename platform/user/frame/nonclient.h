@@ -14,6 +14,9 @@ LRESULT DefaultNonClient(Window* window, UINT message, WPARAM wParam, LPARAM lPa
 /// WM_SETCURSOR's default, once the parents have been asked. @returns whether a cursor was set.
 bool SetHitCursor(HWND hit, int hitCode, UINT mouseMessage);
 
+/// @returns the IDC_ number of the pointer over a part of the frame.
+UINT SizingCursor(int hitCode);
+
 /// @returns how many pixels wide the frame is on each side, the sunken client edge left out.
 int FrameWidth(DWORD style, DWORD exStyle);
 

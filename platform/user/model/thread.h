@@ -98,6 +98,11 @@ struct ThreadState {
         DWORD time = 0;
         POINT point{};
     } lastClick;
+    struct {
+        HWND window = nullptr;   ///< of the menu that is open
+        HWND owner = nullptr;    ///< the window that has opened it
+        DWORD closingPress = 0;  ///< time of the press beside the last menu that has put it away
+    } menu;
 };
 
 /// @returns the calling thread's state, made on first use and filed until the thread ends.
