@@ -1,6 +1,6 @@
-#include "gallery/pages/standard_page.h"
+#include "gallery/pages/controls/standard_page.h"
 
-#include "gallery/pages/standard_ids.h"
+#include "gallery/pages/controls/standard_ids.h"
 #include "gallery/text.h"
 
 namespace gallery {

@@ -1,8 +1,8 @@
-#include "gallery/pages/dates_page.h"
+#include "gallery/pages/fields/dates_page.h"
 
-#include "gallery/pages/chosen_date.h"
-#include "gallery/pages/dates_page_ids.h"
-#include "gallery/pages/horizontal_step.h"
+#include "gallery/pages/fields/chosen_date.h"
+#include "gallery/pages/fields/dates_page_ids.h"
+#include "gallery/pages/fields/horizontal_step.h"
 #include "gallery/settings.h"
 #include "gallery/text.h"
 

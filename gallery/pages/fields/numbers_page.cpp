@@ -1,7 +1,7 @@
-#include "gallery/pages/numbers_page.h"
+#include "gallery/pages/fields/numbers_page.h"
 
-#include "gallery/pages/horizontal_step.h"
-#include "gallery/pages/numbers_page_ids.h"
+#include "gallery/pages/fields/horizontal_step.h"
+#include "gallery/pages/fields/numbers_page_ids.h"
 #include "gallery/text.h"
 
 #include <string>

@@ -1,6 +1,6 @@
-#include "gallery/pages/lists_page.h"
+#include "gallery/pages/controls/lists_page.h"
 
-#include "gallery/pages/lists_ids.h"
+#include "gallery/pages/controls/lists_ids.h"
 #include "gallery/text.h"
 
 namespace gallery {

@@ -1,6 +1,6 @@
-#include "gallery/pages/buttons_page.h"
+#include "gallery/pages/controls/buttons_page.h"
 
-#include "gallery/pages/buttons_ids.h"
+#include "gallery/pages/controls/buttons_ids.h"
 #include "gallery/text.h"
 
 #include <array>
@@ -75,7 +75,7 @@ void OnInitDialog(HWND page) {
     SetPicture(page, IDC_BUTTONS_MASKED, IDB_FOLDER, IDB_FOLDER_MASK);
     SetPicture(page, IDC_BUTTONS_PRESSED, IDB_FOLDER, IDB_FOLDER_MASK);
     SetPicture(page, IDC_BUTTONS_DISABLED, IDB_FOLDER, IDB_FOLDER_MASK);
-    SetPicture(page, IDC_BUTTONS_LARGE, IDB_CLOCK, 0);
+    SetPicture(page, IDC_BUTTONS_LARGE, IDB_DIAL, IDB_DIAL_MASK);
     SendDlgItemMessageA(page, IDC_BUTTONS_PRESSED, BM_SETSTATE, TRUE, 0);
     ShowClicks(page, 0);
 

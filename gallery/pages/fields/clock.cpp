@@ -1,4 +1,4 @@
-#include "gallery/pages/clock.h"
+#include "gallery/pages/fields/clock.h"
 
 #include <string>
 

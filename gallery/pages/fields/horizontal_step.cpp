@@ -1,4 +1,4 @@
-#include "gallery/pages/horizontal_step.h"
+#include "gallery/pages/fields/horizontal_step.h"
 
 namespace gallery {
 namespace {

@@ -1,6 +1,6 @@
-#include "gallery/pages/dialogs_page.h"
+#include "gallery/pages/dialogs/dialogs_page.h"
 
-#include "gallery/pages/dialogs_ids.h"
+#include "gallery/pages/dialogs/dialogs_ids.h"
 #include "gallery/text.h"
 
 #include <cvutil32/about.h>

@@ -1,7 +1,7 @@
-#include "gallery/pages/browse_page.h"
+#include "gallery/pages/dialogs/browse_page.h"
 
-#include "gallery/pages/browse_ids.h"
-#include "gallery/pages/wide_names.h"
+#include "gallery/pages/dialogs/browse_ids.h"
+#include "gallery/pages/dialogs/wide_names.h"
 #include "gallery/text.h"
 
 namespace gallery {

@@ -5,7 +5,7 @@
 #include <cvutil32/cklist.h>
 #include <cvutil32/grbutton.h>
 
-#include "gallery/pages/buttons_ids.h" /* the pictures */
+#include "gallery/pages/controls/buttons_ids.h" /* the pictures */
 
 #define IDS_LISTS_TITLE 1200
 #define IDS_LISTS_TICKED 1201

@@ -1,8 +1,8 @@
-#include "gallery/pages/datetime_page.h"
+#include "gallery/pages/fields/datetime_page.h"
 
-#include "gallery/pages/clock.h"
-#include "gallery/pages/datetime_page_ids.h"
-#include "gallery/pages/horizontal_step.h"
+#include "gallery/pages/fields/clock.h"
+#include "gallery/pages/fields/datetime_page_ids.h"
+#include "gallery/pages/fields/horizontal_step.h"
 #include "gallery/text.h"
 
 #include <string>

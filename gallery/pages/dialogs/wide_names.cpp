@@ -1,4 +1,4 @@
-#include "gallery/pages/wide_names.h"
+#include "gallery/pages/dialogs/wide_names.h"
 
 #include <windows.h>
 

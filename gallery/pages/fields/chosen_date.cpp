@@ -1,4 +1,4 @@
-#include "gallery/pages/chosen_date.h"
+#include "gallery/pages/fields/chosen_date.h"
 
 #include <cvutil32.h>
 

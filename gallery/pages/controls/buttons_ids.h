@@ -35,3 +35,5 @@
 #define IDB_CROSS 1156
 #define IDB_CROSS_MASK 1157
 #define IDB_CLOCK 1158 /* pictures of 32 by 32 on magenta */
+#define IDB_DIAL 1159
+#define IDB_DIAL_MASK 1160
