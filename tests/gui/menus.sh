@@ -94,7 +94,6 @@ look "$(strip 1)" word
 click 2 20 2
 await other "$(strip 2)" empty "the middle button inserts"
 xdotool key Tab
-sleep 0.2
 look "$(strip 2)" inserted
 xdotool key shift+Tab ctrl+a
 wait_for "all is selected" place_is_new "$(strip 2)" inserted empty
@@ -103,9 +102,7 @@ await same "$(strip 2)" pasted "the clipboard still holds what was copied"
 
 # The window moves by the keys of its menu.
 before=${fields[0]}
-xdotool key alt+space
-sleep 0.2
-xdotool key m Left Left Left Up Up Return
+xdotool key alt+space m Left Left Left Up Up Return
 read -r left top _ <<<"$before"
 moved() {
     find_moved && read -r x y _ <<<"${fields[0]}" && [ "$x" = $((left - 24)) ] && [ "$y" = $((top - 16)) ]

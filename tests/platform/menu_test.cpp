@@ -19,6 +19,10 @@ class Menus : public EditControl {
     }
     void TearDown() override {
         Recorder::Get().Reset();
+        if (OpenClipboard(parent_)) {
+            EmptyClipboard();
+            CloseClipboard();
+        }
         EditControl::TearDown();
         Pump();
     }

@@ -6,9 +6,7 @@
 
 #include "gdi/context/objects.h"
 #include "kernel/memory/probe.h"
-#include "user/frame/above.h"
 #include "user/frame/nonclient.h"
-#include "user/model/thread.h"
 #include "user/model/window.h"
 #include "user/painting/painting.h"
 #include "user/window/above.h"
@@ -168,67 +166,6 @@ LRESULT ActivateByMouse(HWND handle, WPARAM wParam, LPARAM lParam) {
     return MA_ACTIVATE;
 }
 
-constexpr LPARAM kWithAlt = 1 << 29;
-constexpr LPARAM kByKeyboard = -1;  // in place of a point, in WM_CONTEXTMENU
-
-/// Alt+F4 closes, Shift+F10 asks for the context menu.
-LRESULT SystemKeyDown(HWND handle, WPARAM key, LPARAM bits) {
-    if (key == VK_F4 && (bits & kWithAlt)) {
-        if (const HWND top = GetAncestor(handle, GA_ROOT)) {
-            SendMessageA(top, WM_SYSCOMMAND, SC_CLOSE, 0);
-        }
-    } else if (key == VK_F10 && GetKeyState(VK_SHIFT) < 0) {
-        SendMessageA(handle, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(handle), kByKeyboard);
-    }
-    return 0;
-}
-
-/// Alt+Space opens the system menu; other characters have no menu to go to.
-LRESULT SystemCharacter(HWND handle, WPARAM character, LPARAM bits) {
-    if (character == VK_SPACE && (bits & kWithAlt)) {
-        if (const HWND top = GetAncestor(handle, GA_ROOT)) {
-            SendMessageA(top, WM_SYSCOMMAND, SC_KEYMENU, VK_SPACE);
-        }
-    }
-    return 0;
-}
-
-/// A child leaves it to its parent; over a caption the system menu is meant.
-LRESULT ContextMenu(HWND handle, WPARAM wParam, LPARAM lParam) {
-    const Window* window = PeekWindow(handle);
-    if (window && IsChildStyle(window->style)) {
-        const HWND parent = GetParent(handle);
-        return parent ? SendMessageA(parent, WM_CONTEXTMENU, wParam, lParam) : 0;
-    }
-    const POINT point = MousePoint(lParam);
-    const bool byKeyboard = point.x == -1 && point.y == -1;
-    const LRESULT part = byKeyboard ? HTNOWHERE : HitTest(handle, point);
-    if (part == HTCAPTION || part == HTSYSMENU) {
-        OpenSystemMenu(handle, &point, false);
-    }
-    return 0;
-}
-
-/// A mode that the system runs for a window is over: the mouse is let go, and a menu of the window or its children put away.
-void CancelMode(HWND handle) {
-    if (GetCapture() == handle) {
-        ReleaseCapture();
-    }
-    HWND menu = nullptr;
-    {
-        const UserGuard guard(UserLock());
-        const ThreadState* self = CurrentThread();
-        const Window* window = PeekWindow(handle);
-        const Window* owner = self ? PeekWindow(self->menu.owner) : nullptr;
-        if (window && owner && (owner == window || IsAncestor(window, owner))) {
-            menu = self->menu.window;
-        }
-    }
-    if (menu) {
-        SendMessageA(menu, WM_CANCELMODE, 0, 0);
-    }
-}
-
 void SetRedraw(HWND handle, bool redraw) {
     UserHold hold(UserLock());
     Window* window = PeekWindow(handle);
@@ -349,14 +286,11 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
         case WM_SETCURSOR:
             return SetCursorFor(handle, wParam, lParam);
         case WM_SYSKEYDOWN:
-            return SystemKeyDown(handle, wParam, lParam);
+            return OnSystemKey(handle, wParam, lParam);
         case WM_SYSCHAR:
-            return SystemCharacter(handle, wParam, lParam);
+            return OnSystemCharacter(handle, wParam, lParam);
         case WM_KEYUP:
-            if (wParam == VK_APPS) {
-                SendMessageA(handle, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(handle), kByKeyboard);
-            }
-            return 0;
+            return OnKeyUp(handle, wParam);
         case WM_RBUTTONUP: {
             POINT point = MousePoint(lParam);
             ClientToScreen(handle, &point);
@@ -370,7 +304,7 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
             return above ? SendMessageA(above, message, wParam, lParam) : 0;
         }
         case WM_CONTEXTMENU:
-            return ContextMenu(handle, wParam, lParam);
+            return OnContextMenu(handle, wParam, lParam);
         case WM_MOUSEWHEEL:
             if (IsChildStyle(window->style)) {
                 if (const HWND parent = GetParent(handle)) {
@@ -399,7 +333,7 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
             }
             return 0;
         case WM_CANCELMODE:
-            CancelMode(handle);
+            LeaveModes(handle);
             return 0;
         default:
             return 0;

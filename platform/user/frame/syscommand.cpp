@@ -269,9 +269,10 @@ void MoveOrSize(HWND handle, int part, bool byMouse, POINT from) {
 }
 
 /// The press on the icon that puts its menu away does not open it anew.
-bool HasJustClosedMenu() {
+bool HasJustClosedMenu(HWND handle) {
     ThreadState* self = CurrentThread();
-    return std::exchange(self->menu.closingPress, 0) == self->messageTime && self->messageTime != 0;
+    const UserGuard guard(UserLock());
+    return std::exchange(self->menu.closedOwner, nullptr) == handle && self->menu.closingPress == self->messageTime;
 }
 
 /// A button of the caption looks pressed while the pointer is held over it. @returns whether it was let go there.
@@ -310,6 +311,11 @@ bool NextMessage(HWND handle, MSG* message) {
         PostQuitMessage(static_cast<int>(message->wParam));
     }
     return got > 0;
+}
+
+bool IsPress(UINT message) {
+    return message == WM_LBUTTONDOWN || message == WM_LBUTTONDBLCLK || message == WM_RBUTTONDOWN ||
+           message == WM_RBUTTONDBLCLK || message == WM_MBUTTONDOWN || message == WM_MBUTTONDBLCLK;
 }
 
 bool IsInput(UINT message) {
@@ -380,7 +386,7 @@ LRESULT SystemCommand(HWND handle, WPARAM command, POINT point) {
             }
             break;
         case SC_MOUSEMENU:
-            if (!HasJustClosedMenu()) {
+            if (!HasJustClosedMenu(handle)) {
                 OpenSystemMenu(handle, nullptr, false);
             }
             break;

@@ -1,16 +1,12 @@
 // What a person does with a menu: presses, drags and lets go, or goes through it with the keys.
 #include "user/menu/menu.h"
 
+#include "user/frame/nonclient.h"
 #include "user/menu/menu_window.h"
 #include "user/model/thread.h"
 
 namespace platform::user {
 namespace {
-
-bool IsPress(UINT message) {
-    return message == WM_LBUTTONDOWN || message == WM_LBUTTONDBLCLK || message == WM_RBUTTONDOWN ||
-           message == WM_RBUTTONDBLCLK || message == WM_MBUTTONDOWN || message == WM_MBUTTONDBLCLK;
-}
 
 bool IsKey(UINT message) {
     return message >= WM_KEYFIRST && message <= WM_KEYLAST;
@@ -72,38 +68,39 @@ class MenuRun {
         MSG message;
         if (!PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE)) {
             MsgWaitForMultipleObjects(0, nullptr, FALSE, INFINITE, QS_ALLINPUT);
-            return;
+        } else if (menu_.window && IsForOthers(message)) {
+            EndMenu(menu_);
+        } else if (menu_.window && PeekMessageA(&message, nullptr, message.message, message.message, PM_REMOVE)) {
+            Take(message);
         }
+    }
+
+    bool IsMouse(const MSG& message) const {
+        return message.hwnd == menu_.window && message.message >= WM_MOUSEFIRST && message.message <= WM_MOUSELAST;
+    }
+
+    bool IsForOthers(const MSG& message) const {
+        if (IsMouse(message) && IsPress(message.message) && !IsInside(message.pt)) {
+            ThreadState* self = CurrentThread();
+            const UserGuard guard(UserLock());
+            self->menu.closedOwner = owner_;
+            self->menu.closingPress = message.time;
+            return true;
+        }
+        return message.message == WM_QUIT;
+    }
+
+    void Take(const MSG& message) {
         if (!menu_.window) {
             return;
         }
-        const bool mouse = message.hwnd == menu_.window && message.message >= WM_MOUSEFIRST &&
-                           message.message <= WM_MOUSELAST;
-        if (mouse && IsPress(message.message) && !IsInside(message.pt)) {
-            NoteClosingPress(message.time);
-            EndMenu(menu_);
-            return;
-        }
-        if (message.message == WM_QUIT) {
-            EndMenu(menu_);
-            return;
-        }
-        if (!PeekMessageA(&message, nullptr, message.message, message.message, PM_REMOVE) || !menu_.window) {
-            return;
-        }
-        if (mouse) {
+        if (IsMouse(message)) {
             OnMouse(message);
         } else if (IsKey(message.message)) {
             OnKey(message);
         } else {
             DispatchMessageA(&message);
         }
-    }
-
-    static void NoteClosingPress(DWORD time) {
-        ThreadState* self = CurrentThread();
-        const UserGuard guard(UserLock());
-        self->menu.closingPress = time;
     }
 
     bool IsInside(POINT point) const {

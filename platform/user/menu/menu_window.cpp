@@ -11,15 +11,15 @@
 namespace platform::user {
 namespace {
 
-constexpr char kClass[] = "#32768";
+constexpr char kMenuClass[] = "#32768";
 
-constexpr int kEdge = 3;        // two pixels of bevel, and one between it and the items
+constexpr int kMenuEdge = 3;     // two pixels of bevel, and one between it and the items
 constexpr int kBeforeText = 18;  // as wide as the column of check marks
 constexpr int kAfterText = 17;
 constexpr int kColumnGap = 12;
-constexpr int kAboveAndBelow = 4;  // what an item has more than its text
-constexpr int kLineHeight = 9;     // of a line between items
-constexpr UINT kFormat = DT_LEFT | DT_VCENTER | DT_SINGLELINE;
+constexpr int kAboveAndBelow = 4;   // what an item has more than its text
+constexpr int kMenuLineHeight = 9;  // of a line between items
+constexpr UINT kItemFormat = DT_LEFT | DT_VCENTER | DT_SINGLELINE;
 
 /// What stands in the first column, and in the second.
 struct Texts {
@@ -36,7 +36,7 @@ void Draw(HDC context, std::string_view text, RECT* rect, UINT format) {
 
 SIZE Measure(HDC context, std::string_view text) {
     RECT area{};
-    Draw(context, text, &area, kFormat | DT_CALCRECT);
+    Draw(context, text, &area, kItemFormat | DT_CALCRECT);
     return {area.right, area.bottom};
 }
 
@@ -54,15 +54,15 @@ void LayOut(OpenMenu& menu) {
     SelectObject(context, former);
     ReleaseDC(nullptr, context);
 
-    menu.shortcuts = kEdge + kBeforeText + labels + kColumnGap;
-    menu.size.cx = 2 * kEdge + kBeforeText + labels + (shortcuts > 0 ? kColumnGap + shortcuts : 0) + kAfterText;
-    LONG top = kEdge;
+    menu.shortcuts = kMenuEdge + kBeforeText + labels + kColumnGap;
+    menu.size.cx = 2 * kMenuEdge + kBeforeText + labels + (shortcuts > 0 ? kColumnGap + shortcuts : 0) + kAfterText;
+    LONG top = kMenuEdge;
     for (const MenuItem& item : menu.items) {
-        const LONG bottom = top + (item.command ? itemHeight : kLineHeight);
-        menu.rects.push_back({kEdge, top, menu.size.cx - kEdge, bottom});
+        const LONG bottom = top + (item.command ? itemHeight : kMenuLineHeight);
+        menu.rects.push_back({kMenuEdge, top, menu.size.cx - kMenuEdge, bottom});
         top = bottom;
     }
-    menu.size.cy = top + kEdge;
+    menu.size.cy = top + kMenuEdge;
 }
 
 /// Where a menu stands so that all of it is seen, as far as the screen is large enough.
@@ -83,7 +83,7 @@ POINT Fit(SIZE size, const MenuPlace& place) {
 }
 
 void DrawLine(HDC context, const RECT& rect) {
-    RECT line{rect.left + 1, rect.top + kLineHeight / 2 - 1, rect.right - 1, rect.top + kLineHeight / 2 + 1};
+    RECT line{rect.left + 1, rect.top + kMenuLineHeight / 2 - 1, rect.right - 1, rect.top + kMenuLineHeight / 2 + 1};
     DrawEdge(context, &line, EDGE_ETCHED, BF_TOP);
 }
 
@@ -91,9 +91,9 @@ void DrawTexts(HDC context, const OpenMenu& menu, const Texts& texts, RECT rect,
     SetTextColor(context, colour);
     RECT second = rect;
     rect.left += kBeforeText;
-    second.left += menu.shortcuts - kEdge;
-    Draw(context, texts.label, &rect, kFormat);
-    Draw(context, texts.shortcut, &second, kFormat);
+    second.left += menu.shortcuts - kMenuEdge;
+    Draw(context, texts.label, &rect, kItemFormat);
+    Draw(context, texts.shortcut, &second, kItemFormat);
 }
 
 void DrawItem(HDC context, const OpenMenu& menu, std::size_t index) {
@@ -125,7 +125,7 @@ void Paint(const OpenMenu& menu) {
     }
     RECT rect{0, 0, menu.size.cx, menu.size.cy};
     DrawEdge(context, &rect, EDGE_RAISED, BF_RECT);
-    InflateRect(&rect, -(kEdge - 1), -(kEdge - 1));
+    InflateRect(&rect, -(kMenuEdge - 1), -(kMenuEdge - 1));
     FrameRect(context, &rect, GetSysColorBrush(COLOR_MENU));
     SelectObject(context, GetStockObject(DEFAULT_GUI_FONT));
     SetBkMode(context, TRANSPARENT);
@@ -187,15 +187,15 @@ LRESULT CALLBACK MenuProcedure(HWND window, UINT message, WPARAM wParam, LPARAM 
 }  // namespace
 
 void RegisterMenuClass() {
-    RegisterSystemClass(kClass, MenuProcedure, CS_SAVEBITS, 0, IDC_ARROW, nullptr);
+    RegisterSystemClass(kMenuClass, MenuProcedure, CS_SAVEBITS, 0, IDC_ARROW, nullptr);
 }
 
 bool ShowMenu(OpenMenu& menu, HWND owner, const MenuPlace& place) {
     LayOut(menu);
     const POINT corner = Fit(menu.size, place);
     const HWND window =
-        CreateWindowExA(WS_EX_TOPMOST | WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE, kClass, "", WS_POPUP, corner.x, corner.y,
-                        menu.size.cx, menu.size.cy, GetAncestor(owner, GA_ROOT), nullptr, nullptr, nullptr);
+        CreateWindowExA(WS_EX_TOPMOST | WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE, kMenuClass, "", WS_POPUP, corner.x,
+                        corner.y, menu.size.cx, menu.size.cy, GetAncestor(owner, GA_ROOT), nullptr, nullptr, nullptr);
     if (!window) {
         return false;
     }

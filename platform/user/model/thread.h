@@ -99,9 +99,10 @@ struct ThreadState {
         POINT point{};
     } lastClick;
     struct {
-        HWND window = nullptr;   ///< of the menu that is open
-        HWND owner = nullptr;    ///< the window that has opened it
-        DWORD closingPress = 0;  ///< time of the press beside the last menu that has put it away
+        HWND window = nullptr;       ///< of the menu that is open
+        HWND owner = nullptr;        ///< the window that has opened it
+        HWND closedOwner = nullptr;  ///< the owner of the menu that a press beside it has put away last
+        DWORD closingPress = 0;      ///< the time of that press
     } menu;
 };
 

@@ -29,6 +29,10 @@ class OpenMenus : public EditControl {
     }
     void TearDown() override {
         Steps_().clear();
+        if (OpenClipboard(IsWindow(parent_) ? parent_ : nullptr)) {
+            EmptyClipboard();
+            CloseClipboard();
+        }
         Recorder::Get().Reset();
         if (IsWindow(window)) {
             DestroyWindow(window);
