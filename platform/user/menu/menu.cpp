@@ -98,6 +98,9 @@ class MenuRun {
             OnMouse(message);
         } else if (IsKey(message.message)) {
             OnKey(message);
+        } else if (message.message == WM_QUIT) {
+            // It has come between the two looks.
+            PostQuitMessage(static_cast<int>(message.wParam));
         } else {
             DispatchMessageA(&message);
         }

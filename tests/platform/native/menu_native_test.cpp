@@ -318,6 +318,33 @@ TEST_F(OpenMenus, ComeByTheKeysOfTheKeyboard) {
     EXPECT_EQ("|", Marked(edit));
 }
 
+TEST_F(OpenMenus, OfAComboBoxAreThoseOfItsField) {
+    const HWND combo = CreateWindowExA(0, "combobox", "", WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, 10, 60, 100, 90,
+                                       parent_, nullptr, nullptr, nullptr);
+    const HWND field = GetWindow(combo, GW_CHILD);
+    SetWindowTextA(field, "one");
+    SetFocus(field);
+    Select(field, 3, 3);
+    Send(field, WM_KEYDOWN, VK_F4, 1);
+    EXPECT_NE(nullptr, GetCapture()) << "the list is dropped";
+    Run({[&] { PostMessageA(field, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(field), -1); },
+         [] {
+             EXPECT_NE(nullptr, Menu());
+             EXPECT_EQ(Menu(), GetCapture()) << "the list has closed";
+             Key('A');
+         }});
+    EXPECT_EQ("[one]", Marked(field));
+    EXPECT_EQ(field, GetFocus());
+}
+
+TEST_F(OpenMenus, TheMiddleButtonHasNothingToInsertWithoutADesktop) {
+    const HWND edit = Make(ES_AUTOHSCROLL, "one two");
+    Select(edit, 0, 3);
+    Type(edit, "\x03");
+    Send(edit, WM_MBUTTONDOWN, MK_MBUTTON, MAKELPARAM(60, 8));
+    EXPECT_EQ("[one] two", Marked(edit)) << "the clipboard is something else";
+}
+
 TEST_F(OpenMenus, AClickBesideThemGoesWhereItWasMeant) {
     const HWND edit = Make(ES_AUTOHSCROLL, "one two");
     const HWND other = CreateWindowExA(0, "edit", "other", WS_CHILD | WS_VISIBLE, 10, 150, 100, 20, parent_, nullptr,

@@ -179,7 +179,8 @@ void OnEditMove(HWND edit, EditData& data, LPARAM point);
 void OnEditTimer(HWND edit, EditData& data);
 void EndEditDrag(HWND edit, EditData& data);
 
-/// The context menu, at a point or by the keyboard; it acts on the control by messages. @returns whether it was shown.
+/// The context menu, at a point or by the keyboard; it acts on the control by messages. @returns false for a scroll bar, which
+/// has no menu.
 bool OnEditContextMenu(HWND edit, EditData& data, LPARAM where);
 /// The middle button inserts what was selected last in any program of the desktop.
 void OnEditMiddlePress(HWND edit, EditData& data, LPARAM point);

@@ -41,11 +41,8 @@ MenuPlace PlaceOf(HWND edit, const EditData& data, POINT point, bool byKeyboard)
 bool OnEditContextMenu(HWND edit, EditData& data, LPARAM where) {
     const POINT point = MousePoint(where);
     const bool byKeyboard = point.x == -1 && point.y == -1;
-    POINT inside = point;
-    RECT client{};
-    ScreenToClient(edit, &inside);
-    GetClientRect(edit, &client);
-    if (!byKeyboard && !PtInRect(&client, inside)) {
+    const LRESULT part = byKeyboard ? HTCLIENT : SendMessageA(edit, WM_NCHITTEST, 0, where);
+    if (part == HTVSCROLL || part == HTHSCROLL || !IsWindow(edit)) {
         return false;
     }
     if (GetFocus() != edit) {
