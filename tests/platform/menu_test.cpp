@@ -1,5 +1,4 @@
-// The context menu: who is asked for one, and what that of an edit field does. Keys are queued before the menu opens, which takes
-// them as they come; a spare Escape ends one that is open against expectation.
+// Who is asked for a menu, by clicks and by keys.
 #include "edit_control.h"
 
 #include "recorder.h"
@@ -19,54 +18,10 @@ class Menus : public EditControl {
     }
     void TearDown() override {
         Recorder::Get().Reset();
-        if (OpenClipboard(parent_)) {
-            EmptyClipboard();
-            CloseClipboard();
-        }
         EditControl::TearDown();
         Pump();
     }
-
-    /// Opens the field's menu by the keyboard and goes down some items.
-    static void Choose(HWND edit, int down, WPARAM last = VK_RETURN) {
-        SetFocus(edit);
-        for (int i = 0; i < down; ++i)
-            PostMessageA(edit, WM_KEYDOWN, VK_DOWN, 1);
-        PostMessageA(edit, WM_KEYDOWN, last, 1);
-        PostMessageA(edit, WM_KEYDOWN, VK_ESCAPE, 1);
-        Send(edit, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(edit), -1);
-        Pump();
-        SetFocus(edit);
-    }
-    static constexpr int kUndo = 1;
-    static constexpr int kCut = 2;
-    static constexpr int kCopy = 3;
-    static constexpr int kPaste = 4;
-    static constexpr int kDelete = 5;
-    static constexpr int kSelectAll = 6;
 };
-
-TEST_F(Menus, OfAFieldDoWhatTheirItemsSay) {
-    const HWND edit = Make(ES_AUTOHSCROLL, "one two");
-    Choose(edit, kSelectAll);
-    EXPECT_EQ("[one two]", Marked(edit));
-    Select(edit, 0, 3);
-    Choose(edit, kCut);
-    EXPECT_EQ("| two", Marked(edit));
-    Choose(edit, kUndo);
-    EXPECT_EQ("[one] two", Marked(edit));
-    Choose(edit, kCopy);
-    Select(edit, 7, 7);
-    Choose(edit, kPaste);
-    EXPECT_EQ("one twoone|", Marked(edit));
-    Select(edit, 3, 7);
-    Choose(edit, kDelete);
-    EXPECT_EQ("one|one", Marked(edit));
-    Select(edit, 0, 2);
-    Choose(edit, kDelete, VK_ESCAPE);
-    EXPECT_EQ("[on]eone", Marked(edit)) << "put away, with the selection as it was";
-    EXPECT_EQ(edit, GetFocus());
-}
 
 TEST_F(Menus, AreAskedForUpToTheTopLevelWindow) {
     const HWND top = Recorder::Get().Make(WS_POPUP | WS_VISIBLE, 40, 40, 200, 100);

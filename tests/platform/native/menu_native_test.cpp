@@ -166,6 +166,25 @@ class OpenMenus : public EditControl {
     static constexpr int kDelete = kPaste + kItem;
     static constexpr int kSelectAll = kDelete + kItem + 9;
 
+    /// Opens the field's menu by the keyboard and goes down some items. The keys are queued before it opens, a spare Escape too.
+    static void Choose(HWND edit, int down, WPARAM last = VK_RETURN) {
+        SetFocus(edit);
+        for (int i = 0; i < down; ++i)
+            PostMessageA(edit, WM_KEYDOWN, VK_DOWN, 1);
+        PostMessageA(edit, WM_KEYDOWN, last, 1);
+        PostMessageA(edit, WM_KEYDOWN, VK_ESCAPE, 1);
+        Send(edit, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(edit), -1);
+        Pump();
+        SetFocus(edit);
+    }
+    /// Which item of a field's menu is which, from the top.
+    static constexpr int kUndoItem = 1;
+    static constexpr int kCutItem = 2;
+    static constexpr int kCopyItem = 3;
+    static constexpr int kPasteItem = 4;
+    static constexpr int kDeleteItem = 5;
+    static constexpr int kSelectAllItem = 6;
+
     static Steps& Steps_() {
         static Steps steps;
         return steps;
@@ -218,6 +237,28 @@ TEST_F(OpenMenus, OfAFieldStandAtThePointerAndLeaveItTheFocus) {
              Click(at.x + 10, at.y + kCut);
          }});
     EXPECT_EQ("| two", Marked(edit));
+}
+
+TEST_F(OpenMenus, OfAFieldDoWhatTheirItemsSay) {
+    const HWND edit = Make(ES_AUTOHSCROLL, "one two");
+    Choose(edit, kSelectAllItem);
+    EXPECT_EQ("[one two]", Marked(edit));
+    Select(edit, 0, 3);
+    Choose(edit, kCutItem);
+    EXPECT_EQ("| two", Marked(edit));
+    Choose(edit, kUndoItem);
+    EXPECT_EQ("[one] two", Marked(edit));
+    Choose(edit, kCopyItem);
+    Select(edit, 7, 7);
+    Choose(edit, kPasteItem);
+    EXPECT_EQ("one twoone|", Marked(edit));
+    Select(edit, 3, 7);
+    Choose(edit, kDeleteItem);
+    EXPECT_EQ("one|one", Marked(edit));
+    Select(edit, 0, 2);
+    Choose(edit, kDeleteItem, VK_ESCAPE);
+    EXPECT_EQ("[on]eone", Marked(edit)) << "put away, with the selection as it was";
+    EXPECT_EQ(edit, GetFocus());
 }
 
 TEST_F(OpenMenus, OfAFieldOfferWhatCanBeDone) {
