@@ -140,9 +140,10 @@ void* RemoveHandle(std::uint32_t handle, HandleKind kind) {
     return object;
 }
 
-bool ReplaceHandle(std::uint32_t handle, HandleKind kind, void* from, void* to) {
+bool ReplaceHandle(std::uint32_t handle, HandleKind kind, std::uintptr_t from, void* to) {
+    auto* expected = reinterpret_cast<void*>(from);
     Slot* slot = LiveSlot(handle, kind);
-    return slot && slot->object.compare_exchange_strong(from, to, std::memory_order_acq_rel);
+    return slot && slot->object.compare_exchange_strong(expected, to, std::memory_order_acq_rel);
 }
 
 std::size_t CountHandles(HandleKind kind) {

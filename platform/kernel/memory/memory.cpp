@@ -101,7 +101,7 @@ Block* Resize(Block* block, std::size_t size, bool zero, bool mayMove) {
             return nullptr;
         }
         if (reinterpret_cast<std::uintptr_t>(moved) != former) {
-            platform::base::ReplaceHandle(handle, HandleKind::GlobalBlock, reinterpret_cast<void*>(former), moved);
+            platform::base::ReplaceHandle(handle, HandleKind::GlobalBlock, former, moved);
         }
         block = moved;
     }
