@@ -2,7 +2,7 @@
 #include <cvutil32/cklist.h>
 #include <cvutil32/util.h>
 
-#include "tests/platform/gdi_canvas.h"
+#include "tests/platform/support/gdi_canvas.h"
 #include "tests/support/leaks.h"
 #include "tests/support/window.h"
 
