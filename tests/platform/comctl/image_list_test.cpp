@@ -5,15 +5,16 @@
 
 namespace {
 
-constexpr std::uint32_t kGround = 0x3344CC;
-constexpr std::uint32_t kRed = 0xFF0000;
-constexpr std::uint32_t kGreen = 0x00FF00;
-constexpr std::uint32_t kBlue = 0x0000FF;
 constexpr COLORREF kMagenta = RGB(255, 0, 255);
 
 /// Pictures of 8 by 8 pixels with a mask.
 class ImageList : public testing::Test {
   protected:
+    static constexpr std::uint32_t kGround = 0x3344CC;
+    static constexpr std::uint32_t kRed = 0xFF0000;
+    static constexpr std::uint32_t kGreen = 0x00FF00;
+    static constexpr std::uint32_t kBlue = 0x0000FF;
+
     ImageList() : list(ImageList_Create(8, 8, ILC_COLOR24 | ILC_MASK, 1, 1)), canvas(24, 16) {
         canvas.Clear(kGround);
     }
@@ -188,10 +189,9 @@ TEST(ImageListResource, StripIsCutIntoFrames) {
     EXPECT_EQ(4, cx);
     EXPECT_EQ(2, cy);
     Canvas canvas(8, 8);
-    canvas.Clear(kGround);
     ImageList_Draw(list, 1, canvas, 0, 0, ILD_NORMAL);
-    EXPECT_EQ(kBlue, canvas.At(1, 0));
-    EXPECT_EQ(63, canvas.Count(canvas.All(), kGround));
+    EXPECT_EQ(PixelOf(RGB(0, 0, 255)), canvas.At(1, 0));
+    EXPECT_EQ(63, canvas.Count(canvas.All(), Canvas::kWhite));
     ImageList_Destroy(list);
     EXPECT_EQ(nullptr,
               ImageList_LoadImageA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(4099), 4, 0, kMagenta, IMAGE_BITMAP, 0));

@@ -1,3 +1,4 @@
+#include "tests/platform/support/dib_header.h"
 #include "tests/platform/support/gdi_canvas.h"
 
 #include <cstring>
@@ -5,26 +6,10 @@
 
 namespace {
 
-struct Header {
-    BITMAPINFOHEADER header{};
-    RGBQUAD colours[256]{};
-
-    Header(int width, int height, int bits) {
-        header.biSize = sizeof(header);
-        header.biWidth = width;
-        header.biHeight = height;
-        header.biPlanes = 1;
-        header.biBitCount = static_cast<WORD>(bits);
-    }
-    BITMAPINFO* Info() {
-        return reinterpret_cast<BITMAPINFO*>(this);
-    }
-};
-
 TEST(GdiDib, SectionsOfEveryDepthKeepColours) {
     for (const int bits : {1, 4, 8, 16, 24, 32}) {
         SCOPED_TRACE(bits);
-        Header header(5, 3, bits);
+        DibHeader header(5, 3, bits);
         header.colours[0] = {0, 0, 0, 0};
         header.colours[1] = {255, 255, 255, 0};
         header.colours[2] = {0, 0, 255, 0};
@@ -77,7 +62,7 @@ TEST(GdiDib, SectionsOfEveryDepthKeepColours) {
 /// A row of pixels of 16 bits as colours, by way of a bitmap of this layout.
 std::vector<DWORD> Colours(const std::vector<WORD>& pixels, const DWORD* masks) {
     const int width = static_cast<int>(pixels.size());
-    Header header(width, -1, 16);
+    DibHeader header(width, -1, 16);
     if (masks != nullptr) {
         header.header.biCompression = BI_BITFIELDS;
         std::memcpy(header.colours, masks, 3 * sizeof(DWORD));
@@ -94,10 +79,10 @@ std::vector<DWORD> Colours(const std::vector<WORD>& pixels, const DWORD* masks) 
     DIBSECTION section{};
     EXPECT_EQ(int{sizeof(section)}, GetObjectA(bitmap, sizeof(section), &section));
     EXPECT_EQ(masks != nullptr ? masks[1] : DWORD{0x03E0}, section.dsBitfields[1]);
-    Header wanted(width, -1, 32);
+    DibHeader wanted(width, -1, 32);
     EXPECT_EQ(1, GetDIBits(dc, bitmap, 0, 1, colours.data(), wanted.Info(), DIB_RGB_COLORS));
     // What comes back of that in its own form is what went in, and its masks are told.
-    Header own(width, -1, 16);
+    DibHeader own(width, -1, 16);
     own.header.biCompression = BI_BITFIELDS;
     std::vector<WORD> back(pixels.size());
     EXPECT_EQ(1, GetDIBits(dc, bitmap, 0, 1, back.data(), own.Info(), DIB_RGB_COLORS));
@@ -130,7 +115,7 @@ TEST(GdiDib, BitmapsOfSixteenBits) {
     EXPECT_EQ(16, shape.bmBitsPixel);
     EXPECT_EQ(6, shape.bmWidthBytes);
     const HDC dc = CreateCompatibleDC(nullptr);
-    Header header(3, -1, 24);
+    DibHeader header(3, -1, 24);
     BYTE bytes[12] = {};
     EXPECT_EQ(1, GetDIBits(dc, bitmap, 0, 1, bytes, header.Info(), DIB_RGB_COLORS));
     EXPECT_EQ(255, bytes[2]);
@@ -151,7 +136,7 @@ TEST(GdiDib, BitmapsOfSixteenBits) {
 
 TEST(GdiDib, LinesCountFromTheBottomWhicheverIsStoredFirst) {
     for (const int stored : {4, -4}) {
-        Header header(1, stored, 32);
+        DibHeader header(1, stored, 32);
         void* memory = nullptr;
         const HDC dc = CreateCompatibleDC(nullptr);
         const HBITMAP bitmap = CreateDIBSection(dc, header.Info(), DIB_RGB_COLORS, &memory, nullptr, 0);
@@ -178,7 +163,7 @@ TEST(GdiDib, LinesCountFromTheBottomWhicheverIsStoredFirst) {
         };
         for (const auto& each : cases) {
             SCOPED_TRACE(::testing::Message() << stored << ": " << each.height << ", from " << each.start);
-            Header wanted(1, each.height, 32);
+            DibHeader wanted(1, each.height, 32);
             std::vector<DWORD> rows(6, 99);
             EXPECT_EQ(each.copied,
                       GetDIBits(dc, bitmap, each.start, each.lines, rows.data(), wanted.Info(), DIB_RGB_COLORS));
@@ -193,9 +178,9 @@ TEST(GdiDib, LinesCountFromTheBottomWhicheverIsStoredFirst) {
 
 TEST(GdiDib, RefusesWhatIsNoBitmap) {
     void* memory = &memory;
-    Header header(0, 3, 32);
+    DibHeader header(0, 3, 32);
     EXPECT_EQ(nullptr, CreateDIBSection(nullptr, header.Info(), DIB_RGB_COLORS, &memory, nullptr, 0));
-    header = Header(3, 3, 7);
+    header = DibHeader(3, 3, 7);
     EXPECT_EQ(nullptr, CreateDIBSection(nullptr, header.Info(), DIB_RGB_COLORS, &memory, nullptr, 0));
     BITMAP bitmap{};
     const HBITMAP least = CreateBitmap(0, 0, 1, 1, nullptr);
@@ -213,19 +198,19 @@ TEST(GdiDib, BitsComeBackInTheFormAskedFor) {
     BitBlt(dc, 0, 0, 3, 2, canvas, 0, 0, SRCCOPY);
     SelectObject(dc, previous);
 
-    Header measure(0, 0, 0);
+    DibHeader measure(0, 0, 0);
     measure.header.biPlanes = 0;
     EXPECT_NE(0, GetDIBits(dc, bitmap, 0, 0, nullptr, measure.Info(), DIB_RGB_COLORS));
     EXPECT_EQ(3, measure.header.biWidth);
     EXPECT_EQ(2, measure.header.biHeight < 0 ? -measure.header.biHeight : measure.header.biHeight);
 
-    Header down(3, -2, 32);
+    DibHeader down(3, -2, 32);
     DWORD top[6] = {};
     EXPECT_EQ(2, GetDIBits(dc, bitmap, 0, 2, top, down.Info(), DIB_RGB_COLORS));
     EXPECT_EQ(0xFF0000u, top[0] & 0xFFFFFF);
     EXPECT_EQ(0x0000FFu, top[5] & 0xFFFFFF);
 
-    Header up(3, 2, 24);
+    DibHeader up(3, 2, 24);
     BYTE bytes[24] = {};
     EXPECT_EQ(2, GetDIBits(dc, bitmap, 0, 2, bytes, up.Info(), DIB_RGB_COLORS));
     EXPECT_EQ(255, bytes[6]);       // the last pixel's blue, in the bottom row
@@ -240,7 +225,7 @@ TEST(GdiDib, BitsComeBackInTheFormAskedFor) {
 }
 
 TEST(GdiDib, BitsGoInAndThrough) {
-    Header header(2, 2, 8);
+    DibHeader header(2, 2, 8);
     header.header.biClrUsed = 3;
     header.colours[1] = {0, 255, 0, 0};
     header.colours[2] = {255, 0, 0, 0};
@@ -294,7 +279,7 @@ TEST(GdiDib, DeviceBitmapsHaveRowsOfWords) {
 }
 
 TEST(GdiDib, ColourTablesCanBeReadAndChanged) {
-    Header header(2, 1, 4);
+    DibHeader header(2, 1, 4);
     header.colours[1] = {1, 2, 3, 0};
     void* memory = nullptr;
     const HDC dc = CreateCompatibleDC(nullptr);

@@ -12,7 +12,7 @@ namespace {
 
 using testing_support::TempFolder;
 
-std::string Names(const std::string& pattern) {
+std::string NamesFound(const std::string& pattern) {
     std::string names;
     WIN32_FIND_DATAA found;
     const HANDLE search = FindFirstFileA(pattern.c_str(), &found);
@@ -37,7 +37,7 @@ TEST(Files, WildcardsAndCase) {
         folder.MakeFile(name);
     }
     folder.MakeFolder("Sub.dir");
-    const auto names = [&](const char* pattern) { return Names(folder.Path(pattern)); };
+    const auto names = [&](const char* pattern) { return NamesFound(folder.Path(pattern)); };
     EXPECT_EQ(names("*"), ". .. B.TXT Sub.dir a.txt ab.txt noending two.dots.doc ");
     EXPECT_EQ(names("*.*"), names("*"));
     EXPECT_EQ(names("*.txt"), "B.TXT a.txt ab.txt ");
@@ -56,7 +56,7 @@ TEST(Files, WildcardsAndCase) {
 TEST(Files, DotsAndBlanksAtTheEndOfANameDoNotCount) {
     const TempFolder folder;
     folder.MakeFile("Sub\\file.txt");
-    const auto names = [&](const char* pattern) { return Names(folder.Path(pattern)); };
+    const auto names = [&](const char* pattern) { return NamesFound(folder.Path(pattern)); };
     for (const char* name :
          {"Sub\\file.txt.", "Sub\\file.txt ", "Sub\\file.txt. . .", "Sub.\\file.txt", "sub\\FILE.txt.."}) {
         EXPECT_EQ(names(name), "file.txt ") << name;
@@ -75,7 +75,7 @@ TEST(Files, TheRootOfTheCurrentDrive) {
     EXPECT_TRUE(GetFileAttributesA("\\") & FILE_ATTRIBUTE_DIRECTORY);
     EXPECT_TRUE(GetFileAttributesA("/") & FILE_ATTRIBUTE_DIRECTORY);
     EXPECT_EQ(GetDriveTypeA("\\"), static_cast<UINT>(DRIVE_FIXED));
-    EXPECT_EQ(Names("\\"), "error 2") << "a root is no entry of anything";
+    EXPECT_EQ(NamesFound("\\"), "error 2") << "a root is no entry of anything";
     WIN32_FIND_DATAA found;
     const HANDLE search = FindFirstFileA("\\*", &found);
     ASSERT_NE(search, INVALID_HANDLE_VALUE);
@@ -117,7 +117,7 @@ TEST(Files, Drives) {
         const char root[] = {letter, ':', '\\', '\0'};
         if (!(drives & 1u << (letter - 'A'))) {
             EXPECT_EQ(GetDriveTypeA(root), static_cast<UINT>(DRIVE_NO_ROOT_DIR)) << root;
-            EXPECT_EQ(Names(root + std::string("*")), "error 3") << root;
+            EXPECT_EQ(NamesFound(root + std::string("*")), "error 3") << root;
         }
     }
     EXPECT_EQ(GetDriveTypeA("C:\\no such folder\\"), static_cast<UINT>(DRIVE_NO_ROOT_DIR));
@@ -144,8 +144,8 @@ TEST(Files, TheCurrentFolder) {
     const DWORD length = GetCurrentDirectoryA(sizeof now, now);
     EXPECT_EQ(length, std::string(now).size());
     EXPECT_EQ(lstrcmpiA(now, folder.Path().c_str()), 0) << now;
-    EXPECT_EQ(Names("HERE.*"), "here.txt ");
-    EXPECT_EQ(Names(".\\here.txt"), "here.txt ");
+    EXPECT_EQ(NamesFound("HERE.*"), "here.txt ");
+    EXPECT_EQ(NamesFound(".\\here.txt"), "here.txt ");
     EXPECT_EQ(GetCurrentDirectoryA(2, now), folder.Path().size() + 1);
     EXPECT_FALSE(SetCurrentDirectoryA(folder.Path("none").c_str()));
     EXPECT_TRUE(SetCurrentDirectoryA(before));

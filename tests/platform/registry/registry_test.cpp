@@ -7,10 +7,10 @@
 
 namespace {
 
-constexpr char kPath[] = "Software\\Calverin\\cvutil32 platform test";
-
 class RegistryTest : public ::testing::Test {
   protected:
+    static constexpr char kPath[] = "Software\\Calverin\\cvutil32 platform test";
+
     RegistryTest() {
         Clear();
         RegCreateKeyExA(HKEY_CURRENT_USER, kPath, 0, nullptr, REG_OPTION_NON_VOLATILE, KEY_ALL_ACCESS, nullptr, &key_,

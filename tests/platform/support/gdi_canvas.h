@@ -8,6 +8,8 @@
 
 #include <cstdint>
 
+#include "tests/platform/support/expect_rect.h"
+
 class Canvas {
   public:
     static constexpr std::uint32_t kWhite = 0xFFFFFF;
@@ -95,11 +97,4 @@ class Canvas {
 inline std::uint32_t PixelOf(COLORREF colour) {
     return static_cast<std::uint32_t>(GetRValue(colour)) << 16 | static_cast<std::uint32_t>(GetGValue(colour)) << 8 |
            GetBValue(colour);
-}
-
-inline void ExpectRect(const RECT& rect, int left, int top, int right, int bottom) {
-    EXPECT_EQ(left, rect.left);
-    EXPECT_EQ(top, rect.top);
-    EXPECT_EQ(right, rect.right);
-    EXPECT_EQ(bottom, rect.bottom);
 }

@@ -11,6 +11,8 @@
 #include <string>
 #include <vector>
 
+#include "tests/platform/support/expect_rect.h"
+
 /// What a window paints itself with, and what it has heard.
 struct Painted {
     COLORREF background = RGB(255, 255, 255);
@@ -45,10 +47,16 @@ class PaintedWindows : public ::testing::Test {
     static constexpr DWORD kPlain = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS;
     static constexpr DWORD kTop = WS_POPUP | WS_VISIBLE;
 
+    static constexpr COLORREF kGround = RGB(0, 0, 128);
+    static constexpr COLORREF kRed = RGB(255, 0, 0);
+    static constexpr COLORREF kGreen = RGB(0, 128, 0);
+    static constexpr COLORREF kBlue = RGB(0, 0, 255);
+    static constexpr COLORREF kYellow = RGB(255, 255, 0);
+
     void SetUp() override {
         Register(kClass, 0);
         // Something of one colour to stand on, whatever else is on the screen.
-        ground = Make(kTop | WS_CLIPCHILDREN, 0, 0, 400, 300, nullptr, RGB(0, 0, 128), WS_EX_TOPMOST);
+        ground = Make(kTop | WS_CLIPCHILDREN, 0, 0, 400, 300, nullptr, kGround, WS_EX_TOPMOST);
         Settle();
     }
 
@@ -115,6 +123,13 @@ class PaintedWindows : public ::testing::Test {
         const COLORREF colour = GetPixel(context, point.x, point.y);
         ReleaseDC(top, context);
         return colour;
+    }
+
+    /// A yellow point in a window, to be found again.
+    static void Mark(HWND window, int x, int y) {
+        HDC context = GetDC(window);
+        SetPixel(context, x, y, kYellow);
+        ReleaseDC(window, context);
     }
 
     static RECT UpdateOf(HWND window) {
@@ -186,10 +201,3 @@ class PaintedWindows : public ::testing::Test {
     std::vector<HWND> windows;
     std::vector<std::string> classes;
 };
-
-inline void ExpectRect(const RECT& rect, LONG left, LONG top, LONG right, LONG bottom) {
-    EXPECT_EQ(rect.left, left);
-    EXPECT_EQ(rect.top, top);
-    EXPECT_EQ(rect.right, right);
-    EXPECT_EQ(rect.bottom, bottom);
-}

@@ -4,34 +4,20 @@
 
 #include <cstdint>
 
+#include "tests/platform/support/dib_header.h"
+
 namespace {
-
-struct Header {
-    BITMAPINFOHEADER header{};
-    RGBQUAD colours[256]{};
-
-    Header(int width, int height, int bits) {
-        header.biSize = sizeof(header);
-        header.biWidth = width;
-        header.biHeight = height;
-        header.biPlanes = 1;
-        header.biBitCount = static_cast<WORD>(bits);
-    }
-    BITMAPINFO* Info() {
-        return reinterpret_cast<BITMAPINFO*>(this);
-    }
-};
 
 TEST(OddBitmaps, AreRefused) {
     void* memory = nullptr;
-    Header header(3, 3, 8);
+    DibHeader header(3, 3, 8);
     header.header.biSize = 0xFFFFFFFF;
     EXPECT_EQ(nullptr, CreateDIBSection(nullptr, header.Info(), DIB_RGB_COLORS, &memory, nullptr, 0));
     for (const LONG odd : {LONG{INT32_MIN}, LONG{INT32_MAX}, LONG{-1}, LONG{0}}) {
         for (const int bits : {1, 16, 32}) {
-            header = Header(odd, INT32_MIN, bits);
+            header = DibHeader(odd, INT32_MIN, bits);
             EXPECT_EQ(nullptr, CreateDIBSection(nullptr, header.Info(), DIB_RGB_COLORS, &memory, nullptr, 0));
-            header = Header(INT32_MAX, odd, bits);
+            header = DibHeader(INT32_MAX, odd, bits);
             EXPECT_TRUE(odd == -1 || !CreateDIBSection(nullptr, header.Info(), DIB_RGB_COLORS, &memory, nullptr, 0));
         }
     }
@@ -42,14 +28,14 @@ TEST(OddBitmaps, AreRefused) {
     for (const HBITMAP bad : {stale, HBITMAP{nullptr}, reinterpret_cast<HBITMAP>(INT_PTR{-1}),
                               reinterpret_cast<HBITMAP>(GetStockObject(WHITE_BRUSH))}) {
         DWORD untouched = 99;
-        header = Header(1, 1, 32);
+        header = DibHeader(1, 1, 32);
         EXPECT_EQ(0, GetDIBits(dc, bad, 0, 1, &untouched, header.Info(), DIB_RGB_COLORS));
         EXPECT_EQ(99U, untouched);
         EXPECT_EQ(0, GetObjectA(bad, sizeof(untouched), &untouched));
     }
     const HBITMAP one = CreateBitmap(1, 1, 1, 16, nullptr);
     DWORD pixels[2] = {99, 99};
-    header = Header(1, 1, 32);
+    header = DibHeader(1, 1, 32);
     EXPECT_EQ(0, GetDIBits(dc, one, 0xFFFFFFFF, 0xFFFFFFFF, pixels, header.Info(), DIB_RGB_COLORS));
     EXPECT_EQ(1, GetDIBits(dc, one, 0, 0xFFFFFFFF, pixels, header.Info(), DIB_RGB_COLORS));
     EXPECT_EQ(99U, pixels[1]);

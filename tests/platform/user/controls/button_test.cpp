@@ -7,31 +7,29 @@
 
 namespace {
 
-std::vector<UINT> notified;
-DRAWITEMSTRUCT drawn{};
-std::vector<UINT> drawActions;
-
-LRESULT CALLBACK ParentProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_COMMAND) {
-        notified.push_back(HIWORD(wParam));
-        return 0;
-    }
-    if (message == WM_DRAWITEM) {
-        drawn = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
-        drawActions.push_back(drawn.itemAction);
-        return TRUE;
-    }
-    return DefWindowProcA(window, message, wParam, lParam);
-}
-
-LRESULT CALLBACK DestroyingProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_COMMAND)
-        DestroyWindow(reinterpret_cast<HWND>(lParam));
-    return DefWindowProcA(window, message, wParam, lParam);
-}
-
 class ButtonTest : public ::testing::Test {
   protected:
+    static inline std::vector<UINT> notified;
+    static inline DRAWITEMSTRUCT drawn{};
+    static inline std::vector<UINT> drawActions;
+    static LRESULT CALLBACK ParentProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        if (message == WM_COMMAND) {
+            notified.push_back(HIWORD(wParam));
+            return 0;
+        }
+        if (message == WM_DRAWITEM) {
+            drawn = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
+            drawActions.push_back(drawn.itemAction);
+            return TRUE;
+        }
+        return DefWindowProcA(window, message, wParam, lParam);
+    }
+    static LRESULT CALLBACK DestroyingProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        if (message == WM_COMMAND)
+            DestroyWindow(reinterpret_cast<HWND>(lParam));
+        return DefWindowProcA(window, message, wParam, lParam);
+    }
+
     void SetUp() override {
         parent_ = tests::MakeOwner(ParentProcedure);
         SetActiveWindow(parent_);

@@ -9,40 +9,38 @@
 
 namespace {
 
-std::vector<int> notified;
-std::string textAtChange;
-std::vector<UINT> measured;
-std::vector<DRAWITEMSTRUCT> drawn;
-
-std::string TextOf(HWND window) {
-    char text[64] = "";
-    SendMessageA(window, WM_GETTEXT, sizeof text, reinterpret_cast<LPARAM>(text));
-    return text;
-}
-
-LRESULT CALLBACK ParentProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    switch (message) {
-        case WM_COMMAND:
-            notified.push_back(static_cast<short>(HIWORD(wParam)));
-            if (HIWORD(wParam) == CBN_SELCHANGE)
-                textAtChange = TextOf(reinterpret_cast<HWND>(lParam));
-            return 0;
-        case WM_MEASUREITEM:
-            measured.push_back(reinterpret_cast<const MEASUREITEMSTRUCT*>(lParam)->itemID);
-            reinterpret_cast<MEASUREITEMSTRUCT*>(lParam)->itemHeight = 18;
-            return TRUE;
-        case WM_DRAWITEM:
-            drawn.push_back(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
-            return TRUE;
-        default:
-            return DefWindowProcA(window, message, wParam, lParam);
-    }
-}
-
 using Notified = std::vector<int>;
 
 class ComboBoxTest : public ::testing::Test {
   protected:
+    static inline std::vector<int> notified;
+    static inline std::string textAtChange;
+    static inline std::vector<UINT> measured;
+    static inline std::vector<DRAWITEMSTRUCT> drawn;
+    static std::string TextOf(HWND window) {
+        char text[64] = "";
+        SendMessageA(window, WM_GETTEXT, sizeof text, reinterpret_cast<LPARAM>(text));
+        return text;
+    }
+    static LRESULT CALLBACK ParentProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        switch (message) {
+            case WM_COMMAND:
+                notified.push_back(static_cast<short>(HIWORD(wParam)));
+                if (HIWORD(wParam) == CBN_SELCHANGE)
+                    textAtChange = TextOf(reinterpret_cast<HWND>(lParam));
+                return 0;
+            case WM_MEASUREITEM:
+                measured.push_back(reinterpret_cast<const MEASUREITEMSTRUCT*>(lParam)->itemID);
+                reinterpret_cast<MEASUREITEMSTRUCT*>(lParam)->itemHeight = 18;
+                return TRUE;
+            case WM_DRAWITEM:
+                drawn.push_back(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+                return TRUE;
+            default:
+                return DefWindowProcA(window, message, wParam, lParam);
+        }
+    }
+
     void SetUp() override {
         parent_ = tests::MakeOwner(ParentProcedure);
         SetActiveWindow(parent_);

@@ -9,43 +9,42 @@
 
 namespace {
 
-std::vector<int> notified;
-std::vector<DRAWITEMSTRUCT> drawn;
-std::vector<ULONG_PTR> deleted;
-std::vector<UINT> measured;
-LRESULT keyAnswer = -1;
-
-LRESULT CALLBACK ParentProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    switch (message) {
-        case WM_COMMAND:
-            notified.push_back(static_cast<short>(HIWORD(wParam)));
-            return 0;
-        case WM_DRAWITEM:
-            drawn.push_back(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
-            return TRUE;
-        case WM_MEASUREITEM: {
-            auto* item = reinterpret_cast<MEASUREITEMSTRUCT*>(lParam);
-            measured.push_back(item->CtlID);
-            item->itemHeight = item->itemData ? static_cast<UINT>(item->itemData) : 17;
-            return TRUE;
-        }
-        case WM_DELETEITEM:
-            deleted.push_back(reinterpret_cast<const DELETEITEMSTRUCT*>(lParam)->itemData);
-            return TRUE;
-        case WM_COMPAREITEM: {
-            const auto* pair = reinterpret_cast<const COMPAREITEMSTRUCT*>(lParam);
-            return pair->itemData1 < pair->itemData2 ? -1 : pair->itemData1 > pair->itemData2;
-        }
-        case WM_VKEYTOITEM:
-        case WM_CHARTOITEM:
-            return keyAnswer;
-        default:
-            return DefWindowProcA(window, message, wParam, lParam);
-    }
-}
-
 class ListBoxTest : public ::testing::Test {
   protected:
+    static inline std::vector<int> notified;
+    static inline std::vector<DRAWITEMSTRUCT> drawn;
+    static inline std::vector<ULONG_PTR> deleted;
+    static inline std::vector<UINT> measured;
+    static inline LRESULT keyAnswer = -1;
+    static LRESULT CALLBACK ParentProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        switch (message) {
+            case WM_COMMAND:
+                notified.push_back(static_cast<short>(HIWORD(wParam)));
+                return 0;
+            case WM_DRAWITEM:
+                drawn.push_back(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+                return TRUE;
+            case WM_MEASUREITEM: {
+                auto* item = reinterpret_cast<MEASUREITEMSTRUCT*>(lParam);
+                measured.push_back(item->CtlID);
+                item->itemHeight = item->itemData ? static_cast<UINT>(item->itemData) : 17;
+                return TRUE;
+            }
+            case WM_DELETEITEM:
+                deleted.push_back(reinterpret_cast<const DELETEITEMSTRUCT*>(lParam)->itemData);
+                return TRUE;
+            case WM_COMPAREITEM: {
+                const auto* pair = reinterpret_cast<const COMPAREITEMSTRUCT*>(lParam);
+                return pair->itemData1 < pair->itemData2 ? -1 : pair->itemData1 > pair->itemData2;
+            }
+            case WM_VKEYTOITEM:
+            case WM_CHARTOITEM:
+                return keyAnswer;
+            default:
+                return DefWindowProcA(window, message, wParam, lParam);
+        }
+    }
+
     void SetUp() override {
         parent_ = tests::MakeOwner(ParentProcedure);
         SetActiveWindow(parent_);

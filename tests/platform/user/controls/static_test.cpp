@@ -7,16 +7,15 @@
 
 namespace {
 
-std::vector<UINT> notified;
-
-LRESULT CALLBACK ParentProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_COMMAND)
-        notified.push_back(HIWORD(wParam));
-    return DefWindowProcA(window, message, wParam, lParam);
-}
-
 class StaticTest : public ::testing::Test {
   protected:
+    static inline std::vector<UINT> notified;
+    static LRESULT CALLBACK ParentProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        if (message == WM_COMMAND)
+            notified.push_back(HIWORD(wParam));
+        return DefWindowProcA(window, message, wParam, lParam);
+    }
+
     void SetUp() override {
         parent_ = tests::MakeOwner(ParentProcedure);
         notified.clear();

@@ -10,30 +10,27 @@ namespace {
 using tests::DialogBuilder;
 using tests::DialogKey;
 
-std::vector<int> clicks;
-UINT wantedCode = 0;
-
-INT_PTR CALLBACK Procedure(HWND, UINT message, WPARAM wParam, LPARAM) {
-    if (message == WM_INITDIALOG)
-        return TRUE;
-    if (message != WM_COMMAND || HIWORD(wParam) != BN_CLICKED)
-        return FALSE;
-    clicks.push_back(LOWORD(wParam));
-    return TRUE;
-}
-
-/// A control that takes the focus and answers WM_GETDLGCODE with what the test wants.
-LRESULT CALLBACK FieldProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_GETDLGCODE)
-        return wantedCode;
-    return DefWindowProcA(window, message, wParam, lParam);
-}
-
-constexpr int kLabel = 300, kField = 301, kRadio1 = 401, kRadio2 = 402, kRadio3 = 403, kAfter = 500, kHidden = 501,
-              kDisabled = 502, kPage = 600, kInPage = 601;
-
 class DialogKeyboardTest : public ::testing::Test {
   protected:
+    static constexpr int kLabel = 300, kField = 301, kRadio1 = 401, kRadio2 = 402, kRadio3 = 403, kAfter = 500,
+                         kHidden = 501, kDisabled = 502, kPage = 600, kInPage = 601;
+    static inline std::vector<int> clicks;
+    static inline UINT wantedCode = 0;
+    static INT_PTR CALLBACK Procedure(HWND, UINT message, WPARAM wParam, LPARAM) {
+        if (message == WM_INITDIALOG)
+            return TRUE;
+        if (message != WM_COMMAND || HIWORD(wParam) != BN_CLICKED)
+            return FALSE;
+        clicks.push_back(LOWORD(wParam));
+        return TRUE;
+    }
+    /// A control that takes the focus and answers WM_GETDLGCODE with what the test wants.
+    static LRESULT CALLBACK FieldProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        if (message == WM_GETDLGCODE)
+            return wantedCode;
+        return DefWindowProcA(window, message, wParam, lParam);
+    }
+
     void SetUp() override {
         clicks.clear();
         wantedCode = 0;

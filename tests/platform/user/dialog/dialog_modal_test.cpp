@@ -36,7 +36,7 @@ LRESULT CALLBACK OwnerProcedure(HWND window, UINT message, WPARAM wParam, LPARAM
     return DefWindowProcA(window, message, wParam, lParam);
 }
 
-INT_PTR CALLBACK Procedure(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
+INT_PTR CALLBACK ModalProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
     switch (message) {
         case WM_INITDIALOG:
             if (atInit)
@@ -65,7 +65,7 @@ VOID CALLBACK EndByTimer(HWND dialog, UINT, UINT_PTR, DWORD) {
 INT_PTR RunSimple(HWND forOwner, DWORD style = 0) {
     DialogBuilder builder(WS_POPUP | WS_CAPTION | style);
     builder.Title("modal").Item("button", "OK", IDOK, BS_DEFPUSHBUTTON | WS_TABSTOP, 5, 5, 50, 14);
-    return DialogBoxIndirectParamA(GetModuleHandleA(nullptr), builder.Data(), forOwner, Procedure, 0);
+    return DialogBoxIndirectParamA(GetModuleHandleA(nullptr), builder.Data(), forOwner, ModalProcedure, 0);
 }
 
 class DialogModalTest : public ::testing::Test {
@@ -210,7 +210,7 @@ TEST_F(DialogModalTest, AnOwnerInsideAnotherWindowIsDisabledAlone) {
 TEST_F(DialogModalTest, EndingAModelessDialogGivesItsOwnerBack) {
     DialogBuilder builder(WS_POPUP | WS_CAPTION | WS_VISIBLE);
     builder.Title("modeless").Item("button", "OK", IDOK, BS_DEFPUSHBUTTON | WS_TABSTOP, 5, 5, 50, 14);
-    const HWND dialog = CreateDialogIndirectParamA(nullptr, builder.Data(), owner, Procedure, 0);
+    const HWND dialog = CreateDialogIndirectParamA(nullptr, builder.Data(), owner, ModalProcedure, 0);
     ASSERT_EQ(dialog, GetActiveWindow());
     EnableWindow(owner, FALSE);
     EXPECT_TRUE(EndDialog(dialog, 1));
@@ -249,7 +249,7 @@ TEST_F(DialogModalTest, TheOwnerHearsWhenTheDialogIsIdle) {
 TEST_F(DialogModalTest, FailuresLeaveTheOwnerAlone) {
     DialogBuilder builder;
     builder.Title("").Item("tests_no_such_class", "", 1, 0, 0, 0, 9, 9);
-    EXPECT_EQ(-1, DialogBoxIndirectParamA(nullptr, builder.Data(), owner, Procedure, 0));
+    EXPECT_EQ(-1, DialogBoxIndirectParamA(nullptr, builder.Data(), owner, ModalProcedure, 0));
     EXPECT_TRUE(IsWindowEnabled(owner));
     EXPECT_EQ(owner, GetActiveWindow());
     const HWND dead = CreateWindowExA(0, "static", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);

@@ -15,10 +15,10 @@ namespace {
 using tests::DialogKey;
 using tests::Recorder;
 
-constexpr int kField = 1, kOne = 3, kTwo = 4, kRadio1 = 11, kRadio2 = 12, kInPage = 13, kLast = 14;
-
 class PlainWindowKeys : public ::testing::Test {
   protected:
+    static constexpr int kField = 1, kOne = 3, kTwo = 4, kRadio1 = 11, kRadio2 = 12, kInPage = 13, kLast = 14;
+
     void SetUp() override {
         Recorder::Get().Reset();
         window_ = Recorder::Get().Make(WS_POPUP | WS_VISIBLE, 50, 50, 300, 200);
@@ -111,22 +111,20 @@ TEST_F(PlainWindowKeys, TheLastGroupGoesOnAtTheBeginning) {
 
 // --- edit controls of several lines
 
-std::vector<int> commands;
-int closed = 0;
-
-INT_PTR CALLBACK Procedure(HWND, UINT message, WPARAM wParam, LPARAM) {
-    if (message == WM_INITDIALOG)
-        return TRUE;
-    closed += message == WM_CLOSE;
-    if (message == WM_COMMAND && HIWORD(wParam) == BN_CLICKED)
-        commands.push_back(LOWORD(wParam));
-    return FALSE;
-}
-
-constexpr int kBefore = 20, kLines = 21, kText = 22;
-
 class LinesInDialog : public ::testing::Test {
   protected:
+    static constexpr int kBefore = 20, kLines = 21, kText = 22;
+    static inline std::vector<int> commands;
+    static inline int closed = 0;
+    static INT_PTR CALLBACK Procedure(HWND, UINT message, WPARAM wParam, LPARAM) {
+        if (message == WM_INITDIALOG)
+            return TRUE;
+        closed += message == WM_CLOSE;
+        if (message == WM_COMMAND && HIWORD(wParam) == BN_CLICKED)
+            commands.push_back(LOWORD(wParam));
+        return FALSE;
+    }
+
     void SetUp() override {
         commands.clear();
         closed = 0;

@@ -9,37 +9,36 @@ namespace {
 
 using tests::DialogBuilder;
 
-INT_PTR initResult = FALSE;
-HWND initFocusOffered = nullptr;
-HWND initFocusTaken = nullptr;
-int commands = 0;
-WPARAM lastCommand = 0;
-LPARAM lastControl = 0;
-
-INT_PTR CALLBACK Procedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
-    switch (message) {
-        case WM_INITDIALOG:
-            initFocusOffered = reinterpret_cast<HWND>(wParam);
-            if (lParam)
-                SetFocus(initFocusTaken = GetDlgItem(dialog, static_cast<int>(lParam)));
-            return initResult;
-        case WM_COMMAND:
-            if (HIWORD(wParam) != BN_CLICKED)
-                return FALSE;
-            ++commands;
-            lastCommand = wParam;
-            lastControl = lParam;
-            return TRUE;
-        case WM_USER + 7:
-            SetWindowLongPtrA(dialog, DWLP_MSGRESULT, 4711);
-            return TRUE;
-        default:
-            return FALSE;
-    }
-}
-
 class DialogTest : public ::testing::Test {
   protected:
+    static inline INT_PTR initResult = FALSE;
+    static inline HWND initFocusOffered = nullptr;
+    static inline HWND initFocusTaken = nullptr;
+    static inline int commands = 0;
+    static inline WPARAM lastCommand = 0;
+    static inline LPARAM lastControl = 0;
+    static INT_PTR CALLBACK Procedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+        switch (message) {
+            case WM_INITDIALOG:
+                initFocusOffered = reinterpret_cast<HWND>(wParam);
+                if (lParam)
+                    SetFocus(initFocusTaken = GetDlgItem(dialog, static_cast<int>(lParam)));
+                return initResult;
+            case WM_COMMAND:
+                if (HIWORD(wParam) != BN_CLICKED)
+                    return FALSE;
+                ++commands;
+                lastCommand = wParam;
+                lastControl = lParam;
+                return TRUE;
+            case WM_USER + 7:
+                SetWindowLongPtrA(dialog, DWLP_MSGRESULT, 4711);
+                return TRUE;
+            default:
+                return FALSE;
+        }
+    }
+
     void SetUp() override {
         initResult = FALSE;
         initFocusOffered = initFocusTaken = nullptr;

@@ -34,7 +34,7 @@ LRESULT Nested(HWND window, WPARAM depth) {
     return SendMessageA(other, kNested, depth - 1, 0) + 1;
 }
 
-LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT CALLBACK PartnerProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case kAdd:
             inSend = InSendMessage() != FALSE;
@@ -61,7 +61,7 @@ LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lPar
 
 HWND MakeWindow() {
     WNDCLASSA windowClass{};
-    windowClass.lpfnWndProc = Procedure;
+    windowClass.lpfnWndProc = PartnerProcedure;
     windowClass.lpszClassName = "SendTest";
     RegisterClassA(&windowClass);
     return CreateWindowExA(0, "SendTest", "", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr, nullptr, nullptr);

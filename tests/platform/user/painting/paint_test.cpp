@@ -2,10 +2,6 @@
 
 namespace {
 
-constexpr COLORREF kRed = RGB(255, 0, 0);
-constexpr COLORREF kGreen = RGB(0, 128, 0);
-constexpr COLORREF kYellow = RGB(255, 255, 0);
-
 using Painting = PaintedWindows;
 
 TEST_F(Painting, FrameThenBackgroundThenClient) {

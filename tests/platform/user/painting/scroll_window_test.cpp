@@ -2,17 +2,7 @@
 
 namespace {
 
-constexpr COLORREF kRed = RGB(255, 0, 0);
-constexpr COLORREF kGreen = RGB(0, 128, 0);
-constexpr COLORREF kYellow = RGB(255, 255, 0);
-
 using Scrolling = PaintedWindows;
-
-void Mark(HWND window, int x, int y) {
-    HDC context = GetDC(window);
-    SetPixel(context, x, y, kYellow);
-    ReleaseDC(window, context);
-}
 
 TEST_F(Scrolling, MovesPixelsAndInvalidatesWhatTheyLeft) {
     HWND window = Make(kPlain, 10, 10, 100, 80, ground, kRed);

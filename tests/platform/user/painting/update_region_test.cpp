@@ -2,10 +2,6 @@
 
 namespace {
 
-constexpr COLORREF kRed = RGB(255, 0, 0);
-constexpr COLORREF kGreen = RGB(0, 128, 0);
-constexpr COLORREF kBlue = RGB(0, 0, 255);
-
 using UpdateRegion = PaintedWindows;
 
 TEST_F(UpdateRegion, GrowsByInvalidationAndShrinksByValidation) {

@@ -2,19 +2,9 @@
 
 namespace {
 
-constexpr COLORREF kGround = RGB(0, 0, 128);
-constexpr COLORREF kRed = RGB(255, 0, 0);
-constexpr COLORREF kGreen = RGB(0, 128, 0);
-constexpr COLORREF kYellow = RGB(255, 255, 0);
 constexpr UINT kQuiet = SWP_NOACTIVATE | SWP_NOZORDER;
 
 using Positions = PaintedWindows;
-
-void Mark(HWND window, int x, int y) {
-    HDC context = GetDC(window);
-    SetPixel(context, x, y, kYellow);
-    ReleaseDC(window, context);
-}
 
 TEST_F(Positions, MessagesComeInTheDocumentedOrder) {
     HWND window = Make(kPlain, 10, 10, 100, 80, ground, kRed);

@@ -7,13 +7,13 @@ namespace {
 
 using tests::DialogBuilder;
 
-INT_PTR CALLBACK Procedure(HWND, UINT message, WPARAM, LPARAM) {
-    return message == WM_INITDIALOG;
-}
-
 /// One dialog in the usual font, with its pixels.
 class ControlLookTest : public ::testing::Test {
   protected:
+    static INT_PTR CALLBACK Procedure(HWND, UINT message, WPARAM, LPARAM) {
+        return message == WM_INITDIALOG;
+    }
+
     void SetUp() override {
         DialogBuilder builder(WS_POPUP | WS_VISIBLE | DS_SETFONT);
         builder.Title("", "MS Sans Serif")

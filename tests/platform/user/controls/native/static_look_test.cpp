@@ -2,15 +2,16 @@
 #include <gtest/gtest.h>
 
 #include "tests/platform/support/dialog_builder.h"
+#include "tests/platform/support/expect_rect.h"
 
 namespace {
 
-constexpr int kWidth = 80;
-constexpr int kHeight = 24;
-constexpr COLORREF kRed = RGB(255, 0, 0);
-
 class StaticLookTest : public ::testing::Test {
   protected:
+    static constexpr int kWidth = 80;
+    static constexpr int kHeight = 24;
+    static constexpr COLORREF kRed = RGB(255, 0, 0);
+
     StaticLookTest() : parent_(tests::MakeOwner()), bitmap_(CreateBitmap(20, 10, 1, 32, nullptr)) {
         const HDC context = CreateCompatibleDC(nullptr);
         const HGDIOBJ former = SelectObject(context, bitmap_);
@@ -56,12 +57,6 @@ class StaticLookTest : public ::testing::Test {
         }
         ReleaseDC(parent_, context);
         return box;
-    }
-    static void ExpectRect(const RECT& rect, int left, int top, int right, int bottom) {
-        EXPECT_EQ(left, rect.left);
-        EXPECT_EQ(top, rect.top);
-        EXPECT_EQ(right, rect.right);
-        EXPECT_EQ(bottom, rect.bottom);
     }
 
     HWND parent_;

@@ -13,10 +13,10 @@ namespace {
 using tests::DialogKey;
 using tests::Recorder;
 
-constexpr int kField = 11, kOne = 12, kTwo = 13, kLabel = 14, kLines = 15;
-
 class PlainWindowRules : public ::testing::Test {
   protected:
+    static constexpr int kField = 11, kOne = 12, kTwo = 13, kLabel = 14, kLines = 15;
+
     void SetUp() override {
         Recorder::Get().Reset();
         window_ = Recorder::Get().Make(WS_POPUP | WS_VISIBLE, 50, 50, 300, 200);

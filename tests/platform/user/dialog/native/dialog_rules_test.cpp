@@ -10,29 +10,28 @@ namespace {
 using tests::DialogBuilder;
 using tests::DialogKey;
 
-std::vector<int> clicks;
-void (*running)(HWND) = nullptr;
-
-INT_PTR CALLBACK Procedure(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
-    switch (message) {
-        case WM_INITDIALOG:
-            PostMessageA(dialog, WM_USER + 20, 0, 0);
-            return TRUE;
-        case WM_USER + 20:
-            if (running)
-                running(dialog);
-            return TRUE;
-        case WM_COMMAND:
-            if (HIWORD(wParam) == BN_CLICKED)
-                clicks.push_back(LOWORD(wParam));
-            return TRUE;
-        default:
-            return FALSE;
-    }
-}
-
 class DialogRulesTest : public ::testing::Test {
   protected:
+    static inline std::vector<int> clicks;
+    static inline void (*running)(HWND) = nullptr;
+    static INT_PTR CALLBACK Procedure(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
+        switch (message) {
+            case WM_INITDIALOG:
+                PostMessageA(dialog, WM_USER + 20, 0, 0);
+                return TRUE;
+            case WM_USER + 20:
+                if (running)
+                    running(dialog);
+                return TRUE;
+            case WM_COMMAND:
+                if (HIWORD(wParam) == BN_CLICKED)
+                    clicks.push_back(LOWORD(wParam));
+                return TRUE;
+            default:
+                return FALSE;
+        }
+    }
+
     void SetUp() override {
         clicks.clear();
         running = nullptr;

@@ -13,10 +13,6 @@ using tests::Heard;
 using tests::Pump;
 using tests::Recorder;
 
-constexpr int kLeft = 100;
-constexpr int kTop = 100;
-constexpr int kWidth = 300;
-constexpr int kHeight = 200;
 constexpr UINT kDuring = WM_APP;
 constexpr DWORD kStyle = WS_POPUP | WS_VISIBLE | WS_CAPTION | WS_SYSMENU;
 
@@ -45,6 +41,11 @@ struct Asked {
 
 class ContextHelp : public ::testing::Test {
   protected:
+    static constexpr int kLeft = 100;
+    static constexpr int kTop = 100;
+    static constexpr int kWidth = 300;
+    static constexpr int kHeight = 200;
+
     void SetUp() override {
         Recorder::Get().Reset();
         DestroyWindow(Recorder::Get().Make(WS_POPUP, 0, 0, 1, 1));  // registers the class
