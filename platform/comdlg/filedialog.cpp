@@ -30,7 +30,7 @@ user::DialogTemplate Template(const OPENFILENAMEA& record) {
     user::DialogTemplate dialog;
     dialog.style = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN | DS_MODALFRAME | DS_3DLOOK;
     dialog.width = 280;
-    dialog.height = record.Flags & OFN_HIDEREADONLY ? 148 : 162;
+    dialog.height = 148;
     dialog.title = record.lpstrTitle ? record.lpstrTitle : "Open";
     dialog.hasFont = true;
     dialog.pointSize = 8;
@@ -56,10 +56,6 @@ user::DialogTemplate Template(const OPENFILENAMEA& record) {
         if (item.id == lst1 || item.id == edt1) {
             item.exStyle = WS_EX_CLIENTEDGE;
         }
-    }
-    if (!(record.Flags & OFN_HIDEREADONLY)) {
-        dialog.items.push_back(
-            Item("button", chx1, BS_AUTOCHECKBOX | WS_TABSTOP, 54, 147, 155, 10, "Open as &read-only"));
     }
     return dialog;
 }
@@ -105,13 +101,11 @@ void Begin(FileDialog& dialog) {
 
 BOOL OnInit(FileDialog& dialog) {
     SendMessageA(dialog.Control(edt1), EM_LIMITTEXT, std::max<DWORD>(dialog.record.nMaxFile, MAX_PATH), 0);
-    CheckDlgButton(dialog.window, chx1, dialog.Has(OFN_READONLY) ? BST_CHECKED : BST_UNCHECKED);
-    dialog.defaultExtension = dialog.record.lpstrDefExt ? dialog.record.lpstrDefExt : "";
     SubclassList(dialog);
     FillFilters(dialog);
     CreateHook(dialog);
     Begin(dialog);
-    TellHook(dialog, CDN_INITDONE);
+    TellHookInitDone(dialog);
     SetFocus(dialog.Control(edt1));
     SendMessageA(dialog.Control(edt1), EM_SETSEL, 0, -1);
     return FALSE;
@@ -141,7 +135,6 @@ void OnFilterChosen(FileDialog& dialog) {
     if (index < dialog.filters.size()) {
         dialog.patterns = dialog.filters[index].patterns;
         Refresh(dialog);
-        TellHook(dialog, CDN_TYPECHANGE);
     }
 }
 
@@ -203,14 +196,8 @@ INT_PTR OnMessage(FileDialog& dialog, UINT message, WPARAM wParam, LPARAM lParam
             return TRUE;
         case WM_VKEYTOITEM:
             return OnListKey(dialog, LOWORD(wParam));
-        default: {
-            LRESULT result = 0;
-            if (!AnswerQuery(dialog, message, wParam, lParam, result)) {
-                return FALSE;
-            }
-            SetWindowLongPtrA(dialog.window, DWLP_MSGRESULT, result);
-            return TRUE;
-        }
+        default:
+            return FALSE;
     }
 }
 

@@ -32,17 +32,8 @@ bool Exists(const std::string& path) {
     return !TrailOf(path).empty();
 }
 
-/// Adds the default extension to a name without one, unless there is a file of that very name.
-std::string WithExtension(const FileDialog& dialog, const std::string& path) {
-    const bool bare = ExtensionOf(path).empty() && !path.ends_with('.');
-    return bare && !dialog.defaultExtension.empty() && !Exists(path) ? path + '.' + dialog.defaultExtension : path;
-}
-
 /// @returns whether a name may be given back; else the user has been told why not.
 bool MayGiveBack(const FileDialog& dialog, const std::string& path) {
-    if (dialog.Has(OFN_NOVALIDATE)) {
-        return true;
-    }
     if (dialog.Has(OFN_PATHMUSTEXIST | OFN_FILEMUSTEXIST) && !Exists(Split(path).folder)) {
         Complain(dialog, path, "Path does not exist.\nPlease verify that the correct path was given.",
                  MB_ICONEXCLAMATION);
@@ -66,11 +57,8 @@ void End(FileDialog& dialog, const Choice& choice) {
         EndDialog(dialog.window, FALSE);
         return;
     }
-    DWORD& flags = dialog.record.Flags;
-    const bool readOnly = IsDlgButtonChecked(dialog.window, chx1) == BST_CHECKED;
-    flags = readOnly ? flags | OFN_READONLY : flags & ~static_cast<DWORD>(OFN_READONLY);
     dialog.record.nFilterIndex = static_cast<DWORD>(SendMessageA(dialog.Control(cmb1), CB_GETCURSEL, 0, 0) + 1);
-    if (!TellHook(dialog, CDN_FILEOK) && !HookRefuses(dialog)) {
+    if (!HookRefuses(dialog)) {
         EndDialog(dialog.window, TRUE);
     }
 }
@@ -98,16 +86,15 @@ void AcceptOne(FileDialog& dialog, const std::string& name) {
                  MB_ICONEXCLAMATION);
         return;
     }
-    const std::string complete = WithExtension(dialog, path);
-    if (MayGiveBack(dialog, complete)) {
-        End(dialog, Split(complete));
+    if (MayGiveBack(dialog, path)) {
+        End(dialog, Split(path));
     }
 }
 
 void AcceptSeveral(FileDialog& dialog, const std::vector<std::string>& names) {
     Choice choice{FolderPath(dialog), {}};
     for (const std::string& name : names) {
-        const std::string path = WithExtension(dialog, FullPath(choice.folder, name));
+        const std::string path = FullPath(choice.folder, name);
         if (!MayGiveBack(dialog, path)) {
             return;
         }

@@ -9,9 +9,8 @@ namespace {
 
 /// Folders, and the files that fit the patterns, each kind by name.
 bool ListFolder(const FileDialog& dialog, const shell::Place& folder, std::vector<Row>& rows) {
-    const DWORD hidden = dialog.Has(OFN_FORCESHOWHIDDEN) ? SHCONTF_INCLUDEHIDDEN : 0;
     shell::Listing listing;
-    if (FAILED(shell::ListItems(folder, SHCONTF_FOLDERS | SHCONTF_NONFOLDERS | hidden, listing))) {
+    if (FAILED(shell::ListItems(folder, SHCONTF_FOLDERS | SHCONTF_NONFOLDERS, listing))) {
         return false;
     }
     for (const shell::Listed& listed : listing) {
@@ -102,7 +101,6 @@ bool GoTo(FileDialog& dialog, std::vector<shell::Place> trail) {
     ShowItems(dialog);
     FillFolders(dialog);
     EnableWindow(dialog.Control(kUpButton), dialog.trail.size() > 1);
-    TellHook(dialog, CDN_FOLDERCHANGE);
     return true;
 }
 

@@ -4,6 +4,8 @@
 #include <cstring>
 #include <mutex>
 
+#include "comctl/imagelist.h"
+
 namespace platform::shell {
 namespace {
 
@@ -215,11 +217,7 @@ HIMAGELIST Make() {
     const HDC screen = GetDC(nullptr);
     const HBITMAP colours = MakeStrip(screen, false);
     const HBITMAP masks = MakeStrip(screen, true);
-    HIMAGELIST list = ImageList_Create(kSize, kSize, ILC_COLOR | ILC_MASK, kCount, 1);
-    if (list && ImageList_Add(list, colours, masks) < 0) {
-        ImageList_Destroy(list);
-        list = nullptr;
-    }
+    const HIMAGELIST list = comctl::MakeImageList(kSize, colours, masks, CLR_NONE);
     DeleteObject(colours);
     DeleteObject(masks);
     ReleaseDC(nullptr, screen);
