@@ -28,7 +28,6 @@ enum class HandleKind : std::uint8_t {
     Brush,
     Font,
     Bitmap,
-    Region,
     ImageList,
     PositionBatch,
     Count

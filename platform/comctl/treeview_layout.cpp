@@ -167,7 +167,7 @@ void ScrollTo(const TreePointer& tree, int top, int left) {
     }
     tree->top = top;
     tree->left = left;
-    ScrollWindowEx(tree->window, dx, dy, nullptr, nullptr, nullptr, nullptr, SW_INVALIDATE);
+    user::ScrollClient(tree->window, dx, dy, false);
     UpdateBars(tree);
 }
 

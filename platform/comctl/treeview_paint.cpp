@@ -3,6 +3,7 @@
 #include <array>
 
 #include "comctl/treeview.h"
+#include "gdi/objects.h"
 
 namespace platform::comctl {
 namespace {
@@ -26,7 +27,7 @@ HBRUSH MakeDots() {
         bits[2 * i] = static_cast<BYTE>(kRows[i] >> 8);
     }
     const HBITMAP pattern = CreateBitmap(8, 8, 1, 1, bits.data());
-    const HBRUSH brush = CreatePatternBrush(pattern);
+    const HBRUSH brush = gdi::MakePatternBrush(pattern);
     DeleteObject(pattern);
     return brush;
 }

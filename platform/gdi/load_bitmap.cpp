@@ -90,12 +90,11 @@ HBITMAP MakeBitmap(const DibLayout& source, const std::byte* bits, int width, in
     header.header.biWidth = source.width;
     header.header.biHeight = source.topDown ? -source.height : source.height;
     if (width == source.width && height == source.height) {
-        SetDIBits(memory, bitmap, 0, static_cast<UINT>(height), bits, header.Info(), DIB_RGB_COLORS);
+        SetBits(bitmap, bits, header.Info());
     } else {
         const HGDIOBJ previous = SelectObject(memory, bitmap);
         SetStretchBltMode(memory, COLORONCOLOR);
-        StretchDIBits(memory, 0, 0, width, height, 0, 0, source.width, source.height, bits, header.Info(),
-                      DIB_RGB_COLORS, SRCCOPY);
+        StretchBits(memory, {0, 0, width, height}, bits, header.Info(), SRCCOPY);
         SelectObject(memory, previous);
     }
     DeleteDC(memory);

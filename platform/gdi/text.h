@@ -37,7 +37,7 @@ void ForEachCharacter(const char* text, int length, Visit&& visit) {
     }
 }
 
-/// @returns the width of a text with the context's font and spacing.
+/// @returns the width of a text with the context's font.
 int TextWidth(DeviceContext& context, const char* text, int length);
 
 }  // namespace platform::gdi

@@ -5,6 +5,7 @@
 #include <mutex>
 
 #include "comctl/imagelist.h"
+#include "gdi/bitmaps.h"
 
 namespace platform::shell {
 namespace {
@@ -208,7 +209,7 @@ HBITMAP MakeStrip(HDC screen, bool mask) {
     const HBITMAP bitmap = mask ? CreateBitmap(kCount * kSize, kSize, 1, 1, nullptr)
                                 : CreateCompatibleBitmap(screen, kCount * kSize, kSize);
     if (bitmap) {
-        SetDIBits(screen, bitmap, 0, kSize, pixels, &info, DIB_RGB_COLORS);
+        gdi::SetBits(bitmap, pixels, &info);
     }
     return bitmap;
 }

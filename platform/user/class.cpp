@@ -15,8 +15,7 @@ namespace platform::user {
 namespace {
 
 constexpr int kMostExtra = 0x10000;
-constexpr UINT kKnownStyles = CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS | CS_OWNDC | CS_CLASSDC | CS_PARENTDC | CS_NOCLOSE |
-                              CS_SAVEBITS | CS_BYTEALIGNCLIENT | CS_BYTEALIGNWINDOW | CS_GLOBALCLASS | CS_DROPSHADOW;
+constexpr UINT kKnownStyles = CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS | CS_NOCLOSE | CS_SAVEBITS | CS_GLOBALCLASS;
 
 std::vector<std::unique_ptr<WindowClass>>& Classes() {
     static std::vector<std::unique_ptr<WindowClass>> classes;

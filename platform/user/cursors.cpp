@@ -1,6 +1,5 @@
 // Cursors and icons as objects: the system's own, known by number, and those of modules, known by name.
 #include <algorithm>
-#include <atomic>
 #include <iterator>
 #include <memory>
 #include <mutex>
@@ -21,8 +20,6 @@ constexpr unsigned kFirstIcon = 32512;
 constexpr unsigned kLastIcon = 32517;
 constexpr unsigned kArrow = 32512;
 
-std::atomic<DWORD> ownIcons{0};
-
 HandleKind KindOf(bool cursor) {
     return cursor ? HandleKind::Cursor : HandleKind::Icon;
 }
@@ -32,9 +29,6 @@ std::uint32_t File(std::unique_ptr<Icon> icon) {
     const std::uint32_t handle = base::InsertHandle(KindOf(icon->cursor), icon.get());
     if (!handle) {
         throw std::bad_alloc();
-    }
-    if (!icon->shared) {
-        ++ownIcons;
     }
     icon.release();
     return handle;
@@ -106,7 +100,6 @@ HANDLE Load(HINSTANCE instance, LPCSTR name, bool cursor) try {
     if (!icon) {
         return nullptr;
     }
-    icon->shared = true;
     icon->cursor = cursor;
     shared.all.reserve(shared.all.size() + 1);
     const std::uint32_t handle = File(std::move(icon));
@@ -115,21 +108,6 @@ HANDLE Load(HINSTANCE instance, LPCSTR name, bool cursor) try {
 } catch (const std::bad_alloc&) {
     SetLastError(ERROR_NOT_ENOUGH_MEMORY);
     return nullptr;
-}
-
-BOOL Destroy(HANDLE handle, HandleKind kind, DWORD error) {
-    const Icon* icon = base::Find<Icon>(handle, kind);
-    if (!icon) {
-        SetLastError(error);
-        return FALSE;
-    }
-    // A shared one is destroyed by nobody, and asking for it does no harm.
-    if (!icon->shared) {
-        base::RemoveHandle(base::ToNumber(handle), kind);
-        delete icon;
-        --ownIcons;
-    }
-    return TRUE;
 }
 
 }  // namespace
@@ -152,10 +130,6 @@ SIZE IconSize(HICON handle) {
             picture.height ? picture.height : GetSystemMetrics(SM_CYICON)};
 }
 
-DWORD OwnIcons() {
-    return ownIcons.load();
-}
-
 }  // namespace platform::user
 
 using namespace platform::user;
@@ -165,31 +139,15 @@ HCURSOR WINAPI LoadCursorA(HINSTANCE instance, LPCSTR name) {
     return static_cast<HCURSOR>(Load(instance, name, true));
 }
 
-BOOL WINAPI DestroyCursor(HCURSOR cursor) {
-    return Destroy(cursor, HandleKind::Cursor, ERROR_INVALID_CURSOR_HANDLE);
-}
-
 HICON WINAPI LoadIconA(HINSTANCE instance, LPCSTR name) {
     return static_cast<HICON>(Load(instance, name, false));
 }
 
 BOOL WINAPI DestroyIcon(HICON icon) {
-    return Destroy(icon, HandleKind::Icon, ERROR_INVALID_ICON_HANDLE);
-}
-
-HICON WINAPI CopyIcon(HICON handle) try {
-    const Icon* icon = platform::base::Find<Icon>(handle, HandleKind::Icon);
-    if (!icon) {
-        icon = platform::base::Find<Icon>(handle, HandleKind::Cursor);
-    }
-    if (!icon) {
+    if (!platform::base::Find<Icon>(icon, HandleKind::Icon)) {
         SetLastError(ERROR_INVALID_ICON_HANDLE);
-        return nullptr;
+        return FALSE;
     }
-    auto copy = std::make_unique<Icon>(*icon);
-    copy->shared = false;
-    return platform::base::ToHandle<HICON>(File(std::move(copy)));
-} catch (const std::bad_alloc&) {
-    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-    return nullptr;
+    // All icons are loaded, and so shared: one is destroyed by nobody, and asking for it does no harm.
+    return TRUE;
 }

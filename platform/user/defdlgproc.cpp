@@ -80,7 +80,6 @@ void EraseBackground(HWND dialog, HDC context) {
         brush = reinterpret_cast<HBRUSH>(DefWindowProcA(dialog, WM_CTLCOLORDLG, dc, self));
     RECT client{};
     GetClientRect(dialog, &client);
-    DPtoLP(context, reinterpret_cast<POINT*>(&client), 2);
     FillRect(context, &client, brush);
 }
 

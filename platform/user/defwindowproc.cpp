@@ -4,6 +4,7 @@
 #include <new>
 #include <utility>
 
+#include "gdi/device_context.h"
 #include "gdi/objects.h"
 #include "user/nonclient.h"
 #include "user/queue.h"
@@ -26,7 +27,7 @@ LRESULT SetText(HWND handle, LPCSTR text) {
     const bool hasCaption = CaptionHeight(window->style, window->exStyle) && IsShown(window);
     hold.unlock();
     if (hasCaption) {
-        PaintFrame(handle, reinterpret_cast<HRGN>(1));
+        PaintFrame(handle);
     }
     return TRUE;
 }
@@ -53,8 +54,7 @@ LRESULT EraseBackground(HWND handle, HDC context) {
     if (!brush) {
         return 0;
     }
-    RECT area;
-    GetClipBox(context, &area);
+    const RECT area = gdi::ClipBounds(context);
     FillRect(context, &area, brush);
     return 1;
 }
@@ -105,7 +105,7 @@ HBRUSH ChequeredBrush() {
     static const HBRUSH brush = [] {
         const WORD rows[8] = {0x5555, 0xAAAA, 0x5555, 0xAAAA, 0x5555, 0xAAAA, 0x5555, 0xAAAA};
         const HBITMAP bitmap = CreateBitmap(8, 8, 1, 1, rows);
-        const HBRUSH made = CreatePatternBrush(bitmap);
+        const HBRUSH made = gdi::MakePatternBrush(bitmap);
         DeleteObject(bitmap);
         // It is the system's own, and no application is to answer for it.
         if (auto* object = gdi::FindObject<gdi::Brush>(made)) {
@@ -195,7 +195,7 @@ LRESULT SetIcon(HWND handle, bool big, HICON icon) {
     const bool hasCaption = CaptionHeight(window->style, window->exStyle) && IsShown(window);
     hold.unlock();
     if (hasCaption) {
-        PaintFrame(handle, reinterpret_cast<HRGN>(1));
+        PaintFrame(handle);
     }
     return reinterpret_cast<LRESULT>(before);
 }

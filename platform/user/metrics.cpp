@@ -239,8 +239,7 @@ DWORD WINAPI GetGuiResources(HANDLE, DWORD flags) {
             // The desktop and the parent of message-only windows are the system's own.
             MessageRoot();
             Desktop();
-            return static_cast<DWORD>(platform::base::CountHandles(platform::base::HandleKind::Window)) - 2 +
-                   OwnIcons();
+            return static_cast<DWORD>(platform::base::CountHandles(platform::base::HandleKind::Window)) - 2;
         }
         default:
             SetLastError(ERROR_INVALID_PARAMETER);

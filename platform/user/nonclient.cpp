@@ -249,12 +249,12 @@ LRESULT DefaultNonClient(Window* window, UINT message, WPARAM wParam, LPARAM lPa
         case WM_NCHITTEST:
             return HitTest(handle, point);
         case WM_NCPAINT:
-            PaintFrame(handle, reinterpret_cast<HRGN>(wParam));
+            PaintFrame(handle);
             return 0;
         case WM_NCACTIVATE: {
             window->captionActive = wParam != 0;
             if (window->style & WS_VISIBLE) {
-                PaintFrame(handle, reinterpret_cast<HRGN>(1));
+                PaintFrame(handle);
             }
             return TRUE;
         }

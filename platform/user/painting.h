@@ -18,8 +18,7 @@ enum VisibleFlags : unsigned {
     kVisibleWhole = 1,         ///< the whole window, not only its client area
     kVisibleClipChildren = 2,  ///< without its children
     kVisibleClipSiblings = 4,  ///< without siblings above it; top-level windows are always cut so
-    kVisibleParentClip = 8,    ///< the parent's client area, whatever of it the window covers
-    kVisibleFlagCount = 16
+    kVisibleFlagCount = 8
 };
 
 struct PaintState {
@@ -60,11 +59,9 @@ void PaintDesktop(const gdi::Region& area);
 
 // --- contexts (dc.cpp)
 
-constexpr DWORD kContextUseStyle = 0x00010000;  ///< resolve clipping from the styles of class and window
-
-/// Hands out a context for a window. limit: null, or the area of the screen that drawing is held to.
-/// @returns null when memory has run out.
-HDC AcquireContext(Window* window, DWORD flags, const gdi::Region* limit, bool painting);
+/// Hands out a context for a window, clipped as the styles of window and class say. whole: the whole window, not only its
+/// client area. limit: null, or the area of the screen that drawing is held to. @returns null when memory has run out.
+HDC AcquireContext(Window* window, bool whole, const gdi::Region* limit, bool painting);
 
 /// Takes a context back. @returns false when it is not one that AcquireContext gave. painting: tells whether it was a
 /// paint context. Takes the lock itself.

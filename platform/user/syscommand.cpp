@@ -160,7 +160,7 @@ void MoveOrSize(HWND handle, int part, bool byMouse, POINT from) {
 bool TrackButton(HWND handle, int button) {
     bool inside = true;
     bool released = false;
-    PaintFrame(handle, reinterpret_cast<HRGN>(1), button);
+    PaintFrame(handle, button);
     SetCapture(handle);
     for (MSG message; !released && GetCapture() == handle && NextMessage(handle, &message);) {
         released = message.message == WM_LBUTTONUP;
@@ -168,7 +168,7 @@ bool TrackButton(HWND handle, int button) {
             const bool now = HitTest(handle, message.pt) == button;
             if (now != inside) {
                 inside = now;
-                PaintFrame(handle, reinterpret_cast<HRGN>(1), inside ? button : HTNOWHERE);
+                PaintFrame(handle, inside ? button : HTNOWHERE);
             }
         } else if (!IsInput(message.message)) {
             DispatchMessageA(&message);
@@ -177,7 +177,7 @@ bool TrackButton(HWND handle, int button) {
     if (GetCapture() == handle) {
         ReleaseCapture();
     }
-    PaintFrame(handle, reinterpret_cast<HRGN>(1));
+    PaintFrame(handle);
     return inside && released && PeekWindow(handle);
 }
 

@@ -1,8 +1,4 @@
 // Update regions: what a window still has to paint, and who is next to paint it.
-#include <new>
-
-#include "base/handle.h"
-#include "gdi/device_context.h"
 #include "user/painting.h"
 #include "user/thread.h"
 
@@ -36,18 +32,6 @@ Window* SearchChildren(Window* parent, const ThreadState* thread) {
         }
     }
     return transparent;
-}
-
-int TypeOf(const gdi::Region& region) {
-    return region.Empty() ? NULLREGION : region.IsRect() ? SIMPLEREGION : COMPLEXREGION;
-}
-
-/// The update region of the client area in client coordinates.
-gdi::Region ClientUpdate(Window* window) {
-    gdi::Region region = ScreenUpdate(window);
-    region.Intersect(window->clientRect);
-    region.Offset(-window->clientRect.left, -window->clientRect.top);
-    return region;
 }
 
 }  // namespace
@@ -135,66 +119,3 @@ Window* NextPaintWindow(ThreadState* thread, Window* within) {
 }
 
 }  // namespace platform::user
-
-using namespace platform::user;
-namespace base = platform::base;
-namespace gdi = platform::gdi;
-
-BOOL WINAPI GetUpdateRect(HWND handle, LPRECT rect, BOOL erase) {
-    if (erase) {
-        SendFramePaint(handle);
-        SendErase(handle);
-    }
-    UserGuard guard(UserLock());
-    Window* window = FindWindowObject(handle);
-    if (window == nullptr) {
-        return FALSE;
-    }
-    const gdi::Region region = ClientUpdate(window);
-    if (rect != nullptr) {
-        *rect = region.Bounds();
-        if ((window->windowClass->style & CS_OWNDC) != 0 && window->classOrOwnContext != nullptr) {
-            DPtoLP(window->classOrOwnContext, reinterpret_cast<POINT*>(rect), 2);
-        }
-    }
-    return !region.Empty();
-}
-
-int WINAPI GetUpdateRgn(HWND handle, HRGN result, BOOL erase) {
-    if (erase) {
-        SendFramePaint(handle);
-        SendErase(handle);
-    }
-    UserGuard guard(UserLock());
-    Window* window = FindWindowObject(handle);
-    if (window == nullptr) {
-        return ERROR;
-    }
-    const gdi::Region region = ClientUpdate(window);
-    if (!gdi::AssignRegion(result, region)) {
-        SetLastError(ERROR_INVALID_HANDLE);
-        return ERROR;
-    }
-    return TypeOf(region);
-}
-
-int WINAPI ExcludeUpdateRgn(HDC context, HWND handle) {
-    gdi::Region region;
-    {
-        UserGuard guard(UserLock());
-        Window* window = FindWindowObject(handle);
-        if (window == nullptr) {
-            return ERROR;
-        }
-        region = ScreenUpdate(window);
-    }
-    const POINT origin = gdi::ContextOrigin(context);
-    region.Offset(-origin.x, -origin.y);
-    HRGN object = gdi::MakeRegionObject(region);
-    if (object == nullptr) {
-        return ERROR;
-    }
-    const int type = ExtSelectClipRgn(context, object, RGN_DIFF);
-    DeleteObject(object);
-    return type;
-}

@@ -74,7 +74,6 @@ struct Window {
     bool eraseNeeded = false;                 ///< WM_ERASEBKGND is due with the next BeginPaint
     bool frameNeeded = false;                 ///< WM_NCPAINT is due
     bool internalPaint = false;               ///< RDW_INTERNALPAINT
-    HDC classOrOwnContext = nullptr;          ///< CS_OWNDC
     struct PaintState* paintState = nullptr;  ///< the painting module's own: cached visible regions
     bool sizeSent = false;                    ///< WM_SIZE and WM_MOVE were sent; else the first ShowWindow sends them
     bool hiddenByOwner = false;               ///< hidden by ShowOwnedPopups(owner, FALSE)

@@ -58,13 +58,14 @@ HBRUSH ControlBrush(HWND control, HDC context, UINT message);
 /// @returns the window's own text, without asking it. Empty when memory has run out.
 std::string ControlText(HWND control);
 
+/// Moves the pixels of a client area that nobody else draws to; what comes into view has to be painted.
+/// @param erase  whether its background is due as well.
+void ScrollClient(HWND control, int dx, int dy, bool erase);
+
 /// Text that is disabled looks embossed: a highlight one pixel below and to the right of the shadow.
 void DrawDisabledText(HDC context, const std::string& text, RECT rect, UINT format);
 
 /// Draws a bitmap in its own size, centred in a rectangle.
 void DrawCentredBitmap(HDC context, HBITMAP bitmap, const RECT& rect);
-
-/// Draws a bitmap as large as a rectangle.
-void DrawStretchedBitmap(HDC context, HBITMAP bitmap, const RECT& rect);
 
 }  // namespace platform::user
