@@ -12,15 +12,11 @@ enum class HandleKind : std::uint8_t {
     None,
     GlobalBlock,
     Module,
-    Resource,
-    File,
     FindFile,
     RegistryKey,
     Thread,
-    Process,
     Event,
     Window,
-    Menu,
     Icon,
     Cursor,
     DeviceContext,
@@ -29,7 +25,6 @@ enum class HandleKind : std::uint8_t {
     Font,
     Bitmap,
     ImageList,
-    PositionBatch,
     Count
 };
 
@@ -50,9 +45,6 @@ bool ReplaceHandle(std::uint32_t handle, HandleKind kind, void* object);
 
 /// @returns how many live handles of this kind there are.
 std::size_t CountHandles(HandleKind kind);
-
-/// Calls visit(handle, object) for the live handles of a kind, in slot order.
-void ForEachHandle(HandleKind kind, void (*visit)(std::uint32_t handle, void* object, void* context), void* context);
 
 template <class Handle>
 std::uint32_t ToNumber(Handle handle) {

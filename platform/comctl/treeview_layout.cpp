@@ -252,16 +252,11 @@ void OnScroll(const TreePointer& tree, int bar, UINT code) {
 }
 
 void OnWheel(const TreePointer& tree, int turned) {
-    UINT lines = 3;
-    SystemParametersInfoA(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
-    if (lines == 0) {
-        return;
-    }
-    const int step = lines == WHEEL_PAGESCROLL ? std::max(RowsShown(*tree, true), 1) : static_cast<int>(lines);
+    constexpr int kRowsPerNotch = 3;
     tree->wheel += turned;
     const int notches = tree->wheel / WHEEL_DELTA;
     tree->wheel -= notches * WHEEL_DELTA;
-    ScrollTo(tree, tree->top - notches * step, tree->left);
+    ScrollTo(tree, tree->top - notches * kRowsPerNotch, tree->left);
 }
 
 }  // namespace platform::comctl

@@ -172,8 +172,7 @@ class Layout {
             return (from / tab_ + 1) * tab_ - from;
         }
         const CodePage& page = CurrentCodePage();
-        const char16_t character =
-            bytes == 2 ? DoubleByte(page, at[0], at[1]) : page.single[static_cast<unsigned char>(*at)];
+        const char16_t character = bytes == 2 ? DoubleByte(at[0], at[1]) : page.single[static_cast<unsigned char>(*at)];
         return font_.Get(character).advance;
     }
 

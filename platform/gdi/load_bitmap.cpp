@@ -4,8 +4,10 @@
 
 #include "gdi/bitmaps.h"
 #include "gdi/context.h"
+#include "kernel/resource.h"
 
 using namespace platform::gdi;
+namespace kernel = platform::kernel;
 
 namespace {
 
@@ -114,13 +116,11 @@ HBITMAP FromPacked(Packed packed, int width, int height, UINT flags) {
 }
 
 HBITMAP FromResource(HINSTANCE instance, LPCSTR name, int width, int height, UINT flags) {
-    const HRSRC resource = FindResourceA(instance, name, RT_BITMAP);
-    const HGLOBAL block = resource ? LoadResource(instance, resource) : nullptr;
-    const void* data = block ? LockResource(block) : nullptr;
-    if (!data) {
+    const kernel::Bytes resource = kernel::FindResourceBytes(instance, name, RT_BITMAP);
+    if (resource.empty()) {
         return nullptr;
     }
-    return FromPacked({static_cast<const std::byte*>(data), SizeofResource(instance, resource)}, width, height, flags);
+    return FromPacked({reinterpret_cast<const std::byte*>(resource.data()), resource.size()}, width, height, flags);
 }
 
 }  // namespace

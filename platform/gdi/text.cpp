@@ -8,29 +8,24 @@
 namespace platform::gdi {
 
 const CodePage& CurrentCodePage() {
-    static std::atomic<const CodePage*> current{nullptr};
-    const UINT number = GetACP();
-    const CodePage* page = current.load(std::memory_order_acquire);
-    if (page && page->number == number) {
-        return *page;
-    }
-    // An older table may still be in use by another thread; there is one a code page ever chosen, so they stay.
-    auto* made = new CodePage;
-    made->number = number;
-    for (unsigned i = 0; i < 256; ++i) {
-        made->lead[i] = IsDBCSLeadByteEx(number, static_cast<BYTE>(i));
-        const char byte = static_cast<char>(i);
-        WCHAR wide[4] = {};
-        made->single[i] = MultiByteToWideChar(number, 0, &byte, 1, wide, 4) == 1 ? wide[0] : static_cast<char16_t>(i);
-    }
-    current.store(made, std::memory_order_release);
-    return *made;
+    static const CodePage page = [] {
+        CodePage made;
+        for (unsigned i = 0; i < 256; ++i) {
+            made.lead[i] = IsDBCSLeadByte(static_cast<BYTE>(i));
+            const char byte = static_cast<char>(i);
+            WCHAR wide[4] = {};
+            made.single[i] =
+                MultiByteToWideChar(CP_ACP, 0, &byte, 1, wide, 4) == 1 ? wide[0] : static_cast<char16_t>(i);
+        }
+        return made;
+    }();
+    return page;
 }
 
-char16_t DoubleByte(const CodePage& page, char lead, char trail) {
+char16_t DoubleByte(char lead, char trail) {
     const char bytes[2] = {lead, trail};
     WCHAR wide[4] = {};
-    return MultiByteToWideChar(page.number, 0, bytes, 2, wide, 4) >= 1 ? wide[0] : u'?';
+    return MultiByteToWideChar(CP_ACP, 0, bytes, 2, wide, 4) >= 1 ? wide[0] : u'?';
 }
 
 namespace {

@@ -40,11 +40,9 @@ typedef short SHORT;
 typedef unsigned short USHORT;
 typedef char CHAR;
 typedef unsigned char UCHAR;
-typedef float FLOAT;
 typedef char16_t WCHAR;
 typedef long long LONGLONG;
 typedef unsigned long long ULONGLONG;
-typedef unsigned long long DWORDLONG;
 typedef void VOID;
 typedef intptr_t INT_PTR;
 typedef uintptr_t UINT_PTR;
@@ -52,7 +50,6 @@ typedef intptr_t LONG_PTR;
 typedef uintptr_t ULONG_PTR;
 typedef ULONG_PTR DWORD_PTR;
 typedef ULONG_PTR SIZE_T;
-typedef LONG_PTR SSIZE_T;
 
 typedef void *PVOID, *LPVOID;
 typedef const void* LPCVOID;
@@ -82,7 +79,6 @@ typedef LONG HRESULT;
 typedef void* HANDLE;
 typedef HANDLE* PHANDLE;
 typedef HANDLE HGLOBAL;
-typedef HANDLE HLOCAL;
 typedef void* HGDIOBJ;
 
 #define DECLARE_HANDLE(name) \
@@ -100,22 +96,15 @@ DECLARE_HANDLE(HBRUSH);
 DECLARE_HANDLE(HPEN);
 DECLARE_HANDLE(HFONT);
 DECLARE_HANDLE(HRGN);
-DECLARE_HANDLE(HPALETTE);
 DECLARE_HANDLE(HICON);
 typedef HICON HCURSOR;
 DECLARE_HANDLE(HMENU);
-DECLARE_HANDLE(HRSRC);
 DECLARE_HANDLE(HKEY);
-DECLARE_HANDLE(HHOOK);
-DECLARE_HANDLE(HACCEL);
-DECLARE_HANDLE(HKL);
 
 #ifdef __cplusplus
 typedef INT_PTR(CALLBACK* FARPROC)();
-typedef INT_PTR(CALLBACK* PROC)();
 #else
 typedef INT_PTR(CALLBACK* FARPROC)(void);
-typedef INT_PTR(CALLBACK* PROC)(void);
 #endif
 
 #ifndef NULL

@@ -53,10 +53,8 @@ typedef HKEY* PHKEY;
 // --- keys; every function returns ERROR_SUCCESS or an error code
 
 WINADVAPI LONG WINAPI RegCloseKey(HKEY key);
-WINADVAPI LONG WINAPI RegCreateKeyA(HKEY key, LPCSTR subkey, PHKEY result);
 WINADVAPI LONG WINAPI RegCreateKeyExA(HKEY key, LPCSTR subkey, DWORD reserved, LPSTR className, DWORD options,
                                       REGSAM access, LPSECURITY_ATTRIBUTES security, PHKEY result, LPDWORD disposition);
-WINADVAPI LONG WINAPI RegOpenKeyA(HKEY key, LPCSTR subkey, PHKEY result);
 WINADVAPI LONG WINAPI RegOpenKeyExA(HKEY key, LPCSTR subkey, DWORD options, REGSAM access, PHKEY result);
 /// A key that has subkeys is not deleted (ERROR_ACCESS_DENIED).
 WINADVAPI LONG WINAPI RegDeleteKeyA(HKEY key, LPCSTR subkey);
@@ -64,11 +62,6 @@ WINADVAPI LONG WINAPI RegEnumKeyA(HKEY key, DWORD index, LPSTR name, DWORD size)
 /// The time of the last write is not kept: its members become 0.
 WINADVAPI LONG WINAPI RegEnumKeyExA(HKEY key, DWORD index, LPSTR name, LPDWORD size, LPDWORD reserved, LPSTR className,
                                     LPDWORD classSize, FILETIME* lastWrite);
-WINADVAPI LONG WINAPI RegQueryInfoKeyA(HKEY key, LPSTR className, LPDWORD classSize, LPDWORD reserved, LPDWORD subkeys,
-                                       LPDWORD longestSubkey, LPDWORD longestClass, LPDWORD values,
-                                       LPDWORD longestValueName, LPDWORD longestData, LPDWORD securitySize,
-                                       FILETIME* lastWrite);
-WINADVAPI LONG WINAPI RegFlushKey(HKEY key);
 
 // --- values
 
@@ -80,16 +73,13 @@ WINADVAPI LONG WINAPI RegEnumValueA(HKEY key, DWORD index, LPSTR name, LPDWORD n
                                     LPBYTE data, LPDWORD dataSize);
 
 #ifndef CVPLATFORM_NO_GENERIC_NAMES
-#define RegCreateKey RegCreateKeyA
 #define RegCreateKeyEx RegCreateKeyExA
 #define RegDeleteKey RegDeleteKeyA
 #define RegDeleteValue RegDeleteValueA
 #define RegEnumKey RegEnumKeyA
 #define RegEnumKeyEx RegEnumKeyExA
 #define RegEnumValue RegEnumValueA
-#define RegOpenKey RegOpenKeyA
 #define RegOpenKeyEx RegOpenKeyExA
-#define RegQueryInfoKey RegQueryInfoKeyA
 #define RegQueryValueEx RegQueryValueExA
 #define RegSetValueEx RegSetValueExA
 #endif

@@ -29,8 +29,7 @@ size_t CvPlatformCount(CvPlatformKind kind) {
             return Sum(
                 {HandleKind::Pen, HandleKind::Brush, HandleKind::Font, HandleKind::Bitmap, HandleKind::DeviceContext});
         case CV_PLATFORM_OTHER_HANDLES:
-            return Sum({HandleKind::Thread, HandleKind::Event, HandleKind::File, HandleKind::FindFile,
-                        HandleKind::RegistryKey});
+            return Sum({HandleKind::Thread, HandleKind::Event, HandleKind::FindFile, HandleKind::RegistryKey});
         case CV_PLATFORM_COMPONENT_OBJECTS:
             return static_cast<size_t>(platform::base::g_componentObjects.load());
         case CV_PLATFORM_SHELL_BLOCKS:

@@ -123,20 +123,6 @@ LONG FindHostFile(std::string_view path, std::string* host) {
     return ERROR_SUCCESS;
 }
 
-std::string DrivePath(const std::string& host) {
-    const std::string drives = base::StateFolder() + "/drive_";
-    std::string path = "Z:" + host;
-    if (host.starts_with(drives) && host.size() > drives.size() &&
-        (host.size() == drives.size() + 1 || host[drives.size() + 1] == '/')) {
-        path = std::string(1, static_cast<char>(host[drives.size()] & ~0x20)) + ":" + host.substr(drives.size() + 1);
-    }
-    if (path.size() == 2) {
-        path += '/';
-    }
-    std::replace(path.begin(), path.end(), '/', '\\');
-    return AnsiFromUtf8(path);
-}
-
 LONG ErrorOfHost(int number) {
     switch (number) {
         case ENOENT:

@@ -48,7 +48,7 @@ BOOL WINAPI SetLocaleInfoA(LCID locale, LCTYPE type, LPCSTR data) try {
         return Fail(ERROR_INVALID_PARAMETER);
     }
     const LCTYPE item = type & ~LCTYPE{LOCALE_NOUSEROVERRIDE | LOCALE_USE_CP_ACP};
-    if (!IntlKey(item) || item == LOCALE_SCOUNTRY) {
+    if (!IntlKey(item)) {
         return Fail(ERROR_INVALID_FLAGS);
     }
     if (std::strlen(data) > LongestOf(item)) {

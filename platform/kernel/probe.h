@@ -3,8 +3,11 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 
 namespace platform::kernel {
+
+bool CanRead(std::uintptr_t first, std::size_t bytes);
 
 inline constexpr std::size_t kBadText = static_cast<std::size_t>(-1);
 

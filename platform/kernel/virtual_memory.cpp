@@ -11,20 +11,14 @@
 
 namespace {
 
-struct Area {
-    std::size_t size;
-    std::map<std::uintptr_t, DWORD> protection;  ///< by page, where it is not the first one
-    DWORD initial;
-};
-
-// Areas by address. Never destroyed: memory may be released while the process ends.
+// Sizes by address. Never destroyed: memory may be released while the process ends.
 std::mutex& AreasLock() {
     static auto& lock = *new std::mutex;
     return lock;
 }
 
-std::map<std::uintptr_t, Area>& Areas() {
-    static auto& areas = *new std::map<std::uintptr_t, Area>;
+std::map<std::uintptr_t, std::size_t>& Areas() {
+    static auto& areas = *new std::map<std::uintptr_t, std::size_t>;
     return areas;
 }
 
@@ -42,12 +36,6 @@ int HostProtection(DWORD protection) {
             return PROT_READ;
         case PAGE_READWRITE:
             return PROT_READ | PROT_WRITE;
-        case PAGE_EXECUTE:
-            return PROT_EXEC;
-        case PAGE_EXECUTE_READ:
-            return PROT_READ | PROT_EXEC;
-        case PAGE_EXECUTE_READWRITE:
-            return PROT_READ | PROT_WRITE | PROT_EXEC;
         default:
             return -1;
     }
@@ -75,7 +63,7 @@ LPVOID WINAPI VirtualAlloc(LPVOID address, SIZE_T size, DWORD type, DWORD protec
     }
     try {
         const std::lock_guard guard(AreasLock());
-        Areas()[reinterpret_cast<std::uintptr_t>(memory)] = Area{rounded, {}, protection};
+        Areas()[reinterpret_cast<std::uintptr_t>(memory)] = rounded;
     } catch (const std::bad_alloc&) {
         munmap(memory, rounded);
         return Fail<LPVOID>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
@@ -92,44 +80,7 @@ BOOL WINAPI VirtualFree(LPVOID address, SIZE_T size, DWORD type) {
     if (area == Areas().end()) {
         return Fail(ERROR_INVALID_ADDRESS, FALSE);
     }
-    munmap(address, area->second.size);
+    munmap(address, area->second);
     Areas().erase(area);
-    return TRUE;
-}
-
-// Changes whole pages of one area; the former protection is that of the first page.
-BOOL WINAPI VirtualProtect(LPVOID address, SIZE_T size, DWORD protection, PDWORD previous) {
-    const int host = HostProtection(protection);
-    if (host < 0 || size == 0) {
-        return Fail(ERROR_INVALID_PARAMETER, FALSE);
-    }
-    if (!previous) {
-        return Fail(ERROR_NOACCESS, FALSE);
-    }
-    const auto at = reinterpret_cast<std::uintptr_t>(address);
-    const std::lock_guard guard(AreasLock());
-    auto found = Areas().upper_bound(at);
-    if (found == Areas().begin()) {
-        return Fail(ERROR_INVALID_ADDRESS, FALSE);
-    }
-    --found;
-    Area& area = found->second;
-    if (at - found->first >= area.size || size > area.size - (at - found->first)) {
-        return Fail(ERROR_INVALID_ADDRESS, FALSE);
-    }
-    const std::uintptr_t first = at & ~(PageSize() - 1);
-    const std::uintptr_t last = (at + size - 1) & ~(PageSize() - 1);
-    if (mprotect(reinterpret_cast<void*>(first), last - first + PageSize(), host) != 0) {
-        return Fail(ERROR_ACCESS_DENIED, FALSE);
-    }
-    const auto former = area.protection.find(first);
-    *previous = former == area.protection.end() ? area.initial : former->second;
-    try {
-        for (std::uintptr_t page = first; page <= last; page += PageSize()) {
-            area.protection[page] = protection;
-        }
-    } catch (const std::bad_alloc&) {
-        // Only the report of a former protection suffers.
-    }
     return TRUE;
 }

@@ -18,8 +18,7 @@ bool ReadHostClipboard(std::string* utf8);
 /// Gives the host's clipboard a text.
 void WriteHostClipboard(const std::string& utf8);
 
-/// A window is about to end: what it has put off rendering is rendered, and a clipboard that it holds open is closed.
-/// Lock not held.
+/// A window is about to end: a clipboard that it holds open is closed. Lock not held.
 void LeaveClipboard(HWND window);
 
 }  // namespace platform::user

@@ -6,6 +6,7 @@
 #include <new>
 
 #include "base/handle.h"
+#include "kernel/resource.h"
 #include "user/icons.h"
 #include "user/window.h"
 
@@ -37,7 +38,7 @@ std::uint32_t File(std::unique_ptr<Icon> icon) {
 /// What was loaded before, as a second call gives the same handle.
 struct Loaded {
     HINSTANCE instance;
-    HRSRC group;  ///< null for the system's own
+    const void* group;  ///< null for the system's own
     unsigned number;
     bool cursor;
     std::uint32_t handle;
@@ -84,7 +85,8 @@ HANDLE Load(HINSTANCE instance, LPCSTR name, bool cursor) try {
         SetLastError(ERROR_RESOURCE_NAME_NOT_FOUND);
         return nullptr;
     }
-    const HRSRC group = instance ? FindResourceA(instance, name, cursor ? RT_GROUP_CURSOR : RT_GROUP_ICON) : nullptr;
+    const void* group =
+        instance ? kernel::FindResourceBytes(instance, name, cursor ? RT_GROUP_CURSOR : RT_GROUP_ICON).data() : nullptr;
     if (instance && !group) {
         return nullptr;
     }

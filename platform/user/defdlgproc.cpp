@@ -160,15 +160,7 @@ LRESULT DefaultAnswer(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam, D
 
 }  // namespace
 
-LRESULT CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    return DefDlgProcA(window, message, wParam, lParam);
-}
-
-}  // namespace platform::user
-
-using namespace platform::user;
-
-WINUSERAPI LRESULT WINAPI DefDlgProcA(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT CALLBACK DialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
     const auto state = NeedDialogState(dialog);
     if (!state)
         return 0;
@@ -185,3 +177,5 @@ WINUSERAPI LRESULT WINAPI DefDlgProcA(HWND dialog, UINT message, WPARAM wParam, 
     }
     return DefaultAnswer(dialog, message, wParam, lParam, *state);
 }
+
+}  // namespace platform::user

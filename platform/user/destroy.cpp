@@ -13,11 +13,9 @@ Window* spareWindows = nullptr;  // linked by `next`; guarded by UserLock
 void Remove(Window* window) {
     ForgetPainting(window);
     UnlinkWindow(window);
-    for (Window* root : {Desktop(), MessageRoot()}) {
-        for (Window* other = root->firstChild; other; other = other->next) {
-            if (other->owner == window) {
-                other->owner = nullptr;
-            }
+    for (Window* other = Desktop()->firstChild; other; other = other->next) {
+        if (other->owner == window) {
+            other->owner = nullptr;
         }
     }
     base::RemoveHandle(base::ToNumber(window->handle), base::HandleKind::Window);
@@ -83,7 +81,7 @@ void NotifyParents(HWND handle, UINT event) {
             const UserGuard guard(UserLock());
             const Window* window = PeekWindow(child);
             if (!window || !IsChildStyle(window->style) || (window->exStyle & WS_EX_NOPARENTNOTIFY) ||
-                !window->parent || window->parent == Desktop() || window->parent == MessageRoot()) {
+                !window->parent || window->parent == Desktop()) {
                 return;
             }
             if (child == handle) {

@@ -108,19 +108,6 @@ int WINAPI GetSystemMetrics(int index) {
 
 namespace {
 
-struct Settings {
-    BOOL beep = TRUE;
-    BOOL dragFullWindows = TRUE;
-    UINT wheelLines = 3;
-    int keyboardDelay = 1;
-    DWORD keyboardSpeed = 31;
-};
-
-Settings& TheSettings() {
-    static Settings settings;
-    return settings;
-}
-
 LOGFONTA DialogFont(LONG weight) {
     LOGFONTA font{};
     font.lfHeight = -11;
@@ -145,41 +132,16 @@ BOOL NonClientMetrics(NONCLIENTMETRICSA* metrics) {
     return TRUE;
 }
 
-BOOL Apply(UINT action, UINT parameter, PVOID data) {
-    Settings& settings = TheSettings();
+}  // namespace
+
+BOOL WINAPI SystemParametersInfoA(UINT action, UINT, PVOID data, UINT) {
+    if (!data) {
+        SetLastError(ERROR_NOACCESS);
+        return FALSE;
+    }
     switch (action) {
-        case SPI_GETBEEP:
-            *static_cast<BOOL*>(data) = settings.beep;
-            return TRUE;
-        case SPI_SETBEEP:
-            settings.beep = parameter != 0;
-            return TRUE;
-        case SPI_GETBORDER:
-            *static_cast<int*>(data) = 1;
-            return TRUE;
-        case SPI_GETKEYBOARDSPEED:
-            *static_cast<DWORD*>(data) = settings.keyboardSpeed;
-            return TRUE;
-        case SPI_SETKEYBOARDSPEED:
-            settings.keyboardSpeed = parameter;
-            return TRUE;
-        case SPI_GETKEYBOARDDELAY:
-            *static_cast<int*>(data) = settings.keyboardDelay;
-            return TRUE;
-        case SPI_SETKEYBOARDDELAY:
-            settings.keyboardDelay = static_cast<int>(parameter);
-            return TRUE;
-        case SPI_GETDRAGFULLWINDOWS:
-            *static_cast<BOOL*>(data) = settings.dragFullWindows;
-            return TRUE;
-        case SPI_SETDRAGFULLWINDOWS:
-            settings.dragFullWindows = parameter != 0;
-            return TRUE;
         case SPI_GETWHEELSCROLLLINES:
-            *static_cast<UINT*>(data) = settings.wheelLines;
-            return TRUE;
-        case SPI_SETWHEELSCROLLLINES:
-            settings.wheelLines = parameter;
+            *static_cast<UINT*>(data) = 3;
             return TRUE;
         case SPI_GETWORKAREA:
             *static_cast<RECT*>(data) = {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
@@ -193,27 +155,6 @@ BOOL Apply(UINT action, UINT parameter, PVOID data) {
             SetLastError(ERROR_INVALID_PARAMETER);
             return FALSE;
     }
-}
-
-bool TakesNoData(UINT action) {
-    return action == SPI_SETBEEP || action == SPI_SETKEYBOARDSPEED || action == SPI_SETKEYBOARDDELAY ||
-           action == SPI_SETDRAGFULLWINDOWS || action == SPI_SETWHEELSCROLLLINES;
-}
-
-}  // namespace
-
-BOOL WINAPI SystemParametersInfoA(UINT action, UINT parameter, PVOID data, UINT winIni) {
-    if (!data && !TakesNoData(action)) {
-        SetLastError(ERROR_NOACCESS);
-        return FALSE;
-    }
-    if (!Apply(action, parameter, data)) {
-        return FALSE;
-    }
-    if (TakesNoData(action) && (winIni & SPIF_SENDCHANGE)) {
-        BroadcastSetting(WM_WININICHANGE, action, 0);
-    }
-    return TRUE;
 }
 
 namespace {
@@ -235,12 +176,10 @@ DWORD WINAPI GetGuiResources(HANDLE, DWORD flags) {
     switch (flags) {
         case GR_GDIOBJECTS:
             return static_cast<DWORD>(platform::gdi::CountObjects()) + static_cast<DWORD>(ContextsInUse());
-        case GR_USEROBJECTS: {
-            // The desktop and the parent of message-only windows are the system's own.
-            MessageRoot();
+        case GR_USEROBJECTS:
+            // The desktop is the system's own.
             Desktop();
-            return static_cast<DWORD>(platform::base::CountHandles(platform::base::HandleKind::Window)) - 2;
-        }
+            return static_cast<DWORD>(platform::base::CountHandles(platform::base::HandleKind::Window)) - 1;
         default:
             SetLastError(ERROR_INVALID_PARAMETER);
             return 0;

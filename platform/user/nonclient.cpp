@@ -71,7 +71,7 @@ HICON CaptionIcon(const Window* window) {
     if (!(window->style & WS_SYSMENU) || (window->exStyle & (WS_EX_TOOLWINDOW | WS_EX_DLGMODALFRAME))) {
         return nullptr;
     }
-    for (HICON icon : {window->smallIcon, window->windowClass->smallIcon, window->bigIcon, window->windowClass->icon}) {
+    for (HICON icon : {window->smallIcon, window->bigIcon, window->windowClass->icon}) {
         if (icon) {
             return icon;
         }
@@ -286,8 +286,4 @@ BOOL WINAPI AdjustWindowRectEx(LPRECT rect, DWORD style, BOOL menu, DWORD exStyl
     InflateRect(rect, inset, inset);
     rect->top -= CaptionHeight(style, exStyle) + (menu ? GetSystemMetrics(SM_CYMENU) : 0);
     return TRUE;
-}
-
-BOOL WINAPI AdjustWindowRect(LPRECT rect, DWORD style, BOOL menu) {
-    return AdjustWindowRectEx(rect, style, menu, 0);
 }

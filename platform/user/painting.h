@@ -84,22 +84,9 @@ void UpdateTree(HWND handle, UINT children, bool eraseOnly);
 
 // --- positions
 
-/// One change of place, order or visibility on its way through the documented steps.
-struct PositionChange {
-    WINDOWPOS position{};
-    bool alive = true;
-};
-
-/// Runs changes through all steps together. Takes the lock itself, and sends messages. @returns false when a window was
-/// gone.
-bool ChangePositions(PositionChange* changes, std::size_t count);
-
 /// Moves a window in the z-order, together with the windows it owns and, unless SWP_NOOWNERZORDER is set, its owners.
 /// touched: gets every window that moved, the window first.
 void ChangeOrder(Window* window, HWND after, UINT flags);
-
-/// Moves a window's rectangles and those of its descendants.
-void ShiftTree(Window* window, int dx, int dy);
 
 /// The rectangles as the parent counts them: client coordinates for children, the screen's for top-level windows.
 POINT ParentOrigin(const Window* window);

@@ -81,12 +81,6 @@ bool ArrowStep(WPARAM key, int* dx, int* dy) {
     return *dx != 0 || *dy != 0;
 }
 
-void SetMoveSize(HWND handle) {
-    ThreadState* self = CurrentThread();
-    const UserGuard guard(UserLock());
-    self->moveSize = handle;
-}
-
 /// One round of moving or sizing: where the window was, what of it follows, and how far by now.
 struct Drag {
     HWND window;
@@ -121,7 +115,6 @@ void MoveOrSize(HWND handle, int part, bool byMouse, POINT from) {
         drag.limits = QueryMinMax(handle);
     }
     SetCapture(handle);
-    SetMoveSize(handle);
     SendMessageA(handle, WM_ENTERSIZEMOVE, 0, 0);
     for (MSG message; NextMessage(handle, &message);) {
         int stepX = 0;
@@ -149,7 +142,6 @@ void MoveOrSize(HWND handle, int part, bool byMouse, POINT from) {
             break;
         }
     }
-    SetMoveSize(nullptr);
     if (GetCapture() == handle) {
         ReleaseCapture();
     }

@@ -40,7 +40,6 @@ void EndThread(ThreadState* thread) {
         UserGuard guard(UserLock());
         try {
             CollectWindows(Desktop(), thread, &windows);
-            CollectWindows(MessageRoot(), thread, &windows);
         } catch (const std::bad_alloc&) {
             base::ReportOnce("out of memory: windows of a thread that ended are left behind");
         }

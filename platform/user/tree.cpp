@@ -99,10 +99,10 @@ bool IsAncestor(const Window* ancestor, const Window* window) {
 }
 
 Window* TopLevel(Window* window) {
-    if (!window || window == Desktop() || window == MessageRoot()) {
+    if (!window || window == Desktop()) {
         return nullptr;
     }
-    while (window->parent && window->parent != Desktop() && window->parent != MessageRoot()) {
+    while (window->parent && window->parent != Desktop()) {
         window = window->parent;
     }
     return window;
@@ -123,7 +123,7 @@ using namespace platform::user;
 namespace {
 
 HWND HandleOf(const Window* window) {
-    return window && window != MessageRoot() ? window->handle : nullptr;
+    return window ? window->handle : nullptr;
 }
 
 }  // namespace
@@ -216,9 +216,7 @@ HWND WINAPI SetParent(HWND handle, HWND newParent) {
     {
         const UserGuard guard(UserLock());
         const Window* window = FindWindowObject(handle);
-        const Window* parent = newParent == HWND_MESSAGE ? MessageRoot()
-                               : newParent               ? FindWindowObject(newParent)
-                                                         : Desktop();
+        const Window* parent = newParent ? FindWindowObject(newParent) : Desktop();
         if (!window || !parent) {
             return nullptr;
         }
@@ -239,7 +237,7 @@ HWND WINAPI SetParent(HWND handle, HWND newParent) {
     {
         const UserGuard guard(UserLock());
         Window* window = PeekWindow(handle);
-        Window* parent = newParent == HWND_MESSAGE ? MessageRoot() : newParent ? PeekWindow(newParent) : Desktop();
+        Window* parent = newParent ? PeekWindow(newParent) : Desktop();
         if (!window || !parent || parent->ending) {
             SetLastError(ERROR_INVALID_WINDOW_HANDLE);
             return nullptr;
@@ -260,14 +258,4 @@ HWND WINAPI SetParent(HWND handle, HWND newParent) {
         ShowWindow(handle, SW_SHOWNA);
     }
     return old;
-}
-
-BOOL WINAPI AnyPopup(VOID) {
-    const UserGuard guard(UserLock());
-    for (const Window* window = Desktop()->firstChild; window; window = window->next) {
-        if (window->owner && (window->style & WS_VISIBLE)) {
-            return TRUE;
-        }
-    }
-    return FALSE;
 }

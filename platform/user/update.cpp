@@ -89,13 +89,6 @@ void MarkInvalid(Window* window, gdi::Region area, bool erase, bool frame) {
     }
 }
 
-void AddUpdate(Window* window, const gdi::Region& area, bool erase, bool frame) {
-    gdi::Region visible = area;
-    visible.Offset(window->windowRect.left, window->windowRect.top);
-    visible.Intersect(Visible(window, StyleFlags(window) | kVisibleWhole));
-    MarkInvalid(window, std::move(visible), erase, frame);
-}
-
 bool NeedsPaint(const Window* window) {
     return window->internalPaint || !window->update.Empty();
 }
@@ -119,3 +112,24 @@ Window* NextPaintWindow(ThreadState* thread, Window* within) {
 }
 
 }  // namespace platform::user
+
+using namespace platform::user;
+
+BOOL WINAPI GetUpdateRect(HWND handle, LPRECT rect, BOOL erase) {
+    if (erase) {
+        SendFramePaint(handle);
+        SendErase(handle);
+    }
+    UserGuard guard(UserLock());
+    Window* window = FindWindowObject(handle);
+    if (window == nullptr) {
+        return FALSE;
+    }
+    platform::gdi::Region region = ScreenUpdate(window);
+    region.Intersect(window->clientRect);
+    region.Offset(-window->clientRect.left, -window->clientRect.top);
+    if (rect != nullptr) {
+        *rect = region.Bounds();
+    }
+    return !region.Empty();
+}

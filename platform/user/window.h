@@ -36,9 +36,8 @@ struct WindowClass {
     HBRUSH background = nullptr;
     std::string menuName;
     LPCSTR menuId = nullptr;  ///< when the menu was given by number
-    std::vector<std::byte> extra;
-    int windows = 0;  ///< windows of the class that are alive
-    HICON smallIcon = nullptr;
+    int classExtra = 0;       ///< as GetClassInfoA tells; nobody can reach the bytes
+    int windows = 0;          ///< windows of the class that are alive
 };
 
 struct WindowProperty {
@@ -76,7 +75,7 @@ struct Window {
     bool internalPaint = false;               ///< RDW_INTERNALPAINT
     struct PaintState* paintState = nullptr;  ///< the painting module's own: cached visible regions
     bool sizeSent = false;                    ///< WM_SIZE and WM_MOVE were sent; else the first ShowWindow sends them
-    bool hiddenByOwner = false;               ///< hidden by ShowOwnedPopups(owner, FALSE)
+    bool hiddenByOwner = false;               ///< hidden because its owner was minimised
 
     RECT restoredRect{};  ///< normal position while minimised or maximised
     bool destroying = false;
@@ -86,10 +85,9 @@ struct Window {
     bool restoreMaximised = false;  ///< minimised while it was maximised
     HICON bigIcon = nullptr;        ///< WM_SETICON
     HICON smallIcon = nullptr;
-    unsigned activeStamp = 0;  ///< grows with each activation: tells which popup was active last (activation.cpp)
 
     // Dialogs and controls: shared, so that a handler that is running outlives its window.
-    std::shared_ptr<DialogState> dialog;      ///< made when DefDlgProcA first sees the window
+    std::shared_ptr<DialogState> dialog;      ///< made when the dialog procedure first sees the window
     std::shared_ptr<ControlData> control;     ///< what a predefined control keeps (controls/controls.h)
     std::shared_ptr<struct WindowBars> bars;  ///< scroll bars, made when they are first asked about (scrollbar/bar.h)
 };
@@ -126,9 +124,6 @@ void InitialiseClasses();
 inline bool IsChildStyle(DWORD style) {
     return (style & (WS_CHILD | WS_POPUP)) == WS_CHILD;
 }
-
-/// The parent of message-only windows (HWND_MESSAGE): never shown, never enumerated.
-Window* MessageRoot();
 
 /// Moves the rectangles of a window and of all its descendants, without a word to them. Lock held.
 void OffsetTree(Window* window, int dx, int dy);
@@ -168,9 +163,6 @@ gdi::Region VisibleRegion(Window* window, bool clientOnly, bool clipChildren);
 /// Invalidates whatever lies in an area of the screen that nobody has drawn: windows from the top of the z-order, and the
 /// desktop's background. Area in screen coordinates.
 void ExposeScreen(const gdi::Region& area);
-
-/// Adds to a window's update region (window-relative) and tells its thread that painting is due. Lock held.
-void AddUpdate(Window* window, const gdi::Region& area, bool erase, bool frame);
 
 /// @returns whether the window has something to paint (update region or internal paint). Lock held.
 bool NeedsPaint(const Window* window);

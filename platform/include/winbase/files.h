@@ -40,19 +40,12 @@ WINBASEAPI BOOL WINAPI FindNextFileA(HANDLE search, LPWIN32_FIND_DATAA data);
 WINBASEAPI BOOL WINAPI FindClose(HANDLE search);
 WINBASEAPI DWORD WINAPI GetFileAttributesA(LPCSTR path);
 WINBASEAPI UINT WINAPI GetDriveTypeA(LPCSTR root);
-WINBASEAPI DWORD WINAPI GetLogicalDrives(void);
-WINBASEAPI DWORD WINAPI GetLogicalDriveStringsA(DWORD size, LPSTR buffer);
-WINBASEAPI DWORD WINAPI GetCurrentDirectoryA(DWORD size, LPSTR buffer);
-WINBASEAPI BOOL WINAPI SetCurrentDirectoryA(LPCSTR path);
 
 #ifndef CVPLATFORM_NO_GENERIC_NAMES
 #define FindFirstFile FindFirstFileA
 #define FindNextFile FindNextFileA
-#define GetCurrentDirectory GetCurrentDirectoryA
 #define GetDriveType GetDriveTypeA
 #define GetFileAttributes GetFileAttributesA
-#define GetLogicalDriveStrings GetLogicalDriveStringsA
-#define SetCurrentDirectory SetCurrentDirectoryA
 #define WIN32_FIND_DATA WIN32_FIND_DATAA
 #define LPWIN32_FIND_DATA LPWIN32_FIND_DATAA
 #endif

@@ -22,6 +22,7 @@ WINUSERAPI int WINAPI ReleaseDC(HWND window, HDC context);
 
 WINUSERAPI BOOL WINAPI InvalidateRect(HWND window, const RECT* rect, BOOL erase);
 WINUSERAPI BOOL WINAPI ValidateRect(HWND window, const RECT* rect);
+WINUSERAPI BOOL WINAPI GetUpdateRect(HWND window, LPRECT rect, BOOL erase);
 WINUSERAPI BOOL WINAPI UpdateWindow(HWND window);
 
 #define RDW_INVALIDATE 0x0001

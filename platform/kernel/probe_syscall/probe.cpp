@@ -21,7 +21,7 @@ std::uintptr_t PageSize() {
     return size;
 }
 
-bool CanRead(std::uintptr_t address) {
+bool CanReadByte(std::uintptr_t address) {
     char byte;
     const iovec here{&byte, 1};
     const iovec there{reinterpret_cast<void*>(address), 1};
@@ -56,10 +56,14 @@ bool RangeIsGood(std::uintptr_t first, std::uintptr_t size) {
 
 namespace platform::kernel {
 
+bool CanRead(std::uintptr_t first, std::size_t bytes) {
+    return bytes == 0 || RangeIsGood<CanReadByte>(first, bytes);
+}
+
 std::size_t ProbeLength(const char* text, std::size_t most) {
     for (std::size_t done = 0; done < most;) {
         const auto at = reinterpret_cast<std::uintptr_t>(text) + done;
-        if (!CanRead(at)) {
+        if (!CanReadByte(at)) {
             return kBadText;
         }
         const std::size_t size = std::min<std::size_t>(PageSize() - at % PageSize(), most - done);
@@ -75,16 +79,4 @@ std::size_t ProbeLength(const char* text, std::size_t most) {
 
 BOOL WINAPI IsBadWritePtr(LPVOID address, UINT_PTR size) {
     return size != 0 && !RangeIsGood<CanWrite>(reinterpret_cast<std::uintptr_t>(address), size);
-}
-
-BOOL WINAPI IsBadReadPtr(const void* address, UINT_PTR size) {
-    return size != 0 && !RangeIsGood<CanRead>(reinterpret_cast<std::uintptr_t>(address), size);
-}
-
-BOOL WINAPI IsBadStringPtrA(LPCSTR text, UINT_PTR size) {
-    return platform::kernel::ProbeLength(text, size) == platform::kernel::kBadText;
-}
-
-BOOL WINAPI IsBadCodePtr(FARPROC function) {
-    return IsBadReadPtr(reinterpret_cast<const void*>(function), 1);
 }

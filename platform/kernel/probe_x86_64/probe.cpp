@@ -42,7 +42,7 @@ bad:
     return false;
 }
 
-inline __attribute__((always_inline)) bool CanRead(std::uintptr_t address) {
+inline __attribute__((always_inline)) bool CanReadByte(std::uintptr_t address) {
     asm goto("1: testb $0, (%0)\n" CVPROBE_FIXUP(bad) : : "r"(address) : "memory", "cc" : bad);
     return true;
 bad:
@@ -142,7 +142,7 @@ bool RangeIsGood(std::uintptr_t first, std::uintptr_t bytes) {
 }
 
 bool ReadTouch(std::uintptr_t address) {
-    return CanRead(address);
+    return CanReadByte(address);
 }
 
 bool WriteTouch(std::uintptr_t address) {
@@ -212,11 +212,11 @@ BOOL WINAPI IsBadWritePtr(LPVOID address, UINT_PTR bytes) {
     return bytes != 0 && !RangeIsGood<WriteTouch>(first, bytes);
 }
 
-BOOL WINAPI IsBadReadPtr(const void* address, UINT_PTR bytes) {
-    return bytes != 0 && !RangeIsGood<ReadTouch>(reinterpret_cast<std::uintptr_t>(address), bytes);
-}
-
 namespace platform::kernel {
+
+bool CanRead(std::uintptr_t first, std::size_t bytes) {
+    return bytes == 0 || RangeIsGood<ReadTouch>(first, bytes);
+}
 
 // Each page is probed once, and searched with the host's own fast search.
 std::size_t ProbeLength(const char* text, std::size_t most) {
@@ -235,11 +235,3 @@ std::size_t ProbeLength(const char* text, std::size_t most) {
 }
 
 }  // namespace platform::kernel
-
-BOOL WINAPI IsBadStringPtrA(LPCSTR text, UINT_PTR most) {
-    return platform::kernel::ProbeLength(text, most) == platform::kernel::kBadText;
-}
-
-BOOL WINAPI IsBadCodePtr(FARPROC procedure) {
-    return IsBadReadPtr(reinterpret_cast<const void*>(procedure), 1);
-}

@@ -1,4 +1,5 @@
 #include "user/controls/controls.h"
+#include "user/dialog.h"
 
 namespace platform::user {
 
@@ -53,7 +54,7 @@ void DrawCentredBitmap(HDC context, HBITMAP bitmap, const RECT& rect) {
 }
 
 void RegisterDialogClasses() {
-    RegisterSystemClass("#32770", DefDlgProcA, CS_SAVEBITS | CS_DBLCLKS, DLGWINDOWEXTRA, IDC_ARROW, nullptr);
+    RegisterSystemClass("#32770", DialogProcedure, CS_SAVEBITS | CS_DBLCLKS, DLGWINDOWEXTRA, IDC_ARROW, nullptr);
     RegisterSystemClass("Button", ButtonProcedure, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 0, IDC_ARROW, nullptr);
     RegisterSystemClass("Edit", EditProcedure, CS_DBLCLKS, 0, IDC_IBEAM, nullptr);
     RegisterSystemClass("Static", StaticProcedure, CS_DBLCLKS, 0, IDC_ARROW, nullptr);

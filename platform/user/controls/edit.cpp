@@ -42,7 +42,7 @@ LRESULT DialogCodeOf(HWND edit, LPARAM lParam) {
 
 void OnSetFont(HWND edit, EditData& data, WPARAM font, bool redraw) {
     data.font = reinterpret_cast<HFONT>(font);
-    TakeFontMargins(edit, data, EC_LEFTMARGIN | EC_RIGHTMARGIN);
+    TakeFontMargin(edit, data);
     LayOut(edit, data);
     if (data.focused && GetFocus() == edit) {
         // The caret is as high as a line.
@@ -105,8 +105,19 @@ void OnScroll(HWND edit, EditData& data, WPARAM wParam) {
         case SB_THUMBTRACK:
             ScrollLines(edit, data, HIWORD(wParam) - static_cast<int>(data.firstLine));
             break;
+        case SB_LINEUP:
+            ScrollLines(edit, data, -1);
+            break;
+        case SB_LINEDOWN:
+            ScrollLines(edit, data, 1);
+            break;
+        case SB_PAGEUP:
+            ScrollLines(edit, data, -PageLines(data));
+            break;
+        case SB_PAGEDOWN:
+            ScrollLines(edit, data, PageLines(data));
+            break;
         default:
-            SendMessageA(edit, EM_SCROLL, LOWORD(wParam), 0);
             break;
     }
 }
@@ -250,7 +261,7 @@ LRESULT Handle(HWND edit, EditData& data, UINT message, WPARAM wParam, LPARAM lP
         case WM_UNDO:
             return OnTextMessage(edit, data, message, wParam, lParam);
         default:
-            if (message >= EM_GETSEL && message <= EM_CHARFROMPOS) {
+            if (message >= EM_GETSEL && message <= EM_GETLIMITTEXT) {
                 return OnTextMessage(edit, data, message, wParam, lParam);
             }
             return OnInput(edit, data, message, wParam, lParam);

@@ -5,8 +5,8 @@
 namespace {
 
 TEST(ImageBlend, OnlyThePictureIsMixed) {
-    const HIMAGELIST list =
-        ImageList_LoadImageA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(4000), 4, 0, RGB(255, 0, 255), IMAGE_BITMAP, 0);
+    const HIMAGELIST list = ImageList_LoadImageA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(4000), 4, 0,
+                                                 RGB(255, 0, 255), IMAGE_BITMAP, 0);
     Canvas canvas(4, 2);
     canvas.Clear(0x3344CC);
     EXPECT_TRUE(platform::comctl::DrawBlended(list, 1, canvas, 0, 0, RGB(255, 0, 0)));
