@@ -2,11 +2,11 @@
 
 namespace {
 
-constexpr std::uint32_t kSignature = 0x45534142;  // "BASE"
+constexpr std::uint32_t kBaseSignature = 0x45534142;  // "BASE"
 
 }  // namespace
 
-CBASE::CBASE() : signature(kSignature) {}
+CBASE::CBASE() : signature(kBaseSignature) {}
 
 CBASE::CBASE(CBASE const& other) = default;
 
@@ -19,5 +19,5 @@ int CBASE::IsValidcBase() const {
     if (IsBadWritePtr(const_cast<CBASE*>(this), sizeof(CBASE))) {
         return 0;
     }
-    return signature == kSignature ? 1 : 0;
+    return signature == kBaseSignature ? 1 : 0;
 }

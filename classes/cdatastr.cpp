@@ -7,10 +7,12 @@
 #include <new>
 #include <utility>
 
+#include "classes/charwalk.h"
+
 namespace {
 
 constexpr std::uint32_t kMarkSignature = 0x5A535444;  // "DTSZ" in memory
-constexpr unsigned int kNone = 0xFFFFFFFF;
+using charwalk::kNone;
 
 }  // namespace
 
@@ -150,6 +152,8 @@ int CDATASTR::EnumDataItems(unsigned int* position, CSTRING* item, char delimite
     *item = "";
     return 0;
 }
+
+#include "classes/charwalk.h"
 
 namespace {
 

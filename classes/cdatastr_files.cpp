@@ -3,9 +3,11 @@
 
 #include <algorithm>
 
+#include "classes/charwalk.h"
+
 namespace {
 
-constexpr unsigned int kNone = 0xFFFFFFFF;
+using charwalk::kNone;
 
 }  // namespace
 

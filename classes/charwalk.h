@@ -11,7 +11,8 @@
 
 namespace charwalk {
 
-constexpr std::uint32_t kAll = 0xFFFFFFFF;
+constexpr std::uint32_t kAll = 0xFFFFFFFF;   ///< as a count
+constexpr std::uint32_t kNone = 0xFFFFFFFF;  ///< as a position: no match, or behind the last character
 
 /// Bytes that the walk spans from @p text over at most @p count characters; 0 for null.
 std::uint32_t CountBytes(char const* text, std::uint32_t count);

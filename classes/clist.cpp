@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr std::uint32_t kSignature = 0x5453494C;  // "LIST" in memory
+constexpr std::uint32_t kListSignature = 0x5453494C;  // "LIST" in memory
 constexpr std::uint32_t kMostSlots = 65535;
 
 bool IsWritable(const void* address, std::size_t size) {
@@ -157,7 +157,7 @@ void CLISTHEADER::FreeAll() {
 void CLIST::MakeHeader() {
     header = new (std::nothrow) CLISTHEADER;
     if (header) {
-        header->signature = kSignature;
+        header->signature = kListSignature;
     }
 }
 
@@ -197,7 +197,7 @@ CLIST::~CLIST() {
 }
 
 int CLIST::IsValid() const {
-    return IsWritable(this, sizeof *this) && IsWritable(header, sizeof *header) && header->signature == kSignature;
+    return IsWritable(this, sizeof *this) && IsWritable(header, sizeof *header) && header->signature == kListSignature;
 }
 
 int CLIST::Init(unsigned int itemSize, unsigned int capacity, CLISTTYPE type) {

@@ -28,13 +28,12 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/cvutil32Config.cmake ${CMAKE_CURRENT_B
 
 if(WIN32)
     install(FILES gallery/help/gallery.txt DESTINATION ${CMAKE_INSTALL_BINDIR})
-    install(FILES $<TARGET_LINKER_FILE_DIR:cvutil32>/CVUTIL32.def DESTINATION ${CMAKE_INSTALL_LIBDIR})
     return()
 endif()
 
 install(TARGETS cvdisplay_sdl DESTINATION ${CMAKE_INSTALL_LIBDIR})
 install(DIRECTORY platform/include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/cvutil32-windows)
-install(DIRECTORY platform/kernel/start DESTINATION ${package})
+install(DIRECTORY platform/kernel/modules/start DESTINATION ${package})
 # Relative to itself, so that it holds wherever the tree is installed to.
 file(RELATIVE_PATH prefix ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
 configure_file(cmake/cvutil32.pc.in ${CMAKE_CURRENT_BINARY_DIR}/cvutil32.pc @ONLY)

@@ -205,6 +205,12 @@ bool ShowPage(HWND frame, int index) {
     return Turn(*FrameOf(frame), index);
 }
 
+void FollowFields(HWND window) {
+    if (const Frame* frame = FrameOf(window); frame != nullptr && frame->shown >= 0) {
+        SendMessageA(frame->pages[static_cast<std::size_t>(frame->shown)], kFollowFields, 0, 0);
+    }
+}
+
 bool TurnPageByKey(HWND window, const MSG& message) {
     if (message.message != WM_KEYDOWN || GetKeyState(VK_CONTROL) >= 0 || !IsChild(window, message.hwnd)) {
         return false;

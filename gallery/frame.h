@@ -25,4 +25,7 @@ bool ShowPage(HWND frame, int index);
 /// keys. @returns whether the message was one of them.
 bool TurnPageByKey(HWND frame, const MSG& message);
 
+/// Lets the page shown see what its fields show by now. To be called after each message; the window may be gone.
+void FollowFields(HWND frame);
+
 }  // namespace gallery

@@ -9,10 +9,10 @@
 #include "gallery/pages/numbers_page_ids.h"
 #include "gallery/pages/standard_ids.h"
 #include "gallery/resource.h"
+#include "gallery/topic.h"
 
 #include <cvutil32.h>
 
-#include <array>
 #include <string>
 
 namespace gallery {
@@ -125,17 +125,13 @@ DWORD TopicOf(HWND frame, HWND control) {
     return 0;
 }
 
-// Beside the program where it is built, in the folder of shared data where it is installed.
+// Beside the program where it is built, in the folder of shared data where it is installed. Without the ending.
 std::string HelpFile() {
     char program[MAX_PATH];
     const DWORD length = GetModuleFileNameA(nullptr, program, sizeof program);
     const std::string folder = std::string(program, length).substr(0, std::string(program, length).rfind('\\') + 1);
-    for (const char* place : {"gallery", "..\\share\\cvutil32\\gallery"}) {
-        if (UTIL_FileExists((folder + place + ".txt").c_str())) {
-            return folder + place + ".hlp";
-        }
-    }
-    return folder + "gallery.hlp";
+    const std::string own = folder + "gallery";
+    return UTIL_FileExists((own + ".txt").c_str()) ? own : folder + "..\\share\\cvutil32\\gallery";
 }
 
 bool Show(HWND frame, HWND control, UINT command) {
@@ -147,11 +143,7 @@ bool Show(HWND frame, HWND control, UINT command) {
             control = GetParent(control);
         }
     }
-    if (topic == 0) {
-        return false;
-    }
-    const std::array<DWORD, 4> table{static_cast<DWORD>(GetDlgCtrlID(control)), topic, 0, 0};
-    return UTIL_WinHelp(control, HelpFile().c_str(), command, reinterpret_cast<ULONG_PTR>(table.data())) != FALSE;
+    return topic != 0 && ShowTopic(control, HelpFile(), command, topic);
 }
 
 }  // namespace

@@ -42,6 +42,7 @@ void RunDialog(HWND dialog) {
             TranslateMessage(&message);
             DispatchMessageA(&message);
         }
+        FollowFields(dialog);
     }
 }
 

@@ -18,7 +18,7 @@ struct LISTHEADER {
 };
 static_assert(sizeof(LISTHEADER) == 24);
 
-constexpr std::uint32_t kSignature = 0x484C5453;  // "STLH" in memory
+constexpr std::uint32_t kHandleListSignature = 0x484C5453;  // "STLH" in memory
 
 LISTHEADER* Header(LPVOID list) {
     return reinterpret_cast<LISTHEADER*>(static_cast<char*>(list) - sizeof(LISTHEADER));
@@ -29,7 +29,7 @@ LISTHEADER* ValidHeader(LPVOID list) {
         return nullptr;
     }
     LISTHEADER* header = Header(list);
-    return header->signature == kSignature ? header : nullptr;
+    return header->signature == kHandleListSignature ? header : nullptr;
 }
 
 char* Item(LPVOID list, std::uint32_t index) {
@@ -49,7 +49,7 @@ CVAPI(LPVOID) LIST_Malloc(DWORD capacity, DWORD itemSize) {
     const std::size_t size = BlockSize(capacity, itemSize);
     auto* header = size == SIZE_MAX ? nullptr : static_cast<LISTHEADER*>(globalblock::Allocate(size));
     if (header) {
-        *header = {kSignature, itemSize, 0, capacity, capacity, 0};
+        *header = {kHandleListSignature, itemSize, 0, capacity, capacity, 0};
     }
     // Callers rely on the odd failure value: a null block advanced past the header.
     return reinterpret_cast<LPVOID>(reinterpret_cast<std::uintptr_t>(header) + sizeof(LISTHEADER));

@@ -112,11 +112,12 @@ Match Binary(const Items& items, LONG offset, const NumberKey<Number>& compare) 
         const std::size_t above = left - below - 1;
         const std::size_t stepBelow = below / 2 * size;
         const std::size_t stepAbove = above / 2 * size;
-        const bool isAbove = __builtin_expect_with_probability(key > value, 1, 0.5);
+        // All bits, or none.
+        const std::size_t isAbove = std::size_t{0} - static_cast<std::size_t>(key > value);
         match = value == key && !match ? middle : match;
-        field = isAbove ? middle + size : field;
-        left = isAbove ? above : below;
-        step = isAbove ? stepAbove : stepBelow;
+        field += (step + size) & isAbove;
+        left = below ^ ((below ^ above) & isAbove);
+        step = stepBelow ^ ((stepBelow ^ stepAbove) & isAbove);
     }
     const char* const item = (match ? match : field) - offset;
     return {match ? const_cast<char*>(item) : nullptr, IndexOf(items, item)};

@@ -14,7 +14,7 @@ lint_packages=(clang-format clang-tidy)
 package_packages=(zip dpkg-dev file doxygen)
 fuzz_packages=(clang libclang-rt-14-dev)
 windows_packages=(cmake ninja-build googletest g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix
-    binutils-mingw-w64-x86-64 binutils-mingw-w64-i686)
+    binutils-mingw-w64-x86-64 binutils-mingw-w64-i686 clang lld llvm)
 wine_packages=(wine64 xvfb xauth)
 
 say() {
@@ -79,6 +79,17 @@ configure() {
         grep -qE "^${option%%=*}:[A-Z]+=${option#*=}\$" "$build/CMakeCache.txt" 2>/dev/null || stale=yes
     done
     [ $stale = no ] || cmake --preset "$preset" "$@"
+}
+
+# build_examples <preset> <prefix>: in build/<preset>/examples, against the package that was installed there.
+build_examples() {
+    local toolchain libraries
+    toolchain=$(sed -nE 's/^CMAKE_TOOLCHAIN_FILE:[A-Z]+=//p' "build/$1/CMakeCache.txt")
+    libraries=$(sed -nE 's/^CMAKE_INSTALL_LIBDIR:[A-Z]+=//p' "build/$1/CMakeCache.txt")
+    cmake -S examples -B "build/$1/examples" -G Ninja -DCMAKE_BUILD_TYPE=Release ${toolchain:+-DCMAKE_TOOLCHAIN_FILE="$toolchain"} \
+        -DCMAKE_C_FLAGS="-Wall -Wextra -Werror" -DCMAKE_CXX_FLAGS="-Wall -Wextra -Werror" \
+        -DCMAKE_FIND_ROOT_PATH_MODE_PACKAGE=BOTH -Dcvutil32_DIR="$2/$libraries/cmake/cvutil32" >/dev/null
+    cmake --build "build/$1/examples"
 }
 
 # Runs a command on a virtual X server of its own.

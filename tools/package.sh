@@ -28,7 +28,7 @@ check_imports() {
 # The manual as text and, where Doxygen can be had, the reference.
 install_documents() { # <folder>
     mkdir -p "$1"
-    cp -r CHANGELOG.md docs/*.md docs/controls docs/dialogs docs/pictures "$1"/
+    cp -r CHANGELOG.md docs/*.md docs/classes docs/functions docs/controls docs/dialogs docs/pictures "$1"/
     # The manual lies beside it here.
     sed 's#(docs/#(#g; s#(examples)#(../examples)#; s#(CONTRIBUTING.md)##' README.md >"$1/README.md"
     tools/docs.sh
@@ -45,18 +45,21 @@ package_windows() {
         cmake --install build/$preset --prefix "$folder" --strip >/dev/null
         # The tool's first lines tell how it was called; what other linkers want to know is whose names these are.
         sed -i -e '1i LIBRARY CVUTIL32.dll' -e '/^;/d' "$folder/$(library_folder $preset)/CVUTIL32.def"
-        cmake -S examples -B build/$preset/examples -G Ninja -DCMAKE_BUILD_TYPE=Release \
-            -DCMAKE_TOOLCHAIN_FILE="$(sed -nE 's/^CMAKE_TOOLCHAIN_FILE:[A-Z]+=//p' build/$preset/CMakeCache.txt)" \
-            -DCMAKE_FIND_ROOT_PATH_MODE_PACKAGE=BOTH \
-            -Dcvutil32_DIR="$folder/$(library_folder $preset)/cmake/cvutil32" >/dev/null
-        cmake --build build/$preset/examples
+        build_examples $preset "$folder"
         cp build/$preset/examples/bin/*.exe "$folder/$(program_folder $preset)"/
     done
+    for preset in lib lib64; do
+        [ -f "$folder/$preset/CVUTIL32.lib" ] || die "no $preset/CVUTIL32.lib was made"
+    done
+    # Finds the package of the width that is asked for.
+    mkdir -p "$folder/cmake"
+    cp cmake/either_width.cmake "$folder/cmake/cvutil32Config.cmake"
     check_imports "$folder"/bin/*.dll "$folder"/bin/*.exe "$folder"/bin64/*.dll "$folder"/bin64/*.exe
     mkdir -p "$folder/examples"
     cp examples/* "$folder/examples"/
     cp LICENSE "$folder"/
     install_documents "$folder/doc"
+    sed "1s/.*/# CVUTIL32 $version for Windows/; s#](\([a-z]\)#](doc/\1#g" docs/windows.md >"$folder/README.md"
     (cd "$packages" && zip -qr "$name.zip" "$name")
     say "made build/package/$name.zip"
 }

@@ -70,7 +70,7 @@ class ClientDc {
 
 /// A picture's place in the middle of the window; it begins outside if the window is too small.
 RECT PictureRect(HWND control, HIMAGELIST images) {
-    RECT rect;
+    RECT rect = {};
     GetClientRect(control, &rect);
     int cx = 0;
     int cy = 0;
@@ -111,7 +111,7 @@ bool Stop(HWND control) {
     Set(control, kNext, 0);
     ClientDc const dc(control);
     if (dc) {
-        RECT client;
+        RECT client = {};
         GetClientRect(control, &client);
         frame::FillSystemColour(dc, client, COLOR_BTNFACE);
     }

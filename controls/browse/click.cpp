@@ -10,7 +10,6 @@ namespace browse {
 namespace {
 
 constexpr unsigned kResultSize = 5120;
-constexpr unsigned kAll = ~0U;
 
 /// Where the dialog begins, by what stands in the buddy.
 struct Start {
@@ -24,7 +23,7 @@ void FindStart(Data& data, Start& start) {
         start.fileName.GetFileName(text);
         start.folder.GetFilePath(text);
         if (!UTIL_DirExists(std::as_const(start.folder))) {
-            start.folder.Delete(0, kAll);
+            start.folder = "";
         }
     } else if (UTIL_DirExists(text)) {
         start.folder = text;
@@ -60,25 +59,60 @@ bool Ask(HWND parent, Data& data, CSTRING& result) {
     return accepted != FALSE;
 }
 
+/// Builds the new text in a string of its own: in the old one, bytes behind its end would show up behind what is appended.
 void Take(Data& data, CSTRING const& result) {
-    CSTRING& specs = data.Specs();
-    if (!(data.options & BROWSE_APPEND)) {
-        specs.Delete(0, kAll);
-    } else if (specs.GetStrLen() > 0) {
-        specs.Append(';');
+    CSTRING text;
+    if ((data.options & BROWSE_APPEND) && data.Specs().GetStrLen() > 0) {
+        text = data.Specs();
+        text.Append(';');
     }
-    specs.Append(result);
+    text.Append(result);
+    data.Specs() = text;
 }
 
-/// The buddy gets the text, and the parent hears of it as if the user had typed it.
+/// Copies a text with all its bytes: assigned, it would end at its first one of 0x80 or above.
+/// @return false if there is no memory for it.
+bool CopyWhole(CSTRING& to, CSTRING const& from) {
+    char const* const text = from;
+    to = "";
+    char* const buffer = to.BufferLock(static_cast<unsigned>(lstrlenA(text)) + 1);
+    if (!buffer) {
+        return false;
+    }
+    lstrcpyA(buffer, text);
+    to.BufferUnlock();
+    return true;
+}
+
+/// Reads the buddy's text into the specs; an empty one leaves them as they were. It is read aside first, since a buddy
+/// that is asked for its text may end the button.
+/// @return whether the button is still there.
+bool ReadBuddy(HWND button, Data& data) {
+    CSTRING text;
+    text.GetWindowTextA(data.buddy);
+    if (!IsStillThere(button, &data)) {
+        return false;
+    }
+    if (text.GetStrLen() > 0) {
+        CopyWhole(data.Specs(), text);
+    }
+    return true;
+}
+
+/// The buddy gets the text, and the parent hears of it as if the user had typed it. Either may end the button, and with it
+/// the specs.
 void Deliver(HWND parent, Data& data) {
     HWND const buddy = data.buddy;
-    SetWindowTextA(buddy, std::as_const(data.Specs()));
+    CSTRING text;
+    if (!CopyWhole(text, data.Specs())) {
+        return;
+    }
     CSTRING name;
     name.GetClassNameA(buddy);
     WORD const code = name.Compare("Edit") == 0 ? EN_CHANGE : CBN_EDITCHANGE;
-    SendMessageA(parent, WM_COMMAND, MAKEWPARAM(GetWindowLongPtrA(buddy, GWLP_ID), code),
-                 reinterpret_cast<LPARAM>(buddy));
+    WPARAM const command = MAKEWPARAM(GetWindowLongPtrA(buddy, GWLP_ID), code);
+    SetWindowTextA(buddy, std::as_const(text));
+    SendMessageA(parent, WM_COMMAND, command, reinterpret_cast<LPARAM>(buddy));
 }
 
 }  // namespace
@@ -88,7 +122,9 @@ void Browse(HWND parent, HWND button, WORD id) {
     if (!data || (data->options & BROWSE_NOACTION) || !data->buddy) {
         return;
     }
-    data->Specs().GetWindowTextA(data->buddy);
+    if (!ReadBuddy(button, *data)) {
+        return;
+    }
     Notify(parent, button, *data, id, BRN_BEFOREBROWSE);
     CSTRING result;
     if (!IsStillThere(button, data) || !Ask(parent, *data, result) || !IsStillThere(button, data)) {

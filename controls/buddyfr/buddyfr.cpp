@@ -49,7 +49,7 @@ Family FindFamily(HWND parent, HWND window) {
 }
 
 RECT PlaceInParent(HWND parent, HWND window) {
-    RECT rect;
+    RECT rect = {};
     GetWindowRect(window, &rect);
     POINT corners[] = {{rect.left, rect.top}, {rect.right, rect.bottom}};
     for (POINT& corner : corners) {
@@ -99,7 +99,7 @@ void DrawBorder(HDC dc, RECT const& r) {
 void Paint(HWND window) {
     PAINTSTRUCT paint;
     if (HDC const dc = BeginPaint(window, &paint)) {
-        RECT client;
+        RECT client = {};
         GetClientRect(window, &client);
         DrawBorder(dc, client);
     }

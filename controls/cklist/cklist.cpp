@@ -84,19 +84,19 @@ LRESULT CALLBACK ParentProcedure(HWND parent, UINT message, WPARAM wParam, LPARA
 
 BOOL WINAPI Register(HINSTANCE instance) {
     WNDCLASSA record = {};
-    if (BOOL const known = instance ? GetClassInfoA(instance, CKLIST_CLASSNAME, &record) : FALSE) {
-        return known;
-    }
+    bool const known = instance && GetClassInfoA(instance, CKLIST_CLASSNAME, &record);
     frame::Difference const difference = {.extraBytes = 0, .withoutStyle = CS_DBLCLKS};
-    if (!frame::RegisterSuperclass(instance, CKLIST_CLASSNAME, "listbox", WindowProcedure, g_base, difference)) {
-        return FALSE;
+    BOOL const registered =
+        frame::RegisterSuperclass(instance, CKLIST_CLASSNAME, "listbox", WindowProcedure, g_base, difference);
+    if (!registered || g_boxes) {
+        return registered;
     }
     g_boxes = LoadBitmapA(instance, MAKEINTRESOURCEA(CVRES_CHECKS));
-    if (!g_boxes) {
+    if (!g_boxes && !known) {
         UnregisterClassA(CKLIST_CLASSNAME, instance);
         return FALSE;
     }
-    return TRUE;
+    return registered;
 }
 
 BOOL WINAPI Unregister(HINSTANCE instance) {

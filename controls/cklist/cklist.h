@@ -5,7 +5,7 @@
 
 namespace cklist {
 
-/// Registers the class and loads the picture of its boxes; without the picture there is no class.
+/// Registers the class and loads the picture of its boxes; without the picture no class is registered.
 /// @return nonzero on success, also if the class is there already; 0 for a null instance.
 BOOL WINAPI Register(HINSTANCE instance);
 

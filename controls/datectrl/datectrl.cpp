@@ -78,7 +78,7 @@ class DateRules final : public fieldedit::Rules {
     }
 };
 
-constexpr DateRules kRules{};
+constexpr DateRules kDateRules{};
 
 }  // namespace
 
@@ -87,18 +87,18 @@ CVAPI(BOOL) DATECTRL_RegisterClass(HINSTANCE instance) {
 }
 
 CVAPI(BOOL) DATECTRL_SetDate(HWND control, const SYSTEMTIME* date, BOOL redraw) {
-    return fieldedit::SetValue(kRules, control, date, redraw);
+    return fieldedit::SetValue(kDateRules, control, date, redraw);
 }
 
 CVAPI(BOOL) DATECTRL_GetDate(HWND control, SYSTEMTIME* out) {
-    SYSTEMTIME const* const value = fieldedit::GetValue(kRules, control);
+    SYSTEMTIME const* const value = fieldedit::GetValue(kDateRules, control);
     if (!value || !out) {
         return FALSE;
     }
-    *out = kRules.Reduced(*value);
+    *out = kDateRules.Reduced(*value);
     return TRUE;
 }
 
 CVAPI(LRESULT) datectrl_EditDateWndProc(HWND control, UINT message, WPARAM wParam, LPARAM lParam) {
-    return fieldedit::WindowProcedure(kRules, control, message, wParam, lParam);
+    return fieldedit::WindowProcedure(kDateRules, control, message, wParam, lParam);
 }

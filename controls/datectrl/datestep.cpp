@@ -7,11 +7,11 @@ namespace {
 
 constexpr WORD kDecember = 12;
 
-bool IsField(WORD field) {
+bool IsDateField(WORD field) {
     return field == DATECTRL_DAY || field == DATECTRL_MONTH || field == DATECTRL_YEAR;
 }
 
-int Order(WORD a, WORD b) {
+int CompareDatePart(WORD a, WORD b) {
     return a < b ? -1 : a > b ? 1 : 0;
 }
 
@@ -25,19 +25,19 @@ CVAPI(int) DATECTRL_CompareDate(const SYSTEMTIME* a, const SYSTEMTIME* b) {
     if (!DATECTRL_IsValidDate(a) || !DATECTRL_IsValidDate(b)) {
         return 0;
     }
-    if (int const year = Order(a->wYear, b->wYear)) {
+    if (int const year = CompareDatePart(a->wYear, b->wYear)) {
         return year;
     }
-    if (int const month = Order(a->wMonth, b->wMonth)) {
+    if (int const month = CompareDatePart(a->wMonth, b->wMonth)) {
         return month;
     }
-    return Order(a->wDay, b->wDay);
+    return CompareDatePart(a->wDay, b->wDay);
 }
 
 // Deliberately without a repair of the day: a month up from 31 January is 31 February. Callers tell from the invalid
 // record that the step left the calendar.
 CVAPI(BOOL) DATECTRL_IncrementDate(SYSTEMTIME* date, WORD field) {
-    if (!DATECTRL_IsValidDate(date) || !IsField(field)) {
+    if (!DATECTRL_IsValidDate(date) || !IsDateField(field)) {
         return FALSE;
     }
     bool monthStep = field == DATECTRL_MONTH;
@@ -57,7 +57,7 @@ CVAPI(BOOL) DATECTRL_IncrementDate(SYSTEMTIME* date, WORD field) {
 }
 
 CVAPI(BOOL) DATECTRL_DecrementDate(SYSTEMTIME* date, WORD field) {
-    if (!DATECTRL_IsValidDate(date) || !IsField(field)) {
+    if (!DATECTRL_IsValidDate(date) || !IsDateField(field)) {
         return FALSE;
     }
     bool yearStep = field == DATECTRL_YEAR;

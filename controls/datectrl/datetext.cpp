@@ -5,12 +5,12 @@
 namespace {
 
 // The separators are written into the template in place.
-char g_template[] = "%02d/%02d/%02d";
+char g_dateTemplate[] = "%02d/%02d/%02d";
 constexpr int kFirstSeparator = 4;
 constexpr int kSecondSeparator = 9;
 
 WORD g_order = DATECTRL_ORDER_NONE;
-LPSTR g_loadedTemplate = nullptr;
+LPSTR g_loadedDateTemplate = nullptr;
 
 WORD OrderOf(UINT iDate) {
     switch (iDate) {
@@ -25,13 +25,13 @@ WORD OrderOf(UINT iDate) {
     }
 }
 
-void LoadSettings() {
+void LoadDateSettings() {
     g_order = OrderOf(GetProfileIntA("Intl", "iDate", DATECTRL_ORDER_NONE));
     char separator[2] = {};
     GetProfileStringA("Intl", "sDate", "/", separator, sizeof separator);
-    g_loadedTemplate = g_template;
-    g_template[kSecondSeparator] = separator[0];
-    g_template[kFirstSeparator] = separator[0];
+    g_loadedDateTemplate = g_dateTemplate;
+    g_dateTemplate[kSecondSeparator] = separator[0];
+    g_dateTemplate[kFirstSeparator] = separator[0];
 }
 
 WORD* FieldOf(SYSTEMTIME& date, WORD field) {
@@ -59,11 +59,11 @@ LPCSTR datectrl_GetIntlFormat(WORD* order, BOOL reload) {
     if (!order) {
         return nullptr;
     }
-    if (reload || !g_loadedTemplate || g_order == DATECTRL_ORDER_NONE) {
-        LoadSettings();
+    if (reload || !g_loadedDateTemplate || g_order == DATECTRL_ORDER_NONE) {
+        LoadDateSettings();
     }
     *order = g_order;
-    return g_loadedTemplate;
+    return g_loadedDateTemplate;
 }
 
 WORD datectrl_CachedOrder() {

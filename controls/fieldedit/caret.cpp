@@ -84,7 +84,7 @@ void PlaceCaret(Rules const& rules, HWND field) {
     // The text may have become shorter with the settings.
     data->caretPos = std::min(data->caretPos, rules.TextLength() - 1);
     ShowCaretAt(field, *data);
-    RECT client;
+    RECT client = {};
     POINT position = {};
     GetClientRect(field, &client);
     GetCaretPos(&position);

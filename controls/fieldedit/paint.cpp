@@ -11,7 +11,7 @@ void Repaint(HWND field) {
 }
 
 LRESULT FillBackground(HWND field, HDC dc) {
-    RECT client;
+    RECT client = {};
     GetClientRect(field, &client);
     auto brush = reinterpret_cast<HBRUSH>(
         SendMessageA(GetParent(field), WM_CTLCOLOREDIT, reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(field)));
@@ -30,14 +30,17 @@ LRESULT FillBackground(HWND field, HDC dc) {
 namespace {
 
 void DrawValue(Rules const& rules, HWND field, HDC dc, Data const& data) {
-    RECT area;
+    RECT area = {};
     GetClientRect(field, &area);
     area.left = 1;
     area.top = 1;
     HGDIOBJ const former = data.font ? SelectObject(dc, data.font) : nullptr;
     FillBackground(field, dc);
-    DrawTextA(dc, data.text, lstrlenA(data.text), &area, DT_TOP | DT_LEFT);
-    PlaceCaret(rules, field);
+    // Asked for its colours, the parent may have ended the field.
+    if (DataOf(field) == &data) {
+        DrawTextA(dc, data.text, lstrlenA(data.text), &area, DT_TOP | DT_LEFT);
+        PlaceCaret(rules, field);
+    }
     if (former) {
         SelectObject(dc, former);
     }

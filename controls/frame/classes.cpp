@@ -27,7 +27,8 @@ BOOL RegisterSuperclass(HINSTANCE instance, LPCSTR name, LPCSTR baseName, WNDPRO
         return FALSE;
     }
     WNDCLASSA record = {};
-    if (BOOL const known = GetClassInfoA(instance, name, &record)) {
+    BOOL const known = GetClassInfoA(instance, name, &record);
+    if (known && base.procedure) {
         return known;
     }
     record = {};
@@ -35,6 +36,11 @@ BOOL RegisterSuperclass(HINSTANCE instance, LPCSTR name, LPCSTR baseName, WNDPRO
         return FALSE;
     }
     BaseClass const found = {record.lpfnWndProc, record.cbWndExtra};
+    if (known) {
+        // The class outlived another load of this module, which took its knowledge along.
+        base = found;
+        return known;
+    }
     record.style = (record.style & ~difference.withoutStyle) | CS_GLOBALCLASS;
     record.lpfnWndProc = procedure;
     record.cbWndExtra = found.extraBytes + difference.extraBytes;

@@ -38,8 +38,8 @@ struct Difference {
 };
 
 /// Registers @p name as the class @p baseName with another window procedure.
-/// @return nonzero on success (1 if it was registered now, what GetClassInfoA said if the class is there already);
-/// @p base is filled in only when it was registered now.
+/// @return nonzero on success (1 if it was registered now, what GetClassInfoA said if the class is there already).
+/// @p base is known then, whoever registered the class; one that was known before stays.
 BOOL RegisterSuperclass(HINSTANCE instance, LPCSTR name, LPCSTR baseName, WNDPROC procedure, BaseClass& base,
                         Difference const& difference = {});
 

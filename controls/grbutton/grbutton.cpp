@@ -89,7 +89,7 @@ void Draw(DRAWITEMSTRUCT const& item, Data const& data) {
     BOOL const pressed = (item.itemState & ODS_SELECTED) != 0;
     // The ring belongs to a change of the pressed state, not to the state: users take it for the click's answer.
     BOOL const outline = (item.itemAction & ODA_SELECT) != 0;
-    RECT face;
+    RECT face = {};
     GRBUTTON_DrawButtonFrame(item.hDC, &item.rcItem, &face, pressed, outline, nullptr, nullptr, nullptr, nullptr);
     GRBUTTON_DrawButtonFace(item.hDC, &face, pressed, (item.itemState & ODS_FOCUS) != 0,
                             (item.itemState & ODS_DISABLED) != 0, data.image, data.mask, nullptr, FALSE);

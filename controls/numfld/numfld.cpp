@@ -64,7 +64,8 @@ bool IsTaken(WPARAM wParam) {
     return character == VK_BACK || (IsCharAlphaNumericA(character) && !IsCharAlphaA(character));
 }
 
-void StepValue(HWND field, Limits const& limits, WORD code) {
+// The limits are a copy: whoever answers a message to the field may have ended it.
+void StepValue(HWND field, Limits limits, WORD code) {
     if (GetWindowTextLengthA(field) >= kTextSize) {
         return;
     }
@@ -109,12 +110,13 @@ CVAPI(BOOL) NUMFLD_RegisterClass(HINSTANCE instance) {
 }
 
 CVAPI(void) NUMFLD_SetLimits(HWND field, DWORD minimum, DWORD maximum) {
-    numfld::Limits* const limits = numfld::Slot().Get(field);
-    if (!limits) {
+    if (!numfld::Slot().Get(field)) {
         return;
     }
     SendMessageA(field, EM_LIMITTEXT, numfld::DigitsOf(maximum), 0);
-    *limits = {minimum, maximum};
+    if (numfld::Limits* const limits = numfld::Slot().Get(field)) {
+        *limits = {minimum, maximum};
+    }
 }
 
 CVAPI(int) NUMFLD_GetValue(HWND field) {

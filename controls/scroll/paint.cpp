@@ -77,12 +77,14 @@ void TakeColours(HWND bar) {
 void Paint(HWND bar) {
     PAINTSTRUCT paint;
     HDC const dc = BeginPaint(bar, &paint);
-    Data const* const data = DataOf(bar);
+    Data const* data = DataOf(bar);
+    // The system tells top-level windows only when its colours change.
+    if (dc && data && (GetWindowLongPtrA(bar, GWL_STYLE) & WS_CHILD) && ColoursChanged(*data)) {
+        SendMessageA(bar, WM_SYSCOLORCHANGE, 0, 0);
+        // Somebody who stands in front of the bar's procedure may have ended it.
+        data = DataOf(bar);
+    }
     if (dc && data) {
-        // The system tells top-level windows only when its colours change.
-        if ((GetWindowLongPtrA(bar, GWL_STYLE) & WS_CHILD) && ColoursChanged(*data)) {
-            SendMessageA(bar, WM_SYSCOLORCHANGE, 0, 0);
-        }
         DrawArrow(dc, bar, *data, Arrow::kFirst);
         DrawArrow(dc, bar, *data, Arrow::kSecond);
     }

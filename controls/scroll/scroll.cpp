@@ -28,7 +28,7 @@ constexpr frame::DataSlot<Data> kSlot(0);
 
 /// Takes the bar's width away from the associate and lays the bar there; a border of the associate stays under the bar.
 void Attach(HWND bar, HWND associate, bool vertical) {
-    RECT place;
+    RECT place = {};
     GetWindowRect(associate, &place);
     int const height = place.bottom - place.top;
     int const width = place.right - place.left;
@@ -41,23 +41,23 @@ void Attach(HWND bar, HWND associate, bool vertical) {
 }
 
 LRESULT Create(HWND bar) {
-    auto data = globalblock::Make<Data>();
+    Data* const data = kSlot.Put(bar, globalblock::Make<Data>());
     if (!data) {
         return -1;
     }
     LONG_PTR const style = GetWindowLongPtrA(bar, GWL_STYLE);
     HWND const associate = style & SCROLL_PREVSIBLING ? GetWindow(bar, GW_HWNDPREV) : GetParent(bar);
     data->associate = associate;
+    CreatePens(*data);
     if (associate && IsWindow(associate)) {
         if (style & SCROLL_ARROWKEYS) {
             HookArrowKeys(associate);
         }
+        // Last of all: a window that is moved may end the bar.
         if (style & SCROLL_ATTACH) {
             Attach(bar, associate, (style & SCROLL_VERTICAL) != 0);
         }
     }
-    CreatePens(*data);
-    kSlot.Put(bar, std::move(data));
     return 0;
 }
 
@@ -104,7 +104,7 @@ bool IsVertical(HWND bar) {
 }
 
 RECT ArrowRect(HWND bar, Arrow arrow) {
-    RECT client;
+    RECT client = {};
     GetClientRect(bar, &client);
     return ArrowRect(IsVertical(bar), arrow, client);
 }

@@ -91,7 +91,7 @@ class TimeRules final : public fieldedit::Rules {
     }
 };
 
-constexpr TimeRules kRules{};
+constexpr TimeRules kTimeRules{};
 
 }  // namespace
 
@@ -100,11 +100,11 @@ CVAPI(BOOL) TIMECTRL_RegisterClass(HINSTANCE instance) {
 }
 
 CVAPI(BOOL) TIMECTRL_SetTime(HWND control, const SYSTEMTIME* time, BOOL redraw) {
-    return fieldedit::SetValue(kRules, control, time, redraw);
+    return fieldedit::SetValue(kTimeRules, control, time, redraw);
 }
 
 CVAPI(BOOL) TIMECTRL_GetTime(HWND control, SYSTEMTIME* out) {
-    SYSTEMTIME const* const value = fieldedit::GetValue(kRules, control);
+    SYSTEMTIME const* const value = fieldedit::GetValue(kTimeRules, control);
     if (!value || !out) {
         return FALSE;
     }
@@ -116,5 +116,5 @@ CVAPI(BOOL) TIMECTRL_GetTime(HWND control, SYSTEMTIME* out) {
 }
 
 CVAPI(LRESULT) timectrl_EditTimeWndProc(HWND control, UINT message, WPARAM wParam, LPARAM lParam) {
-    return fieldedit::WindowProcedure(kRules, control, message, wParam, lParam);
+    return fieldedit::WindowProcedure(kTimeRules, control, message, wParam, lParam);
 }

@@ -9,11 +9,11 @@ constexpr WORD kHours = 24;
 constexpr WORD kMinutes = 60;
 constexpr WORD kNoon = 12;
 
-bool IsField(WORD field) {
+bool IsTimeField(WORD field) {
     return field >= TIMECTRL_MINUTE && field <= TIMECTRL_AMPM;
 }
 
-int Order(WORD a, WORD b) {
+int CompareTimePart(WORD a, WORD b) {
     return a < b ? -1 : a > b ? 1 : 0;
 }
 
@@ -31,7 +31,7 @@ bool StepDown(WORD& value, WORD count) {
 
 /// Seconds carry into minutes and minutes into hours; hours carry nowhere.
 BOOL Step(SYSTEMTIME* time, WORD field, bool (*step)(WORD& value, WORD count)) {
-    if (!TIMECTRL_IsValidTime(time) || !IsField(field)) {
+    if (!TIMECTRL_IsValidTime(time) || !IsTimeField(field)) {
         return FALSE;
     }
     bool const minuteStep = field == TIMECTRL_MINUTE || (field == TIMECTRL_SECOND && step(time->wSecond, kMinutes));
@@ -56,13 +56,13 @@ CVAPI(int) TIMECTRL_CompareTime(const SYSTEMTIME* a, const SYSTEMTIME* b) {
     if (!TIMECTRL_IsValidTime(a) || !TIMECTRL_IsValidTime(b)) {
         return 0;
     }
-    if (int const second = Order(a->wSecond, b->wSecond)) {
+    if (int const second = CompareTimePart(a->wSecond, b->wSecond)) {
         return second;
     }
-    if (int const minute = Order(a->wMinute, b->wMinute)) {
+    if (int const minute = CompareTimePart(a->wMinute, b->wMinute)) {
         return minute;
     }
-    return Order(a->wHour, b->wHour);
+    return CompareTimePart(a->wHour, b->wHour);
 }
 
 CVAPI(BOOL) TIMECTRL_IncrementTime(SYSTEMTIME* time, WORD field) {

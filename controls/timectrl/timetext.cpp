@@ -14,8 +14,8 @@ struct Settings {
 };
 
 Settings g_settings;
-char g_template[44];
-LPSTR g_loadedTemplate = nullptr;
+char g_timeTemplate[44];
+LPSTR g_loadedTimeTemplate = nullptr;
 
 // Until the settings could be read.
 constexpr char kFallbackTemplate[] = "%2d%s%02d%s%02d";
@@ -38,10 +38,10 @@ bool IsTens(Layout const& layout, UINT position) {
     return position == 0 || position == layout.minute || position == layout.second;
 }
 
-void LoadSettings() {
-    g_loadedTemplate = g_template;
+void LoadTimeSettings() {
+    g_loadedTimeTemplate = g_timeTemplate;
     if (g_settings.mode == TIMECTRL_MODE_NONE) {
-        lstrcpyA(g_template, kFallbackTemplate);
+        lstrcpyA(g_timeTemplate, kFallbackTemplate);
     }
     char separator[4] = {};
     char clock[2];
@@ -57,8 +57,8 @@ void LoadSettings() {
     *CharNextA(separator) = '\0';
     lstrcpyA(g_settings.separator, separator);
     g_settings.separatorSize = static_cast<UINT>(lstrlenA(separator));
-    lstrcpyA(g_template, g_settings.leadingZero ? "%02d" : "%2d");
-    lstrcatA(g_template, g_settings.is24Hour ? "%s%02d%s%02d" : "%s%02d%s%02d %s");
+    lstrcpyA(g_timeTemplate, g_settings.leadingZero ? "%02d" : "%2d");
+    lstrcatA(g_timeTemplate, g_settings.is24Hour ? "%s%02d%s%02d" : "%s%02d%s%02d %s");
     g_settings.mode = g_settings.is24Hour ? TIMECTRL_MODE_24H : TIMECTRL_MODE_12H;
 }
 
@@ -82,11 +82,11 @@ LPCSTR timectrl_GetIntlFormat(WORD* mode, BOOL reload) {
     if (!mode) {
         return nullptr;
     }
-    if (reload || !g_loadedTemplate || g_settings.mode == TIMECTRL_MODE_NONE) {
-        LoadSettings();
+    if (reload || !g_loadedTimeTemplate || g_settings.mode == TIMECTRL_MODE_NONE) {
+        LoadTimeSettings();
     }
     *mode = g_settings.mode;
-    return g_loadedTemplate;
+    return g_loadedTimeTemplate;
 }
 
 WORD timectrl_CachedMode() {

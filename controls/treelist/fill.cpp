@@ -37,14 +37,14 @@ int IconOf(LPCITEMIDLIST fullId, UINT flags) {
     return information.iIcon;
 }
 
-/// @return false if the filling has to end here.
+/// @return false if the filling has to end here: without memory or a name, and when somebody answered by ending the tree.
 bool Insert(Branch& branch, IMalloc* allocator, LPCITEMIDLIST id, ULONG attributes) {
     auto const item = static_cast<Item*>(allocator->Alloc(sizeof(Item)));
     if (!item) {
         return false;
     }
     char name[256];
-    if (!NameOf(branch.folder, id, SHGDN_NORMAL, name, sizeof name)) {
+    if (NameOf(branch.folder, id, SHGDN_NORMAL, name, sizeof name) == Name::kNone) {
         allocator->Free(item);
         return false;
     }
@@ -72,12 +72,12 @@ bool Insert(Branch& branch, IMalloc* allocator, LPCITEMIDLIST id, ULONG attribut
     if (inserted) {
         branch.last = inserted;
     } else {
-        Discard(item);
+        Discard(item);  // no item has it, also where the tree has gone before it was asked
     }
     if (fullId) {
         allocator->Free(fullId);
     }
-    return true;
+    return IsWindow(branch.treeView);
 }
 
 /// @return false if it was broken off.
@@ -112,6 +112,18 @@ void FillChildren(HWND treeView, IShellFolder* folder, LPCITEMIDLIST parentId, H
         SetCursor(LoadCursorA(nullptr, IDC_ARROW));
     }
     allocator->Release();
+}
+
+/// The same with a copy of the parent's list, which goes with the tree if somebody ends that meanwhile.
+void FillBelow(HWND treeView, IShellFolder* folder, LPCITEMIDLIST parentId, HTREEITEM parent) {
+    Allocator const allocator;
+    LPITEMIDLIST const kept = allocator && parentId ? JoinLists(nullptr, parentId) : nullptr;
+    if (kept || !parentId) {
+        FillChildren(treeView, folder, kept, parent);
+    }
+    if (kept) {
+        allocator->Free(kept);
+    }
 }
 
 void SetFlag(HWND control, LONG_PTR flag, bool set) {
@@ -157,7 +169,7 @@ void FillFirstTime(HWND control, TVITEMA const& opened) {
         }
         // The reference that comes with the binding stays with the children, each of which adds its own: it is not
         // released, also when there are none.
-        FillChildren(treeView, static_cast<IShellFolder*>(bound), item->fullId, opened.hItem);
+        FillBelow(treeView, static_cast<IShellFolder*>(bound), item->fullId, opened.hItem);
     }
     if (!(GetWindowLongPtrA(control, kFlags) & kFirstFill)) {
         SendMessageA(treeView, TVM_SORTCHILDREN, 0, reinterpret_cast<LPARAM>(opened.hItem));

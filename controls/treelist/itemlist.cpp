@@ -62,26 +62,26 @@ void FreeList(LPITEMIDLIST list) {
     }
 }
 
-bool NameOf(IShellFolder* folder, LPCITEMIDLIST item, DWORD form, char* buffer, int size) {
+Name NameOf(IShellFolder* folder, LPCITEMIDLIST item, DWORD form, char* buffer, int size) {
     STRRET name = {};
     if (folder->GetDisplayNameOf(item, form, &name) != S_OK) {
-        return false;
+        return Name::kNone;
     }
     switch (name.uType) {
         case STRRET_WSTR:
             // Four bytes, whatever the buffer holds: a longer name does not fit. The wide text is not freed. Both are as
             // callers have always seen them. What is left of a name that did not fit ends in any case.
             ZeroMemory(buffer, 5);
-            WideCharToMultiByte(CP_ACP, 0, name.pOleStr, -1, buffer, 4, nullptr, nullptr);
-            return true;
+            return WideCharToMultiByte(CP_ACP, 0, name.pOleStr, -1, buffer, 4, nullptr, nullptr) ? Name::kWhole
+                                                                                                 : Name::kCut;
         case STRRET_OFFSET:
             lstrcpynA(buffer, reinterpret_cast<char const*>(item) + name.uOffset, size);
-            return true;
+            return Name::kWhole;
         case STRRET_CSTR:
             lstrcpynA(buffer, name.cStr, size);
-            return true;
+            return Name::kWhole;
         default:
-            return false;
+            return Name::kNone;
     }
 }
 
@@ -89,7 +89,9 @@ LPITEMIDLIST AbsoluteList(IShellFolder* folder, LPCITEMIDLIST item) {
     char name[MAX_PATH];
     WCHAR wide[MAX_PATH];
     IShellFolder* desktop = nullptr;
-    if (!NameOf(folder, item, SHGDN_FORPARSING, name, sizeof name) || FAILED(SHGetDesktopFolder(&desktop))) {
+    // The rest of a path that was cut could be the path of another folder.
+    if (NameOf(folder, item, SHGDN_FORPARSING, name, sizeof name) != Name::kWhole ||
+        FAILED(SHGetDesktopFolder(&desktop))) {
         return nullptr;
     }
     MultiByteToWideChar(CP_ACP, MB_PRECOMPOSED, name, -1, wide, static_cast<int>(std::size(wide)));

@@ -47,11 +47,13 @@ LPITEMIDLIST CopyItem(LPCITEMIDLIST list);
 /// Releases a list; null is nothing to release.
 void FreeList(LPITEMIDLIST list);
 
+/// What came of asking for a name.
+enum class Name { kNone, kCut, kWhole };
+
 /// Asks a folder for the name of one of its items.
-/// @param form    SHGDN_NORMAL for people, SHGDN_FORPARSING for ItemFromName().
+/// @param form    SHGDN_NORMAL for people, SHGDN_FORPARSING for AbsoluteList().
 /// @param size    of the buffer in bytes; longer names are cut.
-/// @return false when the name cannot be had.
-bool NameOf(IShellFolder* folder, LPCITEMIDLIST item, DWORD form, char* buffer, int size);
+Name NameOf(IShellFolder* folder, LPCITEMIDLIST item, DWORD form, char* buffer, int size);
 
 /// @return the absolute list of an item, which its parsing name leads to; null if that fails.
 LPITEMIDLIST AbsoluteList(IShellFolder* folder, LPCITEMIDLIST item);

@@ -24,7 +24,7 @@ HWND TreeViewOf(HWND control) {
 }
 
 HWND CreateTreeView(HWND control, HINSTANCE instance) {
-    RECT client;
+    RECT client = {};
     GetClientRect(control, &client);
     return CreateWindowExA(WS_EX_CLIENTEDGE, WC_TREEVIEWA, "",
                            WS_CHILD | WS_VISIBLE | WS_BORDER | WS_TABSTOP | TVS_HASBUTTONS | TVS_HASLINES |

@@ -110,12 +110,23 @@ void AppendLines(HWND field) {
     SetWindowTextA(field, (TextOf(field) + RegistrationLines() + MachineLines()).c_str());
 }
 
-SIZE MeasureText(HWND dialog, HWND field, RECT rect) {
+void AddStyle(HWND window, LONG style) {
+    SetWindowLongA(window, GWL_STYLE, GetWindowLongA(window, GWL_STYLE) | style);
+}
+
+// Texts, not labels: "&" is an ordinary character in them, as it is where they are measured and in the caption.
+void ShowAsTexts(HWND dialog) {
+    for (int const id : {CVAB_PRODUCT, CVAB_VERSION, CVAB_NOTICE}) {
+        AddStyle(GetDlgItem(dialog, id), SS_NOPREFIX);
+    }
+}
+
+SIZE MeasureText(HWND dialog, HWND field, RECT rect, UINT format) {
     std::string const text = TextOf(field);
     HDC const context = GetDC(dialog);
     auto const font = reinterpret_cast<HFONT>(SendMessageA(field, WM_GETFONT, 0, 0));
     HGDIOBJ const former = font ? SelectObject(context, font) : nullptr;
-    DrawTextA(context, text.c_str(), -1, &rect, DT_WORDBREAK | DT_NOCLIP | DT_CALCRECT | DT_NOPREFIX);
+    DrawTextA(context, text.c_str(), -1, &rect, DT_WORDBREAK | DT_NOCLIP | DT_CALCRECT | DT_NOPREFIX | format);
     if (former) {
         SelectObject(context, former);
     }
@@ -136,7 +147,12 @@ void FitNotice(HWND dialog) {
     GetClientRect(field, &rect);
     int const former = rect.bottom;
     MapWindowPoints(field, dialog, reinterpret_cast<POINT*>(&rect), 2);
-    SIZE const needed = MeasureText(dialog, field, rect);
+    SIZE needed = MeasureText(dialog, field, rect, 0);
+    if (needed.cx > rect.right - rect.left) {
+        // A word wider than the field, such as a path, goes on in the next line.
+        AddStyle(field, SS_EDITCONTROL);
+        needed = MeasureText(dialog, field, rect, DT_EDITCONTROL);
+    }
     SetWindowPos(field, nullptr, rect.left, rect.top, needed.cx, needed.cy, SWP_NOZORDER);
     // The former height stays as the margin below the text.
     GrowBy(dialog, needed.cy + former);
@@ -145,6 +161,7 @@ void FitNotice(HWND dialog) {
 
 void OnInitDialog(HWND dialog, AboutBox const& box) {
     SetIcon(dialog, box);
+    ShowAsTexts(dialog);
     SetText(GetDlgItem(dialog, CVAB_VERSION), box.instance, box.version);
     SetText(GetDlgItem(dialog, CVAB_PRODUCT), box.instance, box.product);
     SetText(GetDlgItem(dialog, CVAB_NOTICE), box.instance, box.notice);

@@ -181,17 +181,22 @@ void OnInitDialog(HWND dialog, KVMB_MESSAGEBOX& box) {
     }
 }
 
-void OnCommand(HWND dialog, WPARAM command) {
-    auto const box = reinterpret_cast<KVMB_MESSAGEBOX*>(GetWindowLongPtrA(dialog, DWLP_USER));
-    if (!box) {
-        return;
-    }
-    if (box->flags & KVMB_TASKMODAL) {
+/// Takes the record from the dialog, and gives the windows back that it had disabled. Whatever ends the box comes here; the
+/// record is taken first, since the windows are told and may send what ends the box once more.
+/// @return false if that was done before.
+bool Release(HWND dialog) {
+    auto const box = reinterpret_cast<KVMB_MESSAGEBOX*>(SetWindowLongPtrA(dialog, DWLP_USER, 0));
+    if (box) {
         msgbox::EnableOthers(*box);
     }
-    // The first command decides. The list is gone with it: another command must not find it.
-    SetWindowLongPtrA(dialog, DWLP_USER, 0);
-    EndDialog(dialog, static_cast<INT_PTR>(command));
+    return box != nullptr;
+}
+
+// The first command decides.
+void OnCommand(HWND dialog, WPARAM command) {
+    if (Release(dialog)) {
+        EndDialog(dialog, static_cast<INT_PTR>(command));
+    }
 }
 
 INT_PTR CALLBACK MessageBoxDlgProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -202,6 +207,9 @@ INT_PTR CALLBACK MessageBoxDlgProc(HWND dialog, UINT message, WPARAM wParam, LPA
         case WM_COMMAND:
             OnCommand(dialog, wParam);
             return TRUE;
+        case WM_DESTROY:
+            Release(dialog);
+            return FALSE;
         case WM_WINDOWPOSCHANGING:
             return TRUE;  // keeps the default treatment away from the sizes set here
         default:
@@ -227,11 +235,12 @@ int TemplateOf(KVMB_MESSAGEBOX const& box) {
 }  // namespace
 
 CVAPI(int) KVMB_MessageBoxExtended(KVMB_MESSAGEBOX* box) {
-    HWND const owner = ResolveOwner(box->owner);
+    HWND const wanted = box->owner;  // the record need not outlive the box
+    HWND const owner = ResolveOwner(wanted);
     HWND const focus = GetFocus();
     INT_PTR const result = DialogBoxParamA(UTIL_GetModuleInstance(), MAKEINTRESOURCEA(TemplateOf(*box)), owner,
                                            MessageBoxDlgProc, reinterpret_cast<LPARAM>(box));
-    if (owner != box->owner && IsWindow(focus) && GetFocus() != focus) {
+    if (owner != wanted && IsWindow(focus) && GetFocus() != focus) {
         SetFocus(focus);
     }
     return result == kFailed ? 0 : static_cast<int>(result);

@@ -26,31 +26,47 @@ DWORD ThreadOf(HWND owner) {
     return thread ? thread : GetCurrentThreadId();
 }
 
-BOOL CALLBACK DisableThreadWindowsProc(HWND window, LPARAM parameter) {
-    auto const list = reinterpret_cast<LPVOID*>(parameter);
-    if (!list) {
-        return FALSE;
-    }
-    if (*list && window && IsWindow(window) && IsWindowEnabled(window) && window != Windows(*list)[0]) {
-        // A window that cannot be noted could not be enabled again.
-        if (LIST_Append(list, &window) != kNotAppended) {
-            EnableWindow(window, FALSE);
-        }
-    }
+BOOL CALLBACK NoteThreadWindowsProc(HWND window, LPARAM parameter) {
+    LIST_Append(reinterpret_cast<LPVOID*>(parameter), &window);
     return TRUE;
+}
+
+/// Whether the dialog is still there and has not given its windows back.
+bool HoldsRecord(HWND dialog, KVMB_MESSAGEBOX const& box) {
+    return GetWindowLongPtrA(dialog, DWLP_USER) == reinterpret_cast<LONG_PTR>(&box);
+}
+
+/// A window that cannot be listed could not be enabled again.
+void Disable(HWND window, HWND dialog, KVMB_MESSAGEBOX& box) {
+    if (!IsWindowEnabled(window) || LIST_Append(&box.disabledWindows, &window) == kNotAppended) {
+        return;
+    }
+    EnableWindow(window, FALSE);
+    // Ended before the window was disabled but after it was listed, the dialog had nothing to give back.
+    if (!HoldsRecord(dialog, box)) {
+        EnableWindow(window, TRUE);
+    }
 }
 
 }  // namespace
 
+// The windows are noted first: each of them is told when it is disabled, and may end the dialog and with it the record's
+// list.
 void DisableOthers(HWND dialog, KVMB_MESSAGEBOX& box) {
-    box.disabledWindows = MakeList();
-    if (!box.disabledWindows) {
+    LPVOID noted = MakeList();
+    if (!noted) {
         return;
     }
-    // Item 0 is the window to leave alone while the others are gone through.
-    LIST_Append(&box.disabledWindows, &dialog);
-    EnumThreadWindows(ThreadOf(box.owner), DisableThreadWindowsProc, reinterpret_cast<LPARAM>(&box.disabledWindows));
-    LIST_Delete(box.disabledWindows, 0);
+    EnumThreadWindows(ThreadOf(box.owner), NoteThreadWindowsProc, reinterpret_cast<LPARAM>(&noted));
+    if (HoldsRecord(dialog, box)) {
+        box.disabledWindows = MakeList();
+    }
+    for (DWORD i = 0; i < LIST_GetCount(noted) && HoldsRecord(dialog, box) && box.disabledWindows; ++i) {
+        if (HWND const window = Windows(noted)[i]; window != dialog) {
+            Disable(window, dialog, box);
+        }
+    }
+    LIST_Free(noted);
 }
 
 void EnableOthers(KVMB_MESSAGEBOX const& box) {

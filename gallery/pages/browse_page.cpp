@@ -1,6 +1,7 @@
 #include "gallery/pages/browse_page.h"
 
 #include "gallery/pages/browse_ids.h"
+#include "gallery/pages/wide_names.h"
 #include "gallery/text.h"
 
 namespace gallery {
@@ -43,6 +44,9 @@ void OnInitDialog(HWND page) {
     g_notified = {};
     ShowNotified(page);
     ShowPath(page);
+    if (ShellNamesAreWide()) {
+        SetDlgItemTextA(page, IDC_BROWSE_TREE_GROUP, LoadText(InstanceOf(page), IDS_BROWSE_WIDE).c_str());
+    }
 }
 
 /// What was browsed for is kept in the combo box's list, the newest first.

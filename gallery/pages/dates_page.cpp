@@ -10,8 +10,6 @@ namespace gallery {
 namespace {
 
 constexpr char kDate[] = "Date";
-constexpr UINT_PTR kFollowTimer = 1;
-constexpr UINT kFollowMilliseconds = 100;
 
 struct DatesState {
     explicit DatesState(HWND dialog)
@@ -39,10 +37,9 @@ void OnInitDialog(HWND dialog) {
         page->date.SetToday();
     }
     ShowChosenDate(*page);
-    SetTimer(dialog, kFollowTimer, kFollowMilliseconds, nullptr);
 }
 
-void OnTimer(DatesState& page) {
+void Follow(DatesState& page) {
     if (page.date.Follow()) {
         ShowChosenDate(page);
     }
@@ -57,7 +54,6 @@ void TakeSettings(DatesState& page, LPARAM section) {
 }
 
 void OnDestroy(HWND dialog) {
-    KillTimer(dialog, kFollowTimer);
     StopSteppingSideways(GetDlgItem(dialog, IDC_DATE_HORIZONTAL));
     delete PageOf(dialog);
     SetWindowLongPtrA(dialog, DWLP_USER, 0);
@@ -73,8 +69,8 @@ INT_PTR CALLBACK DatesPageProcedure(HWND dialog, UINT message, WPARAM wParam, LP
         return FALSE;
     }
     switch (message) {
-        case WM_TIMER:
-            OnTimer(*page);
+        case kFollowFields:
+            Follow(*page);
             return TRUE;
         case WM_COMMAND:
             if (LOWORD(wParam) == IDC_TODAY) {

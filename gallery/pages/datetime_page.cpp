@@ -10,8 +10,6 @@
 namespace gallery {
 namespace {
 
-constexpr UINT_PTR kFollowTimer = 1;
-constexpr UINT kFollowMilliseconds = 100;
 constexpr DWORD kLongestVisit = 480;
 constexpr int kUsualVisit = 30;
 constexpr int kTimeFields[] = {IDC_TIME_VERTICAL, IDC_TIME_HORIZONTAL, IDC_VISIT_TIME};
@@ -34,7 +32,7 @@ std::string Appointment(HWND page) {
     return text;
 }
 
-/// Fields send no notifications, so their values are read from time to time.
+/// Fields send no notifications, so their values are read after each message.
 void Follow(HWND page) {
     const std::string text = Appointment(page);
     char shown[64] = "";
@@ -90,11 +88,9 @@ void OnInitDialog(HWND page) {
     NUMFLD_SetValue(GetDlgItem(page, IDC_VISIT_MINUTES), kUsualVisit);
     ShowClock(page);
     ShowNow(page);
-    SetTimer(page, kFollowTimer, kFollowMilliseconds, nullptr);
 }
 
 void OnDestroy(HWND page) {
-    KillTimer(page, kFollowTimer);
     StopSteppingSideways(GetDlgItem(page, IDC_TIME_HORIZONTAL));
 }
 
@@ -121,7 +117,7 @@ INT_PTR CALLBACK DateTimePageProcedure(HWND page, UINT message, WPARAM wParam, L
         case WM_INITDIALOG:
             OnInitDialog(page);
             return TRUE;
-        case WM_TIMER:
+        case kFollowFields:
             Follow(page);
             return TRUE;
         case WM_COMMAND:

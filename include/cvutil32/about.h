@@ -9,13 +9,14 @@
 ///
 /// Texts. Each text is a pointer to a text, or the identifier of a string (MAKEINTRESOURCEA) in the caller's module, of
 /// which 255 characters are used. Null (or 0) keeps what the library has itself: a version line, a notice about the
-/// library, no product name. Without a title the caption is "About" and the product name. "\n" ends a line, and "&&" shows
-/// an ampersand, as in any label.
+/// library, no product name. Without a title the caption is "About " and the product name; without a product name either,
+/// its last character is that blank. "\n" ends a line, and "&" is an ordinary character.
 ///
 /// The user's name and organisation are the values "RegisteredOwner" and "RegisteredOrganization" of the key
 /// "SOFTWARE\Microsoft\Windows\CurrentVersion" of HKEY_LOCAL_MACHINE. Without an owner neither is shown.
 ///
-/// The box grows with the notice and is centred over its owner. OK, Escape and the close box close it; the focus then
+/// The box grows with the notice, in height: its width is fixed. Lines end between words, and a word that is wider than the
+/// notice's field, such as a path, goes on in the next line. The box is centred over its owner. OK, Escape and the close box close it; the focus then
 /// goes back to where it was.
 #pragma once
 

@@ -22,8 +22,8 @@
 /// | `BROWSE_NOACTION` | a click is no more than a click: the application acts on it |
 ///
 /// A click. The parent gets the click as it does from any button. Then, unless there is no buddy, the buddy's text becomes
-/// the button's file specs, and tells where the dialog begins: an existing file is proposed in its folder, an existing
-/// folder is shown. If the user accepts, the buddy gets the new text and the parent a `WM_COMMAND` from the buddy as if
+/// the button's file specs, and tells where the open-file dialog begins: an existing file is proposed in its folder, an
+/// existing folder is shown. The folder dialog always opens at the top, whatever the buddy holds. If the user accepts, the buddy gets the new text and the parent a `WM_COMMAND` from the buddy as if
 /// the user had typed it: `EN_CHANGE` from an edit field, `CBN_EDITCHANGE` from anything else. If the user cancels, the
 /// buddy keeps its text.
 ///
@@ -40,6 +40,10 @@
 ///
 /// Names with characters of 0x80 and above. The text of a CSTRING ends at the first of them when it is appended, and so
 /// does what the buddy gets; in a list of several files, a name that begins with one ends the list before it.
+///
+/// Choosing a folder on a system whose shell gives wide names (today's Windows) comes to the roots of drives and no
+/// further: the dialog's folder tree finds no other paths there, and its OK button stays disabled (treelist.h). The
+/// open-file dialog is the system's and finds everything.
 ///
 /// An empty buddy leaves the file specs as they were: with `BROWSE_APPEND` the new choice then follows the last one.
 ///

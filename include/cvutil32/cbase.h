@@ -10,6 +10,10 @@
 /// vCallDestructor(): "valid" means constructed once and not overwritten since, not "still alive". A copy takes over
 /// the signature as it stands, so that the copy of a broken object is broken too.
 ///
+/// A list with inline elements moves them as bytes (see clist.h). A class whose objects hold addresses of themselves, as
+/// `std::string` does inside, is kept in a list of pointers only. vCopy() casts without a look: what it is given must be
+/// of the very class.
+///
 /// A class that joins the family:
 ///
 ///     class POINT3 : public CBASE

@@ -18,6 +18,11 @@
 ///
 /// The object protocol of CBASE (vCopy and so on) is that of CSTRING: what a container makes from a CDATASTR as a
 /// prototype is a plain CSTRING.
+///
+/// Traps. A byte of 0x80 or above ends the list as it ends any CSTRING: the walks take the item with it up to that byte as
+/// their last, and NormalizeFileSpecs() drops what follows. A walk for numbers ends at the first item that is none. Walk
+/// lists that may hold such bytes or items by `char const*`. File specifications must be one delimiter apart: of
+/// "a.txt, b.txt, c.txt" EnumFileSpecs() and NormalizeFileSpecs() make a fourth, "t". CleanDelimiters() first helps.
 #pragma once
 
 #include "cstring.h"
@@ -65,7 +70,7 @@ class CVCLASS CDATASTR : public CSTRING {
     /// delimiters of what was removed stay: "a;b;A" becomes "a;b;".
     void RemoveDuplicates(char delimiter);
 
-    /// Takes the next item.
+    /// Takes the next item. A byte of 0x80 or above ends the item and the walk.
     /// @param position  in: where to start, 0 for the first item; out: behind the item and its delimiter.
     /// @param item  takes the item's text, empty between two adjacent delimiters and at the end of the list.
     /// @param delimiter  what ends an item.
@@ -82,14 +87,15 @@ class CVCLASS CDATASTR : public CSTRING {
     int EnumDataItems(unsigned int* position, unsigned int* value, char delimiter) const;
 
     /// Takes the next file specification. One that stands at the very start of the list in double quotes may contain
-    /// spaces; all others end at any of DATASTR_DELIMITERS.
+    /// spaces; all others end at any of DATASTR_DELIMITERS. A byte of 0x80 or above ends the specification and the walk.
     /// @param position  in: where to start, 0 for the first; out: where the next one is looked for.
     /// @param specification  takes the specification without quotes; empty at the end.
     /// @param quoted  takes 1 if it was quoted, else 0; not written at the end; may be null.
     /// @return 1, or 0 at the end or for a null or invalid argument.
     int EnumFileSpecs(unsigned int* position, CSTRING* specification, int* quoted) const;
 
-    /// Rewrites the list as specifications separated by one space each, with quotes around those that had them.
+    /// Rewrites the list as specifications separated by one space each, with quotes around those that had them. It ends
+    /// at its first byte of 0x80 or above.
     void NormalizeFileSpecs();
 
   private:

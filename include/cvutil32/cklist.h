@@ -19,15 +19,19 @@
 /// check lists and `WM_MEASUREITEM` for everything by itself:
 ///
 /// - An item shows the box at a fixed distance from the list's left edge, then its text, in the colour that the list's
-///   device context has. A selected item is not highlighted: the tick is the only sign. The item that has the focus
-///   shows an empty box when it is drawn as a whole while it is selected, and so does every item of a disabled list.
-///   Only a text's first 255 characters are shown.
+///   device context has. A selected item is not highlighted: the tick is the only sign. Every item of a disabled list
+///   shows an empty box. Only a text's first 255 characters are shown.
 /// - `WM_DRAWITEM` of other controls reaches the parent, with the control's identifier as wParam; the answer is
 ///   discarded: it is 0.
 /// - `WM_MEASUREITEM` never reaches the parent. Every owner-drawn list box of this parent gets the height that the
 ///   check list would have; other controls keep the height that they ask with.
 ///
-/// The class has no functions. The library registers it when it is loaded and takes it back when it is unloaded.
+/// One column only: all boxes are drawn in the first one, so that with `LBS_MULTICOLUMN` a later column's tick lies on the
+/// first one's items.
+///
+/// The class has no functions. The library registers it when it is loaded and takes it back when it is unloaded. Being
+/// linked with the library does not load it where nothing else of it is called: such a program calls
+/// `LoadLibraryA("CVUTIL32.dll")` before the dialog opens.
 #pragma once
 
 /// Class name of the check list.

@@ -8,7 +8,7 @@
 ///
 /// Where it holds it. CLISTTYPE_INLINE puts the elements side by side into one array: compact, but every insertion,
 /// deletion and sort moves elements, and their addresses with them. CLISTTYPE_POINTER gives each element a block of its
-/// own, whose address stays as long as the element does.
+/// own, whose address stays as long as the element does. Inline objects are moved as bytes, without their knowing.
 ///
 ///     CLIST points(sizeof(POINT));
 ///     POINT p = {3, 4};
@@ -27,6 +27,11 @@
 ///
 /// Odd, and relied upon: assigning to a list that already holds k elements leaves k empty slots (null pointers or zero
 /// bytes) in front of the copies. Assign to a list that was just constructed to get an equal one.
+///
+/// Traps. A list that is assigned to itself loses every value and doubles its count. An object of the list's own that
+/// SetItem() puts where it is becomes empty. Items are passed by address: `list.Append(&name)`, never `list.Append(name)`,
+/// which the compiler refuses. A constant, and a literal, is read-only memory and refused as an item: copy it into a
+/// variable first. Nothing tells an empty list from an invalid one but IsValid().
 ///
 /// A list is used by one thread at a time.
 #pragma once
@@ -104,7 +109,8 @@ class CVCLASS CLIST : public CBASE {
     /// Append() of a null item.
     void* New();
 
-    /// Replaces an element in place.
+    /// Replaces an element in place. The old object is ended before the new one is made from @p item: an object put into
+    /// its own place becomes empty.
     /// @param item  the record or object; null is refused.
     /// @param index  from 0; CLIST_LAST is the last element.
     /// @return the element's address, or null on failure, which changes nothing.
@@ -140,7 +146,7 @@ class CVCLASS CLIST : public CBASE {
 
     // --- whole lists
 
-    /// Same as vCopy(), if both lists are valid.
+    /// Same as vCopy(), if both lists are valid. Do not assign a list to itself: its values are gone, its count doubles.
     CLIST& operator=(CLIST const& other);
 
     /// Appends copies of all elements of a list with the same item size. Do not add a list to itself.
@@ -153,6 +159,13 @@ class CVCLASS CLIST : public CBASE {
     void vCallDestructor() override;
     void vCopy(CBASE const& source) override;
     unsigned int vGetSize() const override;
+
+    // --- refused by the compiler: an object where its address is wanted; a string would pass its text
+
+    void* Insert(CBASE const& item, unsigned int index) = delete;   ///< Refused; pass the address.
+    void* Append(CBASE const& item) = delete;                       ///< Refused; pass the address.
+    void* SetItem(CBASE const& item, unsigned int index) = delete;  ///< Refused; pass the address.
+    CLIST& operator+=(CBASE const& item) = delete;                  ///< Refused; add the address.
 
   private:
     void MakeHeader();

@@ -15,6 +15,19 @@
 /// by pointer ends there too: the bytes "ab\xE9" "cd" become "ab". Two lengths follow from this: GetStrLen() counts the
 /// bytes up to the NUL, GetByteCount() those of the walk, and it is the second one that copies and appends move.
 ///
+/// Bytes of 0x80 and above, such as the letter in "M\xFCller", end the text in every member that takes over, inserts,
+/// loads, formats or splits: "M" is left. What the system writes into the block itself keeps them (GetWindowTextA(),
+/// GetDlgItemTextA(), GetWindowsDirectoryA(), the members for the registry), and so does what the caller writes there:
+///
+///     CSTRING name;
+///     char const* text = "M\xFCller";
+///     if (char* block = name.BufferLock(lstrlenA(text) + 1)) lstrcpyA(block, text);
+///     name.BufferUnlock();
+///
+/// Such a text can be read, compared, searched and put into capitals. Copying it, appending to it, taking it apart and
+/// growing its block lose that byte or what lies behind it, and a position behind it means the byte itself;
+/// GetByteCount() is below GetStrLen() then. Hand such texts on as `char const*`, not as objects.
+///
 /// Writing into the buffer. A platform call can fill the text in place between BufferLock() and BufferUnlock() (or
 /// `++s` and `s--`), which guarantee a writable block of at least 1024 bytes; until the last unlock the text can be
 /// neither replaced, appended to nor moved, and the lengths are counted afresh whenever they are asked for. A plain
@@ -29,6 +42,19 @@
 /// Comparisons and conversions with numbers concern the length: `s == 0` asks whether the text is empty, `s > 5`
 /// whether it is longer than five, `int(s)` is its length. Both sides are compared as unsigned numbers, so nothing is
 /// greater than -1. `s == "text"` compares the texts in the system's word order.
+///
+/// Numbers that are no lengths. `CSTRING(65)` is an empty text with room for 65 bytes, while `s = 65`, `s += 65` and the
+/// sum `s + 65` concern the one character "A". A position is an `unsigned int`: an index or a length of the type `size_t`
+/// compiles on Linux and is ambiguous on 64-bit Windows, and where it has 64 bits no position equals
+/// `std::string::npos`.
+///
+/// Constant objects, and with them the result of an assignment, have no comparisons; `lstrcmpA(s, "text") == 0` serves
+/// there, and wherever texts are put in order: `s < t` would compare addresses, so that a `std::map` of strings needs a
+/// comparison of its own. The compiler refuses all these, a sum that begins with a `char const*`, and an object among the
+/// arguments of a format: `"%s"` wants `(char const*)name`.
+///
+/// Reading as `char const*`. An object that is not constant becomes a `char*` on the way, which makes its block 1024
+/// bytes large for good. Where many strings are kept, read them through a `CSTRING const&`.
 ///
 ///     CSTRING path("C:\\DATA");
 ///     path += '\\';
@@ -51,6 +77,19 @@
 
 #include "cbase.h"
 
+#include <type_traits>
+
+/// Chooses a member for arguments of which one at least is an object of the family: for others there is no such type.
+template <class... Arguments>
+struct CVOBJECTS : std::false_type {};
+/// The first argument is one, or one of those that follow is.
+template <class First, class... Others>
+struct CVOBJECTS<First, Others...>
+    : std::integral_constant<bool, std::is_base_of<CBASE, First>::value || CVOBJECTS<Others...>::value> {};
+/// @p Result, where one of the arguments is an object.
+template <class Result, class... Arguments>
+using CVANYOBJECT = typename std::enable_if<CVOBJECTS<Arguments...>::value, Result>::type;
+
 /// A text of the ANSI code page with cached lengths, in a heap block of its own.
 class CVCLASS CSTRING : public CBASE {
   public:
@@ -59,8 +98,9 @@ class CVCLASS CSTRING : public CBASE {
     /// An empty text that owns no block.
     CSTRING();
 
-    /// A copy of the bytes that @p other has counted last. Neither its validity nor a write that it has not taken in
-    /// yet is looked at (unlike the assignment); the signature is copied as it stands.
+    /// A copy of the bytes that @p other has counted last, up to its first byte of 0x80 or above if it was filled through
+    /// its block. Neither its validity nor a write that it has not taken in yet is looked at (unlike the assignment); the
+    /// signature is copied as it stands.
     CSTRING(CSTRING const& other);
 
     /// A copy of a text.
@@ -68,8 +108,13 @@ class CVCLASS CSTRING : public CBASE {
     CSTRING(char const* text);
 
     /// An empty text with a block already owned.
-    /// @param size  bytes that the block holds at least; there is always more room than that.
+    /// @param size  bytes that the block holds at least; there is always more room than that. No character: see the
+    ///              assignment of one.
     CSTRING(unsigned int size);
+
+    /// Refused: a character would be taken for a size. Assign it. A template, so that numbers do not look for it.
+    template <int = 0>
+    CSTRING(char ch) = delete;
 
     ~CSTRING() override;
 
@@ -114,25 +159,29 @@ class CVCLASS CSTRING : public CBASE {
     char* operator--(int);
 
     /// A buffer of at least 1024 bytes to write into until the next use of the object, which takes the new lengths in.
+    /// An object that is not constant comes here also where a `char const*` is wanted.
     /// @return null on an invalid object or if the block could not grow.
     operator char*();
 
-    /// The text to read; null on an invalid object.
+    /// The text to read, of a constant object; null on an invalid one.
     operator char const*() const;
 
     // --- assignment and concatenation; all of them do nothing while the object is locked
 
-    /// Takes over the text of @p other; an invalid one changes nothing.
+    /// Takes over the text of @p other, up to its first byte of 0x80 or above if it was filled through its block; an
+    /// invalid one changes nothing.
     CSTRING const& operator=(CSTRING const& other);
 
     /// Takes over a text, up to its first byte of 0x80 or above; null changes nothing. A tail of the object's own text
     /// may be assigned; one stale character then stays behind it.
     CSTRING const& operator=(char const* text);
 
-    /// Becomes the text of one character; the NUL gives an empty text whose GetByteCount() is 1.
+    /// Becomes the text of one character, of any value; the NUL gives an empty text whose GetByteCount() is 1. A number
+    /// comes here too: `s = 65` is "A".
     CSTRING const& operator=(char ch);
 
-    /// Appends the text of @p other; an invalid one appends nothing.
+    /// Appends the text of @p other, up to its first byte of 0x80 or above if it was filled through its block; an invalid
+    /// one appends nothing. What this text holds from such a byte on is written over.
     CSTRING const& Append(CSTRING const& other);
 
     /// Appends a text, up to its first byte of 0x80 or above; null appends nothing.
@@ -148,12 +197,15 @@ class CVCLASS CSTRING : public CBASE {
     /// Same as Append().
     CSTRING const& operator+=(char ch);
 
-    /// Both texts in a new object, which is empty if either object is invalid.
-    CSTRING operator+(CSTRING const& other) const;
-    /// Both texts in a new object, which is empty if this object is invalid; null adds nothing.
-    CSTRING operator+(char const* text) const;
+    /// Both texts in a new object, each up to its first byte of 0x80 or above as for Append(); empty if either object is
+    /// invalid.
+    CSTRING operator+(CSTRING const& other) const CVRESULT;
+    /// Both texts in a new object, as above, which is empty if this object is invalid; null adds nothing.
+    CSTRING operator+(char const* text) const CVRESULT;
     /// The text and one character in a new object, which is empty if this object is invalid.
-    CSTRING operator+(char ch) const;
+    CSTRING operator+(char ch) const CVRESULT;
+    /// Refused: it would move the pointer by the text's length. Begin with `CSTRING(text)`.
+    friend CSTRING operator+(char const* text, CSTRING const& string) = delete;
 
     // --- character access
 
@@ -239,6 +291,25 @@ class CVCLASS CSTRING : public CBASE {
     /// Whether the text is @p length bytes long or longer.
     int operator>=(unsigned long length);
 
+    // --- refused by the compiler: these would compare addresses
+
+    int operator==(char const* text) const = delete;      ///< Refused for a constant object; use lstrcmpA().
+    int operator!=(char const* text) const = delete;      ///< Refused for a constant object; use lstrcmpA().
+    int operator==(CSTRING const& other) const = delete;  ///< Refused; use Compare().
+    int operator!=(CSTRING const& other) const = delete;  ///< Refused; use Compare().
+    int operator<(char const* text) const = delete;       ///< Refused; use Compare() or lstrcmpA().
+    int operator>(char const* text) const = delete;       ///< Refused; use Compare() or lstrcmpA().
+    int operator<=(char const* text) const = delete;      ///< Refused; use Compare() or lstrcmpA().
+    int operator>=(char const* text) const = delete;      ///< Refused; use Compare() or lstrcmpA().
+    int operator<(CSTRING const& other) const = delete;   ///< Refused; use Compare() or lstrcmpA().
+    int operator>(CSTRING const& other) const = delete;   ///< Refused; use Compare() or lstrcmpA().
+    int operator<=(CSTRING const& other) const = delete;  ///< Refused; use Compare() or lstrcmpA().
+    int operator>=(CSTRING const& other) const = delete;  ///< Refused; use Compare() or lstrcmpA().
+    /// Refused: write the object first.
+    friend int operator==(char const* text, CSTRING const& string) = delete;
+    /// Refused: write the object first.
+    friend int operator!=(char const* text, CSTRING const& string) = delete;
+
     /// The length, as GetStrLen().
     operator int();
     /// The length, as GetStrLen().
@@ -257,13 +328,15 @@ class CVCLASS CSTRING : public CBASE {
 
     /// Takes characters out. The bytes behind the new end are not cleared: they come back with the next append, which
     /// callers rely on.
-    /// @param pos  the first one; ~0 takes out the last @p count. At or behind the end nothing happens.
+    /// @param pos  the first one; ~0 takes out the last @p count. At or behind the end nothing happens. Behind a byte of
+    ///             0x80 or above only the length shrinks.
     /// @param count  how many; more than there are, and ~0, are all of them.
     CSTRING const& Delete(unsigned int pos, unsigned int count);
 
     /// Inserts the beginning of a text.
     /// @param text  ends at its first byte of 0x80 or above; null inserts nothing.
-    /// @param pos  the character to insert in front of; behind the end nothing happens.
+    /// @param pos  the character to insert in front of; behind the end nothing happens. In a text with a
+    ///             byte of 0x80 or above, the bytes behind that one are partly written over.
     /// @param count  characters of @p text; ~0 is all of them.
     CSTRING const& Insert(char const* text, unsigned int pos, unsigned int count);
 
@@ -277,25 +350,26 @@ class CVCLASS CSTRING : public CBASE {
     CSTRING const& Replace(char from, char to, int all);
 
     /// Overwrites characters with as many of a text.
-    /// @param text  what is put in.
+    /// @param text  what is put in, up to its first byte of 0x80 or above.
     /// @param pos  where to begin; with ~0 the last @p count characters are taken out and nothing is put in.
     /// @param count  how many; fewer if either text ends before.
     CSTRING const& Replace(char const* text, unsigned int pos, unsigned int count);
 
     /// Replaces a text by another one, everywhere or where it is found first. The search goes on behind what was put in.
     /// @param find  what Find() looks for; null and an empty text change nothing.
-    /// @param with  null changes nothing; an empty text takes out.
+    /// @param with  null changes nothing; an empty text takes out. It ends at its first byte of 0x80 or above, and in a
+    ///              text that has such a byte itself the wrong place is replaced.
     /// @param all  nonzero for everywhere, 0 for the first place alone.
     CSTRING const& Replace(char const* find, char const* with, int all);
 
-    // --- extracting; the results are new objects, empty ones of an invalid object
+    // --- extracting; the results are new objects, empty ones of an invalid object. They end at a byte of 0x80 or above.
 
     /// The first @p count characters.
-    CSTRING Left(unsigned int count) const;
+    CSTRING Left(unsigned int count) const CVRESULT;
     /// @p count characters from @p pos on, as many as there are.
-    CSTRING Mid(unsigned int pos, unsigned int count) const;
+    CSTRING Mid(unsigned int pos, unsigned int count) const CVRESULT;
     /// The last @p count characters.
-    CSTRING Right(unsigned int count) const;
+    CSTRING Right(unsigned int count) const CVRESULT;
 
     // --- searching, as the system's locale compares
 
@@ -327,7 +401,7 @@ class CVCLASS CSTRING : public CBASE {
     int operator!=(char const* text);
 
     // --- paths: the separator is the backslash, a drive ends with a colon, an extension begins at the last dot of the
-    // last element
+    // last element. What they take in and hand out ends at its first byte of 0x80 or above, also in the middle of a name.
 
     /// Appends an element of a path with a backslash before it, unless the text ends or @p part begins with one. Only
     /// one side is looked at for each: two backslashes that meet both stay, and an empty text gets one in front.
@@ -359,7 +433,8 @@ class CVCLASS CSTRING : public CBASE {
     /// Becomes the drive and the directory of a path, the directory as SplitPath() gives it.
     CSTRING const& GetFilePath(char const* path);
 
-    // --- texts of the system, of at most 255 characters; where there is none, the text stays as it was
+    // --- texts of the system, of at most 255 characters and up to the first byte of 0x80 or above; where there is none,
+    // the text stays as it was. The system's own functions fill a block from BufferLock() with the whole text.
 
     /// Becomes the name of a window's class. Null changes nothing.
     CSTRING const& GetClassNameA(HWND window);
@@ -377,18 +452,27 @@ class CVCLASS CSTRING : public CBASE {
     /// Becomes a string of a module's resources. A null module, a missing string and an empty one change nothing.
     CSTRING const& LoadStringA(HINSTANCE module, unsigned int id);
 
-    // --- formatted text of at most 1023 characters, as the system's wsprintfA makes it; an empty result changes nothing
+    // --- formatted text of at most 1023 characters, as the system's wsprintfA makes it, up to the first byte of 0x80 or
+    // above of the result; an empty result changes nothing
 
     /// @param format  as wsprintfA takes it.
     /// @param args  the list of a function with variable arguments: a `va_list`, or its address where a list is not a
     ///              pointer.
     CSTRING const& wvsprintfA(char const* format, void* args);
-    /// Formats the arguments that follow.
+    /// Formats the arguments that follow. A string goes in as `(char const*)name`.
     CSTRING const& wsprintfA(char const* format, ...);
-    /// Formats the arguments that follow by a string of a module's resources.
+    /// Formats the arguments that follow by a string of a module's resources. A string goes in as `(char const*)name`.
     CSTRING const& IDsprintf(HINSTANCE module, unsigned int id, ...);
 
-    // --- texts of the system, of any length
+    /// Refused: one of the arguments is an object, which is not its text.
+    template <class... Arguments>
+    CVANYOBJECT<CSTRING const&, Arguments...> wsprintfA(char const* format, Arguments const&... arguments) = delete;
+    /// Refused: one of the arguments is an object, which is not its text.
+    template <class... Arguments>
+    CVANYOBJECT<CSTRING const&, Arguments...> IDsprintf(HINSTANCE module, unsigned int id,
+                                                        Arguments const&... arguments) = delete;
+
+    // --- texts of the system, of any length and with bytes of any value
 
     /// Becomes a window's text; an empty one changes nothing.
     CSTRING const& GetWindowTextA(HWND window);
@@ -399,7 +483,7 @@ class CVCLASS CSTRING : public CBASE {
     /// Becomes the path of the Windows folder.
     CSTRING const& GetWindowsDirectoryA();
 
-    // --- the registry; where there is nothing, the text becomes empty
+    // --- the registry, with bytes of any value; where there is nothing, the text becomes empty
 
     /// Becomes the name of a key's subkey.
     CSTRING const& RegEnumKeyA(HKEY key, unsigned long index);

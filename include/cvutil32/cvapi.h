@@ -28,5 +28,14 @@
 /// Linkage, visibility, result type and calling convention of a flat function.
 #define CVAPI(result) CVEXTERN CVEXPORT result WINAPI
 
+#ifndef CVCLASS
 /// Visibility of a class that is exported as a whole.
 #define CVCLASS CVEXPORT
+#endif
+
+/// Behind a declaration: the compiler warns where the result is thrown away, if it can.
+#ifdef __GNUC__
+#define CVRESULT __attribute__((warn_unused_result))
+#else
+#define CVRESULT
+#endif

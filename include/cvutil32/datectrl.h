@@ -5,7 +5,7 @@
 /// day, month and year in the order and with the separator of the user's international settings ("Intl", iDate and
 /// sDate):
 ///
-///     CONTROL "", IDC_DUE, "Calverin_DateControl", WS_CHILD | WS_VISIBLE | WS_BORDER, 60, 10, 44, 12
+///     CONTROL "", IDC_DUE, "Calverin_DateControl", WS_CHILD | WS_VISIBLE | WS_BORDER, 60, 10, 44, 14
 ///
 /// It has no styles of its own and always takes part in tabbing: WS_TABSTOP is added when it is created. It is empty
 /// until it gets a date, and an empty field paints nothing but its background. It sends its parent no notifications:
@@ -20,8 +20,15 @@
 /// click puts it under the pointer. A digit replaces the digit above the caret, which then moves on, past a separator.
 /// A tens digit that makes the field far too large becomes its only digit ('3' on the month 05 gives 03) and the caret
 /// goes on to the next field; a value a little too large becomes the largest allowed ('1' on the month 05 gives 12). A
-/// digit that would leave a month or a day 0 is dropped. Years are typed with two digits and lie in 1980 to 2079. The
-/// first key, whatever it is, fills an empty field with today's date and is dropped itself.
+/// digit that would leave a month or a day 0 is dropped. Years are typed with two digits and lie in 1980 to 2079; any
+/// other year keeps its two digits' look until it is typed into (1975 and 2075 look alike). The first character typed,
+/// whatever it is, fills an empty field with today's date and is dropped itself: of "24" the field takes the 4.
+///
+/// Typing a whole date from Home leaves another date than the one that was typed for 2 to 4 of 100 pairs of an old and a
+/// new date, because each digit is judged by what stands beside it at that moment. A 0 on the tens of 10, 20 or 30 is
+/// dropped; the caret stays, and the digits after it go to the wrong places. A day is cut to the length of a month that
+/// stands there only for a moment: typing 30.07. over 28.12. passes 30.02. Show a date that matters once more, in words,
+/// before it is acted on.
 ///
 /// Messages that an application may send:
 ///
@@ -29,7 +36,7 @@
 /// |---|---|
 /// | `WM_VSCROLL`, code SB_LINEUP (0) or SB_LINEDOWN (1) | steps the field above the caret up or down; on a separator nothing happens; an empty field shows today's date instead. This is what a micro scroll bar (scroll.h) sends |
 /// | `WM_SETFONT` | takes a font, which stays the application's; a nonzero lParam repaints |
-/// | `WM_WININICHANGE`, section "Intl" | reads the settings anew and repaints; the text keeps its old form until its value changes next |
+/// | `WM_WININICHANGE`, section "Intl" | reads the settings anew and repaints; the text keeps its old form until its value changes next. Top-level windows alone get this message from the system: the dialog must pass it on |
 /// | `WM_GETDLGCODE` | answers DLGC_WANTARROWS \| DLGC_WANTCHARS |
 ///
 /// The background is the brush with which the parent answers `WM_CTLCOLOREDIT`, or the window colour. The parent may

@@ -1,9 +1,9 @@
 /// @file grbutton.h
 /// `GRBUTTON_`: the graphic button, window class "Calverin_GraphicButton".
 ///
-/// A push button that shows a bitmap instead of text. It is a superclass of the system's "button" and does all that a
-/// push button does: mouse, Space, focus, `WM_COMMAND` with `BN_CLICKED`. A dialog template creates it by its class
-/// name, and the application gives it its picture when the dialog starts:
+/// A push button that shows a bitmap instead of text. It is a superclass of the system's "button" and does what a push
+/// button does: mouse, Space, focus, `WM_COMMAND` with `BN_CLICKED`. A dialog template creates it by its class name, and
+/// the application gives it its picture when the dialog starts:
 ///
 ///     CONTROL "", IDC_OPEN, "Calverin_GraphicButton", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 7, 7, 16, 14
 ///
@@ -26,7 +26,9 @@
 /// Ownership. A button deletes the bitmaps that it has when it is destroyed, also those that the application handed
 /// in. Setting bitmaps anew neither deletes those from before nor repaints: the application does both if it needs them.
 ///
-/// Notifications: those of a push button. Messages: those of a button.
+/// Notifications: those of an owner-drawn button. Of two quick clicks the first gives `BN_CLICKED` and the second
+/// `BN_DOUBLECLICKED`: treat both alike where every click counts. Messages: those of a button. Enter never presses a
+/// graphic button, also when it has the focus: it presses the dialog's default button.
 ///
 /// The two drawing routines are there for applications that draw items of their own the same way; they work on any
 /// device context, and everything selected into it stays selected.

@@ -68,7 +68,7 @@ CVAPI(DWORD) LIST_GetCount(LPVOID list);
 /// @param list  the list; its handle may change.
 /// @param capacity  items. Below the count, the items beyond it are lost with their memory.
 /// @return the new handle; null for an invalid handle or when memory runs out, in which case the old one stays good.
-CVAPI(LPVOID) LIST_Realloc(LPVOID list, DWORD capacity);
+CVAPI(LPVOID) LIST_Realloc(LPVOID list, DWORD capacity) CVRESULT;
 
 /// Inserts an item, which is copied.
 /// @param list  address of the handle, which may change.

@@ -28,15 +28,23 @@
 /// "\r\n"; "&" is an ordinary character in a message and marks the mnemonic in a label. Labels are as wide as the
 /// buttons of the box, 48 dialog units; what is longer is cut off at its sides.
 ///
+/// A box does not scroll. Its end leaves a screen of 640 by 480 pixels with more than about 1500 characters of ordinary text
+/// in the wide box, 900 in the narrow one, or 31 lines; one of 800 by 600 with 2000, 1200 or 41, one of 1024 by 768 with
+/// 2600, 1600 or 54. The buttons, at the top, stay in reach. A word of more than about 80 letters, such as a long path,
+/// pushes them off the right edge of the smallest of these screens: put line ends into it.
+///
 /// Place. With a `position` its top left corner is there; without one it is centred over its owner, inside the screen.
 /// Without an owner it keeps the place of its template, near the screen's top left corner.
 ///
 /// Owner. The record's `owner`, if it is a window and not the desktop; otherwise the calling thread's active window, if
-/// there is one. The owner is disabled while the box is shown. Afterwards the focus is where it was before.
+/// there is one. The owner is disabled while the box is shown, and active again afterwards. If the active window stepped in,
+/// the focus then goes back to where it was. With an owner of the record's own that is the owner's business: a dialog sets
+/// the focus to its control again, as at every activation; a plain window has the focus itself, and hands it on if it likes
+/// when it gets `WM_SETFOCUS`.
 ///
 /// Task-modal. With `KVMB_TASKMODAL` every other enabled top-level window of the owner's thread (of the calling thread
-/// if the record has no owner) is disabled as well; when the box closes exactly these are enabled again. One that was
-/// disabled before stays so. If memory runs out, the windows that could not be noted stay enabled.
+/// if the record has no owner) is disabled as well; when the box closes, whoever closes it (a button, EndDialog() from
+/// elsewhere, the end of the owner), exactly these are enabled again. One that was disabled before stays so. If memory runs out, the windows that could not be noted stay enabled.
 ///
 /// The box runs on the calling thread until it is closed. Boxes may be opened from boxes.
 #pragma once

@@ -4,7 +4,7 @@
 /// A small bar of two arrows that steps the value of another window, its associate: normally a date, time or numeric
 /// field beside it. The bar knows nothing of that value; it sends line messages.
 ///
-///     CONTROL "", IDC_DUE,     "Calverin_DateControl", WS_CHILD | WS_VISIBLE | WS_BORDER, 60, 10, 60, 12
+///     CONTROL "", IDC_DUE,     "Calverin_DateControl", WS_CHILD | WS_VISIBLE | WS_BORDER, 60, 10, 60, 14
 ///     CONTROL "", IDC_DUE_BAR, "KVS_MicroScrollbar",   WS_CHILD | WS_VISIBLE | SCROLL_STANDARD, 0, 0, 0, 0
 ///
 /// Styles, in the low word of the window style. They are looked at when the bar is created; SCROLL_VERTICAL also later.

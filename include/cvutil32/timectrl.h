@@ -24,13 +24,18 @@
 /// the day. On the designator A and P choose the half of the day, and digits are dropped. The first key, whatever it
 /// is, fills an empty field with the time of now and is dropped itself.
 ///
+/// Typing a whole time from Home leaves another time than the one that was typed for 8 of 100 pairs of an old and a new
+/// time by the 24-hour clock, and for 6 by the 12-hour clock, because each digit is judged by the one beside it. A 2 on
+/// the tens of 04 to 09 and 14 to 19 would be hour 24 to 29 and is dropped; the caret stays, and the digits after it go to
+/// the wrong places. By the 12-hour clock a 0 on the tens of 10 makes the hour 1 and goes on to the minutes.
+///
 /// Messages that an application may send:
 ///
 /// | message | effect |
 /// |---|---|
 /// | `WM_VSCROLL`, code SB_LINEUP (0) or SB_LINEDOWN (1) | steps the field above the caret up or down, on the designator to the other half of the day; on a separator nothing happens; an empty field shows the time of now instead. This is what a micro scroll bar (scroll.h) sends |
 /// | `WM_SETFONT` | takes a font, which stays the application's; a nonzero lParam repaints |
-/// | `WM_WININICHANGE`, section "Intl" | reads the settings anew and repaints; the text keeps its old form until its value changes next |
+/// | `WM_WININICHANGE`, section "Intl" | reads the settings anew and repaints; the text keeps its old form until its value changes next. Top-level windows alone get this message from the system: the dialog must pass it on |
 /// | `WM_GETDLGCODE` | answers DLGC_WANTARROWS \| DLGC_WANTCHARS |
 ///
 /// The background is the brush with which the parent answers `WM_CTLCOLOREDIT`, or the window colour. The parent may
@@ -72,7 +77,8 @@ CVAPI(int) TIMECTRL_CompareTime(const SYSTEMTIME* a, const SYSTEMTIME* b);
 
 /// Steps one field of a time up, in place. Second 59 is followed by 0 of the next minute, minute 59 by 0 of the next
 /// hour, hour 23 by hour 0 of the same date. The half of the day changes over, unless the settings in use are those of
-/// the 24-hour clock.
+/// the 24-hour clock. They are read when the first time field of the process is made: before that it changes over whatever
+/// the user's clock is.
 /// @param time   a valid time; its date is left alone.
 /// @param field  TIMECTRL_MINUTE, TIMECTRL_HOUR, TIMECTRL_SECOND or TIMECTRL_AMPM.
 /// @return TRUE for these fields; FALSE, with nothing changed, for null, an invalid time or another field code.

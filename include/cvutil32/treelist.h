@@ -27,6 +27,12 @@
 ///         char folder[MAX_PATH];
 ///         EnableWindow(GetDlgItem(dialog, IDOK), TREELIST_GetFolder(GetDlgItem(dialog, IDC_FOLDERS), folder) != 0);
 ///
+/// Wide names. Shells of 1995 give their names as one-byte texts. Those of every Windows with Unicode at its core, today's
+/// among them, give wide ones, and the control's conversion of a wide name has room for four bytes. There the tree shows
+/// names of up to three letters whole and of longer ones the first four, and TREELIST_GetFolder() knows the roots of
+/// drives and what lies on the desktop itself: for any folder below a root the answer is 0. Applications for these systems
+/// let the user choose folders by the system's own dialog (SHBrowseForFolder). On Linux names are whole.
+///
 /// When something fails (memory, the shell's interfaces) the tree holds what could be read until then; a folder that
 /// cannot be read keeps its button. Without the component library there is no tree view and the control stays empty.
 ///
@@ -53,8 +59,8 @@ CVAPI(BOOL) TREELIST_RegisterClass(HINSTANCE instance);
 /// Tells the path of the selected folder.
 /// @param control  a folder tree list.
 /// @param buffer   receives the path and its NUL; MAX_PATH (260) bytes.
-/// @return the path's length; 0, with an empty path, if nothing is selected or the selected item does not lie on the file
-/// system (the computer); 0 also for a window of another class and for a null buffer, with nothing written.
+/// @return the path's length; 0, with an empty path, if nothing is selected, if the selected item does not lie on the file
+/// system (the computer), or if its path cannot be had (below a root, where names are wide, see above); 0 also for a window of another class and for a null buffer, with nothing written.
 CVAPI(int) TREELIST_GetFolder(HWND control, char* buffer);
 
 #endif

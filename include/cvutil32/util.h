@@ -47,7 +47,8 @@ CVAPI(HINSTANCE) UTIL_GetModuleInstance(void);
 CVAPI(void) UTIL_AddRemoveSubdirSymbol(HWND dialog, int controlId, BOOL add);
 
 /// Moves a window to the middle of its parent or owner, or of the screen if it has none, as far as it stays on the
-/// screen; the left top corner of a window that is too large does. Its size and place among the windows stay.
+/// screen; the left top corner of a window that is too large does. Its size stays. As with every move of a top-level window
+/// that does not say otherwise, the window is activated and comes to the top.
 /// @param window  nothing happens for null and for what is no window.
 CVAPI(void) UTIL_CenterPopup(HWND window);
 

@@ -5,6 +5,8 @@
 #include <new>
 #include <utility>
 
+#include "user/window/class.h"
+
 namespace platform::comctl {
 namespace {
 

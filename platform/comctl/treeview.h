@@ -19,6 +19,8 @@
 
 namespace platform::comctl {
 
+inline constexpr int kLabelPadding = 2;  ///< between a label's edge and its text
+
 struct TreeItem {
     HTREEITEM handle = nullptr;
     TreeItem* parent = nullptr;  ///< null: stands at the root

@@ -2,13 +2,13 @@
 #include <algorithm>
 
 #include "comctl/treeview.h"
+#include "user/painting/painting.h"
 
 namespace platform::comctl {
 namespace {
 
-constexpr int kGap = 3;      ///< between an item's picture and its label
-constexpr int kPadding = 2;  ///< between a label's edge and its text
-constexpr int kLine = 20;    ///< pixels that the horizontal arrows scroll
+constexpr int kGap = 3;    ///< between an item's picture and its label
+constexpr int kLine = 20;  ///< pixels that the horizontal arrows scroll
 
 class MeasuringContext {
   public:
@@ -76,7 +76,7 @@ void FindWidest(const TreePointer& tree) {
         if (item->width < 0) {
             item->width = WidthOf(context, item->text);
         }
-        const int right = LabelLeft(*tree, item) + tree->left + item->width + 2 * kPadding;
+        const int right = LabelLeft(*tree, item) + tree->left + item->width + 2 * kLabelPadding;
         tree->widest = std::max(tree->widest, right);
     }
 }
@@ -119,7 +119,7 @@ RECT RowRect(const TreeView& tree, const TreeItem* item) {
 RECT LabelRect(const TreeView& tree, const TreeItem* item) {
     RECT label = RowRect(tree, item);
     label.left = LabelLeft(tree, item);
-    label.right = label.left + item->width + 2 * kPadding;
+    label.right = label.left + item->width + 2 * kLabelPadding;
     return label;
 }
 

@@ -3,6 +3,7 @@
 #include <new>
 
 #include "comctl/treeview.h"
+#include "user/model/window.h"
 
 namespace platform::comctl {
 namespace {

@@ -3,12 +3,10 @@
 #include <array>
 
 #include "comctl/treeview.h"
-#include "gdi/objects.h"
+#include "gdi/context/objects.h"
 
 namespace platform::comctl {
 namespace {
-
-constexpr int kPadding = 2;
 
 struct Pencil {
     HDC context;
@@ -94,8 +92,8 @@ void PaintLabel(const TreeView& tree, HDC context, const TreeItem* item) {
     GetTextMetricsA(context, &metrics);
     SetTextColor(context, ink);
     SetBkColor(context, ground);
-    ExtTextOutA(context, label.left + kPadding, label.top + (tree.rowHeight - metrics.tmHeight) / 2, ETO_OPAQUE, &label,
-                item->text.c_str(), static_cast<UINT>(item->text.size()), nullptr);
+    ExtTextOutA(context, label.left + kLabelPadding, label.top + (tree.rowHeight - metrics.tmHeight) / 2, ETO_OPAQUE,
+                &label, item->text.c_str(), static_cast<UINT>(item->text.size()), nullptr);
     if (strong) {
         DrawFocusRect(context, &label);
     }

@@ -70,6 +70,7 @@ bool Open(const TreePointer& tree, HTREEITEM handle, bool byUser) {
     item->state |= TVIS_EXPANDED | TVIS_EXPANDEDONCE;
     tree->stale = true;
     InvalidateFrom(*tree, item);
+    // A bar that comes or goes sends messages.
     UpdateBars(tree);
     if (byUser) {
         ShowChildren(tree, handle);

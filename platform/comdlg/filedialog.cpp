@@ -5,9 +5,10 @@
 #include <cstdlib>
 #include <cstring>
 #include <new>
+#include <utility>
 
-#include "kernel/hostpath.h"
-#include "user/dialog.h"
+#include "kernel/files/hostpath.h"
+#include "user/dialog/dialog.h"
 
 namespace platform::comdlg {
 namespace {
@@ -76,27 +77,34 @@ void FillFilters(FileDialog& dialog) {
     }
 }
 
+/// @returns whether the dialog shows a folder now. One that is there and cannot be read is remembered.
+bool BeginIn(FileDialog& dialog, const std::string& path) {
+    std::vector<shell::Place> trail = TrailOf(path);
+    const bool reached = !trail.empty();
+    HRESULT result = GoTo(dialog, std::move(trail));
+    if (SUCCEEDED(result)) {
+        return true;
+    }
+    result = reached ? result : WhyUnreachable(path);
+    if (result != kNoFolder && dialog.unreadable.empty()) {
+        dialog.unreadable = path;
+        dialog.whyUnreadable = result;
+    }
+    return false;
+}
+
 /// Where the dialog begins: the folder of the name given, the folder asked for, the user's own.
 void Begin(FileDialog& dialog) {
     const std::string given = dialog.record.lpstrFile ? dialog.record.lpstrFile : "";
     const char* asked = dialog.record.lpstrInitialDir;
     const char* home = std::getenv("HOME");
-    std::string name = given;
-    std::vector<std::vector<shell::Place>> trails;
-    if (given.size() >= 2 && given[1] == ':') {
-        const std::size_t at = given.find_last_of("\\/:") + 1;
-        trails.push_back(TrailOf(given.substr(0, at)));
-        name = given.substr(at);
+    const bool whole = given.size() >= 2 && given[1] == ':';
+    const std::size_t at = whole ? given.find_last_of("\\/:") + 1 : 0;
+    if (!BeginIn(dialog, given.substr(0, at)) && !BeginIn(dialog, asked ? asked : "") &&
+        FAILED(GoTo(dialog, TrailOf(home ? kernel::WindowsPath(home) : "")))) {
+        GoTo(dialog, {shell::DesktopPlace()});
     }
-    trails.push_back(TrailOf(asked ? asked : ""));
-    trails.push_back(TrailOf(home ? kernel::WindowsPath(home) : ""));
-    trails.push_back({shell::DesktopPlace()});
-    for (std::vector<shell::Place>& trail : trails) {
-        if (GoTo(dialog, std::move(trail))) {
-            break;
-        }
-    }
-    SetDlgItemTextA(dialog.window, edt1, name.c_str());
+    SetDlgItemTextA(dialog.window, edt1, given.c_str() + at);
 }
 
 BOOL OnInit(FileDialog& dialog) {
@@ -105,9 +113,8 @@ BOOL OnInit(FileDialog& dialog) {
     FillFilters(dialog);
     CreateHook(dialog);
     Begin(dialog);
-    TellHookInitDone(dialog);
-    SetFocus(dialog.Control(edt1));
-    SendMessageA(dialog.Control(edt1), EM_SETSEL, 0, -1);
+    TellHook(dialog, CDN_INITDONE);
+    SelectName(dialog);
     return FALSE;
 }
 
@@ -124,17 +131,18 @@ void OnFolderChosen(FileDialog& dialog) {
             trail[static_cast<std::size_t>(depth--)] = dialog.folders[i].place;
         }
     }
-    if (!GoTo(dialog, std::move(trail))) {
-        MessageBeep(0);
-        FillFolders(dialog);
-    }
+    TryGoTo(dialog, std::move(trail));
 }
 
 void OnFilterChosen(FileDialog& dialog) {
     const auto index = static_cast<std::size_t>(SendMessageA(dialog.Control(cmb1), CB_GETCURSEL, 0, 0));
     if (index < dialog.filters.size()) {
         dialog.patterns = dialog.filters[index].patterns;
-        Refresh(dialog);
+        const HRESULT result = Refresh(dialog);
+        TellHook(dialog, CDN_TYPECHANGE);
+        if (FAILED(result)) {
+            TellNotAccessible(dialog, PathOrName(dialog.Folder()), result);
+        }
     }
 }
 
@@ -147,7 +155,7 @@ void OnCommand(FileDialog& dialog, int id, UINT code) {
             EndDialog(dialog.window, FALSE);
             break;
         case kUpButton:
-            if (code == BN_CLICKED && dialog.trail.size() > 1) {
+            if (code == BN_CLICKED) {
                 GoUp(dialog);
             }
             break;
@@ -178,9 +186,7 @@ INT_PTR OnListKey(FileDialog& dialog, WORD key) {
     if (key != VK_BACK) {
         return -1;
     }
-    if (dialog.trail.size() > 1) {
-        GoUp(dialog);
-    }
+    GoUp(dialog);
     return -2;
 }
 
@@ -196,6 +202,20 @@ INT_PTR OnMessage(FileDialog& dialog, UINT message, WPARAM wParam, LPARAM lParam
             return TRUE;
         case WM_VKEYTOITEM:
             return OnListKey(dialog, LOWORD(wParam));
+        case WM_SHOWWINDOW:
+            if (wParam && !dialog.unreadable.empty()) {
+                PostMessageA(dialog.window, kTellUnreadable, 0, 0);
+            }
+            return FALSE;
+        case kTellUnreadable:
+            TellNotAccessible(dialog, std::exchange(dialog.unreadable, {}), dialog.whyUnreadable);
+            return TRUE;
+        case WM_ENABLE:
+            dialog.interrupted = dialog.interrupted || !wParam;
+            return FALSE;
+        case WM_ACTIVATE:
+            dialog.interrupted = dialog.interrupted || LOWORD(wParam) == WA_INACTIVE;
+            return FALSE;
         default:
             return FALSE;
     }

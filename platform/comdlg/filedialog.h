@@ -8,6 +8,7 @@
 #include <dlgs.h>
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,9 @@
 namespace platform::comdlg {
 
 constexpr int kUpButton = 0x0490;
+
+/// Posted when the dialog is there to be seen: the user is told why it does not begin where it should.
+constexpr UINT kTellUnreadable = WM_APP + 1;
 
 /// An item of the folder that is shown, or a row of the list of folders.
 struct Row {
@@ -39,6 +43,9 @@ struct FileDialog {
     std::vector<Row> folders;         ///< as the list of folders shows them
     WNDPROC listProcedure = nullptr;  ///< of the list's class
     comctl::Typing typing;            ///< in the list
+    std::string unreadable;           ///< the folder that the dialog should have begun in
+    HRESULT whyUnreadable = S_OK;
+    bool interrupted = false;  ///< another window has come forward, since this was last cleared
     DWORD error = 0;
 
     bool Has(DWORD flag) const {
@@ -62,16 +69,20 @@ bool RunFileDialog(FileDialog& dialog);
 
 // --- the folder shown (filedialog_folder.cpp)
 
-/// Goes to a folder, given by the places on the way to it. @returns false, with everything as it was, when it cannot be
-/// read.
-bool GoTo(FileDialog& dialog, std::vector<shell::Place> trail);
-bool GoUp(FileDialog& dialog);
-/// Goes into the item of a row of the list.
-bool GoInto(FileDialog& dialog, std::size_t row);
+/// Goes to a folder, given by the places on the way to it. When it cannot be read everything stays as it was.
+HRESULT GoTo(FileDialog& dialog, std::vector<shell::Place> trail);
+/// The same, and says why when it cannot be read.
+void TryGoTo(FileDialog& dialog, std::vector<shell::Place> trail);
+/// Goes to the folder above, if there is one.
+void GoUp(FileDialog& dialog);
 /// The places on the way from the desktop to a path; empty when there is no such path.
 std::vector<shell::Place> TrailOf(const std::string& path);
-/// Reads the folder shown anew, as when the patterns have changed. @returns false when it cannot be read.
-bool Refresh(FileDialog& dialog);
+/// Why there is no way to a path: not there, or below a folder that cannot be read.
+HRESULT WhyUnreachable(const std::string& path);
+/// What a place is called where it must be clear which one is meant.
+std::string PathOrName(const shell::Place& place);
+/// Reads the folder shown anew, as when the patterns have changed.
+HRESULT Refresh(FileDialog& dialog);
 void FillFolders(FileDialog& dialog);
 
 // --- the list of files (filedialog_list.cpp)
@@ -90,10 +101,31 @@ void Accept(FileDialog& dialog);
 
 std::string TextOf(HWND control);
 
+// --- what the user is told (filedialog_words.cpp). The dialog may be gone afterwards.
+
+enum class Refusal { NoPath, NoFile, BadName };
+constexpr HRESULT kNoFolder = HRESULT_FROM_WIN32(ERROR_PATH_NOT_FOUND);
+
+void SelectName(const FileDialog& dialog);
+
+/// Says why a name was refused, and selects it for another try.
+void TellRefused(const FileDialog& dialog, const std::string& name, Refusal why);
+/// The application has refused a name. Says what is wrong with it, unless the application has said something.
+void TellRefusedByHook(const FileDialog& dialog, const std::vector<std::string>& paths);
+void TellNotAccessible(const FileDialog& dialog, const std::string& folder, HRESULT why);
+
+/// @returns what speaks against giving a path back, of what is asked for.
+std::optional<Refusal> WhyRefused(const std::string& path, bool pathMustExist, bool fileMustExist);
+bool Exists(const std::string& path);
+
+/// A path is split at its last backslash; a drive's root keeps it.
+Choice Split(const std::string& path);
+
 // --- the hook (filedialog_hook.cpp)
 
 void CreateHook(FileDialog& dialog);
-void TellHookInitDone(FileDialog& dialog);
+/// @returns whether the hook refused.
+bool TellHook(FileDialog& dialog, UINT code);
 bool HookRefuses(FileDialog& dialog);
 
 // --- drawing (filedialog_draw.cpp)

@@ -1,50 +1,35 @@
 // What the accept button makes of the name field and the list.
 #include <algorithm>
+#include <utility>
 
 #include "comdlg/filedialog.h"
-#include "kernel/wildcards.h"
+#include "kernel/files/wildcards.h"
+#include "user/dialog/dialog.h"
 
 namespace platform::comdlg {
 namespace {
-
-std::string TitleOf(const FileDialog& dialog) {
-    return TextOf(dialog.window);
-}
-
-void Complain(const FileDialog& dialog, const std::string& path, const char* what, UINT kind) {
-    MessageBoxA(dialog.window, (path + '\n' + what).c_str(), TitleOf(dialog).c_str(), MB_OK | kind);
-    const HWND field = dialog.Control(edt1);
-    SetFocus(field);
-    SendMessageA(field, EM_SETSEL, 0, -1);
-}
 
 std::string FolderPath(const FileDialog& dialog) {
     return dialog.Folder().path;
 }
 
-/// A path is split at its last backslash; a drive's root keeps it.
-Choice Split(const std::string& path) {
-    const std::size_t at = path.rfind('\\');
-    return {path.substr(0, at == 2 ? 3 : at), {path.substr(at + 1)}};
-}
-
-bool Exists(const std::string& path) {
-    return !TrailOf(path).empty();
-}
-
 /// @returns whether a name may be given back; else the user has been told why not.
 bool MayGiveBack(const FileDialog& dialog, const std::string& path) {
-    if (dialog.Has(OFN_PATHMUSTEXIST | OFN_FILEMUSTEXIST) && !Exists(Split(path).folder)) {
-        Complain(dialog, path, "Path does not exist.\nPlease verify that the correct path was given.",
-                 MB_ICONEXCLAMATION);
-        return false;
-    }
-    if (dialog.Has(OFN_FILEMUSTEXIST) && !Exists(path)) {
-        Complain(dialog, path, "File not found.\nPlease verify that the correct file name was given.",
-                 MB_ICONEXCLAMATION);
+    const auto why = WhyRefused(path, dialog.Has(OFN_PATHMUSTEXIST), dialog.Has(OFN_FILEMUSTEXIST));
+    if (why) {
+        TellRefused(dialog, path, *why);
         return false;
     }
     return true;
+}
+
+/// @returns the full paths of a choice.
+std::vector<std::string> PathsOf(const Choice& choice) {
+    std::vector<std::string> paths;
+    for (const std::string& name : choice.names) {
+        paths.push_back(FullPath(choice.folder, name));
+    }
+    return paths;
 }
 
 void End(FileDialog& dialog, const Choice& choice) {
@@ -58,7 +43,15 @@ void End(FileDialog& dialog, const Choice& choice) {
         return;
     }
     dialog.record.nFilterIndex = static_cast<DWORD>(SendMessageA(dialog.Control(cmb1), CB_GETCURSEL, 0, 0) + 1);
-    if (!HookRefuses(dialog)) {
+    dialog.interrupted = false;
+    const bool refused = TellHook(dialog, CDN_FILEOK) || HookRefuses(dialog);
+    const auto state = user::FindDialogState(dialog.window);
+    if (!state || state->ended) {
+        return;  // the hook has done so, and with its own result
+    }
+    if (refused) {
+        TellRefusedByHook(dialog, PathsOf(choice));
+    } else {
         EndDialog(dialog.window, TRUE);
     }
 }
@@ -67,23 +60,23 @@ void AcceptOne(FileDialog& dialog, const std::string& name) {
     const std::string folder = FolderPath(dialog);
     const bool whole = name.size() >= 2 && name[1] == ':';
     if (folder.empty() && !whole) {
-        Complain(dialog, name, "File not found.\nPlease verify that the correct file name was given.",
-                 MB_ICONEXCLAMATION);
+        TellRefused(dialog, name, Refusal::NoFile);
         return;
     }
     const std::string path = FullPath(folder, name);
     std::vector<shell::Place> trail = TrailOf(path);
     if (!trail.empty() && trail.back().IsFolder()) {
-        if (GoTo(dialog, std::move(trail))) {
+        const HRESULT result = GoTo(dialog, std::move(trail));
+        if (SUCCEEDED(result)) {
             SetDlgItemTextA(dialog.window, edt1, "");
         } else {
-            Complain(dialog, path, "The folder cannot be read.", MB_ICONEXCLAMATION);
+            TellNotAccessible(dialog, path, result);
+            SelectName(dialog);
         }
         return;
     }
     if (path.ends_with('\\') || name.ends_with('\\') || name.ends_with('/')) {
-        Complain(dialog, path, "Path does not exist.\nPlease verify that the correct path was given.",
-                 MB_ICONEXCLAMATION);
+        TellRefused(dialog, path, Refusal::NoPath);
         return;
     }
     if (MayGiveBack(dialog, path)) {
@@ -103,6 +96,23 @@ void AcceptSeveral(FileDialog& dialog, const std::vector<std::string>& names) {
     End(dialog, choice);
 }
 
+/// A pattern, behind the folder where it is to be applied: shows what fits it.
+void ApplyPattern(FileDialog& dialog, const std::string& typed) {
+    const std::size_t at = typed.find_last_of("\\/:");
+    const std::size_t begin = at == typed.npos ? 0 : at + 1;
+    const std::string former = std::exchange(dialog.patterns, typed.substr(begin));
+    const std::string folder =
+        begin > 0 ? FullPath(FolderPath(dialog), typed.substr(0, begin)) : PathOrName(dialog.Folder());
+    const HRESULT result = begin > 0 ? GoTo(dialog, TrailOf(folder)) : Refresh(dialog);
+    if (FAILED(result)) {
+        dialog.patterns = former;
+        TellNotAccessible(dialog, folder, result);
+    } else if (begin > 0) {
+        SetDlgItemTextA(dialog.window, edt1, dialog.patterns.c_str());
+    }
+    SelectName(dialog);
+}
+
 /// A selected folder is opened when the list has the focus. @returns whether there was one.
 bool OpenSelectedFolder(FileDialog& dialog) {
     if (GetFocus() != dialog.Control(lst1)) {
@@ -114,9 +124,12 @@ bool OpenSelectedFolder(FileDialog& dialog) {
     if (folder == rows.end()) {
         return false;
     }
-    const std::string path = dialog.items[*folder].place.path;
-    if (!GoInto(dialog, *folder)) {
-        Complain(dialog, path, "The folder cannot be read.", MB_ICONEXCLAMATION);
+    std::vector<shell::Place> trail = dialog.trail;
+    trail.push_back(dialog.items[*folder].place);
+    const std::string path = PathOrName(trail.back());
+    const HRESULT result = GoTo(dialog, std::move(trail));
+    if (FAILED(result)) {
+        TellNotAccessible(dialog, path, result);
     } else if (!dialog.items.empty()) {
         SendMessageA(dialog.Control(lst1), LB_SETCARETINDEX, 0, FALSE);
     }
@@ -141,13 +154,13 @@ void Accept(FileDialog& dialog) {
         return;
     }
     if (names.size() == 1 && kernel::HasWildcards(names.front())) {
-        dialog.patterns = names.front();
-        Refresh(dialog);
-        SendMessageA(dialog.Control(edt1), EM_SETSEL, 0, -1);
-        return;
-    }
-    if (names.size() == 1 || !dialog.Has(OFN_ALLOWMULTISELECT) || FolderPath(dialog).empty()) {
+        ApplyPattern(dialog, names.front());
+    } else if (names.size() == 1) {
         AcceptOne(dialog, names.front());
+    } else if (!dialog.Has(OFN_ALLOWMULTISELECT)) {
+        TellRefused(dialog, typed, Refusal::BadName);
+    } else if (FolderPath(dialog).empty()) {
+        TellRefused(dialog, names.front(), Refusal::NoFile);
     } else {
         AcceptSeveral(dialog, names);
     }

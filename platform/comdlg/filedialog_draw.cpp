@@ -11,6 +11,7 @@ namespace {
 constexpr int kIcon = 16;
 constexpr int kGap = 3;
 constexpr int kLevel = 10;  ///< pixels that a level of the list of folders is indented
+constexpr int kLeastName = 60;
 constexpr int kUnmixed = -1;
 
 /// colour: the system colour that is mixed in, or kUnmixed.
@@ -36,24 +37,44 @@ void DrawUpButton(const DRAWITEMSTRUCT& item) {
     }
 }
 
-void DrawName(const DRAWITEMSTRUCT& item, const Row& row, int indent, bool open) {
-    const bool selected = (item.itemState & ODS_SELECTED) != 0;
+int WidthOf(HDC context, const std::string& text) {
     SIZE size{};
-    GetTextExtentPoint32A(item.hDC, row.name.c_str(), static_cast<int>(row.name.size()), &size);
+    GetTextExtentPoint32A(context, text.c_str(), static_cast<int>(text.size()), &size);
+    return size.cx;
+}
+
+/// A path with the first folders left out that there is no room for ("C:\\...\\three").
+std::string Shortened(HDC context, const std::string& path, int room) {
+    const std::size_t root = path.find('\\');
+    if (root == path.npos || WidthOf(context, path) <= room) {
+        return path;
+    }
+    const std::string start = path.substr(0, root) + "\\...";
+    std::size_t rest = path.find('\\', root + 1);
+    while (rest != path.npos && WidthOf(context, start + path.substr(rest)) > room &&
+           path.find('\\', rest + 1) != path.npos) {
+        rest = path.find('\\', rest + 1);
+    }
+    return rest == path.npos ? path : start + path.substr(rest);
+}
+
+void DrawName(const DRAWITEMSTRUCT& item, const Row& row, const std::string& name, int indent, bool open) {
+    const bool selected = (item.itemState & ODS_SELECTED) != 0;
+    const int width = WidthOf(item.hDC, name);
     FillRect(item.hDC, &item.rcItem, GetSysColorBrush(COLOR_WINDOW));
     const int y = (item.rcItem.top + item.rcItem.bottom - kIcon) / 2;
     const int x = item.rcItem.left + 2 + indent;
     DrawPicture(item, shell::PictureOf(row.place, open), x, y, selected ? COLOR_HIGHLIGHT : kUnmixed);
     RECT label = item.rcItem;
     label.left = x + kIcon + kGap;
-    label.right = std::min<LONG>(label.left + size.cx + 4, item.rcItem.right);
+    label.right = std::min<LONG>(label.left + width + 4, item.rcItem.right);
     SetBkColor(item.hDC, GetSysColor(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
     SetTextColor(item.hDC, GetSysColor(selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
     FillRect(item.hDC, &label, GetSysColorBrush(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
     RECT text = label;
     InflateRect(&text, -2, 0);
     // A name that is too long for its column shows that there is more of it.
-    DrawTextA(item.hDC, row.name.c_str(), static_cast<int>(row.name.size()), &text,
+    DrawTextA(item.hDC, name.c_str(), static_cast<int>(name.size()), &text,
               DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
     if (item.itemState & ODS_FOCUS) {
         DrawFocusRect(item.hDC, &label);
@@ -75,9 +96,11 @@ void DrawRow(const FileDialog& dialog, const DRAWITEMSTRUCT& item) {
     const std::vector<Row>& rows = folders ? dialog.folders : dialog.items;
     if (item.itemID < rows.size()) {
         const Row& row = rows[item.itemID];
-        // In its closed state the list of folders shows no levels.
-        const bool inEdit = (item.itemState & ODS_COMBOBOXEDIT) != 0;
-        DrawName(item, row, folders && !inEdit ? row.depth * kLevel : 0, folders);
+        // In its closed state the list of folders shows no levels, from which one could tell where the folder lies.
+        const bool closed = folders && (item.itemState & ODS_COMBOBOXEDIT) != 0;
+        const int room = item.rcItem.right - item.rcItem.left - kIcon - kGap - 6;
+        DrawName(item, row, closed ? Shortened(item.hDC, PathOrName(row.place), room) : row.name,
+                 folders && !closed ? row.depth * kLevel : 0, folders);
     } else {
         // A folder without items shows nothing, also where the focus is.
         FillRect(item.hDC, &item.rcItem, GetSysColorBrush(COLOR_WINDOW));
@@ -88,17 +111,24 @@ int ColumnWidth(const FileDialog& dialog) {
     const HWND list = dialog.Control(lst1);
     const HDC context = GetDC(list);
     const HGDIOBJ font = SelectObject(context, reinterpret_cast<HFONT>(SendMessageA(list, WM_GETFONT, 0, 0)));
-    LONG widest = 60;
+    std::vector<int> widths{kLeastName};
     for (const Row& row : dialog.items) {
-        SIZE size{};
-        GetTextExtentPoint32A(context, row.name.c_str(), static_cast<int>(row.name.size()), &size);
-        widest = std::max(widest, size.cx);
+        widths.push_back(WidthOf(context, row.name));
     }
     SelectObject(context, font);
     ReleaseDC(list, context);
     RECT client{};
     GetClientRect(list, &client);
-    return std::min<int>(widest + kIcon + kGap + 12, std::max<int>(client.right, 60));
+    std::sort(widths.begin(), widths.end());
+    constexpr int kBesides = kIcon + kGap + 12;
+    int widest = widths.back() + kBesides;
+    const auto rows = static_cast<std::size_t>(std::max<LONG>(client.bottom / (kIcon + 1), 1));
+    if (dialog.items.size() > rows) {
+        // Of those that take more than a third of the list, one name in ten must not make all columns wide.
+        const int most = widths[(widths.size() - 1) * 9 / 10] + kBesides;
+        widest = std::min(widest, std::max<int>(most, client.right / 3));
+    }
+    return std::min<int>(widest, std::max<int>(client.right, kLeastName));
 }
 
 }  // namespace platform::comdlg

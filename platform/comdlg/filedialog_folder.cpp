@@ -8,10 +8,11 @@ namespace platform::comdlg {
 namespace {
 
 /// Folders, and the files that fit the patterns, each kind by name.
-bool ListFolder(const FileDialog& dialog, const shell::Place& folder, std::vector<Row>& rows) {
+HRESULT ListFolder(const FileDialog& dialog, const shell::Place& folder, std::vector<Row>& rows) {
     shell::Listing listing;
-    if (FAILED(shell::ListItems(folder, SHCONTF_FOLDERS | SHCONTF_NONFOLDERS, listing))) {
-        return false;
+    const HRESULT result = shell::ListItems(folder, SHCONTF_FOLDERS | SHCONTF_NONFOLDERS, listing);
+    if (FAILED(result)) {
+        return result;
     }
     for (const shell::Listed& listed : listing) {
         auto place = shell::PlaceBelow(folder, listed.AsItem());
@@ -27,7 +28,7 @@ bool ListFolder(const FileDialog& dialog, const shell::Place& folder, std::vecto
                    ? a.place.kind < b.place.kind
                    : a.place.kind != shell::PlaceKind::Drive && lstrcmpiA(a.name.c_str(), b.name.c_str()) < 0;
     });
-    return true;
+    return S_OK;
 }
 
 void ShowItems(FileDialog& dialog) {
@@ -81,39 +82,67 @@ void FillFolders(FileDialog& dialog) {
     }
 }
 
-bool Refresh(FileDialog& dialog) {
+HRESULT Refresh(FileDialog& dialog) {
     std::vector<Row> rows;
-    if (!ListFolder(dialog, dialog.Folder(), rows)) {
-        return false;
+    const HRESULT result = ListFolder(dialog, dialog.Folder(), rows);
+    if (SUCCEEDED(result)) {
+        dialog.items = std::move(rows);
+        ShowItems(dialog);
     }
-    dialog.items = std::move(rows);
-    ShowItems(dialog);
-    return true;
+    return result;
 }
 
-bool GoTo(FileDialog& dialog, std::vector<shell::Place> trail) {
+HRESULT GoTo(FileDialog& dialog, std::vector<shell::Place> trail) {
     std::vector<Row> rows;
-    if (trail.empty() || !trail.back().IsFolder() || !ListFolder(dialog, trail.back(), rows)) {
-        return false;
+    const bool isFolder = !trail.empty() && trail.back().IsFolder();
+    const HRESULT result = isFolder ? ListFolder(dialog, trail.back(), rows) : kNoFolder;
+    if (FAILED(result)) {
+        return result;
     }
     dialog.trail = std::move(trail);
     dialog.items = std::move(rows);
     ShowItems(dialog);
     FillFolders(dialog);
     EnableWindow(dialog.Control(kUpButton), dialog.trail.size() > 1);
-    return true;
+    TellHook(dialog, CDN_FOLDERCHANGE);
+    return S_OK;
 }
 
-bool GoUp(FileDialog& dialog) {
-    std::vector<shell::Place> trail = dialog.trail;
-    trail.pop_back();
-    return GoTo(dialog, std::move(trail));
+void TryGoTo(FileDialog& dialog, std::vector<shell::Place> trail) {
+    const std::string name = trail.empty() ? std::string() : PathOrName(trail.back());
+    const HRESULT result = GoTo(dialog, std::move(trail));
+    if (FAILED(result)) {
+        FillFolders(dialog);
+        TellNotAccessible(dialog, name, result);
+    }
 }
 
-bool GoInto(FileDialog& dialog, std::size_t row) {
-    std::vector<shell::Place> trail = dialog.trail;
-    trail.push_back(dialog.items[row].place);
-    return GoTo(dialog, std::move(trail));
+void GoUp(FileDialog& dialog) {
+    if (dialog.trail.size() > 1) {
+        TryGoTo(dialog, {dialog.trail.begin(), dialog.trail.end() - 1});
+    }
+}
+
+std::string PathOrName(const shell::Place& place) {
+    return place.kind == shell::PlaceKind::Folder || place.kind == shell::PlaceKind::File ? place.path
+                                                                                          : shell::DisplayName(place);
+}
+
+HRESULT WhyUnreachable(const std::string& path) {
+    for (std::string above = path;;) {
+        const std::size_t end = above.find_last_not_of("\\/");
+        const std::size_t at = end == above.npos ? above.npos : above.find_last_of("\\/", end);
+        if (at == above.npos) {
+            return kNoFolder;
+        }
+        above.resize(at + 1);
+        const std::vector<shell::Place> trail = TrailOf(above);
+        if (!trail.empty()) {
+            shell::Listing unused;
+            const HRESULT result = shell::ListItems(trail.back(), SHCONTF_FOLDERS, unused);
+            return FAILED(result) ? result : kNoFolder;
+        }
+    }
 }
 
 std::vector<shell::Place> TrailOf(const std::string& path) {

@@ -1,6 +1,6 @@
 // The application's hook: a child dialog with the hook as its procedure.
 #include "comdlg/filedialog.h"
-#include "user/dialog.h"
+#include "user/dialog/dialog.h"
 
 namespace platform::comdlg {
 namespace {
@@ -27,11 +27,11 @@ void CreateHook(FileDialog& dialog) {
                                                  reinterpret_cast<LPARAM>(&dialog.record), false, nullptr);
 }
 
-void TellHookInitDone(FileDialog& dialog) {
+bool TellHook(FileDialog& dialog, UINT code) {
     OFNOTIFYA notification{};
-    notification.hdr = {dialog.window, 0, CDN_INITDONE};
+    notification.hdr = {dialog.window, 0, code};
     notification.lpOFN = &dialog.record;
-    Ask(dialog, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&notification));
+    return Ask(dialog, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&notification));
 }
 
 bool HookRefuses(FileDialog& dialog) {

@@ -92,6 +92,7 @@ void OnSelection(FileDialog& dialog) {
     if (!names.empty()) {
         SetDlgItemTextA(dialog.window, edt1, JoinNames(names).c_str());
     }
+    TellHook(dialog, CDN_SELCHANGE);
 }
 
 }  // namespace platform::comdlg

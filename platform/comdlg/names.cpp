@@ -4,7 +4,7 @@
 #include <cctype>
 #include <cstring>
 
-#include "kernel/wildcards.h"
+#include "kernel/files/wildcards.h"
 
 namespace platform::comdlg {
 namespace {

@@ -3,9 +3,10 @@
 ///
 /// The dialog is the Explorer-style one, whether or not OFN_EXPLORER is given; a hook procedure is called only with it. The
 /// hook is the dialog procedure of a child of the dialog: it gets WM_INITDIALOG with the OPENFILENAME record as lParam,
-/// WM_NOTIFY with an OFNOTIFY record and CDN_INITDONE when the dialog stands, and when a name was chosen the registered message
-/// FILEOKSTRING with the record as lParam; it refuses the name by a result other than 0. The dialog has no box for opening
-/// files to be read only (OFN_HIDEREADONLY or not) and adds no extension to a name (lpstrDefExt).
+/// WM_NOTIFY with an OFNOTIFY record, and when a name was chosen the registered message FILEOKSTRING with the record as lParam.
+/// It refuses a name, for CDN_FILEOK and for FILEOKSTRING, by a result other than 0 with DWL_MSGRESULT set to one other than 0.
+/// The dialog has no box for opening files to be read only (OFN_HIDEREADONLY or not) and adds no extension to a name
+/// (lpstrDefExt).
 #pragma once
 
 #include "cderr.h"
@@ -55,6 +56,10 @@ typedef struct tagOFNA {
 
 #define CDN_FIRST (0U - 601U)
 #define CDN_INITDONE (CDN_FIRST - 0)
+#define CDN_SELCHANGE (CDN_FIRST - 1)
+#define CDN_FOLDERCHANGE (CDN_FIRST - 2)
+#define CDN_FILEOK (CDN_FIRST - 5)
+#define CDN_TYPECHANGE (CDN_FIRST - 6)
 
 typedef struct _OFNOTIFYA {
     NMHDR hdr;

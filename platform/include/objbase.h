@@ -5,6 +5,8 @@
 #include "guiddef.h"
 #include "winerror.h"
 
+#define interface struct
+
 #ifdef __cplusplus
 
 #define STDMETHOD(method) virtual HRESULT STDMETHODCALLTYPE method

@@ -22,8 +22,13 @@
 #define CALLBACK
 #define APIENTRY
 #define STDMETHODCALLTYPE
-#define FAR
-#define NEAR
+// Words of the 16-bit days, which mean nothing any more: a variable of such a name fails here as it does on Windows.
+#define far
+#define near
+#define pascal
+#define cdecl
+#define FAR far
+#define NEAR near
 #define CONST const
 #define IN
 #define OUT

@@ -1,10 +1,12 @@
 /// @file guarded.h
-/// No exception leaves the layer.
+/// How calls of the API end: no exception leaves the layer, and text goes into the caller's buffer.
 #pragma once
 
 #include <windows.h>
 
+#include <cstring>
 #include <exception>
+#include <string>
 
 namespace platform::kernel {
 
@@ -17,6 +19,16 @@ Result Guarded(Result neutral, Call call) {
         SetLastError(ERROR_NOT_ENOUGH_MEMORY);
         return neutral;
     }
+}
+
+/// Copies a text with its end where it fits. @returns its length, or the size that the buffer needs.
+inline DWORD CopyOut(const std::string& text, LPSTR buffer, DWORD size) {
+    const auto length = static_cast<DWORD>(text.size());
+    if (!buffer || length >= size) {
+        return length + 1;
+    }
+    std::memcpy(buffer, text.c_str(), length + 1);
+    return length;
 }
 
 }  // namespace platform::kernel

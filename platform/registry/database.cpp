@@ -5,13 +5,14 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <chrono>
 #include <iterator>
 #include <thread>
 
 #include "base/report.h"
 #include "base/state.h"
-#include "kernel/encoding.h"
+#include "kernel/text/encoding.h"
 
 namespace platform::registry {
 namespace {
@@ -53,36 +54,47 @@ constexpr const char* kQueries[] = {
 };
 static_assert(std::size(kQueries) == static_cast<std::size_t>(Query::Count));
 
-// Waits for another process's transaction, which is over in microseconds unless that process stands still.
-int WaitForOthers(void*, int tries) {
-    thread_local std::chrono::steady_clock::time_point start;
-    const auto now = std::chrono::steady_clock::now();
-    if (tries == 0) {
-        start = now;
+// Does something again for as long as another process is in its way, which is over in microseconds unless that process
+// stands still. All waiting is done here and SQLite is told of none, as it does not wait for everything: switching a
+// database to write-ahead mode fails at once while another process so much as looks at it.
+template <class Run>
+int Patiently(Run run) {
+    using Clock = std::chrono::steady_clock;
+    int code = run();
+    const auto start = code == SQLITE_BUSY ? Clock::now() : Clock::time_point();
+    for (int tries = 0; code == SQLITE_BUSY && Clock::now() - start < kPatience; ++tries) {
+        std::this_thread::sleep_for(std::chrono::microseconds(tries < 10 ? 20 : 500));
+        code = run();
     }
-    if (now - start > kPatience) {
-        return 0;
-    }
-    std::this_thread::sleep_for(std::chrono::microseconds(tries < 10 ? 20 : 500));
-    return 1;
+    return code;
 }
 
 }  // namespace
 
+int Statement::StepPatiently() {
+    begun_ = true;
+    return Patiently([this] {
+        sqlite3_reset(statement_);
+        return sqlite3_step(statement_);
+    });
+}
+
 int Database::Execute(const char* text) {
-    return sqlite3_exec(connection_, text, nullptr, nullptr, nullptr);
+    return Patiently([&] { return sqlite3_exec(connection_, text, nullptr, nullptr, nullptr); });
 }
 
 int Database::ReadNumber(const char* pragma, int* number) {
-    sqlite3_stmt* statement = nullptr;
-    int code = sqlite3_prepare_v2(connection_, pragma, -1, &statement, nullptr);
-    if (code == SQLITE_OK) {
-        code = sqlite3_step(statement);
-        *number = code == SQLITE_ROW ? sqlite3_column_int(statement, 0) : 0;
-        code = code == SQLITE_ROW ? SQLITE_OK : code;
-    }
-    sqlite3_finalize(statement);
-    return code;
+    return Patiently([&] {
+        sqlite3_stmt* statement = nullptr;
+        int code = sqlite3_prepare_v2(connection_, pragma, -1, &statement, nullptr);
+        if (code == SQLITE_OK) {
+            code = sqlite3_step(statement);
+            *number = code == SQLITE_ROW ? sqlite3_column_int(statement, 0) : 0;
+            code = code == SQLITE_ROW ? SQLITE_OK : code;
+        }
+        sqlite3_finalize(statement);
+        return code;
+    });
 }
 
 // Whom the system is registered to, as its installation asks: the host knows the name.
@@ -111,13 +123,19 @@ int Database::NameOwner() {
     return code == SQLITE_DONE ? SQLITE_OK : code;
 }
 
+int Database::Look(Contents* contents) {
+    int code = ReadNumber("PRAGMA user_version", &contents->version);
+    code = code == SQLITE_OK ? ReadNumber("PRAGMA application_id", &contents->application) : code;
+    return code == SQLITE_OK ? ReadNumber("SELECT count(*) FROM sqlite_schema", &contents->tables) : code;
+}
+
 // Several processes may come here at once: the first one makes everything, in one transaction.
 int Database::MakeSchema() {
     int code = Execute("PRAGMA journal_mode = WAL");
     code = code == SQLITE_OK ? Execute("BEGIN IMMEDIATE") : code;
-    int version = 0;
-    code = code == SQLITE_OK ? ReadNumber("PRAGMA user_version", &version) : code;
-    if (code == SQLITE_OK && version == 0) {
+    Contents contents;
+    code = code == SQLITE_OK ? Look(&contents) : code;
+    if (code == SQLITE_OK && contents.AreNew()) {
         code = Execute(kSchema);
         code = code == SQLITE_OK ? NameOwner() : code;
     }
@@ -129,23 +147,25 @@ int Database::MakeSchema() {
 }
 
 int Database::Prepare() {
-    sqlite3_busy_handler(connection_, WaitForOthers, nullptr);
     sqlite3_extended_result_codes(connection_, 0);
     // The log is flushed before it is copied into the file, which is enough to keep the file sound.
     int code = Execute("PRAGMA synchronous = NORMAL; PRAGMA wal_autocheckpoint = 2000");
-    int version = 0;
-    int application = 0;
-    int tables = 0;
-    code = code == SQLITE_OK ? ReadNumber("PRAGMA user_version", &version) : code;
-    code = code == SQLITE_OK ? ReadNumber("PRAGMA application_id", &application) : code;
-    code = code == SQLITE_OK ? ReadNumber("SELECT count(*) FROM sqlite_schema", &tables) : code;
-    if (code != SQLITE_OK) {
-        return code;
+    // All that tells what the file is must be of one moment: another process may be making it.
+    Contents contents;
+    const auto look = [&] {
+        code = code == SQLITE_OK ? Execute("BEGIN") : code;
+        code = code == SQLITE_OK ? Look(&contents) : code;
+        if (!sqlite3_get_autocommit(connection_)) {
+            Execute("COMMIT");
+        }
+    };
+    look();
+    if (code == SQLITE_OK && contents.AreNew()) {
+        code = MakeSchema();
+        look();
     }
-    if (version == 0 && application == 0 && tables == 0) {
-        return MakeSchema();
-    }
-    return version == kVersion && application == kApplication ? SQLITE_OK : SQLITE_NOTADB;
+    const bool ours = contents.version == kVersion && contents.application == kApplication;
+    return code == SQLITE_OK && !ours ? SQLITE_NOTADB : code;
 }
 
 void Database::FindHead() {
@@ -248,17 +268,33 @@ Statement Database::Use(Query query) {
     const auto index = static_cast<std::size_t>(query);
     int code = SQLITE_OK;
     if (!statements_[index]) {
-        code = sqlite3_prepare_v3(connection_, kQueries[index], -1, SQLITE_PREPARE_PERSISTENT, &statements_[index],
-                                  nullptr);
+        code = Patiently([&] {
+            return sqlite3_prepare_v3(connection_, kQueries[index], -1, SQLITE_PREPARE_PERSISTENT, &statements_[index],
+                                      nullptr);
+        });
     }
     return {statements_[index], code};
+}
+
+// The host has more ways to say that there is no room than SQLite knows.
+bool Database::HasNoRoom() const {
+    sqlite3_file* log = nullptr;
+    int errors[2] = {};
+    sqlite3_file_control(connection_, "main", SQLITE_FCNTL_LAST_ERRNO, &errors[0]);
+    sqlite3_file_control(connection_, "main", SQLITE_FCNTL_JOURNAL_POINTER, &log);
+    if (log && log->pMethods) {
+        log->pMethods->xFileControl(log, SQLITE_FCNTL_LAST_ERRNO, &errors[1]);
+    }
+    return std::any_of(std::begin(errors), std::end(errors),
+                       [](int error) { return error == ENOSPC || error == EDQUOT || error == EFBIG; });
 }
 
 LONG Database::Failure(int code) const {
     const auto report = [this](const char* what) {
         base::ReportOnce((std::string("the registry ") + path_ + " " + what).c_str());
     };
-    switch (code & 0xFF) {
+    const int number = code & 0xFF;
+    switch (number == SQLITE_IOERR && connection_ && HasNoRoom() ? SQLITE_FULL : number) {
         case SQLITE_OK:
         case SQLITE_ROW:
         case SQLITE_DONE:
@@ -269,6 +305,7 @@ LONG Database::Failure(int code) const {
             return ERROR_INVALID_PARAMETER;
         case SQLITE_BUSY:
         case SQLITE_LOCKED:
+        case SQLITE_PROTOCOL:  // it has tried to begin reading for ten seconds
             report("is held by another process");
             return ERROR_BUSY;
         case SQLITE_FULL:

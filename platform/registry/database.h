@@ -49,22 +49,29 @@ class Statement {
     }
 
     Statement& Bind(int place, std::int64_t number) {
-        sqlite3_bind_int64(statement_, place, number);
-        return *this;
+        return Keep(sqlite3_bind_int64(statement_, place, number));
     }
     /// The text must stay as it is while the statement runs.
     Statement& Bind(int place, std::string_view text) {
-        sqlite3_bind_text64(statement_, place, text.data() ? text.data() : "", text.size(), SQLITE_STATIC, SQLITE_UTF8);
-        return *this;
+        return Keep(sqlite3_bind_text64(statement_, place, text.data() ? text.data() : "", text.size(), SQLITE_STATIC,
+                                        SQLITE_UTF8));
     }
     Statement& BindBytes(int place, std::string_view bytes) {
-        sqlite3_bind_blob64(statement_, place, bytes.data() ? bytes.data() : "", bytes.size(), SQLITE_STATIC);
-        return *this;
+        return Keep(
+            sqlite3_bind_blob64(statement_, place, bytes.data() ? bytes.data() : "", bytes.size(), SQLITE_STATIC));
     }
 
-    /// @returns SQLITE_ROW, SQLITE_DONE or a failure.
+    /// Waits for other processes where it must. @returns SQLITE_ROW, SQLITE_DONE or a failure.
     int Step() {
-        return statement_ ? sqlite3_step(statement_) : failure_;
+        if (failure_ != SQLITE_OK) {
+            return failure_;
+        }
+        const int code = sqlite3_step(statement_);
+        if (code == SQLITE_BUSY && !begun_) {
+            return StepPatiently();
+        }
+        begun_ = true;
+        return code;
     }
 
     std::int64_t Number(int column) const {
@@ -77,8 +84,15 @@ class Statement {
     }
 
   private:
+    int StepPatiently();
+    Statement& Keep(int code) {
+        failure_ = failure_ == SQLITE_OK ? code : failure_;
+        return *this;
+    }
+
     sqlite3_stmt* statement_;
-    int failure_;  ///< why there is no statement
+    int failure_;  ///< why there is no statement, or none that can run
+    bool begun_ = false;
 };
 
 class Database {
@@ -125,12 +139,22 @@ class Database {
     explicit Database(std::string path) : path_(std::move(path)) {}
     LONG Connect();
     LONG ConnectFrozen();
+    struct Contents {
+        int version = 0;
+        int application = 0;
+        int tables = 0;
+        bool AreNew() const {
+            return version == 0 && application == 0 && tables == 0;
+        }
+    };
     int Prepare();
+    int Look(Contents* contents);
     int MakeSchema();
     int NameOwner();
     int Execute(const char* text);
     int ReadNumber(const char* pragma, int* number);
     void FindHead();
+    bool HasNoRoom() const;
     void Close();
 
     std::string path_;

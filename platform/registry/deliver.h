@@ -16,10 +16,13 @@ inline bool IsText(DWORD type) {
 }
 
 /// Hands over a name. @param size  bytes of the buffer; becomes the length without the NUL. @returns ERROR_MORE_DATA
-/// when it does not fit, with nothing written.
+/// when it does not fit, with nothing written; ERROR_NOACCESS for memory that is none.
 inline LONG DeliverName(const std::string& name, LPSTR buffer, LPDWORD size) {
     if (name.size() >= *size) {
         return ERROR_MORE_DATA;
+    }
+    if (IsBadWritePtr(buffer, name.size() + 1)) {
+        return ERROR_NOACCESS;
     }
     std::memcpy(buffer, name.c_str(), name.size() + 1);
     *size = static_cast<DWORD>(name.size());
@@ -51,6 +54,9 @@ inline LONG DeliverData(const Value& value, LPDWORD type, LPBYTE data, LPDWORD s
     }
     if (value.data.size() > room) {
         return ERROR_MORE_DATA;
+    }
+    if (IsBadWritePtr(data, value.data.size())) {
+        return ERROR_NOACCESS;
     }
     std::memcpy(data, value.data.data(), value.data.size());
     if (IsText(value.type) && value.data.size() < room && !value.data.ends_with('\0')) {

@@ -14,6 +14,9 @@ LONG WINAPI RegEnumKeyExA(HKEY key, DWORD index, LPSTR name, LPDWORD size, LPDWO
     if (!name || !size || reserved || (className && !classSize)) {
         return ERROR_INVALID_PARAMETER;
     }
+    if (!AreGood(size, classSize, lastWrite)) {
+        return ERROR_NOACCESS;
+    }
     return OnKey(key, KEY_ENUMERATE_SUB_KEYS, [&](Store& store, KeyId id) -> LONG {
         const std::vector<ListedKey>* list = nullptr;
         LONG error = store.ListKeys(id, &list);
@@ -43,6 +46,9 @@ LONG WINAPI RegEnumValueA(HKEY key, DWORD index, LPSTR name, LPDWORD nameSize, L
                           LPBYTE data, LPDWORD dataSize) {
     if (!name || !nameSize || reserved || (data && !dataSize)) {
         return ERROR_INVALID_PARAMETER;
+    }
+    if (!AreGood(nameSize, type, dataSize)) {
+        return ERROR_NOACCESS;
     }
     return OnKey(key, KEY_QUERY_VALUE, [&](Store& store, KeyId id) -> LONG {
         const std::vector<std::string>* list = nullptr;

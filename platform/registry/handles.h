@@ -4,8 +4,8 @@
 
 #include <windows.h>
 
+#include "kernel/memory/probe.h"
 #include "registry/database.h"
-
 #include "registry/store.h"
 
 namespace platform::registry {
@@ -19,6 +19,17 @@ LONG FindHandleKey(HKEY handle, REGSAM needed, KeyId* key);
 
 /// @returns ERROR_INVALID_HANDLE for what is no open key; closing a root does nothing.
 LONG CloseHandleKey(HKEY handle);
+
+/// Whether an optional name that a caller gave can be read.
+inline bool IsGood(LPCSTR name) {
+    return !name || kernel::IsReadableText(name);
+}
+
+/// Whether optional places for results can be written.
+template <class... Results>
+bool AreGood(Results*... results) {
+    return !((results && IsBadWritePtr(results, sizeof(Results))) || ...);
+}
 
 /// Runs a call of the API: no exception leaves it.
 template <class Call>

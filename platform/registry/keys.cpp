@@ -21,6 +21,9 @@ LONG WINAPI RegCreateKeyExA(HKEY key, LPCSTR subkey, DWORD reserved, LPSTR class
     if (!result || reserved || options != REG_OPTION_NON_VOLATILE) {
         return ERROR_INVALID_PARAMETER;
     }
+    if (!IsGood(subkey) || !IsGood(className) || !AreGood(result, disposition)) {
+        return ERROR_NOACCESS;
+    }
     return Answer([&]() -> LONG {
         KeyId from = 0;
         KeyId found = 0;
@@ -50,6 +53,9 @@ LONG WINAPI RegOpenKeyExA(HKEY key, LPCSTR subkey, DWORD, REGSAM access, PHKEY r
     if (!result) {
         return ERROR_INVALID_PARAMETER;
     }
+    if (!IsGood(subkey) || !AreGood(result)) {
+        return ERROR_NOACCESS;
+    }
     *result = nullptr;
     return Answer([&]() -> LONG {
         KeyId from = 0;
@@ -68,6 +74,9 @@ LONG WINAPI RegOpenKeyExA(HKEY key, LPCSTR subkey, DWORD, REGSAM access, PHKEY r
 LONG WINAPI RegDeleteKeyA(HKEY key, LPCSTR subkey) {
     if (!subkey) {
         return ERROR_INVALID_PARAMETER;
+    }
+    if (!IsGood(subkey)) {
+        return ERROR_NOACCESS;
     }
     return Answer([&]() -> LONG {
         KeyId from = 0;

@@ -1,6 +1,6 @@
 #include "registry/names.h"
 
-#include "kernel/encoding.h"
+#include "kernel/text/encoding.h"
 
 namespace platform::registry {
 

@@ -5,7 +5,7 @@
 #include <cstdlib>
 
 #include "base/state.h"
-#include "kernel/encoding.h"
+#include "kernel/text/encoding.h"
 #include "registry/names.h"
 
 namespace platform::registry {

@@ -12,7 +12,7 @@
 #include <cstring>
 #include <memory>
 
-#include "kernel/encoding.h"
+#include "kernel/text/encoding.h"
 
 namespace platform::shell {
 namespace {

@@ -1,7 +1,7 @@
 // The drives of the computer: C in the state folder, Z the host, and others where the state folder holds them.
 #include <sys/stat.h>
 
-#include "kernel/hostfile.h"
+#include "kernel/files/hostfile.h"
 #include "shell/place.h"
 
 namespace platform::shell {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "kernel/encoding.h"
+#include "kernel/text/encoding.h"
 #include "shell/directory.h"
 #include "shell/live.h"
 

@@ -5,7 +5,7 @@
 #include <mutex>
 
 #include "comctl/imagelist.h"
-#include "gdi/bitmaps.h"
+#include "gdi/bitmap/bitmaps.h"
 
 namespace platform::shell {
 namespace {

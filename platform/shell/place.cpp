@@ -3,21 +3,14 @@
 #include <algorithm>
 #include <cctype>
 
-#include "kernel/encoding.h"
-#include "kernel/hostpath.h"
+#include "kernel/text/encoding.h"
+#include "kernel/files/hostfile.h"
 #include "shell/directory.h"
 
 namespace platform::shell {
 namespace {
 
 constexpr char kComputerClass[] = "::{20D04FE0-3AEA-1069-A2D8-08002B30309D}";
-
-std::string WithoutSlash(std::string path) {
-    while (!path.empty() && path.back() == '/') {
-        path.pop_back();
-    }
-    return path;
-}
 
 std::string Joined(const std::string& path, const std::string& name) {
     return path.ends_with('\\') ? path + name : path + '\\' + name;
@@ -68,6 +61,13 @@ Place ComputerPlace() {
     return {PlaceKind::Computer, {}, {}, false};
 }
 
+/// Where a drive lies, also one without a medium.
+std::string DriveHost(char letter) {
+    std::string folder;
+    kernel::DriveFolder(letter, &folder);
+    return folder;
+}
+
 }  // namespace
 
 std::string HostDirectory(const Place& place) {
@@ -75,7 +75,7 @@ std::string HostDirectory(const Place& place) {
 }
 
 Place DesktopPlace() {
-    return {PlaceKind::Desktop, WithoutSlash(kernel::HostPath("C:\\WINDOWS\\Desktop")), "C:\\WINDOWS\\Desktop", false};
+    return {PlaceKind::Desktop, DriveHost('C') + "/WINDOWS/Desktop", "C:\\WINDOWS\\Desktop", false};
 }
 
 std::optional<Place> PlaceBelow(const Place& folder, const Item& item) {
@@ -89,8 +89,7 @@ std::optional<Place> PlaceBelow(const Place& folder, const Item& item) {
             if (folder.kind != PlaceKind::Computer) {
                 return std::nullopt;
             }
-            const std::string root = std::string(item.name) + ":\\";
-            return Place{PlaceKind::Drive, WithoutSlash(kernel::HostPath(root)), root, false};
+            return Place{PlaceKind::Drive, DriveHost(item.name[0]), std::string(item.name) + ":\\", false};
         }
         case ItemKind::Folder:
         case ItemKind::File:

@@ -8,6 +8,7 @@
 #include "tests/support/window.h"
 
 #include <commdlg.h>
+#include <dlgs.h>
 
 #include <gtest/gtest.h>
 
@@ -42,20 +43,43 @@ std::string SpecsOf(HWND button) {
     return BROWSE_GetFileSpecs(button, &specs) ? specs : "(none)";
 }
 
-/// What is done to the folder dialog once it is open.
+/// A folder that the folder dialog can give: any, or a root where the shell's names are wide.
+std::string Choosable(TempFolder const& folder, std::string const& name) {
+    TestWindow host;
+    HWND const tree = Create(TREELIST_CLASSNAME, host, 0, 1);
+    std::string const path = folder.MakeFolder(name);
+    return folder_tree::Found(tree, path).empty() ? path.substr(0, 3) : path;
+}
+
+constexpr char kFolderDialog[] = "Browse for Folder";
+constexpr char kFileDialog[] = "Browse";
+
+/// What is done to a dialog once it is open.
 std::function<void(HWND)> g_act;
+char const* g_title;
 
 void CALLBACK Act(HWND, UINT, UINT_PTR timer, DWORD) {
-    HWND const dialog = FindWindowA("#32770", "Browse for Folder");
+    HWND const dialog = FindWindowA("#32770", g_title);
     if (dialog && IsWindowVisible(dialog)) {
         KillTimer(nullptr, timer);
         g_act(dialog);
     }
 }
 
-void WhenOpen(std::function<void(HWND)> act) {
+void WhenOpen(std::function<void(HWND)> act, char const* title = kFolderDialog) {
     g_act = std::move(act);
+    g_title = title;
     SetTimer(nullptr, 0, 10, Act);
+}
+
+/// Types a name into the open-file dialog and accepts it.
+void ChooseFile(std::string const& name) {
+    WhenOpen(
+        [=](HWND dialog) {
+            SendMessageA(dialog, CDM_SETCONTROLTEXT, edt1, reinterpret_cast<LPARAM>(name.c_str()));
+            PostMessageA(dialog, WM_COMMAND, IDOK, 0);
+        },
+        kFileDialog);
 }
 
 void SelectByKey(HWND tree, std::string const& folder) {
@@ -145,11 +169,8 @@ TEST_F(BrowseButton, ClicksThatOpenNothing) {
 }
 
 TEST_F(BrowseButton, AChosenFolderComesInSmallLettersAndTheParentIsTold) {
-    if (folder_tree::NamesAreWide()) {
-        GTEST_SKIP() << folder_tree::kWideNames;
-    }
     TempFolder const folder;
-    std::string const path = folder.MakeFolder("Chosen");
+    std::string const path = Choosable(folder, "Chosen");
     folder.MakeFolder("Before");
     HWND const edit = Create("edit", host_, 0, kBuddyId);
     SetWindowTextA(edit, "old");
@@ -158,8 +179,11 @@ TEST_F(BrowseButton, AChosenFolderComesInSmallLettersAndTheParentIsTold) {
     bool disabledAtFirst = false;
     bool enabledLater = false;
     WhenOpen([&](HWND dialog) {
+        HWND const tree = GetDlgItem(dialog, 102);
         disabledAtFirst = !IsWindowEnabled(GetDlgItem(dialog, IDOK));
-        SelectByKey(GetDlgItem(dialog, 102), path);
+        SelectByKey(tree, folder.Path("Before"));
+        EXPECT_EQ(!folder_tree::Found(tree, folder.Path("Before")).empty(), IsWindowEnabled(GetDlgItem(dialog, IDOK)));
+        SelectByKey(tree, path);
         enabledLater = IsWindowEnabled(GetDlgItem(dialog, IDOK));
         PostMessageA(dialog, WM_COMMAND, IDOK, 0);
     });
@@ -178,11 +202,8 @@ TEST_F(BrowseButton, AChosenFolderComesInSmallLettersAndTheParentIsTold) {
 }
 
 TEST_F(BrowseButton, AppendsToAComboBoxBehindASemicolon) {
-    if (folder_tree::NamesAreWide()) {
-        GTEST_SKIP() << folder_tree::kWideNames;
-    }
     TempFolder const folder;
-    std::string path = folder.MakeFolder("b");
+    std::string path = Choosable(folder, "b");
     HWND const combo = Create("combobox", host_, CBS_DROPDOWN, kBuddyId);
     SetWindowTextA(combo, "first");
     HWND const button = MakeButton(BROWSE_AUTOBUDDY | BROWSE_APPEND);
@@ -197,6 +218,61 @@ TEST_F(BrowseButton, AppendsToAComboBoxBehindASemicolon) {
     auto const codes = CodesFrom(combo);
     ASSERT_FALSE(codes.empty());
     EXPECT_EQ(CBN_EDITCHANGE, codes.back());
+}
+
+constexpr char kLongText[] =
+    "Q:\\a\\folder\\that\\is\\not\\there\\and\\has\\a\\name\\that\\is\\longer\\than\\any\\that\\can\\be\\chosen\\"
+    "in\\these\\tests\\by\\a\\good\\many\\characters\\of\\all\\the\\kinds\\that\\there\\are\\in\\names";
+
+TEST_F(BrowseButton, NothingOfTheOldTextIsLeftBehindAFile) {
+    TempFolder const folder;
+    std::string const file = folder.MakeFile("a.txt");
+    for (char const* buddyClass : {"edit", "combobox", "static"}) {
+        for (DWORD const several : {DWORD{0}, DWORD{BROWSE_MULTISELECT}}) {
+            SCOPED_TRACE(testing::Message() << buddyClass << ' ' << several);
+            HWND const buddy = Create(buddyClass, host_, CBS_DROPDOWN, kBuddyId);
+            HWND const button = MakeButton(BROWSE_FILEMODE | several);
+            BROWSE_SetBuddyWindow(button, buddy);
+            SetWindowTextA(buddy, kLongText);
+            ChooseFile(file);
+            Click(button);
+            EXPECT_EQ(file, TextOf(buddy));
+            EXPECT_EQ(file, SpecsOf(button));
+            DestroyWindow(button);
+            DestroyWindow(buddy);
+        }
+    }
+}
+
+TEST_F(BrowseButton, NothingOfTheOldTextIsLeftBehindAFolder) {
+    TempFolder const folder;
+    std::string const path = Choosable(folder, "b");
+    auto const browse = [&](HWND button) {
+        WhenOpen([&](HWND dialog) {
+            SelectByKey(GetDlgItem(dialog, 102), path);
+            PostMessageA(dialog, WM_COMMAND, IDOK, 0);
+        });
+        Click(button);
+    };
+    std::string lower = path;
+    CharLowerA(lower.data());
+    for (char const* buddyClass : {"edit", "combobox", "static"}) {
+        SCOPED_TRACE(buddyClass);
+        HWND const buddy = Create(buddyClass, host_, CBS_DROPDOWN, kBuddyId);
+        HWND const button = MakeButton(0);
+        BROWSE_SetBuddyWindow(button, buddy);
+        SetWindowTextA(buddy, kLongText);
+        browse(button);
+        EXPECT_EQ(lower, TextOf(buddy));
+
+        // A text ends at its first byte of 0x80 or above when something is appended, and what stood behind that is gone.
+        BROWSE_SetDialogOptions(button, BROWSE_APPEND);
+        SetWindowTextA(buddy, (std::string("C:\\caf\xE9") + kLongText).c_str());
+        browse(button);
+        EXPECT_EQ("C:\\caf;" + lower, TextOf(buddy));
+        DestroyWindow(button);
+        DestroyWindow(buddy);
+    }
 }
 
 TEST_F(BrowseButton, CancelLeavesTheBuddyAlone) {
@@ -242,17 +318,15 @@ TEST_F(BrowseButton, DialogsRefuseWhatTheyCannotUse) {
 }
 
 TEST_F(BrowseButton, ALongPathIsCutAtTheBuffersSize) {
-    if (folder_tree::NamesAreWide()) {
-        GTEST_SKIP() << folder_tree::kWideNames;
-    }
     char buffer[8] = "";
     TempFolder const folder;
+    std::string const path = Choosable(folder, "b");
     WhenOpen([&](HWND dialog) {
-        SelectByKey(GetDlgItem(dialog, 102), folder.Path());
+        SelectByKey(GetDlgItem(dialog, 102), path);
         PostMessageA(dialog, WM_COMMAND, IDOK, 0);
     });
-    EXPECT_TRUE(BROWSE_DisplayBrowseDialog(host_, nullptr, nullptr, buffer, 5, 0));
-    std::string lower = folder.Path().substr(0, 4);
+    EXPECT_TRUE(BROWSE_DisplayBrowseDialog(host_, nullptr, nullptr, buffer, 3, 0));
+    std::string lower = path.substr(0, 2);
     CharLowerA(lower.data());
     EXPECT_EQ(lower, buffer);
 }

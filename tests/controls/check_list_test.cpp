@@ -247,6 +247,10 @@ TEST_F(CheckList, ClickingTicksAndTicksAgain) {
     UpdateWindow(list_);
     EXPECT_FALSE(boxIsTicked(0));
     EXPECT_TRUE(boxIsTicked(1));
+    SetFocus(list_);
+    InvalidateRect(list_, nullptr, TRUE);
+    UpdateWindow(list_);
+    EXPECT_TRUE(boxIsTicked(1)) << "the item with the focus too, drawn anew as a whole";
     click();
     click();
     EXPECT_GT(Ask(LB_GETSEL, 1), 0) << "two quick clicks are two clicks";

@@ -235,6 +235,27 @@ TEST_F(DateField, TensDigitThatBecomesTheFieldJumpsOn) {
     EXPECT_EQ(6, CaretIn("03/09/95"));
 }
 
+// What the manual warns of: each digit is judged by what stands beside it at that moment.
+TEST_F(DateField, ADateTypedOverAnotherOneMayComeOutAsAThird) {
+    Focus();
+    Set(1998, 11, 30);
+    Type("080122");
+    EXPECT_EQ("2028-8-12", Value()) << "the 0 would have left day 0";
+    Set(1975, 5, 5);
+    MoveTo(7);
+    Type("6");
+    EXPECT_EQ("2076-5-5", Value()) << "a year that only looked like one of those that can be typed";
+}
+
+TEST_F(DateField, AMonthThatIsTypedOnTheWayCutsTheDay) {
+    order_.Change("1");
+    Create();
+    Focus();
+    Set(2006, 12, 28);
+    Type("300762");
+    EXPECT_EQ("2062-7-28", Value()) << "30 February on the way to 30 July";
+}
+
 TEST_F(DateField, ImpossibleKeystrokesAreDropped) {
     Set(1995, 10, 10);
     Focus();

@@ -8,39 +8,35 @@
 
 #include <cvutil32/treelist.h>
 
+#include "controls/treelist/tree.h"
+
 #include <string>
 
 namespace folder_tree {
 
-/// Whether this host's shell hands out names as wide texts. The control takes no more of them than fits into four bytes,
-/// so that it cannot follow a path there.
-inline bool NamesAreWide() {
-    IShellFolder* desktop = nullptr;
-    IMalloc* allocator = nullptr;
-    IEnumIDList* items = nullptr;
-    LPITEMIDLIST item = nullptr;
-    STRRET name = {};
-    name.uType = STRRET_CSTR;
-    CoInitialize(nullptr);
-    if (SUCCEEDED(SHGetMalloc(&allocator)) && SUCCEEDED(SHGetDesktopFolder(&desktop)) &&
-        desktop->EnumObjects(nullptr, SHCONTF_FOLDERS, &items) == S_OK && items->Next(1, &item, nullptr) == S_OK) {
-        desktop->GetDisplayNameOf(item, SHGDN_NORMAL, &name);
-        if (name.uType == STRRET_WSTR) {
-            allocator->Free(name.pOleStr);
-        }
-        allocator->Free(item);
-    }
-    if (items) {
-        items->Release();
-    }
-    if (desktop) {
-        desktop->Release();
-    }
-    CoUninitialize();
-    return name.uType == STRRET_WSTR;
-}
+/// A name that the shell gives for an item of a folder, whole, and whether it came as a wide text.
+struct ShellName {
+    std::string text;
+    bool isWide = false;
 
-constexpr char kWideNames[] = "the shell's names are wide";
+    ShellName(IShellFolder* folder, LPCITEMIDLIST item, DWORD form) {
+        STRRET name = {};
+        char buffer[MAX_PATH] = "";
+        if (folder->GetDisplayNameOf(item, form, &name) != S_OK) {
+            return;
+        }
+        isWide = name.uType == STRRET_WSTR;
+        if (isWide) {
+            WideCharToMultiByte(CP_ACP, 0, name.pOleStr, -1, buffer, MAX_PATH, nullptr, nullptr);
+            treelist::Allocator()->Free(name.pOleStr);
+        } else {
+            lstrcpynA(buffer,
+                      name.uType == STRRET_CSTR ? name.cStr : reinterpret_cast<char const*>(item) + name.uOffset,
+                      MAX_PATH);
+        }
+        text = buffer;
+    }
+};
 
 inline HWND TreeViewOf(HWND control) {
     return GetWindow(control, GW_CHILD);
@@ -62,13 +58,6 @@ inline bool Expand(HWND control, HTREEITEM item, WPARAM code = TVE_EXPAND) {
     return Send(control, TVM_EXPAND, code, reinterpret_cast<LPARAM>(item)) != 0;
 }
 
-/// The folder of an item, which becomes the selected one.
-inline std::string FolderOf(HWND control, HTREEITEM item) {
-    char path[MAX_PATH];
-    Select(control, item);
-    return TREELIST_GetFolder(control, path) ? path : "";
-}
-
 inline TVITEMA ItemOf(HWND control, HTREEITEM handle, char* text = nullptr, int size = 0) {
     TVITEMA item = {};
     item.mask = TVIF_PARAM | TVIF_CHILDREN | TVIF_STATE | TVIF_IMAGE | TVIF_SELECTEDIMAGE | (text ? TVIF_TEXT : 0);
@@ -78,6 +67,28 @@ inline TVITEMA ItemOf(HWND control, HTREEITEM handle, char* text = nullptr, int 
     item.cchTextMax = size;
     Send(control, TVM_GETITEMA, 0, reinterpret_cast<LPARAM>(&item));
     return item;
+}
+
+/// The name that the shell gives for an item of the tree.
+inline ShellName ShellNameOf(HWND control, HTREEITEM item, DWORD form) {
+    auto const& record = *reinterpret_cast<treelist::Item const*>(ItemOf(control, item).lParam);
+    return {record.folder, record.relativeId, form};
+}
+
+/// Whether this host's shell gives its names as wide texts. The control's conversion of them has four bytes, so that it
+/// shows no longer names, and finds no longer path.
+inline bool NamesAreWide(HWND control) {
+    return ShellNameOf(control, Next(control, TVGN_ROOT), SHGDN_NORMAL).isWide;
+}
+
+/// What the control shows of a name.
+inline std::string Shown(HWND control, std::string const& name) {
+    return NamesAreWide(control) ? name.substr(0, 4) : name;
+}
+
+/// The path that the control finds for a folder.
+inline std::string Found(HWND control, std::string const& path) {
+    return NamesAreWide(control) && path.size() >= 4 ? "" : path;
 }
 
 inline std::string NameOf(HWND control, HTREEITEM handle) {
@@ -105,13 +116,14 @@ inline bool BeginsWith(std::string const& path, std::string const& beginning) {
 inline HTREEITEM Reach(HWND control, std::string const& path, HTREEITEM parent = nullptr, int depth = 0) {
     HTREEITEM item = parent ? Next(control, TVGN_CHILD, parent) : Next(control, TVGN_ROOT);
     for (; item; item = Next(control, TVGN_NEXT, item)) {
-        std::string const folder = FolderOf(control, item);
-        if (lstrcmpiA(folder.c_str(), path.c_str()) == 0) {
+        std::string const place = ShellNameOf(control, item, SHGDN_FORPARSING).text;
+        if (lstrcmpiA(place.c_str(), path.c_str()) == 0) {
+            Select(control, item);
             return item;
         }
-        // Drives stand below an item without a path.
-        bool const onTheWay = folder.empty() ? depth == 0 : folder[1] == ':' && BeginsWith(path, folder);
-        if (onTheWay) {
+        // Drives stand below an item that is no place on a disk.
+        bool const onDisk = place.size() > 2 && IsCharAlphaA(place[0]) && place[1] == ':';
+        if (onDisk ? BeginsWith(path, place) : depth == 0) {
             Expand(control, item);
             if (HTREEITEM const found = Reach(control, path, item, depth + 1)) {
                 return found;

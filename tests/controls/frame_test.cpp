@@ -85,6 +85,22 @@ TEST(Frame, SuperclassAddsOneSlotBehindItsBase) {
     EXPECT_EQ(nullptr, untouched.procedure);
 }
 
+TEST(Frame, AClassThatIsThereAlreadyTellsOfItsBase) {
+    TestWindow const parent;
+    CreateSample(parent);
+    // What a second load of the library begins with.
+    frame::BaseClass fresh = {};
+    EXPECT_TRUE(frame::RegisterSuperclass(GetModuleHandleA(nullptr), kName, "button", DefWindowProcA, fresh));
+    EXPECT_EQ(g_base.procedure, fresh.procedure);
+    EXPECT_EQ(g_base.extraBytes, fresh.extraBytes);
+    WNDCLASSA super = {};
+    ASSERT_TRUE(GetClassInfoA(GetModuleHandleA(nullptr), kName, &super));
+    EXPECT_EQ(&Procedure, super.lpfnWndProc) << "the class itself stays as it is";
+    frame::BaseClass known = {DefWindowProcA, 3};
+    EXPECT_TRUE(frame::RegisterSuperclass(GetModuleHandleA(nullptr), kName, "button", Procedure, known));
+    EXPECT_EQ(3, known.extraBytes) << "what is known stays";
+}
+
 TEST(Frame, SuperclassedWindowWorksAsItsBaseAndHasItsData) {
     TestWindow parent;
     HWND const sample = CreateSample(parent);

@@ -79,6 +79,32 @@ TEST_F(GraphicButton, EveryKindBecomesOwnerDrawn) {
     EXPECT_EQ(MAKEWPARAM(5, BN_CLICKED), host_.Received(WM_COMMAND)[0].wParam);
 }
 
+TEST_F(GraphicButton, TheSecondOfTwoQuickClicksIsADoubleClick) {
+    LPARAM const inside = MAKELPARAM(5, 5);
+    SendMessageA(button_, WM_LBUTTONDOWN, MK_LBUTTON, inside);
+    SendMessageA(button_, WM_LBUTTONUP, 0, inside);
+    SendMessageA(button_, WM_LBUTTONDBLCLK, MK_LBUTTON, inside);
+    SendMessageA(button_, WM_LBUTTONUP, 0, inside);
+    auto const commands = host_.Received(WM_COMMAND);
+    ASSERT_EQ(2U, commands.size());
+    EXPECT_EQ(MAKEWPARAM(5, BN_CLICKED), commands[0].wParam);
+    EXPECT_EQ(MAKEWPARAM(5, BN_DOUBLECLICKED), commands[1].wParam);
+}
+
+TEST_F(GraphicButton, EnterIsForTheDefaultButton) {
+    SetFocus(button_);
+    ASSERT_EQ(button_, GetFocus());
+    host_.Forget();
+    MSG enter = {};
+    enter.hwnd = button_;
+    enter.message = WM_KEYDOWN;
+    enter.wParam = VK_RETURN;
+    EXPECT_TRUE(IsDialogMessageA(host_, &enter));
+    auto const commands = host_.Received(WM_COMMAND);
+    ASSERT_EQ(1U, commands.size());
+    EXPECT_EQ(IDOK, LOWORD(commands[0].wParam));
+}
+
 TEST_F(GraphicButton, LooksAsItIsToldTo) {
     ASSERT_TRUE(SetPicture(button_));
     InvalidateRect(button_, nullptr, TRUE);

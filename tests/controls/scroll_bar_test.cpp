@@ -172,7 +172,7 @@ TEST_F(ScrollBar, TimersRunByThemselves) {
         }
         return std::nullopt;
     };
-    while (!second && GetTickCount() - start < 3000) {
+    while (!second && GetTickCount() - start < 60000) {
         testing_support::PumpMessages();
         Sleep(5);
     }
@@ -197,6 +197,35 @@ TEST_F(ScrollBar, LosingTheCaptureEndsThePress) {
     Press(kUpper);
     Release(kUpper);
     EXPECT_EQ("0", Lines()) << "the next press works";
+}
+
+INT_PTR CALLBACK EndAtOnce(HWND dialog, UINT message, WPARAM, LPARAM) {
+    if (message == WM_INITDIALOG) {
+        PostMessageA(dialog, WM_APP, 0, 0);
+    } else if (message == WM_APP) {
+        EXPECT_EQ(nullptr, GetCapture());
+        // The timers of a press that goes on would send lines under the dialog's eyes.
+        HWND const bar = reinterpret_cast<HWND>(GetPropA(GetWindow(dialog, GW_OWNER), "Bar"));
+        SendMessageA(bar, WM_TIMER, 501, 0);
+        EndDialog(dialog, 1);
+    }
+    return message == WM_INITDIALOG;
+}
+
+TEST_F(ScrollBar, AModalDialogEndsThePress) {
+    struct {
+        DLGTEMPLATE head;
+        WORD menu, windowClass, title;
+    } const empty{{WS_POPUP | WS_CAPTION, 0, 0, 0, 0, 60, 30}, 0, 0, 0};
+    SetPropA(host_, "Bar", bar_);
+    Press(kUpper);
+    Tick(500);
+    EXPECT_EQ("0", Lines()) << "held, it repeats";
+    EXPECT_EQ(1, DialogBoxIndirectParamA(nullptr, &empty.head, host_, EndAtOnce, 0));
+    Tick(501);
+    EXPECT_EQ("", Lines());
+    EXPECT_NE(bar_, GetCapture());
+    RemovePropA(host_, "Bar");
 }
 
 TEST_F(ScrollBar, AssociateMayEndTheBar) {

@@ -141,6 +141,16 @@ TEST_F(TimeField, TwentyFourHoursRefuseWhatIsNoTime) {
     }
 }
 
+// What the manual warns of: each digit is judged by the one beside it.
+TEST_F(TimeField, ATimeTypedOverAnotherOneMayComeOutAsAThird) {
+    Show("HH:mm:ss", 4, 0, 4);
+    Type("235053");
+    EXPECT_EQ("5:30:04", Value());
+    Show("h:mm:ss tt", 22, 24, 42);
+    Type("062457P");
+    EXPECT_EQ("13:24:57", Value());
+}
+
 TEST_F(TimeField, TwelveHoursAreTypedAsTheyAreRead) {
     Show("h:mm:ss tt", 9, 15, 0);
     Type("1");

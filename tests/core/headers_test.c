@@ -13,6 +13,11 @@
 #include <cvutil32/treelist.h>
 #include <cvutil32/util.h>
 
+/* What the system's headers take away from programs is taken away on every host, so that what compiles here compiles there. */
+#if !defined(near) || !defined(far) || !defined(NEAR) || !defined(FAR) || !defined(pascal) || !defined(cdecl)
+#error "the words of the 16-bit days are free"
+#endif
+
 BOOL HeadersServeC(void);
 
 BOOL HeadersServeC(void) {

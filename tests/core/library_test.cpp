@@ -25,6 +25,21 @@ TEST(Library, KnowsItsOwnInstance) {
     EXPECT_EQ(library, UTIL_GetModuleInstance());
 }
 
+TEST(Library, IsKnownByItsModuleName) {
+    HINSTANCE const library = UTIL_GetModuleInstance();
+    for (char const* name : {"CVUTIL32", "cvutil32", "CvUtil32.dll", "CVUTIL32.DLL"}) {
+        EXPECT_EQ(library, GetModuleHandleA(name)) << name;
+        EXPECT_EQ(library, LoadLibraryA(name)) << name;
+        EXPECT_TRUE(FreeLibrary(library));
+        EXPECT_EQ(library, GetModuleHandleA(name)) << "it stays: the program itself uses it";
+    }
+    char path[MAX_PATH] = {};
+    ASSERT_NE(0U, GetModuleFileNameA(library, path, sizeof path));
+    EXPECT_EQ(library, GetModuleHandleA(path));
+    EXPECT_EQ(nullptr, GetModuleHandleA("CVUTIL"));
+    EXPECT_EQ(nullptr, GetModuleHandleA("CVUTIL32.EXE"));
+}
+
 TEST(Library, ClassesAreThereForEveryModule) {
     struct Expected {
         char const* name;

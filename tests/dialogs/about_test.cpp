@@ -20,6 +20,8 @@ namespace {
 using testing_support::IntlSetting;
 using testing_support::LeakCheck;
 using testing_support::OnNextDialog;
+using testing_support::Picture;
+using testing_support::PictureOf;
 using testing_support::PlaceIn;
 using testing_support::PressKey;
 using testing_support::TestWindow;
@@ -155,7 +157,7 @@ TEST_F(AboutBox, TextsOfTheCaller) {
 
 TEST_F(AboutBox, TextsOfItsOwn) {
     EXPECT_EQ(0, Show(nullptr, nullptr, nullptr, nullptr, Close, "NoSuchIcon"));
-    EXPECT_EQ("About ", seen_.caption);
+    EXPECT_EQ("About ", seen_.caption) << "the blank too: the caption is made of one string";
     EXPECT_EQ("", seen_.product);
     EXPECT_EQ("Beta Release 1", seen_.version);
     EXPECT_EQ(0U, seen_.notice.find("CVUTIL32 user-interface utility library\n"));
@@ -221,6 +223,68 @@ TEST_F(AboutBox, GrowsWithItsNotice) {
             formerHeight = client.bottom;
             Close(dialog);
         });
+    }
+}
+
+/// The field as it is drawn, and as its text would be drawn with a format.
+bool LooksLike(HWND dialog, int id, std::string const& text, UINT format) {
+    HWND const field = GetDlgItem(dialog, id);
+    Picture const shown = PictureOf(field);
+    RECT client = {};
+    GetClientRect(field, &client);
+    HDC const context = GetDC(field);
+    auto const font = reinterpret_cast<HFONT>(SendMessageA(field, WM_GETFONT, 0, 0));
+    HGDIOBJ const former = SelectObject(context, font);
+    FillRect(context, &client, GetSysColorBrush(COLOR_3DFACE));
+    SetBkColor(context, GetSysColor(COLOR_3DFACE));
+    SetTextColor(context, GetSysColor(COLOR_WINDOWTEXT));
+    DrawTextA(context, text.c_str(), -1, &client, DT_WORDBREAK | DT_EXPANDTABS | format);
+    SelectObject(context, former);
+    ReleaseDC(field, context);
+    return shown == PictureOf(field);
+}
+
+TEST_F(AboutBox, AnAmpersandIsAnOrdinaryCharacter) {
+    if (user_.IsOpen()) {
+        user_.Set("Smith & Sons");
+        organization_.Set("A&B");
+    }
+    Show(nullptr, "This & that", "Version 1 & 2", "By Miller && Miller", [&](HWND dialog) {
+        UpdateWindow(dialog);
+        EXPECT_TRUE(LooksLike(dialog, CVAB_PRODUCT, seen_.product, DT_NOPREFIX));
+        EXPECT_TRUE(LooksLike(dialog, CVAB_VERSION, seen_.version, DT_NOPREFIX));
+        EXPECT_TRUE(LooksLike(dialog, CVAB_NOTICE, seen_.notice, DT_NOPREFIX));
+        EXPECT_FALSE(LooksLike(dialog, CVAB_PRODUCT, seen_.product, 0)) << "and that can be told";
+        Close(dialog);
+    });
+    EXPECT_EQ("About This & that", seen_.caption);
+    EXPECT_EQ(0U, seen_.notice.find("By Miller && Miller\n")) << "the text itself stays as it was given";
+    if (user_.IsOpen()) {
+        EXPECT_NE(std::string::npos, seen_.notice.find("\nSmith & Sons\nA&B\n"));
+    }
+}
+
+TEST_F(AboutBox, AWordThatIsWiderThanTheFieldGoesOnInTheNextLine) {
+    std::string const path =
+        "\\\\server\\share\\a_folder_with_a_long_name\\and_another_one_in_it\\and_one_more\\that_ends_it.txt";
+    int height = 0;
+    for (std::string const& notice : {std::string("See"), "See " + path}) {
+        Show("A", "P", "V", notice.c_str(), [&](HWND dialog) {
+            RECT const field = PlaceIn(dialog, CVAB_NOTICE);
+            RECT const fieldBefore = ToPixels(dialog, {30, 56, 30 + 202, 56 + 9});
+            EXPECT_LE(field.right, fieldBefore.right);
+            RECT client = {};
+            GetClientRect(dialog, &client);
+            EXPECT_EQ(ToPixels(dialog, {0, 0, 248, 62}).right, client.right) << "the width stays";
+            EXPECT_EQ(ToPixels(dialog, {0, 0, 248, 62}).bottom + fieldBefore.bottom - fieldBefore.top,
+                      client.bottom - (field.bottom - field.top));
+            EXPECT_GT(field.bottom - field.top, height) << "the path takes lines of its own";
+            height = field.bottom - field.top;
+            UpdateWindow(dialog);
+            EXPECT_TRUE(LooksLike(dialog, CVAB_NOTICE, seen_.notice, DT_NOPREFIX | DT_EDITCONTROL));
+            Close(dialog);
+        });
+        EXPECT_EQ(0U, seen_.notice.find(notice + "\n"));
     }
 }
 

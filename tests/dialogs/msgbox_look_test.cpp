@@ -194,6 +194,20 @@ TEST_F(MessageBoxLook, SixtyLinesAreAllThere) {
     EXPECT_EQ(0, seen.window.top);
 }
 
+// About what the manual says of the smallest screen, whose fonts differ a little from one system to the next.
+TEST_F(MessageBoxLook, TextsThatFitOnAScreenOf640By480) {
+    std::string text;
+    while (text.size() < 1500) {
+        text += "The document has been changed by somebody else since it was opened here. Do you want to save it? ";
+    }
+    EXPECT_LE(Height(Show(text.substr(0, 1300).c_str(), IDI_HAND).window), 480);
+    box_.flags = KVMB_SMALL;
+    EXPECT_LE(Height(Show(text.substr(0, 800).c_str(), IDI_HAND).window), 480);
+    EXPECT_GT(Height(Show(text.substr(0, 1100).c_str(), IDI_HAND).window), 480);
+    EXPECT_LE(Height(Show(std::string(30, '\n').c_str(), IDI_HAND).window), 480);
+    EXPECT_GT(Height(Show(std::string(32, '\n').c_str(), IDI_HAND).window), 480);
+}
+
 TEST_F(MessageBoxLook, EmptyAndStrangeTexts) {
     EXPECT_EQ("", Show(nullptr).text);
     EXPECT_EQ("", Show("").text);

@@ -10,12 +10,14 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace {
 
 using testing_support::LeakCheck;
+using testing_support::Message;
 using testing_support::OnNextDialog;
 using testing_support::PressKey;
 using testing_support::PumpMessages;
@@ -207,6 +209,77 @@ TEST_F(MessageBoxUse, TaskModalDisablesTheOthersAndOnlyThemForAWhile) {
         }
     }
     EXPECT_TRUE(IsWindowEnabled(owner_));
+}
+
+TEST_F(MessageBoxUse, WhateverEndsATaskModalBoxGivesTheOthersBackOnce) {
+    TestWindow other;
+    EXPECT_TRUE(SetActiveWindow(owner_));
+    struct {
+        char const* name;
+        bool ends;  ///< the dialog, as dialogs are ended: else it is the system's affair what becomes of the owner
+        std::function<void(HWND dialog, TestWindow& owner)> end;
+    } const ways[] = {
+        {"a command", true, [](HWND dialog, TestWindow&) { SendMessageA(dialog, WM_COMMAND, 1, 0); }},
+        {"EndDialog from outside", true, [](HWND dialog, TestWindow&) { EndDialog(dialog, 5); }},
+        {"DestroyWindow of the box", false, [](HWND dialog, TestWindow&) { DestroyWindow(dialog); }},
+        {"the owner's end", false, [](HWND, TestWindow& owner) { owner.Destroy(); }},
+        {"the program's end", false, [](HWND, TestWindow&) { PostQuitMessage(3); }},
+    };
+    for (auto const& [name, ends, end] : ways) {
+        SCOPED_TRACE(name);
+        TestWindow owner;
+        KVMB_MESSAGEBOX box = BoxOf(owner);
+        box.flags = KVMB_TASKMODAL;
+        other.Forget();
+        Ask(box, [&](HWND dialog) {
+            EXPECT_FALSE(IsWindowEnabled(other));
+            end(dialog, owner);
+        });
+        EXPECT_TRUE(IsWindowEnabled(other));
+        EXPECT_TRUE(IsWindowEnabled(owner_));
+        EXPECT_TRUE(!ends || IsWindowEnabled(owner));
+        EXPECT_EQ(2u, other.Received(WM_ENABLE).size()) << "disabled once, enabled once";
+        MSG quit = {};
+        PeekMessageA(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
+    }
+}
+
+TEST_F(MessageBoxUse, WindowsMayEndTheBoxWhenTheyAreToldOfIt) {
+    TestWindow other;
+    TestWindow last;
+    HWND dialog = nullptr;
+    int commands = 0;
+    auto const command = [&](Message const& message) -> std::optional<LRESULT> {
+        if (message.id == WM_ENABLE) {
+            SendMessageA(dialog, WM_COMMAND, static_cast<WPARAM>(50 + ++commands), 0);
+        }
+        return std::nullopt;
+    };
+    // Told that it is enabled again, one sends a second command into the end of the first.
+    KVMB_MESSAGEBOX box = BoxOf(owner_);
+    box.flags = KVMB_TASKMODAL;
+    EXPECT_EQ(7, Ask(box, [&](HWND shown) {
+                  dialog = shown;
+                  other.answer = command;
+                  SendMessageA(shown, WM_COMMAND, 7, 0);
+              }));
+    EXPECT_TRUE(IsWindowEnabled(last));
+
+    // Told that it is disabled, one ends the box before the others are.
+    other.answer = [&](Message const& message) -> std::optional<LRESULT> {
+        if (message.id == WM_ENABLE && !message.wParam) {
+            dialog = FindWindowA("#32770", box.title);
+        }
+        return command(message);
+    };
+    last.answer = other.answer;
+    commands = 0;
+    box = BoxOf(owner_);
+    box.flags = KVMB_TASKMODAL;
+    EXPECT_EQ(51, KVMB_MessageBoxExtended(&box));
+    for (HWND const window : {owner_.Handle(), other.Handle(), last.Handle()}) {
+        EXPECT_TRUE(IsWindowEnabled(window));
+    }
 }
 
 /// Another thread with two windows, in a message loop.

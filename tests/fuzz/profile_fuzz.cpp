@@ -2,7 +2,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "kernel/ini_file.h"
+#include "kernel/profiles/ini_file.h"
 
 extern "C" int LLVMFuzzerTestOneInput(unsigned char const* data, std::size_t size) {
     using platform::kernel::IniFile;

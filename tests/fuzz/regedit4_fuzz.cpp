@@ -12,15 +12,16 @@ extern "C" int LLVMFuzzerTestOneInput(unsigned char const* data, std::size_t siz
         return 0;
     }
     for (cvreg::Entry const& entry : entries) {
-        // Names that hold line ends cannot be written; they cannot be read either.
-        if (entry.kind != cvreg::Entry::Value) {
-            continue;
+        std::string text = cvreg::kHeading + cvreg::FormatKey(entry.key);
+        bool const isValue = entry.kind == cvreg::Entry::Value;
+        if (isValue) {
+            text += cvreg::FormatValue(entry.name, entry.type, entry.data);
         }
         std::vector<cvreg::Entry> again;
-        std::string const text =
-            std::string(cvreg::kHeading) + "[k]\n" + cvreg::FormatValue(entry.name, entry.type, entry.data);
-        if (!cvreg::Parse(text, &again, &error) || again.size() != 2 || again[1].name != entry.name ||
-            again[1].type != entry.type || again[1].data != entry.data) {
+        if (!cvreg::Parse(text, &again, &error) || again.size() != (isValue ? 2 : 1) || again[0].key != entry.key) {
+            std::abort();
+        }
+        if (isValue && (again[1].name != entry.name || again[1].type != entry.type || again[1].data != entry.data)) {
             std::abort();
         }
     }

@@ -8,18 +8,17 @@ source "$(dirname "$0")/window.sh"
 start_gallery() { # <page>
     "$gallery" --page "$1" >"$work/out" 2>"$work/err" &
     program=$!
-    local try size=
-    for try in {1..100}; do
-        kill -0 "$program" 2>/dev/null || fail "the gallery ended at once: $(<"$work/err")"
-        window=$(xdotool search --onlyvisible --name '^CVUTIL32$' 2>/dev/null | head -1 || true)
-        if [ -n "$window" ] && timeout 5 import -window "$window" "$work/start.png" 2>/dev/null; then
-            read -r size left top <<<"$(convert "$work/start.png" -trim -format '%wx%h %X %Y' info: 2>/dev/null)"
-            [ "$size" != 497x379 ] || return 0
-        fi
-        sleep 0.1
-    done
-    [ -n "$size" ] || fail "the gallery shows no window within ten seconds"
-    skip "the dialog is $size: another font"
+    size=
+    wait_for "the page $1" page_is_shown
+    [ "$size" = 497x379 ] || skip "the dialog is $size: another font"
+}
+# What is shown in the end may come in pieces: it counts when it is of the right size, or stays as it is.
+page_is_shown() {
+    local former=$size
+    window=$(xdotool search --onlyvisible --name '^CVUTIL32$' 2>/dev/null | head -1 || true)
+    [ -n "$window" ] && shoot start || return 1
+    read -r size left top <<<"$(convert "$work/start.png" -trim -format '%wx%h %X %Y' info: 2>/dev/null)"
+    [ "$size" = 497x379 ] || { sleep 2 && [ -n "$size" ] && [ "$size" = "$former" ]; }
 }
 
 end_gallery() {
@@ -29,29 +28,18 @@ end_gallery() {
 }
 
 look() { # <place> <name>
-    timeout 5 import -window "$window" "$work/$2.full.png" 2>/dev/null || fail "no picture of the window"
     local w h x y
     IFS='x+' read -r w h x y <<<"$1"
-    convert "$work/$2.full.png" -crop "${w}x${h}+$((left + x))+$((top + y))" +repage "$work/$2.png"
-}
-
-same() { # <name> <name>
-    compare -metric AE "$work/$1.png" "$work/$2.png" null: 2>/dev/null
+    shoot && crop now "${w}x${h}+$((left + x))+$((top + y))" "$2"
 }
 
 # Waits until a place looks as it did in a picture, or no longer does.
 await() { # <same|other> <place> <name> <complaint>
-    local try
-    for try in {1..50}; do
-        look "$2" now
-        if same "$3" now; then
-            [ "$1" != same ] || return 0
-        else
-            [ "$1" != other ] || return 0
-        fi
-        sleep 0.1
-    done
-    fail "$4"
+    wait_for "$4" looks "$1" "$2" "$3"
+}
+looks() { # <same|other> <place> <name>
+    look "$2" seen || return 1
+    if same "$3" seen; then [ "$1" = same ]; else [ "$1" = other ]; fi
 }
 
 point() { # <x> <y>

@@ -7,57 +7,58 @@ source "$(dirname "$0")/window.sh"
 start_gallery() {
     "$gallery" >"$work/out" 2>"$work/err" &
     program=$!
-    local try
-    for try in {1..100}; do
-        kill -0 "$program" 2>/dev/null || fail "the gallery ended at once: $(<"$work/err")"
-        window=$(xdotool search --onlyvisible --name '^CVUTIL32$' 2>/dev/null | head -1 || true)
-        if [ -n "$window" ] && shoot start && [ "$(find_fields "$work/start.png" | wc -l)" = 2 ]; then
-            read -r x y w h <<<"$(find_fields "$work/start.png")"
-            return
-        fi
-        sleep 0.1
-    done
-    fail "the gallery does not show two fields within ten seconds"
+    wait_for "two fields" fields_are_shown
+    strip=${w}x6+${x}+$((y + h - 6))
+    letters=${w}x$((h - 7))+${x}+${y}
+    crop start "$strip" without
 }
-
-shoot() { # <name>
-    import -window "$window" "$work/$1.png" 2>/dev/null
-}
-
-point() { # <x> <y>
-    xdotool mousemove --window "$window" "$1" "$2"
-    sleep 0.1
+fields_are_shown() {
+    window=$(xdotool search --onlyvisible --name '^CVUTIL32$' 2>/dev/null | head -1 || true)
+    [ -n "$window" ] && shoot start && [ "$(find_fields "$work/start.png" | wc -l)" = 2 ] || return 1
+    read -r x y w h <<<"$(find_fields "$work/start.png")"
 }
 
 keys() {
     xdotool key --delay 20 "$@"
-    sleep 0.4
+}
+
+# Input is worked off in its order: when the triangle under the characters has gone to the first one and then to the last,
+# all that came before is done. Where these are is learnt from the first click.
+learn_ends() {
+    keys Home
+    wait_for "the triangle under the first character" place_is_new "$strip" without
+    cp "$work/part.png" "$work/first.png"
+    keys End
+    wait_for "the triangle under the last character" place_is_new "$strip" without first
+    cp "$work/part.png" "$work/last.png"
+}
+settle() {
+    keys Home
+    wait_for "the triangle back under the first character" place_is "$strip" first
+    keys End
+    wait_for "the triangle back under the last character" place_is "$strip" last
 }
 
 # Clicks into the first field, brings it to the first of January so that the keys that follow mean the same on every day of
 # the year, and types a date.
 type_date() { # <mmddyy>
-    point $((x + 2)) $((y + h / 2))
-    xdotool click 1
-    sleep 0.2
+    xdotool mousemove --window "$window" $((x + 2)) $((y + h / 2)) click 1
+    learn_ends
     keys Home Right 1 Home 0 Right Right Right 1 Left Left Left 0
     keys Home $(sed 's/./& /g' <<<"$1")
+    settle
 }
 
 # The characters of the field alone: the caret under them may blink.
 characters() { # <name>
-    convert "$work/$1.png" -crop "${w}x$((h - 7))+${x}+${y}" +repage "$work/$1-field.png"
-}
-
-same() { # <name> <name>
-    compare -metric AE "$work/$1-field.png" "$work/$2-field.png" null: 2>/dev/null
+    shoot && crop now "$letters" "$1"
 }
 
 # Presses a key that ends the dialog; sets `answer` and `code`.
 end_with() { # <key>
     xdotool key "$1"
     code=0
-    timeout 10 tail --pid="$program" -f /dev/null || fail "the gallery does not end after $1"
+    timeout "$patience" tail --pid="$program" -f /dev/null || fail "the gallery does not end after $1"
     wait "$program" || code=$?
     program=
     answer=$(<"$work/out")
@@ -67,33 +68,27 @@ end_with() { # <key>
 start_server
 start_gallery
 type_date 021497
-shoot typed
 characters typed
-# The upper arrow of the bar that is glued to the field's right end; the caret stands on the year.
-point $((x + w + h / 2)) $((y + h / 4))
-xdotool mousedown 1
-sleep 1
+# The upper arrow of the bar that is glued to the field's right end; the caret stands on the year. Let go once it has begun to
+# run, the bar steps once more.
+xdotool mousemove --window "$window" $((x + w + h / 2)) $((y + h / 4)) mousedown 1
+wait_for "a step of the year" place_is_new "$letters" typed
 xdotool mouseup 1
-sleep 0.4
-shoot held
+settle
 characters held
-! same typed held || fail "holding the arrow does not change what the field shows"
 end_with Return
 [ "$code" = 0 ] || fail "OK ended with $code"
 [[ "$answer" =~ ^[0-9]{4}-02-14$ ]] || fail "after typing 02/14/97 and holding the arrow, OK printed '$answer'"
 year=${answer%%-*}
-# One step 400 milliseconds after the press, one every 50 from then on, one at the release. A machine that lags makes it fewer,
-# or the second longer.
-[ "$year" -ge 2000 ] && [ "$year" -le 2030 ] || fail "the year ran from 1997 to $year in a second"
+[ "$year" -ge 1999 ] || fail "the year ran from 1997 to $year"
 
-# The same date, typed this time, must look the same.
+# The same year, typed this time, must look the same.
 start_gallery
 type_date "0214${year:2}"
-shoot again
 characters again
 same held again || fail "the field did not show $answer after the arrow was held"
 end_with Return
-[ "$answer" = "$year-02-14" ] || fail "typing 02/14/${year:2} gave '$answer'"
+[[ "$answer" == ??"${year:2}-02-14" ]] || fail "typing 02/14/${year:2} gave '$answer'"
 
 start_gallery
 end_with Escape

@@ -11,16 +11,54 @@ cleanup() {
 }
 trap cleanup EXIT
 
+# How many seconds to wait for what must come on the slowest machine.
+patience=120
+
+# wait_for <what> <command...>: tries the command until it succeeds.
+wait_for() {
+    local what=$1 end=$((SECONDS + patience))
+    shift
+    until "$@"; do
+        [ -z "$program" ] || kill -0 "$program" 2>/dev/null || fail "the gallery has ended: $(<"$work/err")"
+        [ "$SECONDS" -lt "$end" ] || fail "$what: waited for in vain (see $work/now.png)"
+        sleep 0.05
+    done
+}
+
+shoot() { # [<name>]
+    timeout 60 import -window "$window" "$work/${1:-now}.png" 2>/dev/null
+}
+
+crop() { # <picture> <place> <name of the part>
+    convert "$work/$1.png" -crop "$2" +repage "$work/$3.png"
+}
+
+same() { # <picture> <picture>
+    compare -metric AE "$work/$1.png" "$work/$2.png" null: 2>/dev/null
+}
+
+# Whether a place of the window looks as in none of some pictures of it, or as in one of them.
+place_is_new() { # <place> <picture...>
+    local place=$1 picture
+    shift
+    shoot && crop now "$place" part || return 1
+    for picture in "$@"; do
+        ! same "$picture" part || return 1
+    done
+}
+place_is() { # <place> <picture>
+    shoot && crop now "$1" part && same "$2" part
+}
+
+display_is_there() {
+    kill -0 "$server" 2>/dev/null || fail "Xvfb does not start: $(tail -1 "$work/server.log")"
+    [ -s "$work/display" ]
+}
 # The server goes on between two programs; one that ends with its last client is not back in time for the next.
 start_server() {
     Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset 3>"$work/display" 2>"$work/server.log" &
     server=$!
-    local try
-    for try in {1..100}; do
-        [ ! -s "$work/display" ] || break
-        kill -0 "$server" 2>/dev/null || fail "Xvfb does not start: $(tail -1 "$work/server.log")"
-        sleep 0.1
-    done
+    wait_for "a display" display_is_there
     DISPLAY=:$(<"$work/display")
     export DISPLAY
 }

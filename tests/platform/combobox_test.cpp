@@ -100,6 +100,21 @@ TEST_F(ComboBoxTest, AClosedOneIsAsHighAsItsField) {
     EXPECT_EQ(120, Height(Make(CBS_SIMPLE, 120)));
 }
 
+TEST_F(ComboBoxTest, TheListsWidth) {
+    const HWND combo = Filled(CBS_DROPDOWNLIST);
+    const auto width = [&](int wanted) {
+        const LRESULT result = Send(combo, CB_SETDROPPEDWIDTH, static_cast<WPARAM>(wanted));
+        EXPECT_EQ(result, Send(combo, CB_GETDROPPEDWIDTH));
+        return result;
+    };
+    EXPECT_EQ(120, width(0));
+    EXPECT_EQ(300, width(300));
+    EXPECT_EQ(300, width(0)) << "as it is";
+    EXPECT_EQ(120, width(50)) << "never less than the field";
+    EXPECT_EQ(CB_ERR, Send(combo, CB_SETDROPPEDWIDTH, 0x7FFFFFFF));
+    EXPECT_EQ(120, Send(combo, CB_GETDROPPEDWIDTH));
+}
+
 TEST_F(ComboBoxTest, ContentsSelectionAndText) {
     const HWND list = Filled(CBS_DROPDOWNLIST);
     EXPECT_EQ(CB_ERR, Send(list, CB_GETCURSEL));

@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "dialog_builder.h"
@@ -19,10 +20,16 @@ std::function<void(HWND)> running;
 std::function<void(HWND)> onIdle;
 HWND owner = nullptr;
 std::vector<HWND> idleDialogs;
+std::vector<HWND> toldOfIdleness;
+std::vector<HWND> cancelled;
+bool everShown = false;
 
 LRESULT CALLBACK OwnerProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_CANCELMODE)
+        cancelled.push_back(window);
     if (message == WM_ENTERIDLE && wParam == MSGF_DIALOGBOX) {
         idleDialogs.push_back(reinterpret_cast<HWND>(lParam));
+        toldOfIdleness.push_back(window);
         if (onIdle)
             onIdle(idleDialogs.back());
     }
@@ -36,6 +43,9 @@ INT_PTR CALLBACK Procedure(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
                 atInit(dialog);
             PostMessageA(dialog, kRun, 0, 0);
             return TRUE;
+        case WM_SHOWWINDOW:
+            everShown = everShown || wParam;
+            return FALSE;
         case kRun:
             if (running)
                 running(dialog);
@@ -65,9 +75,12 @@ class DialogModalTest : public ::testing::Test {
         running = nullptr;
         onIdle = nullptr;
         idleDialogs.clear();
+        toldOfIdleness.clear();
+        everShown = false;
         owner = tests::MakeOwner(OwnerProcedure);
         SetActiveWindow(owner);
         tests::PumpMessages();
+        cancelled.clear();
     }
     void TearDown() override {
         DestroyWindow(owner);
@@ -131,6 +144,81 @@ TEST_F(DialogModalTest, EndedInInitDialogItIsNeverShown) {
     EXPECT_EQ(9, RunSimple(owner));
     EXPECT_FALSE(shown);
     EXPECT_TRUE(IsWindowEnabled(owner));
+}
+
+TEST_F(DialogModalTest, AMessageThatWaitsMayEndItBeforeItIsSeen) {
+    running = [](HWND dialog) {
+        EXPECT_FALSE(IsWindowVisible(dialog));
+        EndDialog(dialog, 6);
+    };
+    EXPECT_EQ(6, RunSimple(owner));
+    EXPECT_FALSE(everShown);
+    // With nothing to do it comes up, whatever comes later.
+    running = [](HWND dialog) { SetTimer(dialog, 1, 10, EndByTimer); };
+    EXPECT_EQ(1, RunSimple(owner));
+    EXPECT_TRUE(everShown);
+    // A template can ask to be seen at once.
+    running = [](HWND dialog) {
+        EXPECT_TRUE(IsWindowVisible(dialog));
+        EndDialog(dialog, 7);
+    };
+    EXPECT_EQ(7, RunSimple(owner, WS_VISIBLE));
+}
+
+TEST_F(DialogModalTest, NobodyHoldsTheMouseInItsLoop) {
+    const HWND child =
+        CreateWindowExA(0, "button", "", WS_CHILD | WS_VISIBLE, 0, 0, 10, 10, owner, nullptr, nullptr, nullptr);
+    SendMessageA(child, WM_LBUTTONDOWN, MK_LBUTTON, 0);
+    ASSERT_EQ(child, GetCapture());
+    running = [&](HWND dialog) {
+        EXPECT_EQ(nullptr, GetCapture());
+        EXPECT_FALSE(SendMessageA(child, BM_GETSTATE, 0, 0) & BST_PUSHED) << "the press is over";
+        EndDialog(dialog, 1);
+    };
+    EXPECT_EQ(1, RunSimple(owner));
+    EXPECT_EQ(std::vector<HWND>{owner}, cancelled);
+    // The dialog itself is no exception, nor is a window without anything to do with it.
+    atInit = [](HWND dialog) { SetCapture(dialog); };
+    EXPECT_EQ(1, RunSimple(owner));
+    atInit = nullptr;
+    SetCapture(owner);
+    cancelled.clear();
+    EXPECT_EQ(1, RunSimple(nullptr));
+    EXPECT_FALSE(cancelled.empty()) << "the active window is told, though it is no owner";
+}
+
+TEST_F(DialogModalTest, AnOwnerInsideAnotherWindowIsDisabledAlone) {
+    const HWND outer = tests::MakeOwner(OwnerProcedure);
+    SetParent(owner, outer);
+    const HWND child =
+        CreateWindowExA(0, "static", "", WS_CHILD | WS_VISIBLE, 0, 0, 10, 10, owner, nullptr, nullptr, nullptr);
+    onIdle = [](HWND dialog) { EndDialog(dialog, 8); };
+    running = [&](HWND dialog) {
+        EXPECT_EQ(owner, GetWindow(dialog, GW_OWNER));
+        EXPECT_FALSE(IsWindowEnabled(owner));
+        EXPECT_TRUE(IsWindowEnabled(outer));
+    };
+    for (const HWND named : {owner, child}) {
+        EXPECT_EQ(8, RunSimple(named));
+        EXPECT_EQ(std::vector<HWND>{owner}, std::exchange(toldOfIdleness, {}));
+        EXPECT_TRUE(IsWindowEnabled(owner));
+    }
+    DestroyWindow(outer);
+    EXPECT_FALSE(IsWindow(owner));
+}
+
+TEST_F(DialogModalTest, EndingAModelessDialogGivesItsOwnerBack) {
+    DialogBuilder builder(WS_POPUP | WS_CAPTION | WS_VISIBLE);
+    builder.Title("modeless").Item("button", "OK", IDOK, BS_DEFPUSHBUTTON | WS_TABSTOP, 5, 5, 50, 14);
+    const HWND dialog = CreateDialogIndirectParamA(nullptr, builder.Data(), owner, Procedure, 0);
+    ASSERT_EQ(dialog, GetActiveWindow());
+    EnableWindow(owner, FALSE);
+    EXPECT_TRUE(EndDialog(dialog, 1));
+    EXPECT_TRUE(IsWindowEnabled(owner));
+    EXPECT_EQ(owner, GetActiveWindow());
+    EXPECT_TRUE(IsWindow(dialog)) << "nobody destroys it";
+    EXPECT_FALSE(IsWindowVisible(dialog));
+    DestroyWindow(dialog);
 }
 
 TEST_F(DialogModalTest, QuitEndsAllLoopsAndIsPostedAgain) {

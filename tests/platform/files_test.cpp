@@ -53,6 +53,39 @@ TEST(Files, WildcardsAndCase) {
     EXPECT_EQ(names("Sub.dir\\"), "error 2") << "a backslash at the end names nothing";
 }
 
+TEST(Files, DotsAndBlanksAtTheEndOfANameDoNotCount) {
+    const TempFolder folder;
+    folder.MakeFile("Sub\\file.txt");
+    const auto names = [&](const char* pattern) { return Names(folder.Path(pattern)); };
+    for (const char* name :
+         {"Sub\\file.txt.", "Sub\\file.txt ", "Sub\\file.txt. . .", "Sub.\\file.txt", "sub\\FILE.txt.."}) {
+        EXPECT_EQ(names(name), "file.txt ") << name;
+        EXPECT_EQ(GetFileAttributesA(folder.Path(name).c_str()) & FILE_ATTRIBUTE_DIRECTORY, 0u) << name;
+    }
+    EXPECT_EQ(names("Sub."), "Sub ");
+    EXPECT_EQ(names("Sub.\\*.txt"), "file.txt ");
+    EXPECT_EQ(names("none\\..\\Sub"), "Sub ") << "what does not stay need not be there";
+    EXPECT_EQ(names("Sub\\.\\..\\sub\\file.txt"), "file.txt ");
+    EXPECT_EQ(names("Sub\\file .txt"), "error 2") << "blanks inside a name count";
+    EXPECT_EQ(names("Sub\\ file.txt"), "error 2");
+}
+
+TEST(Files, TheRootOfTheCurrentDrive) {
+    EXPECT_NE(GetFileAttributesA("\\"), INVALID_FILE_ATTRIBUTES);
+    EXPECT_TRUE(GetFileAttributesA("\\") & FILE_ATTRIBUTE_DIRECTORY);
+    EXPECT_TRUE(GetFileAttributesA("/") & FILE_ATTRIBUTE_DIRECTORY);
+    EXPECT_EQ(GetDriveTypeA("\\"), static_cast<UINT>(DRIVE_FIXED));
+    EXPECT_EQ(Names("\\"), "error 2") << "a root is no entry of anything";
+    WIN32_FIND_DATAA found;
+    const HANDLE search = FindFirstFileA("\\*", &found);
+    ASSERT_NE(search, INVALID_HANDLE_VALUE);
+    EXPECT_STRNE(found.cFileName, ".") << "a root has no dots";
+    FindClose(search);
+    EXPECT_TRUE(GetFileAttributesA("C:\\WINDOWS.") & FILE_ATTRIBUTE_DIRECTORY);
+    EXPECT_NE(GetFileAttributesA("C:\\..\\windows\\..\\..\\WINDOWS. "), INVALID_FILE_ATTRIBUTES)
+        << "nothing lies above a root";
+}
+
 TEST(Files, WhatAnEntryTells) {
     const TempFolder folder;
     const std::string file = folder.MakeFile("file", std::string(1234, 'x'));

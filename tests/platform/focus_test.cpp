@@ -89,6 +89,25 @@ TEST_F(FocusTest, FocusMovesWithMessagesInOrder) {
     EXPECT_NE(GetFocus(), first);
 }
 
+TEST_F(FocusTest, AHiddenWindowThatIsDisabledStaysActive) {
+    other = Recorder::Get().Make(WS_POPUP, 200, 200, 100, 100);
+    HWND child = Recorder::Get().Make(WS_CHILD | WS_VISIBLE, 0, 0, 10, 10, other);
+    SetActiveWindow(other);
+    SetFocus(other);
+    ASSERT_EQ(GetActiveWindow(), other);
+    EnableWindow(other, FALSE);
+    EXPECT_EQ(GetActiveWindow(), other);
+    EXPECT_EQ(GetFocus(), nullptr);
+    EnableWindow(other, TRUE);
+    // What its children hold is none of its business.
+    SetFocus(child);
+    SetCapture(child);
+    EnableWindow(other, FALSE);
+    EXPECT_EQ(GetFocus(), child);
+    EXPECT_EQ(GetCapture(), child);
+    ReleaseCapture();
+}
+
 TEST_F(FocusTest, FocusIsRefusedWhereItCannotBe) {
     HWND child = Recorder::Get().Make(WS_CHILD | WS_VISIBLE | WS_DISABLED, 0, 0, 10, 10, window);
     EXPECT_EQ(SetFocus(child), nullptr);

@@ -132,4 +132,16 @@ TEST(GdiObjects, SystemColourBrushes) {
     EXPECT_EQ(PixelOf(GetSysColor(COLOR_HIGHLIGHT)), canvas.At(0, 0));
 }
 
+TEST(GdiObjects, WithoutABrushTheSelectedOneFills) {
+    Canvas canvas;
+    const HBRUSH red = CreateSolidBrush(RGB(255, 0, 0));
+    const HGDIOBJ previous = SelectObject(canvas, red);
+    const RECT rect{1, 1, 4, 4};
+    EXPECT_NE(0, FillRect(canvas, &rect, nullptr));
+    EXPECT_EQ(9, canvas.Count(canvas.All(), 0xFF0000));
+    SelectObject(canvas, previous);
+    DeleteObject(red);
+    EXPECT_EQ(0, FrameRect(canvas, &rect, nullptr));
+}
+
 }  // namespace

@@ -31,6 +31,24 @@ TEST(GdiRaster, EveryTernaryOperation) {
     DeleteObject(brush);
 }
 
+TEST(GdiRaster, OverlappingCopiesKeepTheSource) {
+    for (const POINT& move : {POINT{3, 0}, POINT{-3, 0}, POINT{0, 3}, POINT{0, -3}, POINT{2, 2}, POINT{-2, 2}}) {
+        Canvas canvas(20, 20);
+        for (int y = 0; y < 20; ++y) {
+            for (int x = 0; x < 20; ++x) {
+                canvas.Put(x, y, static_cast<std::uint32_t>(y * 256 + x));
+            }
+        }
+        BitBlt(canvas, 5 + move.x, 5 + move.y, 10, 10, canvas, 5, 5, SRCCOPY);
+        for (int y = 5; y < 15; ++y) {
+            for (int x = 5; x < 15; ++x) {
+                ASSERT_EQ(static_cast<std::uint32_t>(y * 256 + x), canvas.At(x + move.x, y + move.y))
+                    << move.x << ' ' << move.y << ' ' << x << ' ' << y;
+            }
+        }
+    }
+}
+
 TEST(GdiRaster, MonochromeTakesTheColoursOfTheDestination) {
     const WORD rows[2] = {0x0040, 0x0080};  // second pixel set, then first
     const HBITMAP mono = CreateBitmap(2, 2, 1, 1, rows);

@@ -40,6 +40,19 @@ TEST_F(GdiText, MetricsAgree) {
     EXPECT_EQ(0, Width(""));
 }
 
+TEST_F(GdiText, NoTextHasNoExtent) {
+    for (const char* text : {"", static_cast<const char*>(nullptr)}) {
+        SIZE size{7, 7};
+        EXPECT_TRUE(GetTextExtentPoint32A(canvas, text, 0, &size));
+        EXPECT_EQ(0, size.cx);
+        EXPECT_EQ(0, size.cy);
+    }
+    SIZE size{7, 7};
+    EXPECT_FALSE(GetTextExtentPoint32A(canvas, "abc", -1, &size));
+    EXPECT_FALSE(GetTextExtentPoint32A(nullptr, "abc", 3, &size));
+    EXPECT_EQ(7, size.cx);
+}
+
 TEST_F(GdiText, OpaqueTextFillsItsCell) {
     SetBkColor(canvas, RGB(255, 255, 0));
     TextOutA(canvas, 10, 5, "Hi", 2);

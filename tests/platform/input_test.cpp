@@ -23,11 +23,13 @@ void Key(WORD key, bool down, WORD scan = 0, DWORD flags = 0) {
     ASSERT_EQ(SendInput(1, &input, sizeof input), 1u);
 }
 
-void Mouse(DWORD flags, DWORD data = 0) {
+// What has a time keeps it, however long the machine takes between two calls.
+void Mouse(DWORD flags, DWORD data = 0, DWORD time = 0) {
     INPUT input{};
     input.type = INPUT_MOUSE;
     input.mi.dwFlags = flags;
     input.mi.mouseData = data;
+    input.mi.time = time;
     ASSERT_EQ(SendInput(1, &input, sizeof input), 1u);
 }
 
@@ -206,17 +208,18 @@ TEST_F(InputTest, DoubleClickNeedsTimeAndPlace) {
     SetCursorPos(200, 150);
     Pump();
     Recorder::Get().Clear();
+    const DWORD now = GetTickCount();
     for (int i = 0; i < 3; ++i) {
-        Mouse(MOUSEEVENTF_LEFTDOWN);
-        Mouse(MOUSEEVENTF_LEFTUP);
+        Mouse(MOUSEEVENTF_LEFTDOWN, 0, now);
+        Mouse(MOUSEEVENTF_LEFTUP, 0, now);
     }
     ASSERT_TRUE(PumpUntil([] { return Recorder::Get().Count(WM_LBUTTONUP) == 3; }));
     const std::vector<UINT> order = Recorder::Get().Numbers({WM_LBUTTONDOWN, WM_LBUTTONDBLCLK});
     EXPECT_EQ(order, (std::vector<UINT>{WM_LBUTTONDOWN, WM_LBUTTONDBLCLK, WM_LBUTTONDOWN}));
     Recorder::Get().Clear();
     SetCursorPos(240, 150);
-    Mouse(MOUSEEVENTF_LEFTDOWN);
-    Mouse(MOUSEEVENTF_LEFTUP);
+    Mouse(MOUSEEVENTF_LEFTDOWN, 0, now);
+    Mouse(MOUSEEVENTF_LEFTUP, 0, now);
     ASSERT_TRUE(PumpUntil([] { return Recorder::Get().Count(WM_LBUTTONUP) == 1; }));
     EXPECT_EQ(Recorder::Get().Find(WM_LBUTTONDBLCLK), nullptr);
 }

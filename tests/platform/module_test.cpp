@@ -18,6 +18,8 @@ TEST(Modules, TheApplicationIsTheNullModule) {
     GetModuleFileNameA(application, same, sizeof same);
     EXPECT_STREQ(path, same);
     EXPECT_EQ(GetModuleHandleA(std::strrchr(path, '\\') + 1), application);
+    EXPECT_EQ(GetModuleHandleA(path), application);
+    EXPECT_EQ(GetModuleHandleA((std::string("C:\\no\\such\\folder") + std::strrchr(path, '\\')).c_str()), nullptr);
     char cut[8];
     std::memset(cut, '#', sizeof cut);
     EXPECT_EQ(GetModuleFileNameA(nullptr, cut, 6), 6u);

@@ -163,4 +163,31 @@ TEST_F(Painting, WindowContextReachesTheFrame) {
     EXPECT_EQ(PixelAt(ground, 50, 50), kYellow);
 }
 
+TEST_F(Painting, ValidatingAParentValidatesTheChildrenThatItPaintsOver) {
+    HWND plain = Make(kPlain, 10, 10, 100, 80, ground, kRed);
+    HWND clipping = Make(kPlain | WS_CLIPCHILDREN, 120, 10, 100, 80, ground, kRed);
+    HWND inPlain = Child(plain, 10, 10, 40, 40, kGreen);
+    HWND inClipping = Child(clipping, 10, 10, 40, 40, kGreen);
+    Settle();
+    for (HWND each : {plain, inPlain, clipping, inClipping}) {
+        InvalidateRect(each, nullptr, FALSE);
+    }
+    for (HWND each : {plain, clipping}) {
+        ValidateRect(each, nullptr);
+        UpdateWindow(each);
+    }
+    EXPECT_EQ(Of(plain).Count(WM_PAINT), 0);
+    EXPECT_EQ(Of(inPlain).Count(WM_PAINT), 0);
+    EXPECT_EQ(Of(clipping).Count(WM_PAINT), 0);
+    UpdateWindow(inClipping);
+    EXPECT_EQ(Of(inClipping).Count(WM_PAINT), 1);
+    // Only the part that is meant.
+    InvalidateRect(inPlain, nullptr, FALSE);
+    const RECT left{0, 0, 30, 80};
+    ValidateRect(plain, &left);
+    UpdateWindow(inPlain);
+    ASSERT_EQ(Of(inPlain).updates.size(), 1U);
+    ExpectRect(Of(inPlain).updates[0], 20, 0, 40, 40);
+}
+
 }  // namespace

@@ -101,7 +101,10 @@ inline void Pump() {
     }
 }
 
-/// Pumps until something holds, for as long as two seconds: real input may take its time.
+/// How long a test waits, in milliseconds, for what must come on the slowest machine.
+constexpr DWORD kPatience = 60000;
+
+/// Pumps until something holds, as real input may take its time. @returns false when it does not come.
 inline bool PumpUntil(const std::function<bool()>& holds) {
     const DWORD start = GetTickCount();
     for (;;) {
@@ -110,7 +113,7 @@ inline bool PumpUntil(const std::function<bool()>& holds) {
             return true;
         }
         const DWORD spent = GetTickCount() - start;
-        if (spent >= 2000) {
+        if (spent >= kPatience) {
             return false;
         }
         MsgWaitForMultipleObjects(0, nullptr, FALSE, 20, QS_ALLINPUT);

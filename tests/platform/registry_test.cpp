@@ -136,6 +136,33 @@ TEST_F(RegistryTest, TextsAreKeptWithTheirEnd) {
     EXPECT_EQ(type, static_cast<DWORD>(REG_SZ));
 }
 
+// Where a NUL follows what was counted, it was forgotten; a text that has none is kept as it is.
+TEST_F(RegistryTest, ATextWithoutItsEndFitsIntoItsOwnSize) {
+    const char whole[] = "abcd";
+    char data[8] = "#######";
+    for (const DWORD type : {REG_SZ, REG_EXPAND_SZ, REG_MULTI_SZ}) {
+        ASSERT_EQ(Set("Text", type, whole, 2), ERROR_SUCCESS);
+        std::memset(data, '#', sizeof data);
+        DWORD size = 2;
+        EXPECT_EQ(RegQueryValueExA(key_, "Text", nullptr, nullptr, reinterpret_cast<BYTE*>(data), &size),
+                  ERROR_SUCCESS);
+        EXPECT_EQ(size, 2u);
+        EXPECT_EQ(std::string(data, 3), "ab#");
+        size = 3;
+        EXPECT_EQ(RegQueryValueExA(key_, "Text", nullptr, nullptr, reinterpret_cast<BYTE*>(data), &size),
+                  ERROR_SUCCESS);
+        EXPECT_EQ(size, 2u);
+        EXPECT_STREQ(data, "ab") << "an end is added where there is room";
+        char name[8];
+        DWORD nameSize = sizeof name;
+        size = 2;
+        std::memset(data, '#', sizeof data);
+        EXPECT_EQ(RegEnumValueA(key_, 0, name, &nameSize, nullptr, nullptr, reinterpret_cast<BYTE*>(data), &size),
+                  ERROR_SUCCESS);
+        EXPECT_EQ(std::string(data, 3), "ab#");
+    }
+}
+
 TEST_F(RegistryTest, ValuesAreListedAndKeepTheirFirstSpelling) {
     Set("One", REG_BINARY, "1", 1);
     Set("two", REG_BINARY, "22", 2);
@@ -194,6 +221,8 @@ TEST_F(RegistryTest, BadArguments) {
     EXPECT_EQ(RegQueryValueExA(key_, "x", nullptr, nullptr, &byte, nullptr), ERROR_INVALID_PARAMETER);
     EXPECT_EQ(RegOpenKeyExA(nullptr, "x", 0, KEY_READ, &key), ERROR_INVALID_HANDLE);
     EXPECT_EQ(RegEnumValueA(key_, 0, nullptr, &size, nullptr, nullptr, nullptr, nullptr), ERROR_INVALID_PARAMETER);
+    EXPECT_NE(RegSetValueExA(key_, "x", 0, REG_BINARY, nullptr, 1), ERROR_SUCCESS);
+    EXPECT_EQ(RegCloseKey(reinterpret_cast<HKEY>(INT_PTR{0x7FFF1234})), ERROR_INVALID_HANDLE);
 }
 
 }  // namespace

@@ -19,6 +19,7 @@ constexpr UINT kStop = WM_USER + 4;
 
 std::atomic<HWND> partner{nullptr};
 std::atomic<HWND> mine{nullptr};
+HANDLE goOn = nullptr;  // what a window that hangs waits for
 std::atomic<DWORD> handlerThread{0};
 
 // Counts down by turns between both threads, each waiting for the other.
@@ -38,7 +39,7 @@ LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lPar
         case kNested:
             return Nested(window, wParam);
         case kHang:
-            Sleep(static_cast<DWORD>(wParam));
+            WaitForSingleObject(goOn, INFINITE);
             return 1;
         case kStop:
             PostQuitMessage(0);
@@ -59,6 +60,7 @@ HWND MakeWindow() {
 class SendTest : public ::testing::Test {
   protected:
     void SetUp() override {
+        goOn = CreateEventA(nullptr, TRUE, FALSE, nullptr);
         mine = MakeWindow();
         ASSERT_NE(mine.load(), nullptr);
         partner = nullptr;
@@ -75,12 +77,14 @@ class SendTest : public ::testing::Test {
         }
     }
     void TearDown() override {
+        SetEvent(goOn);
         if (thread.joinable()) {
             PostMessageA(partner, kStop, 0, 0);
             thread.join();
         }
         DestroyWindow(mine);
         Pump();
+        CloseHandle(goOn);
     }
     std::thread thread;
 };
@@ -100,9 +104,10 @@ TEST_F(SendTest, BothSidesServeEachOtherWhileTheyWait) {
 TEST_F(SendTest, TimeoutGivesUp) {
     DWORD_PTR result = 5;
     SetLastError(0);
-    EXPECT_EQ(SendMessageTimeoutA(partner, kHang, 300, 0, SMTO_NORMAL, 30, &result), 0);
+    EXPECT_EQ(SendMessageTimeoutA(partner, kHang, 0, 0, SMTO_NORMAL, 30, &result), 0);
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_TIMEOUT));
-    EXPECT_NE(SendMessageTimeoutA(partner, kAdd, 2, 3, SMTO_NORMAL, 5000, &result), 0);
+    SetEvent(goOn);
+    EXPECT_NE(SendMessageTimeoutA(partner, kAdd, 2, 3, SMTO_NORMAL, tests::kPatience, &result), 0);
     EXPECT_EQ(result, 5u);
 }
 
@@ -116,7 +121,7 @@ TEST_F(SendTest, WaitingThreadsAnswerInEveryWait) {
     std::thread sender([&answer] { answer = static_cast<int>(SendMessageA(mine, kAdd, 3, 4)); });
     const DWORD start = GetTickCount();
     MSG message;
-    while (answer == 0 && GetTickCount() - start < 2000) {
+    while (answer == 0 && GetTickCount() - start < tests::kPatience) {
         MsgWaitForMultipleObjects(0, nullptr, FALSE, 50, QS_POSTMESSAGE);
         PeekMessageA(&message, nullptr, WM_USER + 99, WM_USER + 99, PM_REMOVE);
     }
@@ -130,7 +135,7 @@ TEST_F(SendTest, WindowsGoWithTheirThread) {
     ASSERT_NE(window.load(), nullptr);
     // The thread's end may be seen by join a little before its windows are gone.
     const DWORD start = GetTickCount();
-    while (IsWindow(window) && GetTickCount() - start < 2000) {
+    while (IsWindow(window) && GetTickCount() - start < tests::kPatience) {
         Sleep(1);
     }
     EXPECT_FALSE(IsWindow(window));

@@ -140,7 +140,8 @@ TEST_F(Windows, BelongToTheirThread) {
         EXPECT_EQ(GetWindowThreadProcessId(theirs, &process), GetCurrentThreadId());
         EXPECT_EQ(process, GetCurrentProcessId());
     }).join();
-    for (int patience = 0; IsWindow(theirs) && patience < 100; ++patience) {
+    // The thread's end may be seen a little before its windows are gone.
+    for (int patience = 0; IsWindow(theirs) && patience < 6000; ++patience) {
         Sleep(10);
     }
     EXPECT_FALSE(IsWindow(theirs));
@@ -319,6 +320,52 @@ TEST_F(Windows, ProceduresCanBeReplaced) {
     EXPECT_EQ(Recorder::Get().Count(WM_USER + 1), 1);
     SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(before));
     EXPECT_EQ(SendMessageA(window, WM_USER, 0, 0), 0);
+}
+
+TEST_F(Windows, NeverComeIntoACircle) {
+    HWND first = Make(WS_OVERLAPPEDWINDOW, 0, 0, 100, 100);
+    HWND second = Make(WS_OVERLAPPEDWINDOW, 0, 0, 100, 100);
+    EXPECT_EQ(GetDesktopWindow(), SetParent(first, second));
+    SetLastError(0);
+    EXPECT_EQ(nullptr, SetParent(second, first));
+    EXPECT_EQ(static_cast<DWORD>(ERROR_INVALID_PARAMETER), GetLastError());
+    EXPECT_EQ(second, GetAncestor(first, GA_ROOT));
+    // Styles do not matter, nor do windows on the way.
+    HWND inner = Child(first, 0, 0, 10, 10);
+    EXPECT_EQ(nullptr, SetParent(second, inner));
+    EXPECT_EQ(nullptr, SetParent(first, first));
+    HWND popup = Make(WS_POPUP, 0, 0, 10, 10, second);
+    if (SetParent(second, popup)) {
+        EXPECT_EQ(nullptr, SetParent(popup, second));
+    }
+    DestroyWindow(second);
+    EXPECT_FALSE(IsWindow(first));
+}
+
+TEST_F(Windows, WithoutACaptionAreMadeAsSmallAsAsked) {
+    HWND parent = Make(WS_OVERLAPPEDWINDOW, 0, 0, 300, 300);
+    for (const DWORD style : {DWORD{WS_CHILD | WS_THICKFRAME}, DWORD{WS_POPUP | WS_THICKFRAME}}) {
+        HWND window = Make(style, 0, 0, 50, 20, parent);
+        RECT rect{};
+        GetWindowRect(window, &rect);
+        EXPECT_EQ(50, rect.right - rect.left);
+        EXPECT_EQ(20, rect.bottom - rect.top);
+        SetWindowPos(window, nullptr, 0, 0, 40, 10, SWP_NOMOVE | SWP_NOZORDER);
+        GetWindowRect(window, &rect);
+        EXPECT_EQ(10, rect.bottom - rect.top);
+    }
+}
+
+TEST_F(Windows, KeepTheirTextWhenTheNewOneIsNowhere) {
+    HWND window = Make(WS_POPUP, 0, 0, 100, 100);
+    HWND label = Keep(CreateWindowExA(0, "static", "text", WS_CHILD, 0, 0, 9, 9, window, nullptr, nullptr, nullptr));
+    SetWindowTextA(window, "text");
+    for (HWND each : {window, label}) {
+        EXPECT_FALSE(SetWindowTextA(each, reinterpret_cast<LPCSTR>(8)));
+        char text[8] = "";
+        GetWindowTextA(each, text, sizeof text);
+        EXPECT_STREQ("text", text);
+    }
 }
 
 }  // namespace

@@ -147,6 +147,11 @@ TEST(UtilFiles, WhatExists) {
     EXPECT_TRUE(UTIL_DirExists((folder.Path("sub") + "\\").c_str()));
     EXPECT_FALSE(UTIL_DirExists(file.c_str()));
     EXPECT_FALSE(UTIL_DirExists((file + "\\").c_str()));
+    EXPECT_TRUE(UTIL_DirExists("\\")) << "the root of the current drive";
+    EXPECT_TRUE(UTIL_DirExists("C:\\"));
+    EXPECT_TRUE(UTIL_DirExists("C:\\windows.")) << "a dot at the end does not count";
+    EXPECT_TRUE(UTIL_DirExists((folder.Path("sub") + ". .").c_str()));
+    EXPECT_TRUE(UTIL_FileExists((file + ".").c_str()));
     EXPECT_FALSE(UTIL_DirExists(folder.Path("missing").c_str()));
     EXPECT_TRUE(UTIL_FileExists(folder.Path("fILE.TXT").c_str()));
     EXPECT_FALSE(UTIL_FileExists(folder.Path("Sub").c_str()));

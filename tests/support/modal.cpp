@@ -11,7 +11,7 @@ namespace testing_support {
 namespace {
 
 constexpr UINT kLook = 10;         // milliseconds between two looks at the active window
-constexpr UINT kPatience = 10000;  // until a dialog that was left open is ended
+constexpr UINT kPatience = 60000;  // until a dialog that was left open is ended
 constexpr char kVisited[] = "CvTestVisited";
 constexpr int kTimedOut = 9999;
 
@@ -69,16 +69,19 @@ void PressKey(HWND dialog, WORD key, bool alt) {
     // The last release says that the others have been taken.
     MSG message;
     WORD const last = alt ? WORD{VK_MENU} : key;
+    bool pressed = false;
     for (DWORD const start = GetTickCount(); GetTickCount() - start < kPatience;) {
         if (!PeekMessageA(&message, nullptr, WM_KEYFIRST, WM_KEYLAST, PM_REMOVE)) {
-            if (!IsWindowVisible(dialog)) {
-                return;  // ended by the press: the release went elsewhere
+            // Ended by the press, or a dialog that the press opened has taken the release: it went elsewhere.
+            if (!IsWindowVisible(dialog) || (pressed && GetKeyState(last) >= 0)) {
+                return;
             }
             Sleep(1);
             continue;
         }
         bool const release = message.message == WM_KEYUP || message.message == WM_SYSKEYUP;
         bool const done = release && message.wParam == last;
+        pressed |= !release && message.wParam == last;
         if (!IsDialogMessageA(dialog, &message)) {
             TranslateMessage(&message);
             DispatchMessageA(&message);

@@ -1,11 +1,12 @@
 // cvreg: the registry for people, on hosts that have no editor for it.
 #include <windows.h>
 
+#include <cerrno>
 #include <cstdio>
-#include <cstdlib>
-#include <fstream>
+#include <cstring>
 #include <iostream>
-#include <sstream>
+#include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -15,17 +16,27 @@
 namespace {
 
 constexpr char kUsage[] =
-    "usage: cvreg list KEY                 subkeys and values of a key\n"
-    "       cvreg get KEY NAME             one value\n"
-    "       cvreg set KEY NAME TEXT        stores a text, making the key if needed\n"
-    "       cvreg set KEY NAME dword:N     stores a number, decimal or 0x...\n"
-    "       cvreg delete KEY [NAME]        deletes a value, or a key with all below it\n"
-    "       cvreg export KEY [FILE]        REGEDIT4 text, to the standard output if there is no FILE\n"
-    "       cvreg import [FILE]            does what a REGEDIT4 text says\n"
+    "usage: cvreg list KEY                     subkeys and values of a key\n"
+    "       cvreg get KEY NAME                 one value\n"
+    "       cvreg set KEY NAME TEXT            stores a text, making the key if needed\n"
+    "       cvreg set KEY NAME dword:N         stores a number, decimal or 0x...\n"
+    "       cvreg set -t TYPE KEY NAME DATA    stores what DATA is as a TYPE:\n"
+    "                                            sz         a text as it stands, also one that begins with \"dword:\"\n"
+    "                                            expand_sz  a text with names of variables in it, like %PATH%\n"
+    "                                            dword      a number, decimal or 0x...\n"
+    "                                            binary     bytes, like 01,fF,3\n"
+    "       cvreg delete KEY [NAME]            deletes a value, or a key with all below it\n"
+    "       cvreg export KEY [FILE]            REGEDIT4 text, to the standard output if there is no FILE\n"
+    "       cvreg import [FILE]                does what a REGEDIT4 text says, or nothing if there is an error in it\n"
     "\n"
     "KEY is a path like 'HKCU\\Software\\Calverin\\Velmora' (or HKLM, HKCR, or the roots' long names); in most shells "
     "it\n"
-    "needs the quotes. NAME '' is a key's unnamed value.\n";
+    "needs the quotes. NAME '' is a key's unnamed value. Texts and names hold characters of the code page in use.\n";
+
+constexpr int kFailed = 1;
+constexpr int kMisused = 2;
+
+using Words = std::vector<std::string>;
 
 std::string Convert(UINT from, UINT to, const std::string& text) {
     std::basic_string<WCHAR> wide(text.size(), 0);
@@ -38,34 +49,41 @@ std::string Convert(UINT from, UINT to, const std::string& text) {
     return result;
 }
 
-std::string FromTerminal(const std::string& text) {
-    return Convert(CP_UTF8, CP_ACP, text);
-}
-
 std::string ToTerminal(const std::string& text) {
     return Convert(CP_ACP, CP_UTF8, text);
 }
 
+int Complain(const std::string& what, int code = kFailed) {
+    std::cerr << "cvreg: " << what << '\n';
+    return code;
+}
+
 int Fail(const std::string& what, LONG error) {
-    const char* why = error == ERROR_FILE_NOT_FOUND      ? "does not exist"
-                      : error == ERROR_BADKEY            ? "does not begin with a root (HKCU, HKLM, HKCR)"
-                      : error == ERROR_ACCESS_DENIED     ? "cannot be changed"
-                      : error == ERROR_REGISTRY_CORRUPT  ? "cannot be read: the registry is damaged"
-                      : error == ERROR_INVALID_PARAMETER ? "is too long"
-                                                         : nullptr;
-    std::cerr << "cvreg: " << ToTerminal(what) << ' ' << (why ? why : "failed with error " + std::to_string(error))
-              << '\n';
-    return 1;
+    return Complain(ToTerminal(what + ' ' + cvreg::Words(error)));
+}
+
+/// Words of the command line in the code page in use. @returns nothing, after a line about it, when one has characters
+/// that the code page lacks.
+std::optional<Words> FromTerminal(const Words& words) {
+    Words converted;
+    for (const std::string& word : words) {
+        converted.push_back(Convert(CP_UTF8, CP_ACP, word));
+        if (ToTerminal(converted.back()) != word) {
+            Complain("'" + word + "' has characters that the code page " + std::to_string(GetACP()) + " lacks");
+            return std::nullopt;
+        }
+    }
+    return converted;
 }
 
 // A value's line in the format of files says its type too.
 void Print(const cvreg::NamedValue& value) {
-    std::cout << ToTerminal(cvreg::FormatValue(value.name, value.type, value.data));
+    std::cout << ToTerminal(cvreg::FormatValue(value.name, value.type, value.data, "\n"));
 }
 
 int List(const std::string& path) {
     cvreg::OpenKey key;
-    std::vector<std::string> names;
+    Words names;
     std::vector<cvreg::NamedValue> values;
     LONG error = key.Open(path);
     error = error == ERROR_SUCCESS ? cvreg::ListSubkeys(key, &names) : error;
@@ -84,50 +102,79 @@ int List(const std::string& path) {
 
 int Get(const std::string& path, const std::string& name) {
     cvreg::OpenKey key;
-    LONG error = key.Open(path);
-    DWORD size = 0;
     cvreg::NamedValue value{name, REG_NONE, {}};
-    error = error == ERROR_SUCCESS ? RegQueryValueExA(key, name.c_str(), nullptr, &value.type, nullptr, &size) : error;
-    if (error == ERROR_SUCCESS) {
-        value.data.resize(size);
-        error = RegQueryValueExA(key, name.c_str(), nullptr, &value.type, reinterpret_cast<BYTE*>(value.data.data()),
-                                 &size);
-    }
+    LONG error = key.Open(path);
     if (error != ERROR_SUCCESS) {
-        return Fail(path + ", " + name, error);
+        return Fail(path, error);
+    }
+    error = cvreg::ReadValue(key, &value);
+    if (error != ERROR_SUCCESS) {
+        return Fail(path + ", " + (name.empty() ? "the unnamed value" : name), error);
     }
     if (value.type == REG_SZ || value.type == REG_EXPAND_SZ) {
         std::cout << ToTerminal(value.data.c_str()) << '\n';
     } else if (value.type == REG_DWORD && value.data.size() == sizeof(DWORD)) {
-        std::cout << *reinterpret_cast<const DWORD*>(value.data.data()) << '\n';
+        DWORD number = 0;
+        std::memcpy(&number, value.data.data(), sizeof number);
+        std::cout << number << '\n';
     } else {
         Print(value);
     }
     return 0;
 }
 
-int Set(const std::string& path, const std::string& name, const std::string& text) {
-    DWORD type = REG_SZ;
-    std::string data = text + '\0';
-    if (text.starts_with("dword:")) {
-        char* end = nullptr;
-        const char* digits = text.c_str() + 6;
-        const unsigned long long number = std::strtoull(digits, &end, 0);
-        if (end == digits || *end || number > 0xFFFFFFFF) {
-            std::cerr << "cvreg: " << ToTerminal(text) << " is no 32-bit number\n";
-            return 2;
+/// A number of 32 bits, decimal or hexadecimal behind "0x".
+std::optional<DWORD> Number(std::string_view digits) {
+    const bool hex = digits.starts_with("0x") || digits.starts_with("0X");
+    digits.remove_prefix(hex ? 2 : 0);
+    unsigned long long number = 0;
+    for (const char digit : digits) {
+        const char small = static_cast<char>(digit | 0x20);
+        const int value = digit >= '0' && digit <= '9'          ? digit - '0'
+                          : hex && small >= 'a' && small <= 'f' ? small - 'a' + 10
+                                                                : -1;
+        number = number * (hex ? 16 : 10) + static_cast<unsigned>(value);
+        if (value < 0 || number > 0xFFFFFFFF) {
+            return std::nullopt;
         }
-        type = REG_DWORD;
-        const auto value = static_cast<DWORD>(number);
-        data.assign(reinterpret_cast<const char*>(&value), sizeof value);
+    }
+    return digits.empty() ? std::nullopt : std::optional(static_cast<DWORD>(number));
+}
+
+/// Makes a value's data of what was typed. @returns what is wrong with it, or nothing.
+const char* MakeData(const std::string& type, const std::string& text, cvreg::NamedValue* value) {
+    if (type == "sz" || type == "expand_sz") {
+        value->type = type == "sz" ? REG_SZ : REG_EXPAND_SZ;
+        value->data = text + '\0';
+        return nullptr;
+    }
+    if (type == "dword") {
+        const std::optional<DWORD> number = Number(text);
+        const DWORD plain = number.value_or(0);
+        value->type = REG_DWORD;
+        value->data.assign(reinterpret_cast<const char*>(&plain), sizeof plain);
+        return number ? nullptr : "is no 32-bit number";
+    }
+    value->type = REG_BINARY;
+    return cvreg::ParseBytes(text, &value->data) ? nullptr : "is no list of bytes";
+}
+
+int Set(std::string type, const std::string& path, const std::string& name, std::string text) {
+    constexpr std::string_view kNumber = "dword:";
+    if (type.empty()) {
+        type = text.starts_with(kNumber) ? "dword" : "sz";
+        text.erase(0, type == "dword" ? kNumber.size() : 0);
+    }
+    cvreg::NamedValue value{name, REG_NONE, {}};
+    if (const char* wrong = MakeData(type, text, &value)) {
+        return Complain("'" + ToTerminal(text) + "' " + wrong, kMisused);
     }
     cvreg::OpenKey key;
-    LONG error = key.Create(path);
-    error = error == ERROR_SUCCESS
-                ? RegSetValueExA(key, name.c_str(), 0, type, reinterpret_cast<const BYTE*>(data.data()),
-                                 static_cast<DWORD>(data.size()))
-                : error;
-    return error == ERROR_SUCCESS ? 0 : Fail(path, error);
+    if (const LONG error = key.Create(path)) {
+        return Fail(path, error);
+    }
+    const LONG error = cvreg::WriteValue(key, value);
+    return error == ERROR_SUCCESS ? 0 : Fail(path + ", " + name, error);
 }
 
 int Delete(const std::string& path, const std::string* name) {
@@ -138,76 +185,120 @@ int Delete(const std::string& path, const std::string* name) {
         error = error == ERROR_SUCCESS ? RegDeleteValueA(key, name->c_str()) : error;
     } else {
         error = cvreg::DeleteTree(path);
+        if (error == ERROR_ACCESS_DENIED) {
+            return Complain(ToTerminal(path) + " cannot be deleted");
+        }
     }
     return error == ERROR_SUCCESS ? 0 : Fail(name ? path + ", " + *name : path, error);
 }
 
-int Export(const std::string& path, const char* file) {
+struct Closer {
+    void operator()(std::FILE* file) const {
+        std::fclose(file);
+    }
+};
+
+int Export(const std::string& path, const char* name) {
     std::string text = cvreg::kHeading;
     if (const LONG error = cvreg::Export(cvreg::FullPath(path), &text)) {
         return Fail(path, error);
     }
-    if (!file) {
-        std::cout << text << std::flush;
+    if (!name) {
+        std::cout << text;
         return 0;
     }
-    std::ofstream out(file, std::ios::binary);
-    out << text << std::flush;
-    if (!out) {
-        std::cerr << "cvreg: cannot write " << file << '\n';
-        return 1;
-    }
-    return 0;
+    std::unique_ptr<std::FILE, Closer> file(std::fopen(name, "wb"));
+    const bool written =
+        file && std::fwrite(text.data(), 1, text.size(), file.get()) == text.size() && std::fflush(file.get()) == 0;
+    return written ? 0 : Complain(std::string("cannot write ") + name + ": " + std::strerror(errno));
 }
 
-int Import(const char* file) {
-    std::ostringstream text;
-    if (file) {
-        std::ifstream in(file, std::ios::binary);
-        if (!in) {
-            std::cerr << "cvreg: cannot read " << file << '\n';
-            return 1;
-        }
-        text << in.rdbuf();
-    } else {
-        text << std::cin.rdbuf();
+int Import(const char* name) {
+    const std::unique_ptr<std::FILE, Closer> opened(name ? std::fopen(name, "rb") : nullptr);
+    std::FILE* const file = name ? opened.get() : stdin;
+    const std::string shown = name ? name : "the standard input";
+    std::string text;
+    char piece[65536];
+    for (std::size_t size = 1; file && size > 0;) {
+        size = std::fread(piece, 1, sizeof piece, file);
+        text.append(piece, size);
+    }
+    if (!file || std::ferror(file)) {
+        return Complain("cannot read " + shown + ": " + (errno == EISDIR ? "it is a folder" : std::strerror(errno)));
     }
     std::string error;
-    if (!cvreg::Import(text.str(), &error)) {
-        std::cerr << "cvreg: " << (file ? file : "standard input") << ": " << ToTerminal(error) << '\n';
-        return 1;
+    return cvreg::Import(text, &error) ? 0 : Complain(shown + ": " + ToTerminal(error));
+}
+
+int Usage(bool asked) {
+    (asked ? std::cout : std::cerr) << kUsage;
+    return asked ? 0 : kMisused;
+}
+
+int SetOrComplain(Words words) {
+    std::string type;
+    if (words.size() >= 2 && words[0] == "-t") {
+        type = words[1];
+        if (type != "sz" && type != "expand_sz" && type != "dword" && type != "binary") {
+            return Complain("there is no type '" + type + "', only sz, expand_sz, dword and binary", kMisused);
+        }
+        words.erase(words.begin(), words.begin() + 2);
     }
-    return 0;
+    if (words.size() != 3) {
+        return Usage(false);
+    }
+    const std::optional<Words> own = FromTerminal(words);
+    return own ? Set(type, (*own)[0], (*own)[1], (*own)[2]) : kFailed;
+}
+
+int Run(const Words& words) {
+    const std::string command = words.empty() ? "" : words[0];
+    const std::size_t given = words.size();
+    const Words rest(words.begin() + (given > 0), words.end());
+    if (command == "help" || command == "--help" || command == "-h") {
+        return Usage(true);
+    }
+    if (command == "set") {
+        return SetOrComplain(rest);
+    }
+    // A file's name is the host's and stays as it is.
+    const char* file = nullptr;
+    Words own = rest;
+    if ((command == "export" && given == 3) || (command == "import" && given == 2)) {
+        file = words.back().c_str();
+        own.pop_back();
+    }
+    const std::optional<Words> names = FromTerminal(own);
+    if (!names) {
+        return kFailed;
+    }
+    const std::size_t count = names->size();
+    if (command == "list" && count == 1) {
+        return List((*names)[0]);
+    }
+    if (command == "get" && count == 2) {
+        return Get((*names)[0], (*names)[1]);
+    }
+    if (command == "delete" && (count == 1 || count == 2)) {
+        return Delete((*names)[0], count == 2 ? &(*names)[1] : nullptr);
+    }
+    if (command == "export" && count == 1) {
+        return Export((*names)[0], file);
+    }
+    if (command == "import" && count == 0) {
+        return Import(file);
+    }
+    return Usage(false);
 }
 
 }  // namespace
 
 int main(int count, char** arguments) {
-    std::vector<std::string> words;
-    for (int i = 1; i < count; ++i) {
-        words.push_back(FromTerminal(arguments[i]));
+    const int code = Run(Words(arguments + (count > 0), arguments + count));
+    errno = 0;
+    if (!std::cout.flush()) {
+        return Complain("cannot write to the standard output" +
+                        (errno ? std::string(": ") + std::strerror(errno) : std::string()));
     }
-    const std::string command = words.empty() ? "" : words[0];
-    const std::size_t given = words.size();
-    if (command == "list" && given == 2) {
-        return List(words[1]);
-    }
-    if (command == "get" && given == 3) {
-        return Get(words[1], words[2]);
-    }
-    if (command == "set" && given == 4) {
-        return Set(words[1], words[2], words[3]);
-    }
-    if (command == "delete" && (given == 2 || given == 3)) {
-        return Delete(words[1], given == 3 ? &words[2] : nullptr);
-    }
-    if (command == "export" && (given == 2 || given == 3)) {
-        return Export(words[1], given == 3 ? arguments[3] : nullptr);
-    }
-    if (command == "import" && given <= 2) {
-        return Import(given == 2 ? arguments[2] : nullptr);
-    }
-    const bool asked = command == "help" || command == "--help" || command == "-h";
-    (asked ? std::cout : std::cerr) << kUsage;
-    return asked ? 0 : 2;
+    return code;
 }

@@ -3,6 +3,7 @@
 ///
 ///     REGEDIT4
 ///
+///     ; a remark, which may also stand behind a key or a value
 ///     [HKEY_CURRENT_USER\Software\Calverin]
 ///     @="the unnamed value"
 ///     "Folder"="C:\\DATA"
@@ -13,7 +14,11 @@
 ///
 ///     [-HKEY_CURRENT_USER\Software\Former]
 ///
-/// A list of bytes may go on in the next line, behind a comma and a backslash.
+/// In quotes `\\` is a backslash and `\"` a quote; any other backslash is one, as files that people write have them ("C:\new").
+/// A text may go on in the next line, with the line's end as it is. A list of bytes may do so behind a backslash.
+///
+/// One thing is this system's own: a key with a line end in its name stands in quotes inside the brackets, so that a bracket
+/// that somebody forgot is found out at its line.
 #pragma once
 
 #include <windows.h>
@@ -30,6 +35,7 @@ struct Entry {
     std::string name;
     DWORD type = REG_NONE;
     std::string data;  ///< a text's with its NUL
+    int line = 0;      ///< where it begins
 };
 
 /// Reads a whole file.
@@ -37,12 +43,16 @@ struct Entry {
 /// @returns false, with no entries, when there is such a line.
 bool Parse(std::string_view text, std::vector<Entry>* entries, std::string* error);
 
+/// Reads a list of bytes: "01,fF,3". @returns whether it is one.
+bool ParseBytes(std::string_view list, std::string* bytes);
+
 /// @returns the line of a key, with a blank line before it.
 std::string FormatKey(std::string_view path);
 
 /// @returns the line of a value, or lines where it is long. A text that does not come back from quotes as it is, as it
 /// holds line ends or no final NUL, is written as bytes.
-std::string FormatValue(std::string_view name, DWORD type, std::string_view data);
+/// @param lineEnd  what the format itself ends lines with.
+std::string FormatValue(std::string_view name, DWORD type, std::string_view data, const char* lineEnd = "\r\n");
 
 constexpr char kHeading[] = "REGEDIT4\r\n";
 

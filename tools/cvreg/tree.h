@@ -47,14 +47,22 @@ struct NamedValue {
 LONG ListSubkeys(HKEY key, std::vector<std::string>* names);
 LONG ListValues(HKEY key, std::vector<NamedValue>* values);
 
-/// Deletes a key with all its subkeys.
+/// Fills in the type and data of a value that has its name.
+LONG ReadValue(HKEY key, NamedValue* value);
+/// Stores a value byte by byte: a text without a NUL stays one.
+LONG WriteValue(HKEY key, const NamedValue& value);
+
+/// Deletes a key with all its subkeys. A key that always exists is refused as a whole with ERROR_ACCESS_DENIED.
 LONG DeleteTree(std::string_view path);
 
 /// Appends a key and all below it in the REGEDIT4 format.
 LONG Export(const std::string& path, std::string* text);
 
-/// Does what a REGEDIT4 text says. @param error  receives what went wrong; nothing is changed when the text cannot be
-/// understood.
+/// Does what a REGEDIT4 text says. @param error  receives the line and what is wrong with it; nothing is changed when
+/// there is a line that cannot be understood or can never be done.
 bool Import(std::string_view text, std::string* error);
+
+/// @returns what an error says of a key or value whose name comes before it.
+std::string Words(LONG error);
 
 }  // namespace cvreg

@@ -17,7 +17,8 @@ namespace {
 constexpr unsigned kArrow = 32512;  // IDC_ARROW as a number
 constexpr unsigned kHelp = 32651;   // IDC_HELP
 constexpr int kFrameMilliseconds = 8;
-constexpr int kIdleMilliseconds = 1000;
+constexpr int kRetryMilliseconds = 1000;
+constexpr int kForEver = -1;
 constexpr std::chrono::milliseconds kClipboardWait{2000};
 
 SDL_SystemCursor SystemCursor(unsigned idc) {
@@ -80,6 +81,7 @@ SdlDisplay::SdlDisplay(const Sink& sink, const Source& source, int width, int he
       width(width),
       height(height),
       wantedCursor(kArrow),
+      view(this->source, width, height),
       shownCursor(kArrow),
       keyboard(this->sink) {}
 
@@ -129,22 +131,14 @@ bool SdlDisplay::Open(std::string& error) {
     SDL_SetHint(SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1");
     SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
     SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
-    SDL_SetHint(SDL_HINT_RENDER_SCALE_QUALITY, "linear");
     ChooseDriver();
     if (SDL_Init(SDL_INIT_VIDEO) == 0) {
         wakeEvent = SDL_RegisterEvents(1);
         const SDL_Point size = FittingSize(width, height);
         window = SDL_CreateWindow("CVUTIL32", SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, size.x, size.y,
                                   SDL_WINDOW_RESIZABLE);
-        if (window != nullptr) {
-            // The picture comes ready-made from memory; a graphics processor would only make the start slow.
-            renderer = SDL_CreateRenderer(window, -1, SDL_RENDERER_SOFTWARE);
-        }
-        if (renderer != nullptr && SDL_RenderSetLogicalSize(renderer, width, height) == 0) {
-            texture = SDL_CreateTexture(renderer, SDL_PIXELFORMAT_RGB888, SDL_TEXTUREACCESS_STREAMING, width, height);
-        }
     }
-    if (texture == nullptr) {
+    if (window == nullptr || !view.Attach(window)) {
         error = SDL_GetError();
         if (error.empty()) {
             error = "SDL gives no reason";
@@ -162,12 +156,7 @@ void SdlDisplay::Close() {
         SDL_FreeCursor(cursor);
     }
     cursors.clear();
-    if (texture != nullptr) {
-        SDL_DestroyTexture(texture);
-    }
-    if (renderer != nullptr) {
-        SDL_DestroyRenderer(renderer);
-    }
+    view.Detach();
     if (window != nullptr) {
         SDL_DestroyWindow(window);
     }
@@ -179,7 +168,7 @@ void SdlDisplay::Loop() {
     while (running) {
         const bool due = changed || stale;
         const int rest = static_cast<int>(nextFrame - SDL_GetTicks());
-        const int wait = !due ? kIdleMilliseconds : std::clamp(rest, 0, kFrameMilliseconds);
+        const int wait = !due ? kForEver : std::max(rest, 0);
         SDL_Event event;
         if (SDL_WaitEventTimeout(&event, wait) != 0) {
             do {
@@ -189,11 +178,11 @@ void SdlDisplay::Loop() {
         ApplyCursor();
         RunTasks();
         if ((changed || stale) && static_cast<int>(nextFrame - SDL_GetTicks()) <= 0) {
-            Upload();
-            if (stale) {
-                Present();
-                nextFrame = SDL_GetTicks() + kFrameMilliseconds;
-            }
+            const bool whole = stale;
+            changed = false;
+            // Where the window cannot be drawn in, it may be later.
+            stale = !view.Present(whole);
+            nextFrame = SDL_GetTicks() + (stale ? kRetryMilliseconds : kFrameMilliseconds);
         }
     }
 }
@@ -204,7 +193,7 @@ void SdlDisplay::Handle(const SDL_Event& event) {
             HandleWindow(event.window);
             break;
         case SDL_MOUSEMOTION:
-            sink.mouseMove(event.motion.x, event.motion.y);
+            MoveMouse(event.motion.x, event.motion.y);
             break;
         case SDL_MOUSEBUTTONDOWN:
         case SDL_MOUSEBUTTONUP:
@@ -266,7 +255,7 @@ void SdlDisplay::HandleButton(const SDL_MouseButtonEvent& event) {
     }
     heldButtons ^= bit;
     SDL_CaptureMouse(heldButtons != 0 ? SDL_TRUE : SDL_FALSE);
-    sink.mouseMove(event.x, event.y);
+    MoveMouse(event.x, event.y);
     sink.mouseButton(button, down);
 }
 
@@ -297,34 +286,9 @@ void SdlDisplay::HandleKeyDown(const SDL_KeyboardEvent& event) {
     keyboard.Down(event.keysym, hasText ? next.text.text : nullptr);
 }
 
-void SdlDisplay::Upload() {
-    changed = false;
-    source.lock();
-    int left = 0;
-    int top = 0;
-    int right = 0;
-    int bottom = 0;
-    if (source.takeDirty(&left, &top, &right, &bottom)) {
-        const Picture picture = source.picture();
-        left = std::max(left, 0);
-        top = std::max(top, 0);
-        right = std::min({right, picture.width, width});
-        bottom = std::min({bottom, picture.height, height});
-        if (picture.pixels != nullptr && left < right && top < bottom) {
-            const SDL_Rect part{left, top, right - left, bottom - top};
-            const std::uint32_t* first = picture.pixels + std::ptrdiff_t(top) * picture.stride + left;
-            SDL_UpdateTexture(texture, &part, first, picture.stride * int(sizeof *first));
-            stale = true;
-        }
-    }
-    source.unlock();
-}
-
-void SdlDisplay::Present() {
-    stale = false;
-    SDL_RenderClear(renderer);
-    SDL_RenderCopy(renderer, texture, nullptr, nullptr);
-    SDL_RenderPresent(renderer);
+void SdlDisplay::MoveMouse(int x, int y) {
+    const SDL_Point point = view.ToPicture(x, y);
+    sink.mouseMove(point.x, point.y);
 }
 
 void SdlDisplay::ApplyCursor() {

@@ -4,6 +4,7 @@
 
 #include "display/display.h"
 #include "display/sdl/keyboard.h"
+#include "display/sdl/view.h"
 
 #include <SDL.h>
 
@@ -45,8 +46,7 @@ class SdlDisplay final : public Display {
     void HandleWheel(const SDL_MouseWheelEvent& event);
     void HandleKeyDown(const SDL_KeyboardEvent& event);
     void ReleaseButtons();
-    void Upload();
-    void Present();
+    void MoveMouse(int x, int y);
     void ApplyCursor();
     void Post();
     bool RunOnLoop(std::function<void()> task);
@@ -66,7 +66,7 @@ class SdlDisplay final : public Display {
     std::uint32_t wakeEvent = 0;
     std::atomic<bool> running{false};
     std::atomic<bool> posted{false};   // an event is on its way that the loop has not seen yet
-    std::atomic<bool> changed{false};  // the source may have something to upload
+    std::atomic<bool> changed{false};  // the source may have something to show
     std::atomic<unsigned> wantedCursor;
 
     std::mutex taskMutex;
@@ -74,13 +74,12 @@ class SdlDisplay final : public Display {
 
     // The display's thread alone:
     SDL_Window* window = nullptr;
-    SDL_Renderer* renderer = nullptr;
-    SDL_Texture* texture = nullptr;
+    View view;
     std::map<unsigned, SDL_Cursor*> cursors;
     unsigned shownCursor;
     Keyboard keyboard;
     unsigned heldButtons = 0;
-    bool stale = true;  // the window shows something older than the texture
+    bool stale = true;  // the window has to be drawn anew, whatever has changed
 };
 
 }  // namespace platform::display

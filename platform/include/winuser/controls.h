@@ -73,6 +73,7 @@
 #define SS_NOTIFY 0x00000100L
 #define SS_CENTERIMAGE 0x00000200L
 #define SS_SUNKEN 0x00001000L
+#define SS_EDITCONTROL 0x00002000L
 
 // --- "static": notifications and messages
 

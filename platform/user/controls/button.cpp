@@ -122,7 +122,7 @@ void OnMouseMove(HWND button, const ButtonData& data, LPARAM lParam) {
         return;
     RECT client{};
     GetClientRect(button, &client);
-    const POINT point{static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+    const POINT point = MousePoint(lParam);
     const bool inside = PtInRect(&client, point) != FALSE;
     if (inside != ((data.state & BST_PUSHED) != 0))
         SetPushed(button, inside);
@@ -179,7 +179,7 @@ void OnFocus(HWND button, ButtonData& data, bool has) {
 
 // --- the rest
 
-LRESULT DialogCodeOf(HWND button, LPARAM lParam) {
+LRESULT ButtonDialogCode(HWND button, LPARAM lParam) {
     const DWORD kind = ButtonKind(ControlStyle(button));
     const auto* message = reinterpret_cast<const MSG*>(lParam);
     switch (kind) {
@@ -288,7 +288,7 @@ LRESULT CALLBACK ButtonProcedure(HWND window, UINT message, WPARAM wParam, LPARA
         return DefWindowProcA(window, message, wParam, lParam);
     switch (message) {
         case WM_GETDLGCODE:
-            return DialogCodeOf(window, lParam);
+            return ButtonDialogCode(window, lParam);
         case WM_NCHITTEST: {
             const LRESULT hit = DefWindowProcA(window, message, wParam, lParam);
             return hit == HTCLIENT && ButtonKind(ControlStyle(window)) == BS_GROUPBOX ? HTTRANSPARENT : hit;

@@ -13,7 +13,7 @@ constexpr int kSideGap = 2;       // between the bevel and text at a push button
 constexpr int kCaptionInset = 9;  // of a group box's text from its left edge
 constexpr int kCaptionGap = 2;    // that the frame keeps from the text
 
-struct Painter {
+struct ButtonPainter {
     HWND button;
     const ButtonData& data;
     HDC context;
@@ -38,7 +38,7 @@ struct Painter {
     }
 };
 
-UINT TextFormat(const Painter& painter) {
+UINT TextFormat(const ButtonPainter& painter) {
     UINT format = painter.style & BS_MULTILINE ? DT_WORDBREAK : DT_SINGLELINE;
     switch (painter.style & BS_CENTER) {
         case BS_LEFT:
@@ -53,7 +53,7 @@ UINT TextFormat(const Painter& painter) {
 }
 
 /// @returns the rectangle that the text fills within an area, by the button's alignment.
-RECT PlaceText(const Painter& painter, const RECT& area, UINT format) {
+RECT PlaceText(const ButtonPainter& painter, const RECT& area, UINT format) {
     RECT measured = area;
     DrawTextA(painter.context, painter.text.c_str(), static_cast<int>(painter.text.size()), &measured,
               format | DT_CALCRECT);
@@ -80,7 +80,7 @@ RECT PlaceText(const Painter& painter, const RECT& area, UINT format) {
     return place;
 }
 
-void DrawLabel(const Painter& painter, RECT place, UINT format) {
+void DrawLabel(const ButtonPainter& painter, RECT place, UINT format) {
     if (painter.Disabled()) {
         DrawDisabledText(painter.context, painter.text, place, format);
         return;
@@ -88,7 +88,7 @@ void DrawLabel(const Painter& painter, RECT place, UINT format) {
     DrawTextA(painter.context, painter.text.c_str(), static_cast<int>(painter.text.size()), &place, format);
 }
 
-void DrawContents(const Painter& painter, const RECT& area) {
+void DrawContents(const ButtonPainter& painter, const RECT& area) {
     if (painter.text.empty())
         return;
     const UINT format = TextFormat(painter);
@@ -103,7 +103,7 @@ void DrawContents(const Painter& painter, const RECT& area) {
     RestoreDC(painter.context, saved);
 }
 
-void PaintPush(const Painter& painter) {
+void PaintPush(const ButtonPainter& painter) {
     ControlBrush(painter.button, painter.context, WM_CTLCOLORBTN);
     RECT frame = painter.client;
     const bool isDefault = painter.Kind() == BS_DEFPUSHBUTTON;
@@ -133,7 +133,7 @@ void PaintPush(const Painter& painter) {
     }
 }
 
-UINT BoxState(const Painter& painter) {
+UINT BoxState(const ButtonPainter& painter) {
     UINT state = IsRadioKind(painter.Kind()) ? DFCS_BUTTONRADIO : DFCS_BUTTONCHECK;
     if (painter.data.state & BST_INDETERMINATE)
         state = DFCS_BUTTON3STATE | DFCS_CHECKED;
@@ -146,7 +146,7 @@ UINT BoxState(const Painter& painter) {
     return state;
 }
 
-void PaintBox(const Painter& painter) {
+void PaintBox(const ButtonPainter& painter) {
     const HBRUSH brush = ControlBrush(painter.button, painter.context, WM_CTLCOLORSTATIC);
     FillRect(painter.context, &painter.client, brush);
     const bool boxAtRight = painter.style & BS_LEFTTEXT;
@@ -179,7 +179,7 @@ void PaintBox(const Painter& painter) {
     }
 }
 
-void PaintGroup(const Painter& painter) {
+void PaintGroup(const ButtonPainter& painter) {
     const HBRUSH brush = ControlBrush(painter.button, painter.context, WM_CTLCOLORSTATIC);
     TEXTMETRICA metrics{};
     GetTextMetricsA(painter.context, &metrics);
@@ -208,7 +208,7 @@ void PaintGroup(const Painter& painter) {
     DrawLabel(painter, area, format);
 }
 
-void AskOwner(const Painter& painter, UINT action) {
+void AskOwner(const ButtonPainter& painter, UINT action) {
     const HWND parent = GetParent(painter.button);
     if (!parent)
         return;
@@ -228,7 +228,7 @@ void AskOwner(const Painter& painter, UINT action) {
 }  // namespace
 
 void PaintButton(HWND button, const ButtonData& data, HDC context, UINT action) {
-    Painter painter{button, data, context, ControlStyle(button), {}, ControlText(button)};
+    ButtonPainter painter{button, data, context, ControlStyle(button), {}, ControlText(button)};
     GetClientRect(button, &painter.client);
     const int saved = SaveDC(context);
     if (data.font)

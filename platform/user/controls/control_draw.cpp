@@ -1,5 +1,8 @@
 #include "user/controls/controls.h"
-#include "user/dialog.h"
+#include "user/dialog/dialog.h"
+
+#include "user/window/above.h"
+#include "user/window/class.h"
 
 namespace platform::user {
 

@@ -8,12 +8,9 @@
 #include <new>
 #include <string>
 
-#include "user/window.h"
+#include "user/model/window.h"
 
 namespace platform::user {
-
-/// Registers "#32770" and the classes of the predefined controls; InitialiseClasses calls it.
-void RegisterDialogClasses();
 
 LRESULT CALLBACK ButtonProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT CALLBACK EditProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
@@ -57,10 +54,6 @@ HBRUSH ControlBrush(HWND control, HDC context, UINT message);
 
 /// @returns the window's own text, without asking it. Empty when memory has run out.
 std::string ControlText(HWND control);
-
-/// Moves the pixels of a client area that nobody else draws to; what comes into view has to be painted.
-/// @param erase  whether its background is due as well.
-void ScrollClient(HWND control, int dx, int dy, bool erase);
 
 /// Text that is disabled looks embossed: a highlight one pixel below and to the right of the shadow.
 void DrawDisabledText(HDC context, const std::string& text, RECT rect, UINT format);

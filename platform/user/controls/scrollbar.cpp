@@ -1,6 +1,7 @@
 // The "scrollbar" class: a scroll bar on its own.
 #include "user/controls/controls.h"
-#include "user/scrollbar/bar.h"
+#include "user/frame/above.h"
+#include "user/frame/scrollbar/bar.h"
 
 namespace platform::user {
 namespace {
@@ -8,6 +9,7 @@ namespace {
 struct ScrollBarData : ControlData {
     std::shared_ptr<BarState> bar = std::make_shared<BarState>();
     bool keyHeld = false;
+    bool idle = false;  ///< disabled by SIF_DISABLENOSCROLL, until there is something to scroll
 
     ScrollBarData() {
         bar->high = 0;
@@ -62,7 +64,7 @@ void Repaint(HWND window) {
 // --- input
 
 void OnButtonDown(HWND window, LPARAM lParam) {
-    POINT point{static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+    POINT point = MousePoint(lParam);
     ClientToScreen(window, &point);
     if (ControlStyle(window) & WS_TABSTOP)
         SetFocus(window);
@@ -102,9 +104,17 @@ void OnKey(HWND window, ScrollBarData& data, WPARAM key, bool down) {
 
 LRESULT Change(HWND window, ScrollBarData& data, const SCROLLINFO& info, bool redraw) {
     ApplyInfo(*data.bar, info);
-    if (info.fMask & SIF_DISABLENOSCROLL)
-        data.bar->disabled = !CanScroll(*data.bar);
     const int position = data.bar->position;
+    // What the application has disabled itself comes to life only where it says so.
+    const bool asked = (info.fMask & SIF_DISABLENOSCROLL) != 0;
+    if (asked || data.idle) {
+        const bool alive = CanScroll(*data.bar);
+        data.idle = !alive;
+        if (alive || asked) {
+            data.bar->disabled = !alive;
+            EnableWindow(window, alive);
+        }
+    }
     if (redraw)
         Repaint(window);
     return position;
@@ -155,6 +165,7 @@ LRESULT CALLBACK ScrollBarProcedure(HWND window, UINT message, WPARAM wParam, LP
             DrawBarControl(window, reinterpret_cast<HDC>(wParam));
             return 0;
         case WM_ENABLE:
+            data->idle = data->idle && !wParam;
             data->bar->disabled = !wParam;
             Repaint(window);
             return 0;

@@ -1,6 +1,6 @@
 // Bitmaps and icons of static controls. A control takes the size of its picture, unless a style fixes its own.
 #include "user/controls/static.h"
-#include "user/icons.h"
+#include "user/resource/icons.h"
 
 namespace platform::user {
 namespace {

@@ -1,6 +1,6 @@
 // How static controls look: text, filled and framed rectangles, etched lines, pictures.
 #include "user/controls/static.h"
-#include "user/icons.h"
+#include "user/resource/icons.h"
 
 namespace platform::user {
 namespace {
@@ -24,12 +24,14 @@ UINT TextFormat(DWORD style) {
             format |= DT_EXPANDTABS | DT_WORDBREAK;
             break;
     }
+    if (style & SS_EDITCONTROL)
+        format |= DT_EDITCONTROL;
     if (style & SS_CENTERIMAGE)
         format |= DT_SINGLELINE | DT_VCENTER;
     return format & DT_SINGLELINE ? format & ~UINT{DT_WORDBREAK} : format;
 }
 
-struct Painter {
+struct StaticPainter {
     HWND control;
     const StaticData& data;
     HDC context;
@@ -149,7 +151,7 @@ void PaintStatic(HWND control, const StaticData& data, HDC context) {
     IntersectClipRect(context, 0, 0, client.right, client.bottom);
     if (data.font)
         SelectObject(context, data.font);
-    Painter{control, data, context, ControlStyle(control), client}.Paint();
+    StaticPainter{control, data, context, ControlStyle(control), client}.Paint();
     RestoreDC(context, saved);
 }
 

@@ -3,6 +3,7 @@
 #include <cvutil32/browse.h>
 
 #include "tests/controls/folder_tree.h"
+#include "tests/controls/native/hands.h"
 #include "tests/support/leaks.h"
 #include "tests/support/window.h"
 
@@ -15,84 +16,13 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <vector>
 
 namespace {
 
 namespace fs = std::filesystem;
+using namespace hands;
 using testing_support::TestWindow;
-
-void Key(WORD key, bool down) {
-    INPUT input = {};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = key;
-    input.ki.wScan = static_cast<WORD>(MapVirtualKeyA(key, MAPVK_VK_TO_VSC));
-    input.ki.dwFlags = down ? 0 : KEYEVENTF_KEYUP;
-    SendInput(1, &input, sizeof input);
-}
-
-void Press(std::vector<WORD> const& keys) {
-    for (WORD const key : keys) {
-        Key(key, true);
-        Key(key, false);
-    }
-}
-
-void Click(HWND window, POINT at, int times = 1) {
-    ClientToScreen(window, &at);
-    SetCursorPos(at.x, at.y);
-    for (int i = 0; i < times; ++i) {
-        for (DWORD const flags : {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP}) {
-            INPUT input = {};
-            input.type = INPUT_MOUSE;
-            input.mi.dwFlags = flags;
-            SendInput(1, &input, sizeof input);
-        }
-    }
-}
-
-void ClickMiddle(HWND window) {
-    RECT client;
-    GetClientRect(window, &client);
-    Click(window, {client.right / 2, client.bottom / 2});
-}
-
-/// What the user does, a step at a time: each once the one before has come to rest.
-class Hands {
-  public:
-    using Step = std::function<void(HWND dialog)>;
-
-    explicit Hands(std::vector<Step> steps) {
-        g_steps = std::move(steps);
-        g_next = 0;
-        timer_ = SetTimer(nullptr, 0, 20, Tick);
-    }
-    ~Hands() {
-        KillTimer(nullptr, timer_);
-        EXPECT_EQ(g_steps.size(), g_next) << "not all was done";
-        g_steps.clear();
-    }
-    Hands(Hands const&) = delete;
-    Hands& operator=(Hands const&) = delete;
-
-  private:
-    static void CALLBACK Tick(HWND, UINT, UINT_PTR, DWORD) {
-        HWND const dialog = GetForegroundWindow();
-        char name[16] = "";
-        GetClassNameA(dialog, name, sizeof name);
-        if (g_next < g_steps.size() && lstrcmpA(name, "#32770") == 0) {
-            g_steps[g_next++](dialog);
-        }
-    }
-
-    static std::vector<Step> g_steps;
-    static std::size_t g_next;
-    UINT_PTR timer_;
-};
-
-std::vector<Hands::Step> Hands::g_steps;
-std::size_t Hands::g_next = 0;
 
 class BrowseInput : public testing::Test {
   protected:
@@ -207,7 +137,8 @@ TEST_F(BrowseInput, AFileIsTypedAndMustExist) {
     SetWindowTextA(edit_, "C:\\walk\\a.txt");
     std::string proposed;
     std::string caption;
-    bool refused = false;
+    std::string said;
+    std::string marked;
     std::string const chosen = Browse(BROWSE_FILEMODE, {[&](HWND dialog) {
                                                             char text[MAX_PATH];
                                                             GetDlgItemTextA(dialog, edt1, text, sizeof text);
@@ -217,14 +148,19 @@ TEST_F(BrowseInput, AFileIsTypedAndMustExist) {
                                                             SetDlgItemTextA(dialog, edt1, "none.txt");
                                                             Press({VK_RETURN});
                                                         },
+                                                        [&](HWND box) {
+                                                            said = TextOf(box);
+                                                            Press({VK_RETURN});
+                                                        },
                                                         [&](HWND dialog) {
-                                                            refused = GetDlgItem(dialog, lst1) != nullptr;
+                                                            marked = Selected(GetDlgItem(dialog, edt1));
                                                             SetDlgItemTextA(dialog, edt1, "one\\two\\..\\..\\B.TXT");
                                                             Press({VK_RETURN});
                                                         }});
     EXPECT_EQ("a.txt", proposed);
     EXPECT_EQ("OK", caption);
-    EXPECT_TRUE(refused);
+    EXPECT_EQ("C:\\walk\\none.txt\nFile not found.\nPlease verify the correct file name was given.", said);
+    EXPECT_EQ("none.txt", marked);
     EXPECT_EQ("C:\\walk\\B.TXT", chosen);
 }
 

@@ -98,4 +98,14 @@ TEST_F(EditLook, CaretStandsBetweenCharactersAndWithinTheField) {
     EXPECT_LT(PlaceOf(edit, 0).x, end);
 }
 
+TEST_F(EditLook, ATextThatIsNowhereIsRefused) {
+    const HWND edit = Make(ES_AUTOHSCROLL, "kept");
+    SetLastError(0);
+    EXPECT_FALSE(SetWindowTextA(edit, reinterpret_cast<LPCSTR>(8)));
+    EXPECT_EQ(DWORD{ERROR_NOACCESS}, GetLastError());
+    EXPECT_EQ("kept", Text(edit));
+    EXPECT_TRUE(SetWindowTextA(edit, nullptr));
+    EXPECT_EQ("", Text(edit));
+}
+
 }  // namespace

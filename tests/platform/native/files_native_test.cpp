@@ -5,7 +5,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <string>
 
 #include "tests/support/temp_folder.h"
@@ -47,6 +49,47 @@ TEST(HostFiles, CaseMattersOnlyWhereTwoNamesDifferInIt) {
     EXPECT_FALSE(AttributesOf(folder.Path("name")) & FILE_ATTRIBUTE_DIRECTORY);
     EXPECT_TRUE(AttributesOf(folder.Path("NAME")) & FILE_ATTRIBUTE_DIRECTORY);
     EXPECT_NE(AttributesOf(folder.Path("folder/one.txt")), INVALID_FILE_ATTRIBUTES) << "a slash separates too";
+}
+
+TEST(HostFiles, ANameThatEndsInADotOnTheHostCanBeReached) {
+    const TempFolder folder;
+    std::ofstream(HostPathOf(folder.Path()) / "odd.") << "four";
+    WIN32_FIND_DATAA found;
+    for (const char* name : {"odd.", "ODD."}) {
+        const HANDLE search = FindFirstFileA(folder.Path(name).c_str(), &found);
+        ASSERT_NE(search, INVALID_HANDLE_VALUE) << name;
+        EXPECT_STREQ(found.cFileName, "odd.");
+        FindClose(search);
+    }
+    EXPECT_EQ(AttributesOf(folder.Path("odd")), INVALID_FILE_ATTRIBUTES);
+}
+
+// The current folder lies on a drive of the state folder: what names no drive is meant there.
+TEST(HostFiles, PathsFromTheCurrentFolderOfADrive) {
+    const std::filesystem::path before = std::filesystem::current_path();
+    ASSERT_NE(AttributesOf("C:\\WINDOWS\\SYSTEM"), INVALID_FILE_ATTRIBUTES);
+    std::filesystem::current_path(std::filesystem::path(std::getenv("CVUTIL32_HOME")) / "drive_c" / "WINDOWS");
+    for (const char* name : {"\\WINDOWS", "system", "C:system", "C:\\windows", "..\\..\\..\\WINDOWS", "C:..\\WINDOWS",
+                             "C:.\\SYSTEM.", "/windows/system"}) {
+        EXPECT_NE(AttributesOf(name), INVALID_FILE_ATTRIBUTES) << name;
+    }
+    for (const char* name : {"\\etc", "C:WINDOWS", "Z:WINDOWS", "WINDOWS", " ", "1:\\WINDOWS", "\\\\WINDOWS"}) {
+        EXPECT_EQ(AttributesOf(name), INVALID_FILE_ATTRIBUTES) << name;
+    }
+    EXPECT_NE(AttributesOf("Z:etc"), INVALID_FILE_ATTRIBUTES) << "the root, where one has not been";
+    EXPECT_EQ(GetDriveTypeA("C:"), static_cast<UINT>(DRIVE_FIXED));
+    EXPECT_EQ(GetDriveTypeA(".\\"), static_cast<UINT>(DRIVE_NO_ROOT_DIR));
+    std::filesystem::current_path(before);
+}
+
+TEST(HostFiles, ProfileFilesHaveOneNameHoweverItIsWritten) {
+    ASSERT_TRUE(WritePrivateProfileStringA("a", "b", "c", "cvtest.ini."));
+    for (const char* name : {"CVTEST.ini", "C:\\WINDOWS\\cvtest.ini", "c:/windows/./CvTest.ini. "}) {
+        char value[8] = {};
+        GetPrivateProfileStringA("a", "b", "", value, sizeof value, name);
+        EXPECT_STREQ(value, "c") << name;
+    }
+    std::filesystem::remove(std::filesystem::path(std::getenv("CVUTIL32_HOME")) / "cvtest.ini");
 }
 
 TEST(HostFiles, Attributes) {

@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <utility>
 #include <vector>
 
 #include "../recorder.h"
@@ -84,6 +85,55 @@ TEST_F(FrameInput, EscapePutsTheWindowBack) {
     EXPECT_EQ(Place().top, 100);
 }
 
+TEST_F(FrameInput, TheCaptionStaysInReach) {
+    const int width = GetSystemMetrics(SM_CXSCREEN);
+    const int height = GetSystemMetrics(SM_CYSCREEN);
+    // How much of the caption there is to take hold of on the screen.
+    const auto grip = [&] {
+        int seen = 0;
+        const int y = Place().top + 12;
+        for (int x = 0; x < width && y >= 0 && y < height; ++x) {
+            seen += SendMessageA(window, WM_NCHITTEST, 0, MAKELPARAM(x, y)) == HTCAPTION ? 1 : 0;
+        }
+        return seen;
+    };
+    const int whole = grip();
+    const POINT corners[] = {{0, 0}, {width - 1, 0}, {0, height - 1}, {width - 1, height - 1}};
+    for (const POINT corner : corners) {
+        // By either end of the caption.
+        for (const int from : {104, 240}) {
+            SetWindowPos(window, nullptr, 100, 100, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+            Play({At(from, 106, MOUSEEVENTF_LEFTDOWN), At(200, 150, 0), At(corner.x, corner.y, 0),
+                  At(corner.x, corner.y, MOUSEEVENTF_LEFTUP)});
+            EXPECT_GE(Place().top, 0);
+            EXPECT_LE(Place().top + GetSystemMetrics(SM_CYCAPTION), height);
+            EXPECT_GE(grip(), 30) << corner.x << ", " << corner.y << " from " << from;
+            EXPECT_LE(grip(), whole);
+        }
+    }
+    // By the keyboard: what is pressed beyond the end does not count.
+    const auto move = [&](std::vector<std::pair<WORD, int>> keys) {
+        std::vector<INPUT> inputs;
+        keys.emplace_back(VK_RETURN, 1);
+        for (const auto& [key, times] : keys) {
+            for (int i = 0; i < times; ++i) {
+                inputs.push_back(Key(key));
+                inputs.push_back(Key(key, KEYEVENTF_KEYUP));
+            }
+        }
+        SetWindowPos(window, nullptr, 100, 100, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+        SendMessageA(window, WM_SYSCOMMAND, SC_MOVE, 0);
+        Pump();
+        return Place();
+    };
+    const RECT end = move({{VK_LEFT, 100}, {VK_UP, 100}});
+    EXPECT_EQ(end.top, 0);
+    EXPECT_GE(grip(), 30);
+    EXPECT_LT(end.left, 0);
+    EXPECT_EQ(move({{VK_LEFT, 100}, {VK_UP, 100}, {VK_RIGHT, 1}}).left, end.left + 8);
+}
+
 TEST_F(FrameInput, BordersSizeWithinTheLimits) {
     Play({At(299, 180, MOUSEEVENTF_LEFTDOWN), At(319, 180, 0), At(339, 190, MOUSEEVENTF_LEFTUP)});
     EXPECT_EQ(Place().right, 340);
@@ -100,13 +150,35 @@ TEST_F(FrameInput, TheCloseBoxClosesOnlyWhenReleasedThere) {
 }
 
 TEST_F(FrameInput, ADoubleClickOnTheCaptionMaximisesAndRestores) {
-    const INPUT down = At(180, 112, MOUSEEVENTF_LEFTDOWN);
-    const INPUT up = At(180, 112, MOUSEEVENTF_LEFTUP);
+    INPUT down = At(180, 112, MOUSEEVENTF_LEFTDOWN);
+    INPUT up = At(180, 112, MOUSEEVENTF_LEFTUP);
+    down.mi.time = up.mi.time = GetTickCount();  // at one moment, however long the machine takes over it
     Play({down, up, down, up});
     EXPECT_TRUE(IsZoomed(window));
     SendMessageA(window, WM_SYSCOMMAND, SC_RESTORE, 0);
     EXPECT_FALSE(IsZoomed(window));
     EXPECT_EQ(Place().left, 100);
+}
+
+TEST_F(FrameInput, AWindowMayGoWhileItIsDragged) {
+    for (const UINT when : {UINT{WM_ENTERSIZEMOVE}, UINT{WM_MOVING}, UINT{WM_SIZING}, UINT{WM_WINDOWPOSCHANGING}}) {
+        HWND going =
+            Recorder::Get().Make(WS_POPUP | WS_VISIBLE | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME, 100, 100, 200, 150);
+        SetForegroundWindow(going);
+        Pump();
+        Recorder::Get().answer = [=](const Heard& heard, LRESULT*) {
+            if (heard.message == when && heard.window == going) {
+                DestroyWindow(going);
+            }
+            return false;
+        };
+        const int x = when == WM_SIZING ? 299 : 180;
+        const int y = when == WM_SIZING ? 180 : 112;
+        Play({At(x, y, MOUSEEVENTF_LEFTDOWN), At(x + 20, y + 9, 0), At(x + 30, y + 9, MOUSEEVENTF_LEFTUP)});
+        EXPECT_FALSE(IsWindow(going)) << when;
+        Recorder::Get().answer = nullptr;
+        EXPECT_EQ(GetCapture(), nullptr);
+    }
 }
 
 TEST_F(FrameInput, TheEndOfTheProgramEndsADrag) {

@@ -1,8 +1,6 @@
 // What is fixed on this layer and varies elsewhere: the colours of 1995, the measures of the dialog font, and
 // documented answers that not every host gives.
 #include "../gdi_canvas.h"
-#include "gdi/bitmaps.h"
-#include "gdi/device_context.h"
 
 namespace {
 
@@ -118,84 +116,6 @@ TEST(GdiLook, DamagedHeadersAreRefused) {
     info.bmiHeader.biPlanes = 4;
     EXPECT_EQ(nullptr, CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
     EXPECT_EQ(nullptr, CreateBitmap(40000, 40000, 1, 32, nullptr));
-}
-
-TEST(GdiLook, OverlappingCopiesKeepTheSource) {
-    for (const POINT& move : {POINT{3, 0}, POINT{-3, 0}, POINT{0, 3}, POINT{0, -3}, POINT{2, 2}, POINT{-2, 2}}) {
-        Canvas canvas(20, 20);
-        for (int y = 0; y < 20; ++y) {
-            for (int x = 0; x < 20; ++x) {
-                canvas.Put(x, y, static_cast<std::uint32_t>(y * 256 + x));
-            }
-        }
-        // A clip region of several rectangles makes the order of copying matter.
-        const RECT hole{9, 9, 11, 11};
-        platform::gdi::ExcludeFromClip(canvas, hole);
-        BitBlt(canvas, 5 + move.x, 5 + move.y, 10, 10, canvas, 5, 5, SRCCOPY);
-        for (int y = 5; y < 15; ++y) {
-            for (int x = 5; x < 15; ++x) {
-                const POINT at{x + move.x, y + move.y};
-                if (!PtInRect(&hole, at)) {
-                    ASSERT_EQ(static_cast<std::uint32_t>(y * 256 + x), canvas.At(at.x, at.y))
-                        << move.x << ' ' << move.y << ' ' << x << ' ' << y;
-                }
-            }
-        }
-        EXPECT_EQ(static_cast<std::uint32_t>(9 * 256 + 9), canvas.At(9, 9));
-    }
-}
-
-TEST(GdiLook, PatternsTakeTheColoursOfTheContext) {
-    const WORD rows[8] = {0x00FF, 0, 0, 0, 0, 0, 0, 0};  // the top row set
-    const HBITMAP bitmap = CreateBitmap(8, 8, 1, 1, rows);
-    const HBRUSH brush = platform::gdi::MakePatternBrush(bitmap);
-    DeleteObject(bitmap);  // the brush has its own copy
-    Canvas canvas(16, 16);
-    SetTextColor(canvas, RGB(0, 0, 0));
-    SetBkColor(canvas, RGB(255, 0, 0));
-    const HGDIOBJ previous = SelectObject(canvas, brush);
-    PatBlt(canvas, 0, 0, 16, 16, PATCOPY);
-    EXPECT_EQ(0xFF0000u, canvas.At(5, 0));
-    EXPECT_EQ(0xFF0000u, canvas.At(5, 8));
-    EXPECT_EQ(Canvas::kBlack, canvas.At(5, 1));
-    SelectObject(canvas, previous);
-    DeleteObject(brush);
-}
-
-TEST(GdiLook, BitsGoInAndThrough) {
-    struct {
-        BITMAPINFOHEADER header{sizeof(BITMAPINFOHEADER), 2, 2, 1, 8, BI_RGB, 0, 0, 0, 3, 0};
-        RGBQUAD colours[3]{{0, 0, 0, 0}, {0, 255, 0, 0}, {255, 0, 0, 0}};
-    } info;
-    const auto* header = reinterpret_cast<const BITMAPINFO*>(&info);
-    const BYTE bits[8] = {1, 2, 0, 0, 2, 1, 0, 0};  // the bottom row first
-    Canvas canvas(6, 6);
-    SetStretchBltMode(canvas, COLORONCOLOR);
-    EXPECT_TRUE(platform::gdi::StretchBits(canvas, {0, 0, 4, 4}, bits, header, SRCCOPY));
-    EXPECT_EQ(0x0000FFu, canvas.At(1, 1));
-    EXPECT_EQ(0x00FF00u, canvas.At(3, 0));
-    EXPECT_EQ(0x00FF00u, canvas.At(0, 3));
-    EXPECT_EQ(Canvas::kWhite, canvas.At(4, 0));
-    const HBITMAP bitmap = CreateCompatibleBitmap(canvas, 2, 2);
-    EXPECT_TRUE(platform::gdi::SetBits(bitmap, bits, header));
-    const HDC dc = CreateCompatibleDC(nullptr);
-    const HGDIOBJ previous = SelectObject(dc, bitmap);
-    EXPECT_EQ(RGB(0, 0, 255), GetPixel(dc, 0, 0));
-    EXPECT_EQ(RGB(0, 255, 0), GetPixel(dc, 1, 0));
-    EXPECT_EQ(RGB(0, 255, 0), GetPixel(dc, 0, 1));
-    SelectObject(dc, previous);
-    DeleteDC(dc);
-    DeleteObject(bitmap);
-}
-
-TEST(GdiLook, TabsReachTheirStops) {
-    Canvas canvas;
-    TEXTMETRICA metrics{};
-    GetTextMetricsA(canvas, &metrics);
-    SIZE size{};
-    GetTextExtentPoint32A(canvas, "c", 1, &size);
-    EXPECT_EQ(8 * metrics.tmAveCharWidth + size.cx, platform::gdi::TabbedTextWidth(canvas, "\tc"));
-    EXPECT_EQ(16 * metrics.tmAveCharWidth + size.cx, platform::gdi::TabbedTextWidth(canvas, "i\t\tc"));
 }
 
 TEST(GdiLook, FarCoordinatesOnlyClip) {

@@ -2,16 +2,22 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <dlfcn.h>
+
 #include <algorithm>
 #include <cstring>
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include "platform/kernel/start/module_registration.h"
+#include "platform/kernel/modules/start/module_registration.h"
+#include "tests/support/temp_folder.h"
 
 namespace {
 
+using testing_support::HostPathOf;
+using testing_support::TempFolder;
 using File = std::vector<unsigned char>;
 
 void Put(File& file, DWORD value, int size) {
@@ -130,6 +136,28 @@ TEST(ModulesDeathTest, ALibraryThatRefusesToStartEndsTheProcess) {
             CvPlatformAttachModule(&start);
         },
         ::testing::ExitedWithCode(1), "could not be initialised");
+}
+
+// Any library of the host, under a name with a version: what an installed package has.
+TEST(Modules, LibrariesAreFoundInAnyCaseAndVersion) {
+    const TempFolder folder;
+    Dl_info any{};
+    ASSERT_NE(dladdr(dlsym(RTLD_DEFAULT, "sqlite3_libversion"), &any), 0);
+    std::filesystem::copy_file(std::filesystem::canonical(any.dli_fname), HostPathOf(folder.Path("libCvNamed.so.1.2")));
+    const HMODULE library = LoadLibraryA(folder.Path("CVNAMED.DLL").c_str());
+    ASSERT_NE(library, nullptr);
+    for (const std::string& name : {std::string("cvnamed"), std::string("CVNAMED.dll"), folder.Path("cvNamed"),
+                                    folder.Path("libcvnamed.so.1.2")}) {
+        EXPECT_EQ(GetModuleHandleA(name.c_str()), library) << name;
+        EXPECT_EQ(LoadLibraryA(name.c_str()), library) << name;
+        EXPECT_TRUE(FreeLibrary(library));
+    }
+    for (const std::string& name : {std::string("cvnamed.exe"), std::string("named"), folder.Path("other\\cvnamed")}) {
+        EXPECT_EQ(GetModuleHandleA(name.c_str()), nullptr) << name;
+    }
+    EXPECT_TRUE(FreeLibrary(library));
+    EXPECT_EQ(GetModuleHandleA("cvnamed"), nullptr) << "the last use is given back";
+    EXPECT_EQ(LoadLibraryA(folder.Path("none").c_str()), nullptr);
 }
 
 int notices[4];

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
+#include <fcntl.h>
 #include <sys/mman.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -11,7 +12,6 @@
 
 #include <algorithm>
 #include <atomic>
-#include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
@@ -138,7 +138,21 @@ TEST_F(RegistryStore, TwoWritersLoseNothing) {
     RegCloseKey(key);
 }
 
-// The child tells, in memory that it shares, what has been written; it is killed at any moment, two hundred times.
+// Waits for something that another process is about to do. @returns false when that process has ended instead.
+template <class Holds>
+bool WaitFor(pid_t process, Holds holds) {
+    while (!holds()) {
+        siginfo_t ended{};
+        if (waitid(P_PID, static_cast<id_t>(process), &ended, WEXITED | WNOHANG | WNOWAIT) != 0 || ended.si_pid) {
+            return holds();
+        }
+        std::this_thread::yield();
+    }
+    return true;
+}
+
+// The child tells, in memory that it shares, what has been written; it is killed somewhere behind one of its first
+// writes, two hundred times.
 TEST_F(RegistryStore, WhatWasWrittenOutlivesAKilledProcess) {
     struct Shared {
         std::atomic<DWORD> written;
@@ -173,7 +187,7 @@ TEST_F(RegistryStore, WhatWasWrittenOutlivesAKilledProcess) {
             }
         }
         seed = seed * 1103515245 + 12345;
-        std::this_thread::sleep_for(std::chrono::microseconds(2000 + (seed >> 16) % 12000));
+        ASSERT_TRUE(WaitFor(child, [&] { return shared->written >= first + (seed >> 16) % 30; })) << "kill " << kill;
         ::kill(child, SIGKILL);
         int status = 0;
         waitpid(child, &status, 0);
@@ -183,13 +197,11 @@ TEST_F(RegistryStore, WhatWasWrittenOutlivesAKilledProcess) {
         ASSERT_NE(key, nullptr);
         ASSERT_EQ(Read(key, "Kept"), 4711u);
         const DWORD written = shared->written;
-        if (written) {
-            const DWORD number = Read(key, "Number");
-            ASSERT_TRUE(number == written || number == written + 1) << number << " after " << written;
-            const DWORD spread = Read(key, "n" + std::to_string(written % 64));
-            ASSERT_TRUE(spread == written || spread == written + 64);
-            total = number;
-        }
+        const DWORD number = Read(key, "Number");
+        ASSERT_TRUE(number == written || number == written + 1) << number << " after " << written;
+        const DWORD spread = Read(key, "n" + std::to_string(written % 64));
+        ASSERT_TRUE(spread == written || spread == written + 64);
+        total = number;
         for (int i = 0; i < 16; ++i) {
             HKEY sub = nullptr;
             if (shared->keys & 1u << i) {
@@ -199,8 +211,78 @@ TEST_F(RegistryStore, WhatWasWrittenOutlivesAKilledProcess) {
         }
         RegCloseKey(key);
     }
-    EXPECT_GT(total, 200u) << "the writers got somewhere";
     munmap(shared, sizeof(Shared));
+}
+
+// Six processes that wait at a gate: each makes the store, or finds it half made by another one.
+TEST_F(RegistryStore, ProgramsThatStartAtOnceAllWrite) {
+    for (int round = 0; round < 20; ++round) {
+        setenv("CVUTIL32_HOME", (folder_ / std::to_string(round)).c_str(), 1);
+        int gate[2];
+        ASSERT_EQ(pipe(gate), 0);
+        pid_t starters[6];
+        for (pid_t& starter : starters) {
+            starter = fork();
+            if (starter == 0) {
+                char none;
+                close(gate[1]);
+                const bool open = read(gate[0], &none, 1) == 0;
+                const HKEY key = Open();
+                _exit(open && key && Write(key, std::to_string(&starter - starters), 7) == ERROR_SUCCESS ? 0 : 1);
+            }
+        }
+        close(gate[0]);
+        close(gate[1]);
+        for (const pid_t starter : starters) {
+            int status = -1;
+            waitpid(starter, &status, 0);
+            EXPECT_EQ(status, 0) << "round " << round;
+        }
+        const HKEY key = Open();
+        for (int i = 0; i < 6; ++i) {
+            EXPECT_EQ(Read(key, std::to_string(i)), 7u) << "round " << round;
+        }
+        RegCloseKey(key);
+    }
+    setenv("CVUTIL32_HOME", folder_.c_str(), 1);
+}
+
+// A process that is about to write to an empty store stands in the way of another one that makes it. The lock that it
+// holds is a part of the file's format.
+TEST_F(RegistryStore, AStoreIsMadeThoughSomebodyElseIsAboutTo) {
+    Put("");
+    int told[2];
+    int asked[2];
+    ASSERT_EQ(pipe(told), 0);
+    ASSERT_EQ(pipe(asked), 0);
+    const std::string file = File();
+    const pid_t other = fork();
+    if (other == 0) {
+        const int descriptor = open(file.c_str(), O_RDWR);
+        struct flock lock {};
+        lock.l_type = F_WRLCK;
+        lock.l_start = 0x40000001;
+        lock.l_len = 1;
+        char byte = fcntl(descriptor, F_SETLK, &lock) == 0;
+        const bool done = write(told[1], &byte, 1) == 1 && read(asked[0], &byte, 1) == 1;
+        // Time for the other process to run into the lock; however little it makes of it, it must come through.
+        usleep(300000);
+        _exit(done ? 0 : 1);
+    }
+    char locked = 0;
+    ASSERT_EQ(read(told[0], &locked, 1), 1);
+    ASSERT_EQ(locked, 1);
+    ASSERT_EQ(write(asked[1], &locked, 1), 1);
+    const HKEY key = Open();
+    EXPECT_NE(key, nullptr);
+    EXPECT_EQ(Write(key, "Number", 5), ERROR_SUCCESS);
+    RegCloseKey(key);
+    int status = -1;
+    waitpid(other, &status, 0);
+    EXPECT_EQ(status, 0);
+    for (const int end : {told[0], told[1], asked[0], asked[1]}) {
+        close(end);
+    }
 }
 
 TEST_F(RegistryStore, AProcessThatForksGoesOn) {
@@ -324,7 +406,7 @@ TEST_F(RegistryStore, AFullDiskLosesNothing) {
             error = RegSetValueExA(key, ("Large" + std::to_string(i)).c_str(), 0, REG_BINARY,
                                    reinterpret_cast<const BYTE*>(large.data()), static_cast<DWORD>(large.size()));
         }
-        return error != ERROR_SUCCESS && Read(key, "Number") == 5;
+        return error == ERROR_DISK_FULL && Read(key, "Number") == 5;
     }));
     EXPECT_EQ(Read(key, "Number"), 5u);
     EXPECT_EQ(Write(key, "Number", 6), ERROR_SUCCESS);

@@ -11,6 +11,7 @@
 #include <string>
 
 using testing_support::LeakCheck;
+using testing_support::Picture;
 using testing_support::PumpMessages;
 using testing_support::TempFolder;
 using testing_support::TestWindow;
@@ -25,6 +26,11 @@ class UtilHelpPopup : public ::testing::Test {
         folder_.MakeFile("Viewer.txt",
                          "About this file\r\n[1001]\r\n\r\nThe name.\r\nIn two lines.\r\n[1002]\nA folder.");
         file_ = folder_.Path("VIEWER.HLP");
+        // The mark that some editors put at the beginning, and no line before the first topic.
+        folder_.MakeFile("Long.txt", "\xEF\xBB\xBF[1]\nThe first.\n[2]\n" + std::string(1500, 'w') + "\n[3]\n" +
+                                         Repeated("Many words make a long topic. ", 2000) + "\n[4]\n" +
+                                         Repeated("A line.\n", 400) + "The last line.");
+        long_ = folder_.Path("long.hlp");
     }
     ~UtilHelpPopup() override {
         WinHelpA(nullptr, nullptr, HELP_QUIT, 0);
@@ -33,6 +39,28 @@ class UtilHelpPopup : public ::testing::Test {
     HWND Add(HWND parent, char const* type, int id) const {
         return CreateWindowExA(0, type, "", WS_CHILD | WS_VISIBLE, 0, 0, 200, 150, parent,
                                reinterpret_cast<HMENU>(INT_PTR{id}), GetModuleHandleA(nullptr), nullptr);
+    }
+    static std::string Repeated(std::string const& text, int times) {
+        std::string all;
+        for (int i = 0; i < times; ++i) {
+            all += text;
+        }
+        return all;
+    }
+    /// Where the popup lies; it must be on the screen with all its borders.
+    RECT PopupOf(DWORD topic) const {
+        EXPECT_TRUE(UTIL_WinHelp(window_, long_.c_str(), HELP_CONTEXTPOPUP, topic));
+        RECT place = {};
+        GetWindowRect(GetCapture(), &place);
+        EXPECT_GE(place.left, 0);
+        EXPECT_GE(place.top, 0);
+        EXPECT_LE(place.right, GetSystemMetrics(SM_CXSCREEN));
+        EXPECT_LE(place.bottom, GetSystemMetrics(SM_CYSCREEN));
+        return place;
+    }
+    static Picture Look(HWND popup) {
+        UpdateWindow(popup);
+        return testing_support::PictureOf(popup);
     }
     static std::string Shown() {
         char text[128] = "";
@@ -47,6 +75,7 @@ class UtilHelpPopup : public ::testing::Test {
     TempFolder folder_;
     TestWindow window_;
     std::string file_;
+    std::string long_;
 };
 
 TEST_F(UtilHelpPopup, ATopicStaysUntilTheNextClickOrKey) {
@@ -66,6 +95,57 @@ TEST_F(UtilHelpPopup, ATopicStaysUntilTheNextClickOrKey) {
     EXPECT_EQ("", Shown());
     DestroyWindow(control);
     PumpMessages();
+}
+
+TEST_F(UtilHelpPopup, ATopicOnTheFirstLineOfAFileWithAByteOrderMark) {
+    EXPECT_TRUE(UTIL_WinHelp(window_, long_.c_str(), HELP_CONTEXTPOPUP, 1));
+    EXPECT_EQ("The first.", Shown());
+}
+
+TEST_F(UtilHelpPopup, AnUnbrokenWordWraps) {
+    RECT const place = PopupOf(2);
+    EXPECT_LT(place.right - place.left, 400);
+    EXPECT_GT(place.bottom - place.top, 300);
+    // To the end of each line there are letters.
+    Picture const picture = Look(GetCapture());
+    for (int x : {12, picture.width - 20}) {
+        int ink = 0;
+        for (int y = 0; y < picture.height; ++y) {
+            for (int i = 0; i < 8; ++i) {
+                ink += picture.At(x + i, y) == GetSysColor(COLOR_INFOTEXT);
+            }
+        }
+        EXPECT_GT(ink, 100) << x;
+    }
+}
+
+TEST_F(UtilHelpPopup, ATopicLongerThanTheScreenIsScrolled) {
+    PopupOf(3);  // becomes wider
+    RECT const place = PopupOf(4);
+    HWND const popup = GetCapture();
+    EXPECT_GT(place.bottom - place.top, GetSystemMetrics(SM_CYSCREEN) / 2);
+    Picture const start = Look(popup);
+    auto const key = [&](WPARAM which) {
+        SendMessageA(popup, WM_KEYDOWN, which, 0);
+        return Look(popup);
+    };
+    EXPECT_EQ(start, key(VK_UP));
+    Picture const down = key(VK_NEXT);
+    EXPECT_NE(start, down);
+    Picture const end = key(VK_END);
+    EXPECT_NE(down, end);
+    EXPECT_EQ(end, key(VK_DOWN));
+    SendMessageA(popup, WM_MOUSEWHEEL, MAKEWPARAM(0, WHEEL_DELTA), 0);
+    EXPECT_NE(end, Look(popup));
+    EXPECT_EQ(start, key(VK_HOME));
+    // The arrows at the corners.
+    SendMessageA(popup, WM_LBUTTONDOWN, 0, MAKELPARAM(start.width - 8, start.height - 8));
+    EXPECT_NE(start, Look(popup));
+    SendMessageA(popup, WM_LBUTTONDOWN, 0, MAKELPARAM(start.width - 8, 8));
+    EXPECT_EQ(start, Look(popup));
+    EXPECT_TRUE(IsWindow(popup));
+    SendMessageA(popup, WM_LBUTTONDOWN, 0, MAKELPARAM(20, 20));
+    EXPECT_FALSE(IsWindow(popup));
 }
 
 TEST_F(UtilHelpPopup, WhatHasNoTopicFails) {

@@ -68,11 +68,11 @@ void OnEditNotification(ComboData& combo, UINT code) {
     // What is typed is no item of the list, which at most shows where it would be.
     SendMessageA(combo.list, LB_SETCURSEL, static_cast<WPARAM>(-1), 0);
     const std::string text = ItemText(combo, -1);
-    const LRESULT near = text.empty() ? LB_ERR
-                                      : SendMessageA(combo.list, LB_FINDSTRING, static_cast<WPARAM>(-1),
-                                                     reinterpret_cast<LPARAM>(text.c_str()));
-    if (near >= 0)
-        SendMessageA(combo.list, LB_SETTOPINDEX, static_cast<WPARAM>(near), 0);
+    const LRESULT nearest = text.empty() ? LB_ERR
+                                         : SendMessageA(combo.list, LB_FINDSTRING, static_cast<WPARAM>(-1),
+                                                        reinterpret_cast<LPARAM>(text.c_str()));
+    if (nearest >= 0)
+        SendMessageA(combo.list, LB_SETTOPINDEX, static_cast<WPARAM>(nearest), 0);
     NotifyCombo(combo, CBN_EDITCHANGE);
 }
 
@@ -119,7 +119,7 @@ void OnButtonDown(ComboData& combo, LPARAM lParam) {
     SetFocus(combo.window);
     if (!IsWindow(combo.window) || !combo.Drops())
         return;
-    const POINT point{static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+    const POINT point = MousePoint(lParam);
     const RECT arrow = ArrowRect(combo);
     const bool onArrow = PtInRect(&arrow, point) != FALSE;
     if (combo.edit && !onArrow)

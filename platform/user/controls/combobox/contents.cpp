@@ -6,6 +6,8 @@
 namespace platform::user {
 namespace {
 
+constexpr int kLargestWidth = 0x7FFF;
+
 LRESULT ToList(const ComboData& combo, UINT message, WPARAM wParam, LPARAM lParam) {
     return SendMessageA(combo.list, message, wParam, lParam);
 }
@@ -74,7 +76,11 @@ LRESULT OnStateMessage(ComboData& combo, UINT message, WPARAM wParam, LPARAM lPa
             *reinterpret_cast<RECT*>(lParam) = DroppedRect(combo);
             return TRUE;
         case CB_SETDROPPEDWIDTH:
-            combo.dropWidth = std::max(0, number);
+            if (number > kLargestWidth)
+                return CB_ERR;
+            // 0 leaves the width as it is.
+            if (number != 0)
+                combo.dropWidth = std::max(0, number);
             [[fallthrough]];
         case CB_GETDROPPEDWIDTH: {
             RECT rect{};

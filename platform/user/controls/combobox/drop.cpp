@@ -8,10 +8,6 @@ namespace {
 
 constexpr int kListFrame = 2;  // the list's border, above and below
 
-POINT PointOf(LPARAM lParam) {
-    return {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
-}
-
 /// Where the list drops: below the field, else above it.
 RECT ListRect(const ComboData& combo) {
     RECT field{};
@@ -129,7 +125,7 @@ bool OnDroppedListInput(ListData& list, UINT message, WPARAM wParam, LPARAM lPar
     const auto combo = ControlOf<ComboData>(list.combo);
     if (!combo || !combo->Drops())
         return false;
-    const POINT point = PointOf(lParam);
+    const POINT point = MousePoint(lParam);
     const RECT client = ListClient(list);
     const bool inside = PtInRect(&client, point) != FALSE;
     switch (message) {

@@ -1,13 +1,13 @@
 // The part of a combo box that is always seen: a sunken field, and the arrow at its right.
 #include <algorithm>
 
-#include "gdi/device_context.h"
+#include "gdi/context/device_context.h"
 #include "user/controls/combobox/combo.h"
 
 namespace platform::user {
 namespace {
 
-constexpr int kEdge = 2;
+constexpr int kFieldEdge = 2;
 constexpr int kInset = 1;    // between the edge and the text's place
 constexpr int kSpacing = 2;  // what a line of text gets on top of the font's height
 
@@ -54,7 +54,7 @@ void DrawChoice(const ComboData& combo, HDC context, const RECT& rect, bool focu
 }  // namespace
 
 int ClosedHeight(const ComboData& combo) {
-    return combo.fieldHeight + 2 * (kEdge + kInset);
+    return combo.fieldHeight + 2 * (kFieldEdge + kInset);
 }
 
 RECT ArrowRect(const ComboData& combo) {
@@ -62,16 +62,17 @@ RECT ArrowRect(const ComboData& combo) {
     GetClientRect(combo.window, &client);
     if (!combo.Drops())
         return {};
-    const int right = client.right - kEdge;
-    return {std::max(kEdge, right - GetSystemMetrics(SM_CXVSCROLL)), kEdge, right, ClosedHeight(combo) - kEdge};
+    const int right = client.right - kFieldEdge;
+    return {std::max(kFieldEdge, right - GetSystemMetrics(SM_CXVSCROLL)), kFieldEdge, right,
+            ClosedHeight(combo) - kFieldEdge};
 }
 
 RECT TextRect(const ComboData& combo) {
     RECT client{};
     GetClientRect(combo.window, &client);
-    const int right = combo.Drops() ? ArrowRect(combo).left : client.right - kEdge;
-    return {kEdge + kInset, kEdge + kInset, std::max(kEdge + kInset, right - kInset),
-            kEdge + kInset + combo.fieldHeight};
+    const int right = combo.Drops() ? ArrowRect(combo).left : client.right - kFieldEdge;
+    return {kFieldEdge + kInset, kFieldEdge + kInset, std::max(kFieldEdge + kInset, right - kInset),
+            kFieldEdge + kInset + combo.fieldHeight};
 }
 
 void LayOutCombo(ComboData& combo) {
@@ -122,7 +123,7 @@ void PaintCombo(const ComboData& combo, HDC context) {
                              (combo.Style() & WS_DISABLED ? UINT{DFCS_INACTIVE} : 0U));
     }
     RECT field = frame;
-    InflateRect(&field, -kEdge, -kEdge);
+    InflateRect(&field, -kFieldEdge, -kFieldEdge);
     if (!IsRectEmpty(&arrow))
         field.right = arrow.left;
     const RECT text = TextRect(combo);

@@ -115,6 +115,16 @@ LRESULT OnGetText(const ListData& list, int index, char* buffer) {
     return static_cast<LRESULT>(item.text.size());
 }
 
+/// The index -1 means all items.
+LRESULT OnSetItemData(ListData& list, int index, ULONG_PTR data) {
+    if (index != -1 && !list.items.Has(index))
+        return LB_ERR;
+    const int end = index == -1 ? list.items.Count() : index + 1;
+    for (int i = std::max(index, 0); i < end; ++i)
+        list.items[i].data = data;
+    return TRUE;
+}
+
 bool Matches(const ListData& list, int index, LPARAM wanted, bool exact) {
     const ListItem& item = list.items[index];
     if (!list.HasTexts())
@@ -194,12 +204,7 @@ LRESULT OnContentsMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lP
         case LB_GETITEMDATA:
             return list.items.Has(index) ? static_cast<LRESULT>(list.items[index].data) : LB_ERR;
         case LB_SETITEMDATA:
-            for (int i = index == -1 ? 0 : index; list.items.Has(i); ++i) {
-                list.items[i].data = static_cast<ULONG_PTR>(lParam);
-                if (index != -1)
-                    return LB_OKAY;
-            }
-            return index == -1 ? LB_OKAY : LB_ERR;
+            return OnSetItemData(list, index, static_cast<ULONG_PTR>(lParam));
         case LB_FINDSTRING:
         case LB_FINDSTRINGEXACT:
             return FindItem(list, index, lParam, message == LB_FINDSTRINGEXACT);

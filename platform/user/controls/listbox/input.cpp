@@ -6,8 +6,8 @@
 namespace platform::user {
 namespace {
 
-constexpr UINT_PTR kScrollTimer = 0xFFFD;
-constexpr UINT kScrollPeriod = 50;
+constexpr UINT_PTR kListScrollTimer = 0xFFFD;
+constexpr UINT kListScrollPeriod = 50;
 
 bool IsDown(int key) {
     return GetKeyState(key) < 0;
@@ -117,9 +117,9 @@ void OnListMouseMove(ListData& list, POINT point) {
     bool outside = false;
     if (list.tracking) {
         if (ScrollTowards(list, point))
-            SetTimer(list.window, kScrollTimer, kScrollPeriod, nullptr);
+            SetTimer(list.window, kListScrollTimer, kListScrollPeriod, nullptr);
         else
-            KillTimer(list.window, kScrollTimer);
+            KillTimer(list.window, kListScrollTimer);
         Follow(list, point);
     } else if (list.following && ItemAt(list, point, &outside) >= 0 && !outside) {
         Follow(list, point);
@@ -131,7 +131,7 @@ void OnListTimer(ListData& list) {
     GetCursorPos(&point);
     ScreenToClient(list.window, &point);
     if (!list.tracking || !ScrollTowards(list, point)) {
-        KillTimer(list.window, kScrollTimer);
+        KillTimer(list.window, kListScrollTimer);
         return;
     }
     Follow(list, point);
@@ -146,7 +146,7 @@ void OnListButtonUp(ListData& list, POINT) {
 
 void EndTracking(ListData& list) {
     list.tracking = false;
-    KillTimer(list.window, kScrollTimer);
+    KillTimer(list.window, kListScrollTimer);
     if (GetCapture() == list.window && !list.following)
         ReleaseCapture();
 }

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "user/controls/listbox/list.h"
+#include "user/painting/painting.h"
 
 namespace platform::user {
 

@@ -119,7 +119,7 @@ void OnScroll(ListData& list, bool vertical, WPARAM wParam);
 
 // --- paint.cpp
 
-void PaintList(ListData& list, HDC context, const RECT& area);
+void PaintItems(ListData& list, HDC context, const RECT& area);
 /// Draws one item at once if it is in view. action: ODA_SELECT after it was selected or not, ODA_FOCUS after it got or lost the
 /// focus rectangle.
 void RedrawItem(ListData& list, int index, UINT action);

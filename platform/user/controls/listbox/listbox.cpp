@@ -9,10 +9,6 @@ namespace {
 
 constexpr int kWheelLines = 3;
 
-POINT PointOf(LPARAM lParam) {
-    return {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
-}
-
 void Renew(ListData& list) {
     FitHeight(list);
     UpdateBars(list);
@@ -68,14 +64,14 @@ void OnSize(ListData& list) {
 
 void OnPaint(ListData& list, HDC given) {
     if (given) {
-        PaintList(list, given, ListClient(list));
+        PaintItems(list, given, ListClient(list));
         return;
     }
     PAINTSTRUCT paint{};
     const HDC context = BeginPaint(list.window, &paint);
     // What is not drawn now is marked again when drawing is switched on.
     if (context && list.redraw)
-        PaintList(list, context, paint.rcPaint);
+        PaintItems(list, context, paint.rcPaint);
     EndPaint(list.window, &paint);
 }
 
@@ -170,13 +166,13 @@ LRESULT OnInput(ListData& list, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_LBUTTONDOWN:
         case WM_LBUTTONDBLCLK:
-            OnListButtonDown(list, PointOf(lParam), wParam, message == WM_LBUTTONDBLCLK);
+            OnListButtonDown(list, MousePoint(lParam), wParam, message == WM_LBUTTONDBLCLK);
             return 0;
         case WM_LBUTTONUP:
-            OnListButtonUp(list, PointOf(lParam));
+            OnListButtonUp(list, MousePoint(lParam));
             return 0;
         case WM_MOUSEMOVE:
-            OnListMouseMove(list, PointOf(lParam));
+            OnListMouseMove(list, MousePoint(lParam));
             return 0;
         case WM_MOUSEWHEEL:
             return OnWheel(list, wParam) ? 0 : DefWindowProcA(list.window, message, wParam, lParam);

@@ -105,7 +105,7 @@ void DrawOne(ListData& list, const Brush& brush, int index, UINT action) {
 
 }  // namespace
 
-void PaintList(ListData& list, HDC context, const RECT& area) {
+void PaintItems(ListData& list, HDC context, const RECT& area) {
     const Brush brush(list, context);
     const RECT client = ListClient(list);
     RECT rest = client;

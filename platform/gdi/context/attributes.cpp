@@ -1,0 +1,113 @@
+// Colours and modes of device contexts, and what the device can do.
+#include "gdi/context/context.h"
+
+using namespace platform::gdi;
+
+namespace {
+
+/// Puts a value into a context; @returns the one before, or `failure` for a bad handle.
+template <class Value>
+Value Exchange(HDC handle, Value DrawState::*member, Value value, Value failure) {
+    auto* context = FindObject<DeviceContext>(handle);
+    if (!context) {
+        return failure;
+    }
+    const Value previous = context->state.*member;
+    context->state.*member = value;
+    return previous;
+}
+
+int ExchangeMode(HDC handle, int DrawState::*member, int value, int lowest, int highest) {
+    if (value < lowest || value > highest) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return 0;
+    }
+    return Exchange(handle, member, value, 0);
+}
+
+template <class Value>
+Value Get(HDC handle, Value DrawState::*member, Value failure) {
+    const auto* context = FindObject<DeviceContext>(handle);
+    return context ? context->state.*member : failure;
+}
+
+}  // namespace
+
+COLORREF WINAPI SetBkColor(HDC context, COLORREF colour) {
+    return Exchange(context, &DrawState::backColour, colour & 0x00FFFFFF, COLORREF{CLR_INVALID});
+}
+
+COLORREF WINAPI GetBkColor(HDC context) {
+    return Get(context, &DrawState::backColour, COLORREF{CLR_INVALID});
+}
+
+int WINAPI SetBkMode(HDC context, int mode) {
+    return ExchangeMode(context, &DrawState::backMode, mode, TRANSPARENT, OPAQUE);
+}
+
+int WINAPI GetBkMode(HDC context) {
+    return Get(context, &DrawState::backMode, 0);
+}
+
+COLORREF WINAPI SetTextColor(HDC context, COLORREF colour) {
+    return Exchange(context, &DrawState::textColour, colour & 0x00FFFFFF, COLORREF{CLR_INVALID});
+}
+
+COLORREF WINAPI GetTextColor(HDC context) {
+    return Get(context, &DrawState::textColour, COLORREF{CLR_INVALID});
+}
+
+int WINAPI SetStretchBltMode(HDC context, int mode) {
+    return ExchangeMode(context, &DrawState::stretchMode, mode, BLACKONWHITE, HALFTONE);
+}
+
+BOOL WINAPI GdiFlush(void) {
+    return TRUE;
+}
+
+int WINAPI GetDeviceCaps(HDC handle, int index) {
+    if (!FindObject<DeviceContext>(handle)) {
+        return 0;
+    }
+    constexpr int kDotsPerInch = 96;
+    const RECT screen = ScreenRect();
+    const auto millimetres = [](LONG pixels) { return static_cast<int>((pixels * 254 + 480) / (kDotsPerInch * 10)); };
+    switch (index) {
+        case DRIVERVERSION:
+            return 0x4000;
+        case TECHNOLOGY:
+            return DT_RASDISPLAY;
+        case HORZSIZE:
+            return millimetres(screen.right);
+        case VERTSIZE:
+            return millimetres(screen.bottom);
+        case HORZRES:
+        case DESKTOPHORZRES:
+            return screen.right;
+        case VERTRES:
+        case DESKTOPVERTRES:
+            return screen.bottom;
+        case BITSPIXEL:
+            return 32;
+        case PLANES:
+            return 1;
+        case NUMBRUSHES:
+        case NUMPENS:
+        case NUMCOLORS:
+            return -1;
+        case CLIPCAPS:
+            return CP_RECTANGLE | CP_REGION;
+        case RASTERCAPS:
+            return RC_BITBLT | RC_DI_BITMAP | RC_DIBTODEV | RC_STRETCHBLT | RC_STRETCHDIB;
+        case ASPECTX:
+        case ASPECTY:
+            return 36;
+        case ASPECTXY:
+            return 51;
+        case LOGPIXELSX:
+        case LOGPIXELSY:
+            return kDotsPerInch;
+        default:
+            return 0;
+    }
+}

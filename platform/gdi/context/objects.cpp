@@ -1,0 +1,277 @@
+// Handles of drawing objects: asking, deleting, and the stock objects.
+#include "gdi/context/objects.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <cstring>
+
+#include "gdi/bitmap/bitmaps.h"
+#include "gdi/context/context.h"
+
+namespace platform::gdi {
+
+Bitmap::~Bitmap() {
+    if (!sharedBits) {
+        std::free(bits);
+    }
+}
+
+Surface Bitmap::View() const {
+    Surface surface;
+    surface.width = width;
+    surface.height = height;
+    surface.bitsPerPixel = bitsPerPixel;
+    surface.monochrome = bitsPerPixel == 1 && !section;
+    surface.sixGreen = sixGreen;
+    if (bitsPerPixel <= 8) {
+        surface.palette = palette ? palette.get() : DefaultPalette(bitsPerPixel);
+        surface.paletteSize = palette ? paletteSize : 1 << bitsPerPixel;
+    }
+    const auto stride = static_cast<std::ptrdiff_t>(rowBytes);
+    surface.bits = topDown || !bits ? bits : bits + stride * (height - 1);
+    surface.stride = topDown ? stride : -stride;
+    return surface;
+}
+
+namespace {
+
+std::atomic<std::size_t> stockCount{0};
+
+template <class Kind>
+Kind* MakeStock(void (*fill)(Kind&)) {
+    auto object = NewObject<Kind>();
+    if (!object) {
+        std::abort();
+    }
+    fill(*object);
+    object->handle = base::InsertHandle(Kind::kKind, object.get());
+    NoteStock(object.get());
+    return object.release();
+}
+
+template <UINT Style, COLORREF Colour>
+void FillBrush(Brush& brush) {
+    brush.style = Style;
+    brush.colour = Colour;
+}
+
+template <UINT Style, COLORREF Colour>
+void FillPen(Pen& pen) {
+    pen.style = Style;
+    pen.colour = Colour;
+}
+
+Font* StockFont(const char* face, int height, int weight, BYTE pitch) {
+    Font* font = MakeStock<Font>([](Font&) {});
+    font->logical.lfHeight = height;
+    font->logical.lfWeight = weight;
+    font->logical.lfPitchAndFamily = pitch;
+    std::strncpy(font->logical.lfFaceName, face, LF_FACESIZE - 1);
+    return font;
+}
+
+struct StockTable {
+    std::array<Object*, DEFAULT_GUI_FONT + 1> objects{};
+    StockObjects inside{};
+
+    StockTable() {
+        objects[WHITE_BRUSH] = MakeStock<Brush>(FillBrush<BS_SOLID, 0xFFFFFF>);
+        objects[LTGRAY_BRUSH] = MakeStock<Brush>(FillBrush<BS_SOLID, 0xC0C0C0>);
+        objects[GRAY_BRUSH] = MakeStock<Brush>(FillBrush<BS_SOLID, 0x808080>);
+        objects[DKGRAY_BRUSH] = MakeStock<Brush>(FillBrush<BS_SOLID, 0x404040>);
+        objects[BLACK_BRUSH] = MakeStock<Brush>(FillBrush<BS_SOLID, 0x000000>);
+        objects[NULL_BRUSH] = MakeStock<Brush>(FillBrush<BS_NULL, 0>);
+        objects[WHITE_PEN] = MakeStock<Pen>(FillPen<PS_SOLID, 0xFFFFFF>);
+        objects[BLACK_PEN] = MakeStock<Pen>(FillPen<PS_SOLID, 0x000000>);
+        objects[NULL_PEN] = MakeStock<Pen>(FillPen<PS_NULL, 0>);
+        objects[OEM_FIXED_FONT] = StockFont("Terminal", 12, FW_NORMAL, FIXED_PITCH | FF_MODERN);
+        objects[ANSI_FIXED_FONT] = StockFont("Courier", 12, FW_NORMAL, FIXED_PITCH | FF_MODERN);
+        objects[ANSI_VAR_FONT] = StockFont("MS Sans Serif", 12, FW_NORMAL, VARIABLE_PITCH | FF_SWISS);
+        objects[SYSTEM_FONT] = StockFont("System", 16, FW_BOLD, VARIABLE_PITCH | FF_SWISS);
+        objects[DEVICE_DEFAULT_FONT] = StockFont("System", 16, FW_BOLD, VARIABLE_PITCH | FF_SWISS);
+        objects[SYSTEM_FIXED_FONT] = StockFont("Fixedsys", 16, FW_NORMAL, FIXED_PITCH | FF_MODERN);
+        objects[DEFAULT_GUI_FONT] = StockFont("MS Shell Dlg", -11, FW_NORMAL, VARIABLE_PITCH | FF_SWISS);
+        static std::uint32_t onePixel = 0;
+        inside.defaultBitmap = MakeStock<Bitmap>([](Bitmap& bitmap) {
+            bitmap.width = bitmap.height = bitmap.bitsPerPixel = 1;
+            bitmap.rowBytes = 2;
+            bitmap.sharedBits = true;
+            bitmap.bits = reinterpret_cast<std::byte*>(&onePixel);
+        });
+        inside.blackPen = static_cast<Pen*>(objects[BLACK_PEN]);
+        inside.whiteBrush = static_cast<Brush*>(objects[WHITE_BRUSH]);
+        inside.systemFont = static_cast<Font*>(objects[SYSTEM_FONT]);
+    }
+};
+
+const StockTable& AllStock() {
+    static const StockTable table;
+    return table;
+}
+
+template <class Kind>
+BOOL DeleteKind(HGDIOBJ handle) {
+    auto* object = FindObject<Kind>(handle);
+    if (!object) {
+        return FALSE;
+    }
+    if (object->stock) {
+        return TRUE;
+    }
+    if (object->selected.load(std::memory_order_relaxed) > 0) {
+        return FALSE;
+    }
+    base::RemoveHandle(object->handle, Kind::kKind);
+    delete object;
+    return TRUE;
+}
+
+/// GetObjectA's habit: without a buffer the size that is needed, else as much as fits or nothing.
+int CopyOut(const void* data, std::size_t size, int room, LPVOID buffer) {
+    if (!buffer) {
+        return static_cast<int>(size);
+    }
+    if (room < static_cast<int>(size)) {
+        return 0;
+    }
+    std::memcpy(buffer, data, size);
+    return static_cast<int>(size);
+}
+
+int DescribeBitmap(const Bitmap& bitmap, int room, LPVOID buffer) {
+    BITMAP plain{};
+    plain.bmWidth = bitmap.width;
+    plain.bmHeight = bitmap.height;
+    plain.bmWidthBytes = static_cast<LONG>(bitmap.section ? DwordRowBytes(bitmap.width, bitmap.bitsPerPixel)
+                                                          : WordRowBytes(bitmap.width, bitmap.bitsPerPixel));
+    plain.bmPlanes = 1;
+    plain.bmBitsPixel = static_cast<WORD>(bitmap.bitsPerPixel);
+    plain.bmBits = bitmap.section ? bitmap.bits : nullptr;
+    if (!bitmap.section || !buffer || room < static_cast<int>(sizeof(DIBSECTION))) {
+        return CopyOut(&plain, sizeof(plain), room, buffer);
+    }
+    DIBSECTION section{};
+    section.dsBm = plain;
+    section.dsBmih.biSize = sizeof(BITMAPINFOHEADER);
+    section.dsBmih.biWidth = bitmap.width;
+    section.dsBmih.biHeight = bitmap.topDown ? -bitmap.height : bitmap.height;
+    section.dsBmih.biPlanes = 1;
+    section.dsBmih.biBitCount = plain.bmBitsPixel;
+    section.dsBmih.biSizeImage = static_cast<DWORD>(bitmap.Bytes());
+    section.dsBmih.biClrUsed = static_cast<DWORD>(bitmap.palette ? bitmap.paletteSize : 0);
+    if (bitmap.bitsPerPixel == 16) {
+        section.dsBmih.biCompression = BI_BITFIELDS;
+        std::copy_n(Masks(16, bitmap.sixGreen).begin(), 3, section.dsBitfields);
+    }
+    return CopyOut(&section, sizeof(section), room, buffer);
+}
+
+}  // namespace
+
+const StockObjects& Stock() {
+    return AllStock().inside;
+}
+
+void NoteStock(Object* object) {
+    object->stock = true;
+    ++stockCount;
+}
+
+std::size_t StockCount() {
+    return stockCount.load();
+}
+
+HBRUSH MakeStockBrush(COLORREF colour) {
+    auto brush = NewObject<Brush>();
+    Brush* made = brush.get();
+    if (made) {
+        made->colour = colour;
+    }
+    const HBRUSH handle = FileObject<HBRUSH>(std::move(brush));
+    if (handle) {
+        NoteStock(made);
+    }
+    return handle;
+}
+
+void RecolourBrush(HBRUSH handle, COLORREF colour) {
+    if (auto* brush = base::Find<Brush>(handle, Brush::kKind)) {
+        brush->colour = colour;
+    }
+}
+
+}  // namespace platform::gdi
+
+using namespace platform::gdi;
+using platform::base::HandleKind;
+
+HGDIOBJ WINAPI GetStockObject(int index) {
+    const auto& objects = AllStock().objects;
+    if (index < 0 || index >= static_cast<int>(objects.size()) || !objects[static_cast<std::size_t>(index)]) {
+        return nullptr;
+    }
+    return platform::base::ToHandle<HGDIOBJ>(objects[static_cast<std::size_t>(index)]->handle);
+}
+
+BOOL WINAPI DeleteObject(HGDIOBJ handle) {
+    switch (platform::base::KindOfHandle(platform::base::ToNumber(handle))) {
+        case HandleKind::Pen:
+            return DeleteKind<Pen>(handle);
+        case HandleKind::Brush:
+            return DeleteKind<Brush>(handle);
+        case HandleKind::Font:
+            return DeleteKind<Font>(handle);
+        case HandleKind::Bitmap:
+            return DeleteKind<Bitmap>(handle);
+        case HandleKind::DeviceContext:
+            return DeleteDC(static_cast<HDC>(handle));
+        default:
+            SetLastError(ERROR_INVALID_HANDLE);
+            return FALSE;
+    }
+}
+
+int WINAPI GetObjectA(HANDLE handle, int size, LPVOID buffer) {
+    switch (platform::base::KindOfHandle(platform::base::ToNumber(handle))) {
+        case HandleKind::Pen: {
+            const auto* pen = FindObject<Pen>(handle);
+            if (!pen) {
+                return 0;
+            }
+            const LOGPEN logical{pen->style, {pen->width, 0}, pen->colour};
+            return CopyOut(&logical, sizeof(logical), size, buffer);
+        }
+        case HandleKind::Brush: {
+            const auto* brush = FindObject<Brush>(handle);
+            if (!brush) {
+                return 0;
+            }
+            const LOGBRUSH logical{brush->style, brush->colour, 0};
+            return CopyOut(&logical, sizeof(logical), size, buffer);
+        }
+        case HandleKind::Font: {
+            const auto* font = FindObject<Font>(handle);
+            if (!font) {
+                return 0;
+            }
+            if (!buffer) {
+                return sizeof(LOGFONTA);
+            }
+            // Callers may ask for the leading part only.
+            const int part = size < static_cast<int>(sizeof(LOGFONTA)) ? size : static_cast<int>(sizeof(LOGFONTA));
+            if (part <= 0) {
+                return 0;
+            }
+            std::memcpy(buffer, &font->logical, static_cast<std::size_t>(part));
+            return part;
+        }
+        case HandleKind::Bitmap: {
+            const auto* bitmap = FindObject<Bitmap>(handle);
+            return bitmap ? DescribeBitmap(*bitmap, size, buffer) : 0;
+        }
+        default:
+            SetLastError(ERROR_INVALID_HANDLE);
+            return 0;
+    }
+}

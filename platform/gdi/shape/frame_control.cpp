@@ -1,0 +1,304 @@
+// The parts that windows, scroll bars and buttons are drawn from.
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "gdi/shape/system_ink.h"
+
+namespace platform::gdi {
+
+namespace {
+
+using Picture = std::span<const std::string_view>;
+
+constexpr std::array<std::string_view, 7> kClose{"XX....XX", ".XX..XX.", "..XXXX..", "...XX...",
+                                                 "..XXXX..", ".XX..XX.", "XX....XX"};
+constexpr std::array<std::string_view, 2> kMinimise{"XXXXXX", "XXXXXX"};
+constexpr std::array<std::string_view, 9> kMaximise{"XXXXXXXXX", "XXXXXXXXX", "X.......X", "X.......X", "X.......X",
+                                                    "X.......X", "X.......X", "X.......X", "XXXXXXXXX"};
+constexpr std::array<std::string_view, 9> kRestore{"..XXXXXX", "..XXXXXX", "..X....X", "XXXXXX.X", "XXXXXX.X",
+                                                   "X....XXX", "X....X..", "X....X..", "XXXXXX.."};
+constexpr std::array<std::string_view, 9> kHelp{".XXXX.", "XX..XX", "XX..XX", "...XX.", "..XX..",
+                                                "..XX..", "......", "..XX..", "..XX.."};
+constexpr std::array<std::string_view, 7> kCheck{"......X", ".....XX", "X...XXX", "XX.XXX.",
+                                                 "XXXXX..", ".XXX...", "..X...."};
+// Shadow, dark shadow, light and highlight around the window colour.
+constexpr std::array<std::string_view, 12> kRadio{"    SSSS    ", "  SSDDDDSS  ", " SDDwwwwDDH ", " SDwwwwwwLH ",
+                                                  "SDwwwwwwwwLH", "SDwwwwwwwwLH", "SDwwwwwwwwLH", "SDwwwwwwwwLH",
+                                                  " SDwwwwwwLH ", " SLLwwwwLLH ", "  HHLLLLHH  ", "    HHHH    "};
+constexpr std::array<std::string_view, 4> kDot{".XX.", "XXXX", "XXXX", ".XX."};
+
+/// Draws the set pixels of a picture, each `scale` pixels large.
+void DrawPicture(SystemPainter& painter, Picture picture, int x, int y, int scale, int colour) {
+    for (std::size_t row = 0; row < picture.size(); ++row) {
+        const std::string_view line = picture[row];
+        for (std::size_t at = 0; at < line.size();) {
+            std::size_t end = at + 1;
+            while (end < line.size() && line[end] == line[at]) {
+                ++end;
+            }
+            if (line[at] == 'X') {
+                const int top = y + static_cast<int>(row) * scale;
+                painter.Fill(x + static_cast<int>(at) * scale, top, x + static_cast<int>(end) * scale, top + scale,
+                             colour);
+            }
+            at = end;
+        }
+    }
+}
+
+/// Ink for a part that cannot be used: grey with a white edge below and right of it.
+template <class Draw>
+void DrawInked(UINT state, Draw&& draw) {
+    const int shift = state & DFCS_PUSHED ? 1 : 0;
+    if (state & DFCS_INACTIVE) {
+        draw(shift + 1, COLOR_BTNHIGHLIGHT);
+        draw(shift, COLOR_BTNSHADOW);
+    } else {
+        draw(shift, COLOR_BTNTEXT);
+    }
+}
+
+UINT StyleFlags(UINT state) {
+    return (state & DFCS_FLAT ? BF_FLAT : 0u) | (state & DFCS_MONO ? BF_MONO : 0u);
+}
+
+RECT PushFrame(SystemPainter& painter, const RECT& rect, UINT state) {
+    RECT inside = rect;
+    const UINT edge = state & (DFCS_PUSHED | DFCS_CHECKED) ? EDGE_SUNKEN : EDGE_RAISED;
+    PaintEdge(painter, inside, edge, BF_RECT | BF_SOFT | BF_MIDDLE | BF_ADJUST | StyleFlags(state));
+    if (state & DFCS_CHECKED && !(state & DFCS_PUSHED)) {
+        painter.Dither(inside, COLOR_BTNHIGHLIGHT, COLOR_BTNFACE);
+    }
+    return inside;
+}
+
+bool Caption(SystemPainter& painter, RECT& rect, UINT state) {
+    struct Sign {
+        Picture picture;
+        int x;
+        int y;
+    };
+    static constexpr std::array<Sign, 5> kSigns{
+        {{kClose, 4, 3}, {kMinimise, 4, 9}, {kMaximise, 3, 2}, {kRestore, 3, 2}, {kHelp, 5, 2}}};
+    constexpr int kWidth = 16;
+    constexpr int kHeight = 14;
+    const UINT which = state & 0x00FF;
+    if (which >= kSigns.size()) {
+        return false;
+    }
+    PushFrame(painter, rect, state & ~UINT{DFCS_CHECKED});
+    const int width = rect.right - rect.left;
+    const int height = rect.bottom - rect.top;
+    const int scale = std::max(1, std::min((width + 4) / kWidth, (height + 4) / kHeight));
+    const Sign& sign = kSigns[which];
+    const int x = rect.left + (width - kWidth * scale) / 2 + sign.x * scale;
+    const int y = rect.top + (height - kHeight * scale) / 2 + sign.y * scale;
+    DrawInked(state,
+              [&](int shift, int colour) { DrawPicture(painter, sign.picture, x + shift, y + shift, scale, colour); });
+    return true;
+}
+
+/// A triangle of rows 1, 3, 5 ... pixels wide.
+void DrawTriangle(SystemPainter& painter, const RECT& rect, UINT direction, int shift, int colour) {
+    const int width = rect.right - rect.left;
+    const int height = rect.bottom - rect.top;
+    const bool upright = direction == DFCS_SCROLLUP || direction == DFCS_SCROLLDOWN;
+    const int rows = std::max(1, (std::min(width, height) - 4) / 3);
+    const int along = upright ? height : width;
+    const int across = upright ? width : height;
+    const int first = (along - rows) / 2 + shift;
+    const int middle = (across - 1) / 2 + shift;
+    const bool growing = direction == DFCS_SCROLLUP || direction == DFCS_SCROLLLEFT;
+    for (int i = 0; i < rows; ++i) {
+        const int half = growing ? i : rows - 1 - i;
+        if (upright) {
+            painter.Fill(rect.left + middle - half, rect.top + first + i, rect.left + middle + half + 1,
+                         rect.top + first + i + 1, colour);
+        } else {
+            painter.Fill(rect.left + first + i, rect.top + middle - half, rect.left + first + i + 1,
+                         rect.top + middle + half + 1, colour);
+        }
+    }
+}
+
+void SizeGrip(SystemPainter& painter, const RECT& rect, bool right) {
+    painter.Fill(rect, COLOR_BTNFACE);
+    constexpr int kReach = 12;
+    const int width = rect.right - rect.left;
+    const int height = rect.bottom - rect.top;
+    for (int dy = 0; dy < std::min(kReach, height); ++dy) {
+        for (int dx = 0; dx < std::min(kReach, width) && dx + dy < kReach; ++dx) {
+            const int band = (dx + dy) % 4;
+            if (band != 0) {
+                const int x = right ? rect.right - 1 - dx : rect.left + dx;
+                const int y = rect.bottom - 1 - dy;
+                painter.Fill(x, y, x + 1, y + 1, band == 3 ? COLOR_BTNHIGHLIGHT : COLOR_BTNSHADOW);
+            }
+        }
+    }
+}
+
+bool Scroll(SystemPainter& painter, RECT& rect, UINT state) {
+    if (state & (DFCS_SCROLLSIZEGRIP | DFCS_SCROLLSIZEGRIPRIGHT)) {
+        SizeGrip(painter, rect, !(state & DFCS_SCROLLSIZEGRIPRIGHT));
+        return true;
+    }
+    UINT direction = state & 0x00FF;
+    if (direction == DFCS_SCROLLCOMBOBOX) {
+        direction = DFCS_SCROLLDOWN;
+    }
+    if (direction > DFCS_SCROLLRIGHT) {
+        return false;
+    }
+    // A pressed arrow lies flat within a line of shadow.
+    RECT frame = rect;
+    const UINT flat = state & DFCS_PUSHED ? BF_FLAT : 0;
+    PaintEdge(painter, frame, EDGE_RAISED, BF_RECT | BF_MIDDLE | flat | StyleFlags(state));
+    DrawInked(state, [&](int shift, int colour) { DrawTriangle(painter, rect, direction, shift, colour); });
+    return true;
+}
+
+RECT CentredSquare(const RECT& rect) {
+    const int size = std::min(rect.right - rect.left, rect.bottom - rect.top);
+    const int x = rect.left + (rect.right - rect.left - size) / 2;
+    const int y = rect.top + (rect.bottom - rect.top - size) / 2;
+    return {x, y, x + size, y + size};
+}
+
+void CheckBox(SystemPainter& painter, const RECT& rect, UINT state) {
+    constexpr int kBox = 13;
+    RECT box = CentredSquare(rect);
+    const int size = box.right - box.left;
+    const int left = box.left;
+    const int top = box.top;
+    PaintEdge(painter, box, EDGE_SUNKEN, BF_RECT | BF_ADJUST | StyleFlags(state));
+    const bool third = (state & DFCS_BUTTON3STATE) && (state & DFCS_CHECKED);
+    if (third) {
+        painter.Dither(box, COLOR_BTNHIGHLIGHT, COLOR_BTNFACE);
+    } else {
+        painter.Fill(box, state & (DFCS_PUSHED | DFCS_INACTIVE) ? COLOR_BTNFACE : COLOR_WINDOW);
+    }
+    if (state & DFCS_CHECKED) {
+        const int scale = std::max(1, size / kBox);
+        const int inset = (size - 7 * scale) / 2;
+        const int colour = third || state & DFCS_INACTIVE ? COLOR_BTNSHADOW : COLOR_WINDOWTEXT;
+        DrawPicture(painter, kCheck, left + inset, top + inset, scale, colour);
+    }
+}
+
+void Radio(SystemPainter& painter, const RECT& rect, UINT state) {
+    const RECT square = CentredSquare(rect);
+    const int side = static_cast<int>(kRadio.size());
+    const int size = square.right - square.left;
+    const int back = state & (DFCS_PUSHED | DFCS_INACTIVE) ? COLOR_BTNFACE : COLOR_WINDOW;
+    const bool mask = (state & DFCS_BUTTONRADIOMASK) != 0;
+    if (mask) {
+        painter.Fill(square, COLOR_BTNHIGHLIGHT);
+    }
+    // Sizes between the multiples of the picture lie centred in what is left.
+    const int scale = std::max(1, size / side);
+    const int x = square.left + std::max(0, (size - side * scale) / 2);
+    const int y = square.top + std::max(0, (size - side * scale) / 2);
+    for (int row = 0; row < side; ++row) {
+        for (int column = 0; column < side; ++column) {
+            int colour;
+            switch (kRadio[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)]) {
+                case 'S':
+                    colour = COLOR_BTNSHADOW;
+                    break;
+                case 'D':
+                    colour = COLOR_3DDKSHADOW;
+                    break;
+                case 'L':
+                    colour = COLOR_3DLIGHT;
+                    break;
+                case 'H':
+                    colour = COLOR_BTNHIGHLIGHT;
+                    break;
+                case 'w':
+                    colour = back;
+                    break;
+                default:
+                    continue;
+            }
+            painter.Fill(x + column * scale, y + row * scale, x + (column + 1) * scale, y + (row + 1) * scale,
+                         mask ? COLOR_WINDOWFRAME : colour);
+        }
+    }
+    if (state & DFCS_CHECKED && !mask) {
+        DrawPicture(painter, kDot, x + 4 * scale, y + 4 * scale, scale,
+                    state & DFCS_INACTIVE ? COLOR_BTNSHADOW : COLOR_WINDOWTEXT);
+    }
+}
+
+bool Button(SystemPainter& painter, RECT& rect, UINT state) {
+    if (state & DFCS_BUTTONPUSH) {
+        const RECT inside = PushFrame(painter, rect, state);
+        if (state & DFCS_ADJUSTRECT) {
+            rect = inside;
+        }
+        return true;
+    }
+    if (state & (DFCS_BUTTONRADIO | DFCS_BUTTONRADIOIMAGE | DFCS_BUTTONRADIOMASK)) {
+        Radio(painter, rect, state);
+    } else {
+        CheckBox(painter, rect, state);
+    }
+    return true;
+}
+
+bool Menu(SystemPainter& painter, RECT& rect, UINT state) {
+    painter.Fill(rect, COLOR_WINDOW);
+    const RECT square = CentredSquare(rect);
+    const int size = square.right - square.left;
+    switch (state & 0x00FF) {
+        case DFCS_MENUCHECK: {
+            const int scale = std::max(1, size / 13);
+            const int inset = (size - 7 * scale) / 2;
+            DrawPicture(painter, kCheck, square.left + inset, square.top + inset, scale, COLOR_MENUTEXT);
+            return true;
+        }
+        case DFCS_MENUBULLET: {
+            const int scale = std::max(1, size / 12);
+            const int inset = (size - 4 * scale) / 2;
+            DrawPicture(painter, kDot, square.left + inset, square.top + inset, scale, COLOR_MENUTEXT);
+            return true;
+        }
+        case DFCS_MENUARROW:
+        case DFCS_MENUARROWRIGHT:
+            DrawTriangle(painter, square, state & DFCS_MENUARROWRIGHT ? DFCS_SCROLLLEFT : DFCS_SCROLLRIGHT, 0,
+                         COLOR_MENUTEXT);
+            return true;
+        default:
+            return false;
+    }
+}
+
+}  // namespace
+
+}  // namespace platform::gdi
+
+using namespace platform::gdi;
+
+BOOL WINAPI DrawFrameControl(HDC handle, LPRECT rect, UINT type, UINT state) {
+    const Drawing drawing(handle);
+    if (!drawing || !rect) {
+        return FALSE;
+    }
+    return Guarded(FALSE, [&] {
+        SystemPainter painter(*drawing);
+        switch (type) {
+            case DFC_CAPTION:
+                return Caption(painter, *rect, state) ? TRUE : FALSE;
+            case DFC_MENU:
+                return Menu(painter, *rect, state) ? TRUE : FALSE;
+            case DFC_SCROLL:
+                return Scroll(painter, *rect, state) ? TRUE : FALSE;
+            case DFC_BUTTON:
+                return Button(painter, *rect, state) ? TRUE : FALSE;
+            default:
+                return FALSE;
+        }
+    });
+}

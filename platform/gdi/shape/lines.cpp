@@ -1,0 +1,194 @@
+// Lines and single pixels.
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+
+#include "gdi/shape/lines.h"
+#include "gdi/context/raster.h"
+#include "gdi/shape/shapes.h"
+
+namespace platform::gdi {
+
+namespace {
+
+struct Dashes {
+    std::array<std::uint8_t, 6> lengths;  ///< drawn, gap, drawn, gap ...
+    int count;
+};
+
+Dashes DashesOf(UINT style) {
+    switch (style) {
+        case PS_DASH:
+            return {{18, 6}, 2};
+        case PS_DOT:
+            return {{3, 3}, 2};
+        case PS_DASHDOT:
+            return {{9, 6, 3, 6}, 4};
+        default:
+            return {{9, 3, 3, 3, 3, 3}, 6};
+    }
+}
+
+}  // namespace
+
+Stroke::Stroke(DeviceContext& context) : context_(context) {
+    const Pen& pen = *context.state.pen;
+    none_ = pen.style == PS_NULL;
+    width_ = std::max(pen.width, 1);
+    ink_ = PlainInk(context, pen.colour);
+    // A dashed pen is one pixel wide, or it is solid.
+    if (width_ == 1 && pen.style >= PS_DASH && pen.style <= PS_DASHDOTDOT) {
+        const Dashes dashes = DashesOf(pen.style);
+        dashed_ = true;
+        gaps_ = context.state.backMode == OPAQUE;
+        gapInk_ = PlainInk(context, context.state.backColour);
+        int at = 0;
+        for (int i = 0; i < dashes.count; ++i) {
+            for (int n = 0; n < dashes.lengths[static_cast<std::size_t>(i)]; ++n) {
+                pattern_[static_cast<std::size_t>(at++)] = i % 2 == 0;
+            }
+        }
+        period_ = at;
+    }
+}
+
+void Stroke::Line(POINT from, POINT to) {
+    if (none_) {
+        return;
+    }
+    if (width_ > 1) {
+        Combine(context_, StrokeArea(from, to, width_), kCopyPattern, &ink_);
+    } else if (!dashed_ && (from.x == to.x || from.y == to.y)) {
+        // The end point stays out, whichever end it is.
+        RECT rect{std::min(from.x, to.x), std::min(from.y, to.y), std::max(from.x, to.x), std::max(from.y, to.y)};
+        if (from.y == to.y) {
+            rect.left += from.x > to.x;
+            rect.right += from.x > to.x;
+            rect.bottom = rect.top + 1;
+        } else {
+            rect.top += from.y > to.y;
+            rect.bottom += from.y > to.y;
+            rect.right = rect.left + 1;
+        }
+        Combine(context_, rect, kCopyPattern, &ink_);
+    } else {
+        Thin(from, to);
+    }
+}
+
+void Stroke::Thin(POINT from, POINT to) {
+    const Region& drawable = context_.Drawable();
+    const RECT bounds = drawable.Bounds();
+    const bool simple = drawable.IsRect();
+    const std::int64_t dx = std::abs(std::int64_t{to.x} - from.x);
+    const std::int64_t dy = std::abs(std::int64_t{to.y} - from.y);
+    const int stepX = from.x < to.x ? 1 : -1;
+    const int stepY = from.y < to.y ? 1 : -1;
+    const std::int64_t major = std::max(dx, dy);
+    const std::int64_t minor = std::min(dx, dy);
+    // Steps before and after the drawable area are not taken one by one.
+    const bool flat = dx >= dy;
+    const std::int64_t start = flat ? from.x : from.y;
+    const std::int64_t low = flat ? bounds.left : bounds.top;
+    const std::int64_t high = flat ? bounds.right : bounds.bottom;
+    const bool forward = (flat ? stepX : stepY) > 0;
+    const std::int64_t first = std::clamp<std::int64_t>(forward ? low - start : start - high + 1, 0, major);
+    const std::int64_t last = std::clamp<std::int64_t>(forward ? high - start : start - low + 1, first, major);
+    const std::int64_t travelled = first * minor - major / 2;
+    const std::int64_t aside = travelled > 0 ? (travelled + major - 1) / major : 0;
+    std::int64_t error = aside * major - travelled;
+    POINT at = from;
+    (flat ? at.x : at.y) += static_cast<LONG>(first * (flat ? stepX : stepY));
+    (flat ? at.y : at.x) += static_cast<LONG>(aside * (flat ? stepY : stepX));
+    if (dashed_) {
+        phase_ = static_cast<int>((phase_ + first) % period_);
+    }
+    for (std::int64_t i = first; i < last; ++i) {
+        const bool inside = at.x >= bounds.left && at.x < bounds.right && at.y >= bounds.top && at.y < bounds.bottom;
+        const bool drawn = !dashed_ || pattern_[static_cast<std::size_t>(phase_)];
+        if (inside && (drawn || gaps_) && (simple || drawable.Contains(at))) {
+            WritePixel(context_.surface, at.x, at.y, drawn ? ink_.colour : gapInk_.colour);
+        }
+        if (dashed_ && ++phase_ == period_) {
+            phase_ = 0;
+        }
+        error -= minor;
+        const bool both = error < 0;
+        if (both) {
+            error += major;
+        }
+        if (flat) {
+            at.x += stepX;
+            at.y += both ? stepY : 0;
+        } else {
+            at.y += stepY;
+            at.x += both ? stepX : 0;
+        }
+    }
+    if (dashed_) {
+        phase_ = static_cast<int>((phase_ + major - last) % period_);
+    }
+    const RECT around{std::min(from.x, to.x), std::min(from.y, to.y), std::max(from.x, to.x) + 1,
+                      std::max(from.y, to.y) + 1};
+    const RECT seen{std::max(around.left, bounds.left), std::max(around.top, bounds.top),
+                    std::min(around.right, bounds.right), std::min(around.bottom, bounds.bottom)};
+    if (seen.left < seen.right && seen.top < seen.bottom) {
+        context_.Drawn(seen);
+    }
+}
+
+}  // namespace platform::gdi
+
+using namespace platform::gdi;
+
+BOOL WINAPI MoveToEx(HDC handle, int x, int y, LPPOINT previous) {
+    auto* context = FindObject<DeviceContext>(handle);
+    if (!context) {
+        return FALSE;
+    }
+    if (previous) {
+        *previous = context->state.position;
+    }
+    context->state.position = {x, y};
+    return TRUE;
+}
+
+BOOL WINAPI LineTo(HDC handle, int x, int y) {
+    const Drawing drawing(handle);
+    if (!drawing) {
+        return FALSE;
+    }
+    return Guarded(FALSE, [&] {
+        POINT& position = drawing->state.position;
+        Stroke(*drawing).Line(drawing->ToSurface(position.x, position.y), drawing->ToSurface(x, y));
+        position = {x, y};
+        return TRUE;
+    });
+}
+
+COLORREF WINAPI GetPixel(HDC handle, int x, int y) {
+    const Drawing drawing(handle);
+    if (!drawing) {
+        return CLR_INVALID;
+    }
+    const POINT at = drawing->ToSurface(x, y);
+    if (!drawing->Drawable().Contains(at)) {
+        return CLR_INVALID;
+    }
+    return ColourOf(ShownColour(drawing->surface, ReadPixel(drawing->surface, at.x, at.y)));
+}
+
+COLORREF WINAPI SetPixel(HDC handle, int x, int y, COLORREF colour) {
+    const Drawing drawing(handle);
+    if (!drawing) {
+        return CLR_INVALID;
+    }
+    const POINT at = drawing->ToSurface(x, y);
+    if (!drawing->Drawable().Contains(at)) {
+        return CLR_INVALID;
+    }
+    const std::uint32_t value = NativeColour(drawing->surface, PixelOf(colour));
+    WritePixel(drawing->surface, at.x, at.y, value);
+    drawing->Drawn({at.x, at.y, at.x + 1, at.y + 1});
+    return ColourOf(ShownColour(drawing->surface, value));
+}

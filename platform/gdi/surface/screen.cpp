@@ -1,0 +1,135 @@
+#include "gdi/surface/screen.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+#include "gdi/surface/copy_order.h"
+
+namespace platform::gdi {
+
+namespace {
+
+// What was drawn, as a short list: drawing marks something at every call, and exactness is worth less than speed.
+struct Dirty {
+    std::array<RECT, 24> rects;
+    int count = 0;
+    void (*hook)() = nullptr;
+};
+
+Dirty& DirtyArea() {
+    static Dirty dirty;
+    return dirty;
+}
+
+bool Covers(const RECT& outer, const RECT& inner) {
+    return outer.left <= inner.left && outer.top <= inner.top && outer.right >= inner.right &&
+           outer.bottom >= inner.bottom;
+}
+
+ScreenView MakeScreen() {
+    int width = 1024;
+    int height = 768;
+    if (const char* text = std::getenv("CVUTIL32_SCREEN")) {
+        int w = 0;
+        int h = 0;
+        if (std::sscanf(text, "%dx%d", &w, &h) == 2 && w >= 64 && h >= 64 && w <= 16384 && h <= 16384) {
+            width = w;
+            height = h;
+        }
+    }
+    // Untouched pages of a fresh block cost nothing.
+    void* pixels = std::calloc(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), 4);
+    if (!pixels) {
+        return {nullptr, 0, 0, 0};
+    }
+    return {static_cast<std::uint32_t*>(pixels), width, height, width};
+}
+
+}  // namespace
+
+std::recursive_mutex& ScreenLock() {
+    static std::recursive_mutex lock;
+    return lock;
+}
+
+ScreenView Screen() {
+    static const ScreenView view = MakeScreen();
+    return view;
+}
+
+RECT ScreenRect() {
+    const ScreenView view = Screen();
+    return {0, 0, view.width, view.height};
+}
+
+void MarkDirty(const RECT& area) {
+    const RECT bounds = ScreenRect();
+    const RECT rect{std::max(area.left, bounds.left), std::max(area.top, bounds.top),
+                    std::min(area.right, bounds.right), std::min(area.bottom, bounds.bottom)};
+    if (rect.left >= rect.right || rect.top >= rect.bottom) {
+        return;
+    }
+    Dirty& dirty = DirtyArea();
+    for (int i = dirty.count; i-- > 0;) {
+        if (Covers(dirty.rects[static_cast<std::size_t>(i)], rect)) {
+            return;
+        }
+    }
+    const bool first = dirty.count == 0;
+    if (dirty.count < static_cast<int>(dirty.rects.size())) {
+        dirty.rects[static_cast<std::size_t>(dirty.count++)] = rect;
+    } else {
+        RECT all = rect;
+        for (const RECT& each : dirty.rects) {
+            all = {std::min(all.left, each.left), std::min(all.top, each.top), std::max(all.right, each.right),
+                   std::max(all.bottom, each.bottom)};
+        }
+        dirty.rects[0] = all;
+        dirty.count = 1;
+    }
+    if (first && dirty.hook) {
+        dirty.hook();
+    }
+}
+
+Region TakeDirty() {
+    const ScreenGuard guard(ScreenLock());
+    Dirty& dirty = DirtyArea();
+    Region area(std::span<const RECT>(dirty.rects.data(), static_cast<std::size_t>(dirty.count)));
+    dirty.count = 0;
+    return area;
+}
+
+void SetDirtyHook(void (*hook)()) {
+    const ScreenGuard guard(ScreenLock());
+    DirtyArea().hook = hook;
+}
+
+void CopyScreenArea(const RECT& from, POINT to, const Region& clip) {
+    const ScreenGuard guard(ScreenLock());
+    const ScreenView view = Screen();
+    const int dx = to.x - from.left;
+    const int dy = to.y - from.top;
+    if (dx == 0 && dy == 0) {
+        return;
+    }
+    Region source(from);
+    source.Intersect(ScreenRect());
+    source.Offset(dx, dy);
+    Region target(clip);
+    target.Intersect(source);
+    target.Intersect(ScreenRect());
+    ForEachAgainstMove(target.Rects(), dx, dy, [&](const RECT& rect) {
+        const std::size_t bytes = static_cast<std::size_t>(rect.right - rect.left) * 4;
+        ForEachRowAgainstMove(rect, dy, [&](int y) {
+            std::memmove(view.pixels + static_cast<std::ptrdiff_t>(y) * view.stride + rect.left,
+                         view.pixels + static_cast<std::ptrdiff_t>(y - dy) * view.stride + rect.left - dx, bytes);
+        });
+        MarkDirty(rect);
+    });
+}
+
+}  // namespace platform::gdi

@@ -1,0 +1,42 @@
+/// @file text.h
+/// Text in the code page in use, character by character.
+#pragma once
+
+#include <windows.h>
+
+#include <array>
+
+#include "gdi/context/context.h"
+#include "gdi/text/font.h"
+
+namespace platform::gdi {
+
+/// What the bytes of the code page stand for.
+struct CodePage {
+    std::array<char16_t, 256> single{};
+    std::array<bool, 256> lead{};
+};
+const CodePage& CurrentCodePage();
+/// @returns the character that a lead byte and the byte after it stand for.
+char16_t DoubleByte(char lead, char trail);
+
+/// Calls visit(first byte's index, number of bytes, character) for each character.
+template <class Visit>
+void ForEachCharacter(const char* text, int length, Visit&& visit) {
+    const CodePage& page = CurrentCodePage();
+    for (int i = 0; i < length;) {
+        const auto byte = static_cast<unsigned char>(text[i]);
+        if (page.lead[byte] && i + 1 < length) {
+            visit(i, 2, DoubleByte(text[i], text[i + 1]));
+            i += 2;
+        } else {
+            visit(i, 1, page.single[byte]);
+            ++i;
+        }
+    }
+}
+
+/// @returns the width of a text with the context's font.
+int TextWidth(DeviceContext& context, const char* text, int length);
+
+}  // namespace platform::gdi

@@ -1,0 +1,84 @@
+// Pages of memory with a protection of their own.
+#include <windows.h>
+
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <cstdint>
+#include <map>
+#include <mutex>
+#include <new>
+
+#include "base/fail.h"
+
+namespace base = platform::base;
+
+namespace {
+
+// Sizes by address. Never destroyed: memory may be released while the process ends.
+std::mutex& AreasLock() {
+    static auto& lock = *new std::mutex;
+    return lock;
+}
+
+std::map<std::uintptr_t, std::size_t>& Areas() {
+    static auto& areas = *new std::map<std::uintptr_t, std::size_t>;
+    return areas;
+}
+
+std::uintptr_t PageSize() {
+    static const auto size = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
+    return size;
+}
+
+/// @returns the host's protection, or -1 for one that does not exist.
+int HostProtection(DWORD protection) {
+    switch (protection) {
+        case PAGE_NOACCESS:
+            return PROT_NONE;
+        case PAGE_READONLY:
+            return PROT_READ;
+        case PAGE_READWRITE:
+            return PROT_READ | PROT_WRITE;
+        default:
+            return -1;
+    }
+}
+
+}  // namespace
+
+// Reserving and committing are one step here, at an address that the host chooses.
+LPVOID WINAPI VirtualAlloc(LPVOID address, SIZE_T size, DWORD type, DWORD protection) {
+    const int host = HostProtection(protection);
+    if (address || size == 0 || size > SIZE_MAX / 2 || host < 0 || !(type & MEM_COMMIT) ||
+        (type & ~DWORD{MEM_COMMIT | MEM_RESERVE})) {
+        return base::Fail<LPVOID>(ERROR_INVALID_PARAMETER, nullptr);
+    }
+    const std::size_t rounded = (size + PageSize() - 1) & ~(PageSize() - 1);
+    void* memory = mmap(nullptr, rounded, host, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    if (memory == MAP_FAILED) {
+        return base::Fail<LPVOID>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+    }
+    try {
+        const std::lock_guard guard(AreasLock());
+        Areas()[reinterpret_cast<std::uintptr_t>(memory)] = rounded;
+    } catch (const std::bad_alloc&) {
+        munmap(memory, rounded);
+        return base::Fail<LPVOID>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+    }
+    return memory;
+}
+
+BOOL WINAPI VirtualFree(LPVOID address, SIZE_T size, DWORD type) {
+    if (size != 0 || type != MEM_RELEASE) {
+        return base::Fail(ERROR_INVALID_PARAMETER, FALSE);
+    }
+    const std::lock_guard guard(AreasLock());
+    const auto area = Areas().find(reinterpret_cast<std::uintptr_t>(address));
+    if (area == Areas().end()) {
+        return base::Fail(ERROR_INVALID_ADDRESS, FALSE);
+    }
+    munmap(address, area->second);
+    Areas().erase(area);
+    return TRUE;
+}

@@ -1,0 +1,80 @@
+// Cutting, copying and pasting in edit controls.
+#include <algorithm>
+#include <cstring>
+
+#include "user/controls/edit/edit.h"
+
+namespace platform::user {
+namespace {
+
+/// Passwords do not leave the control.
+bool MayCopy(const EditData& data) {
+    return data.HasSelection() && !data.password;
+}
+
+bool PutOnClipboard(HWND edit, std::string_view text) {
+    const HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, text.size() + 1);
+    if (!block) {
+        return false;
+    }
+    auto* bytes = static_cast<char*>(GlobalLock(block));
+    std::memcpy(bytes, text.data(), text.size());
+    bytes[text.size()] = '\0';
+    GlobalUnlock(block);
+    bool kept = false;
+    if (OpenClipboard(edit)) {
+        kept = EmptyClipboard() && SetClipboardData(CF_TEXT, block);
+        CloseClipboard();
+    }
+    if (!kept) {
+        GlobalFree(block);
+    }
+    return kept;
+}
+
+std::string TextOnClipboard(HWND edit) {
+    if (!OpenClipboard(edit)) {
+        return {};
+    }
+    std::string text;
+    const HANDLE block = GetClipboardData(CF_TEXT);
+    if (const auto* bytes = static_cast<const char*>(block ? GlobalLock(block) : nullptr)) {
+        text.assign(bytes, strnlen(bytes, GlobalSize(block)));
+        GlobalUnlock(block);
+    }
+    CloseClipboard();
+    return text;
+}
+
+}  // namespace
+
+void CopySelection(HWND edit, const EditData& data) {
+    if (MayCopy(data)) {
+        PutOnClipboard(edit, std::string_view(data.text).substr(data.SelectionStart(),
+                                                                data.SelectionEnd() - data.SelectionStart()));
+    }
+}
+
+void CutSelection(HWND edit, EditData& data) {
+    if (!MayCopy(data)) {
+        return;
+    }
+    const std::string text = data.text.substr(data.SelectionStart(), data.SelectionEnd() - data.SelectionStart());
+    // What could not be put away is not taken from the text.
+    if (PutOnClipboard(edit, text)) {
+        RemoveText(edit, data, data.SelectionStart(), data.SelectionEnd());
+    }
+}
+
+void PasteText(HWND edit, EditData& data) {
+    std::string text = TextOnClipboard(edit);
+    if (!IsMultiLine(edit)) {
+        // One line has room for the first one.
+        text.resize(std::min(text.find_first_of("\r\n"), text.size()));
+    }
+    if (!text.empty()) {
+        InsertText(edit, data, text, true);
+    }
+}
+
+}  // namespace platform::user

@@ -1,0 +1,280 @@
+// Making dialogs, and the loops of modal ones.
+#include <new>
+#include <utility>
+
+#include "user/dialog/dialog.h"
+
+namespace platform::user {
+
+DialogState::~DialogState() {
+    if (ownFont)
+        DeleteObject(ownFont);
+}
+
+std::shared_ptr<DialogState> FindDialogState(HWND dialog) {
+    const UserGuard guard(UserLock());
+    const Window* window = FindWindowObject(dialog);
+    return window && window->dialog && !window->dialog->keysOnly ? window->dialog : nullptr;
+}
+
+namespace {
+
+std::shared_ptr<DialogState> NeedState(HWND handle, bool keysOnly) {
+    const UserGuard guard(UserLock());
+    Window* window = FindWindowObject(handle);
+    if (!window)
+        return nullptr;
+    if (!window->dialog && !window->destroying) {
+        try {
+            window->dialog = std::make_shared<DialogState>();
+            window->dialog->keysOnly = keysOnly;
+        } catch (const std::bad_alloc&) {
+            SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+        }
+    }
+    if (window->dialog && !keysOnly)
+        window->dialog->keysOnly = false;
+    return window->dialog;
+}
+
+/// The owner is enabled before the dialog goes, so that activation falls to it and not to another application's window.
+void ReleaseOwner(DialogState& state) {
+    const HWND owner = state.disabledOwner;
+    state.disabledOwner = nullptr;
+    if (owner && IsWindow(owner))
+        EnableWindow(owner, TRUE);
+}
+
+/// The active window hears that a modal dialog comes; an owner has heard so as it was disabled.
+void CancelMode(HWND disabled) {
+    const HWND active = GetActiveWindow();
+    if (active && active != disabled)
+        SendMessageA(active, WM_CANCELMODE, 0, 0);
+}
+
+/// Whoever holds the mouse would get what is meant for the dialog.
+void TakeMouse() {
+    if (const HWND holder = GetCapture())
+        SendMessageA(holder, WM_CANCELMODE, 0, 0);
+    if (GetCapture())
+        ReleaseCapture();
+}
+
+/// The messages of a modal dialog, until it has ended.
+class ModalLoop {
+  public:
+    ModalLoop(HWND dialog, HWND owner, std::shared_ptr<DialogState> state)
+        : dialog_(dialog), owner_(owner), state_(std::move(state)) {
+        const LONG style = GetWindowLongA(dialog, GWL_STYLE);
+        shown_ = (style & WS_VISIBLE) != 0;
+        if (style & DS_NOIDLEMSG)
+            owner_ = nullptr;
+    }
+
+    void Run() {
+        TakeMouse();
+        while (Runs()) {
+            MSG message{};
+            if (!Next(message)) {
+                // It is for the loops further out too.
+                PostQuitMessage(static_cast<int>(message.wParam));
+                return;
+            }
+            if (message.message == WM_NULL && !message.hwnd)
+                continue;
+            if (!IsDialogMessageA(dialog_, &message)) {
+                TranslateMessage(&message);
+                DispatchMessageA(&message);
+            }
+        }
+    }
+
+  private:
+    bool Runs() const {
+        return !state_->ended && IsWindow(dialog_);
+    }
+
+    /// Timers come when there is nothing else, and may come for ever.
+    static bool Idle() {
+        MSG message;
+        return !PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE) || message.message == WM_TIMER;
+    }
+
+    /// Takes what is in the queue. When there is nothing, the dialog is shown, so that one that a waiting message ends is
+    /// never seen, and then the owner is told. Either may end it; nothing would then wake the loop. @returns false on WM_QUIT.
+    bool Next(MSG& message) {
+        if (!shown_ && Idle()) {
+            shown_ = true;
+            ShowDialog(dialog_);
+        }
+        if (owner_ && Runs() && !PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE))
+            SendMessageA(owner_, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(dialog_));
+        return !Runs() || GetMessageA(&message, nullptr, 0, 0) != 0;
+    }
+
+    const HWND dialog_;
+    HWND owner_;
+    const std::shared_ptr<DialogState> state_;
+    bool shown_;
+};
+
+/// What is disabled for an owner that was named: the first window at or above it that is no child.
+HWND TopLevelOf(HWND owner) {
+    const UserGuard guard(UserLock());
+    Window* window = owner ? FindWindowObject(owner) : nullptr;
+    const Window* top = window ? TopLevel(window) : nullptr;
+    return top ? top->handle : nullptr;
+}
+
+}  // namespace
+
+std::shared_ptr<DialogState> NeedDialogState(HWND dialog) {
+    return NeedState(dialog, false);
+}
+
+std::shared_ptr<DialogState> NeedKeyState(HWND window) {
+    return NeedState(window, true);
+}
+
+void ShowDialog(HWND dialog) {
+    const bool toForeground = (GetWindowLongA(dialog, GWL_STYLE) & DS_SETFOREGROUND) != 0;
+    ShowWindow(dialog, SW_SHOWNORMAL);
+    if (toForeground)
+        SetForegroundWindow(dialog);
+    if (IsWindow(dialog))
+        UpdateWindow(dialog);
+}
+
+INT_PTR RunDialog(HINSTANCE instance, const DialogTemplate& dialogTemplate, HWND owner, DLGPROC procedure,
+                  LPARAM initParam) {
+    if (owner && !IsWindow(owner)) {
+        SetLastError(ERROR_INVALID_WINDOW_HANDLE);
+        return 0;
+    }
+    if (owner == GetDesktopWindow())
+        owner = nullptr;
+    const HWND root = TopLevelOf(owner);
+    // An owner that was disabled before stays so afterwards.
+    const HWND disabled = root && IsWindowEnabled(root) ? root : nullptr;
+    if (disabled)
+        EnableWindow(disabled, FALSE);
+    CancelMode(disabled);
+
+    const HWND dialog = CreateDialogFromTemplate(instance, dialogTemplate, owner, procedure, initParam, true, disabled);
+    const auto state = dialog ? FindDialogState(dialog) : nullptr;
+    if (!state) {
+        const DWORD error = GetLastError();
+        if (disabled && IsWindow(disabled))
+            EnableWindow(disabled, TRUE);
+        SetLastError(error);
+        return -1;
+    }
+    ModalLoop(dialog, root, state).Run();
+    ReleaseOwner(*state);
+    if (IsWindow(dialog))
+        DestroyWindow(dialog);
+    return state->result;
+}
+
+}  // namespace platform::user
+
+using namespace platform::user;
+
+namespace {
+
+/// Memory that ran out: nothing is left behind, the caller gets the neutral result.
+template <class Action, class Result>
+Result Guarded(const Action& action, Result neutral) {
+    try {
+        return action();
+    } catch (const std::bad_alloc&) {
+        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+        return neutral;
+    }
+}
+
+bool ReadTemplateInMemory(LPCDLGTEMPLATEA memory, DialogTemplate& parsed) {
+    if (ParseDialogTemplate(memory, kLargestTemplate, parsed))
+        return true;
+    SetLastError(ERROR_INVALID_PARAMETER);
+    return false;
+}
+
+bool CheckOwner(HWND owner) {
+    if (!owner || IsWindow(owner))
+        return true;
+    SetLastError(ERROR_INVALID_WINDOW_HANDLE);
+    return false;
+}
+
+}  // namespace
+
+WINUSERAPI HWND WINAPI CreateDialogParamA(HINSTANCE instance, LPCSTR templateName, HWND owner, DLGPROC procedure,
+                                          LPARAM initParam) {
+    return Guarded(
+        [&]() -> HWND {
+            DialogTemplate parsed;
+            if (!CheckOwner(owner) || !LoadDialogTemplate(instance, templateName, parsed))
+                return nullptr;
+            return CreateDialogFromTemplate(instance, parsed, owner, procedure, initParam, false, nullptr);
+        },
+        HWND{});
+}
+
+WINUSERAPI HWND WINAPI CreateDialogIndirectParamA(HINSTANCE instance, LPCDLGTEMPLATEA dialogTemplate, HWND owner,
+                                                  DLGPROC procedure, LPARAM initParam) {
+    return Guarded(
+        [&]() -> HWND {
+            DialogTemplate parsed;
+            if (!CheckOwner(owner) || !ReadTemplateInMemory(dialogTemplate, parsed))
+                return nullptr;
+            return CreateDialogFromTemplate(instance, parsed, owner, procedure, initParam, false, nullptr);
+        },
+        HWND{});
+}
+
+WINUSERAPI INT_PTR WINAPI DialogBoxParamA(HINSTANCE instance, LPCSTR templateName, HWND owner, DLGPROC procedure,
+                                          LPARAM initParam) {
+    return Guarded(
+        [&]() -> INT_PTR {
+            DialogTemplate parsed;
+            if (!LoadDialogTemplate(instance, templateName, parsed))
+                return -1;
+            return RunDialog(instance, parsed, owner, procedure, initParam);
+        },
+        INT_PTR{-1});
+}
+
+WINUSERAPI INT_PTR WINAPI DialogBoxIndirectParamA(HINSTANCE instance, LPCDLGTEMPLATEA dialogTemplate, HWND owner,
+                                                  DLGPROC procedure, LPARAM initParam) {
+    return Guarded(
+        [&]() -> INT_PTR {
+            DialogTemplate parsed;
+            if (!ReadTemplateInMemory(dialogTemplate, parsed))
+                return -1;
+            return RunDialog(instance, parsed, owner, procedure, initParam);
+        },
+        INT_PTR{-1});
+}
+
+WINUSERAPI BOOL WINAPI EndDialog(HWND dialog, INT_PTR result) {
+    const auto state = FindDialogState(dialog);
+    if (!state) {
+        SetLastError(ERROR_INVALID_WINDOW_HANDLE);
+        return FALSE;
+    }
+    const HWND owner = GetWindow(dialog, GW_OWNER);
+    const bool wasActive = GetActiveWindow() == dialog;
+    state->ended = true;
+    state->result = result;
+    // Whoever disabled the owner of a modeless dialog made it a modal one.
+    if (owner && !state->modal && !IsWindowEnabled(owner))
+        state->disabledOwner = owner;
+    ReleaseOwner(*state);
+    SetWindowPos(dialog, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_HIDEWINDOW);
+    if (wasActive && owner && GetActiveWindow() != owner && IsWindowEnabled(owner))
+        SetActiveWindow(owner);
+    // The loop may be waiting for a message.
+    PostMessageA(dialog, WM_NULL, 0, 0);
+    return TRUE;
+}

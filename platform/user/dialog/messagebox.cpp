@@ -1,0 +1,252 @@
+// Message boxes: a dialog template laid out around the text, in memory.
+#include <algorithm>
+#include <new>
+#include <string>
+#include <vector>
+
+#include "user/dialog/dialog.h"
+
+namespace platform::user {
+namespace {
+
+constexpr int kTextId = 0xFFFF;
+constexpr int kIconId = 20;
+constexpr short kButtonWidth = 50;  // dialog units from here on
+constexpr short kButtonHeight = 14;
+constexpr short kButtonGap = 4;
+constexpr short kMargin = 7;
+constexpr short kTextGap = 9;  // between the text and the buttons
+constexpr short kIconGap = 8;  // between the icon and the text
+
+struct ButtonSpec {
+    int id;
+    const char* label;
+};
+
+struct ButtonSet {
+    int count;
+    ButtonSpec buttons[3];
+};
+
+const ButtonSet kSets[] = {
+    {1, {{IDOK, "OK"}}},
+    {2, {{IDOK, "OK"}, {IDCANCEL, "Cancel"}}},
+    {3, {{IDABORT, "&Abort"}, {IDRETRY, "&Retry"}, {IDIGNORE, "&Ignore"}}},
+    {3, {{IDYES, "&Yes"}, {IDNO, "&No"}, {IDCANCEL, "Cancel"}}},
+    {2, {{IDYES, "&Yes"}, {IDNO, "&No"}}},
+    {2, {{IDRETRY, "&Retry"}, {IDCANCEL, "Cancel"}}},
+};
+constexpr UINT kSetCount = sizeof kSets / sizeof kSets[0];
+
+/// What the dialog procedure needs to know of its box.
+struct Box {
+    UINT type;
+    int defaultId;
+    bool closable;
+    HICON icon;
+};
+
+HICON IconOf(UINT type) {
+    switch (type & MB_ICONMASK) {
+        case MB_ICONHAND:
+            return LoadIconA(nullptr, IDI_HAND);
+        case MB_ICONQUESTION:
+            return LoadIconA(nullptr, IDI_QUESTION);
+        case MB_ICONEXCLAMATION:
+            return LoadIconA(nullptr, IDI_EXCLAMATION);
+        case MB_ICONASTERISK:
+            return LoadIconA(nullptr, IDI_ASTERISK);
+        default:
+            return nullptr;
+    }
+}
+
+bool HasCancel(const ButtonSet& set) {
+    for (int index = 0; index < set.count; ++index) {
+        if (set.buttons[index].id == IDCANCEL)
+            return true;
+    }
+    return set.count == 1;
+}
+
+INT_PTR CALLBACK BoxProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+        case WM_INITDIALOG: {
+            const auto* box = reinterpret_cast<const Box*>(lParam);
+            SetWindowLongPtrA(dialog, DWLP_USER, lParam);
+            MessageBeep(box->type & MB_ICONMASK);
+            if (box->icon)
+                SendDlgItemMessageA(dialog, kIconId, STM_SETICON, reinterpret_cast<WPARAM>(box->icon), 0);
+            const HWND button = GetDlgItem(dialog, box->defaultId);
+            SendMessageA(dialog, DM_SETDEFID, static_cast<WPARAM>(box->defaultId), 0);
+            if (box->type & MB_NOFOCUS)
+                return FALSE;
+            SendMessageA(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(button), TRUE);
+            return FALSE;
+        }
+        case WM_COMMAND: {
+            const auto* box = reinterpret_cast<const Box*>(GetWindowLongPtrA(dialog, DWLP_USER));
+            const int id = LOWORD(wParam);
+            if (GetDlgItem(dialog, id))
+                EndDialog(dialog, id);
+            else if (id == IDCANCEL && box && box->closable)
+                EndDialog(dialog, GetDlgItem(dialog, IDOK) ? IDOK : IDCANCEL);
+            return TRUE;
+        }
+        default:
+            return FALSE;
+    }
+}
+
+/// Pixels as dialog units, rounded up.
+SIZE ToUnits(LONG width, LONG height, int baseX, int baseY) {
+    return {(width * 4 + baseX - 1) / baseX, (height * 8 + baseY - 1) / baseY};
+}
+
+/// A text's size in dialog units when broken at a width of 5/8 of the screen.
+SIZE MeasureText(LPCSTR text, HFONT font, int baseX, int baseY) {
+    const HDC screen = GetDC(nullptr);
+    const HGDIOBJ previous = SelectObject(screen, font);
+    RECT rect{0, 0, GetSystemMetrics(SM_CXSCREEN) * 5 / 8, 0};
+    DrawTextA(screen, text, -1, &rect, DT_CALCRECT | DT_WORDBREAK | DT_EXPANDTABS | DT_NOPREFIX);
+    SelectObject(screen, previous);
+    ReleaseDC(nullptr, screen);
+    return ToUnits(rect.right, rect.bottom, baseX, baseY);
+}
+
+DialogItem MakeItem(const char* className, const char* text, DWORD style, int id, short x, short y, short width,
+                    short height) {
+    DialogItem item;
+    item.className = className;
+    item.text = text;
+    item.style = style | WS_CHILD | WS_VISIBLE;
+    item.id = id;
+    item.x = x;
+    item.y = y;
+    item.width = width;
+    item.height = height;
+    return item;
+}
+
+DialogTemplate LayOut(LPCSTR text, LPCSTR caption, UINT type, const ButtonSet& set, bool hasIcon) {
+    DialogTemplate box;
+    box.style = WS_POPUP | WS_CAPTION | DS_MODALFRAME | DS_SETFONT | DS_NOIDLEMSG | DS_CENTER;
+    if (HasCancel(set))
+        box.style |= WS_SYSMENU;
+    if (type & MB_SETFOREGROUND)
+        box.style |= DS_SETFOREGROUND;
+    if ((type & MB_TOPMOST) || (type & MB_MODEMASK) == MB_SYSTEMMODAL)
+        box.exStyle |= WS_EX_TOPMOST;
+    box.title = caption ? caption : "Error";
+    box.hasFont = true;
+    box.pointSize = 8;
+    box.face = "MS Sans Serif";
+
+    const HFONT font =
+        CreateFontA(-MulDiv(8, 96, 72), 0, 0, 0, FW_DONTCARE, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, box.face.c_str());
+    int baseX = 0;
+    int baseY = 0;
+    FontBaseUnits(font, baseX, baseY);
+    const SIZE size = MeasureText(text, font, baseX, baseY);
+    DeleteObject(font);
+
+    const auto textWidth = static_cast<short>(std::min<LONG>(size.cx, 0x4000));
+    const auto textHeight = static_cast<short>(std::min<LONG>(size.cy, 0x4000));
+    const SIZE icon =
+        hasIcon ? ToUnits(GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON), baseX, baseY) : SIZE{0, 0};
+    const auto iconWidth = static_cast<short>(icon.cx);
+    const auto textLeft = static_cast<short>(kMargin + (hasIcon ? iconWidth + kIconGap : 0));
+    // A text lower than the icon stands in the middle beside it.
+    const auto areaHeight = std::max(textHeight, static_cast<short>(icon.cy));
+    const auto textTop = static_cast<short>(kMargin + (areaHeight - textHeight) / 2);
+    const auto buttons = static_cast<short>(set.count * kButtonWidth + (set.count - 1) * kButtonGap);
+    box.width = static_cast<short>(std::max(textLeft + textWidth, kMargin + buttons) + kMargin);
+    const auto buttonTop = static_cast<short>(kMargin + areaHeight + kTextGap);
+    box.height = static_cast<short>(buttonTop + kButtonHeight + kMargin);
+
+    const DWORD alignment = type & MB_RIGHT ? SS_RIGHT : SS_LEFT;
+    if (hasIcon)
+        box.items.push_back(MakeItem("static", "", SS_ICON, kIconId, kMargin, kMargin, iconWidth, iconWidth));
+    box.items.push_back(MakeItem("static", text, SS_NOPREFIX | alignment, kTextId, textLeft, textTop,
+                                 static_cast<short>(box.width - textLeft - kMargin), textHeight));
+    auto x = static_cast<short>((box.width - buttons) / 2);
+    for (int index = 0; index < set.count; ++index) {
+        const DWORD group = index == 0 ? WS_GROUP : 0;
+        box.items.push_back(MakeItem("button", set.buttons[index].label, BS_PUSHBUTTON | WS_TABSTOP | group,
+                                     set.buttons[index].id, x, buttonTop, kButtonWidth, kButtonHeight));
+        x = static_cast<short>(x + kButtonWidth + kButtonGap);
+    }
+    return box;
+}
+
+/// MB_TASKMODAL without an owner: the thread's other top-level windows are disabled while the box is up.
+class DisabledTask {
+  public:
+    DisabledTask() : active_(GetActiveWindow()) {
+        EnumThreadWindows(GetCurrentThreadId(), Disable, reinterpret_cast<LPARAM>(this));
+    }
+    ~DisabledTask() {
+        for (const HWND window : windows_) {
+            if (IsWindow(window))
+                EnableWindow(window, TRUE);
+        }
+        // While the box went away there was no enabled window to activate.
+        if (active_ && IsWindow(active_))
+            SetActiveWindow(active_);
+    }
+    DisabledTask(const DisabledTask&) = delete;
+    DisabledTask& operator=(const DisabledTask&) = delete;
+
+  private:
+    static BOOL CALLBACK Disable(HWND window, LPARAM parameter) {
+        auto* self = reinterpret_cast<DisabledTask*>(parameter);
+        if (!IsWindowVisible(window) || !IsWindowEnabled(window))
+            return TRUE;
+        try {
+            self->windows_.push_back(window);
+        } catch (const std::bad_alloc&) {
+            return FALSE;
+        }
+        EnableWindow(window, FALSE);
+        return TRUE;
+    }
+
+    HWND active_;
+    std::vector<HWND> windows_;
+};
+
+int ShowBox(HWND owner, LPCSTR text, LPCSTR caption, UINT type) {
+    const UINT kind = type & MB_TYPEMASK;
+    if (kind >= kSetCount) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return 0;
+    }
+    const ButtonSet& set = kSets[kind];
+    const int chosen = static_cast<int>((type & MB_DEFMASK) >> 8);
+    const Box box{type, set.buttons[chosen < set.count ? chosen : 0].id, HasCancel(set), IconOf(type)};
+    const DialogTemplate layout = LayOut(text ? text : "", caption, type, set, box.icon != nullptr);
+    const auto parameter = reinterpret_cast<LPARAM>(&box);
+    INT_PTR result;
+    if (!owner && (type & MB_MODEMASK) == MB_TASKMODAL) {
+        const DisabledTask disabled;
+        result = RunDialog(nullptr, layout, nullptr, BoxProcedure, parameter);
+    } else {
+        result = RunDialog(nullptr, layout, owner, BoxProcedure, parameter);
+    }
+    return result > 0 ? static_cast<int>(result) : 0;
+}
+
+}  // namespace
+}  // namespace platform::user
+
+WINUSERAPI int WINAPI MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type) try {
+    return platform::user::ShowBox(owner, text, caption, type);
+} catch (const std::bad_alloc&) {
+    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+    return 0;
+}
+
+// There is no sound device, and a machine without one is silent.
+WINUSERAPI BOOL WINAPI MessageBeep(UINT) {
+    return TRUE;
+}

@@ -1,0 +1,348 @@
+// DefWindowProcA: what a window does with a message that it has no use for itself.
+#include <algorithm>
+#include <cstring>
+#include <new>
+#include <utility>
+
+#include "gdi/context/device_context.h"
+#include "gdi/context/objects.h"
+#include "kernel/memory/probe.h"
+#include "user/frame/nonclient.h"
+#include "user/model/window.h"
+#include "user/painting/painting.h"
+#include "user/window/above.h"
+
+namespace platform::user {
+namespace {
+
+LRESULT SetText(HWND handle, LPCSTR text) {
+    const std::size_t length = text ? kernel::ProbeLength(text) : 0;
+    if (length == kernel::kBadText) {
+        SetLastError(ERROR_NOACCESS);
+        return FALSE;
+    }
+    UserHold hold(UserLock());
+    Window* window = PeekWindow(handle);
+    if (!window) {
+        return FALSE;
+    }
+    try {
+        window->text.assign(text ? text : "", length);
+    } catch (const std::bad_alloc&) {
+        return FALSE;
+    }
+    const bool hasCaption = CaptionHeight(window->style, window->exStyle) && IsShown(window);
+    hold.unlock();
+    if (hasCaption) {
+        PaintFrame(handle);
+    }
+    return TRUE;
+}
+
+LRESULT GetText(HWND handle, WPARAM size, LPSTR buffer) {
+    const UserGuard guard(UserLock());
+    const Window* window = PeekWindow(handle);
+    if (!window || !buffer || size == 0) {
+        return 0;
+    }
+    const std::size_t length = std::min<std::size_t>(window->text.size(), size - 1);
+    std::memcpy(buffer, window->text.data(), length);
+    buffer[length] = '\0';
+    return static_cast<LRESULT>(length);
+}
+
+LRESULT EraseBackground(HWND handle, HDC context) {
+    HBRUSH brush = nullptr;
+    {
+        const UserGuard guard(UserLock());
+        const Window* window = PeekWindow(handle);
+        brush = window ? window->windowClass->background : nullptr;
+    }
+    if (!brush) {
+        return 0;
+    }
+    const RECT area = gdi::ClipBounds(context);
+    FillRect(context, &area, brush);
+    return 1;
+}
+
+/// WM_WINDOWPOSCHANGED tells of size and place in messages of their own.
+void TellPlace(HWND handle, const WINDOWPOS& position) {
+    RECT client{};
+    POINT origin{};
+    UINT kind = SIZE_RESTORED;
+    {
+        const UserGuard guard(UserLock());
+        const Window* window = PeekWindow(handle);
+        if (!window) {
+            return;
+        }
+        client = window->clientRect;
+        if (IsChildStyle(window->style) && window->parent) {
+            origin = {window->parent->clientRect.left, window->parent->clientRect.top};
+        }
+        kind = window->style & WS_MINIMIZE   ? SIZE_MINIMIZED
+               : window->style & WS_MAXIMIZE ? SIZE_MAXIMIZED
+                                             : SIZE_RESTORED;
+    }
+    constexpr UINT noClientSize = 0x0800;
+    constexpr UINT noClientMove = 0x1000;
+    if (!(position.flags & noClientMove)) {
+        SendMessageA(handle, WM_MOVE, 0, MAKELPARAM(client.left - origin.x, client.top - origin.y));
+    }
+    if (!(position.flags & noClientSize)) {
+        SendMessageA(handle, WM_SIZE, kind, MAKELPARAM(client.right - client.left, client.bottom - client.top));
+    }
+}
+
+/// Limits a top-level window with a sizing border to what it says of its smallest and largest size.
+void LimitSize(HWND handle, DWORD style, WINDOWPOS* position) {
+    if ((position->flags & SWP_NOSIZE) || !(style & WS_THICKFRAME) || (style & WS_MINIMIZE) || IsChildStyle(style)) {
+        return;
+    }
+    const MINMAXINFO limits = QueryMinMax(handle);
+    position->cx = std::clamp<int>(position->cx, limits.ptMinTrackSize.x,
+                                   std::max(limits.ptMinTrackSize.x, limits.ptMaxTrackSize.x));
+    position->cy = std::clamp<int>(position->cy, limits.ptMinTrackSize.y,
+                                   std::max(limits.ptMinTrackSize.y, limits.ptMaxTrackSize.y));
+}
+
+/// Takes the text colour and the background colour in turns.
+HBRUSH ChequeredBrush() {
+    static const HBRUSH brush = [] {
+        const WORD rows[8] = {0x5555, 0xAAAA, 0x5555, 0xAAAA, 0x5555, 0xAAAA, 0x5555, 0xAAAA};
+        const HBITMAP bitmap = CreateBitmap(8, 8, 1, 1, rows);
+        const HBRUSH made = gdi::MakePatternBrush(bitmap);
+        DeleteObject(bitmap);
+        // It is the system's own, and no application is to answer for it.
+        if (auto* object = gdi::FindObject<gdi::Brush>(made)) {
+            gdi::NoteStock(object);
+        }
+        return made;
+    }();
+    return brush;
+}
+
+LRESULT ControlColour(UINT message, HDC context) {
+    if (message == WM_CTLCOLOREDIT || message == WM_CTLCOLORLISTBOX) {
+        SetTextColor(context, GetSysColor(COLOR_WINDOWTEXT));
+        SetBkColor(context, GetSysColor(COLOR_WINDOW));
+        return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_WINDOW));
+    }
+    if (message == WM_CTLCOLORSCROLLBAR) {
+        // A scroll bar as grey as its arrows is told from them by every second pixel in white.
+        SetTextColor(context, GetSysColor(COLOR_3DHIGHLIGHT));
+        SetBkColor(context, GetSysColor(COLOR_SCROLLBAR));
+        return reinterpret_cast<LRESULT>(GetSysColor(COLOR_SCROLLBAR) == GetSysColor(COLOR_3DFACE)
+                                             ? ChequeredBrush()
+                                             : GetSysColorBrush(COLOR_SCROLLBAR));
+    }
+    SetTextColor(context, GetSysColor(COLOR_WINDOWTEXT));
+    SetBkColor(context, GetSysColor(COLOR_3DFACE));
+    return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_3DFACE));
+}
+
+LRESULT SetCursorFor(HWND handle, WPARAM wParam, LPARAM lParam) {
+    const Window* window = PeekWindow(handle);
+    if (window && IsChildStyle(window->style)) {
+        const HWND parent = GetParent(handle);
+        if (parent && parent != GetDesktopWindow() && SendMessageA(parent, WM_SETCURSOR, wParam, lParam)) {
+            return TRUE;
+        }
+    }
+    return SetHitCursor(reinterpret_cast<HWND>(wParam), static_cast<short>(LOWORD(lParam)), HIWORD(lParam));
+}
+
+LRESULT ActivateByMouse(HWND handle, WPARAM wParam, LPARAM lParam) {
+    const Window* window = PeekWindow(handle);
+    if (window && IsChildStyle(window->style)) {
+        if (const HWND parent = GetParent(handle)) {
+            const LRESULT answer = SendMessageA(parent, WM_MOUSEACTIVATE, wParam, lParam);
+            if (answer) {
+                return answer;
+            }
+        }
+    }
+    return MA_ACTIVATE;
+}
+
+/// Alt+F4 closes; other system keys have no menu to go to.
+LRESULT SystemKeyDown(HWND handle, WPARAM key, LPARAM bits) {
+    if (key == VK_F4 && (bits & (1 << 29))) {
+        if (const HWND top = GetAncestor(handle, GA_ROOT)) {
+            SendMessageA(top, WM_SYSCOMMAND, SC_CLOSE, 0);
+        }
+    }
+    return 0;
+}
+
+void SetRedraw(HWND handle, bool redraw) {
+    UserHold hold(UserLock());
+    Window* window = PeekWindow(handle);
+    if (!window) {
+        return;
+    }
+    if (redraw) {
+        window->style |= WS_VISIBLE;
+        WindowsChanged();
+        return;
+    }
+    window->style &= ~static_cast<DWORD>(WS_VISIBLE);
+    window->update = gdi::Region();
+    WindowsChanged();
+}
+
+LRESULT SetIcon(HWND handle, bool big, HICON icon) {
+    UserHold hold(UserLock());
+    Window* window = PeekWindow(handle);
+    if (!window) {
+        return 0;
+    }
+    const HICON before = std::exchange(big ? window->bigIcon : window->smallIcon, icon);
+    const bool hasCaption = CaptionHeight(window->style, window->exStyle) && IsShown(window);
+    hold.unlock();
+    if (hasCaption) {
+        PaintFrame(handle);
+    }
+    return reinterpret_cast<LRESULT>(before);
+}
+
+void Print(HWND handle, WPARAM context, LPARAM what) {
+    if ((what & PRF_CHECKVISIBLE) && !IsWindowVisible(handle)) {
+        return;
+    }
+    if (what & PRF_ERASEBKGND) {
+        SendMessageA(handle, WM_ERASEBKGND, context, 0);
+    }
+    if (what & PRF_CLIENT) {
+        SendMessageA(handle, WM_PRINTCLIENT, context, what);
+    }
+}
+
+// WM_NOTIFYFORMAT: a control asks its parent, which hears every notification in the ANSI form.
+constexpr LPARAM kQueryFormat = 3;
+constexpr LRESULT kAnsiFormat = 1;
+
+}  // namespace
+}  // namespace platform::user
+
+using namespace platform::user;
+
+LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
+    Window* window = FindWindowObject(handle);
+    if (!window) {
+        return 0;
+    }
+    switch (message) {
+        case WM_NCCREATE: {
+            const auto* given = reinterpret_cast<const CREATESTRUCTA*>(lParam);
+            SetText(handle, given ? given->lpszName : nullptr);
+            return TRUE;
+        }
+        case WM_NCCALCSIZE:
+        case WM_NCHITTEST:
+        case WM_NCPAINT:
+        case WM_NCACTIVATE:
+        case WM_NCLBUTTONDOWN:
+        case WM_NCLBUTTONDBLCLK:
+        case WM_SYSCOMMAND:
+            return DefaultNonClient(window, message, wParam, lParam);
+        case WM_SETTEXT:
+            return SetText(handle, reinterpret_cast<LPCSTR>(lParam));
+        case WM_GETTEXT:
+            return GetText(handle, wParam, reinterpret_cast<LPSTR>(lParam));
+        case WM_GETTEXTLENGTH:
+            return static_cast<LRESULT>(window->text.size());
+        case WM_SETREDRAW:
+            SetRedraw(handle, wParam != 0);
+            return 0;
+        case WM_PAINT: {
+            PAINTSTRUCT paint;
+            if (BeginPaint(handle, &paint)) {
+                EndPaint(handle, &paint);
+            }
+            return 0;
+        }
+        case WM_ERASEBKGND:
+        case WM_ICONERASEBKGND:
+            return EraseBackground(handle, reinterpret_cast<HDC>(wParam));
+        case WM_CTLCOLORMSGBOX:
+        case WM_CTLCOLOREDIT:
+        case WM_CTLCOLORLISTBOX:
+        case WM_CTLCOLORBTN:
+        case WM_CTLCOLORDLG:
+        case WM_CTLCOLORSCROLLBAR:
+        case WM_CTLCOLORSTATIC:
+            return ControlColour(message, reinterpret_cast<HDC>(wParam));
+        case WM_WINDOWPOSCHANGING:
+            LimitSize(handle, window->style, reinterpret_cast<WINDOWPOS*>(lParam));
+            return 0;
+        case WM_WINDOWPOSCHANGED:
+            TellPlace(handle, *reinterpret_cast<const WINDOWPOS*>(lParam));
+            return 0;
+        case WM_CLOSE:
+            DestroyWindow(handle);
+            return 0;
+        case WM_QUERYOPEN:
+        case WM_QUERYENDSESSION:
+            return TRUE;
+        case WM_ACTIVATE:
+            if (LOWORD(wParam) != WA_INACTIVE && !(window->style & WS_MINIMIZE)) {
+                SetFocus(handle);
+            }
+            return 0;
+        case WM_MOUSEACTIVATE:
+            return ActivateByMouse(handle, wParam, lParam);
+        case WM_SETCURSOR:
+            return SetCursorFor(handle, wParam, lParam);
+        case WM_SYSKEYDOWN:
+            return SystemKeyDown(handle, wParam, lParam);
+        case WM_RBUTTONUP: {
+            POINT point = MousePoint(lParam);
+            ClientToScreen(handle, &point);
+            return SendMessageA(handle, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(handle), MAKELPARAM(point.x, point.y));
+        }
+        case WM_NCRBUTTONUP:
+            return SendMessageA(handle, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(handle), lParam);
+        case WM_HELP: {
+            // What has no help of its own leaves it to its parent, and a window of the top level to its owner.
+            const HWND above = IsChildStyle(window->style) ? GetParent(handle) : GetWindow(handle, GW_OWNER);
+            return above ? SendMessageA(above, message, wParam, lParam) : 0;
+        }
+        case WM_CONTEXTMENU:
+        case WM_MOUSEWHEEL:
+            if (IsChildStyle(window->style)) {
+                if (const HWND parent = GetParent(handle)) {
+                    return SendMessageA(parent, message, wParam, lParam);
+                }
+            }
+            return 0;
+        case WM_VKEYTOITEM:
+        case WM_CHARTOITEM:
+            return -1;
+        case WM_NOTIFYFORMAT:
+            return lParam == kQueryFormat ? kAnsiFormat : 0;
+        case WM_GETICON:
+            return reinterpret_cast<LRESULT>(wParam == ICON_BIG ? window->bigIcon : window->smallIcon);
+        case WM_SETICON:
+            return SetIcon(handle, wParam == ICON_BIG, reinterpret_cast<HICON>(lParam));
+        case WM_QUERYDRAGICON:
+            return reinterpret_cast<LRESULT>(window->bigIcon ? window->bigIcon : window->windowClass->icon);
+        case WM_PRINT:
+            Print(handle, wParam, lParam);
+            return 0;
+        case WM_SHOWWINDOW:
+            // Owned windows come and go with their owner.
+            if (lParam && window->owner) {
+                ShowWindow(handle, wParam ? SW_SHOWNA : SW_HIDE);
+            }
+            return 0;
+        case WM_CANCELMODE:
+            if (GetCapture() == handle) {
+                ReleaseCapture();
+            }
+            return 0;
+        default:
+            return 0;
+    }
+}

@@ -1,0 +1,292 @@
+// The frame around a client area: how wide it is, and what part of it a point lies on.
+#include "user/frame/nonclient.h"
+
+#include "user/frame/scrollbar/bar.h"
+#include "user/resource/icons.h"
+#include "user/window/above.h"
+
+namespace platform::user {
+
+int FrameWidth(DWORD style, DWORD exStyle) {
+    if ((exStyle & (WS_EX_STATICEDGE | WS_EX_DLGMODALFRAME)) == WS_EX_STATICEDGE &&
+        !(style & (WS_THICKFRAME | WS_DLGFRAME))) {
+        return 1 + ((style & WS_BORDER) ? 1 : 0);
+    }
+    int width = 0;
+    if ((exStyle & WS_EX_DLGMODALFRAME) || (style & (WS_THICKFRAME | WS_DLGFRAME))) {
+        width += GetSystemMetrics(SM_CXEDGE);
+    }
+    if (style & WS_THICKFRAME) {
+        width += GetSystemMetrics(SM_CXSIZEFRAME) - GetSystemMetrics(SM_CXFIXEDFRAME);
+    }
+    if ((style & (WS_BORDER | WS_DLGFRAME)) || (exStyle & WS_EX_DLGMODALFRAME)) {
+        width += GetSystemMetrics(SM_CXBORDER);
+    }
+    return width;
+}
+
+int CaptionHeight(DWORD style, DWORD exStyle) {
+    if ((style & WS_CAPTION) != WS_CAPTION) {
+        return 0;
+    }
+    return GetSystemMetrics(exStyle & WS_EX_TOOLWINDOW ? SM_CYSMCAPTION : SM_CYCAPTION);
+}
+
+namespace {
+
+int ClientEdge(DWORD exStyle) {
+    return exStyle & WS_EX_CLIENTEDGE ? GetSystemMetrics(SM_CXEDGE) : 0;
+}
+
+}  // namespace
+
+RECT ClientFromWindow(const Window* window, const RECT& windowRect) {
+    if (window->style & WS_MINIMIZE) {
+        return {windowRect.left, windowRect.top, windowRect.left, windowRect.top};
+    }
+    const int inset = FrameWidth(window->style, window->exStyle) + ClientEdge(window->exStyle);
+    RECT client = windowRect;
+    InflateRect(&client, -inset, -inset);
+    client.top += CaptionHeight(window->style, window->exStyle);
+    // Scroll bars stand where there is room for them.
+    const int barWidth = GetSystemMetrics(SM_CXVSCROLL);
+    const int barHeight = GetSystemMetrics(SM_CYHSCROLL);
+    if ((window->style & WS_VSCROLL) && client.right - client.left >= barWidth) {
+        client.right -= barWidth;
+    }
+    if ((window->style & WS_HSCROLL) && client.bottom - client.top >= barHeight) {
+        client.bottom -= barHeight;
+    }
+    // A window too small for its frame has no client area, at the place where it would begin.
+    if (client.right < client.left) {
+        client.right = client.left;
+    }
+    if (client.bottom < client.top) {
+        client.bottom = client.top;
+    }
+    return client;
+}
+
+HICON CaptionIcon(const Window* window) {
+    if (!(window->style & WS_SYSMENU) || (window->exStyle & (WS_EX_TOOLWINDOW | WS_EX_DLGMODALFRAME))) {
+        return nullptr;
+    }
+    for (HICON icon : {window->smallIcon, window->bigIcon, window->windowClass->icon}) {
+        if (icon) {
+            return icon;
+        }
+    }
+    return nullptr;
+}
+
+CaptionParts LayOutCaption(const Window* window, RECT windowRect) {
+    CaptionParts parts{};
+    const int frame = FrameWidth(window->style, window->exStyle);
+    InflateRect(&windowRect, -frame, -frame);
+    parts.height = CaptionHeight(window->style, window->exStyle);
+    if (parts.height == 0) {
+        return parts;
+    }
+    parts.bar = {windowRect.left, windowRect.top, windowRect.right, windowRect.top + parts.height - 1};
+    if (!(window->style & WS_SYSMENU)) {
+        return parts;
+    }
+    const int height = parts.height - 1;
+    if (CaptionIcon(window)) {
+        const int size = GetSystemMetrics(SM_CXSMICON);
+        const int top = parts.bar.top + (height - size) / 2;
+        parts.icon = {parts.bar.left + 2, top, parts.bar.left + 2 + size, top + size};
+    }
+    const RECT close{parts.bar.right - 2 - (height - 2), parts.bar.top + 2, parts.bar.right - 2, parts.bar.bottom - 2};
+    parts.close = close;
+    if (!(window->exStyle & WS_EX_TOOLWINDOW) && (window->style & (WS_MINIMIZEBOX | WS_MAXIMIZEBOX))) {
+        const int width = close.right - close.left;
+        parts.maximize = {close.left - 2 - width, close.top, close.left - 2, close.bottom};
+        parts.minimize = {parts.maximize.left - width, close.top, parts.maximize.left, close.bottom};
+    } else if (!(window->exStyle & WS_EX_TOOLWINDOW) && (window->exStyle & WS_EX_CONTEXTHELP)) {
+        // The question mark stands only where there are no boxes to minimise and maximise.
+        const int width = close.right - close.left;
+        parts.help = {close.left - 2 - width, close.top, close.left - 2, close.bottom};
+    }
+    return parts;
+}
+
+namespace {
+
+/// Sizing corners reach as far along an edge as a caption is high.
+LRESULT HitSizingFrame(const RECT& rect, POINT point) {
+    const int corner = GetSystemMetrics(SM_CYCAPTION) + GetSystemMetrics(SM_CYSIZEFRAME);
+    const int column = point.x < rect.left + corner ? 0 : point.x >= rect.right - corner ? 2 : 1;
+    const int row = point.y < rect.top + corner ? 0 : point.y >= rect.bottom - corner ? 2 : 1;
+    static constexpr LRESULT kCodes[3][3] = {
+        {HTTOPLEFT, HTTOP, HTTOPRIGHT}, {HTLEFT, HTBORDER, HTRIGHT}, {HTBOTTOMLEFT, HTBOTTOM, HTBOTTOMRIGHT}};
+    return kCodes[row][column];
+}
+
+}  // namespace
+
+LRESULT HitTest(HWND handle, POINT point) {
+    const UserGuard guard(UserLock());
+    const Window* window = FindWindowObject(handle);
+    if (!window || !PtInRect(&window->windowRect, point)) {
+        return HTNOWHERE;
+    }
+    if (PtInRect(&window->clientRect, point)) {
+        return HTCLIENT;
+    }
+    const int frame = FrameWidth(window->style, window->exStyle);
+    RECT inner = window->windowRect;
+    InflateRect(&inner, -frame, -frame);
+    if (!PtInRect(&inner, point)) {
+        const bool sizable = (window->style & WS_THICKFRAME) && !(window->style & (WS_MAXIMIZE | WS_MINIMIZE));
+        return sizable ? HitSizingFrame(window->windowRect, point) : HTBORDER;
+    }
+    const CaptionParts parts = LayOutCaption(window, window->windowRect);
+    if (parts.height && point.y < inner.top + parts.height) {
+        if (PtInRect(&parts.icon, point)) {
+            return HTSYSMENU;
+        }
+        if (PtInRect(&parts.close, point)) {
+            return window->windowClass->style & CS_NOCLOSE ? HTCAPTION : HTCLOSE;
+        }
+        if (PtInRect(&parts.maximize, point)) {
+            return window->style & WS_MAXIMIZEBOX ? HTMAXBUTTON : HTCAPTION;
+        }
+        if (PtInRect(&parts.minimize, point)) {
+            return window->style & WS_MINIMIZEBOX ? HTMINBUTTON : HTCAPTION;
+        }
+        return PtInRect(&parts.help, point) ? HTHELP : HTCAPTION;
+    }
+    const RECT down = BarRect(window, true);
+    const RECT across = BarRect(window, false);
+    if (PtInRect(&down, point)) {
+        return HTVSCROLL;
+    }
+    if (PtInRect(&across, point)) {
+        return HTHSCROLL;
+    }
+    const RECT corner{down.left, across.top, down.right, across.bottom};
+    return !IsRectEmpty(&down) && !IsRectEmpty(&across) && PtInRect(&corner, point) ? HTGROWBOX : HTBORDER;
+}
+
+namespace {
+
+void CalculateClient(HWND handle, RECT* rect) {
+    const UserGuard guard(UserLock());
+    if (const Window* window = FindWindowObject(handle)) {
+        *rect = ClientFromWindow(window, *rect);
+    }
+}
+
+UINT SizingCursor(int hitCode) {
+    switch (hitCode) {
+        case HTLEFT:
+        case HTRIGHT:
+            return 32644;
+        case HTTOP:
+        case HTBOTTOM:
+            return 32645;
+        case HTTOPLEFT:
+        case HTBOTTOMRIGHT:
+            return 32642;
+        case HTTOPRIGHT:
+        case HTBOTTOMLEFT:
+            return 32643;
+        default:
+            return 32512;
+    }
+}
+
+}  // namespace
+
+bool SetHitCursor(HWND hit, int hitCode, UINT) {
+    if (hitCode == HTCLIENT) {
+        HCURSOR cursor = nullptr;
+        {
+            const UserGuard guard(UserLock());
+            const Window* window = PeekWindow(hit);
+            cursor = window ? window->windowClass->cursor : nullptr;
+        }
+        if (!cursor) {
+            return false;
+        }
+        SetCursor(cursor);
+        return true;
+    }
+    SetCursor(LoadCursorA(nullptr, MAKEINTRESOURCEA(SizingCursor(hitCode))));
+    return true;
+}
+
+MINMAXINFO QueryMinMax(HWND handle) {
+    MINMAXINFO limits{};
+    {
+        const UserGuard guard(UserLock());
+        const Window* window = PeekWindow(handle);
+        const int frame = window ? FrameWidth(window->style, window->exStyle) : 0;
+        // A maximised child fills its parent's client area, other windows the screen.
+        const RECT ground = window && window->parent ? window->parent->clientRect : Desktop()->clientRect;
+        limits.ptMaxSize = {ground.right - ground.left + 2 * frame, ground.bottom - ground.top + 2 * frame};
+        limits.ptMaxPosition = {-frame, -frame};
+        // The least size has room for a caption with its buttons; a mere frame needs its own edges only.
+        const bool plain = window && !(window->style & (WS_BORDER | WS_DLGFRAME));
+        limits.ptMinTrackSize = plain ? POINT{2 * frame, 2 * frame}
+                                      : POINT{GetSystemMetrics(SM_CXMINTRACK), GetSystemMetrics(SM_CYMINTRACK)};
+    }
+    limits.ptMaxTrackSize = {GetSystemMetrics(SM_CXMAXTRACK), GetSystemMetrics(SM_CYMAXTRACK)};
+    SendMessageA(handle, WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
+    return limits;
+}
+
+LRESULT DefaultNonClient(Window* window, UINT message, WPARAM wParam, LPARAM lParam) {
+    const HWND handle = window->handle;
+    const POINT point = MousePoint(lParam);
+    switch (message) {
+        case WM_NCCALCSIZE: {
+            const UINT classStyle = window->windowClass->style;
+            // The rectangle is the first of the three where all three are given.
+            CalculateClient(handle, reinterpret_cast<RECT*>(lParam));
+            return wParam
+                       ? ((classStyle & CS_HREDRAW) ? WVR_HREDRAW : 0) | ((classStyle & CS_VREDRAW) ? WVR_VREDRAW : 0)
+                       : 0;
+        }
+        case WM_NCHITTEST:
+            return HitTest(handle, point);
+        case WM_NCPAINT:
+            PaintFrame(handle);
+            return 0;
+        case WM_NCACTIVATE: {
+            window->captionActive = wParam != 0;
+            if (window->style & WS_VISIBLE) {
+                PaintFrame(handle);
+            }
+            return TRUE;
+        }
+        case WM_NCLBUTTONDOWN:
+            PressFrame(handle, static_cast<int>(wParam), point);
+            return 0;
+        case WM_NCLBUTTONDBLCLK:
+            if (wParam == HTCAPTION && (window->style & WS_MAXIMIZEBOX)) {
+                SendMessageA(handle, WM_SYSCOMMAND,
+                             static_cast<WPARAM>(window->style & WS_MAXIMIZE ? SC_RESTORE : SC_MAXIMIZE), lParam);
+            } else if (wParam == HTSYSMENU) {
+                SendMessageA(handle, WM_SYSCOMMAND, SC_CLOSE, lParam);
+            } else {
+                PressFrame(handle, static_cast<int>(wParam), point);
+            }
+            return 0;
+        case WM_SYSCOMMAND:
+            return SystemCommand(handle, wParam, point);
+        default:
+            return 0;
+    }
+}
+
+}  // namespace platform::user
+
+BOOL WINAPI AdjustWindowRectEx(LPRECT rect, DWORD style, BOOL menu, DWORD exStyle) {
+    using namespace platform::user;
+    const int inset = FrameWidth(style, exStyle) + ClientEdge(exStyle);
+    InflateRect(rect, inset, inset);
+    rect->top -= CaptionHeight(style, exStyle) + (menu ? GetSystemMetrics(SM_CYMENU) : 0);
+    return TRUE;
+}

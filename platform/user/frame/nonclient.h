@@ -1,0 +1,56 @@
+/// @file nonclient.h
+/// The frame around a client area, shared by the files that measure, draw and handle it.
+#pragma once
+
+#include "user/model/window.h"
+
+namespace platform::user {
+
+/// The insets that style and extended style give a window: client rectangle of a window rectangle.
+RECT ClientFromWindow(const Window* window, const RECT& windowRect);
+/// WM_NCPAINT, WM_NCHITTEST, WM_NCCALCSIZE, WM_NCLBUTTONDOWN, WM_SYSCOMMAND, ... as DefWindowProcA answers them.
+LRESULT DefaultNonClient(Window* window, UINT message, WPARAM wParam, LPARAM lParam);
+
+/// WM_SETCURSOR's default, once the parents have been asked. @returns whether a cursor was set.
+bool SetHitCursor(HWND hit, int hitCode, UINT mouseMessage);
+
+/// @returns how many pixels wide the frame is on each side, the sunken client edge left out.
+int FrameWidth(DWORD style, DWORD exStyle);
+
+/// @returns the caption's height with the line below it; 0 without a caption.
+int CaptionHeight(DWORD style, DWORD exStyle);
+
+/// Where the parts of a caption lie, in the coordinates of the window rectangle given; empty where there is none.
+struct CaptionParts {
+    int height;
+    RECT bar;
+    RECT icon;
+    RECT close;
+    RECT minimize;
+    RECT maximize;
+    RECT help;
+};
+CaptionParts LayOutCaption(const Window* window, RECT windowRect);
+
+/// @returns the HT code of a screen point.
+LRESULT HitTest(HWND window, POINT point);
+
+/// Draws the frame. pressed: the HT code of a button that is held.
+void PaintFrame(HWND window, int pressed = HTNOWHERE);
+
+/// The left button goes down on a part of the frame: moves, sizes, or tracks a button.
+void PressFrame(HWND window, int hitCode, POINT point);
+
+LRESULT SystemCommand(HWND window, WPARAM command, POINT point);
+
+/// The next message of a loop that handles a window's frame. @returns false when the loop has to end: the window is gone,
+/// or the program ends, which is passed on.
+bool NextMessage(HWND window, MSG* message);
+
+/// @returns whether a message comes from the keyboard or the mouse, which such a loop keeps to itself.
+bool IsInput(UINT message);
+
+/// The question mark of a caption was pressed: the next click on the window asks for help on what lies there.
+void RunHelpMode(HWND window);
+
+}  // namespace platform::user

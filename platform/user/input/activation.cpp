@@ -1,0 +1,311 @@
+// Activation: one top-level window of a thread is active, and the thread in the foreground has the keyboard.
+#include <algorithm>
+#include <new>
+#include <vector>
+
+#include "user/input/input.h"
+#include "user/message/queue.h"
+#include "user/model/input_state.h"
+#include "user/model/thread.h"
+
+namespace platform::user {
+namespace {
+
+// Keys may have changed while other threads had the keyboard. Input that still waits brings its own changes.
+void TakeOverKeys(ThreadState* thread) {
+    if (thread->input.empty()) {
+        std::copy(std::begin(Input().keys), std::end(Input().keys), thread->keyState);
+    }
+}
+
+WPARAM ActivationState(UINT state, HWND window) {
+    return MAKEWPARAM(state, IsIconic(window) ? 1 : 0);
+}
+
+std::vector<HWND> TopLevelsOf(const ThreadState* thread) {
+    std::vector<HWND> windows;
+    UserGuard guard(UserLock());
+    for (const Window* window = Desktop()->firstChild; window != nullptr; window = window->next) {
+        if (window->thread == thread) {
+            windows.push_back(window->handle);
+        }
+    }
+    return windows;
+}
+
+void TellApplication(const ThreadState* thread, bool active, const ThreadState* other) {
+    try {
+        for (HWND window : TopLevelsOf(thread)) {
+            Tell(window, WM_ACTIVATEAPP, active, other != nullptr ? other->id : 0);
+        }
+    } catch (const std::bad_alloc&) {
+        // Without memory nobody hears of it; activation itself goes on.
+        return;
+    }
+}
+
+// Tells a thread that another one has taken the foreground. Nothing waits for its windows.
+void LeaveForeground(ThreadState* loser, ThreadState* winner, HWND to) {
+    HWND active = nullptr;
+    HWND focus = nullptr;
+    {
+        UserGuard guard(UserLock());
+        active = loser->active;
+        focus = loser->focus;
+        loser->lastActive = active;
+        loser->active = nullptr;
+        loser->focus = nullptr;
+    }
+    if (active != nullptr) {
+        Tell(active, WM_NCACTIVATE, FALSE, reinterpret_cast<LPARAM>(to));
+        Tell(active, WM_ACTIVATE, ActivationState(WA_INACTIVE, active), reinterpret_cast<LPARAM>(to));
+    }
+    TellApplication(loser, false, winner);
+    if (focus != nullptr) {
+        Tell(focus, WM_KILLFOCUS, 0, 0);
+    }
+}
+
+// @returns false when the active window does not give way; one that goes away itself has no say.
+bool Deactivate(HWND active, HWND to, bool forced) {
+    if (active == nullptr || PeekWindow(active) == nullptr) {
+        return true;
+    }
+    const LRESULT agrees = SendMessageA(active, WM_NCACTIVATE, FALSE, reinterpret_cast<LPARAM>(to));
+    if (agrees == 0 && !forced) {
+        return false;
+    }
+    if (PeekWindow(active) != nullptr) {
+        SendMessageA(active, WM_ACTIVATE, ActivationState(WA_INACTIVE, active), reinterpret_cast<LPARAM>(to));
+    }
+    return true;
+}
+
+void RunActivation(const SentMessage& sent) {
+    ThreadState* self = CurrentThread();
+    ActivateOwn(self, sent.window, sent.wParam != 0, true);
+}
+
+// Lets another thread activate one of its windows; it does so when it next looks at its queue.
+bool ActivateElsewhere(ThreadState* self, ThreadState* other, HWND window, bool byMouse) {
+    UserHold hold(UserLock());
+    InputState& input = Input();
+    ThreadState* loser = input.foreground;
+    input.foreground = other;
+    TakeOverKeys(other);
+    auto* errand = new (std::nothrow) SentMessage;
+    if (errand == nullptr) {
+        return false;
+    }
+    errand->errand = RunActivation;
+    errand->window = window;
+    errand->wParam = byMouse ? 1 : 0;
+    other->lastActive = window;
+    other->comingForward = true;
+    if (!Enqueue(other, errand)) {
+        delete errand;
+        return false;
+    }
+    hold.unlock();
+    if (loser == self) {
+        DeactivateOwn(self);
+    } else if (loser != nullptr && loser != other) {
+        LeaveForeground(loser, other, window);
+    }
+    return true;
+}
+
+bool CanActivate(const Window* window) {
+    return (window->style & (WS_VISIBLE | WS_DISABLED | WS_CHILD)) == WS_VISIBLE && !window->destroying;
+}
+
+HWND Successor(const ThreadState* self, const Window* leaving) {
+    UserGuard guard(UserLock());
+    if (leaving->owner != nullptr && CanActivate(leaving->owner)) {
+        return leaving->owner->handle;
+    }
+    for (const bool anyThread : {false, true}) {
+        for (const Window* each = Desktop()->firstChild; each != nullptr; each = each->next) {
+            if (each != leaving && CanActivate(each) && (each->style & WS_MINIMIZE) == 0 &&
+                (each->exStyle & WS_EX_NOACTIVATE) == 0 && (anyThread || each->thread == self)) {
+                return each->handle;
+            }
+        }
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+bool ActivateOwn(ThreadState* self, HWND window, bool byMouse, bool foreground) {
+    UserHold hold(UserLock());
+    InputState& input = Input();
+    const bool takes = self->comingForward || ((foreground || input.foreground == nullptr) && input.foreground != self);
+    const HWND previous = self->active;
+    if (previous == window && !takes) {
+        return true;
+    }
+    hold.unlock();
+    if (previous != window) {
+        const Window* leaving = PeekWindow(previous);
+        const bool forced = leaving == nullptr || leaving->destroying || (leaving->style & WS_VISIBLE) == 0;
+        if (!Deactivate(previous, window, forced)) {
+            return false;
+        }
+    }
+    hold.lock();
+    Window* target = PeekWindow(window);
+    if (target == nullptr || self->active != previous) {
+        return self->active == window;
+    }
+    ThreadState* loser = takes && input.foreground != self ? input.foreground : nullptr;
+    self->comingForward = false;
+    self->lastActive = previous;
+    self->active = window;
+    if (takes) {
+        input.foreground = self;
+        TakeOverKeys(self);
+    }
+    hold.unlock();
+    if (loser != nullptr) {
+        LeaveForeground(loser, self, window);
+    }
+    if (takes) {
+        TellApplication(self, true, loser);
+    }
+    SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    if (Shared(self->active) != window) {
+        return false;
+    }
+    SendMessageA(window, WM_NCACTIVATE, TRUE, reinterpret_cast<LPARAM>(previous));
+    SendMessageA(window, WM_ACTIVATE, ActivationState(byMouse ? WA_CLICKACTIVE : WA_ACTIVE, window),
+                 reinterpret_cast<LPARAM>(previous));
+    hold.lock();
+    Window* focus = self->focus != nullptr ? PeekWindow(self->focus) : nullptr;
+    const bool strayFocus = self->active == window && focus != nullptr && TopLevel(focus) != PeekWindow(window);
+    const bool active = self->active == window;
+    hold.unlock();
+    if (strayFocus) {
+        MoveFocus(self, nullptr);
+    }
+    return active;
+}
+
+void DeactivateOwn(ThreadState* self) {
+    const HWND active = Shared(self->active);
+    Deactivate(active, nullptr, true);
+    bool left = false;
+    {
+        UserGuard guard(UserLock());
+        if (self->active != active) {
+            return;  // a window procedure has activated another window
+        }
+        self->lastActive = active;
+        self->active = nullptr;
+        if (Input().foreground == self) {
+            Input().foreground = nullptr;
+            left = true;
+        }
+    }
+    if (left || active != nullptr) {
+        TellApplication(self, false, nullptr);
+    }
+    MoveFocus(self, nullptr);
+}
+
+void ActivateNext(ThreadState* self, Window* leaving) {
+    const HWND window = leaving->handle;
+    const HWND next = Successor(self, leaving);
+    if (next != nullptr) {
+        ActivateWindow(next, false);
+    }
+    // No other window took over, or one of another thread did.
+    if (Shared(self->active) == window) {
+        DeactivateOwn(self);
+    }
+}
+
+bool ActivateWindow(HWND window, bool byMouse) {
+    ThreadState* self = CurrentThread();
+    ThreadState* owner = nullptr;
+    {
+        UserGuard guard(UserLock());
+        const Window* target = FindWindowObject(window);
+        if (self == nullptr || target == nullptr || !CanActivate(target)) {
+            return false;
+        }
+        owner = target->thread;
+    }
+    if (owner == self) {
+        return ActivateOwn(self, window, byMouse, true);
+    }
+    return owner != nullptr && ActivateElsewhere(self, owner, window, byMouse);
+}
+
+}  // namespace platform::user
+
+using namespace platform::user;
+
+HWND WINAPI GetActiveWindow(VOID) {
+    const ThreadState* self = CurrentThread();
+    return self != nullptr ? Shared(self->active) : nullptr;
+}
+
+HWND WINAPI SetActiveWindow(HWND window) {
+    ThreadState* self = CurrentThread();
+    if (self == nullptr) {
+        return nullptr;
+    }
+    const HWND previous = Shared(self->active);
+    if (window == nullptr) {
+        DeactivateOwn(self);
+        return previous;
+    }
+    bool inBackground = false;
+    {
+        UserGuard guard(UserLock());
+        const Window* target = FindWindowObject(window);
+        if (target == nullptr) {
+            return nullptr;
+        }
+        if (target->thread != self) {
+            SetLastError(ERROR_ACCESS_DENIED);
+            return nullptr;
+        }
+        if ((target->style & (WS_CHILD | WS_DISABLED)) != 0) {
+            SetLastError(ERROR_INVALID_PARAMETER);
+            return nullptr;
+        }
+        inBackground = Input().foreground != nullptr && Input().foreground != self;
+    }
+    ActivateOwn(self, window, false, !inBackground);
+    return previous;
+}
+
+HWND WINAPI GetForegroundWindow(VOID) {
+    UserGuard guard(UserLock());
+    const ThreadState* foreground = Input().foreground;
+    if (foreground == nullptr) {
+        return nullptr;
+    }
+    // A thread that was just brought to the front has yet to activate its window.
+    return foreground->active != nullptr ? foreground->active : foreground->lastActive;
+}
+
+BOOL WINAPI SetForegroundWindow(HWND window) {
+    HWND top = nullptr;
+    {
+        UserGuard guard(UserLock());
+        Window* target = FindWindowObject(window);
+        const Window* topLevel = target != nullptr ? TopLevel(target) : nullptr;
+        if (topLevel == nullptr) {
+            return FALSE;
+        }
+        top = topLevel->handle;
+    }
+    return ActivateWindow(top, false);
+}
+
+BOOL WINAPI BringWindowToTop(HWND window) {
+    return SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+}

@@ -1,0 +1,55 @@
+// Mouse capture: one window of a thread may take all mouse messages until it lets go.
+#include "user/input/input.h"
+#include "user/model/thread.h"
+
+namespace platform::user {
+
+void MoveCapture(ThreadState* self, HWND window) {
+    HWND previous = nullptr;
+    {
+        UserGuard guard(UserLock());
+        previous = self->capture;
+        self->capture = window;
+    }
+    if (previous != nullptr && previous != window && PeekWindow(previous) != nullptr) {
+        SendMessageA(previous, WM_CAPTURECHANGED, 0, reinterpret_cast<LPARAM>(window));
+    }
+}
+
+}  // namespace platform::user
+
+using namespace platform::user;
+
+HWND WINAPI GetCapture(VOID) {
+    const ThreadState* self = CurrentThread();
+    return self != nullptr ? self->capture : nullptr;
+}
+
+HWND WINAPI SetCapture(HWND window) {
+    ThreadState* self = CurrentThread();
+    if (self == nullptr) {
+        return nullptr;
+    }
+    {
+        UserGuard guard(UserLock());
+        const Window* target = window != nullptr ? FindWindowObject(window) : nullptr;
+        if (window != nullptr && target == nullptr) {
+            return nullptr;
+        }
+        if (target != nullptr && target->thread != self) {
+            SetLastError(ERROR_ACCESS_DENIED);
+            return nullptr;
+        }
+    }
+    const HWND previous = self->capture;
+    MoveCapture(self, window);
+    return previous;
+}
+
+BOOL WINAPI ReleaseCapture(VOID) {
+    ThreadState* self = CurrentThread();
+    if (self != nullptr) {
+        MoveCapture(self, nullptr);
+    }
+    return TRUE;
+}

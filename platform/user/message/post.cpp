@@ -1,0 +1,125 @@
+// Posting, and the numbers of registered messages.
+#include <algorithm>
+#include <map>
+#include <new>
+#include <string>
+#include <string_view>
+
+#include "base/clock.h"
+#include "user/message/queue.h"
+#include "user/model/input_state.h"
+#include "user/model/thread.h"
+
+namespace platform::user {
+namespace {
+
+constexpr std::size_t kQueueLimit = 10000;
+constexpr UINT kFirstRegistered = 0xC000;
+constexpr UINT kLastRegistered = 0xFFFF;
+
+// Lock held.
+bool Post(ThreadState* thread, HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (thread->posted.size() >= kQueueLimit) {
+        SetLastError(ERROR_NOT_ENOUGH_QUOTA);
+        return false;
+    }
+    try {
+        thread->posted.push_back({window, message, wParam, lParam, base::TickCount(), Input().cursor});
+    } catch (const std::bad_alloc&) {
+        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+        return false;
+    }
+    WakeThread(thread, QS_POSTMESSAGE | QS_ALLPOSTMESSAGE);
+    return true;
+}
+
+bool PostToWindow(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    UserGuard guard(UserLock());
+    const Window* target = FindWindowObject(window);
+    if (target == nullptr) {
+        return false;
+    }
+    // The desktop window has no queue: what is posted to it concerns nobody.
+    return target->thread == nullptr || Post(target->thread, window, message, wParam, lParam);
+}
+
+}  // namespace
+}  // namespace platform::user
+
+using namespace platform::user;
+
+BOOL WINAPI PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (MustBeSynchronous(message)) {
+        return FALSE;
+    }
+    if (window == nullptr) {
+        return PostThreadMessageA(GetCurrentThreadId(), message, wParam, lParam);
+    }
+    if (window != HWND_BROADCAST) {
+        return PostToWindow(window, message, wParam, lParam);
+    }
+    try {
+        for (HWND each : BroadcastTargets()) {
+            PostToWindow(each, message, wParam, lParam);
+        }
+        return TRUE;
+    } catch (const std::bad_alloc&) {
+        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+        return FALSE;
+    }
+}
+
+BOOL WINAPI PostThreadMessageA(DWORD thread, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (MustBeSynchronous(message)) {
+        return FALSE;
+    }
+    if (thread == GetCurrentThreadId()) {
+        CurrentThread();
+    }
+    UserGuard guard(UserLock());
+    ThreadState* target = FindThread(thread);
+    if (target == nullptr) {
+        SetLastError(ERROR_INVALID_THREAD_ID);
+        return FALSE;
+    }
+    return Post(target, nullptr, message, wParam, lParam);
+}
+
+VOID WINAPI PostQuitMessage(int exitCode) {
+    ThreadState* self = CurrentThread();
+    if (self == nullptr) {
+        return;
+    }
+    UserGuard guard(UserLock());
+    self->quitPosted = true;
+    self->quitCode = exitCode;
+    WakeThread(self, QS_POSTMESSAGE | QS_ALLPOSTMESSAGE);
+}
+
+UINT WINAPI RegisterWindowMessageA(LPCSTR name) {
+    if (name == nullptr || *name == '\0') {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return 0;
+    }
+    try {
+        std::string key(name);
+        std::transform(key.begin(), key.end(), key.begin(),
+                       [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+        UserGuard guard(UserLock());
+        static auto* names = new std::map<std::string, UINT>;
+        const auto found = names->find(key);
+        if (found != names->end()) {
+            return found->second;
+        }
+        const UINT number = kFirstRegistered + static_cast<UINT>(names->size());
+        if (number > kLastRegistered) {
+            SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+            return 0;
+        }
+        names->emplace(std::move(key), number);
+        return number;
+    } catch (const std::bad_alloc&) {
+        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+        return 0;
+    }
+}

@@ -1,0 +1,284 @@
+// Sending: directly within a thread, by way of the receiver's queue between threads. A thread that waits for a reply
+// goes on answering what others send to it, so that two threads may send to each other in nested turns.
+#include <new>
+#include <vector>
+
+#include "base/clock.h"
+#include "user/message/queue.h"
+#include "user/model/above.h"
+#include "user/model/thread.h"
+
+namespace platform::user {
+namespace {
+
+void Release(SentMessage* sent) {
+    if (--sent->holders == 0) {
+        delete sent;
+    }
+}
+
+// Lock held.
+void Reply(SentMessage* sent, LRESULT result, bool answered) {
+    if (sent->replied) {
+        return;
+    }
+    sent->replied = true;
+    sent->answered = answered;
+    sent->result = result;
+    if (sent->sender != nullptr) {
+        WakeThread(sent->sender, 0);
+    }
+}
+
+enum class Sending { Done, TimedOut, NoWindow };
+
+// Lock held once; the target belongs to another thread.
+Sending SendAcross(ThreadState* self, UserHold& hold, Window* target, UINT message, WPARAM wParam, LPARAM lParam,
+                   UINT flags, std::uint64_t deadline, LRESULT* result) {
+    auto* sent = new (std::nothrow) SentMessage;
+    if (sent == nullptr) {
+        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+        return Sending::NoWindow;
+    }
+    sent->window = target->handle;
+    sent->message = message;
+    sent->wParam = wParam;
+    sent->lParam = lParam;
+    sent->sender = self;
+    sent->holders = 2;
+    if (!Enqueue(target->thread, sent)) {
+        delete sent;
+        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+        return Sending::NoWindow;
+    }
+    while (!sent->replied) {
+        if ((flags & SMTO_BLOCK) == 0 && !self->sent.empty()) {
+            ServeSent(self, hold);
+            continue;
+        }
+        if (base::TickCount64() >= deadline) {
+            break;
+        }
+        Sleep(self, hold, deadline);
+    }
+    const Sending outcome = !sent->replied ? Sending::TimedOut : (sent->answered ? Sending::Done : Sending::NoWindow);
+    *result = outcome == Sending::Done ? sent->result : 0;
+    sent->sender = nullptr;
+    Release(sent);
+    return outcome;
+}
+
+// The messages below WM_USER whose parameters point to the sender's data: they cannot be left lying in a queue.
+bool CarriesPointer(UINT message) {
+    switch (message) {
+        case WM_CREATE:
+        case WM_NCCREATE:
+        case WM_SETTEXT:
+        case WM_GETTEXT:
+        case WM_GETMINMAXINFO:
+        case WM_DRAWITEM:
+        case WM_MEASUREITEM:
+        case WM_DELETEITEM:
+        case WM_WINDOWPOSCHANGING:
+        case WM_WINDOWPOSCHANGED:
+        case WM_COPYDATA:
+        case WM_NOTIFY:
+        case WM_HELP:
+        case WM_STYLECHANGING:
+        case WM_STYLECHANGED:
+        case WM_NCCALCSIZE:
+        case WM_SIZING:
+        case WM_MOVING:
+            return true;
+        default:
+            return false;
+    }
+}
+
+}  // namespace
+
+bool MustBeSynchronous(UINT message) {
+    if (CarriesPointer(message)) {
+        SetLastError(ERROR_MESSAGE_SYNC_ONLY);
+        return true;
+    }
+    return false;
+}
+
+std::vector<HWND> BroadcastTargets() {
+    std::vector<HWND> targets;
+    UserGuard guard(UserLock());
+    for (const Window* window = Desktop()->firstChild; window != nullptr; window = window->next) {
+        targets.push_back(window->handle);
+    }
+    return targets;
+}
+
+bool Enqueue(ThreadState* receiver, SentMessage* sent) {
+    try {
+        receiver->sent.push_back(sent);
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+    WakeThread(receiver, QS_SENDMESSAGE);
+    return true;
+}
+
+void ServeSent(ThreadState* self, UserHold& hold) {
+    while (!self->sent.empty()) {
+        SentMessage* sent = self->sent.front();
+        self->sent.pop_front();
+        if (sent->errand != nullptr) {
+            hold.unlock();
+            sent->errand(*sent);
+            hold.lock();
+            Release(sent);
+            continue;
+        }
+        Window* target = PeekWindow(sent->window);
+        if (target == nullptr || target->thread != self) {
+            Reply(sent, 0, false);
+            Release(sent);
+            continue;
+        }
+        const WNDPROC procedure = target->procedure;
+        hold.unlock();
+        const LRESULT result = CallProcedure(procedure, sent->window, sent->message, sent->wParam, sent->lParam);
+        hold.lock();
+        Reply(sent, result, true);
+        Release(sent);
+    }
+    self->wakeBits &= ~static_cast<DWORD>(QS_SENDMESSAGE);
+}
+
+void AbandonSent(ThreadState* thread) {
+    while (!thread->sent.empty()) {
+        SentMessage* sent = thread->sent.front();
+        thread->sent.pop_front();
+        Reply(sent, 0, false);
+        Release(sent);
+    }
+}
+
+LRESULT CallProcedure(WNDPROC procedure, HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    return procedure != nullptr ? procedure(window, message, wParam, lParam) : 0;
+}
+
+void BroadcastSetting(UINT message, WPARAM wParam, LPARAM lParam) {
+    constexpr UINT kPatience = 1000;
+    try {
+        for (HWND window : BroadcastTargets()) {
+            SendMessageTimeoutA(window, message, wParam, lParam, SMTO_ABORTIFHUNG, kPatience, nullptr);
+        }
+    } catch (const std::bad_alloc&) {
+        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+    }
+}
+
+// Within a thread the procedure is called at once.
+void Tell(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    ThreadState* self = CurrentThread();
+    UserHold hold(UserLock());
+    Window* target = self != nullptr ? FindWindowObject(window) : nullptr;
+    if (target == nullptr) {
+        return;
+    }
+    if (target->thread == self || target->thread == nullptr) {
+        const WNDPROC procedure = target->procedure;
+        hold.unlock();
+        CallProcedure(procedure, window, message, wParam, lParam);
+        return;
+    }
+    auto* sent = new (std::nothrow) SentMessage;
+    if (sent == nullptr) {
+        return;
+    }
+    sent->window = window;
+    sent->message = message;
+    sent->wParam = wParam;
+    sent->lParam = lParam;
+    if (!Enqueue(target->thread, sent)) {
+        delete sent;
+    }
+}
+
+}  // namespace platform::user
+
+using namespace platform::user;
+namespace base = platform::base;
+
+namespace {
+
+LRESULT SendToAll(UINT message, WPARAM wParam, LPARAM lParam) {
+    try {
+        for (HWND window : BroadcastTargets()) {
+            SendMessageA(window, message, wParam, lParam);
+        }
+    } catch (const std::bad_alloc&) {
+        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+        return 0;
+    }
+    return 1;
+}
+
+}  // namespace
+
+LRESULT WINAPI SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (window == HWND_BROADCAST) {
+        return SendToAll(message, wParam, lParam);
+    }
+    ThreadState* self = CurrentThread();
+    UserHold hold(UserLock());
+    Window* target = FindWindowObject(window);
+    if (target == nullptr || self == nullptr) {
+        return 0;
+    }
+    if (target->thread == self || target->thread == nullptr) {
+        const WNDPROC procedure = target->procedure.load(std::memory_order_relaxed);
+        hold.unlock();
+        return CallProcedure(procedure, window, message, wParam, lParam);
+    }
+    LRESULT result = 0;
+    SendAcross(self, hold, target, message, wParam, lParam, SMTO_NORMAL, UINT64_MAX, &result);
+    return result;
+}
+
+LRESULT WINAPI SendMessageTimeoutA(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT flags, UINT timeout,
+                                   DWORD_PTR* result) {
+    if (window == HWND_BROADCAST) {
+        try {
+            for (HWND each : BroadcastTargets()) {
+                SendMessageTimeoutA(each, message, wParam, lParam, flags, timeout, result);
+            }
+            return 1;
+        } catch (const std::bad_alloc&) {
+            SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+            return 0;
+        }
+    }
+    ThreadState* self = CurrentThread();
+    UserHold hold(UserLock());
+    Window* target = FindWindowObject(window);
+    if (target == nullptr || self == nullptr) {
+        return 0;
+    }
+    LRESULT answer = 0;
+    if (target->thread == self || target->thread == nullptr) {
+        const WNDPROC procedure = target->procedure;
+        hold.unlock();
+        answer = CallProcedure(procedure, window, message, wParam, lParam);
+    } else {
+        const std::uint64_t deadline = base::TickCount64() + timeout;
+        const Sending sending = SendAcross(self, hold, target, message, wParam, lParam, flags, deadline, &answer);
+        if (sending == Sending::TimedOut) {
+            SetLastError(ERROR_TIMEOUT);
+        }
+        if (sending != Sending::Done) {
+            return 0;
+        }
+    }
+    if (result != nullptr) {
+        *result = static_cast<DWORD_PTR>(answer);
+    }
+    return 1;
+}

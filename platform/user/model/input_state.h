@@ -1,0 +1,24 @@
+/// @file input_state.h
+/// What input changes for the whole system.
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+
+#include "user/model/thread.h"
+
+namespace platform::user {
+
+/// Guarded by UserLock.
+struct InputState {
+    POINT cursor{};
+    BYTE keys[256] = {};          ///< 0x80 down, 0x01 toggled
+    bool pressedSince[256] = {};  ///< went down since GetAsyncKeyState last asked
+    ThreadState* foreground = nullptr;
+    ThreadState* buttonThread = nullptr;  ///< took the first button that is down
+    std::uint64_t lastNumber = 0;
+};
+InputState& Input();
+
+}  // namespace platform::user

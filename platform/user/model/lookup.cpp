@@ -1,0 +1,109 @@
+// Finding windows, and walking the tree that they make.
+#include "user/model/window.h"
+
+#include "gdi/surface/screen.h"
+#include "user/model/above.h"
+
+namespace platform::user {
+
+std::recursive_mutex& UserLock() {
+    // Never destroyed: threads may outlive the statics of this library.
+    static auto& lock = *new std::recursive_mutex;
+    return lock;
+}
+
+Window* FindWindowObject(HWND handle) {
+    Window* window = base::Find<Window>(handle, base::HandleKind::Window);
+    if (!window) [[unlikely]] {
+        SetLastError(ERROR_INVALID_WINDOW_HANDLE);
+    }
+    return window;
+}
+
+namespace {
+
+Window* MakeRoot(const char* className, const RECT& area) {
+    auto* windowClass = new WindowClass;
+    windowClass->atom = static_cast<ATOM>(32769);
+    windowClass->name = className;
+    windowClass->system = true;
+    windowClass->procedure = DefWindowProcA;
+    auto* root = new Window;
+    root->windowClass = windowClass;
+    root->procedure = DefWindowProcA;
+    root->style = WS_VISIBLE | WS_CLIPCHILDREN | WS_CLIPSIBLINGS | WS_POPUP;
+    root->windowRect = root->clientRect = area;
+    root->created = true;
+    root->handle = base::ToHandle<HWND>(base::InsertHandle(base::HandleKind::Window, root));
+    return root;
+}
+
+RECT ScreenArea() {
+    const gdi::ScreenView screen = gdi::Screen();
+    return {0, 0, screen.width, screen.height};
+}
+
+}  // namespace
+
+Window* Desktop() {
+    static Window* const desktop = [] {
+        Window* root = MakeRoot("#32769", ScreenArea());
+        PaintDesktop(gdi::Region(root->windowRect));
+        return root;
+    }();
+    return desktop;
+}
+
+Window* Orphanage() {
+    static Window* const root = MakeRoot("Orphanage", RECT{0, 0, 100, 100});
+    return root;
+}
+
+bool IsShown(const Window* window) {
+    for (; window; window = window->parent) {
+        if (!(window->style & WS_VISIBLE)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool IsAncestor(const Window* ancestor, const Window* window) {
+    while (window && IsChildStyle(window->style)) {
+        window = window->parent;
+        if (window == ancestor) {
+            return true;
+        }
+    }
+    return false;
+}
+
+Window* TopLevel(Window* window) {
+    if (!window || window == Desktop() || window == Orphanage()) {
+        return nullptr;
+    }
+    while (IsChildStyle(window->style) && window->parent && window->parent != Desktop() &&
+           window->parent != Orphanage()) {
+        window = window->parent;
+    }
+    return window;
+}
+
+HWND HandleOf(const Window* window) {
+    return window && window != Orphanage() ? window->handle : nullptr;
+}
+
+POINT ParentOrigin(const Window* window) {
+    const Window* parent = window->parent;
+    return parent == nullptr ? POINT{0, 0} : POINT{parent->clientRect.left, parent->clientRect.top};
+}
+
+void ShiftTree(Window* window, int dx, int dy) {
+    OffsetRect(&window->windowRect, dx, dy);
+    OffsetRect(&window->clientRect, dx, dy);
+    for (Window* child = window->firstChild; child != nullptr; child = child->next) {
+        ShiftTree(child, dx, dy);
+    }
+}
+
+}  // namespace platform::user

@@ -1,0 +1,146 @@
+/// @file window.h
+/// What a window and a window class are inside the user module, and the rules by which threads share them.
+///
+/// One lock guards the window tree, the classes, the update regions and what threads see of each other's queues. A thread
+/// may read its own windows without it: only the owner changes or destroys a window. The lock is never held while a window
+/// procedure, a hook or the display is called. After any such call a Window pointer may be dead: look its handle up again.
+#pragma once
+
+#include <windows.h>
+
+#include <atomic>
+#include <cstddef>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <vector>
+
+#include "base/handle.h"
+#include "gdi/surface/region.h"
+
+namespace platform::user {
+
+struct ThreadState;
+struct DialogState;
+struct ControlData;
+
+struct WindowClass {
+    ATOM atom = 0;
+    std::string name;
+    bool system = false;           ///< defined by the layer itself (button, static, #32770 ...), seen by every module
+    HINSTANCE instance = nullptr;  ///< the module that registered it
+    UINT style = 0;
+    WNDPROC procedure = nullptr;
+    int windowExtra = 0;
+    HICON icon = nullptr;
+    HCURSOR cursor = nullptr;
+    HBRUSH background = nullptr;
+    std::string menuName;
+    LPCSTR menuId = nullptr;  ///< when the menu was given by number
+    int classExtra = 0;       ///< as GetClassInfoA tells; nobody can reach the bytes
+    int windows = 0;          ///< windows of the class that are alive
+};
+
+struct WindowProperty {
+    std::string name;  ///< as it was first given, or "#number"; compared without regard to case
+    HANDLE data = nullptr;
+};
+
+struct Window {
+    HWND handle = nullptr;
+    WindowClass* windowClass = nullptr;
+    std::atomic<WNDPROC> procedure{nullptr};
+    ThreadState* thread = nullptr;
+    DWORD style = 0;
+    DWORD exStyle = 0;
+    LONG_PTR id = 0;  ///< child identifier (GWLP_ID)
+    HINSTANCE instance = nullptr;
+    LONG_PTR userData = 0;
+    std::vector<std::byte> extra;
+    std::string text;
+    std::vector<WindowProperty> properties;
+
+    RECT windowRect{};  ///< screen coordinates
+    RECT clientRect{};  ///< screen coordinates
+
+    Window* parent = nullptr;      ///< WS_CHILD: the parent; else the desktop window (null for the desktop itself)
+    Window* owner = nullptr;       ///< top-level windows only
+    Window* firstChild = nullptr;  ///< top of the z-order
+    Window* next = nullptr;        ///< the one below in z-order
+    Window* previous = nullptr;    ///< the one above in z-order
+
+    // Painting (painting module). Regions are relative to the window rectangle's top left corner, so they move with it.
+    gdi::Region update;
+    bool eraseNeeded = false;                 ///< WM_ERASEBKGND is due with the next BeginPaint
+    bool frameNeeded = false;                 ///< WM_NCPAINT is due
+    bool internalPaint = false;               ///< RDW_INTERNALPAINT
+    bool paintRuns = false;                   ///< its WM_PAINT is being handled and has not come to BeginPaint
+    struct PaintState* paintState = nullptr;  ///< the painting module's own: cached visible regions
+    bool sizeSent = false;                    ///< WM_SIZE and WM_MOVE were sent; else the first ShowWindow sends them
+    bool hiddenByOwner = false;               ///< hidden because its owner was minimised
+
+    RECT restoredRect{};  ///< normal position while minimised or maximised
+    bool destroying = false;
+    bool ending = false;            ///< its children are gone, or going: no new ones are made
+    bool created = false;           ///< WM_CREATE has returned
+    bool captionActive = false;     ///< how the caption was drawn last (WM_NCACTIVATE)
+    bool restoreMaximised = false;  ///< minimised while it was maximised
+    HICON bigIcon = nullptr;        ///< WM_SETICON
+    HICON smallIcon = nullptr;
+
+    // Dialogs and controls: shared, so that a handler that is running outlives its window.
+    std::shared_ptr<DialogState> dialog;      ///< made when the dialog procedure first sees the window
+    std::shared_ptr<ControlData> control;     ///< what a predefined control keeps (controls/controls.h)
+    std::shared_ptr<struct WindowBars> bars;  ///< scroll bars, made when they are first asked about (scrollbar/bar.h)
+};
+
+using UserGuard = std::lock_guard<std::recursive_mutex>;
+using UserHold = std::unique_lock<std::recursive_mutex>;
+std::recursive_mutex& UserLock();
+
+/// Reads a field that other threads may write, without holding the lock longer.
+template <class Value>
+Value Shared(const Value& field) {
+    UserGuard guard(UserLock());
+    return field;
+}
+
+/// @returns the live window of a handle, else null with ERROR_INVALID_WINDOW_HANDLE set. HWND_DESKTOP (null) is not one.
+Window* FindWindowObject(HWND handle);
+
+/// The live window of a handle or null; leaves the last error alone.
+inline Window* PeekWindow(HWND handle) {
+    return base::Find<Window>(handle, base::HandleKind::Window);
+}
+
+/// @returns the desktop window, which is made on first use and covers the screen; it belongs to no thread.
+Window* Desktop();
+/// The parent of windows whose parent ended and whose thread has yet to end them: never shown, never enumerated.
+Window* Orphanage();
+
+/// @returns the handle by which applications may know a window; null for none and for the parent of message-only windows.
+HWND HandleOf(const Window* window);
+
+/// @returns whether the style is that of a child window: WS_CHILD without WS_POPUP.
+inline bool IsChildStyle(DWORD style) {
+    return (style & (WS_CHILD | WS_POPUP)) == WS_CHILD;
+}
+
+/// @returns whether the window and all its ancestors have WS_VISIBLE.
+bool IsShown(const Window* window);
+bool IsAncestor(const Window* ancestor, const Window* window);
+/// @returns the first window at or above one that is no child by its style: what is activated for it, and what can own others.
+/// Null for the desktop.
+Window* TopLevel(Window* window);
+
+/// Where the parent counts a window's place from: its client area for children, the screen for top-level windows.
+POINT ParentOrigin(const Window* window);
+/// Moves a window's rectangles and those of its descendants, without a word to them. Lock held.
+void ShiftTree(Window* window, int dx, int dy);
+
+/// @returns the point that a mouse message carries.
+inline POINT MousePoint(LPARAM lParam) {
+    return {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+}
+
+}  // namespace platform::user

@@ -1,0 +1,193 @@
+// Invalidating, validating and updating windows on an application's behalf.
+#include <algorithm>
+#include <new>
+#include <vector>
+
+#include "user/model/thread.h"
+#include "user/painting/painting.h"
+
+namespace platform::user {
+namespace {
+
+bool AffectsChildren(const Window* window, UINT flags) {
+    return (flags & RDW_ALLCHILDREN) != 0 || ((flags & RDW_NOCHILDREN) == 0 && (window->style & WS_CLIPCHILDREN) == 0);
+}
+
+void InvalidateWalk(Window* window, const gdi::Region& area, UINT flags) {
+    if ((window->style & WS_VISIBLE) == 0) {
+        return;
+    }
+    const bool frame = (flags & RDW_FRAME) != 0;
+    gdi::Region own = area;
+    own.Intersect(Visible(window, StyleFlags(window) | (frame ? kVisibleWhole : 0U)));
+    MarkInvalid(window, std::move(own), (flags & RDW_ERASE) != 0, frame);
+    if (window->firstChild == nullptr || !AffectsChildren(window, flags)) {
+        return;
+    }
+    gdi::Region inside = area;
+    inside.Intersect(window->clientRect);
+    // A parent that paints over its children paints over their frames too.
+    const UINT childFlags = (window->style & WS_CLIPCHILDREN) == 0 ? flags | RDW_FRAME : flags;
+    for (Window* child = window->firstChild; child != nullptr; child = child->next) {
+        if (inside.Touches(child->windowRect)) {
+            InvalidateWalk(child, inside, childFlags);
+        }
+    }
+}
+
+void ValidateWalk(Window* window, const gdi::Region& area, UINT flags) {
+    if ((flags & RDW_NOFRAME) != 0) {
+        window->frameNeeded = false;
+    }
+    if (!window->update.Empty()) {
+        gdi::Region valid = area;
+        if (window->frameNeeded) {
+            valid.Intersect(window->clientRect);
+        }
+        valid.Offset(-window->windowRect.left, -window->windowRect.top);
+        window->update.Subtract(valid);
+    }
+    if ((flags & RDW_NOERASE) != 0 || window->update.Empty()) {
+        window->eraseNeeded = false;
+    }
+    if (window->update.Empty()) {
+        window->paintRuns = false;
+    }
+    if (!AffectsChildren(window, flags)) {
+        return;
+    }
+    gdi::Region inside = area;
+    inside.Intersect(window->clientRect);
+    for (Window* child = window->firstChild; child != nullptr; child = child->next) {
+        if (inside.Touches(child->windowRect)) {
+            ValidateWalk(child, inside, flags);
+        }
+    }
+}
+
+/// The area that a caller means, in screen coordinates.
+gdi::Region AreaOf(const Window* window, const RECT* rect, bool whole) {
+    if (rect == nullptr) {
+        return gdi::Region(whole ? window->windowRect : window->clientRect);
+    }
+    // An inverted rectangle means the same area, and far coordinates must not overflow.
+    const auto limit = [](LONG value) { return std::min<LONG>(std::max<LONG>(value, -0x100000), 0x100000); };
+    const RECT& client = window->clientRect;
+    return gdi::Region(RECT{
+        limit(std::min(rect->left, rect->right)) + client.left, limit(std::min(rect->top, rect->bottom)) + client.top,
+        limit(std::max(rect->left, rect->right)) + client.left, limit(std::max(rect->top, rect->bottom)) + client.top});
+}
+
+/// Everything on the screen is to be drawn anew.
+void RedrawScreen(const RECT* rect) {
+    std::vector<HWND> windows;
+    {
+        UserGuard guard(UserLock());
+        ExposeScreen(AreaOf(Desktop(), rect, true));
+        try {
+            for (Window* window = Desktop()->firstChild; window != nullptr; window = window->next) {
+                if (window->thread == CurrentThread()) {
+                    windows.push_back(window->handle);
+                }
+            }
+        } catch (const std::bad_alloc&) {
+        }
+    }
+    for (HWND window : windows) {
+        UpdateTree(window, RDW_ALLCHILDREN, true);
+    }
+}
+
+/// A procedure that answers WM_PAINT by validating alone still owes its frame; it gets WM_NCPAINT here, or WM_PAINT
+/// would come for ever.
+void FinishFrame(HWND handle) {
+    {
+        UserGuard guard(UserLock());
+        const Window* window = FindWindowObject(handle);
+        if (window == nullptr || !window->frameNeeded || window->thread != CurrentThread()) {
+            return;
+        }
+        gdi::Region client = window->update;
+        RECT rect = window->clientRect;
+        OffsetRect(&rect, -window->windowRect.left, -window->windowRect.top);
+        if (client.Touches(rect)) {
+            return;
+        }
+    }
+    SendFramePaint(handle);
+}
+
+}  // namespace
+
+}  // namespace platform::user
+
+using namespace platform::user;
+namespace gdi = platform::gdi;
+
+BOOL WINAPI RedrawWindow(HWND handle, const RECT* rect, HRGN region, UINT flags) {
+    if (region != nullptr) {
+        SetLastError(ERROR_INVALID_HANDLE);
+        return FALSE;
+    }
+    if (handle == nullptr || handle == GetDesktopWindow()) {
+        if ((flags & RDW_INVALIDATE) != 0) {
+            RedrawScreen(rect);
+        }
+        return TRUE;
+    }
+    {
+        UserGuard guard(UserLock());
+        Window* window = FindWindowObject(handle);
+        if (window == nullptr) {
+            return FALSE;
+        }
+        const gdi::Region area = AreaOf(window, rect, (flags & (RDW_FRAME | RDW_VALIDATE)) != 0);
+        if ((flags & RDW_INVALIDATE) != 0) {
+            if (IsShown(window)) {
+                InvalidateWalk(window, area, flags);
+            }
+        } else if ((flags & RDW_VALIDATE) != 0) {
+            ValidateWalk(window, area, flags);
+        }
+        if ((flags & RDW_INTERNALPAINT) != 0) {
+            window->internalPaint = true;
+            if (window->thread != nullptr) {
+                window->thread->paintWindows = 1;
+                WakeThread(window->thread, QS_PAINT);
+            }
+        } else if ((flags & RDW_NOINTERNALPAINT) != 0) {
+            window->internalPaint = false;
+        }
+    }
+    if ((flags & (RDW_UPDATENOW | RDW_ERASENOW)) != 0) {
+        UpdateTree(handle, flags & (RDW_ALLCHILDREN | RDW_NOCHILDREN), (flags & RDW_UPDATENOW) == 0);
+    }
+    return TRUE;
+}
+
+BOOL WINAPI InvalidateRect(HWND handle, const RECT* rect, BOOL erase) {
+    return RedrawWindow(handle, rect, nullptr, RDW_INVALIDATE | (erase ? RDW_ERASE : 0U));
+}
+
+BOOL WINAPI ValidateRect(HWND handle, const RECT* rect) {
+    if (handle == nullptr) {
+        // Documented so: without a window everything is invalidated.
+        return RedrawWindow(nullptr, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
+    }
+    if (!RedrawWindow(handle, rect, nullptr, RDW_VALIDATE)) {
+        return FALSE;
+    }
+    FinishFrame(handle);
+    return TRUE;
+}
+
+BOOL WINAPI UpdateWindow(HWND handle) {
+    {
+        UserGuard guard(UserLock());
+        if (FindWindowObject(handle) == nullptr) {
+            return FALSE;
+        }
+    }
+    UpdateTree(handle, RDW_ALLCHILDREN, false);
+    return TRUE;
+}

@@ -1,0 +1,243 @@
+// Window classes: registration, look-up in the documented order, and what can be asked about them.
+#include "user/window/class.h"
+
+#include <algorithm>
+#include <cstring>
+#include <memory>
+#include <mutex>
+#include <new>
+
+#include "kernel/modules/module.h"
+#include "user/model/atoms.h"
+#include "user/model/window.h"
+#include "user/window/above.h"
+
+namespace platform::user {
+
+namespace {
+
+constexpr int kMostExtra = 0x10000;
+constexpr UINT kKnownStyles = CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS | CS_NOCLOSE | CS_SAVEBITS | CS_GLOBALCLASS;
+
+std::vector<std::unique_ptr<WindowClass>>& Classes() {
+    static std::vector<std::unique_ptr<WindowClass>> classes;
+    return classes;
+}
+
+HINSTANCE OrProgram(HINSTANCE instance) {
+    return instance ? instance : GetModuleHandleA(nullptr);
+}
+
+bool IsGlobal(const WindowClass& windowClass) {
+    return !windowClass.system && (windowClass.style & CS_GLOBALCLASS);
+}
+
+bool IsRealBrush(HBRUSH brush) {
+    return reinterpret_cast<std::uintptr_t>(brush) >= 0x10000;
+}
+
+ATOM Register(const WNDCLASSA& given) {
+    if (!given.lpszClassName || !given.lpfnWndProc || given.cbClsExtra < 0 || given.cbWndExtra < 0 ||
+        given.cbClsExtra > kMostExtra || given.cbWndExtra > kMostExtra || (given.style & ~kKnownStyles)) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return 0;
+    }
+    InitialiseClasses();
+    const ATOM atom = ClassAtoms().Add(given.lpszClassName);
+    if (!atom) {
+        return 0;
+    }
+    const HINSTANCE instance = OrProgram(given.hInstance);
+    const UserGuard guard(UserLock());
+    for (const auto& other : Classes()) {
+        if (other->atom == atom && !other->system &&
+            (given.style & CS_GLOBALCLASS ? IsGlobal(*other) : !IsGlobal(*other) && other->instance == instance)) {
+            ClassAtoms().Delete(atom);
+            SetLastError(ERROR_CLASS_ALREADY_EXISTS);
+            return 0;
+        }
+    }
+    auto made = std::make_unique<WindowClass>();
+    made->atom = atom;
+    made->name = ClassAtoms().Name(atom);
+    made->instance = instance;
+    made->style = given.style;
+    made->procedure = given.lpfnWndProc;
+    made->windowExtra = given.cbWndExtra;
+    made->icon = given.hIcon;
+    made->cursor = given.hCursor;
+    made->background = given.hbrBackground;
+    if (IS_INTRESOURCE(given.lpszMenuName)) {
+        made->menuId = given.lpszMenuName;
+    } else {
+        made->menuName = given.lpszMenuName;
+    }
+    made->classExtra = given.cbClsExtra;
+    Classes().push_back(std::move(made));
+    return atom;
+}
+
+/// Takes one class out. @return false if there is none, and else a brush that is nobody's any more.
+bool ForgetOne(HINSTANCE module, HBRUSH& background) {
+    const UserGuard guard(UserLock());
+    auto& classes = Classes();
+    const auto found = std::find_if(classes.begin(), classes.end(),
+                                    [=](const auto& one) { return !one->system && one->instance == module; });
+    if (found == classes.end()) {
+        return false;
+    }
+    if ((*found)->windows > 0) {
+        // Kept for them, but found by nobody any more.
+        (*found)->instance = nullptr;
+        (*found)->style &= ~UINT{CS_GLOBALCLASS};
+        background = nullptr;
+    } else {
+        background = (*found)->background;
+        ClassAtoms().Delete((*found)->atom);
+        classes.erase(found);
+    }
+    return true;
+}
+
+// A module's classes go with it, since its procedures do.
+void ForgetClasses(HINSTANCE module) {
+    for (HBRUSH background = nullptr; ForgetOne(module, background);) {
+        if (IsRealBrush(background)) {
+            DeleteObject(background);
+        }
+    }
+}
+
+}  // namespace
+
+WindowClass* FindClass(HINSTANCE instance, LPCSTR name) {
+    const ATOM atom = name ? ClassAtoms().FindQuietly(name) : ATOM{0};
+    if (!atom) {
+        return nullptr;
+    }
+    const HINSTANCE module = OrProgram(instance);
+    WindowClass* global = nullptr;
+    WindowClass* system = nullptr;
+    for (const auto& one : Classes()) {
+        if (one->atom != atom) {
+            continue;
+        }
+        if (one->system) {
+            system = one.get();
+        } else if (IsGlobal(*one)) {
+            global = one.get();
+        } else if (one->instance == module) {
+            return one.get();
+        }
+    }
+    return global ? global : system;
+}
+
+void RegisterSystemClass(const char* name, WNDPROC procedure, UINT style, int windowExtra, LPCSTR cursor,
+                         HBRUSH background) {
+    auto made = std::make_unique<WindowClass>();
+    made->atom = ClassAtoms().Add(name);
+    made->name = ClassAtoms().Name(made->atom);
+    made->system = true;
+    made->style = style;
+    made->procedure = procedure;
+    made->windowExtra = windowExtra;
+    made->cursor = cursor ? LoadCursorA(nullptr, cursor) : nullptr;
+    made->background = background;
+    const UserGuard guard(UserLock());
+    Classes().push_back(std::move(made));
+}
+
+void InitialiseClasses() {
+    static std::once_flag once;
+    std::call_once(once, [] {
+        RegisterDialogClasses();
+        kernel::WhenModulesGo(ForgetClasses);
+    });
+}
+
+}  // namespace platform::user
+
+using namespace platform::user;
+
+ATOM WINAPI RegisterClassA(const WNDCLASSA* windowClass) try {
+    if (!windowClass) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return 0;
+    }
+    return Register(*windowClass);
+} catch (const std::bad_alloc&) {
+    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+    return 0;
+}
+
+BOOL WINAPI UnregisterClassA(LPCSTR name, HINSTANCE instance) {
+    HBRUSH background = nullptr;
+    {
+        const UserGuard guard(UserLock());
+        const ATOM atom = name ? ClassAtoms().FindQuietly(name) : ATOM{0};
+        const HINSTANCE module = OrProgram(instance);
+        auto& classes = Classes();
+        const auto found = std::find_if(classes.begin(), classes.end(), [=](const auto& one) {
+            return one->atom == atom && !one->system && one->instance == module;
+        });
+        if (!atom || found == classes.end()) {
+            SetLastError(ERROR_CLASS_DOES_NOT_EXIST);
+            return FALSE;
+        }
+        if ((*found)->windows > 0) {
+            SetLastError(ERROR_CLASS_HAS_WINDOWS);
+            return FALSE;
+        }
+        background = (*found)->background;
+        classes.erase(found);
+        ClassAtoms().Delete(atom);
+    }
+    // The system owns a class's brush from its registration on.
+    if (IsRealBrush(background)) {
+        DeleteObject(background);
+    }
+    return TRUE;
+}
+
+BOOL WINAPI GetClassInfoA(HINSTANCE instance, LPCSTR name, LPWNDCLASSA windowClass) {
+    if (!name || !windowClass) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return 0;
+    }
+    InitialiseClasses();
+    const UserGuard guard(UserLock());
+    const WindowClass* found = FindClass(instance, name);
+    if (!found) {
+        SetLastError(ERROR_CLASS_DOES_NOT_EXIST);
+        return 0;
+    }
+    *windowClass = {found->style,
+                    found->procedure,
+                    found->classExtra,
+                    found->windowExtra,
+                    found->system ? nullptr : instance,
+                    found->icon,
+                    found->cursor,
+                    found->background,
+                    found->menuId || found->menuName.empty() ? found->menuId : found->menuName.c_str(),
+                    name};
+    return found->atom;
+}
+
+int WINAPI GetClassNameA(HWND window, LPSTR name, int size) {
+    const UserGuard guard(UserLock());
+    const Window* object = FindWindowObject(window);
+    if (!object) {
+        return 0;
+    }
+    if (!name || size <= 0) {
+        SetLastError(ERROR_INSUFFICIENT_BUFFER);
+        return 0;
+    }
+    const std::string& text = object->windowClass->name;
+    const std::size_t length = std::min(text.size(), static_cast<std::size_t>(size - 1));
+    std::memcpy(name, text.data(), length);
+    name[length] = '\0';
+    return static_cast<int>(length);
+}

@@ -1,0 +1,231 @@
+// How windows end: the messages of destruction in the documented order, and what is left to clear away.
+#include <new>
+
+#include "user/input/input.h"
+#include "user/message/queue.h"
+#include "user/model/thread.h"
+#include "user/painting/painting.h"
+#include "user/window/lifetime.h"
+#include "user/window/position.h"
+#include "user/window/tree.h"
+
+namespace platform::user {
+namespace {
+
+Window* spareWindows = nullptr;  // linked by `next`; guarded by UserLock
+
+/// Takes a window out of everything and frees it. No messages are sent. Lock held.
+void Remove(Window* window) {
+    ForgetPainting(window);
+    UnlinkWindow(window);
+    for (Window* root : {Desktop(), Orphanage()}) {
+        for (Window* other = root->firstChild; other; other = other->next) {
+            if (other->owner == window) {
+                other->owner = nullptr;
+            }
+        }
+    }
+    base::RemoveHandle(base::ToNumber(window->handle), base::HandleKind::Window);
+    --window->windowClass->windows;
+    --window->thread->windowCount;
+    GiveBackWindow()(window);
+}
+
+bool IsWithin(const Window* window, const Window* ancestor) {
+    while (window && window != ancestor) {
+        window = window->parent;
+    }
+    return window != nullptr;
+}
+
+/// The windows that a window, or one of its thread within it, owns.
+std::vector<HWND> OwnedWithin(const Window* owner) {
+    std::vector<HWND> list;
+    for (const Window* window = Desktop()->firstChild; window; window = window->next) {
+        if (window->owner && window->owner->thread == owner->thread && IsWithin(window->owner, owner)) {
+            list.push_back(window->handle);
+        }
+    }
+    return list;
+}
+
+/// WM_DESTROY comes to a window before its children, which all still live.
+void SendDestroy(HWND handle) {
+    SendMessageA(handle, WM_DESTROY, 0, 0);
+    std::vector<HWND> children;
+    {
+        const UserGuard guard(UserLock());
+        if (const Window* window = PeekWindow(handle)) {
+            for (const Window* child = window->firstChild; child; child = child->next) {
+                if (child->thread == window->thread) {
+                    children.push_back(child->handle);
+                }
+            }
+        }
+    }
+    for (HWND child : children) {
+        if (PeekWindow(child)) {
+            SendDestroy(child);
+        }
+    }
+}
+
+void RunDestruction(const SentMessage& sent) {
+    DestroyWindow(sent.window);
+}
+
+/// A child of another thread loses its parent, which is all that happens to a window from outside its thread. Only that can destroy
+/// it, and does so when it next looks at its messages, or at its end: nothing waits for a thread that may not take any more. Lock
+/// held.
+void HandOver(Window* window) {
+    UnlinkWindow(window);
+    window->parent = Orphanage();
+    window->style &= ~static_cast<DWORD>(WS_VISIBLE);
+    LinkWindow(window, HWND_TOP);
+    auto* errand = new (std::nothrow) SentMessage;
+    if (!errand) {
+        return;
+    }
+    errand->errand = RunDestruction;
+    errand->window = window->handle;
+    if (!Enqueue(window->thread, errand)) {
+        delete errand;
+    }
+}
+
+}  // namespace
+
+void GiveBackWindow::operator()(Window* window) const noexcept {
+    window->~Window();
+    new (window) Window;
+    window->next = spareWindows;
+    spareWindows = window;
+}
+
+WindowHold NewWindow() noexcept {
+    Window* window = spareWindows;
+    if (window) {
+        spareWindows = window->next;
+        window->next = nullptr;
+    } else {
+        window = new (std::nothrow) Window;
+    }
+    return WindowHold(window);
+}
+
+void NotifyParents(HWND handle, UINT event) {
+    WPARAM what = event;
+    for (HWND child = handle;;) {
+        HWND parent = nullptr;
+        {
+            const UserGuard guard(UserLock());
+            const Window* window = PeekWindow(child);
+            if (!window || !IsChildStyle(window->style) || (window->exStyle & WS_EX_NOPARENTNOTIFY) ||
+                !window->parent || window->parent == Desktop() || window->parent == Orphanage()) {
+                return;
+            }
+            // A thread that ends waits for no other, which may be waiting for its end.
+            if (window->thread && window->thread->ending && window->parent->thread != window->thread) {
+                return;
+            }
+            if (child == handle) {
+                what = MAKEWPARAM(event, window->id);
+            }
+            parent = window->parent->handle;
+        }
+        SendMessageA(parent, WM_PARENTNOTIFY, what, reinterpret_cast<LPARAM>(handle));
+        child = parent;
+    }
+}
+
+void EndWindow(HWND handle) {
+    Window* window = nullptr;
+    for (;;) {
+        HWND child = nullptr;
+        {
+            const UserGuard guard(UserLock());
+            window = PeekWindow(handle);
+            if (!window) {
+                return;
+            }
+            window->ending = true;
+            while (window->firstChild && window->firstChild->thread != window->thread) {
+                HandOver(window->firstChild);
+            }
+            child = window->firstChild ? window->firstChild->handle : nullptr;
+        }
+        if (!child) {
+            break;
+        }
+        EndWindow(child);
+    }
+    ForgetInput(window);
+    SendMessageA(handle, WM_NCDESTROY, 0, 0);
+    const UserGuard guard(UserLock());
+    if ((window = PeekWindow(handle))) {
+        Remove(window);
+    }
+}
+
+bool DestroyTree(HWND handle) {
+    std::vector<HWND> owned;
+    {
+        const UserGuard guard(UserLock());
+        Window* window = PeekWindow(handle);
+        if (!window || window->destroying) {
+            return window != nullptr;
+        }
+        owned = OwnedWithin(window);
+        window->destroying = true;
+    }
+    NotifyParents(handle, WM_DESTROY);
+    for (HWND other : owned) {
+        const UserGuard guard(UserLock());
+        Window* window = PeekWindow(other);
+        if (window && window->thread != CurrentThread()) {
+            window->owner = nullptr;  // only its own thread may destroy it
+        }
+    }
+    for (HWND other : owned) {
+        const Window* window = PeekWindow(other);
+        if (window && window->thread == CurrentThread()) {
+            DestroyTree(other);
+        }
+    }
+    // Activation, focus and capture move on while the window can still be told.
+    if (Window* window = PeekWindow(handle)) {
+        HideForDestruction(window);
+    }
+    if (Window* window = PeekWindow(handle)) {
+        LeaveDisabledOrHidden(window, true);
+    }
+    if (PeekWindow(handle)) {
+        SendDestroy(handle);
+    }
+    if (PeekWindow(handle)) {
+        EndWindow(handle);
+    }
+    return true;
+}
+
+}  // namespace platform::user
+
+using namespace platform::user;
+
+BOOL WINAPI DestroyWindow(HWND handle) try {
+    {
+        const UserGuard guard(UserLock());
+        const Window* window = FindWindowObject(handle);
+        if (!window) {
+            return FALSE;
+        }
+        if (window->thread != CurrentThread()) {
+            SetLastError(ERROR_ACCESS_DENIED);
+            return FALSE;
+        }
+    }
+    return DestroyTree(handle);
+} catch (const std::bad_alloc&) {
+    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+    return FALSE;
+}

@@ -1,0 +1,145 @@
+// Searching the window tree: by class and text, by a point, and by calling back for each window.
+#include <new>
+#include <vector>
+
+#include "user/model/atoms.h"
+#include "user/model/thread.h"
+#include "user/model/window.h"
+
+using namespace platform::user;
+
+namespace {
+
+void CollectDescendants(const Window* parent, std::vector<HWND>& list) {
+    for (const Window* child = parent->firstChild; child; child = child->next) {
+        list.push_back(child->handle);
+        CollectDescendants(child, list);
+    }
+}
+
+/// Calls back for windows that still live when their turn comes.
+BOOL Enumerate(const std::vector<HWND>& list, WNDENUMPROC procedure, LPARAM parameter) {
+    for (HWND window : list) {
+        if (PeekWindow(window) && !procedure(window, parameter)) {
+            return FALSE;
+        }
+    }
+    return TRUE;
+}
+
+template <class Collect>
+BOOL EnumerateCollected(WNDENUMPROC procedure, LPARAM parameter, Collect collect) {
+    if (!procedure) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return FALSE;
+    }
+    std::vector<HWND> list;
+    try {
+        const UserGuard guard(UserLock());
+        if (!collect(list)) {
+            return FALSE;
+        }
+    } catch (const std::bad_alloc&) {
+        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+        return FALSE;
+    }
+    return Enumerate(list, procedure, parameter);
+}
+
+bool Matches(const Window* window, ATOM atom, LPCSTR text) {
+    return (!atom || window->windowClass->atom == atom) && (!text || lstrcmpiA(window->text.c_str(), text) == 0);
+}
+
+}  // namespace
+
+HWND WINAPI FindWindowExA(HWND parentHandle, HWND afterHandle, LPCSTR className, LPCSTR text) {
+    const UserGuard guard(UserLock());
+    const Window* parent = parentHandle ? FindWindowObject(parentHandle) : Desktop();
+    if (!parent) {
+        return nullptr;
+    }
+    const ATOM atom = className ? ClassAtoms().FindQuietly(className) : ATOM{0};
+    if (className && !atom) {
+        SetLastError(ERROR_CANNOT_FIND_WND_CLASS);
+        return nullptr;
+    }
+    const Window* window = parent->firstChild;
+    if (afterHandle) {
+        const Window* after = FindWindowObject(afterHandle);
+        if (!after || after->parent != parent) {
+            SetLastError(ERROR_INVALID_WINDOW_HANDLE);
+            return nullptr;
+        }
+        window = after->next;
+    }
+    while (window && !Matches(window, atom, text)) {
+        window = window->next;
+    }
+    return window ? window->handle : nullptr;
+}
+
+HWND WINAPI FindWindowA(LPCSTR className, LPCSTR text) {
+    return FindWindowExA(nullptr, nullptr, className, text);
+}
+
+namespace {
+
+/// The windows at a point, in the order in which they may claim it: the deepest of the foremost first, then what lies
+/// below it, then its parent. Hidden and disabled windows are left out.
+void CollectAt(const Window* parent, POINT point, std::vector<HWND>& list) {
+    for (const Window* child = parent->firstChild; child; child = child->next) {
+        if ((child->style & WS_VISIBLE) && !(child->style & WS_DISABLED) && PtInRect(&child->windowRect, point)) {
+            if (PtInRect(&child->clientRect, point)) {
+                CollectAt(child, point, list);
+            }
+            list.push_back(child->handle);
+        }
+    }
+}
+
+bool IsOwn(HWND handle) {
+    const UserGuard guard(UserLock());
+    const Window* window = PeekWindow(handle);
+    return window && window->thread == CurrentThread();
+}
+
+}  // namespace
+
+HWND WINAPI WindowFromPoint(POINT point) try {
+    std::vector<HWND> list;
+    {
+        const UserGuard guard(UserLock());
+        CollectAt(Desktop(), point, list);
+    }
+    for (HWND window : list) {
+        // A transparent window leaves the point to the windows of its thread that lie below it.
+        if (!IsOwn(window) || SendMessageA(window, WM_NCHITTEST, 0, MAKELPARAM(point.x, point.y)) != HTTRANSPARENT) {
+            return window;
+        }
+    }
+    return GetDesktopWindow();
+} catch (const std::bad_alloc&) {
+    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+    return nullptr;
+}
+
+BOOL WINAPI EnumChildWindows(HWND parent, WNDENUMPROC procedure, LPARAM parameter) {
+    return EnumerateCollected(procedure, parameter, [=](std::vector<HWND>& list) {
+        const Window* window = parent ? FindWindowObject(parent) : Desktop();
+        if (window) {
+            CollectDescendants(window, list);
+        }
+        return window != nullptr;
+    });
+}
+
+BOOL WINAPI EnumThreadWindows(DWORD thread, WNDENUMPROC procedure, LPARAM parameter) {
+    return EnumerateCollected(procedure, parameter, [=](std::vector<HWND>& list) {
+        for (const Window* window = Desktop()->firstChild; window; window = window->next) {
+            if (window->thread && window->thread->id == thread) {
+                list.push_back(window->handle);
+            }
+        }
+        return !list.empty();
+    });
+}

@@ -1,0 +1,191 @@
+// The longs of windows: styles, procedures, identifiers, extra bytes.
+#include <cstring>
+#include <utility>
+
+#include "user/model/thread.h"
+#include "user/model/window.h"
+#include "user/painting/painting.h"
+
+using namespace platform::user;
+
+namespace {
+
+/// Extra bytes at an offset, or null with ERROR_INVALID_INDEX set.
+std::byte* Extra(std::vector<std::byte>& extra, int index, std::size_t size) {
+    if (index < 0 || static_cast<std::size_t>(index) + size > extra.size()) {
+        SetLastError(ERROR_INVALID_INDEX);
+        return nullptr;
+    }
+    return extra.data() + index;
+}
+
+template <class Number>
+Number ReadExtra(std::vector<std::byte>& extra, int index) {
+    Number value = 0;
+    if (const std::byte* at = Extra(extra, index, sizeof value)) {
+        std::memcpy(&value, at, sizeof value);
+    }
+    return value;
+}
+
+template <class Number>
+Number WriteExtra(std::vector<std::byte>& extra, int index, Number value) {
+    Number old = 0;
+    if (std::byte* at = Extra(extra, index, sizeof value)) {
+        std::memcpy(&old, at, sizeof old);
+        std::memcpy(at, &value, sizeof value);
+    }
+    return old;
+}
+
+/// Styles change between two messages, and the window may change its mind in the first.
+LONG_PTR ChangeStyle(HWND handle, int index, DWORD value) {
+    UserHold hold(UserLock());
+    Window* window = FindWindowObject(handle);
+    if (!window) {
+        return 0;
+    }
+    DWORD Window::*member = index == GWL_STYLE ? &Window::style : &Window::exStyle;
+    STYLESTRUCT change{window->*member, value};
+    hold.unlock();
+    SendMessageA(handle, WM_STYLECHANGING, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&change));
+    hold.lock();
+    window = PeekWindow(handle);
+    if (!window) {
+        return 0;
+    }
+    change.styleOld = window->*member;
+    if (index == GWL_EXSTYLE) {
+        // Only SetWindowPos changes the z-order.
+        change.styleNew = (change.styleNew & ~static_cast<DWORD>(WS_EX_TOPMOST)) | (window->exStyle & WS_EX_TOPMOST);
+    }
+    window->*member = change.styleNew;
+    WindowsChanged();
+    hold.unlock();
+    SendMessageA(handle, WM_STYLECHANGED, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&change));
+    return static_cast<LONG_PTR>(static_cast<LONG>(change.styleOld));
+}
+
+/// A window whose longs may be set: the desktop belongs to nobody.
+Window* FindChangeable(HWND handle) {
+    Window* window = FindWindowObject(handle);
+    if (window && !window->thread) {
+        SetLastError(ERROR_ACCESS_DENIED);
+        return nullptr;
+    }
+    return window;
+}
+
+/// Where pointers are wider than a LONG, those longs that hold one have no narrow form.
+bool TooWide(int index, bool wide) {
+    return !wide && sizeof(LONG_PTR) > sizeof(LONG) &&
+           (index == GWLP_WNDPROC || index == GWLP_HINSTANCE || index == GWLP_HWNDPARENT);
+}
+
+LONG_PTR Get(HWND handle, int index, bool wide) {
+    UserHold hold(UserLock(), std::defer_lock);
+    Window* window = FindWindowObject(handle);
+    if (window && window->thread != CurrentThread()) {
+        hold.lock();
+        window = FindWindowObject(handle);
+    }
+    if (!window) {
+        return 0;
+    }
+    if (TooWide(index, wide)) {
+        SetLastError(ERROR_INVALID_INDEX);
+        return 0;
+    }
+    switch (index) {
+        case GWL_STYLE:
+            return static_cast<LONG>(window->style);
+        case GWL_EXSTYLE:
+            return static_cast<LONG>(window->exStyle);
+        case GWLP_ID:
+            return window->id;
+        case GWLP_USERDATA:
+            return window->userData;
+        case GWLP_WNDPROC:
+            return reinterpret_cast<LONG_PTR>(window->procedure.load());
+        case GWLP_HINSTANCE:
+            return reinterpret_cast<LONG_PTR>(window->instance);
+        case GWLP_HWNDPARENT:
+            return reinterpret_cast<LONG_PTR>(IsChildStyle(window->style) ? GetParent(handle)
+                                                                          : GetWindow(handle, GW_OWNER));
+        default:
+            return wide ? ReadExtra<LONG_PTR>(window->extra, index) : ReadExtra<LONG>(window->extra, index);
+    }
+}
+
+LONG_PTR SetOwner(HWND handle, HWND value) {
+    {
+        const UserGuard guard(UserLock());
+        Window* window = PeekWindow(handle);
+        Window* owner = value ? FindWindowObject(value) : nullptr;
+        if (!window || (value && !owner)) {
+            return 0;
+        }
+        if (!IsChildStyle(window->style)) {
+            if (LeadsTo(owner, window)) {
+                SetLastError(ERROR_INVALID_PARAMETER);
+                return 0;
+            }
+            const HWND old = window->owner ? window->owner->handle : nullptr;
+            window->owner = TopLevel(owner);
+            return reinterpret_cast<LONG_PTR>(old);
+        }
+    }
+    return reinterpret_cast<LONG_PTR>(SetParent(handle, value));
+}
+
+LONG_PTR Set(HWND handle, int index, LONG_PTR value, bool wide) {
+    Window* window = FindChangeable(handle);
+    if (!window) {
+        return 0;
+    }
+    if (TooWide(index, wide)) {
+        SetLastError(ERROR_INVALID_INDEX);
+        return 0;
+    }
+    if (index == GWL_STYLE || index == GWL_EXSTYLE) {
+        return ChangeStyle(handle, index, static_cast<DWORD>(value));
+    }
+    if (index == GWLP_HWNDPARENT) {
+        return SetOwner(handle, reinterpret_cast<HWND>(value));
+    }
+    const UserGuard guard(UserLock());
+    if (!(window = FindChangeable(handle))) {
+        return 0;
+    }
+    switch (index) {
+        case GWLP_ID:
+            return std::exchange(window->id, value);
+        case GWLP_USERDATA:
+            return std::exchange(window->userData, value);
+        case GWLP_WNDPROC:
+            return reinterpret_cast<LONG_PTR>(window->procedure.exchange(reinterpret_cast<WNDPROC>(value)));
+        case GWLP_HINSTANCE:
+            return reinterpret_cast<LONG_PTR>(std::exchange(window->instance, reinterpret_cast<HINSTANCE>(value)));
+        default:
+            return wide ? WriteExtra<LONG_PTR>(window->extra, index, value)
+                        : WriteExtra<LONG>(window->extra, index, static_cast<LONG>(value));
+    }
+}
+
+}  // namespace
+
+LONG WINAPI GetWindowLongA(HWND window, int index) {
+    return static_cast<LONG>(Get(window, index, false));
+}
+
+LONG_PTR WINAPI GetWindowLongPtrA(HWND window, int index) {
+    return Get(window, index, true);
+}
+
+LONG WINAPI SetWindowLongA(HWND window, int index, LONG value) {
+    return static_cast<LONG>(Set(window, index, value, false));
+}
+
+LONG_PTR WINAPI SetWindowLongPtrA(HWND window, int index, LONG_PTR value) {
+    return Set(window, index, value, true);
+}

@@ -1,0 +1,290 @@
+// Showing and hiding, minimising, maximising and restoring.
+#include <algorithm>
+#include <new>
+#include <vector>
+
+#include "gdi/surface/screen.h"
+#include "user/input/input.h"
+#include "user/model/thread.h"
+#include "user/painting/painting.h"
+#include "user/window/above.h"
+#include "user/window/tree.h"
+
+namespace platform::user {
+namespace {
+
+constexpr int kMinimisedWidth = 160;
+constexpr int kMinimisedHeight = 24;
+
+/// What ShowWindow makes of its argument.
+struct Plan {
+    bool show = true;
+    DWORD state = 0;  ///< WS_MINIMIZE, WS_MAXIMIZE or 0
+    bool keepState = false;
+    bool activate = true;
+    bool activateNext = false;  ///< a minimised window hands activation on
+};
+
+Plan PlanOf(int show) {
+    switch (show) {
+        case SW_HIDE:
+            return {.show = false, .keepState = true, .activate = false};
+        case SW_SHOWMINIMIZED:
+            return {.state = WS_MINIMIZE};
+        case SW_MINIMIZE:
+        case SW_FORCEMINIMIZE:
+            return {.state = WS_MINIMIZE, .activate = false, .activateNext = true};
+        case SW_SHOWMINNOACTIVE:
+            return {.state = WS_MINIMIZE, .activate = false};
+        case SW_SHOWMAXIMIZED:
+            return {.state = WS_MAXIMIZE};
+        case SW_SHOWNOACTIVATE:
+            return {.activate = false};
+        case SW_SHOWNA:
+            return {.keepState = true, .activate = false};
+        case SW_SHOW:
+            return {.keepState = true};
+        default:
+            return {};
+    }
+}
+
+/// The area that a maximised window fills and minimised ones line up in: the screen, or the parent's client area.
+RECT Ground(const Window* window) {
+    return window->parent == nullptr || window->parent == Desktop() ? gdi::ScreenRect() : window->parent->clientRect;
+}
+
+/// The first free place of a row along the lower edge.
+RECT MinimisedPlace(const Window* window) {
+    const RECT ground = Ground(window);
+    const int columns = std::max<int>(1, (ground.right - ground.left) / kMinimisedWidth);
+    for (int slot = 0;; ++slot) {
+        const LONG left = ground.left + (slot % columns) * kMinimisedWidth;
+        const LONG bottom = ground.bottom - (slot / columns) * kMinimisedHeight;
+        const RECT place{left, bottom - kMinimisedHeight, left + kMinimisedWidth, bottom};
+        bool taken = false;
+        for (const Window* other = window->parent->firstChild; other != nullptr && !taken; other = other->next) {
+            RECT common;
+            taken = other != window && (other->style & WS_MINIMIZE) != 0 && (other->style & WS_VISIBLE) != 0 &&
+                    IntersectRect(&common, &other->windowRect, &place);
+        }
+        if (!taken || slot > 1000) {
+            return place;
+        }
+    }
+}
+
+/// Where a maximised window lies, after WM_GETMINMAXINFO has had its say.
+RECT MaximisedPlace(HWND handle) {
+    const MINMAXINFO limits = QueryMinMax(handle);
+    UserGuard guard(UserLock());
+    const Window* window = PeekWindow(handle);
+    if (window == nullptr) {
+        return RECT{};
+    }
+    const RECT ground = Ground(window);
+    const LONG left = ground.left + limits.ptMaxPosition.x;
+    const LONG top = ground.top + limits.ptMaxPosition.y;
+    return RECT{left, top, left + limits.ptMaxSize.x, top + limits.ptMaxSize.y};
+}
+
+/// The state that a window was created in and has not been given its place for.
+DWORD PendingState(const Window* window) {
+    return IsRectEmpty(&window->restoredRect) ? window->style & (WS_MINIMIZE | WS_MAXIMIZE) : 0;
+}
+
+/// Puts a window into another state. @returns whether it changed, with the new place in screen coordinates.
+bool ChangeState(HWND handle, DWORD wanted, bool toNormal, RECT* place) {
+    DWORD old = 0;
+    bool backToMaximised = false;
+    {
+        UserGuard guard(UserLock());
+        const Window* window = PeekWindow(handle);
+        if (window == nullptr) {
+            return false;
+        }
+        old = PendingState(window) != 0 ? 0 : window->style & (WS_MINIMIZE | WS_MAXIMIZE);
+        backToMaximised = toNormal && (old & WS_MINIMIZE) != 0 && window->restoreMaximised;
+    }
+    if (backToMaximised) {
+        wanted = WS_MAXIMIZE;
+    }
+    if (old == wanted) {
+        return false;
+    }
+    if (old == WS_MINIMIZE && SendMessageA(handle, WM_QUERYOPEN, 0, 0) == 0) {
+        return false;
+    }
+    const RECT maximised = wanted == WS_MAXIMIZE ? MaximisedPlace(handle) : RECT{};
+    UserGuard guard(UserLock());
+    Window* window = PeekWindow(handle);
+    if (window == nullptr) {
+        return false;
+    }
+    if (old == 0) {
+        window->restoredRect = window->windowRect;
+    }
+    window->restoreMaximised = wanted == WS_MINIMIZE && old == WS_MAXIMIZE;
+    *place = wanted == WS_MAXIMIZE ? maximised : wanted == WS_MINIMIZE ? MinimisedPlace(window) : window->restoredRect;
+    window->style = (window->style & ~static_cast<DWORD>(WS_MINIMIZE | WS_MAXIMIZE)) | wanted;
+    WindowsChanged();
+    return true;
+}
+
+/// A window that was made hidden has not heard of its size yet.
+void SendFirstSize(HWND handle) {
+    RECT client{};
+    POINT origin{};
+    WPARAM kind = SIZE_RESTORED;
+    {
+        UserGuard guard(UserLock());
+        Window* window = PeekWindow(handle);
+        if (window == nullptr || window->sizeSent) {
+            return;
+        }
+        window->sizeSent = true;
+        client = window->clientRect;
+        origin = ParentOrigin(window);
+        kind = (window->style & WS_MAXIMIZE) != 0   ? SIZE_MAXIMIZED
+               : (window->style & WS_MINIMIZE) != 0 ? SIZE_MINIMIZED
+                                                    : SIZE_RESTORED;
+    }
+    SendMessageA(handle, WM_SIZE, kind, MAKELPARAM(client.right - client.left, client.bottom - client.top));
+    if (PeekWindow(handle) != nullptr) {
+        SendMessageA(handle, WM_MOVE, 0, MAKELPARAM(client.left - origin.x, client.top - origin.y));
+    }
+}
+
+bool IsVisibleItself(const Window* window) {
+    return (window->style & WS_VISIBLE) != 0;
+}
+
+/// @returns whether a window is to go or to come with its owner.
+bool FollowsOwner(HWND handle, bool show) {
+    UserGuard guard(UserLock());
+    const Window* window = PeekWindow(handle);
+    return window != nullptr && (show ? !IsVisibleItself(window) && window->hiddenByOwner : IsVisibleItself(window));
+}
+
+/// Hides an owner's windows that are shown, or shows those that were hidden so.
+void ShowOwned(HWND owner, bool show) {
+    std::vector<HWND> owned;
+    {
+        UserGuard guard(UserLock());
+        const Window* window = PeekWindow(owner);
+        if (window == nullptr) {
+            return;
+        }
+        try {
+            owned = WindowsOwnedBy(window);
+        } catch (const std::bad_alloc&) {
+            return;
+        }
+    }
+    for (HWND popup : owned) {
+        if (!FollowsOwner(popup, show)) {
+            continue;
+        }
+        SendMessageA(popup, WM_SHOWWINDOW, show, show ? SW_PARENTOPENING : SW_PARENTCLOSING);
+        // Most windows leave the rest to DefWindowProcA; others are taken along all the same.
+        if (PeekWindow(popup) != nullptr && IsVisibleItself(PeekWindow(popup)) != show) {
+            SetWindowPos(
+                popup, nullptr, 0, 0, 0, 0,
+                SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | (show ? SWP_SHOWWINDOW : SWP_HIDEWINDOW));
+        }
+        UserGuard guard(UserLock());
+        if (Window* window = PeekWindow(popup); window != nullptr) {
+            window->hiddenByOwner = !show && !IsVisibleItself(window);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace platform::user
+
+using namespace platform::user;
+
+BOOL WINAPI ShowWindow(HWND handle, int show) {
+    if (show < SW_HIDE || show > SW_MAX) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return FALSE;
+    }
+    Plan plan = PlanOf(show);
+    bool wasVisible = false;
+    bool child = false;
+    bool parentShown = true;
+    bool active = false;
+    {
+        UserGuard guard(UserLock());
+        Window* window = FindWindowObject(handle);
+        if (window == nullptr || window == Desktop()) {
+            return FALSE;
+        }
+        wasVisible = (window->style & WS_VISIBLE) != 0;
+        child = (window->style & WS_CHILD) != 0;
+        parentShown = window->parent == nullptr || window->parent == Desktop() || IsShown(window->parent);
+        active = window->thread != nullptr && window->thread->active == handle;
+        window->hiddenByOwner = false;
+        if (const DWORD pending = PendingState(window); plan.show && plan.keepState && pending != 0) {
+            plan.state = pending;
+            plan.keepState = false;
+        }
+        const DWORD state = window->style & (WS_MINIMIZE | WS_MAXIMIZE);
+        // Where only showing was asked for, a window that is shown already is not even activated.
+        if (wasVisible == plan.show && PendingState(window) == 0 &&
+            (plan.keepState || (state == plan.state && (!plan.activate || child || active)))) {
+            return wasVisible;
+        }
+    }
+    RECT place{};
+    const bool restored = !plan.keepState && plan.state == 0;
+    const bool moved = !plan.keepState && ChangeState(handle, plan.state, restored && show == SW_RESTORE, &place);
+    if (moved && plan.state == WS_MINIMIZE && !child) {
+        ShowOwned(handle, false);
+    }
+    if (wasVisible != plan.show) {
+        SendMessageA(handle, WM_SHOWWINDOW, plan.show, 0);
+    }
+    UINT flags = plan.show ? SWP_SHOWWINDOW : SWP_HIDEWINDOW;
+    const bool bitOnly = child && !parentShown && !moved;
+    Window* window = nullptr;
+    {
+        UserGuard guard(UserLock());
+        window = PeekWindow(handle);
+        if (window == nullptr) {
+            return wasVisible;
+        }
+        if (bitOnly) {
+            // Nothing is to be seen of it.
+            window->style = plan.show ? window->style | WS_VISIBLE : window->style & ~static_cast<DWORD>(WS_VISIBLE);
+            WindowsChanged();
+        }
+        const POINT origin = ParentOrigin(window);
+        OffsetRect(&place, -origin.x, -origin.y);
+    }
+    if (bitOnly) {
+        if (!plan.show) {
+            LeaveDisabledOrHidden(window, true);
+        }
+        return wasVisible;
+    }
+    if (!moved) {
+        flags |= SWP_NOMOVE | SWP_NOSIZE;
+    } else {
+        flags |= SWP_FRAMECHANGED | SWP_NOCOPYBITS;
+    }
+    if (!plan.activate || child) {
+        flags |= SWP_NOACTIVATE | SWP_NOZORDER;
+    }
+    SetWindowPos(handle, HWND_TOP, place.left, place.top, place.right - place.left, place.bottom - place.top, flags);
+    if (plan.show) {
+        SendFirstSize(handle);
+    }
+    if (plan.activateNext && active && (window = PeekWindow(handle)) != nullptr) {
+        ActivateNext(CurrentThread(), window);
+    }
+    if (moved && plan.state != WS_MINIMIZE && !child) {
+        ShowOwned(handle, true);
+    }
+    return wasVisible;
+}

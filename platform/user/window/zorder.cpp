@@ -1,0 +1,173 @@
+// The order of windows: owned windows stay above their owners, and owners come along when an owned window is brought
+// up.
+#include <algorithm>
+#include <new>
+#include <vector>
+
+#include "base/handle.h"
+#include "user/painting/painting.h"
+#include "user/window/position.h"
+#include "user/window/tree.h"
+
+namespace platform::user {
+namespace {
+
+bool Topmost(const Window* window) {
+    return (window->exStyle & WS_EX_TOPMOST) != 0;
+}
+
+const Window* RootOwner(const Window* window) {
+    while (window->owner != nullptr) {
+        window = window->owner;
+    }
+    return window;
+}
+
+bool OwnedBy(const Window* window, const Window* owner) {
+    for (const Window* at = window->owner; at != nullptr; at = at->owner) {
+        if (at == owner) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// The windows that one owns, directly or not, from the top of the z-order.
+std::vector<Window*> OwnedWindows(const Window* owner) {
+    std::vector<Window*> owned;
+    for (Window* window = Desktop()->firstChild; window != nullptr; window = window->next) {
+        if (window->owner != nullptr && OwnedBy(window, owner)) {
+            owned.push_back(window);
+        }
+    }
+    return owned;
+}
+
+void SetTopmost(Window* window, bool topmost) {
+    if (topmost) {
+        window->exStyle |= WS_EX_TOPMOST;
+    } else {
+        window->exStyle &= ~static_cast<DWORD>(WS_EX_TOPMOST);
+    }
+}
+
+void Relink(Window* window, HWND after) {
+    UnlinkWindow(window);
+    LinkWindow(window, after);
+}
+
+void PlaceAbove(Window* window, const Window* below) {
+    if (window->next == below) {
+        return;
+    }
+    UnlinkWindow(window);
+    LinkWindow(window, below->previous != nullptr ? below->previous->handle : HWND_TOP);
+}
+
+bool LiesBelow(const Window* window, const Window* above) {
+    for (const Window* at = above->next; at != nullptr; at = at->next) {
+        if (at == window) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// Brings a window's owners up beneath it, each with what else it owns.
+void RaiseOwners(const Window* window) {
+    const Window* lowest = window;
+    for (Window* owner = window->owner; owner != nullptr; owner = owner->owner) {
+        if (Topmost(owner) != Topmost(window)) {
+            return;
+        }
+        const std::vector<Window*> owned = OwnedWindows(owner);
+        Relink(owner, lowest->handle);
+        for (Window* other : owned) {
+            if (Topmost(other) == Topmost(owner) && LiesBelow(other, owner)) {
+                PlaceAbove(other, owner);
+            }
+        }
+        lowest = owner;
+    }
+}
+
+}  // namespace
+
+bool InPlace(const Window* window, HWND after) {
+    if (window->parent != Desktop() && (after == HWND_TOPMOST || after == HWND_NOTOPMOST)) {
+        after = HWND_TOP;
+    }
+    if (after == HWND_TOP) {
+        const Window* above = window->previous;
+        // What a window owns lies above it wherever it goes.
+        while (above != nullptr && above->owner != nullptr && OwnedBy(above, window)) {
+            above = above->previous;
+        }
+        return above == nullptr || (Topmost(above) && !Topmost(window));
+    }
+    if (after == HWND_BOTTOM) {
+        return window->next == nullptr && !Topmost(window);
+    }
+    if (after == HWND_TOPMOST) {
+        return Topmost(window) && window->previous == nullptr;
+    }
+    if (after == HWND_NOTOPMOST) {
+        return !Topmost(window);
+    }
+    return after == window->handle || (window->previous != nullptr && window->previous->handle == after);
+}
+
+void CollectGroup(Window* window, std::vector<Window*>& group) {
+    const Window* root = RootOwner(window);
+    for (Window* other = Desktop()->firstChild; other != nullptr; other = other->next) {
+        if (other != window && RootOwner(other) == root) {
+            group.push_back(other);
+        }
+    }
+}
+
+void ChangeOrder(Window* window, HWND after, UINT flags) {
+    if (window->parent != Desktop()) {
+        if (after == HWND_TOPMOST || after == HWND_NOTOPMOST) {
+            after = HWND_TOP;
+        }
+        Relink(window, after);
+        WindowsChanged();
+        return;
+    }
+    try {
+        const std::vector<Window*> owned = OwnedWindows(window);
+        const bool raise = after == HWND_TOP || after == HWND_TOPMOST || after == HWND_NOTOPMOST;
+        if (after == HWND_TOPMOST || after == HWND_NOTOPMOST || after == HWND_BOTTOM) {
+            SetTopmost(window, after == HWND_TOPMOST);
+            for (Window* other : owned) {
+                SetTopmost(other, after == HWND_TOPMOST);
+            }
+            if (after == HWND_NOTOPMOST) {
+                for (Window* owner = window->owner; owner != nullptr; owner = owner->owner) {
+                    SetTopmost(owner, false);
+                }
+            }
+            if (after != HWND_BOTTOM) {
+                after = HWND_TOP;
+            }
+        }
+        Relink(window, after);
+        for (Window* other : owned) {
+            if (Topmost(other) == Topmost(window)) {
+                PlaceAbove(other, window);
+            }
+        }
+        if (raise && (flags & SWP_NOOWNERZORDER) == 0) {
+            RaiseOwners(window);
+        }
+        if (window->owner != nullptr && LiesBelow(window, window->owner)) {
+            PlaceAbove(window, window->owner);
+        }
+    } catch (const std::bad_alloc&) {
+        Relink(window, after == HWND_BOTTOM ? HWND_BOTTOM : HWND_TOP);
+    }
+    WindowsChanged();
+}
+
+}  // namespace platform::user

@@ -1,0 +1,21 @@
+# Three lists of flat functions must be the same: what is written down for good in NAMES, with the bytes of their arguments on 32
+# bits, what the library EXPORTS, and what the calling OBJECT imports, so that none is forgotten.
+file(STRINGS ${NAMES} written)
+file(STRINGS ${EXPORTS} exported REGEX "^ ")
+list(TRANSFORM exported STRIP)
+execute_process(COMMAND ${NM} ${OBJECT} OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
+# On 32 bits with one more underscore.
+string(REGEX MATCHALL "U __imp__?[A-Za-z]+_[A-Za-z]+(@[0-9]+)?\n" called "${symbols}")
+list(TRANSFORM called REPLACE "^U __imp__?([^\n]+)\n$" "\\1")
+if(NOT "${exported}" MATCHES "@")
+    list(TRANSFORM written REPLACE "@.*" "")
+endif()
+foreach(list written exported called)
+    list(SORT ${list})
+    list(JOIN ${list} "\n" ${list})
+endforeach()
+foreach(list exported called)
+    if(NOT "${written}" STREQUAL "${${list}}")
+        message(FATAL_ERROR "flat functions that are written down:\n${written}\n\n${list}:\n${${list}}")
+    endif()
+endforeach()

@@ -1,0 +1,4 @@
+#pragma once
+
+#define IDD_HELD 100
+#define IDC_FIELD 101
