@@ -40,8 +40,9 @@ HandleKind KindOfHandle(std::uint32_t handle);
 /// Takes the object out of the table; its handle is stale from now on. @returns the object, or null as FindHandle does.
 void* RemoveHandle(std::uint32_t handle, HandleKind kind);
 
-/// Puts another object behind a live handle, as when a block of memory has moved. @returns whether there was one.
-bool ReplaceHandle(std::uint32_t handle, HandleKind kind, void* object);
+/// Puts another object behind a live handle, as when a block of memory has moved: `to` in place of what was at the address
+/// `from`. @returns whether that was there.
+bool ReplaceHandle(std::uint32_t handle, HandleKind kind, std::uintptr_t from, void* to);
 
 /// @returns how many live handles of this kind there are.
 std::size_t CountHandles(HandleKind kind);

@@ -131,7 +131,6 @@ LRESULT OnMessage(const TreePointer& tree, UINT message, WPARAM wParam, LPARAM l
         case WM_ERASEBKGND:
             return TRUE;
         case WM_PAINT:
-        case WM_PRINTCLIENT:
             OnPaint(tree, reinterpret_cast<HDC>(wParam));
             return 0;
         case WM_ENABLE:

@@ -22,7 +22,6 @@ WINBASEAPI void WINAPI SetLastError(DWORD code);
 #define GMEM_ZEROINIT 0x0040
 #define GMEM_MODIFY 0x0080
 #define GMEM_VALID_FLAGS 0x7F72
-#define GHND (GMEM_MOVEABLE | GMEM_ZEROINIT)
 #define GPTR (GMEM_FIXED | GMEM_ZEROINIT)
 
 WINBASEAPI HGLOBAL WINAPI GlobalAlloc(UINT flags, SIZE_T size);
@@ -37,8 +36,6 @@ WINBASEAPI LPVOID WINAPI VirtualAlloc(LPVOID address, SIZE_T size, DWORD type, D
 WINBASEAPI BOOL WINAPI VirtualFree(LPVOID address, SIZE_T size, DWORD type);
 
 #define CopyMemory(target, source, size) __builtin_memcpy((target), (source), (size))
-#define MoveMemory(target, source, size) __builtin_memmove((target), (source), (size))
-#define FillMemory(target, size, value) __builtin_memset((target), (value), (size))
 #define ZeroMemory(target, size) __builtin_memset((target), 0, (size))
 
 // --- probes
@@ -111,7 +108,6 @@ typedef DWORD(WINAPI* LPTHREAD_START_ROUTINE)(LPVOID parameter);
 
 #define INFINITE 0xFFFFFFFF
 #define WAIT_OBJECT_0 0x00000000L
-#define WAIT_ABANDONED 0x00000080L
 #define WAIT_TIMEOUT 258L
 #define WAIT_FAILED ((DWORD)0xFFFFFFFF)
 #define INVALID_HANDLE_VALUE ((HANDLE)(LONG_PTR)-1)

@@ -29,9 +29,6 @@
 #define cdecl
 #define FAR far
 #define NEAR near
-#define CONST const
-#define IN
-#define OUT
 
 typedef int BOOL;
 typedef unsigned char BYTE;
@@ -137,12 +134,10 @@ typedef struct tagRECT {
 } RECT, *PRECT, *LPRECT;
 typedef const RECT* LPCRECT;
 
-#define MAKEWORD(low, high) ((WORD)(((BYTE)((DWORD_PTR)(low)&0xff)) | ((WORD)((BYTE)((DWORD_PTR)(high)&0xff))) << 8))
 #define MAKELONG(low, high) \
     ((LONG)(((WORD)((DWORD_PTR)(low)&0xffff)) | ((DWORD)((WORD)((DWORD_PTR)(high)&0xffff))) << 16))
 #define MAKEWPARAM(low, high) ((WPARAM)(DWORD)MAKELONG(low, high))
 #define MAKELPARAM(low, high) ((LPARAM)(DWORD)MAKELONG(low, high))
-#define MAKELRESULT(low, high) ((LRESULT)(DWORD)MAKELONG(low, high))
 #define LOWORD(value) ((WORD)((DWORD_PTR)(value)&0xffff))
 #define HIWORD(value) ((WORD)(((DWORD_PTR)(value) >> 16) & 0xffff))
 #define LOBYTE(value) ((BYTE)((DWORD_PTR)(value)&0xff))

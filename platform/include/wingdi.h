@@ -83,7 +83,6 @@ typedef struct tagDIBSECTION {
 #define DKGRAY_BRUSH 3
 #define BLACK_BRUSH 4
 #define NULL_BRUSH 5
-#define HOLLOW_BRUSH NULL_BRUSH
 #define WHITE_PEN 6
 #define BLACK_PEN 7
 #define NULL_PEN 8
@@ -117,7 +116,6 @@ typedef struct tagLOGBRUSH {
 
 #define BS_SOLID 0
 #define BS_NULL 1
-#define BS_HOLLOW BS_NULL
 #define BS_PATTERN 3
 
 WINGDIAPI HGDIOBJ WINAPI GetStockObject(int index);
@@ -279,22 +277,16 @@ typedef TEXTMETRICA TEXTMETRIC;
 typedef LPTEXTMETRICA LPTEXTMETRIC;
 
 #define FW_DONTCARE 0
-#define FW_LIGHT 300
 #define FW_NORMAL 400
 #define FW_MEDIUM 500
-#define FW_SEMIBOLD 600
 #define FW_BOLD 700
-#define FW_HEAVY 900
 
 #define ANSI_CHARSET 0
 #define DEFAULT_CHARSET 1
-#define SYMBOL_CHARSET 2
-#define OEM_CHARSET 255
 
 #define OUT_DEFAULT_PRECIS 0
 #define CLIP_DEFAULT_PRECIS 0
 #define DEFAULT_QUALITY 0
-#define PROOF_QUALITY 2
 #define NONANTIALIASED_QUALITY 3
 #define ANTIALIASED_QUALITY 4
 #define CLEARTYPE_QUALITY 5

@@ -24,7 +24,6 @@ typedef LPCSTR LPCTSTR, PCTSTR;
 
 #define LANG_NEUTRAL 0x00
 #define LANG_ENGLISH 0x09
-#define LANG_FRENCH 0x0c
 #define LANG_GERMAN 0x07
 #define SUBLANG_NEUTRAL 0x00
 #define SUBLANG_DEFAULT 0x01
@@ -33,8 +32,6 @@ typedef LPCSTR LPCTSTR, PCTSTR;
 #define SORT_DEFAULT 0x0
 
 #define MAKELANGID(primary, sub) ((((WORD)(sub)) << 10) | (WORD)(primary))
-#define PRIMARYLANGID(id) ((WORD)(id)&0x3ff)
-#define SUBLANGID(id) ((WORD)(id) >> 10)
 #define MAKELCID(language, sort) ((DWORD)((((DWORD)((WORD)(sort))) << 16) | ((DWORD)((WORD)(language)))))
 #define LANGIDFROMLCID(locale) ((WORD)(locale))
 #define LANG_SYSTEM_DEFAULT (MAKELANGID(LANG_NEUTRAL, SUBLANG_SYS_DEFAULT))
@@ -56,6 +53,3 @@ typedef LPCSTR LPCTSTR, PCTSTR;
 #define MEM_COMMIT 0x1000
 #define MEM_RESERVE 0x2000
 #define MEM_RELEASE 0x8000
-
-#define MAXLONG 0x7fffffff
-#define MAXDWORD 0xffffffff

@@ -12,3 +12,4 @@ WINUSERAPI BOOL WINAPI EmptyClipboard(VOID);
 /// CF_TEXT is the one format, and the text is there at once. The block belongs to the clipboard then.
 WINUSERAPI HANDLE WINAPI SetClipboardData(UINT format, HANDLE data);
 WINUSERAPI HANDLE WINAPI GetClipboardData(UINT format);
+WINUSERAPI BOOL WINAPI IsClipboardFormatAvailable(UINT format);

@@ -14,7 +14,6 @@
 #define EN_UPDATE 0x0400
 #define EN_ERRSPACE 0x0500
 #define EN_MAXTEXT 0x0501
-#define EN_HSCROLL 0x0601
 #define EN_VSCROLL 0x0602
 
 // --- messages
@@ -31,7 +30,6 @@
 #define EM_REPLACESEL 0x00C2
 #define EM_GETLINE 0x00C4
 #define EM_LIMITTEXT 0x00C5
-#define EM_SETLIMITTEXT EM_LIMITTEXT
 #define EM_CANUNDO 0x00C6
 #define EM_UNDO 0x00C7
 #define EM_LINEFROMCHAR 0x00C9

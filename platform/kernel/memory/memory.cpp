@@ -61,7 +61,7 @@ __attribute__((no_sanitize("address", "undefined"))) std::uint32_t HandleInFront
 Block* BlockAt(LPCVOID address) {
     const auto at = reinterpret_cast<std::uintptr_t>(address);
     const std::uintptr_t record = at - sizeof(Block);
-    if (at % alignof(Block) != 0 || at < sizeof(Block) || 
+    if (at % alignof(Block) != 0 || at < sizeof(Block) ||
         !platform::kernel::IsReadable(reinterpret_cast<const void*>(record), sizeof(Block))) {
         return nullptr;
     }
@@ -96,12 +96,13 @@ Block* Resize(Block* block, std::size_t size, bool zero, bool mayMove) {
         }
     } else {
         const std::uint32_t handle = block->handle;
+        const auto former = reinterpret_cast<std::uintptr_t>(block);
         auto* moved = static_cast<Block*>(std::realloc(static_cast<void*>(block), total));
         if (!moved) {
             return nullptr;
         }
-        if (moved != block) {
-            platform::base::ReplaceHandle(handle, HandleKind::GlobalBlock, moved);
+        if (reinterpret_cast<std::uintptr_t>(moved) != former) {
+            platform::base::ReplaceHandle(handle, HandleKind::GlobalBlock, former, moved);
         }
         block = moved;
     }
@@ -111,6 +112,19 @@ Block* Resize(Block* block, std::size_t size, bool zero, bool mayMove) {
         std::memset(block->bytes() + old, 0, size - old);
     }
     return block;
+}
+
+// Small blocks are cleared here: calloc passes the cache of small blocks by, and takes several times as long for them.
+void* NewMemory(std::size_t size, bool zero) {
+    constexpr std::size_t kSmall = 1024;
+    if (zero && size > kSmall) {
+        return std::calloc(1, size);
+    }
+    void* memory = std::malloc(size);
+    if (memory && zero) {
+        std::memset(memory, 0, size);
+    }
+    return memory;
 }
 
 HGLOBAL Discard(Block* block) {
@@ -141,7 +155,7 @@ HGLOBAL WINAPI GlobalAlloc(UINT flags, SIZE_T size) {
         return base::Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
     }
     const std::size_t total = size + sizeof(Block);
-    void* memory = flags & GMEM_ZEROINIT ? std::calloc(1, total) : std::malloc(total);
+    void* memory = NewMemory(total, flags & GMEM_ZEROINIT);
     if (!memory) {
         return base::Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
     }

@@ -10,19 +10,25 @@
 #include <new>
 
 #include "base/fail.h"
+#include "kernel/memory/pages.h"
 
 namespace base = platform::base;
 
 namespace {
 
-// Sizes by address. Never destroyed: memory may be released while the process ends.
+struct Area {
+    std::size_t size;
+    bool writable;
+};
+
+// Areas by address. Never destroyed: memory may be released while the process ends.
 std::mutex& AreasLock() {
     static auto& lock = *new std::mutex;
     return lock;
 }
 
-std::map<std::uintptr_t, std::size_t>& Areas() {
-    static auto& areas = *new std::map<std::uintptr_t, std::size_t>;
+std::map<std::uintptr_t, Area>& Areas() {
+    static auto& areas = *new std::map<std::uintptr_t, Area>;
     return areas;
 }
 
@@ -45,7 +51,34 @@ int HostProtection(DWORD protection) {
     }
 }
 
+/// @returns the area around an address, or the end. Lock held.
+std::map<std::uintptr_t, Area>::iterator AreaAround(std::uintptr_t address) {
+    auto found = Areas().upper_bound(address);
+    if (found == Areas().begin()) {
+        return Areas().end();
+    }
+    --found;
+    return address - found->first < found->second.size ? found : Areas().end();
+}
+
 }  // namespace
+
+namespace platform::kernel {
+
+PageRun WritablePages(std::uintptr_t address) {
+    // A probe never waits: it may come from a signal's handler.
+    const std::unique_lock guard(AreasLock(), std::try_to_lock);
+    if (!guard) {
+        return {};
+    }
+    const auto found = AreaAround(address);
+    if (found == Areas().end() || !found->second.writable) {
+        return {};
+    }
+    return {found->first, found->first + found->second.size, g_pagesAge.load()};
+}
+
+}  // namespace platform::kernel
 
 // Reserving and committing are one step here, at an address that the host chooses.
 LPVOID WINAPI VirtualAlloc(LPVOID address, SIZE_T size, DWORD type, DWORD protection) {
@@ -61,7 +94,7 @@ LPVOID WINAPI VirtualAlloc(LPVOID address, SIZE_T size, DWORD type, DWORD protec
     }
     try {
         const std::lock_guard guard(AreasLock());
-        Areas()[reinterpret_cast<std::uintptr_t>(memory)] = rounded;
+        Areas()[reinterpret_cast<std::uintptr_t>(memory)] = Area{rounded, (host & PROT_WRITE) != 0};
     } catch (const std::bad_alloc&) {
         munmap(memory, rounded);
         return base::Fail<LPVOID>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
@@ -78,7 +111,8 @@ BOOL WINAPI VirtualFree(LPVOID address, SIZE_T size, DWORD type) {
     if (area == Areas().end()) {
         return base::Fail(ERROR_INVALID_ADDRESS, FALSE);
     }
-    munmap(address, area->second);
+    platform::kernel::g_pagesAge.fetch_add(1);
+    munmap(address, area->second.size);
     Areas().erase(area);
     return TRUE;
 }

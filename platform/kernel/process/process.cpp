@@ -33,7 +33,6 @@ std::string Quoted(const std::string& argument) {
     return quoted.append(slashes, '\\') + '"';
 }
 
-
 }  // namespace
 
 LPSTR CvPlatformCommandLine(int count, char** arguments) {

@@ -161,9 +161,6 @@ LRESULT CALLBACK ScrollBarProcedure(HWND window, UINT message, WPARAM wParam, LP
         case WM_PAINT:
             OnPaint(window);
             return 0;
-        case WM_PRINTCLIENT:
-            DrawBarControl(window, reinterpret_cast<HDC>(wParam));
-            return 0;
         case WM_ENABLE:
             data->idle = data->idle && !wParam;
             data->bar->disabled = !wParam;

@@ -16,14 +16,9 @@ using namespace platform::user;
 int WINAPI GetSystemMetrics(int index) {
     switch (index) {
         case SM_CXSCREEN:
-        case SM_CXVIRTUALSCREEN:
-        case SM_CXFULLSCREEN:
             return platform::gdi::Screen().width;
         case SM_CYSCREEN:
-        case SM_CYVIRTUALSCREEN:
             return platform::gdi::Screen().height;
-        case SM_CYFULLSCREEN:
-            return platform::gdi::Screen().height - GetSystemMetrics(SM_CYCAPTION);
         case SM_CXMAXIMIZED:
             return platform::gdi::Screen().width + 2 * GetSystemMetrics(SM_CXSIZEFRAME);
         case SM_CYMAXIMIZED:
@@ -34,44 +29,30 @@ int WINAPI GetSystemMetrics(int index) {
             return platform::gdi::Screen().height + 12;
         case SM_CXBORDER:
         case SM_CYBORDER:
-        case SM_MOUSEPRESENT:
-        case SM_MOUSEWHEELPRESENT:
-        case SM_CMONITORS:
-        case SM_SAMEDISPLAYFORMAT:
             return 1;
         case SM_CXEDGE:
         case SM_CYEDGE:
             return 2;
         case SM_CXDLGFRAME:
         case SM_CYDLGFRAME:
-        case SM_CMOUSEBUTTONS:
             return 3;
         case SM_CXFRAME:
         case SM_CYFRAME:
         case SM_CXDOUBLECLK:
         case SM_CYDOUBLECLK:
-        case SM_CXDRAG:
-        case SM_CYDRAG:
             return 4;
         case SM_CYCAPTION:
         case SM_CYMENU:
             return 19;  // one pixel more than the bar itself: the line below it
-        case SM_CXSIZE:
-        case SM_CYSIZE:
         case SM_CXMENUSIZE:
         case SM_CYMENUSIZE:
             return 18;
         case SM_CYSMCAPTION:
             return 16;
-        case SM_CXSMSIZE:
-        case SM_CYSMSIZE:
-            return 15;
         case SM_CXVSCROLL:
         case SM_CYHSCROLL:
         case SM_CYVSCROLL:
-        case SM_CXHSCROLL:
         case SM_CYVTHUMB:
-        case SM_CXHTHUMB:
         case SM_CXSMICON:
         case SM_CYSMICON:
             return 16;
@@ -80,28 +61,17 @@ int WINAPI GetSystemMetrics(int index) {
         case SM_CXCURSOR:
         case SM_CYCURSOR:
             return 32;
-        case SM_CXMIN:
         case SM_CXMINTRACK:
             return 112;
-        case SM_CYMIN:
         case SM_CYMINTRACK:
             return 27;
-        case SM_CXICONSPACING:
-        case SM_CYICONSPACING:
-            return 75;
         case SM_CXMENUCHECK:
         case SM_CYMENUCHECK:
             return 13;
         case SM_CXMINIMIZED:
-        case SM_CXMINSPACING:
             return 160;
         case SM_CYMINIMIZED:
-        case SM_CYMINSPACING:
             return 24;
-        case SM_DBCSENABLED: {
-            CPINFO info;
-            return GetCPInfo(CP_ACP, &info) && info.MaxCharSize > 1;
-        }
         default:
             return 0;
     }

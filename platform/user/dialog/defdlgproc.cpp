@@ -7,17 +7,13 @@ namespace {
 /// Messages whose answer is the dialog procedure's own result; for all others that is DWLP_MSGRESULT.
 bool AnswersDirectly(UINT message) {
     switch (message) {
-        case WM_CTLCOLORMSGBOX:
         case WM_CTLCOLOREDIT:
         case WM_CTLCOLORLISTBOX:
         case WM_CTLCOLORBTN:
         case WM_CTLCOLORDLG:
         case WM_CTLCOLORSCROLLBAR:
         case WM_CTLCOLORSTATIC:
-        case WM_COMPAREITEM:
         case WM_VKEYTOITEM:
-        case WM_CHARTOITEM:
-        case WM_QUERYDRAGICON:
         case WM_INITDIALOG:
             return true;
         default:

@@ -207,22 +207,6 @@ LRESULT SetIcon(HWND handle, bool big, HICON icon) {
     return reinterpret_cast<LRESULT>(before);
 }
 
-void Print(HWND handle, WPARAM context, LPARAM what) {
-    if ((what & PRF_CHECKVISIBLE) && !IsWindowVisible(handle)) {
-        return;
-    }
-    if (what & PRF_ERASEBKGND) {
-        SendMessageA(handle, WM_ERASEBKGND, context, 0);
-    }
-    if (what & PRF_CLIENT) {
-        SendMessageA(handle, WM_PRINTCLIENT, context, what);
-    }
-}
-
-// WM_NOTIFYFORMAT: a control asks its parent, which hears every notification in the ANSI form.
-constexpr LPARAM kQueryFormat = 3;
-constexpr LRESULT kAnsiFormat = 1;
-
 }  // namespace
 }  // namespace platform::user
 
@@ -264,9 +248,7 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
             return 0;
         }
         case WM_ERASEBKGND:
-        case WM_ICONERASEBKGND:
             return EraseBackground(handle, reinterpret_cast<HDC>(wParam));
-        case WM_CTLCOLORMSGBOX:
         case WM_CTLCOLOREDIT:
         case WM_CTLCOLORLISTBOX:
         case WM_CTLCOLORBTN:
@@ -318,19 +300,11 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
             }
             return 0;
         case WM_VKEYTOITEM:
-        case WM_CHARTOITEM:
             return -1;
-        case WM_NOTIFYFORMAT:
-            return lParam == kQueryFormat ? kAnsiFormat : 0;
         case WM_GETICON:
             return reinterpret_cast<LRESULT>(wParam == ICON_BIG ? window->bigIcon : window->smallIcon);
         case WM_SETICON:
             return SetIcon(handle, wParam == ICON_BIG, reinterpret_cast<HICON>(lParam));
-        case WM_QUERYDRAGICON:
-            return reinterpret_cast<LRESULT>(window->bigIcon ? window->bigIcon : window->windowClass->icon);
-        case WM_PRINT:
-            Print(handle, wParam, lParam);
-            return 0;
         case WM_SHOWWINDOW:
             // Owned windows come and go with their owner.
             if (lParam && window->owner) {

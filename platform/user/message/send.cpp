@@ -81,7 +81,6 @@ bool CarriesPointer(UINT message) {
         case WM_DELETEITEM:
         case WM_WINDOWPOSCHANGING:
         case WM_WINDOWPOSCHANGED:
-        case WM_COPYDATA:
         case WM_NOTIFY:
         case WM_HELP:
         case WM_STYLECHANGING:

@@ -218,7 +218,6 @@ LRESULT CALLBACK ComboBoxProcedure(HWND window, UINT message, WPARAM wParam, LPA
         case WM_ERASEBKGND:
             return TRUE;
         case WM_PAINT:
-        case WM_PRINTCLIENT:
             OnPaint(combo, reinterpret_cast<HDC>(wParam));
             return 0;
         case WM_ENABLE:

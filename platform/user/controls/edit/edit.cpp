@@ -249,7 +249,6 @@ LRESULT Handle(HWND edit, EditData& data, UINT message, WPARAM wParam, LPARAM lP
         case WM_ERASEBKGND:
             return TRUE;
         case WM_PAINT:
-        case WM_PRINTCLIENT:
             OnPaint(edit, data, reinterpret_cast<HDC>(wParam));
             return 0;
         case WM_ENABLE:

@@ -230,7 +230,6 @@ LRESULT CALLBACK ListBoxProcedure(HWND window, UINT message, WPARAM wParam, LPAR
         case WM_ERASEBKGND:
             return TRUE;
         case WM_PAINT:
-        case WM_PRINTCLIENT:
             OnPaint(list, reinterpret_cast<HDC>(wParam));
             return 0;
         case WM_SIZE:
