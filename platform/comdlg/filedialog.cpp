@@ -207,6 +207,9 @@ INT_PTR OnMessage(FileDialog& dialog, UINT message, WPARAM wParam, LPARAM lParam
                 PostMessageA(dialog.window, kTellUnreadable, 0, 0);
             }
             return FALSE;
+        case CDM_SETCONTROLTEXT:
+            SetDlgItemTextA(dialog.window, static_cast<int>(wParam), reinterpret_cast<LPCSTR>(lParam));
+            return TRUE;
         case kTellUnreadable:
             TellNotAccessible(dialog, std::exchange(dialog.unreadable, {}), dialog.whyUnreadable);
             return TRUE;

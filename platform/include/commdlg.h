@@ -67,6 +67,9 @@ typedef struct _OFNOTIFYA {
     LPSTR pszFile;
 } OFNOTIFYA, *LPOFNOTIFYA;
 
+#define CDM_FIRST (WM_USER + 100)
+#define CDM_SETCONTROLTEXT (CDM_FIRST + 4)
+
 WINUSERAPI BOOL WINAPI GetOpenFileNameA(LPOPENFILENAMEA record);
 /// @returns what made the last dialog of the thread fail; 0 when the user cancelled it.
 WINUSERAPI DWORD WINAPI CommDlgExtendedError(void);
