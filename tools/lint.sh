@@ -1,6 +1,6 @@
 #!/bin/bash
 # The format of all sources and, with clang-tidy, the library itself, each source by itself: from a tree that is only configured,
-# as a build compiles in batches.
+# as a build compiles in batches. Then what must hold of the sources as a whole.
 source "$(dirname "$0")/common.sh"
 
 install_packages "${build_packages[@]}" "${lint_packages[@]}"
@@ -15,4 +15,5 @@ if ! run-clang-tidy -quiet -p "$commands" "^$root/(core|classes|services|control
     sed 's/\x1b\[[0-9;]*m//g' "$log" | grep -E "(warning|error):" | sort -u
     die "clang-tidy has something to say, see $log"
 fi
-say "format and clang-tidy have nothing to say"
+tools/check-structure.sh
+say "format, clang-tidy and the structure have nothing to say"

@@ -150,18 +150,4 @@ std::size_t CountHandles(HandleKind kind) {
     return theTable.counts[static_cast<std::size_t>(kind)].load(std::memory_order_relaxed);
 }
 
-void ForEachHandle(HandleKind kind, void (*visit)(std::uint32_t, void*, void*), void* context) {
-    Table& table = theTable;
-    for (std::uint32_t index = 0; Slot* slot = SlotAt(table, index); ++index) {
-        const std::uint32_t tag = slot->tag.load(std::memory_order_acquire);
-        void* object = slot->object.load(std::memory_order_relaxed);
-        if (static_cast<HandleKind>(tag & 0xFF) == kind && kind != HandleKind::None && object) {
-            visit((tag >> 8) << kSlotBits | index, object, context);
-        }
-        if (index == kSlotMask) {
-            break;
-        }
-    }
-}
-
 }  // namespace platform::base

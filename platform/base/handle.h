@@ -12,15 +12,11 @@ enum class HandleKind : std::uint8_t {
     None,
     GlobalBlock,
     Module,
-    Resource,
-    File,
     FindFile,
     RegistryKey,
     Thread,
-    Process,
     Event,
     Window,
-    Menu,
     Icon,
     Cursor,
     DeviceContext,
@@ -28,9 +24,7 @@ enum class HandleKind : std::uint8_t {
     Brush,
     Font,
     Bitmap,
-    Region,
     ImageList,
-    PositionBatch,
     Count
 };
 
@@ -52,9 +46,6 @@ bool ReplaceHandle(std::uint32_t handle, HandleKind kind, std::uintptr_t from, v
 
 /// @returns how many live handles of this kind there are.
 std::size_t CountHandles(HandleKind kind);
-
-/// Calls visit(handle, object) for the live handles of a kind, in slot order.
-void ForEachHandle(HandleKind kind, void (*visit)(std::uint32_t handle, void* object, void* context), void* context);
 
 template <class Handle>
 std::uint32_t ToNumber(Handle handle) {

@@ -42,4 +42,9 @@ struct DibLayout {
 /// supported. `room` is how many bytes may be read; 0 when the caller vouches for them.
 std::optional<DibLayout> ReadLayout(const void* info, UINT usage, bool colours, std::size_t room = 0);
 
+/// Fills a bitmap with the pixels of a device-independent one.
+bool SetBits(HBITMAP bitmap, const void* bits, const BITMAPINFO* info);
+/// Draws the pixels of a device-independent bitmap, stretched to the place.
+bool StretchBits(HDC context, const RECT& place, const void* bits, const BITMAPINFO* info, DWORD operation);
+
 }  // namespace platform::gdi

@@ -1,5 +1,5 @@
 /// @file objects.h
-/// What stands behind the handles of pens, brushes, fonts, bitmaps and regions.
+/// What stands behind the handles of pens, brushes, fonts and bitmaps.
 #pragma once
 
 #include <windows.h>
@@ -36,7 +36,6 @@ struct Brush : Object {
     static constexpr base::HandleKind kKind = base::HandleKind::Brush;
     UINT style = BS_SOLID;
     COLORREF colour = 0;
-    ULONG_PTR hatch = 0;
     int width = 0;  ///< of the pattern
     int height = 0;
     bool monochrome = false;                  ///< the pattern holds 0 and 1, else colours
@@ -72,17 +71,11 @@ struct Bitmap : Object {
     std::unique_ptr<std::uint32_t[]> palette;
     int paletteSize = 0;
     DeviceContext* context = nullptr;  ///< the one context that it is selected into
-    SIZE dimension{};
 
     Surface View() const;
     std::size_t Bytes() const {
         return rowBytes * static_cast<std::size_t>(height);
     }
-};
-
-struct RegionObject : Object {
-    static constexpr base::HandleKind kKind = base::HandleKind::Region;
-    Region region;
 };
 
 /// @returns the object of a handle; null, with ERROR_INVALID_HANDLE set, when it is stale or of another kind.
@@ -122,6 +115,8 @@ struct StockObjects {
 };
 const StockObjects& Stock();
 
+/// Makes a brush of a bitmap's pixels; those of a monochrome one take the context's text and background colours.
+HBRUSH MakePatternBrush(HBITMAP bitmap);
 /// Makes a brush that counts as a stock object; its colour follows a system colour.
 HBRUSH MakeStockBrush(COLORREF colour);
 /// Changes the colour of such a brush.

@@ -13,6 +13,7 @@
 
 #include "base/fail.h"
 #include "base/handle.h"
+#include "kernel/memory/probe.h"
 
 namespace base = platform::base;
 
@@ -25,7 +26,6 @@ struct alignas(16) Block {
     std::uint32_t handle = 0;
     std::atomic<std::uint32_t> locks{0};
     bool movable = false;
-    bool discardable = false;
     bool discarded = false;
 
     char* bytes() {
@@ -34,6 +34,7 @@ struct alignas(16) Block {
 };
 static_assert(sizeof(Block) == 32);
 
+constexpr std::uint32_t kMostLocks = 0xFF;
 constexpr std::size_t kMostBlockBytes = std::size_t{1} << 39;
 
 std::atomic<unsigned> failCountdown{0};
@@ -61,7 +62,7 @@ Block* BlockAt(LPCVOID address) {
     const auto at = reinterpret_cast<std::uintptr_t>(address);
     const std::uintptr_t record = at - sizeof(Block);
     if (at % alignof(Block) != 0 || at < sizeof(Block) ||
-        IsBadReadPtr(reinterpret_cast<const void*>(record), sizeof(Block))) {
+        !platform::kernel::IsReadable(reinterpret_cast<const void*>(record), sizeof(Block))) {
         return nullptr;
     }
     void* block = platform::base::FindHandle(HandleInFront(at), HandleKind::GlobalBlock);
@@ -139,9 +140,8 @@ HGLOBAL Discard(Block* block) {
 }
 
 HGLOBAL Modify(Block* block, UINT flags) {
-    // A block may become movable and discardable, never the other way.
+    // A block may become movable, never the other way.
     block->movable = block->movable || (flags & GMEM_MOVEABLE);
-    block->discardable = block->discardable || (block->movable && (flags & GMEM_DISCARDABLE));
     return ToGlobal(block);
 }
 
@@ -162,7 +162,6 @@ HGLOBAL WINAPI GlobalAlloc(UINT flags, SIZE_T size) {
     auto* block = new (memory) Block;
     block->size = size;
     block->movable = (flags & GMEM_MOVEABLE) != 0;
-    block->discardable = block->movable && (flags & GMEM_DISCARDABLE);
     block->discarded = block->movable && size == 0;
     block->handle = platform::base::InsertHandle(HandleKind::GlobalBlock, block);
     if (!block->handle) {
@@ -211,7 +210,7 @@ LPVOID WINAPI GlobalLock(HGLOBAL memory) {
         return base::Fail<LPVOID>(ERROR_DISCARDED, nullptr);
     }
     std::uint32_t locks = block->locks.load(std::memory_order_relaxed);
-    while (locks < GMEM_LOCKCOUNT && !block->locks.compare_exchange_weak(locks, locks + 1)) {
+    while (locks < kMostLocks && !block->locks.compare_exchange_weak(locks, locks + 1)) {
     }
     return block->bytes();
 }
@@ -238,14 +237,6 @@ HGLOBAL WINAPI GlobalHandle(LPCVOID address) {
 SIZE_T WINAPI GlobalSize(HGLOBAL memory) {
     const Block* block = FindBlock(memory);
     return block ? block->size : 0;
-}
-
-UINT WINAPI GlobalFlags(HGLOBAL memory) {
-    const Block* block = FindBlock(memory);
-    if (!block) {
-        return GMEM_INVALID_HANDLE;
-    }
-    return block->locks | (block->discarded ? GMEM_DISCARDED : 0) | (block->discardable ? GMEM_DISCARDABLE : 0);
 }
 
 void CvPlatformFailAllocation(unsigned count) {

@@ -13,7 +13,7 @@ struct PageRun {
     unsigned age = 0;  ///< of the knowledge, see g_pagesAge
 };
 
-/// Grows before pages are released or lose a right: what was known until then no longer counts.
+/// Grows before pages are released: what was known until then no longer counts.
 inline std::atomic<unsigned> g_pagesAge{0};
 
 /// @returns the pages of one area around an address, where all of the area may be written; else an empty run.

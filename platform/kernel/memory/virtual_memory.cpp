@@ -18,9 +18,7 @@ namespace {
 
 struct Area {
     std::size_t size;
-    std::map<std::uintptr_t, DWORD> protection;  ///< by page, where it is not the first one
-    DWORD initial;
-    bool changed = false;  ///< some page has or had another protection
+    bool writable;
 };
 
 // Areas by address. Never destroyed: memory may be released while the process ends.
@@ -48,12 +46,6 @@ int HostProtection(DWORD protection) {
             return PROT_READ;
         case PAGE_READWRITE:
             return PROT_READ | PROT_WRITE;
-        case PAGE_EXECUTE:
-            return PROT_EXEC;
-        case PAGE_EXECUTE_READ:
-            return PROT_READ | PROT_EXEC;
-        case PAGE_EXECUTE_READWRITE:
-            return PROT_READ | PROT_WRITE | PROT_EXEC;
         default:
             return -1;
     }
@@ -80,7 +72,7 @@ PageRun WritablePages(std::uintptr_t address) {
         return {};
     }
     const auto found = AreaAround(address);
-    if (found == Areas().end() || found->second.changed || !(HostProtection(found->second.initial) & PROT_WRITE)) {
+    if (found == Areas().end() || !found->second.writable) {
         return {};
     }
     return {found->first, found->first + found->second.size, g_pagesAge.load()};
@@ -102,7 +94,7 @@ LPVOID WINAPI VirtualAlloc(LPVOID address, SIZE_T size, DWORD type, DWORD protec
     }
     try {
         const std::lock_guard guard(AreasLock());
-        Areas()[reinterpret_cast<std::uintptr_t>(memory)] = Area{rounded, {}, protection, false};
+        Areas()[reinterpret_cast<std::uintptr_t>(memory)] = Area{rounded, (host & PROT_WRITE) != 0};
     } catch (const std::bad_alloc&) {
         munmap(memory, rounded);
         return base::Fail<LPVOID>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
@@ -122,40 +114,5 @@ BOOL WINAPI VirtualFree(LPVOID address, SIZE_T size, DWORD type) {
     platform::kernel::g_pagesAge.fetch_add(1);
     munmap(address, area->second.size);
     Areas().erase(area);
-    return TRUE;
-}
-
-// Changes whole pages of one area; the former protection is that of the first page.
-BOOL WINAPI VirtualProtect(LPVOID address, SIZE_T size, DWORD protection, PDWORD previous) {
-    const int host = HostProtection(protection);
-    if (host < 0 || size == 0) {
-        return base::Fail(ERROR_INVALID_PARAMETER, FALSE);
-    }
-    if (!previous) {
-        return base::Fail(ERROR_NOACCESS, FALSE);
-    }
-    const auto at = reinterpret_cast<std::uintptr_t>(address);
-    const std::lock_guard guard(AreasLock());
-    const auto found = AreaAround(at);
-    if (found == Areas().end() || size > found->second.size - (at - found->first)) {
-        return base::Fail(ERROR_INVALID_ADDRESS, FALSE);
-    }
-    Area& area = found->second;
-    const std::uintptr_t first = at & ~(PageSize() - 1);
-    const std::uintptr_t last = (at + size - 1) & ~(PageSize() - 1);
-    area.changed = true;
-    platform::kernel::g_pagesAge.fetch_add(1);
-    if (mprotect(reinterpret_cast<void*>(first), last - first + PageSize(), host) != 0) {
-        return base::Fail(ERROR_ACCESS_DENIED, FALSE);
-    }
-    const auto former = area.protection.find(first);
-    *previous = former == area.protection.end() ? area.initial : former->second;
-    try {
-        for (std::uintptr_t page = first; page <= last; page += PageSize()) {
-            area.protection[page] = protection;
-        }
-    } catch (const std::bad_alloc&) {
-        // Only the report of a former protection suffers.
-    }
     return TRUE;
 }

@@ -48,9 +48,8 @@ CaptionParts LayOutCaption(const Window* window, RECT windowRect);
 /// @returns the HT code of a screen point.
 LRESULT HitTest(HWND window, POINT point);
 
-/// Draws the frame within a region (in screen coordinates; 1: all of it). pressed: the HT code of a button that is
-/// held.
-void PaintFrame(HWND window, HRGN region, int pressed = HTNOWHERE);
+/// Draws the frame. pressed: the HT code of a button that is held.
+void PaintFrame(HWND window, int pressed = HTNOWHERE);
 
 /// The left button goes down on a part of the frame: moves, sizes, or tracks a button.
 void PressFrame(HWND window, int hitCode, POINT point);

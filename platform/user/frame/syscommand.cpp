@@ -153,12 +153,6 @@ void ShowHold(int part) {
     SetCursor(LoadCursorA(nullptr, MAKEINTRESOURCEA(shape)));
 }
 
-void SetMoveSize(HWND handle) {
-    ThreadState* self = CurrentThread();
-    const UserGuard guard(UserLock());
-    self->moveSize = handle;
-}
-
 /// One round of moving or sizing: where the window was, what of it follows, and how far by now.
 struct MoveDrag {
     HWND window;
@@ -237,7 +231,6 @@ void MoveOrSize(HWND handle, int part, bool byMouse, POINT from) {
         ShowHold(part);
     }
     SetCapture(handle);
-    SetMoveSize(handle);
     SendMessageA(handle, WM_ENTERSIZEMOVE, 0, 0);
     for (MSG message; NextMessage(handle, &message);) {
         int stepX = 0;
@@ -258,7 +251,6 @@ void MoveOrSize(HWND handle, int part, bool byMouse, POINT from) {
             break;
         }
     }
-    SetMoveSize(nullptr);
     if (GetCapture() == handle) {
         ReleaseCapture();
     }
@@ -279,7 +271,7 @@ bool HasJustClosedMenu(HWND handle) {
 bool TrackButton(HWND handle, int button) {
     bool inside = true;
     bool released = false;
-    PaintFrame(handle, reinterpret_cast<HRGN>(1), button);
+    PaintFrame(handle, button);
     SetCapture(handle);
     for (MSG message; !released && GetCapture() == handle && NextMessage(handle, &message);) {
         released = message.message == WM_LBUTTONUP;
@@ -287,7 +279,7 @@ bool TrackButton(HWND handle, int button) {
             const bool now = HitTest(handle, message.pt) == button;
             if (now != inside) {
                 inside = now;
-                PaintFrame(handle, reinterpret_cast<HRGN>(1), inside ? button : HTNOWHERE);
+                PaintFrame(handle, inside ? button : HTNOWHERE);
             }
         } else if (!IsInput(message.message)) {
             DispatchMessageA(&message);
@@ -296,7 +288,7 @@ bool TrackButton(HWND handle, int button) {
     if (GetCapture() == handle) {
         ReleaseCapture();
     }
-    PaintFrame(handle, reinterpret_cast<HRGN>(1));
+    PaintFrame(handle);
     return inside && released && PeekWindow(handle);
 }
 

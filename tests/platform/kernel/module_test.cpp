@@ -47,26 +47,18 @@ TEST(Modules, AMissingLibraryIsNotFound) {
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_MOD_NOT_FOUND));
 }
 
-std::string Bytes(LPCSTR name, LPCSTR type) {
-    HRSRC resource = FindResourceA(nullptr, name, type);
-    if (!resource) {
-        return "(none)";
-    }
-    const auto* data = static_cast<const char*>(LockResource(LoadResource(nullptr, resource)));
-    return {data, SizeofResource(nullptr, resource)};
-}
-
 TEST(Resources, ByNumberByNameAndByNumberInAName) {
-    const std::string text("raw\0data", 8);
-    EXPECT_EQ(Bytes(MAKEINTRESOURCEA(1000), MAKEINTRESOURCEA(10)), text);
-    EXPECT_EQ(Bytes("#1000", "#10"), text);
-    EXPECT_EQ(Bytes("Named", "OwnType"), "by name");
-    EXPECT_EQ(Bytes("NAMED", "OWNTYPE"), "by name");
+    HINSTANCE application = GetModuleHandleA(nullptr);
+    EXPECT_NE(LoadIconA(application, "SmallIcon"), nullptr);
+    EXPECT_EQ(LoadIconA(application, "SMALLICON"), LoadIconA(application, "SmallIcon"));
+    for (LPCSTR const name : {static_cast<LPCSTR>(MAKEINTRESOURCEA(3100)), static_cast<LPCSTR>("#3100")}) {
+        const HBITMAP bitmap = LoadBitmapA(application, name);
+        EXPECT_NE(bitmap, nullptr);
+        DeleteObject(bitmap);
+    }
     SetLastError(0);
-    EXPECT_EQ(FindResourceA(nullptr, "Absent", "OwnType"), nullptr);
+    EXPECT_EQ(LoadBitmapA(application, "Absent"), nullptr);
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_RESOURCE_NAME_NOT_FOUND));
-    EXPECT_EQ(FindResourceA(nullptr, "Named", "AbsentType"), nullptr);
-    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_RESOURCE_TYPE_NOT_FOUND));
 }
 
 TEST(Resources, StringsAreCutAtTheBuffer) {

@@ -135,24 +135,49 @@ inline BOOL DialogKey(HWND dialog, HWND window, WPARAM key, UINT message = WM_KE
     return IsDialogMessageA(dialog, &keyMessage);
 }
 
-/// Shift as the calling thread's GetKeyState sees it, for the life of the object.
-class ShiftHeld {
+/// A key held down, as the calling thread's GetKeyState sees it, for the life of the object. The thread has the keyboard.
+class KeyHeld {
   public:
-    ShiftHeld() {
-        Set(0x80);
+    explicit KeyHeld(WORD key) : key_(key) {
+        Set(true);
     }
-    ~ShiftHeld() {
-        Set(0);
+    ~KeyHeld() {
+        Set(false);
     }
+    KeyHeld(const KeyHeld&) = delete;
+    KeyHeld& operator=(const KeyHeld&) = delete;
 
   private:
-    static void Set(BYTE value) {
-        BYTE keys[256];
-        GetKeyboardState(keys);
-        keys[VK_SHIFT] = value;
-        SetKeyboardState(keys);
+    void Set(bool down) const {
+        INPUT input{};
+        input.type = INPUT_KEYBOARD;
+        input.ki.wVk = key_;
+        input.ki.dwFlags = down ? 0 : KEYEVENTF_KEYUP;
+        SendInput(1, &input, sizeof input);
+        MSG message;
+        for (int wait = 0; (GetKeyState(key_) < 0) != down && wait < 1000; ++wait) {
+            if (!PeekMessageA(&message, nullptr, WM_KEYFIRST, WM_KEYLAST, PM_REMOVE))
+                Sleep(1);
+        }
     }
+    WORD key_;
 };
+
+struct ShiftHeld : KeyHeld {
+    ShiftHeld() : KeyHeld(VK_SHIFT) {}
+};
+
+/// The edit control of a combo box, or the combo box itself where it has none.
+inline HWND ComboField(HWND combo) {
+    const HWND edit = FindWindowExA(combo, nullptr, "edit", nullptr);
+    return edit ? edit : combo;
+}
+
+/// The list of a combo box; where it drops down, of the one that was made last.
+inline HWND ComboList(HWND combo) {
+    const HWND child = FindWindowExA(combo, nullptr, "ComboLBox", nullptr);
+    return child ? child : FindWindowExA(nullptr, nullptr, "ComboLBox", nullptr);
+}
 
 /// A top-level window that can own dialogs and be activated.
 inline HWND MakeOwner(WNDPROC procedure = DefWindowProcA) {

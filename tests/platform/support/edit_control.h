@@ -44,6 +44,15 @@ class EditControl : public ::testing::Test {
         Send(edit, EM_SETSEL, static_cast<WPARAM>(start), end);
     }
 
+    /// Where a character begins: where the caret stands before it.
+    static POINT PlaceOf(HWND edit, int position) {
+        SetFocus(edit);
+        Select(edit, position, position);
+        POINT place{};
+        GetCaretPos(&place);
+        return place;
+    }
+
     static std::string Text(HWND edit) {
         char text[300] = "";
         GetWindowTextA(edit, text, sizeof text);
@@ -88,28 +97,6 @@ class EditControl : public ::testing::Test {
         }
         return DefWindowProcA(window, message, wParam, lParam);
     }
-};
-
-/// A key as the calling thread's GetKeyState sees it, for the life of the object.
-class KeyHeld {
-  public:
-    explicit KeyHeld(int key) : key_(key) {
-        Set(0x80);
-    }
-    ~KeyHeld() {
-        Set(0);
-    }
-    KeyHeld(const KeyHeld&) = delete;
-    KeyHeld& operator=(const KeyHeld&) = delete;
-
-  private:
-    void Set(BYTE value) const {
-        BYTE keys[256];
-        GetKeyboardState(keys);
-        keys[key_] = value;
-        SetKeyboardState(keys);
-    }
-    int key_;
 };
 
 }  // namespace tests

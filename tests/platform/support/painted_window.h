@@ -116,12 +116,11 @@ class PaintedWindows : public ::testing::Test {
 
     /// The colour that is seen at a point of a window's client area.
     static COLORREF PixelAt(HWND window, int x, int y) {
-        HWND top = GetAncestor(window, GA_ROOT);
         POINT point{x, y};
-        MapWindowPoints(window, top, &point, 1);
-        HDC context = GetDCEx(top, nullptr, DCX_CACHE);
-        const COLORREF colour = GetPixel(context, point.x, point.y);
-        ReleaseDC(top, context);
+        ClientToScreen(window, &point);
+        HDC screen = GetDC(nullptr);
+        const COLORREF colour = GetPixel(screen, point.x, point.y);
+        ReleaseDC(nullptr, screen);
         return colour;
     }
 

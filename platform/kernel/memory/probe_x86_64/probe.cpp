@@ -235,10 +235,6 @@ BOOL WINAPI IsBadWritePtr(LPVOID address, UINT_PTR bytes) {
     return bytes != 0 && !RangeIsGood<WriteTouch>(first, bytes);
 }
 
-BOOL WINAPI IsBadReadPtr(const void* address, UINT_PTR bytes) {
-    return !platform::kernel::IsReadable(address, bytes);
-}
-
 namespace platform::kernel {
 
 bool IsReadable(const void* memory, std::size_t size) {
@@ -262,11 +258,3 @@ std::size_t ProbeLength(const char* text, std::size_t most) {
 }
 
 }  // namespace platform::kernel
-
-BOOL WINAPI IsBadStringPtrA(LPCSTR text, UINT_PTR most) {
-    return platform::kernel::ProbeLength(text, most) == platform::kernel::kBadText;
-}
-
-BOOL WINAPI IsBadCodePtr(FARPROC procedure) {
-    return IsBadReadPtr(reinterpret_cast<const void*>(procedure), 1);
-}

@@ -48,7 +48,7 @@ LRESULT EditDialogCode(HWND edit, EditData& data, LPARAM lParam) {
 
 void OnSetFont(HWND edit, EditData& data, WPARAM font, bool redraw) {
     data.font = reinterpret_cast<HFONT>(font);
-    TakeFontMargins(edit, data, EC_LEFTMARGIN | EC_RIGHTMARGIN);
+    TakeFontMargin(edit, data);
     LayOut(edit, data);
     if (data.focused && GetFocus() == edit) {
         // The caret is as high as a line.
@@ -111,8 +111,19 @@ void OnScroll(HWND edit, EditData& data, WPARAM wParam) {
         case SB_THUMBTRACK:
             ScrollLines(edit, data, HIWORD(wParam) - static_cast<int>(data.firstLine));
             break;
+        case SB_LINEUP:
+            ScrollLines(edit, data, -1);
+            break;
+        case SB_LINEDOWN:
+            ScrollLines(edit, data, 1);
+            break;
+        case SB_PAGEUP:
+            ScrollLines(edit, data, -PageLines(data));
+            break;
+        case SB_PAGEDOWN:
+            ScrollLines(edit, data, PageLines(data));
+            break;
         default:
-            SendMessageA(edit, EM_SCROLL, LOWORD(wParam), 0);
             break;
     }
 }
@@ -262,7 +273,6 @@ LRESULT Handle(HWND edit, EditData& data, UINT message, WPARAM wParam, LPARAM lP
         case WM_ERASEBKGND:
             return TRUE;
         case WM_PAINT:
-        case WM_PRINTCLIENT:
             OnPaint(edit, data, reinterpret_cast<HDC>(wParam));
             return 0;
         case WM_ENABLE:
@@ -285,7 +295,7 @@ LRESULT Handle(HWND edit, EditData& data, UINT message, WPARAM wParam, LPARAM lP
         case WM_UNDO:
             return OnTextMessage(edit, data, message, wParam, lParam);
         default:
-            if (message >= EM_GETSEL && message <= EM_CHARFROMPOS) {
+            if (message >= EM_GETSEL && message <= EM_GETLIMITTEXT) {
                 return OnTextMessage(edit, data, message, wParam, lParam);
             }
             return OnInput(edit, data, message, wParam, lParam);

@@ -51,13 +51,11 @@ TEST(FileNames, ChoicesAreWrittenWithTheirOffsets) {
     record.nMaxFile = sizeof buffer;
     record.lpstrFileTitle = title;
     record.nMaxFileTitle = sizeof title;
-    record.lpstrDefExt = "doc";
     EXPECT_EQ(0U, WriteChoice(record, {"C:\\dir", {"a.txt"}}));
     EXPECT_STREQ("C:\\dir\\a.txt", buffer);
     EXPECT_STREQ("a.txt", title);
     EXPECT_EQ(7, record.nFileOffset);
     EXPECT_EQ(9, record.nFileExtension);
-    EXPECT_NE(0U, record.Flags & OFN_EXTENSIONDIFFERENT);
 
     record.Flags = OFN_ALLOWMULTISELECT;
     EXPECT_EQ(0U, WriteChoice(record, {"C:\\dir", {"a.txt", "b.txt"}}));

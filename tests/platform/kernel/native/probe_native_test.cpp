@@ -4,6 +4,7 @@
 
 #include <csetjmp>
 #include <csignal>
+#include <cstring>
 #include <sys/mman.h>
 #include <ucontext.h>
 #include <unistd.h>
@@ -22,17 +23,27 @@ TEST(MemoryProbe, FindsUnmappedAndReadOnlyPagesWithinARange) {
     munmap(area + page * 3, page);
     EXPECT_FALSE(IsBadWritePtr(area, page));
     EXPECT_TRUE(IsBadWritePtr(area, page + 1));
-    EXPECT_FALSE(IsBadReadPtr(area, page + 1));
     EXPECT_TRUE(IsBadWritePtr(area + page - 4, 8));
     EXPECT_FALSE(IsBadWritePtr(area + page * 2, page));
-    EXPECT_TRUE(IsBadReadPtr(area + page * 3 - 1, 2));
+    EXPECT_TRUE(IsBadWritePtr(area + page * 3 - 1, 2));
     EXPECT_TRUE(IsBadWritePtr(area, page * 3));
+
+    // A text that runs into a page without access.
+    mprotect(area + page, page, PROT_NONE);
+    std::memset(area, 'x', page);
+    char copy[8] = "kept";
+    EXPECT_EQ(lstrlenA(area), 0);
+    EXPECT_EQ(lstrcpyA(copy, area + page - 4), nullptr);
+    EXPECT_STREQ(copy, "kept");
+    EXPECT_EQ(lstrcpynA(copy, area + page - 4, 5), copy);
+    EXPECT_STREQ(copy, "xxxx");
+    EXPECT_EQ(GlobalHandle(area + page + 16), nullptr);
     munmap(area, page * 3);
 }
 
 TEST(MemoryProbe, NonCanonicalAddressesAreBad) {
     EXPECT_TRUE(IsBadWritePtr(reinterpret_cast<void*>(0x8000000000000000u), 8));
-    EXPECT_TRUE(IsBadReadPtr(reinterpret_cast<void*>(0xDEADBEEFDEADBEEFu), 8));
+    EXPECT_EQ(lstrlenA(reinterpret_cast<LPCSTR>(0xDEADBEEFDEADBEEFu)), 0);
 }
 
 TEST(MemoryProbe, LosesNoWriteOfAnotherThread) {

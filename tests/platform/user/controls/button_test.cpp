@@ -191,39 +191,6 @@ TEST_F(ButtonTest, OwnerDrawing) {
     EXPECT_TRUE(drawn.itemState & ODS_DISABLED);
 }
 
-TEST_F(ButtonTest, APictureTakesThePlaceOfTheText) {
-    const HDC screen = GetDC(nullptr);
-    const HBITMAP bitmap = CreateCompatibleBitmap(screen, 10, 10);
-    const HDC memory = CreateCompatibleDC(screen);
-    const HGDIOBJ previous = SelectObject(memory, bitmap);
-    const HBRUSH red = CreateSolidBrush(RGB(255, 0, 0));
-    const RECT all{0, 0, 10, 10};
-    FillRect(memory, &all, red);
-    SelectObject(memory, previous);
-    DeleteDC(memory);
-    DeleteObject(red);
-    ReleaseDC(nullptr, screen);
-    const auto image = reinterpret_cast<LPARAM>(bitmap);
-    const auto redPixels = [&](DWORD style) {
-        const HWND button = Make(style);
-        EXPECT_EQ(0, Send(button, BM_SETIMAGE, IMAGE_BITMAP, image));
-        EXPECT_EQ(image, Send(button, BM_GETIMAGE, IMAGE_BITMAP));
-        InvalidateRect(button, nullptr, TRUE);
-        UpdateWindow(button);
-        const HDC context = GetDC(button);
-        int count = 0;
-        for (int i = 0; i < 80 * 24; ++i)
-            count += GetPixel(context, i % 80, i / 80) == RGB(255, 0, 0);
-        ReleaseDC(button, context);
-        EXPECT_EQ(image, Send(button, BM_SETIMAGE, IMAGE_BITMAP, 0)) << "the one before";
-        DestroyWindow(button);
-        return count;
-    };
-    EXPECT_EQ(100, redPixels(BS_PUSHBUTTON | BS_BITMAP));
-    EXPECT_EQ(100, redPixels(BS_AUTOCHECKBOX | BS_BITMAP));
-    EXPECT_TRUE(DeleteObject(bitmap));
-}
-
 TEST_F(ButtonTest, StyleChangesKeepTheOtherStyles) {
     const HWND button = Make(BS_PUSHBUTTON | BS_NOTIFY | BS_MULTILINE | WS_TABSTOP);
     const LONG before = GetWindowLongA(button, GWL_STYLE);

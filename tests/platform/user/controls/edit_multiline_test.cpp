@@ -66,12 +66,14 @@ TEST_F(EditLines, EnterBreaksTheLineAndKeysGoUpAndDown) {
 TEST_F(EditLines, ScrollsLinesAndFollowsTheCaret) {
     const HWND edit = MakeLines(ES_AUTOHSCROLL | ES_AUTOVSCROLL, "1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n7\r\n8\r\n9");
     EXPECT_TRUE(Send(edit, EM_LINESCROLL, 0, 3));
-    EXPECT_EQ(3, Send(edit, EM_GETFIRSTVISIBLELINE));
-    EXPECT_EQ(MAKELONG(-1, TRUE), Send(edit, EM_SCROLL, SB_LINEUP));
-    EXPECT_EQ(2, Send(edit, EM_GETFIRSTVISIBLELINE));
-    Select(edit, 0, 0);
+    const LONG top = PlaceOf(edit, 9).y;
+    const LONG height = PlaceOf(edit, 12).y - top;
+    EXPECT_GT(height, 0);
+    EXPECT_EQ(top - 3 * height, PlaceOf(edit, 0).y) << "the first line is the third above the window";
+    Send(edit, WM_VSCROLL, SB_LINEUP);
+    EXPECT_EQ(top - 2 * height, PlaceOf(edit, 0).y);
     Send(edit, EM_SCROLLCARET);
-    EXPECT_EQ(0, Send(edit, EM_GETFIRSTVISIBLELINE));
+    EXPECT_EQ(top, PlaceOf(edit, 0).y);
 }
 
 TEST_F(EditLines, OnlyTheUsersChangesAreTold) {

@@ -129,9 +129,9 @@ TEST_F(EditTest, WithoutScrollingTheTextEndsAtTheEdge) {
     for (int i = 0; i < 40; ++i)
         Type(scrolling, "W");
     EXPECT_EQ(40, GetWindowTextLengthA(scrolling));
-    EXPECT_GT(Send(scrolling, EM_GETFIRSTVISIBLELINE), 0) << "the caret has drawn the text along";
+    EXPECT_LT(PlaceOf(scrolling, 0).x, 0) << "the caret has drawn the text along";
     Key(scrolling, VK_HOME);
-    EXPECT_EQ(0, Send(scrolling, EM_GETFIRSTVISIBLELINE));
+    EXPECT_GE(PlaceOf(scrolling, 0).x, 0);
 }
 
 TEST_F(EditTest, SetTextStartsAfresh) {
@@ -214,33 +214,20 @@ TEST_F(EditTest, FocusIsToldAndTheCaretFollowsTheText) {
     const HWND edit = Make(ES_AUTOHSCROLL, "hello");
     SetFocus(edit);
     EXPECT_EQ(Codes{EN_SETFOCUS}, TakeNotified());
-    Select(edit, 3, 3);
-    POINT caret{};
-    GetCaretPos(&caret);
-    const LRESULT place = Send(edit, EM_POSFROMCHAR, 3);
-    EXPECT_NEAR(static_cast<short>(LOWORD(place)), caret.x, 1);
+    int previous = -1;
+    for (int position = 0; position <= 5; ++position) {
+        const POINT caret = PlaceOf(edit, position);
+        EXPECT_GT(caret.x, previous);
+        previous = caret.x;
+    }
     SetFocus(parent_);
     EXPECT_EQ(Codes{EN_KILLFOCUS}, TakeNotified());
+    POINT caret{};
     EXPECT_FALSE(GetCaretPos(&caret) && GetFocus() == edit);
 }
 
-TEST_F(EditTest, PlacesAndPositionsFitTogether) {
+TEST_F(EditTest, OneLineByNumber) {
     const HWND edit = Make(ES_AUTOHSCROLL, "hello");
-    RECT format{};
-    Send(edit, EM_GETRECT, 0, reinterpret_cast<LPARAM>(&format));
-    int previous = -1;
-    for (int position = 0; position < 5; ++position) {
-        const LRESULT place = Send(edit, EM_POSFROMCHAR, static_cast<WPARAM>(position));
-        const int x = static_cast<short>(LOWORD(place));
-        const int y = static_cast<short>(HIWORD(place));
-        EXPECT_GT(x, previous);
-        previous = x;
-        const LRESULT found = Send(edit, EM_CHARFROMPOS, 0, MAKELPARAM(x + 1, y + 3));
-        EXPECT_EQ(position, LOWORD(found));
-        EXPECT_EQ(0, HIWORD(found));
-    }
-    EXPECT_EQ(-1, static_cast<int>(Send(edit, EM_POSFROMCHAR, 5))) << "behind the last character";
-    EXPECT_EQ(5, LOWORD(Send(edit, EM_CHARFROMPOS, 0, MAKELPARAM(100, 5))));
     EXPECT_EQ(5, Send(edit, EM_LINELENGTH, 0));
     EXPECT_EQ(0, Send(edit, EM_LINEINDEX, 0));
     char line[8] = {4, 0, 'x', 'x', 'x', 'x', 'x', 'x'};
@@ -249,20 +236,10 @@ TEST_F(EditTest, PlacesAndPositionsFitTogether) {
     EXPECT_FALSE(Send(edit, EM_LINESCROLL, 1, 1)) << "not for a single line";
 }
 
-TEST_F(EditTest, MarginsMoveTheText) {
-    const HWND edit = Make(ES_AUTOHSCROLL, "hello");
-    Send(edit, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(7, 9));
-    EXPECT_EQ(MAKELONG(7, 9), Send(edit, EM_GETMARGINS));
-    const int before = static_cast<short>(LOWORD(Send(edit, EM_POSFROMCHAR, 0)));
-    Send(edit, EM_SETMARGINS, EC_LEFTMARGIN, MAKELPARAM(17, 0));
-    EXPECT_EQ(MAKELONG(17, 9), Send(edit, EM_GETMARGINS));
-    EXPECT_EQ(before + 10, static_cast<short>(LOWORD(Send(edit, EM_POSFROMCHAR, 0))));
-}
-
 TEST_F(EditTest, AlignmentMovesTheText) {
-    const int left = static_cast<short>(LOWORD(Send(Make(ES_AUTOHSCROLL, "ab"), EM_POSFROMCHAR, 0)));
-    const int centre = static_cast<short>(LOWORD(Send(Make(ES_CENTER, "ab"), EM_POSFROMCHAR, 0)));
-    const int right = static_cast<short>(LOWORD(Send(Make(ES_RIGHT, "ab"), EM_POSFROMCHAR, 0)));
+    const LONG left = PlaceOf(Make(ES_AUTOHSCROLL, "ab"), 0).x;
+    const LONG centre = PlaceOf(Make(ES_CENTER, "ab"), 0).x;
+    const LONG right = PlaceOf(Make(ES_RIGHT, "ab"), 0).x;
     EXPECT_GT(centre, left + 20);
     EXPECT_GT(right, centre + 20);
 }
@@ -274,9 +251,8 @@ TEST_F(EditTest, PasswordIsShownAsSomethingElse) {
     Send(edit, EM_SETPASSWORDCHAR, '#');
     EXPECT_EQ('#', Send(edit, EM_GETPASSWORDCHAR));
     // Every character is as wide as the next.
-    const int first = static_cast<short>(LOWORD(Send(edit, EM_POSFROMCHAR, 1)));
-    const int start = static_cast<short>(LOWORD(Send(edit, EM_POSFROMCHAR, 0)));
-    EXPECT_EQ(start + 5 * (first - start), static_cast<short>(LOWORD(Send(edit, EM_POSFROMCHAR, 5))));
+    const LONG start = PlaceOf(edit, 0).x;
+    EXPECT_EQ(start + 5 * (PlaceOf(edit, 1).x - start), PlaceOf(edit, 5).x);
     Send(edit, EM_SETPASSWORDCHAR, 0);
     EXPECT_FALSE(GetWindowLongA(edit, GWL_STYLE) & ES_PASSWORD);
 }
@@ -284,25 +260,30 @@ TEST_F(EditTest, PasswordIsShownAsSomethingElse) {
 TEST_F(EditTest, MouseSelects) {
     const HWND edit = Make(ES_AUTOHSCROLL, "one two three", 200);
     const auto at = [edit](int position) {
-        const LRESULT place = Send(edit, EM_POSFROMCHAR, static_cast<WPARAM>(position));
-        return MAKELPARAM(LOWORD(place) + 1, HIWORD(place) + 3);
+        const POINT place = PlaceOf(edit, position);
+        return MAKELPARAM(place.x + 1, place.y + 3);
     };
-    Send(edit, WM_LBUTTONDOWN, MK_LBUTTON, at(2));
+    const LPARAM first = at(1);
+    const LPARAM second = at(2);
+    const LPARAM fifth = at(5);
+    const LPARAM ninth = at(9);
+    SetFocus(parent_);
+    Send(edit, WM_LBUTTONDOWN, MK_LBUTTON, second);
     EXPECT_EQ(edit, GetFocus());
     EXPECT_EQ(edit, GetCapture());
-    Send(edit, WM_MOUSEMOVE, MK_LBUTTON, at(5));
+    Send(edit, WM_MOUSEMOVE, MK_LBUTTON, fifth);
     EXPECT_EQ("on[e t]wo three", Marked(edit));
-    Send(edit, WM_LBUTTONUP, 0, at(5));
+    Send(edit, WM_LBUTTONUP, 0, fifth);
     EXPECT_NE(edit, GetCapture());
-    Send(edit, WM_MOUSEMOVE, 0, at(9));
+    Send(edit, WM_MOUSEMOVE, 0, ninth);
     EXPECT_EQ("on[e t]wo three", Marked(edit)) << "the drag has ended";
-    Send(edit, WM_LBUTTONDOWN, MK_LBUTTON | MK_SHIFT, at(1));
-    Send(edit, WM_LBUTTONUP, 0, at(1));
+    Send(edit, WM_LBUTTONDOWN, MK_LBUTTON | MK_SHIFT, first);
+    Send(edit, WM_LBUTTONUP, 0, first);
     EXPECT_EQ("o[n]e two three", Marked(edit)) << "Shift keeps the anchor";
-    Send(edit, WM_LBUTTONDOWN, MK_LBUTTON, at(5));
-    Send(edit, WM_LBUTTONUP, 0, at(5));
-    Send(edit, WM_LBUTTONDBLCLK, MK_LBUTTON, at(5));
-    Send(edit, WM_LBUTTONUP, 0, at(5));
+    Send(edit, WM_LBUTTONDOWN, MK_LBUTTON, fifth);
+    Send(edit, WM_LBUTTONUP, 0, fifth);
+    Send(edit, WM_LBUTTONDBLCLK, MK_LBUTTON, fifth);
+    Send(edit, WM_LBUTTONUP, 0, fifth);
     EXPECT_EQ("one [two ]three", Marked(edit));
 }
 

@@ -94,7 +94,7 @@ TEST_F(DialogKeyboardTest, TabGoesThroughReachableStopsAndPagesAndAround) {
         Press(VK_TAB);
         EXPECT_EQ(expected, Focus());
     }
-    const tests::ShiftHeld shift;
+    const tests::KeyHeld shift(VK_SHIFT);
     for (const int expected : {int{IDCANCEL}, int{IDOK}, kInPage, kAfter, kRadio1, kField}) {
         Press(VK_TAB);
         EXPECT_EQ(expected, Focus());

@@ -201,7 +201,6 @@ TEST_F(DialogTest, TheFocusComesBackWithTheActivation) {
 INT_PTR CALLBACK AnsweringProcedure(HWND dialog, UINT message, WPARAM, LPARAM) {
     switch (message) {
         case WM_CTLCOLORSTATIC:
-        case WM_COMPAREITEM:
         case WM_VKEYTOITEM:
             SetWindowLongPtrA(dialog, DWLP_MSGRESULT, 1);
             return 77;
@@ -220,7 +219,6 @@ TEST_F(DialogTest, AnswersOfTheDialogProcedure) {
     builder.Title("");
     dialog_ = CreateDialogIndirectParamA(nullptr, builder.Data(), nullptr, AnsweringProcedure, 0);
     ASSERT_NE(nullptr, dialog_);
-    EXPECT_EQ(77, SendMessageA(dialog_, WM_COMPAREITEM, 0, 0));
     EXPECT_EQ(77, SendMessageA(dialog_, WM_VKEYTOITEM, 0, 0));
     EXPECT_EQ(4711, SendMessageA(dialog_, WM_USER + 7, 0, 0));
     EXPECT_EQ(0, SendMessageA(dialog_, WM_USER + 8, 0, 0)) << "an earlier result is not reused";

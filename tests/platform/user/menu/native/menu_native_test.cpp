@@ -97,18 +97,11 @@ class OpenMenus : public EditControl {
 
     /// @returns the menu that is open.
     static HWND Menu() {
-        HWND found = nullptr;
-        EnumWindows(
-            [](HWND each, LPARAM result) -> BOOL {
-                char name[16] = "";
-                GetClassNameA(each, name, sizeof name);
-                if (lstrcmpA(name, "#32768") == 0 && IsWindowVisible(each)) {
-                    *reinterpret_cast<HWND*>(result) = each;
-                }
-                return TRUE;
-            },
-            reinterpret_cast<LPARAM>(&found));
-        return found;
+        HWND each = nullptr;
+        do {
+            each = FindWindowExA(nullptr, each, "#32768", nullptr);
+        } while (each != nullptr && !IsWindowVisible(each));
+        return each;
     }
     static RECT PlaceOf(HWND handle) {
         RECT rect{};

@@ -76,8 +76,6 @@ TEST_F(MessagesNativeTest, CaretGoesWithItsWindow) {
 
 TEST_F(MessagesNativeTest, CaretShowsOnTheScreen) {
     UpdateWindow(window);
-    const UINT blink = GetCaretBlinkTime();
-    SetCaretBlinkTime(60000);
     ASSERT_TRUE(CreateCaret(window, reinterpret_cast<HBITMAP>(static_cast<UINT_PTR>(1)), 4, 4));
     SetCaretPos(30, 40);
     ShowCaret(window);
@@ -103,7 +101,6 @@ TEST_F(MessagesNativeTest, CaretShowsOnTheScreen) {
         }
     }
     ReleaseDC(nullptr, screen);
-    SetCaretBlinkTime(blink);
 }
 
 TEST_F(MessagesNativeTest, ModifiersKeepTheirSides) {

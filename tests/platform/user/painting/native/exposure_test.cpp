@@ -97,19 +97,6 @@ TEST_F(Exposure, ParentsComeBeforeChildrenAndTakeThemAlong) {
     EXPECT_EQ(PixelAt(parent, 60, 15), kRed);
 }
 
-TEST_F(Exposure, ParentContextsReachBeyondTheChild) {
-    Register("PaintedParent", CS_PARENTDC);
-    HWND parent = Make(kPlain, 10, 10, 100, 80, ground, kRed);
-    HWND child = Make(WS_CHILD | WS_VISIBLE, 10, 10, 20, 20, parent, kGreen, 0, "PaintedParent");
-    Settle();
-    HDC context = GetDC(child);
-    SetPixel(context, 50, 30, kYellow);
-    SetPixel(context, 200, 30, kYellow);
-    ReleaseDC(child, context);
-    EXPECT_EQ(PixelAt(parent, 60, 40), kYellow);
-    EXPECT_EQ(PixelAt(ground, 220, 50), RGB(0, 0, 128));
-}
-
 TEST_F(Exposure, TheDesktopShowsItsColour) {
     HWND window = Make(kTop, 500, 400, 60, 60, nullptr, kRed);
     Settle();
