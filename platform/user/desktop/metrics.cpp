@@ -6,6 +6,7 @@
 #include "gdi/context/device_context.h"
 #include "gdi/context/syscolors.h"
 #include "gdi/surface/screen.h"
+#include "user/desktop/room.h"
 #include "user/message/queue.h"
 #include "user/model/window.h"
 #include "user/painting/painting.h"
@@ -13,21 +14,34 @@
 
 using namespace platform::user;
 
+namespace {
+
+int Width(const RECT& rect) {
+    return rect.right - rect.left;
+}
+
+int Height(const RECT& rect) {
+    return rect.bottom - rect.top;
+}
+
+}  // namespace
+
 int WINAPI GetSystemMetrics(int index) {
     switch (index) {
         case SM_CXSCREEN:
         case SM_CXVIRTUALSCREEN:
-        case SM_CXFULLSCREEN:
             return platform::gdi::Screen().width;
         case SM_CYSCREEN:
         case SM_CYVIRTUALSCREEN:
             return platform::gdi::Screen().height;
+        case SM_CXFULLSCREEN:
+            return Width(WorkArea());
         case SM_CYFULLSCREEN:
-            return platform::gdi::Screen().height - GetSystemMetrics(SM_CYCAPTION);
+            return Height(WorkArea()) - GetSystemMetrics(SM_CYCAPTION);
         case SM_CXMAXIMIZED:
-            return platform::gdi::Screen().width + 2 * GetSystemMetrics(SM_CXSIZEFRAME);
+            return Width(WorkArea()) + 2 * GetSystemMetrics(SM_CXSIZEFRAME);
         case SM_CYMAXIMIZED:
-            return platform::gdi::Screen().height + 2 * GetSystemMetrics(SM_CYSIZEFRAME);
+            return Height(WorkArea()) + 2 * GetSystemMetrics(SM_CYSIZEFRAME);
         case SM_CXMAXTRACK:
             return platform::gdi::Screen().width + 12;
         case SM_CYMAXTRACK:
@@ -183,7 +197,7 @@ BOOL Apply(UINT action, UINT parameter, PVOID data) {
             settings.wheelLines = parameter;
             return TRUE;
         case SPI_GETWORKAREA:
-            *static_cast<RECT*>(data) = {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+            *static_cast<RECT*>(data) = WorkArea();
             return TRUE;
         case SPI_GETICONTITLELOGFONT:
             *static_cast<LOGFONTA*>(data) = DialogFont(FW_NORMAL);

@@ -223,8 +223,13 @@ MINMAXINFO QueryMinMax(HWND handle) {
         const UserGuard guard(UserLock());
         const Window* window = PeekWindow(handle);
         const int frame = window ? FrameWidth(window->style, window->exStyle) : 0;
-        // A maximised child fills its parent's client area, other windows the screen.
-        const RECT ground = window && window->parent ? window->parent->clientRect : Desktop()->clientRect;
+        // A maximised child fills its parent's client area, other windows the work area.
+        RECT ground{};
+        if (window && window->parent && window->parent != Desktop()) {
+            ground = window->parent->clientRect;
+        } else {
+            SystemParametersInfoA(SPI_GETWORKAREA, 0, &ground, 0);
+        }
         limits.ptMaxSize = {ground.right - ground.left + 2 * frame, ground.bottom - ground.top + 2 * frame};
         limits.ptMaxPosition = {-frame, -frame};
         // The least size has room for a caption with its buttons; a mere frame needs its own edges only.

@@ -5,6 +5,7 @@
 #include "user/model/thread.h"
 #include "user/model/window.h"
 #include "user/painting/painting.h"
+#include "user/window/tree.h"
 
 using namespace platform::user;
 

@@ -3,7 +3,6 @@
 #include <new>
 #include <vector>
 
-#include "gdi/surface/screen.h"
 #include "user/input/input.h"
 #include "user/model/thread.h"
 #include "user/painting/painting.h"
@@ -49,9 +48,14 @@ Plan PlanOf(int show) {
     }
 }
 
-/// The area that a maximised window fills and minimised ones line up in: the screen, or the parent's client area.
+/// The area that a maximised window fills and minimised ones line up in: the work area, or the parent's client area.
 RECT Ground(const Window* window) {
-    return window->parent == nullptr || window->parent == Desktop() ? gdi::ScreenRect() : window->parent->clientRect;
+    if (window->parent != nullptr && window->parent != Desktop()) {
+        return window->parent->clientRect;
+    }
+    RECT area{};
+    SystemParametersInfoA(SPI_GETWORKAREA, 0, &area, 0);
+    return area;
 }
 
 /// The first free place of a row along the lower edge.
