@@ -4,7 +4,7 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <cstring>
+#include <utility>
 
 namespace platform::display {
 namespace {
@@ -57,7 +57,7 @@ bool Passed(std::uint32_t time) {
 }  // namespace
 
 Desktop::~Desktop() {
-    mouse.ReleaseAll();
+    mouse.Release();
     windows.clear();
     if (helper != nullptr) {
         SDL_DestroyWindow(helper);
@@ -161,6 +161,9 @@ void Desktop::HandleHost(const HostEvent& event) {
                 }
             }
             break;
+        case HostEvent::Kind::Loosened:
+            loosened = true;
+            break;
         case HostEvent::Kind::Room:
             if (const Room now = AskRoom(); now != room) {
                 room = now;
@@ -232,10 +235,11 @@ void Desktop::Settle() {
         verdict = 0;
         if (focused == 0) {
             keyboard.ReleaseAll();
-            mouse.ReleaseAll();
+            mouse.Release();
             sink.activated(0);
         }
     }
+    FollowCapture();
 }
 
 int Desktop::Patience() const {
@@ -267,7 +271,7 @@ void Desktop::TakePicture() {
     std::vector<Box> parts = dirty;
     for (const Pane& pane : scene.panes) {
         if (HostWindow* window = Find(pane.id); window != nullptr && !(managed && pane.minimised)) {
-            window->Copy(picture, parts);
+            window->Copy(picture, pane.place, parts);
         }
         if (!parts.empty()) {
             Without(parts, pane.place);
@@ -342,7 +346,7 @@ void Desktop::CompleteFresh() {
     const Picture picture = source.picture();
     for (const auto& [id, window] : windows) {
         if (window->IsFresh()) {
-            window->Copy(picture, {});
+            window->Copy(picture, window->Shown().place, {});
         }
     }
     source.unlock();
@@ -420,16 +424,25 @@ void Desktop::FollowActive() {
     }
 }
 
-// Where a button is held the host gives all of the mouse to the window that was pressed in.
+// Where a button is held the host gives all of the mouse to the window that was pressed in, until SDL meddles.
 void Desktop::FollowCapture() {
-    if (mouse.AnyHeld() || scene.captured == grabbed) {
-        return;
+    const bool held = mouse.AnyHeld();
+    const bool renewed = std::exchange(loosened, false) && (held || grabbed);
+    if (renewed || (scene.captured && !held && !grabbed)) {
+        const HostWindow* window = Find(focused);
+        if (window == nullptr && !windows.empty()) {
+            window = windows.begin()->second.get();
+        }
+        grabbed = window != nullptr && host.Grab(window->Window());
     }
-    if (grabbed) {
+    if (renewed && held) {
+        const Pointer pointer = host.AskPointer();
+        mouse.Move(ToScreen(pointer.place));
+        mouse.Release(pointer.buttons);
+    }
+    if (grabbed && !mouse.AnyHeld() && !scene.captured) {
         host.Ungrab();
         grabbed = false;
-    } else if (const HostWindow* window = Find(scene.active); window != nullptr) {
-        grabbed = host.Grab(window->Window());
     }
 }
 

@@ -93,9 +93,9 @@ void HostWindow::SetIcon(const IconImage& image) {
 }
 
 // Whole multiples keep every pixel sharp.
-void HostWindow::Blit(SDL_Surface* picture, SDL_Surface* surface, const Box& part) {
+void HostWindow::Blit(SDL_Surface* picture, SDL_Surface* surface, const Box& part, const Box& place) {
     SDL_Rect from{part.left, part.top, part.Width(), part.Height()};
-    SDL_Rect to{(part.left - pane.place.left) * scale, (part.top - pane.place.top) * scale, part.Width() * scale,
+    SDL_Rect to{(part.left - place.left) * scale, (part.top - place.top) * scale, part.Width() * scale,
                 part.Height() * scale};
     const SDL_Rect shown = to;
     if (scale == 1) {
@@ -110,7 +110,7 @@ void HostWindow::Blit(SDL_Surface* picture, SDL_Surface* surface, const Box& par
     }
 }
 
-void HostWindow::Copy(const Picture& picture, const std::vector<Box>& parts) {
+void HostWindow::Copy(const Picture& picture, const Box& place, const std::vector<Box>& parts) {
     SDL_Surface* surface = SDL_GetWindowSurface(window);
     if (surface == nullptr || (parts.empty() && !fresh)) {
         return;
@@ -121,15 +121,15 @@ void HostWindow::Copy(const Picture& picture, const std::vector<Box>& parts) {
     if (all == nullptr) {
         return;
     }
-    const Box room = Cut(pane.place, {0, 0, picture.width, picture.height});
+    const Box room = Cut(place, {0, 0, picture.width, picture.height});
     if (fresh) {
-        Blit(all, surface, room);
+        Blit(all, surface, room, place);
         fresh = false;
         exposed = true;
     } else {
         for (const Box& part : parts) {
             if (const Box inside = Cut(part, room); !inside.Empty()) {
-                Blit(all, surface, inside);
+                Blit(all, surface, inside, place);
             }
         }
     }

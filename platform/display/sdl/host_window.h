@@ -29,9 +29,9 @@ class HostWindow {
     void Follow(const Pane& pane, SDL_Window* owner, bool managed);
     void SetIcon(const IconImage& image);
 
-    /// Takes over parts of the screen's picture that show the pane, in coordinates of the screen; all of it where the window
-    /// has none yet.
-    void Copy(const Picture& picture, const std::vector<Box>& parts);
+    /// Takes over parts of the screen's picture, in its coordinates, where they show the pane, which lies at `place` there; all
+    /// of it where the window has none yet.
+    void Copy(const Picture& picture, const Box& place, const std::vector<Box>& parts);
     /// Shows what was taken over, or all. @returns false when that cannot be done now.
     bool Show();
 
@@ -63,7 +63,7 @@ class HostWindow {
 
   private:
     void Ask(const Box& place);
-    void Blit(SDL_Surface* picture, SDL_Surface* surface, const Box& part);
+    void Blit(SDL_Surface* picture, SDL_Surface* surface, const Box& part, const Box& place);
     Box OnHost(const Box& place) const {
         return {place.left * scale, place.top * scale, place.right * scale, place.bottom * scale};
     }

@@ -6,21 +6,24 @@
 #include <iterator>
 
 namespace platform::display {
+namespace {
+
+constexpr int kButtons[] = {SDL_BUTTON_LEFT, SDL_BUTTON_RIGHT, SDL_BUTTON_MIDDLE};
+
+}  // namespace
 
 void Mouse::Button(int button, bool down, SDL_Point place) {
-    static constexpr int kButtons[] = {SDL_BUTTON_LEFT, SDL_BUTTON_RIGHT, SDL_BUTTON_MIDDLE};
     const auto* found = std::find(std::begin(kButtons), std::end(kButtons), button);
     if (found == std::end(kButtons)) {
         return;
     }
-    const int number = static_cast<int>(found - std::begin(kButtons));
-    const unsigned bit = 1U << number;
+    const unsigned bit = SDL_BUTTON(button);
     if (down == ((held & bit) != 0)) {
         return;  // released for it when the focus went away, or pressed while another window had it
     }
     held ^= bit;
     Move(place);
-    sink.mouseButton(number, down);
+    sink.mouseButton(static_cast<int>(found - std::begin(kButtons)), down);
 }
 
 void Mouse::Move(SDL_Point place) {
@@ -33,12 +36,12 @@ void Mouse::Wheel(int notches) {
     }
 }
 
-void Mouse::ReleaseAll() {
-    for (int button = 0; held != 0; ++button) {
-        const unsigned bit = 1U << button;
-        if ((held & bit) != 0) {
+void Mouse::Release(unsigned still) {
+    for (int number = 0; number < static_cast<int>(std::size(kButtons)); ++number) {
+        const unsigned bit = SDL_BUTTON(kButtons[number]);
+        if ((held & bit & ~still) != 0) {
             held &= ~bit;
-            sink.mouseButton(button, false);
+            sink.mouseButton(number, false);
         }
     }
 }

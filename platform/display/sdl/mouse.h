@@ -18,8 +18,8 @@ class Mouse {
     /// @param notches positive away from the user.
     void Wheel(int notches);
 
-    /// What happens from now on is not seen: whatever is held goes up.
-    void ReleaseAll();
+    /// Whatever is held goes up but for those of `still` (SDL_BUTTON_LMASK ...): what happens elsewhere is not seen.
+    void Release(unsigned still = 0);
 
     bool AnyHeld() const {
         return held != 0;

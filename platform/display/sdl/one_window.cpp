@@ -21,7 +21,7 @@ SDL_Point FittingSize(int width, int height) {
 }  // namespace
 
 OneWindow::~OneWindow() {
-    mouse.ReleaseAll();
+    mouse.Release();
     view.Detach();
     if (window != nullptr) {
         SDL_DestroyWindow(window);
@@ -70,7 +70,7 @@ void OneWindow::HandleWindow(const SDL_WindowEvent& event) {
             break;
         case SDL_WINDOWEVENT_FOCUS_LOST:
             keyboard.ReleaseAll();
-            mouse.ReleaseAll();
+            mouse.Release();
             SDL_CaptureMouse(SDL_FALSE);
             break;
         case SDL_WINDOWEVENT_CLOSE:

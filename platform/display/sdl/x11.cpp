@@ -138,8 +138,13 @@ bool X11::HasManager() const {
 void X11::Describe(SDL_Window* target, const HostHints& hints) {
     ::Display* display = To(connection);
     const Window window = IdOf(target);
-    // SDL has chosen its own when it made the window.
+    // SDL has chosen other events of the root when it made the window, and gives the mouse free whenever the pointer enters
+    // one: also one that is dragged.
     XSelectInput(display, root, PropertyChangeMask | StructureNotifyMask);
+    XWindowAttributes attributes{};
+    if (XGetWindowAttributes(display, window, &attributes) != 0) {
+        XSelectInput(display, window, attributes.your_event_mask & ~(EnterWindowMask | LeaveWindowMask));
+    }
     if (hints.owner != nullptr) {
         XSetTransientForHint(display, window, IdOf(hints.owner));
     } else {
@@ -241,6 +246,19 @@ void X11::Ungrab() {
     XFlush(To(connection));
 }
 
+Pointer X11::AskPointer() const {
+    Pointer pointer;
+    Window unused = 0;
+    int x = 0;
+    int y = 0;
+    unsigned mask = 0;
+    XQueryPointer(To(connection), root, &unused, &unused, &pointer.place.x, &pointer.place.y, &x, &y, &mask);
+    pointer.buttons = ((mask & Button1Mask) != 0 ? SDL_BUTTON_LMASK : 0U) |
+                      ((mask & Button2Mask) != 0 ? SDL_BUTTON_MMASK : 0U) |
+                      ((mask & Button3Mask) != 0 ? SDL_BUTTON_RMASK : 0U);
+    return pointer;
+}
+
 HostEvent X11::Read(const SDL_SysWMEvent& message) {
     HostEvent result;
     const XEvent& event = message.msg->msg.x11.event;
@@ -249,9 +267,11 @@ HostEvent X11::Read(const SDL_SysWMEvent& message) {
             result.kind = HostEvent::Kind::Move;
             result.place = {event.xmotion.x_root, event.xmotion.y_root};
             break;
-        case EnterNotify:
-            result.kind = HostEvent::Kind::Move;
-            result.place = {event.xcrossing.x_root, event.xcrossing.y_root};
+        case FocusIn:
+        case FocusOut:
+        case MapNotify:
+        case UnmapNotify:
+            result.kind = HostEvent::Kind::Loosened;
             break;
         case ButtonPress:
         case ButtonRelease: {

@@ -12,14 +12,20 @@
 
 namespace platform::display {
 
-/// What SDL's own events do not tell.
+/// What SDL's own events do not tell. Loosened: SDL has given the mouse free, whoever had it, as it does at each change of
+/// the focus.
 struct HostEvent {
-    enum class Kind { Other, Move, Press, Release, Wheel, State, Room };
+    enum class Kind { Other, Move, Press, Release, Wheel, State, Room, Loosened };
     Kind kind = Kind::Other;
     SDL_Point place{};         ///< of the pointer, on the host's desktop when it happened
     int button = 0;            ///< SDL's number
     int notches = 0;           ///< positive away from the user
     std::uintptr_t window = 0; ///< whose state has changed
+};
+
+struct Pointer {
+    SDL_Point place{};   ///< on the host's desktop
+    unsigned buttons = 0;  ///< as SDL_BUTTON_LMASK ...
 };
 
 struct HostHints {
@@ -54,6 +60,7 @@ class X11 {
     /// All of the mouse comes to this program. @returns whether the server agrees.
     bool Grab(SDL_Window* window);
     void Ungrab();
+    Pointer AskPointer() const;
 
     HostEvent Read(const SDL_SysWMEvent& event);
     static std::uintptr_t IdOf(SDL_Window* window);
