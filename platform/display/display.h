@@ -49,9 +49,9 @@ struct Pane {
     bool minimised = false;  ///< `place` is that of what stands for it on a host without a task list
     bool minimises = false;  ///< the host may offer to
     bool sizes = false;
-    bool topmost = false;    ///< lies above all that is not, also of other programs
-    bool painted = false;    ///< what it shows is complete
-    std::string title;       ///< UTF-8
+    bool topmost = false;  ///< lies above all that is not, also of other programs
+    bool painted = false;  ///< what it shows is complete
+    std::string title;     ///< UTF-8
     std::uintptr_t icon = 0;
 
     bool operator==(const Pane&) const = default;

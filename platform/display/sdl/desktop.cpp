@@ -9,11 +9,11 @@
 namespace platform::display {
 namespace {
 
-constexpr std::uint32_t kPaintPatience = 100;   // for a pane that is not complete, until it is shown all the same
-constexpr std::uint32_t kFocusPatience = 50;    // between one pane and another no program has the focus
-constexpr std::uint32_t kAnswerPatience = 1000; // for the host to do what it was asked for
+constexpr std::uint32_t kPaintPatience = 100;    // for a pane that is not complete, until it is shown all the same
+constexpr std::uint32_t kFocusPatience = 50;     // between one pane and another no program has the focus
+constexpr std::uint32_t kAnswerPatience = 1000;  // for the host to do what it was asked for
 constexpr int kUsualDensity = 96;
-constexpr Box kLeastDesktop{0, 0, 800, 600};    // what is scaled leaves this much
+constexpr Box kLeastDesktop{0, 0, 800, 600};  // what is scaled leaves this much
 
 // Half a step up to the next whole factor things stay small rather than become large.
 int ScaleOf(int density, const Box& desktop) {
@@ -23,8 +23,8 @@ int ScaleOf(int density, const Box& desktop) {
         }
     }
     int scale = std::clamp((density + kUsualDensity / 4) / kUsualDensity, 1, 8);
-    while (scale > 1 && (desktop.Width() / scale < kLeastDesktop.Width() ||
-                         desktop.Height() / scale < kLeastDesktop.Height())) {
+    while (scale > 1 &&
+           (desktop.Width() / scale < kLeastDesktop.Width() || desktop.Height() / scale < kLeastDesktop.Height())) {
         --scale;
     }
     return scale;
@@ -39,9 +39,10 @@ void Without(std::vector<Box>& boxes, const Box& cover) {
             rest.push_back(box);
             continue;
         }
-        for (const Box& part : {Box{box.left, box.top, box.right, common.top}, Box{box.left, common.bottom, box.right, box.bottom},
-                                Box{box.left, common.top, common.left, common.bottom},
-                                Box{common.right, common.top, box.right, common.bottom}}) {
+        for (const Box& part :
+             {Box{box.left, box.top, box.right, common.top}, Box{box.left, common.bottom, box.right, box.bottom},
+              Box{box.left, common.top, common.left, common.bottom},
+              Box{common.right, common.top, box.right, common.bottom}}) {
             if (!part.Empty()) {
                 rest.push_back(part);
             }
@@ -78,7 +79,8 @@ bool Desktop::Open() {
 Room Desktop::AskRoom() const {
     const Box all = host.Desktop();
     const Box work = host.WorkArea();
-    return {all.Width() / scale, all.Height() / scale,
+    return {all.Width() / scale,
+            all.Height() / scale,
             {work.left / scale, work.top / scale, work.right / scale, work.bottom / scale}};
 }
 
@@ -215,7 +217,8 @@ void Desktop::Gained(PaneId id) {
     focused = id;
     verdict = 0;
     std::erase_if(requests, [](const Request& each) { return Passed(each.time + kAnswerPatience); });
-    const auto asked = std::find_if(requests.begin(), requests.end(), [id](const Request& each) { return each.pane == id; });
+    const auto asked =
+        std::find_if(requests.begin(), requests.end(), [id](const Request& each) { return each.pane == id; });
     if (asked != requests.end()) {
         requests.erase(requests.begin(), asked + 1);
     } else {
@@ -306,7 +309,8 @@ void Desktop::Arrange() {
         managed = host.HasManager();
     }
     std::erase_if(awaited, [this](const auto& each) {
-        return std::none_of(scene.panes.begin(), scene.panes.end(), [&](const Pane& pane) { return pane.id == each.first; });
+        return std::none_of(scene.panes.begin(), scene.panes.end(),
+                            [&](const Pane& pane) { return pane.id == each.first; });
     });
     // Owners come before what they own.
     for (auto pane = scene.panes.rbegin(); pane != scene.panes.rend(); ++pane) {
@@ -404,7 +408,8 @@ void Desktop::FollowActive() {
     }
     PaneId target = scene.active;
     for (bool again = true; again;) {
-        const auto pane = std::find_if(scene.panes.begin(), scene.panes.end(), [&](const Pane& each) { return each.id == target; });
+        const auto pane =
+            std::find_if(scene.panes.begin(), scene.panes.end(), [&](const Pane& each) { return each.id == target; });
         again = pane != scene.panes.end() && pane->popup && pane->owner != 0;
         target = again ? pane->owner : target;
     }

@@ -69,8 +69,8 @@ class Desktop final : public Stage {
     bool stale = false;
     bool managed = false;
 
-    PaneId focused = 0;    // as the host has it
-    PaneId followed = 0;   // the active pane that the host was last told of
+    PaneId focused = 0;   // as the host has it
+    PaneId followed = 0;  // the active pane that the host was last told of
     unsigned overruled = 0;
     struct Request {
         PaneId pane;
@@ -78,8 +78,8 @@ class Desktop final : public Stage {
     };
     std::vector<Request> requests;  // for the focus; what the host says of them is no news
     std::uint32_t verdict = 0;      // when it counts that no pane has the focus; 0: one has, or it is known
-    bool grabbed = false;   // the mouse, whether or not a button is held
-    bool loosened = false;  // and SDL has given it free
+    bool grabbed = false;           // the mouse, whether or not a button is held
+    bool loosened = false;          // and SDL has given it free
 };
 
 }  // namespace platform::display

@@ -141,10 +141,9 @@ bool HostWindow::Show() {
     if (fresh) {
         return false;
     }
-    const bool shown =
-        exposed ? SDL_UpdateWindowSurface(window) == 0
-                : touched.empty() ||
-                      SDL_UpdateWindowSurfaceRects(window, touched.data(), static_cast<int>(touched.size())) == 0;
+    const bool shown = exposed ? SDL_UpdateWindowSurface(window) == 0
+                               : touched.empty() || SDL_UpdateWindowSurfaceRects(window, touched.data(),
+                                                                                 static_cast<int>(touched.size())) == 0;
     touched.clear();
     exposed = !shown;
     return shown;
@@ -152,8 +151,8 @@ bool HostWindow::Show() {
 
 bool HostWindow::Moved(SDL_Point corner) {
     actual = {corner.x, corner.y, corner.x + actual.Width(), corner.y + actual.Height()};
-    const auto found =
-        std::find_if(asked.begin(), asked.end(), [&](SDL_Point each) { return each.x == corner.x && each.y == corner.y; });
+    const auto found = std::find_if(asked.begin(), asked.end(),
+                                    [&](SDL_Point each) { return each.x == corner.x && each.y == corner.y; });
     if (found == asked.end()) {
         asked.clear();
         return !minimised;
@@ -183,7 +182,8 @@ bool HostWindow::StateChanged() {
 }
 
 Box HostWindow::Place() const {
-    return {RoundDown(actual.left, scale), RoundDown(actual.top, scale), RoundDown(actual.left, scale) + actual.Width() / scale,
+    return {RoundDown(actual.left, scale), RoundDown(actual.top, scale),
+            RoundDown(actual.left, scale) + actual.Width() / scale,
             RoundDown(actual.top, scale) + actual.Height() / scale};
 }
 

@@ -73,11 +73,11 @@ class HostWindow {
     SDL_Window* window = nullptr;
     SDL_Window* owner = nullptr;
     Pane pane;
-    Box actual;                    // on the host, as it has said last
-    std::deque<SDL_Point> asked;   // for these corners; what the host says of them is no news
+    Box actual;                   // on the host, as it has said last
+    std::deque<SDL_Point> asked;  // for these corners; what the host says of them is no news
     SDL_Point askedSize{};
-    std::vector<SDL_Rect> touched; // of the window, not shown yet
-    bool fresh = true;             // holds nothing of the picture
+    std::vector<SDL_Rect> touched;  // of the window, not shown yet
+    bool fresh = true;              // holds nothing of the picture
     bool exposed = false;
     bool minimised = false;
     bool asking = false;  // to be minimised or restored, and the host has not answered

@@ -12,7 +12,13 @@ namespace platform::display {
 class OneWindow final : public Stage {
   public:
     OneWindow(const Sink& sink, const Source& source, Keyboard& keyboard, int width, int height)
-        : sink(sink), source(source), keyboard(keyboard), mouse(sink), view(source, width, height), width(width), height(height) {}
+        : sink(sink),
+          source(source),
+          keyboard(keyboard),
+          mouse(sink),
+          view(source, width, height),
+          width(width),
+          height(height) {}
     ~OneWindow() override;
 
     bool Open() override;

@@ -63,8 +63,8 @@ std::vector<long> X11::Property(unsigned long window, const char* name) const {
     unsigned long rest = 0;
     unsigned char* data = nullptr;
     std::vector<long> values;
-    if (XGetWindowProperty(To(connection), window, Named(name), 0, kMost, False, AnyPropertyType, &type, &format, &count,
-                           &rest, &data) == Success &&
+    if (XGetWindowProperty(To(connection), window, Named(name), 0, kMost, False, AnyPropertyType, &type, &format,
+                           &count, &rest, &data) == Success &&
         data != nullptr) {
         if (format == 32) {
             const auto* longs = reinterpret_cast<const long*>(data);
@@ -154,7 +154,7 @@ void X11::Describe(SDL_Window* target, const HostHints& hints) {
         return;
     }
     const auto kind = hints.owner != nullptr ? "_NET_WM_WINDOW_TYPE_DIALOG" : "_NET_WM_WINDOW_TYPE_NORMAL";
-    SetLongs(display, window, Named("_NET_WM_WINDOW_TYPE"), XA_ATOM, std::array{static_cast<long>(Atom(kind))});
+    SetLongs(display, window, Named("_NET_WM_WINDOW_TYPE"), XA_ATOM, std::array{static_cast<long>(Named(kind))});
     // No frame, and what may be offered: size 2, move 4, minimise 8, maximise 16, close 32.
     constexpr long kFunctionsAndDecorations = 3;
     const long functions = 4 | 32 | (hints.sizes ? 2 | 16 : 0) | (hints.minimises ? 8 : 0);
@@ -213,7 +213,8 @@ void X11::PutBelow(SDL_Window* window, SDL_Window* above) {
     XWindowChanges changes{};
     changes.sibling = IdOf(above);
     changes.stack_mode = Below;
-    XReconfigureWMWindow(To(connection), IdOf(window), DefaultScreen(To(connection)), CWSibling | CWStackMode, &changes);
+    XReconfigureWMWindow(To(connection), IdOf(window), DefaultScreen(To(connection)), CWSibling | CWStackMode,
+                         &changes);
     XFlush(To(connection));
 }
 
@@ -293,7 +294,8 @@ HostEvent X11::Read(const SDL_SysWMEvent& message) {
         case PropertyNotify:
             result.window = event.xproperty.window;
             if (event.xproperty.window == root) {
-                result.kind = event.xproperty.atom == Named("_NET_WORKAREA") ? HostEvent::Kind::Room : HostEvent::Kind::Other;
+                result.kind =
+                    event.xproperty.atom == Named("_NET_WORKAREA") ? HostEvent::Kind::Room : HostEvent::Kind::Other;
             } else if (event.xproperty.atom == Named("_NET_WM_STATE")) {
                 result.kind = HostEvent::Kind::State;
             }

@@ -17,14 +17,14 @@ namespace platform::display {
 struct HostEvent {
     enum class Kind { Other, Move, Press, Release, Wheel, State, Room, Loosened };
     Kind kind = Kind::Other;
-    SDL_Point place{};         ///< of the pointer, on the host's desktop when it happened
-    int button = 0;            ///< SDL's number
-    int notches = 0;           ///< positive away from the user
-    std::uintptr_t window = 0; ///< whose state has changed
+    SDL_Point place{};          ///< of the pointer, on the host's desktop when it happened
+    int button = 0;             ///< SDL's number
+    int notches = 0;            ///< positive away from the user
+    std::uintptr_t window = 0;  ///< whose state has changed
 };
 
 struct Pointer {
-    SDL_Point place{};   ///< on the host's desktop
+    SDL_Point place{};     ///< on the host's desktop
     unsigned buttons = 0;  ///< as SDL_BUTTON_LMASK ...
 };
 

@@ -70,9 +70,10 @@ void TakeDirtyBoxes(std::vector<display::Box>* boxes) {
     }
 }
 
-constexpr display::Sink kSink = {InjectMouseMove, InjectMouseButton, InjectMouseWheel, InjectKey, CloseRequested,
-                                 ActivateFromHost, MinimiseFromHost, PlaceFromHost, ChangeRoom};
-constexpr display::Source kSource = {LockPicture, UnlockPicture, ThePicture, TakeDirtyBoxes, DescribeScene, DescribeIcon};
+constexpr display::Sink kSink = {InjectMouseMove,  InjectMouseButton, InjectMouseWheel, InjectKey, CloseRequested,
+                                 ActivateFromHost, MinimiseFromHost,  PlaceFromHost,    ChangeRoom};
+constexpr display::Source kSource = {LockPicture,    UnlockPicture, ThePicture,
+                                     TakeDirtyBoxes, DescribeScene, DescribeIcon};
 
 // The display has a thread of its own, which must be gone before the process tears down what it uses.
 void EndDisplay() {

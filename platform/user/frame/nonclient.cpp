@@ -270,7 +270,9 @@ LRESULT DefaultNonClient(Window* window, UINT message, WPARAM wParam, LPARAM lPa
             PressFrame(handle, static_cast<int>(wParam), point);
             return 0;
         case WM_NCLBUTTONDBLCLK:
-            if (wParam == HTCAPTION && (window->style & WS_MAXIMIZEBOX)) {
+            if (wParam == HTCAPTION && (window->style & WS_MINIMIZE)) {
+                SendMessageA(handle, WM_SYSCOMMAND, SC_RESTORE, lParam);
+            } else if (wParam == HTCAPTION && (window->style & WS_MAXIMIZEBOX)) {
                 SendMessageA(handle, WM_SYSCOMMAND,
                              static_cast<WPARAM>(window->style & WS_MAXIMIZE ? SC_RESTORE : SC_MAXIMIZE), lParam);
             } else if (wParam == HTSYSMENU) {
