@@ -42,8 +42,11 @@ void HostWindow::Ask(const Box& place) {
     if (asked.size() > kMostAsked) {
         asked.pop_front();
     }
-    askedSize = {place.Width(), place.Height()};
-    host.Place(window, place, pane.sizes);
+    if (const SDL_Point size{place.Width(), place.Height()}; size.x != askedSize.x || size.y != askedSize.y) {
+        askedSize = size;
+        host.Limit(window, place, pane.sizes);
+    }
+    host.Place(window, place);
 }
 
 void HostWindow::Appear() {
@@ -57,6 +60,7 @@ void HostWindow::Follow(const Pane& now, SDL_Window* ownerWindow, bool managed) 
     owner = ownerWindow;
     if (!described) {
         host.Describe(window, {owner, pane.minimises, pane.sizes, true});
+        host.Limit(window, OnHost(pane.place), pane.sizes);
     }
     if (before.title != pane.title) {
         SDL_SetWindowTitle(window, pane.title.c_str());
@@ -76,7 +80,7 @@ void HostWindow::Follow(const Pane& now, SDL_Window* ownerWindow, bool managed) 
         asking = true;
         host.Map(window);
     }
-    if (before.place != pane.place || before.sizes != pane.sizes) {
+    if (before.place != pane.place) {
         Ask(OnHost(pane.place));
         actual = OnHost(pane.place);
     }

@@ -165,8 +165,7 @@ void X11::Describe(SDL_Window* target, const HostHints& hints) {
     }
 }
 
-void X11::Place(SDL_Window* target, const Box& place, bool sizes) {
-    const Window window = IdOf(target);
+void X11::Limit(SDL_Window* window, const Box& place, bool sizes) {
     XSizeHints hints{};
     hints.flags = USPosition | USSize;
     hints.x = place.left;
@@ -178,8 +177,11 @@ void X11::Place(SDL_Window* target, const Box& place, bool sizes) {
         hints.min_width = hints.max_width = place.Width();
         hints.min_height = hints.max_height = place.Height();
     }
-    XSetWMNormalHints(To(connection), window, &hints);
-    XMoveResizeWindow(To(connection), window, place.left, place.top, static_cast<unsigned>(place.Width()),
+    XSetWMNormalHints(To(connection), IdOf(window), &hints);
+}
+
+void X11::Place(SDL_Window* window, const Box& place) {
+    XMoveResizeWindow(To(connection), IdOf(window), place.left, place.top, static_cast<unsigned>(place.Width()),
                       static_cast<unsigned>(place.Height()));
     XFlush(To(connection));
 }

@@ -49,7 +49,8 @@ class X11 {
 
     /// What must be known before a window appears, or has changed since.
     void Describe(SDL_Window* window, const HostHints& hints);
-    void Place(SDL_Window* window, const Box& place, bool sizes);
+    void Limit(SDL_Window* window, const Box& place, bool sizes);  ///< what the person may make of its size
+    void Place(SDL_Window* window, const Box& place);
     void Map(SDL_Window* window);
     void Minimise(SDL_Window* window);
     bool IsMinimised(SDL_Window* window) const;
