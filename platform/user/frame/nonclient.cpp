@@ -199,7 +199,27 @@ UINT SizingCursor(int hitCode) {
 
 }  // namespace
 
-bool SetHitCursor(HWND hit, int hitCode, UINT) {
+namespace {
+
+bool IsPress(UINT message) {
+    return message == WM_LBUTTONDOWN || message == WM_RBUTTONDOWN || message == WM_MBUTTONDOWN;
+}
+
+/// A press on a disabled window is meant for the box that stands before it.
+void BringBoxForward(HWND handle) {
+    HWND root = GetAncestor(handle, GA_ROOTOWNER);
+    HWND box = GetLastActivePopup(root);
+    if (box != handle && IsWindowEnabled(box) && IsWindowVisible(box) && box != GetForegroundWindow()) {
+        SetForegroundWindow(box);
+    }
+}
+
+}  // namespace
+
+bool SetHitCursor(HWND hit, int hitCode, UINT mouseMessage) {
+    if (hitCode == HTERROR && IsPress(mouseMessage)) {
+        BringBoxForward(hit);
+    }
     if (hitCode == HTCLIENT) {
         HCURSOR cursor = nullptr;
         {

@@ -185,6 +185,7 @@ BOOL WINAPI ShowWindow(HWND handle, int show) {
     bool child = false;
     bool parentShown = true;
     bool active = false;
+    bool iconic = false;
     {
         UserGuard guard(UserLock());
         Window* window = FindWindowObject(handle);
@@ -201,6 +202,7 @@ BOOL WINAPI ShowWindow(HWND handle, int show) {
             plan.keepState = false;
         }
         const DWORD state = window->style & (WS_MINIMIZE | WS_MAXIMIZE);
+        iconic = (state & WS_MINIMIZE) != 0;
         // Where only showing was asked for, a window that is shown already is not even activated.
         if (wasVisible == plan.show && PendingState(window) == 0 &&
             (plan.keepState || (state == plan.state && (!plan.activate || child || active)))) {
@@ -256,6 +258,10 @@ BOOL WINAPI ShowWindow(HWND handle, int show) {
     }
     if (moved && plan.state != WS_MINIMIZE && !child) {
         ShowOwnedPopups(handle, TRUE);
+        // Minimised, a window can be active but takes no focus.
+        if (iconic && GetActiveWindow() == handle && GetFocus() == nullptr) {
+            SetFocus(handle);
+        }
     }
     return wasVisible;
 }
