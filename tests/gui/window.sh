@@ -63,8 +63,8 @@ display_is_there() {
     [ -s "$work/display" ]
 }
 # The server goes on between two programs; one that ends with its last client is not back in time for the next.
-start_server() {
-    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset 3>"$work/display" 2>"$work/server.log" &
+start_server() { # [<width>x<height>]
+    Xvfb -displayfd 3 -screen 0 "${1:-1280x1024}x24" -nolisten tcp -noreset 3>"$work/display" 2>"$work/server.log" &
     server=$!
     wait_for "a display" display_is_there
     DISPLAY=:$(<"$work/display")
