@@ -1,6 +1,6 @@
 # What the scripts share that run the gallery on a real desktop; sourced after common.sh. The X server and the program in `program`
 # end with the script. `window` is what is looked at and clicked in: all of the desktop, unless a script names another.
-need Xvfb xdotool xwininfo import convert compare
+need Xvfb xdotool xwininfo xsetroot import convert compare
 
 unset CVUTIL32_DISPLAY WAYLAND_DISPLAY
 program=
@@ -69,5 +69,6 @@ start_server() { # [<width>x<height>]
     wait_for "a display" display_is_there
     DISPLAY=:$(<"$work/display")
     export DISPLAY
+    xsetroot -solid '#008080'
     window=$(xwininfo -root | sed -nE 's/.*Window id: (0x[0-9a-f]+) .*/\1/p')
 }

@@ -167,13 +167,20 @@ void Desktop::HandleHost(const HostEvent& event) {
             loosened = true;
             break;
         case HostEvent::Kind::Room:
-            if (const Room now = AskRoom(); now != room) {
-                room = now;
-                sink.roomChanged(room);
-            }
+            FollowRoom();
             break;
         default:
             break;
+    }
+}
+
+void Desktop::FollowRoom() {
+    if (!presenting) {
+        return;  // there may be no screen yet
+    }
+    if (const Room now = AskRoom(); now != room) {
+        room = now;
+        sink.roomChanged(room);
     }
 }
 
@@ -253,6 +260,9 @@ int Desktop::Patience() const {
 
 bool Desktop::Present() {
     stale = false;
+    if (!std::exchange(presenting, true)) {
+        FollowRoom();
+    }
     TakePicture();
     Arrange();
     bool shown = true;

@@ -33,6 +33,7 @@ class Desktop final : public Stage {
   private:
     void HandleHost(const HostEvent& event);
     void HandleWindow(const SDL_WindowEvent& event);
+    void FollowRoom();
     void Gained(PaneId id);
     void Lost(PaneId id);
 
@@ -66,6 +67,7 @@ class Desktop final : public Stage {
     std::map<PaneId, std::unique_ptr<HostWindow>> windows;
     std::map<PaneId, std::uint32_t> awaited;  // panes that are not complete, and since when
     std::vector<PaneId> stacked;              // as the host was last told
+    bool presenting = false;
     bool stale = false;
     bool managed = false;
 

@@ -146,7 +146,6 @@ bool SdlDisplay::Open(std::string& error) {
     }
     hasRoom = stage->FirstRoom(&firstRoom);
     SDL_StartTextInput();
-    changed = true;
     return true;
 }
 
@@ -164,7 +163,7 @@ void SdlDisplay::Loop() {
     std::uint32_t nextFrame = SDL_GetTicks();
     while (running) {
         const int rest = std::max(static_cast<int>(nextFrame - SDL_GetTicks()), 0);
-        int wait = changed || stage->Stale() ? rest : Stage::kNever;
+        int wait = Due() ? rest : Stage::kNever;
         if (const int patience = stage->Patience(); patience != Stage::kNever) {
             wait = wait == Stage::kNever ? patience : std::min(wait, patience);
         }
@@ -177,7 +176,8 @@ void SdlDisplay::Loop() {
         stage->Settle();
         ApplyCursor();
         RunTasks();
-        if ((changed || stage->Stale()) && static_cast<int>(nextFrame - SDL_GetTicks()) <= 0) {
+        if (Due() && static_cast<int>(nextFrame - SDL_GetTicks()) <= 0) {
+            awake = true;
             changed = false;
             nextFrame = SDL_GetTicks() + (stage->Present() ? kFrameMilliseconds : kRetryMilliseconds);
         }

@@ -45,6 +45,9 @@ class SdlDisplay final : public Display {
     bool Open(std::string& error);
     void Close();
     void Loop();
+    bool Due() const {
+        return changed || (awake && stage->Stale());
+    }
     void Handle(const SDL_Event& event);
     void HandleKeyDown(const SDL_KeyboardEvent& event);
     void ApplyCursor();
@@ -77,6 +80,7 @@ class SdlDisplay final : public Display {
 
     // The display's thread alone:
     std::unique_ptr<Stage> stage;
+    bool awake = false;  // has been woken once: before, there may be no picture
     std::map<unsigned, SDL_Cursor*> cursors;
     unsigned shownCursor;
     Keyboard keyboard;

@@ -103,10 +103,8 @@ display::Display* StartDisplay(SIZE size) {
         return nullptr;
     }
     presenter.store(shown, std::memory_order_release);
-    gdi::SetDirtyHook(WakePresenter);
     std::atexit(EndDisplay);
     shown->SetCursorShape(shape.load());
-    shown->Wake();
     return shown;
 }
 
@@ -129,14 +127,26 @@ const bool choosing = [] {
 }  // namespace
 
 void OpenDisplay() {
+    static std::atomic<bool> awake{false};
     display::Display* shown = presenter.load(std::memory_order_acquire);
-    if (shown != nullptr) {
-        if (shown->Interactive() && SceneChanged()) {
+    if (awake.load(std::memory_order_relaxed)) {
+        if (shown != nullptr && shown->Interactive() && SceneChanged()) {
             shown->Wake();
         }
-    } else if (AnythingShown()) {
+        return;
+    }
+    // A display that was made for the screen's size sleeps until there is something to show: it asks for windows, which are
+    // not there before the screen is.
+    if (!AnythingShown()) {
+        return;
+    }
+    if (shown == nullptr) {
         const RECT screen = gdi::ScreenRect();
-        StartDisplay({screen.right, screen.bottom});
+        shown = StartDisplay({screen.right, screen.bottom});
+    }
+    if (shown != nullptr && !awake.exchange(true)) {
+        gdi::SetDirtyHook(WakePresenter);
+        shown->Wake();
     }
 }
 
