@@ -6,7 +6,6 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "gdi/bitmap/bitmaps.h"
 #include "gdi/context/context.h"
 
 namespace platform::gdi {

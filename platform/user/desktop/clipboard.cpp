@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "kernel/text/encoding.h"
+#include "user/controls/above.h"
 #include "user/input/above.h"
 #include "user/model/thread.h"
 #include "user/model/window.h"
@@ -254,6 +255,21 @@ bool Close(UserHold& hold) {
 }
 
 }  // namespace
+
+bool ReadPrimarySelection(std::string* text) {
+    std::string utf8;
+    if (!ReadHostSelection(&utf8)) {
+        return false;
+    }
+    *text = kernel::AnsiFromUtf8(WindowsLines(utf8));
+    return true;
+}
+
+void OfferPrimarySelection(const std::string& text) {
+    if (HasHostClipboard()) {
+        WriteHostSelection(HostLines(kernel::Utf8FromAnsi(text)));
+    }
+}
 
 void LeaveClipboard(HWND window) {
     UserHold hold(UserLock());

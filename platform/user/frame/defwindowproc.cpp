@@ -166,16 +166,6 @@ LRESULT ActivateByMouse(HWND handle, WPARAM wParam, LPARAM lParam) {
     return MA_ACTIVATE;
 }
 
-/// Alt+F4 closes; other system keys have no menu to go to.
-LRESULT SystemKeyDown(HWND handle, WPARAM key, LPARAM bits) {
-    if (key == VK_F4 && (bits & (1 << 29))) {
-        if (const HWND top = GetAncestor(handle, GA_ROOT)) {
-            SendMessageA(top, WM_SYSCOMMAND, SC_CLOSE, 0);
-        }
-    }
-    return 0;
-}
-
 void SetRedraw(HWND handle, bool redraw) {
     UserHold hold(UserLock());
     Window* window = PeekWindow(handle);
@@ -296,7 +286,11 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
         case WM_SETCURSOR:
             return SetCursorFor(handle, wParam, lParam);
         case WM_SYSKEYDOWN:
-            return SystemKeyDown(handle, wParam, lParam);
+            return OnSystemKey(handle, wParam, lParam);
+        case WM_SYSCHAR:
+            return OnSystemCharacter(handle, wParam, lParam);
+        case WM_KEYUP:
+            return OnKeyUp(handle, wParam);
         case WM_RBUTTONUP: {
             POINT point = MousePoint(lParam);
             ClientToScreen(handle, &point);
@@ -310,6 +304,7 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
             return above ? SendMessageA(above, message, wParam, lParam) : 0;
         }
         case WM_CONTEXTMENU:
+            return OnContextMenu(handle, wParam, lParam);
         case WM_MOUSEWHEEL:
             if (IsChildStyle(window->style)) {
                 if (const HWND parent = GetParent(handle)) {
@@ -338,9 +333,7 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
             }
             return 0;
         case WM_CANCELMODE:
-            if (GetCapture() == handle) {
-                ReleaseCapture();
-            }
+            LeaveModes(handle);
             return 0;
         default:
             return 0;

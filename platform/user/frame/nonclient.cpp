@@ -178,6 +178,8 @@ void CalculateClient(HWND handle, RECT* rect) {
     }
 }
 
+}  // namespace
+
 UINT SizingCursor(int hitCode) {
     switch (hitCode) {
         case HTLEFT:
@@ -196,8 +198,6 @@ UINT SizingCursor(int hitCode) {
             return 32512;
     }
 }
-
-}  // namespace
 
 namespace {
 

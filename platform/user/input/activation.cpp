@@ -46,6 +46,13 @@ void TellApplication(const ThreadState* thread, bool active, const ThreadState* 
     }
 }
 
+// An open menu belongs to the window in front.
+void PutMenuAway(const ThreadState* thread) {
+    if (const HWND menu = Shared(thread->menu.window)) {
+        SendNotifyMessageA(menu, WM_CANCELMODE, 0, 0);
+    }
+}
+
 // Tells a thread that another one has taken the foreground. Nothing waits for its windows.
 void LeaveForeground(ThreadState* loser, ThreadState* winner, HWND to) {
     HWND active = nullptr;
@@ -58,6 +65,7 @@ void LeaveForeground(ThreadState* loser, ThreadState* winner, HWND to) {
         loser->active = nullptr;
         loser->focus = nullptr;
     }
+    PutMenuAway(loser);
     if (active != nullptr) {
         SendNotifyMessageA(active, WM_NCACTIVATE, FALSE, reinterpret_cast<LPARAM>(to));
         SendNotifyMessageA(active, WM_ACTIVATE, ActivationState(WA_INACTIVE, active), reinterpret_cast<LPARAM>(to));
@@ -149,6 +157,7 @@ bool ActivateOwn(ThreadState* self, HWND window, bool byMouse, bool foreground) 
     }
     hold.unlock();
     if (previous != window) {
+        PutMenuAway(self);
         const Window* leaving = PeekWindow(previous);
         const bool forced = leaving == nullptr || leaving->destroying || (leaving->style & WS_VISIBLE) == 0;
         if (!Deactivate(previous, window, forced)) {
@@ -196,6 +205,7 @@ bool ActivateOwn(ThreadState* self, HWND window, bool byMouse, bool foreground) 
 
 void DeactivateOwn(ThreadState* self) {
     const HWND active = Shared(self->active);
+    PutMenuAway(self);
     Deactivate(active, nullptr, true);
     bool left = false;
     {

@@ -1,7 +1,6 @@
 // Windows that go away, or can no longer take input.
 #include <algorithm>
 
-#include "user/desktop/clipboard.h"
 #include "user/input/above.h"
 #include "user/input/input.h"
 #include "user/message/queue.h"

@@ -98,6 +98,12 @@ struct ThreadState {
         DWORD time = 0;
         POINT point{};
     } lastClick;
+    struct {
+        HWND window = nullptr;       ///< of the menu that is open
+        HWND owner = nullptr;        ///< the window that has opened it
+        HWND closedOwner = nullptr;  ///< the owner of the menu that a press beside it has put away last
+        DWORD closingPress = 0;      ///< the time of that press
+    } menu;
 };
 
 /// @returns the calling thread's state, made on first use and filed until the thread ends.

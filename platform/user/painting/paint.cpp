@@ -6,6 +6,7 @@
 #include "base/handle.h"
 #include "gdi/context/device_context.h"
 #include "user/message/above.h"
+#include "user/message/queue.h"
 #include "user/painting/above.h"
 #include "user/painting/painting.h"
 

@@ -184,6 +184,7 @@ void InitialiseClasses() {
     static std::once_flag once;
     std::call_once(once, [] {
         RegisterDialogClasses();
+        RegisterMenuClass();
         kernel::WhenModulesGo(ForgetClasses);
     });
 }

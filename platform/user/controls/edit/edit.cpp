@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 #include "kernel/memory/probe.h"
 
@@ -169,14 +170,34 @@ LRESULT OnTextMessage(HWND edit, EditData& data, UINT message, WPARAM wParam, LP
     }
 }
 
+/// Keys may select; what the application selects itself is not the user's choice.
+template <class Action>
+void WithOffer(EditData& data, const Action& action) {
+    const auto before = std::pair(data.SelectionStart(), data.SelectionEnd());
+    action();
+    if (before != std::pair(data.SelectionStart(), data.SelectionEnd())) {
+        OfferSelection(data);
+    }
+}
+
+/// A drag by the mouse is over, and what it has selected is the user's choice.
+void OnRelease(HWND edit, EditData& data) {
+    if (data.drag != EditData::Drag::None) {
+        OfferSelection(data);
+    }
+    EndEditDrag(edit, data);
+}
+
 LRESULT OnInput(HWND edit, EditData& data, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_KEYDOWN:
-            OnEditKey(edit, data, wParam);
+            WithOffer(data, [&] { OnEditKey(edit, data, wParam); });
             return DefWindowProcA(edit, message, wParam, lParam);
         case WM_CHAR:
-            OnEditCharacter(edit, data, wParam);
+            WithOffer(data, [&] { OnEditCharacter(edit, data, wParam); });
             return 0;
+        case WM_CONTEXTMENU:
+            return OnEditContextMenu(edit, data, lParam) ? 0 : DefWindowProcA(edit, message, wParam, lParam);
         case WM_SYSKEYDOWN:
             if (wParam == VK_BACK) {
                 SendMessageA(edit, WM_UNDO, 0, 0);
@@ -193,7 +214,10 @@ LRESULT OnInput(HWND edit, EditData& data, UINT message, WPARAM wParam, LPARAM l
             OnEditMove(edit, data, lParam);
             return 0;
         case WM_LBUTTONUP:
-            EndEditDrag(edit, data);
+            OnRelease(edit, data);
+            return 0;
+        case WM_MBUTTONDOWN:
+            OnEditMiddlePress(edit, data, lParam);
             return 0;
         case WM_CAPTURECHANGED:
             if (reinterpret_cast<HWND>(lParam) != edit) {

@@ -1,7 +1,7 @@
 /// @file edit.h
 /// The edit control. edit.cpp holds the procedure, edit_text.cpp the text and its undo, edit_lines.cpp where lines and
 /// characters stand, edit_paint.cpp the picture, edit_keys.cpp and edit_mouse.cpp input, edit_query.cpp the messages
-/// that ask.
+/// that ask, edit_clipboard.cpp and edit_menu.cpp what is done with other texts and how it is chosen.
 ///
 /// The text is one string with lines set over it: a single-line field has one line, the whole text. Handlers hold the
 /// data shared and ask IsWindow after each notification, since the parent may end the control in it.
@@ -179,6 +179,17 @@ void OnEditMove(HWND edit, EditData& data, LPARAM point);
 void OnEditTimer(HWND edit, EditData& data);
 void EndEditDrag(HWND edit, EditData& data);
 
+/// The context menu, at a point or by the keyboard; it acts on the control by messages. @returns false for a scroll bar, which
+/// has no menu.
+bool OnEditContextMenu(HWND edit, EditData& data, LPARAM where);
+/// The middle button inserts what was selected last in any program of the desktop.
+void OnEditMiddlePress(HWND edit, EditData& data, LPARAM point);
+
+/// Shows other programs of the desktop what the user has selected.
+void OfferSelection(const EditData& data);
+
+/// @returns whether there is text to paste.
+bool CanPaste(HWND edit);
 void CopySelection(HWND edit, const EditData& data);
 void CutSelection(HWND edit, EditData& data);
 void PasteText(HWND edit, EditData& data);
