@@ -50,6 +50,14 @@ Box Cut(const Box& a, const Box& b) {
     return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right), std::min(a.bottom, b.bottom)};
 }
 
+Box Around(const Box& a, const Box& b) {
+    return {std::min(a.left, b.left), std::min(a.top, b.top), std::max(a.right, b.right), std::max(a.bottom, b.bottom)};
+}
+
+int RoundDown(int at, int scale) {
+    return Unscaled(at, scale, 1);
+}
+
 Placement::Placement(int width, int height, int windowWidth, int windowHeight) : width_(width), height_(height) {
     int shownWidth = windowWidth;
     int shownHeight = Scaled(height, width, windowWidth);

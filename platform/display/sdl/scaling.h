@@ -2,28 +2,19 @@
 /// Where the picture lies in a window of another size, and what it looks like there. Needs no window.
 #pragma once
 
+#include "display/display.h"
+
 #include <cstdint>
 
 namespace platform::display {
 
-struct Box {
-    int left = 0;
-    int top = 0;
-    int right = 0;
-    int bottom = 0;
-
-    int Width() const {
-        return right - left;
-    }
-    int Height() const {
-        return bottom - top;
-    }
-    bool Empty() const {
-        return left >= right || top >= bottom;
-    }
-};
-
+/// @returns what two boxes have in common.
 Box Cut(const Box& a, const Box& b);
+/// @returns the smallest box around two.
+Box Around(const Box& a, const Box& b);
+
+/// @returns a quotient, rounded down also below zero.
+int RoundDown(int at, int scale);
 
 /// A picture in the middle of a window, as large as fits without changing its shape.
 class Placement {
