@@ -201,7 +201,7 @@ UINT SizingCursor(int hitCode) {
 
 namespace {
 
-bool IsPress(UINT message) {
+bool PressesButton(UINT message) {
     return message == WM_LBUTTONDOWN || message == WM_RBUTTONDOWN || message == WM_MBUTTONDOWN;
 }
 
@@ -217,7 +217,7 @@ void BringBoxForward(HWND handle) {
 }  // namespace
 
 bool SetHitCursor(HWND hit, int hitCode, UINT mouseMessage) {
-    if (hitCode == HTERROR && IsPress(mouseMessage)) {
+    if (hitCode == HTERROR && PressesButton(mouseMessage)) {
         BringBoxForward(hit);
     }
     if (hitCode == HTCLIENT) {
