@@ -12,43 +12,11 @@ namespace {
 constexpr std::uint32_t kPaintPatience = 100;    // for a pane that is not complete, until it is shown all the same
 constexpr std::uint32_t kFocusPatience = 50;     // between one pane and another no program has the focus
 constexpr std::uint32_t kAnswerPatience = 1000;  // for the host to do what it was asked for
-constexpr int kUsualDensity = 96;
-constexpr Box kLeastDesktop{0, 0, 800, 600};  // what is scaled leaves this much
 
-// Half a step up to the next whole factor things stay small rather than become large.
-int ScaleOf(int density, const Box& desktop) {
-    if (const char* text = std::getenv("CVUTIL32_SCALE")) {
-        if (const int given = std::atoi(text); given >= 1 && given <= 8) {
-            return given;
-        }
-    }
-    int scale = std::clamp((density + kUsualDensity / 4) / kUsualDensity, 1, 8);
-    while (scale > 1 &&
-           (desktop.Width() / scale < kLeastDesktop.Width() || desktop.Height() / scale < kLeastDesktop.Height())) {
-        --scale;
-    }
-    return scale;
-}
-
-// The box without what lies under another one.
-void Without(std::vector<Box>& boxes, const Box& cover) {
-    std::vector<Box> rest;
-    for (const Box& box : boxes) {
-        const Box common = Cut(box, cover);
-        if (common.Empty()) {
-            rest.push_back(box);
-            continue;
-        }
-        for (const Box& part :
-             {Box{box.left, box.top, box.right, common.top}, Box{box.left, common.bottom, box.right, box.bottom},
-              Box{box.left, common.top, common.left, common.bottom},
-              Box{common.right, common.top, box.right, common.bottom}}) {
-            if (!part.Empty()) {
-                rest.push_back(part);
-            }
-        }
-    }
-    boxes.swap(rest);
+int ChooseScale(int density, const Box& desktop) {
+    const char* text = std::getenv("CVUTIL32_SCALE");
+    const int given = text != nullptr ? std::atoi(text) : 0;
+    return given >= 1 && given <= kMostScale ? given : ScaleOf(density, desktop);
 }
 
 bool Passed(std::uint32_t time) {
@@ -71,7 +39,7 @@ bool Desktop::Open() {
     if (helper == nullptr || !host.Connect(helper)) {
         return false;
     }
-    scale = ScaleOf(host.Density(), host.Desktop());
+    scale = ChooseScale(host.Density(), host.Desktop());
     room = AskRoom();
     return true;
 }
@@ -287,7 +255,7 @@ void Desktop::TakePicture() {
             window->Copy(picture, pane.place, parts);
         }
         if (!parts.empty()) {
-            Without(parts, pane.place);
+            CutOut(parts, pane.place);
         }
     }
     source.unlock();

@@ -5,6 +5,7 @@
 #include "display/display.h"
 
 #include <cstdint>
+#include <vector>
 
 namespace platform::display {
 
@@ -12,6 +13,15 @@ namespace platform::display {
 Box Cut(const Box& a, const Box& b);
 /// @returns the smallest box around two.
 Box Around(const Box& a, const Box& b);
+
+/// Takes a box out of others.
+void CutOut(std::vector<Box>& boxes, const Box& hole);
+
+constexpr int kMostScale = 8;
+
+/// @returns how many pixels of a desktop, along each side, make one of the screen where it has so many dots per inch. Half a
+/// step up to the next whole factor things stay small rather than become large, and a screen of 800 by 600 is left.
+int ScaleOf(int density, const Box& desktop);
 
 /// @returns a quotient, rounded down also below zero.
 int RoundDown(int at, int scale);

@@ -81,6 +81,7 @@ SdlDisplay::~SdlDisplay() {
     if (thread.get_id() == std::this_thread::get_id()) {
         // The desktop is gone, and the host's library ends the program from within the loop.
         thread.detach();
+        static_cast<void>(stage.release());  // its windows have gone with the desktop, which cannot be asked any more
         return;
     }
     if (thread.joinable()) {

@@ -143,7 +143,7 @@ void X11::Describe(SDL_Window* target, const HostHints& hints) {
     XSelectInput(display, root, PropertyChangeMask | StructureNotifyMask);
     XWindowAttributes attributes{};
     if (XGetWindowAttributes(display, window, &attributes) != 0) {
-        XSelectInput(display, window, attributes.your_event_mask & ~(EnterWindowMask | LeaveWindowMask));
+        XSelectInput(display, window, attributes.your_event_mask & ~EnterWindowMask);
     }
     if (hints.owner != nullptr) {
         XSetTransientForHint(display, window, IdOf(hints.owner));
@@ -269,6 +269,10 @@ HostEvent X11::Read(const SDL_SysWMEvent& message) {
         case MotionNotify:
             result.kind = HostEvent::Kind::Move;
             result.place = {event.xmotion.x_root, event.xmotion.y_root};
+            break;
+        case LeaveNotify:
+            result.kind = HostEvent::Kind::Move;
+            result.place = {event.xcrossing.x_root, event.xcrossing.y_root};
             break;
         case FocusIn:
         case FocusOut:

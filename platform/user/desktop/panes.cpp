@@ -1,7 +1,6 @@
 #include "user/desktop/panes.h"
 
-#include <algorithm>
-#include <utility>
+#include <new>
 
 #include "base/handle.h"
 #include "kernel/text/encoding.h"
@@ -160,10 +159,15 @@ void Place(const SentMessage& sent) {
 void DescribeScene(display::Scene* scene) {
     scene->panes.clear();
     told = Now();
-    for (const Window* window = Desktop()->firstChild; window != nullptr; window = window->next) {
-        if (Stands(window)) {
-            scene->panes.push_back(Describe(window));
+    try {
+        for (const Window* window = Desktop()->firstChild; window != nullptr; window = window->next) {
+            if (Stands(window)) {
+                scene->panes.push_back(Describe(window));
+            }
         }
+    } catch (const std::bad_alloc&) {
+        // Those that are missing come with the next change.
+        told.generation = 0;
     }
     scene->active = reinterpret_cast<display::PaneId>(told.active);
     scene->captured = told.captured;
