@@ -12,6 +12,7 @@
 #include "display/sdl/desktop.h"
 #include "display/sdl/help_cursor.h"
 #include "display/sdl/one_window.h"
+#include "display/sdl/x11.h"
 
 namespace platform::display {
 namespace {
@@ -124,6 +125,7 @@ bool SdlDisplay::Open(std::string& error) {
     SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
     SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
     ChooseDriver();
+    X11::PassOverErrors();
     if (SDL_Init(SDL_INIT_VIDEO) == 0) {
         wakeEvent = SDL_RegisterEvents(1);
         const bool x11 = SDL_strcmp(SDL_GetCurrentVideoDriver(), "x11") == 0;

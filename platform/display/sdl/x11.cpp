@@ -31,6 +31,10 @@ void SetLongs(::Display* display, Window window, Atom property, Atom type, const
 
 }  // namespace
 
+void X11::PassOverErrors() {
+    XSetErrorHandler(PassOver);
+}
+
 std::uintptr_t X11::IdOf(SDL_Window* window) {
     SDL_SysWMinfo info;
     SDL_VERSION(&info.version);
@@ -45,7 +49,6 @@ bool X11::Connect(SDL_Window* window) {
     }
     connection = info.info.x11.display;
     root = DefaultRootWindow(To(connection));
-    XSetErrorHandler(PassOver);
     SDL_EventState(SDL_SYSWMEVENT, SDL_ENABLE);
     XSelectInput(To(connection), root, PropertyChangeMask | StructureNotifyMask);
     return true;

@@ -35,10 +35,13 @@ struct HostHints {
     bool takesFocus = true;  ///< when it appears
 };
 
-/// The connection of SDL to the X server. Used on the display's thread alone. A window that the manager or the server has
-/// other ideas about is no error: what X complains of is passed over.
+/// The connection of SDL to the X server. Used on the display's thread alone.
 class X11 {
   public:
+    /// A window that the manager or the server has other ideas about, or that goes while SDL sends it something, is no error:
+    /// what X complains of is passed over. Before SDL is started, which goes back at its end to what it has found.
+    static void PassOverErrors();
+
     /// @param window any of SDL's.
     bool Connect(SDL_Window* window);
 
