@@ -43,6 +43,9 @@ bool AssignRegion(HRGN region, const Region& value);
 /// Makes a region object. @returns null when memory or handles have run out.
 HRGN MakeRegionObject(const Region& value);
 
+/// Deletes a font at once, or when the last context lets go of it that has it selected.
+void DeleteFontWhenFree(HFONT font);
+
 /// @returns the number of live pens, brushes, fonts, bitmaps, regions and contexts, without the stock objects, the
 /// system colour brushes and the window contexts that the user module keeps.
 std::size_t CountObjects();

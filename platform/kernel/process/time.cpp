@@ -1,3 +1,4 @@
+#include <cvplatform.h>
 #include <windows.h>
 
 #include <cerrno>
@@ -25,16 +26,14 @@ constexpr auto kFirstDay = std::chrono::sys_days(std::chrono::year(1601) / 1 / 1
 }  // namespace
 
 void WINAPI GetLocalTime(LPSYSTEMTIME time) {
-    timespec now{};
-    clock_gettime(CLOCK_REALTIME, &now);
+    const timespec now = platform::base::TimeOfDay();
     tm parts{};
     localtime_r(&now.tv_sec, &parts);
     Store(parts, now.tv_nsec, time);
 }
 
 void WINAPI GetSystemTime(LPSYSTEMTIME time) {
-    timespec now{};
-    clock_gettime(CLOCK_REALTIME, &now);
+    const timespec now = platform::base::TimeOfDay();
     tm parts{};
     gmtime_r(&now.tv_sec, &parts);
     Store(parts, now.tv_nsec, time);
@@ -82,6 +81,9 @@ DWORD WINAPI GetTickCount(void) {
 }
 
 void WINAPI Sleep(DWORD milliseconds) {
+    if (milliseconds != INFINITE && platform::base::SkipTo(platform::base::TickCount64() + milliseconds)) {
+        return;
+    }
     timespec wait{milliseconds / 1000, static_cast<long>(milliseconds % 1000) * 1000000};
     do {
         while (nanosleep(&wait, &wait) != 0 && errno == EINTR) {
@@ -99,4 +101,8 @@ BOOL WINAPI QueryPerformanceCounter(LARGE_INTEGER* count) {
 BOOL WINAPI QueryPerformanceFrequency(LARGE_INTEGER* frequency) {
     frequency->QuadPart = 1000000000;
     return TRUE;
+}
+
+void CvPlatformDriveClock(ULONGLONG milliseconds) {
+    platform::base::DriveClock(milliseconds);
 }

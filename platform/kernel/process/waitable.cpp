@@ -10,6 +10,7 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
+#include "base/clock.h"
 #include "base/fail.h"
 #include "base/handle.h"
 #include "kernel/modules/module.h"
@@ -257,6 +258,8 @@ DWORD WINAPI WaitForSingleObject(HANDLE handle, DWORD milliseconds) {
     const auto ready = [&] { return object->signalled; };
     if (milliseconds == INFINITE) {
         object->changed.wait(guard, ready);
+    } else if (!ready() && base::SkipTo(base::TickCount64() + milliseconds)) {
+        return WAIT_TIMEOUT;
     } else if (!object->changed.wait_for(guard, std::chrono::milliseconds(milliseconds), ready)) {
         return WAIT_TIMEOUT;
     }

@@ -112,6 +112,16 @@ Slot* FindSlot(HDC context) {
     return nullptr;
 }
 
+/// Ends a context in use and puts another one in its place: whoever still paints with it must not change what the next
+/// window gets. @returns false when there is none.
+bool Renew(Slot& slot) {
+    gdi::DeleteScreenContext(slot.context);
+    slot.context = gdi::CreateScreenContext(POINT{0, 0}, gdi::Region());
+    slot.inUse = false;
+    slot.painting = false;
+    return slot.context != nullptr;
+}
+
 unsigned ResolveFlags(const Window* window, DWORD flags) {
     const Window* parent = window->parent;
     if (window == Desktop()) {
@@ -255,18 +265,13 @@ void ForgetPainting(Window* window) {
     for (std::size_t i = 0; i < slots.size();) {
         Slot& slot = *slots[i];
         const bool classContext = slot.kind == Slot::Kind::Class && slot.windowClass == window->windowClass;
-        if (slot.window == window->handle && slot.kind == Slot::Kind::Cache) {
-            if (slot.inUse) {
-                gdi::ResetContext(slot.context);
-                slot.inUse = false;
-                slot.painting = false;
-            }
+        const bool mine = slot.window == window->handle;
+        if (mine && slot.kind == Slot::Kind::Cache && (!slot.inUse || Renew(slot))) {
             gdi::SetContextWindow(slot.context, nullptr);
             gdi::ReplaceVisible(slot.context, POINT{0, 0}, gdi::Region());
             slot.window = nullptr;
             slot.limited = false;
-        } else if ((slot.window == window->handle && slot.kind == Slot::Kind::Own) ||
-                   (classContext && window->windowClass->windows <= 1)) {
+        } else if ((mine && slot.kind != Slot::Kind::Class) || (classContext && window->windowClass->windows <= 1)) {
             gdi::DeleteScreenContext(slot.context);
             slots.erase(slots.begin() + static_cast<std::ptrdiff_t>(i));
             continue;

@@ -1,5 +1,6 @@
 // Where the items of a list box lie, and how it scrolls.
 #include <algorithm>
+#include <cstdint>
 
 #include "user/controls/listbox/list.h"
 
@@ -58,6 +59,16 @@ int LastTop(const ListData& list) {
     return std::clamp(top, 0, std::max(0, count - 1));
 }
 
+namespace {
+
+/// A distance of many items: no screen is as wide as this, and numbers do not overflow.
+LONG Distance(int count, int each) {
+    constexpr std::int64_t kFar = 1 << 30;
+    return static_cast<LONG>(std::clamp(std::int64_t{count} * each, -kFar, kFar));
+}
+
+}  // namespace
+
 RECT RectOf(const ListData& list, int index) {
     const RECT client = ListClient(list);
     if (list.Columns()) {
@@ -65,8 +76,8 @@ RECT RectOf(const ListData& list, int index) {
         const int from = index - list.top;
         const int column = from >= 0 ? from / rows : -((rows - 1 - from) / rows);
         const int row = from - column * rows;
-        const int left = column * list.columnWidth;
-        return {left, row * list.itemHeight, left + list.columnWidth, (row + 1) * list.itemHeight};
+        return {Distance(column, list.columnWidth), Distance(row, list.itemHeight),
+                Distance(column + 1, list.columnWidth), Distance(row + 1, list.itemHeight)};
     }
     RECT rect{-list.offset, 0, std::max<LONG>(client.right, list.extent - list.offset), 0};
     if (list.Variable()) {
@@ -75,7 +86,7 @@ RECT RectOf(const ListData& list, int index) {
         for (int i = index; i < list.top; ++i)
             rect.top -= HeightOf(list, i);
     } else {
-        rect.top = (index - list.top) * list.itemHeight;
+        rect.top = Distance(index - list.top, list.itemHeight);
     }
     rect.bottom = rect.top + HeightOf(list, index);
     return rect;

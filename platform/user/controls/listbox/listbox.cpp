@@ -247,7 +247,9 @@ LRESULT OnInput(ListData& list, UINT message, WPARAM wParam, LPARAM lParam) {
             OnListMouseMove(list, MousePoint(lParam));
             return 0;
         case WM_MOUSEWHEEL:
-            return OnWheel(list, wParam) ? 0 : DefWindowProcA(list.window, message, wParam, lParam);
+            // A combo box hands the wheel on to its list, which must not hand it back.
+            return OnWheel(list, wParam) || list.combo ? 0
+                                                       : DefWindowProcA(list.window, message, wParam, lParam);
         case WM_CAPTURECHANGED:
             if (list.tracking) {
                 EndTracking(list);
