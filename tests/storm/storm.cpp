@@ -16,7 +16,7 @@ namespace {
 constexpr int kMostInADialog = 2000;
 constexpr int kMostInABeat = 8;
 constexpr UINT kBeat = 10;
-constexpr unsigned kFailing = 3000;  // one allocation in so many
+constexpr int kFailing = 500;  // one allocation in so many
 // Soon the tick counter begins anew.
 constexpr ULONGLONG kStart = 0xFFFFFFFF - 30000;
 
@@ -50,7 +50,8 @@ auto const& Weighed(Items const& items) {
     return *std::begin(items);
 }
 
-void Happen() {
+// An exception that comes out of a call ends the program where it was thrown.
+void Happen() noexcept {
     Event const& event = Weighed(Weighed(kGroups).events());
     BeginEvent(event.name);
     RollGlobalMemory();
@@ -68,7 +69,7 @@ void Finish() {
     }
 }
 
-void CALLBACK Beat(HWND, UINT, UINT_PTR, DWORD) {
+void CALLBACK Beat(HWND, UINT, UINT_PTR, DWORD) noexcept {
     if (!Dialog() || Ours().events >= g_last) {
         g_ending = true;
     }
@@ -199,6 +200,7 @@ int Blow(Options const& options) {
         OneDialog(dialogs > 5);
     }
     FailAllocations(0, 0);
+    Ours().failed = FailedAllocations();
     return 0;
 }
 

@@ -42,7 +42,7 @@ Chance& Die();
 HWND OpenDialog(bool modal);  ///< modal: null, once it is closed
 HWND Dialog();                ///< null when it is gone
 HWND Page();
-INT_PTR CALLBACK NestedProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
+INT_PTR CALLBACK NestedProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
 
 HWND AnyWindow();  ///< of this thread, at any depth; null where there is none
 /// A window of one of these classes, mostly; now and then a stale handle or null, or for functions that look at the class
@@ -64,7 +64,7 @@ void SetVanishing(bool on);
 
 /// What is left behind by the rules of what was called; forgotten when a dialog begins.
 struct Kept {
-    bool hooks = false;            ///< whether this dialog gets bars that hook the arrow keys of what stands before them
+    bool hooks = false;  ///< whether this dialog gets bars that hook the arrow keys of what stands before them
     std::size_t globalBlocks = 0;  ///< of hooked windows, which do not see their end
     std::size_t gdi = 0;           ///< the same
     std::size_t handles = 0;       ///< keys that the profile functions leave open

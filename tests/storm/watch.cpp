@@ -80,6 +80,8 @@ class StateFolder {
     setenv("CVUTIL32_HOME", folder.path().c_str(), 1);
     setenv("CVUTIL32_DISPLAY", "none", 1);
     setenv("TZ", "UTC", 1);
+    // A process that stands still is stopped by this signal, and tells where it was.
+    setenv("ASAN_OPTIONS", "handle_abort=1:print_legend=0", 0);
     if (chdir((folder.path() / "drive_c").c_str()) == 0) {
         execv("/proc/self/exe", const_cast<char**>(arguments.data()));
     }
@@ -165,7 +167,8 @@ bool Watch(char const* program, Run const& run) {
     int const status = WaitFor(process, *shared);
     bool const good = WIFEXITED(status) && WEXITSTATUS(status) == 0;
     if (good) {
-        std::printf("seed %llu: %lu events in %lu dialogs\n", run.seed, shared->events.load(), shared->dialogs.load());
+        std::printf("seed %llu: %lu events in %lu dialogs, %lu failed allocations\n", run.seed, shared->events.load(),
+                    shared->dialogs.load(), shared->failed.load());
         std::fflush(stdout);
     } else {
         std::printf("seed %llu: %s %d in event %lu, dialog %lu. The last events:\n", run.seed,

@@ -177,7 +177,8 @@ void Make() {
 void Adopt() {
     HWND const window = AnyWindow();
     HWND const parent = Die().OneIn(2) ? Page() : AnyWindow();
-    if (window == Dialog() || !(GetWindowLongA(window, GWL_STYLE) & WS_CHILD)) {
+    // Parts of controls stay: what they have to say is for the control.
+    if (GetParent(window) != Dialog() && GetParent(window) != Page()) {
         return;
     }
     Describe(window);

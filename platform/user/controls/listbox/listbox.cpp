@@ -285,11 +285,12 @@ ListOwner OwnerOf(const ListData& list) {
 LRESULT CALLBACK ListBoxProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const auto data = ControlOf<ListData>(window);
     if (!data)
-        return DefWindowProcA(window, message, wParam, lParam);
+        return AnswerWithoutData(window, message, wParam, lParam);
     ListData& list = *data;
+    // A procedure in front of this one may have kept WM_NCCREATE to itself.
+    list.window = window;
     switch (message) {
         case WM_NCCREATE:
-            list.window = window;
             OnBeforeCreation(list, *reinterpret_cast<const CREATESTRUCTA*>(lParam));
             return DefWindowProcA(window, message, wParam, lParam);
         case WM_CREATE:
