@@ -31,6 +31,7 @@ struct TreeItem {
     int depth = 0;
     std::string text;
     bool asksText = false;  ///< LPSTR_TEXTCALLBACK
+    bool leaving = false;   ///< is being deleted: gets no more items below it
     int image = 0;
     int selectedImage = 0;
     int children = 0;  ///< 0, 1 or I_CHILDRENCALLBACK, as the application said or as children came and went

@@ -95,10 +95,10 @@ void Bar() {
 // Bitmaps that a button has are not released when it gets others: each button gets one pair.
 void GraphicButton() {
     HWND const button = AnyOf(kButtons, true);
-    if (!Is(button, GRBUTTON_CLASSNAME) || GetPropA(button, kPictured)) {
+    if (!Is(button, GRBUTTON_CLASSNAME) || GetPropA(button, kPictured) ||
+        !SetPropA(button, kPictured, reinterpret_cast<HANDLE>(INT_PTR{1}))) {
         return;
     }
-    SetPropA(button, kPictured, reinterpret_cast<HANDLE>(INT_PTR{1}));
     if (Die().OneIn(2)) {
         GRBUTTON_SetBitmaps(button, GetModuleHandleA(nullptr), MAKEINTRESOURCEA(IDB_PICTURE),
                             Die().OneIn(2) ? MAKEINTRESOURCEA(IDB_MASK) : nullptr);

@@ -156,7 +156,9 @@ Making const kMakings[] = {
 void Make() {
     static int next = 0;
     Making const& making = Die().Of(kMakings);
-    HWND const parent = Die().OneIn(6) ? AnyWindow() : Die().OneIn(2) ? Page() : Dialog();
+    // An animation is told to release its pictures by the two that know it.
+    bool const inside = lstrcmpA(making.name, ANIMATE_CLASSNAME) == 0 || !Die().OneIn(6);
+    HWND const parent = !inside ? AnyWindow() : Die().OneIn(2) ? Page() : Dialog();
     Note(" %s %lX in %d", making.name, static_cast<unsigned long>(making.style), GetDlgCtrlID(parent));
     if (!parent) {
         return;
@@ -178,7 +180,7 @@ void Adopt() {
     HWND const window = AnyWindow();
     HWND const parent = Die().OneIn(2) ? Page() : AnyWindow();
     // Parts of controls stay: what they have to say is for the control.
-    if (GetParent(window) != Dialog() && GetParent(window) != Page()) {
+    if ((GetParent(window) != Dialog() && GetParent(window) != Page()) || Is(window, ANIMATE_CLASSNAME)) {
         return;
     }
     Describe(window);
