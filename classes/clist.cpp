@@ -255,7 +255,22 @@ void* CLIST::Insert(void* item, unsigned int index) {
 }
 
 void* CLIST::Append(void* item) {
-    return IsValid() ? header->Insert(item, header->count) : nullptr;
+    if (!IsValid()) {
+        return nullptr;
+    }
+    CLISTHEADER& list = *header;
+    const bool plain = list.type != CLISTTYPE_POINTER && !list.prototype && list.array;
+    if (!plain || !item || list.count >= list.capacity) {
+        return list.Insert(item, list.count);
+    }
+    // What nearly every append is: bytes that there is room for.
+    if (!list.CheckItem(item)) {
+        return nullptr;
+    }
+    char* const slot = list.SlotAddress(list.count);
+    CopyBytes(slot, item, list.itemSize);
+    ++list.count;
+    return slot;
 }
 
 void* CLIST::New() {

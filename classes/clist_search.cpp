@@ -26,28 +26,34 @@ void* CLIST::FindLinear(void* key, CLISTCOMPARE compare, unsigned int* index) co
     return found;
 }
 
+// What the search needs is read once, as nobody else can change it meanwhile. The next half is chosen without a branch, which
+// no processor could foresee; the middle one is (low + high) / 2 throughout, which decides among equal elements.
 void* CLIST::FindBinary(void* key, CLISTCOMPARE compare, unsigned int* index) const {
     void* found = nullptr;
     std::uint32_t place = CLIST_NOINDEX;
     if (IsValid() && compare) {
-        const CLISTHEADER list = *header;  // a copy, as nobody else can change it while it is searched
+        const std::size_t size = header->slotSize;
+        const bool direct = header->type != CLISTTYPE_POINTER;
+        const char* slot = header->array;  // of the element at `low`
         std::uint32_t low = 0;
-        std::uint32_t high = list.array ? list.count : 0;
-        while (low < high) {
-            const std::uint32_t middle = (low + high) / 2;
-            void* const item = list.ItemAddress(middle);
+        std::uint32_t left = slot ? header->count : 0;
+        while (left) {
+            const std::uint32_t below = left / 2;
+            const char* const middle = slot + below * size;
+            void* const item = direct ? const_cast<char*>(middle) : *reinterpret_cast<void* const*>(middle);
             const int order = compare(key, item);
             if (order == 0) {
                 found = item;
-                high = middle;
+                low += below;
                 break;
             }
-            // Without a branch, which no processor could foresee.
-            const std::uint32_t above = 0u - static_cast<std::uint32_t>(order > 0);
-            low += (middle + 1 - low) & above;
-            high = middle + ((high - middle) & above);
+            // All bits, or none.
+            const std::size_t isAbove = std::size_t{0} - static_cast<std::size_t>(order > 0);
+            slot += (below * size + size) & isAbove;
+            low += (below + 1) & static_cast<std::uint32_t>(isAbove);
+            left = below ^ ((below ^ (left - below - 1)) & static_cast<std::uint32_t>(isAbove));
         }
-        place = high;
+        place = low;
     }
     if (index) {
         *index = place;

@@ -2,6 +2,7 @@
 #include "cvutil32/cstring.h"
 
 #include "classes/charwalk.h"
+#include "core/bytes.h"
 
 #include <algorithm>
 #include <cstring>
@@ -47,6 +48,15 @@ std::uint64_t TightSize(std::uint64_t size) {
     return (size + kGranule - 1) & ~std::uint64_t{kGranule - 1};
 }
 
+/// Clears what may lie behind the text in a block of RoomySize(): at most one byte more than a granule. Whole granules cost
+/// less than an exact length.
+void ClearEnd(char* block, std::uint64_t size) {
+    std::memset(block + size - kGranule, 0, kGranule);
+    if (size > kGranule) {
+        std::memset(block + size - 2 * kGranule, 0, kGranule);
+    }
+}
+
 std::uint32_t Length(char const* text) {
     return static_cast<std::uint32_t>(std::strlen(text));
 }
@@ -56,10 +66,9 @@ bool CopyText(char* to, char const* from, std::uint32_t count) {
     std::uint32_t at = 0;
     bool whole = true;
     for (; count - at >= sizeof(std::uint64_t); at += sizeof(std::uint64_t)) {
-        std::uint64_t bytes;
-        std::memcpy(&bytes, from + at, sizeof bytes);
-        std::memcpy(to + at, &bytes, sizeof bytes);
-        whole &= !((bytes - 0x0101010101010101u) & ~bytes & 0x8080808080808080u);
+        std::uint64_t const word = bytes::Word(from + at);
+        std::memcpy(to + at, &word, sizeof word);
+        whole &= !bytes::HasNul(word);
     }
     for (; at < count; ++at) {
         to[at] = from[at];
@@ -218,14 +227,15 @@ void CSTRING::Copy(char const* source, unsigned int count) {
         }
         Buffer = block;
         BufLen = static_cast<std::uint32_t>(size);
-        // At most one byte more than a granule lies behind the text. Whole granules cost less than an exact length.
-        std::memset(block + size - kGranule, 0, kGranule);
-        if (size > kGranule) {
-            std::memset(block + size - 2 * kGranule, 0, kGranule);
-        }
+        ClearEnd(block, size);
     }
-    std::memcpy(Buffer, source, count);
-    StrLen = walked ? count : Length(Buffer);
+    bool whole = walked;
+    if (walked) {
+        bytes::Copy(Buffer, source, count);
+    } else {
+        whole = CopyText(Buffer, source, count);
+    }
+    StrLen = whole ? count : Length(Buffer);
     ByteCount = count;
 }
 
@@ -254,7 +264,8 @@ void CSTRING::Concat(char const* source, unsigned int count) {
         count = CountBytes(source, kAll);
     }
     // Never read behind the own block, however much is asked for.
-    if (source >= Buffer && source < Buffer + BufLen) {
+    bool const own = source >= Buffer && source < Buffer + BufLen;
+    if (own) {
         count = std::min(count, static_cast<std::uint32_t>(Buffer + BufLen - source));
     }
     std::uint32_t const sum = ByteCount + count;
@@ -264,8 +275,10 @@ void CSTRING::Concat(char const* source, unsigned int count) {
     bool whole = walked || !HasNul(source, count);
     if (BufLen > sum) {
         whole = whole && !HasNul(Buffer, ByteCount);
-        if (count) {
+        if (own) {
             std::memmove(Buffer + ByteCount, source, count);
+        } else if (count) {
+            bytes::Copy(Buffer + ByteCount, source, count);
         }
     } else {
         std::uint64_t const size = TightSize(std::uint64_t{sum} + 1);
@@ -277,7 +290,7 @@ void CSTRING::Concat(char const* source, unsigned int count) {
         std::memset(block + size - kGranule, 0, kGranule);
         whole = CopyText(block, Buffer, ByteCount) && whole;
         if (count) {
-            std::memcpy(block + ByteCount, source, count);
+            bytes::Copy(block + ByteCount, source, count);
         }
         if (BufLen) {
             FreeBlock(Buffer);
@@ -408,39 +421,57 @@ CSTRING const& CSTRING::operator+=(char ch) {
     return Append(ch);
 }
 
-// Results leave through the copy constructor, never in place: their blocks have the size that it gives, an empty one
-// too.
+// Takes two texts over as one, into a block of the size that a copy of their sum has. Without memory for both, as much as
+// there is room for.
+void CSTRING::Join(char const* first, unsigned int firstCount, char const* second, unsigned int secondCount) {
+    std::uint64_t const sum = std::uint64_t{firstCount} + secondCount;
+    std::uint64_t const size = RoomySize(sum + 1);
+    char* const block = NewBlock(size);
+    if (!block) {
+        Copy(first, firstCount);
+        Concat(second, secondCount);
+        return;
+    }
+    ClearEnd(block, size);
+    bool whole = CopyText(block, first, firstCount);
+    whole = CopyText(block + firstCount, second, secondCount) && whole;
+    Buffer = block;
+    BufLen = static_cast<std::uint32_t>(size);
+    ByteCount = static_cast<std::uint32_t>(sum);
+    StrLen = whole ? ByteCount : Length(block);
+}
+
+// Every result owns a block, an empty one too: callers may write into it.
 
 CSTRING CSTRING::operator+(CSTRING const& other) const {
     CSTRING sum;
     if (StandardEntry() && other.IsValid()) {
-        sum.Copy(Buffer, ByteCount);
-        sum.Concat(other.Buffer, other.AutoLocked ? kAll : other.ByteCount);
+        sum.Join(Buffer, ByteCount, other.Buffer, other.AutoLocked ? CountBytes(other.Buffer, kAll) : other.ByteCount);
+    } else {
+        sum.Copy("", 0);
     }
-    return CSTRING(sum);
+    return sum;
 }
 
 CSTRING CSTRING::operator+(char const* text) const {
     CSTRING sum;
     if (StandardEntry()) {
-        std::uint32_t const count = CountBytes(text, kAll);
-        sum.Alloc(ByteCount + count + 1);
-        sum.Copy(Buffer, ByteCount);
-        sum.Concat(text, count);
+        sum.Join(Buffer, ByteCount, text, CountBytes(text, kAll));
+    } else {
+        sum.Copy("", 0);
     }
-    return CSTRING(sum);
+    return sum;
 }
 
 CSTRING CSTRING::operator+(char ch) const {
     CSTRING sum;
     if (StandardEntry()) {
         OneCharacter const one(ch);
-        std::uint32_t const count = CharSize(one.text);
-        sum.Alloc(ByteCount + count + 1);
-        sum.Copy(Buffer, ByteCount);
-        sum.Concat(one.text, count);
+        sum.Join(Buffer, ByteCount, one.text, CharSize(one.text));
+    } else {
+        sum.Copy("", 0);
     }
-    return CSTRING(sum);
+    return sum;
 }
 
 char CSTRING::GetChar(unsigned int index) {

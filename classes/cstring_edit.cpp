@@ -78,15 +78,16 @@ CSTRING const& CSTRING::Insert(char ch, unsigned int pos) {
     return Insert(text, pos, 1);
 }
 
-// Results leave through the copy constructor, never in place: their blocks have the size that it gives, an empty one
-// too.
+// Every result owns a block, an empty one too: callers may write into it.
 
 CSTRING CSTRING::Left(unsigned int count) const {
     CSTRING part;
     if (StandardEntry() && count) {
         part.Copy(Buffer, CountBytes(Buffer, std::min(count, StrLen)));
+    } else {
+        part.Copy("", 0);
     }
-    return CSTRING(part);
+    return part;
 }
 
 CSTRING CSTRING::Mid(unsigned int pos, unsigned int count) const {
@@ -94,8 +95,10 @@ CSTRING CSTRING::Mid(unsigned int pos, unsigned int count) const {
     if (StandardEntry() && pos < StrLen) {
         char const* const from = SkipChars(Buffer, pos);
         part.Copy(from, CountBytes(from, std::min(count, StrLen - pos)));
+    } else {
+        part.Copy("", 0);
     }
-    return CSTRING(part);
+    return part;
 }
 
 CSTRING CSTRING::Right(unsigned int count) const {
@@ -103,8 +106,10 @@ CSTRING CSTRING::Right(unsigned int count) const {
     if (StandardEntry()) {
         std::uint32_t const at = CountBytes(Buffer, StrLen - std::min(count, StrLen));
         part.Copy(Buffer + at, ByteCount > at ? ByteCount - at : 0);
+    } else {
+        part.Copy("", 0);
     }
-    return CSTRING(part);
+    return part;
 }
 
 namespace {

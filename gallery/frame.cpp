@@ -2,7 +2,7 @@
 
 #include "gallery/help.h"
 #include "gallery/pages.h"
-#include "gallery/pages/dates_page.h"
+#include "gallery/pages/fields/dates_page.h"
 #include "gallery/resource.h"
 #include "gallery/settings.h"
 #include "gallery/text.h"
@@ -182,7 +182,7 @@ INT_PTR CALLBACK FrameProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM
         case WM_HELP:
             return ShowHelp(dialog, *reinterpret_cast<const HELPINFO*>(lParam)) ? TRUE : FALSE;
         case WM_CONTEXTMENU:
-            return ShowContextMenuHelp(dialog, reinterpret_cast<HWND>(wParam)) ? TRUE : FALSE;
+            return ShowContextMenuHelp(dialog, reinterpret_cast<HWND>(wParam), lParam) ? TRUE : FALSE;
         case WM_WININICHANGE:
             TellPages(*frame, lParam);
             return TRUE;

@@ -1,13 +1,13 @@
 #include "gallery/help.h"
 
-#include "gallery/pages/browse_ids.h"
-#include "gallery/pages/buttons_ids.h"
-#include "gallery/pages/dates_page_ids.h"
-#include "gallery/pages/datetime_page_ids.h"
-#include "gallery/pages/dialogs_ids.h"
-#include "gallery/pages/lists_ids.h"
-#include "gallery/pages/numbers_page_ids.h"
-#include "gallery/pages/standard_ids.h"
+#include "gallery/pages/dialogs/browse_ids.h"
+#include "gallery/pages/controls/buttons_ids.h"
+#include "gallery/pages/fields/dates_page_ids.h"
+#include "gallery/pages/fields/datetime_page_ids.h"
+#include "gallery/pages/dialogs/dialogs_ids.h"
+#include "gallery/pages/controls/lists_ids.h"
+#include "gallery/pages/fields/numbers_page_ids.h"
+#include "gallery/pages/controls/standard_ids.h"
 #include "gallery/resource.h"
 #include "gallery/topic.h"
 
@@ -152,8 +152,9 @@ bool ShowHelp(HWND frame, const HELPINFO& info) {
     return info.iContextType == HELPINFO_WINDOW && Show(frame, static_cast<HWND>(info.hItemHandle), HELP_WM_HELP);
 }
 
-bool ShowContextMenuHelp(HWND frame, HWND control) {
-    return Show(frame, control, HELP_CONTEXTMENU);
+bool ShowContextMenuHelp(HWND frame, HWND control, LPARAM where) {
+    const bool byKeyboard = LOWORD(where) == 0xFFFF && HIWORD(where) == 0xFFFF;
+    return Show(frame, control, byKeyboard ? HELP_WM_HELP : HELP_CONTEXTMENU);
 }
 
 }  // namespace gallery

@@ -10,7 +10,8 @@ namespace gallery {
 /// message. @returns whether a topic was shown.
 bool ShowHelp(HWND frame, const HELPINFO& info);
 
-/// Answers WM_CONTEXTMENU. @param control the window that was clicked.
-bool ShowContextMenuHelp(HWND frame, HWND control);
+/// Answers WM_CONTEXTMENU. @param control the window that was clicked, or that has the focus. @param where as it comes with the
+/// message: at the pointer, or by the keyboard, when the topic is shown at the control.
+bool ShowContextMenuHelp(HWND frame, HWND control, LPARAM where);
 
 }  // namespace gallery

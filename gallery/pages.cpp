@@ -1,13 +1,13 @@
 #include "gallery/pages.h"
 
-#include "gallery/pages/browse_page.h"
-#include "gallery/pages/buttons_page.h"
-#include "gallery/pages/dates_page.h"
-#include "gallery/pages/datetime_page.h"
-#include "gallery/pages/dialogs_page.h"
-#include "gallery/pages/lists_page.h"
-#include "gallery/pages/numbers_page.h"
-#include "gallery/pages/standard_page.h"
+#include "gallery/pages/dialogs/browse_page.h"
+#include "gallery/pages/controls/buttons_page.h"
+#include "gallery/pages/fields/dates_page.h"
+#include "gallery/pages/fields/datetime_page.h"
+#include "gallery/pages/dialogs/dialogs_page.h"
+#include "gallery/pages/controls/lists_page.h"
+#include "gallery/pages/fields/numbers_page.h"
+#include "gallery/pages/controls/standard_page.h"
 
 namespace gallery {
 

@@ -506,6 +506,7 @@ class CVCLASS CSTRING : public CBASE {
     void Copy(char const* source, unsigned int count);
     void CopyWithin(char const* source, unsigned int count);
     void Concat(char const* source, unsigned int count);
+    void Join(char const* first, unsigned int firstCount, char const* second, unsigned int secondCount);
     void Free();
     void Init();
     unsigned int Search(char const* text, unsigned int length, unsigned int start, unsigned long flags) const;

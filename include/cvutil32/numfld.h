@@ -18,8 +18,8 @@
 /// Until NUMFLD_SetLimits() both limits are 0.
 ///
 /// What the user does. Digits and Backspace are taken, every other character is dropped without a sound, and so are
-/// Ctrl+C, Ctrl+V and the like; Ctrl+Insert, Shift+Insert and Shift+Delete copy, paste and cut. What is pasted is not
-/// filtered. The text is no longer than the digits of the maximum, at most five.
+/// Ctrl+C, Ctrl+V and the like; Ctrl+Insert, Shift+Insert, Shift+Delete and the edit class's context menu copy, paste and
+/// cut. What is pasted is not filtered. The text is no longer than the digits of the maximum, at most five.
 ///
 /// Messages that the field answers itself; all others are the edit class's:
 ///

@@ -77,6 +77,12 @@ std::uint32_t TakeSlot(Table& table) {
     return table.used++;
 }
 
+// Only who holds the lock writes a count, so that it needs no locked instruction.
+void Count(Table& table, HandleKind kind, int change) {
+    auto& count = table.counts[static_cast<std::size_t>(kind)];
+    count.store(count.load(std::memory_order_relaxed) + static_cast<std::size_t>(change), std::memory_order_relaxed);
+}
+
 }  // namespace
 
 std::uint32_t InsertHandle(HandleKind kind, void* object) {
@@ -93,7 +99,7 @@ std::uint32_t InsertHandle(HandleKind kind, void* object) {
     }
     slot->object.store(object, std::memory_order_release);
     slot->tag.store(Tag(generation, kind), std::memory_order_release);
-    table.counts[static_cast<std::size_t>(kind)].fetch_add(1, std::memory_order_relaxed);
+    Count(table, kind, 1);
     return generation << kSlotBits | index;
 }
 
@@ -122,7 +128,7 @@ void* RemoveHandle(std::uint32_t handle, HandleKind kind) {
     }
     slot->tag.store(Tag(handle >> kSlotBits, HandleKind::None), std::memory_order_release);
     void* object = slot->object.exchange(nullptr, std::memory_order_release);
-    table.counts[static_cast<std::size_t>(kind)].fetch_sub(1, std::memory_order_relaxed);
+    Count(table, kind, -1);
     const std::uint32_t index = handle & kSlotMask;
     slot->nextFree = kNoSlot;
     if (table.lastFree == kNoSlot) {
@@ -134,31 +140,14 @@ void* RemoveHandle(std::uint32_t handle, HandleKind kind) {
     return object;
 }
 
-bool ReplaceHandle(std::uint32_t handle, HandleKind kind, void* object) {
-    const std::lock_guard guard(theTable.lock);
+bool ReplaceHandle(std::uint32_t handle, HandleKind kind, std::uintptr_t from, void* to) {
+    auto* expected = reinterpret_cast<void*>(from);
     Slot* slot = LiveSlot(handle, kind);
-    if (slot) {
-        slot->object.store(object, std::memory_order_release);
-    }
-    return slot != nullptr;
+    return slot && slot->object.compare_exchange_strong(expected, to, std::memory_order_acq_rel);
 }
 
 std::size_t CountHandles(HandleKind kind) {
     return theTable.counts[static_cast<std::size_t>(kind)].load(std::memory_order_relaxed);
-}
-
-void ForEachHandle(HandleKind kind, void (*visit)(std::uint32_t, void*, void*), void* context) {
-    Table& table = theTable;
-    for (std::uint32_t index = 0; Slot* slot = SlotAt(table, index); ++index) {
-        const std::uint32_t tag = slot->tag.load(std::memory_order_acquire);
-        void* object = slot->object.load(std::memory_order_relaxed);
-        if (static_cast<HandleKind>(tag & 0xFF) == kind && kind != HandleKind::None && object) {
-            visit((tag >> 8) << kSlotBits | index, object, context);
-        }
-        if (index == kSlotMask) {
-            break;
-        }
-    }
 }
 
 }  // namespace platform::base

@@ -12,15 +12,11 @@ enum class HandleKind : std::uint8_t {
     None,
     GlobalBlock,
     Module,
-    Resource,
-    File,
     FindFile,
     RegistryKey,
     Thread,
-    Process,
     Event,
     Window,
-    Menu,
     Icon,
     Cursor,
     DeviceContext,
@@ -28,9 +24,7 @@ enum class HandleKind : std::uint8_t {
     Brush,
     Font,
     Bitmap,
-    Region,
     ImageList,
-    PositionBatch,
     Count
 };
 
@@ -46,14 +40,12 @@ HandleKind KindOfHandle(std::uint32_t handle);
 /// Takes the object out of the table; its handle is stale from now on. @returns the object, or null as FindHandle does.
 void* RemoveHandle(std::uint32_t handle, HandleKind kind);
 
-/// Puts another object behind a live handle, as when a block of memory has moved. @returns whether there was one.
-bool ReplaceHandle(std::uint32_t handle, HandleKind kind, void* object);
+/// Puts another object behind a live handle, as when a block of memory has moved: `to` in place of what was at the address
+/// `from`. @returns whether that was there.
+bool ReplaceHandle(std::uint32_t handle, HandleKind kind, std::uintptr_t from, void* to);
 
 /// @returns how many live handles of this kind there are.
 std::size_t CountHandles(HandleKind kind);
-
-/// Calls visit(handle, object) for the live handles of a kind, in slot order.
-void ForEachHandle(HandleKind kind, void (*visit)(std::uint32_t handle, void* object, void* context), void* context);
 
 template <class Handle>
 std::uint32_t ToNumber(Handle handle) {

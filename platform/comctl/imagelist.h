@@ -4,17 +4,13 @@
 
 #include <commctrl.h>
 
-#include <array>
-
 #include "base/handle.h"
 
 namespace platform::comctl {
 
-/// The pictures lie one below the other in two bitmaps. Where the mask is set the picture is black, so that it can be
-/// laid over any background: AND with the mask, OR with the picture.
+/// The pictures lie side by side in two bitmaps. Where the mask is set the picture is black, so that it can be laid over
+/// any background: AND with the mask, OR with the picture.
 struct ImageList {
-    static constexpr int kOverlays = 15;
-
     ImageList() = default;
     ImageList(const ImageList&) = delete;
     ImageList& operator=(const ImageList&) = delete;
@@ -23,24 +19,25 @@ struct ImageList {
     bool Has(int index) const {
         return index >= 0 && index < count;
     }
-    bool Masked() const {
-        return (flags & ILC_MASK) != 0;
-    }
 
     int cx = 0;
     int cy = 0;
-    UINT flags = 0;
     int count = 0;
-    int capacity = 0;
-    int grow = 1;
     HBITMAP images = nullptr;
-    HBITMAP masks = nullptr;  ///< one bit a pixel, set where the background shows; null without ILC_MASK
-    COLORREF background = CLR_NONE;
-    std::array<int, kOverlays> overlays{};  ///< indices, -1 for none
+    HBITMAP masks = nullptr;  ///< one bit a pixel, set where the background shows; null without a mask
 };
 
 /// @returns null, with ERROR_INVALID_HANDLE set, when the handle is stale or foreign.
 ImageList* FindImageList(HIMAGELIST handle);
+
+/// Makes a list of the pictures, `cx` pixels wide, that a bitmap holds side by side. The bitmaps stay the caller's.
+/// @param mask  a bitmap of the same size with one bit a pixel; null for none.
+/// @param ground  without such a bitmap: the colour of the background, CLR_DEFAULT for that of the first pixel, CLR_NONE
+/// for none.
+HIMAGELIST MakeImageList(int cx, HBITMAP image, HBITMAP mask, COLORREF ground);
+
+/// Draws a picture with every pixel of it half mixed with a colour.
+bool DrawBlended(HIMAGELIST list, int index, HDC context, int x, int y, COLORREF colour);
 
 /// A context in memory with a bitmap selected into it. Test it before use: there may be no memory, and a bitmap may be
 /// selected elsewhere.

@@ -3,6 +3,7 @@
 
 #include <mutex>
 #include <new>
+#include <utility>
 
 #include "user/window/class.h"
 
@@ -46,57 +47,18 @@ LRESULT OnGetItemRect(const TreePointer& tree, bool label, RECT* rect) {
     HTREEITEM handle;
     CopyMemory(&handle, rect, sizeof handle);
     UpdateBars(tree);
-    TreeItem* const item = tree->Find(handle);
+    const TreeItem* item = tree->Find(handle);
     if (!item || item->row < 0) {
         return FALSE;
     }
-    *rect = label ? LabelRect(tree, item) : RowRect(*tree, item);
+    *rect = label ? LabelRect(*tree, item) : RowRect(*tree, item);
     return TRUE;
 }
 
-LRESULT OnSetImageList(const TreePointer& tree, WPARAM which, HIMAGELIST list) {
-    HIMAGELIST& kept = which == TVSIL_STATE ? tree->stateImages : tree->images;
-    const HIMAGELIST former = kept;
-    kept = list;
+LRESULT OnSetImageList(const TreePointer& tree, HIMAGELIST list) {
+    const HIMAGELIST former = std::exchange(tree->images, list);
     Measure(tree);
     return Result(former);
-}
-
-LRESULT OnSelect(const TreePointer& tree, WPARAM what, HTREEITEM handle) {
-    switch (what) {
-        case TVGN_CARET:
-            return Select(tree, handle, TVC_UNKNOWN);
-        case TVGN_DROPHILITE: {
-            TreeItem* const item = tree->Find(handle);
-            for (TreeItem* one : {tree->dropTarget, item}) {
-                if (one) {
-                    one->state ^= TVIS_DROPHILITED;
-                    InvalidateItem(*tree, one);
-                }
-            }
-            tree->dropTarget = item;
-            return item || !handle;
-        }
-        case TVGN_FIRSTVISIBLE: {
-            EnsureVisible(tree, handle);
-            const TreeItem* item = tree->Find(handle);
-            if (item) {
-                ScrollTo(tree, item->row, tree->left);
-            }
-            return item != nullptr;
-        }
-        default:
-            return FALSE;
-    }
-}
-
-LRESULT OnHitTest(const TreePointer& tree, TVHITTESTINFO* hit) {
-    if (!hit) {
-        return 0;
-    }
-    const TreeItem* item = HitTest(tree, hit->pt, hit->flags);
-    hit->hItem = item ? item->handle : nullptr;
-    return Result(hit->hItem);
 }
 
 LRESULT OnTreeMessage(const TreePointer& tree, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -115,35 +77,16 @@ LRESULT OnTreeMessage(const TreePointer& tree, UINT message, WPARAM wParam, LPAR
             return OnGetItemRect(tree, wParam != 0, As<RECT*>(lParam));
         case TVM_GETCOUNT:
             return tree->count;
-        case TVM_GETINDENT:
-            return tree->indent;
-        case TVM_SETINDENT:
-            tree->indent = static_cast<int>(wParam);
-            Measure(tree);
-            return 0;
-        case TVM_GETIMAGELIST:
-            return Result(wParam == TVSIL_STATE ? tree->stateImages : tree->images);
         case TVM_SETIMAGELIST:
-            return OnSetImageList(tree, wParam, As<HIMAGELIST>(lParam));
+            return wParam == TVSIL_NORMAL ? OnSetImageList(tree, As<HIMAGELIST>(lParam)) : 0;
         case TVM_GETNEXTITEM:
             return Result(NextItem(tree, wParam, As<HTREEITEM>(lParam)));
         case TVM_SELECTITEM:
-            return OnSelect(tree, wParam, As<HTREEITEM>(lParam));
+            return wParam == TVGN_CARET && Select(tree, As<HTREEITEM>(lParam), TVC_UNKNOWN);
         case TVM_GETITEMA:
             return lParam && GetItem(tree, *As<TVITEMA*>(lParam));
-        case TVM_SETITEMA:
-            return lParam && SetItem(tree, *As<TVITEMA*>(lParam));
-        case TVM_GETVISIBLECOUNT:
-            return RowsShown(*tree, true);
-        case TVM_HITTEST:
-            return OnHitTest(tree, As<TVHITTESTINFO*>(lParam));
         case TVM_SORTCHILDREN:
-            return SortChildren(tree, As<HTREEITEM>(lParam), nullptr);
-        case TVM_SORTCHILDRENCB:
-            return lParam && As<TVSORTCB*>(lParam)->lpfnCompare &&
-                   SortChildren(tree, As<TVSORTCB*>(lParam)->hParent, As<TVSORTCB*>(lParam));
-        case TVM_ENSUREVISIBLE:
-            return EnsureVisible(tree, As<HTREEITEM>(lParam));
+            return SortChildren(tree, As<HTREEITEM>(lParam));
         default:
             return DefWindowProcA(tree->window, message, wParam, lParam);
     }
@@ -158,9 +101,6 @@ LRESULT OnInput(const TreePointer& tree, UINT message, WPARAM wParam, LPARAM lPa
         case WM_LBUTTONDOWN:
         case WM_LBUTTONDBLCLK:
             OnButtonDown(tree, PointOf(lParam), message == WM_LBUTTONDBLCLK);
-            return 0;
-        case WM_RBUTTONDOWN:
-            OnRightButtonDown(tree);
             return 0;
         case WM_KEYDOWN:
             return OnKeyDown(tree, wParam) ? 0 : DefWindowProcA(tree->window, message, wParam, lParam);
@@ -191,7 +131,6 @@ LRESULT OnMessage(const TreePointer& tree, UINT message, WPARAM wParam, LPARAM l
         case WM_ERASEBKGND:
             return TRUE;
         case WM_PAINT:
-        case WM_PRINTCLIENT:
             OnPaint(tree, reinterpret_cast<HDC>(wParam));
             return 0;
         case WM_ENABLE:
@@ -229,7 +168,6 @@ LRESULT CALLBACK TreeViewProcedure(HWND window, UINT message, WPARAM wParam, LPA
     try {
         return OnMessage(tree, message, wParam, lParam);
     } catch (const std::bad_alloc&) {
-        Notify(*tree, NM_OUTOFMEMORY);
         return 0;
     }
 }

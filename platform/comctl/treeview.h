@@ -30,11 +30,10 @@ struct TreeItem {
     TreeItem* next = nullptr;
     int depth = 0;
     std::string text;
-    bool asksText = false;  ///< LPSTR_TEXTCALLBACK
-    bool leaving = false;   ///< is being deleted: gets no more items below it
+    bool leaving = false;  ///< is being deleted: gets no more items below it
     int image = 0;
     int selectedImage = 0;
-    int children = 0;  ///< 0, 1 or I_CHILDRENCALLBACK, as the application said or as children came and went
+    int children = 0;  ///< 0 or 1, as the application said or as children came and went
     UINT state = 0;
     LPARAM param = 0;
     int width = -1;  ///< of the text in pixels; -1: not measured yet
@@ -73,9 +72,7 @@ struct TreeView : user::ControlData {
 
     // --- what the user sees
     TreeItem* caret = nullptr;
-    TreeItem* dropTarget = nullptr;
     HIMAGELIST images = nullptr;
-    HIMAGELIST stateImages = nullptr;
     HFONT font = nullptr;
     int rowHeight = 16;
     int indent = 19;
@@ -97,32 +94,24 @@ using TreePointer = std::shared_ptr<TreeView>;
 
 HTREEITEM InsertItem(const TreePointer& tree, const TVINSERTSTRUCTA& given);
 bool GetItem(const TreePointer& tree, TVITEMA& item);
-bool SetItem(const TreePointer& tree, const TVITEMA& item);
 bool DeleteItem(const TreePointer& tree, HTREEITEM item);
 void DeleteAll(const TreePointer& tree);
-bool SortChildren(const TreePointer& tree, HTREEITEM parent, const TVSORTCB* order);
+bool SortChildren(const TreePointer& tree, HTREEITEM parent);
 HTREEITEM NextItem(const TreePointer& tree, WPARAM code, HTREEITEM item);
 
-/// The text of an item, asked for where the application keeps it.
-std::string TextOf(const TreePointer& tree, TreeItem* item);
-int ImageOf(const TreePointer& tree, TreeItem* item, bool selected);
-bool HasChildren(const TreePointer& tree, TreeItem* item);
+bool HasChildren(const TreeItem* item);
 
 // --- notifications (treeview_notify.cpp)
 
-LRESULT Notify(const TreeView& tree, UINT code);
-/// Fills in what a notification tells of an item.
-TVITEMA Describe(const TreeItem* item);
 LRESULT NotifyItems(const TreeView& tree, UINT code, UINT action, const TreeItem* before, const TreeItem* after);
-LRESULT NotifyKey(const TreeView& tree, WORD key);
 
 // --- selecting and expanding (treeview_select.cpp)
 
-/// @returns false when the application refused.
+/// @returns false when there is no such item.
 bool Select(const TreePointer& tree, HTREEITEM item, UINT action);
 /// byUser: notifications are sent each time, not only the first.
 bool Expand(const TreePointer& tree, HTREEITEM item, UINT code, bool byUser);
-bool EnsureVisible(const TreePointer& tree, HTREEITEM item);
+void EnsureVisible(const TreePointer& tree, HTREEITEM item);
 
 // --- where things lie (treeview_layout.cpp)
 
@@ -131,10 +120,12 @@ int RowsShown(const TreeView& tree, bool whole);
 /// The x at which an item's picture begins.
 int PictureLeft(const TreeView& tree, const TreeItem* item);
 RECT RowRect(const TreeView& tree, const TreeItem* item);
-/// The part with the text. The text is measured where that has not been done.
-RECT LabelRect(const TreePointer& tree, TreeItem* item);
+/// The part with the text.
+RECT LabelRect(const TreeView& tree, const TreeItem* item);
 RECT ButtonRect(const TreeView& tree, const TreeItem* item);
-TreeItem* HitTest(const TreePointer& tree, POINT point, UINT& flags);
+/// What of a row lies under a point.
+enum class Hit { Nothing, Button, Item };
+TreeItem* HitTest(const TreePointer& tree, POINT point, Hit& hit);
 void ScrollTo(const TreePointer& tree, int top, int left);
 /// Takes changes of the rows in: sets the scroll bars and keeps the view within the rows.
 void UpdateBars(const TreePointer& tree);
@@ -155,7 +146,6 @@ void Paint(const TreePointer& tree, HDC context, const RECT& area);
 // --- mouse and keyboard (treeview_input.cpp)
 
 void OnButtonDown(const TreePointer& tree, POINT point, bool twice);
-void OnRightButtonDown(const TreePointer& tree);
 bool OnKeyDown(const TreePointer& tree, WPARAM key);
 void OnCharacter(const TreePointer& tree, char character);
 void OnFocus(const TreePointer& tree, bool has);

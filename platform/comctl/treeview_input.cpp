@@ -78,7 +78,6 @@ void OnFocus(const TreePointer& tree, bool has) {
     if (tree->caret) {
         InvalidateItem(*tree, tree->caret);
     }
-    Notify(*tree, has ? NM_SETFOCUS : NM_KILLFOCUS);
 }
 
 void OnButtonDown(const TreePointer& tree, POINT point, bool twice) {
@@ -89,39 +88,21 @@ void OnButtonDown(const TreePointer& tree, POINT point, bool twice) {
     if (tree->ending) {
         return;
     }
-    UINT where = 0;
-    const TreeItem* item = HitTest(tree, point, where);
+    Hit hit = Hit::Nothing;
+    const TreeItem* item = HitTest(tree, point, hit);
     const HTREEITEM handle = item ? item->handle : nullptr;
-    if (where & TVHT_ONITEMBUTTON) {
-        Expand(tree, handle, TVE_TOGGLE, true);
-        return;
-    }
-    if (where & TVHT_ONITEM) {
+    if (hit == Hit::Item) {
         tree->typing.Forget();
         Select(tree, handle, TVC_BYMOUSE);
     }
-    // The answer of a click that is not wanted is nonzero.
-    if (!tree->ending && Notify(*tree, twice ? NM_DBLCLK : NM_CLICK) == 0 && twice && (where & TVHT_ONITEM) &&
-        !tree->ending) {
-        Expand(tree, handle, TVE_TOGGLE, true);
-    }
-}
-
-void OnRightButtonDown(const TreePointer& tree) {
-    if (GetFocus() != tree->window) {
-        SetFocus(tree->window);
-    }
-    if (!tree->ending) {
-        Notify(*tree, NM_RCLICK);
+    item = tree->ending ? nullptr : tree->Find(handle);
+    if (item && (hit == Hit::Button || (hit == Hit::Item && twice))) {
+        Expand(tree, handle, item->state & TVIS_EXPANDED ? TVE_COLLAPSE : TVE_EXPAND, true);
     }
 }
 
 bool OnKeyDown(const TreePointer& tree, WPARAM key) {
     tree->typing.OnKey(key);
-    NotifyKey(*tree, static_cast<WORD>(key));
-    if (tree->ending) {
-        return true;
-    }
     if (IsDown(VK_CONTROL)) {
         return ScrollByKey(tree, key);
     }
@@ -155,8 +136,6 @@ bool OnKeyDown(const TreePointer& tree, WPARAM key) {
             return Expand(tree, caret, TVE_EXPAND, true), true;
         case VK_SUBTRACT:
             return Expand(tree, caret, TVE_COLLAPSE, true), true;
-        case VK_RETURN:
-            return Notify(*tree, NM_RETURN), true;
         default:
             return false;
     }
@@ -171,7 +150,7 @@ void OnCharacter(const TreePointer& tree, char character) {
     const int row = tree->caret ? std::max(tree->caret->row, 0) : 0;
     const int found = tree->typing.Find(character, row, static_cast<int>(tree->rows.size()), [&](int at) {
         const auto index = static_cast<std::size_t>(at);
-        return index < tree->rows.size() ? TextOf(tree, tree->rows[index]) : std::string();
+        return index < tree->rows.size() ? tree->rows[index]->text : std::string();
     });
     if (found >= 0) {
         SelectRow(tree, found);

@@ -9,8 +9,7 @@
 namespace platform::comctl {
 namespace {
 
-constexpr UINT kKeptState = TVIS_SELECTED | TVIS_CUT | TVIS_DROPHILITED | TVIS_BOLD | TVIS_EXPANDED |
-                            TVIS_EXPANDEDONCE | TVIS_OVERLAYMASK | TVIS_STATEIMAGEMASK;
+constexpr UINT kKeptState = TVIS_SELECTED | TVIS_EXPANDED | TVIS_EXPANDEDONCE;
 
 bool IsRoot(HTREEITEM item) {
     return !item || item == TVI_ROOT;
@@ -25,16 +24,9 @@ bool Shown(const TreeItem* item) {
     return true;
 }
 
-int CompareTexts(const std::string& a, const std::string& b) {
-    return lstrcmpiA(a.c_str(), b.c_str());
-}
-
-void Assign(const TreePointer& tree, TreeItem* item, const TVITEMA& given) {
+void Assign(TreeItem* item, const TVITEMA& given) {
     if (given.mask & TVIF_TEXT) {
-        item->asksText = given.pszText == LPSTR_TEXTCALLBACKA;
-        item->text = item->asksText || !given.pszText ? std::string() : given.pszText;
-        item->width = -1;
-        tree->stale = true;  // the widest row may be another one now
+        item->text = given.pszText ? given.pszText : "";
     }
     if (given.mask & TVIF_IMAGE) {
         item->image = given.iImage;
@@ -49,41 +41,11 @@ void Assign(const TreePointer& tree, TreeItem* item, const TVITEMA& given) {
         item->children = given.cChildren;
     }
     if (given.mask & TVIF_STATE) {
-        const UINT before = item->state;
-        const UINT bits = given.stateMask & kKeptState;
-        item->state = (item->state & ~bits) | (given.state & bits);
-        if ((before ^ item->state) & TVIS_BOLD) {
-            item->width = -1;
-        }
-        tree->stale = tree->stale || ((before ^ item->state) & TVIS_EXPANDED);
+        item->state = given.state & given.stateMask & kKeptState;
     }
 }
 
-/// Asks the application for what it keeps itself.
-void Ask(const TreePointer& tree, TreeItem* item, UINT mask, NMTVDISPINFOA& answer) {
-    answer.hdr = {tree->window, static_cast<UINT_PTR>(GetDlgCtrlID(tree->window)), TVN_GETDISPINFOA};
-    answer.item.mask = mask;
-    answer.item.hItem = item->handle;
-    answer.item.state = item->state;
-    answer.item.lParam = item->param;
-    SendMessageA(GetParent(tree->window), WM_NOTIFY, answer.hdr.idFrom, reinterpret_cast<LPARAM>(&answer));
-}
-
-TreeItem* SortedPlace(const TreePointer& tree, TreeItem* parent, const std::string& text) {
-    TreeItem* after = nullptr;
-    for (TreeItem* child = parent->first; child && CompareTexts(TextOf(tree, child), text) <= 0; child = child->next) {
-        after = child;
-    }
-    return after;
-}
-
-TreeItem* PlaceFor(const TreePointer& tree, TreeItem* parent, HTREEITEM after, const TreeItem* item) {
-    if (after == TVI_FIRST) {
-        return nullptr;
-    }
-    if (after == TVI_SORT) {
-        return SortedPlace(tree, parent, item->text);
-    }
+TreeItem* PlaceFor(const TreePointer& tree, TreeItem* parent, HTREEITEM after) {
     TreeItem* const found = tree->Find(after);
     return found && tree->ParentOf(found) == parent ? found : parent->last;
 }
@@ -140,35 +102,8 @@ bool IsWithin(const TreeItem* item, const TreeItem* ancestor) {
 
 }  // namespace
 
-std::string TextOf(const TreePointer& tree, TreeItem* item) {
-    if (!item->asksText) {
-        return item->text;
-    }
-    char buffer[MAX_PATH] = "";
-    NMTVDISPINFOA answer{};
-    answer.item.pszText = buffer;
-    answer.item.cchTextMax = sizeof buffer;
-    Ask(tree, item, TVIF_TEXT, answer);
-    return answer.item.pszText && answer.item.pszText != LPSTR_TEXTCALLBACKA ? answer.item.pszText : "";
-}
-
-int ImageOf(const TreePointer& tree, TreeItem* item, bool selected) {
-    const int image = selected ? item->selectedImage : item->image;
-    if (image != I_IMAGECALLBACK) {
-        return image;
-    }
-    NMTVDISPINFOA answer{};
-    Ask(tree, item, selected ? TVIF_SELECTEDIMAGE : TVIF_IMAGE, answer);
-    return selected ? answer.item.iSelectedImage : answer.item.iImage;
-}
-
-bool HasChildren(const TreePointer& tree, TreeItem* item) {
-    if (item->children != I_CHILDRENCALLBACK) {
-        return item->first || item->children > 0;
-    }
-    NMTVDISPINFOA answer{};
-    Ask(tree, item, TVIF_CHILDREN, answer);
-    return answer.item.cChildren > 0;
+bool HasChildren(const TreeItem* item) {
+    return item->first || item->children > 0;
 }
 
 HTREEITEM InsertItem(const TreePointer& tree, const TVINSERTSTRUCTA& given) {
@@ -178,8 +113,8 @@ HTREEITEM InsertItem(const TreePointer& tree, const TVINSERTSTRUCTA& given) {
     }
     TreeItem* const item = tree->New();
     try {
-        Assign(tree, item, given.item);
-        tree->Link(parent, item, PlaceFor(tree, parent, given.hInsertAfter, item));
+        Assign(item, given.item);
+        tree->Link(parent, item, PlaceFor(tree, parent, given.hInsertAfter));
     } catch (...) {
         tree->Free(item);
         throw;
@@ -196,43 +131,24 @@ HTREEITEM InsertItem(const TreePointer& tree, const TVINSERTSTRUCTA& given) {
 }
 
 bool GetItem(const TreePointer& tree, TVITEMA& given) {
-    TreeItem* item = tree->Find(given.hItem);
+    const TreeItem* item = tree->Find(given.hItem);
     if (!item) {
         return false;
     }
     if ((given.mask & TVIF_TEXT) && given.pszText && given.cchTextMax > 0) {
-        const std::string text = TextOf(tree, item);
-        lstrcpynA(given.pszText, text.c_str(), given.cchTextMax);
+        lstrcpynA(given.pszText, item->text.c_str(), given.cchTextMax);
     }
-    if ((given.mask & TVIF_IMAGE) && (item = tree->Find(given.hItem))) {
-        given.iImage = ImageOf(tree, item, false);
+    if (given.mask & TVIF_IMAGE) {
+        given.iImage = item->image;
     }
-    if ((given.mask & TVIF_SELECTEDIMAGE) && (item = tree->Find(given.hItem))) {
-        given.iSelectedImage = ImageOf(tree, item, true);
+    if (given.mask & TVIF_SELECTEDIMAGE) {
+        given.iSelectedImage = item->selectedImage;
     }
-    if ((given.mask & TVIF_CHILDREN) && (item = tree->Find(given.hItem))) {
-        given.cChildren = HasChildren(tree, item);
-    }
-    item = tree->Find(given.hItem);
-    if (!item) {
-        return false;
+    if (given.mask & TVIF_CHILDREN) {
+        given.cChildren = HasChildren(item);
     }
     given.state = item->state;
     given.lParam = item->param;
-    return true;
-}
-
-bool SetItem(const TreePointer& tree, const TVITEMA& given) {
-    TreeItem* const item = tree->Find(given.hItem);
-    if (!item) {
-        return false;
-    }
-    Assign(tree, item, given);
-    if (tree->stale) {
-        InvalidateRect(tree->window, nullptr, FALSE);
-    } else {
-        InvalidateItem(*tree, item);
-    }
     return true;
 }
 
@@ -253,7 +169,7 @@ bool DeleteItem(const TreePointer& tree, HTREEITEM handle) {
     const HTREEITEM above = item->parent ? item->parent->handle : nullptr;
     Discard(tree, handle);
     TreeItem* const parent = tree->Find(above);
-    if (parent && !parent->first && parent->children != I_CHILDRENCALLBACK) {
+    if (parent && !parent->first) {
         parent->children = 0;
         parent->state &= ~static_cast<UINT>(TVIS_EXPANDED);
     }
@@ -266,7 +182,6 @@ void DeleteAll(const TreePointer& tree) {
         MarkLeaving(item);
     }
     tree->caret = nullptr;
-    tree->dropTarget = nullptr;
     tree->top = tree->left = 0;
     Discard(tree, nullptr);
     if (!tree->ending) {
@@ -274,33 +189,21 @@ void DeleteAll(const TreePointer& tree) {
     }
 }
 
-bool SortChildren(const TreePointer& tree, HTREEITEM handle, const TVSORTCB* order) {
+bool SortChildren(const TreePointer& tree, HTREEITEM handle) {
     TreeItem* const parent = IsRoot(handle) ? &tree->root : tree->Find(handle);
     if (!parent) {
         return false;
     }
-    struct Entry {
-        HTREEITEM item;
-        LPARAM param;
-        std::string text;
-    };
-    std::vector<Entry> children;
+    std::vector<TreeItem*> children;
     for (TreeItem* child = parent->first; child; child = child->next) {
-        children.push_back({child->handle, child->param, {}});
+        children.push_back(child);
     }
-    for (Entry& child : children) {
-        TreeItem* const item = order ? nullptr : tree->Find(child.item);
-        child.text = item ? TextOf(tree, item) : std::string();
-    }
-    std::stable_sort(children.begin(), children.end(), [&](const Entry& a, const Entry& b) {
-        return order ? order->lpfnCompare(a.param, b.param, order->lParam) < 0 : CompareTexts(a.text, b.text) < 0;
+    std::stable_sort(children.begin(), children.end(), [](const TreeItem* a, const TreeItem* b) {
+        return lstrcmpiA(a->text.c_str(), b->text.c_str()) < 0;
     });
-    for (const Entry& child : children) {
-        TreeItem* const item = tree->Find(child.item);
-        if (item && tree->ParentOf(item) == parent) {
-            tree->Unlink(item);
-            tree->Link(parent, item, parent->last);
-        }
+    for (TreeItem* child : children) {
+        tree->Unlink(child);
+        tree->Link(parent, child, parent->last);
     }
     InvalidateRect(tree->window, nullptr, FALSE);
     return true;
@@ -314,8 +217,6 @@ HTREEITEM NextItem(const TreePointer& tree, WPARAM code, HTREEITEM handle) {
             return handleOf(tree->root.first);
         case TVGN_CARET:
             return handleOf(tree->caret);
-        case TVGN_DROPHILITE:
-            return handleOf(tree->dropTarget);
         case TVGN_FIRSTVISIBLE:
             UpdateBars(tree);
             return tree->rows.empty() ? nullptr : tree->rows[static_cast<std::size_t>(tree->top)]->handle;
@@ -332,8 +233,6 @@ HTREEITEM NextItem(const TreePointer& tree, WPARAM code, HTREEITEM handle) {
     switch (code) {
         case TVGN_NEXT:
             return handleOf(item->next);
-        case TVGN_PREVIOUS:
-            return handleOf(item->previous);
         case TVGN_PARENT:
             return handleOf(item->parent);
         case TVGN_CHILD:

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "comctl/treeview.h"
+#include "user/painting/painting.h"
 
 namespace platform::comctl {
 namespace {
@@ -38,9 +39,7 @@ int WidthOf(HDC context, const std::string& text) {
 }
 
 int LabelLeft(const TreeView& tree, const TreeItem* item) {
-    const int picture = tree.images ? tree.imageWidth + kGap : 0;
-    const int state = tree.stateImages && (item->state & TVIS_STATEIMAGEMASK) ? tree.imageWidth + kGap : 0;
-    return PictureLeft(tree, item) + state + picture;
+    return PictureLeft(tree, item) + (tree.images ? tree.imageWidth + kGap : 0);
 }
 
 int RowCount(const TreeView& tree) {
@@ -69,15 +68,15 @@ void SetBar(const TreeView& tree, int which, const SCROLLINFO& wanted) {
     }
 }
 
-/// Measures what is new among the rows. Texts that the application keeps are measured when they are painted.
+/// Measures what is new among the rows.
 void FindWidest(const TreePointer& tree) {
     const MeasuringContext context(*tree);
     tree->widest = 0;
     for (TreeItem* item : tree->rows) {
-        if (item->width < 0 && !item->asksText) {
+        if (item->width < 0) {
             item->width = WidthOf(context, item->text);
         }
-        const int right = LabelLeft(*tree, item) + tree->left + std::max(item->width, 0) + 2 * kLabelPadding;
+        const int right = LabelLeft(*tree, item) + tree->left + item->width + 2 * kLabelPadding;
         tree->widest = std::max(tree->widest, right);
     }
 }
@@ -117,18 +116,9 @@ RECT RowRect(const TreeView& tree, const TreeItem* item) {
     return {0, y, client.right, y + tree.rowHeight};
 }
 
-RECT LabelRect(const TreePointer& tree, TreeItem* item) {
-    if (item->width < 0) {
-        const HTREEITEM handle = item->handle;
-        const std::string text = TextOf(tree, item);
-        item = tree->Find(handle);
-        if (!item) {
-            return {};
-        }
-        item->width = WidthOf(MeasuringContext(*tree), text);
-    }
-    RECT label = RowRect(*tree, item);
-    label.left = LabelLeft(*tree, item);
+RECT LabelRect(const TreeView& tree, const TreeItem* item) {
+    RECT label = RowRect(tree, item);
+    label.left = LabelLeft(tree, item);
     label.right = label.left + item->width + 2 * kLabelPadding;
     return label;
 }
@@ -140,47 +130,26 @@ RECT ButtonRect(const TreeView& tree, const TreeItem* item) {
     return {x - 4, y - 4, x + 5, y + 5};
 }
 
-TreeItem* HitTest(const TreePointer& tree, POINT point, UINT& flags) {
+TreeItem* HitTest(const TreePointer& tree, POINT point, Hit& hit) {
+    hit = Hit::Nothing;
     RECT client{};
     GetClientRect(tree->window, &client);
-    flags = (point.y < 0                ? TVHT_ABOVE
-             : point.y >= client.bottom ? TVHT_BELOW
-                                        : 0) |
-            (point.x < 0               ? TVHT_TOLEFT
-             : point.x >= client.right ? TVHT_TORIGHT
-                                       : 0);
-    if (flags) {
+    if (!PtInRect(&client, point)) {
         return nullptr;
     }
     UpdateBars(tree);
     const int row = tree->top + point.y / tree->rowHeight;
     if (row >= RowCount(*tree)) {
-        flags = TVHT_NOWHERE;
         return nullptr;
     }
-    TreeItem* item = tree->rows[static_cast<std::size_t>(row)];
-    const HTREEITEM handle = item->handle;
-    const bool button = HasStyle(*tree, TVS_HASBUTTONS) && (item->depth > 0 || HasStyle(*tree, TVS_LINESATROOT)) &&
-                        HasChildren(tree, item);
-    if (!tree->Find(handle)) {
-        return nullptr;
-    }
-    const RECT label = LabelRect(tree, item);
-    item = tree->Find(handle);
-    if (!item) {
-        return nullptr;
-    }
+    TreeItem* const item = tree->rows[static_cast<std::size_t>(row)];
+    const bool button =
+        HasStyle(*tree, TVS_HASBUTTONS) && (item->depth > 0 || HasStyle(*tree, TVS_LINESATROOT)) && HasChildren(item);
     const int picture = PictureLeft(*tree, item);
-    if (point.x >= label.right) {
-        flags = TVHT_ONITEMRIGHT;
-    } else if (point.x >= label.left) {
-        flags = TVHT_ONITEMLABEL;
-    } else if (point.x >= picture) {
-        flags = TVHT_ONITEMICON;
+    if (point.x >= picture) {
+        hit = point.x < LabelRect(*tree, item).right ? Hit::Item : Hit::Nothing;
     } else if (button && point.x >= picture - tree->indent) {
-        flags = TVHT_ONITEMBUTTON;
-    } else {
-        flags = TVHT_ONITEMINDENT;
+        hit = Hit::Button;
     }
     return item;
 }
@@ -198,7 +167,7 @@ void ScrollTo(const TreePointer& tree, int top, int left) {
     }
     tree->top = top;
     tree->left = left;
-    ScrollWindowEx(tree->window, dx, dy, nullptr, nullptr, nullptr, nullptr, SW_INVALIDATE);
+    user::ScrollClient(tree->window, dx, dy, false);
     UpdateBars(tree);
 }
 
@@ -283,16 +252,11 @@ void OnScroll(const TreePointer& tree, int bar, UINT code) {
 }
 
 void OnWheel(const TreePointer& tree, int turned) {
-    UINT lines = 3;
-    SystemParametersInfoA(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
-    if (lines == 0) {
-        return;
-    }
-    const int step = lines == WHEEL_PAGESCROLL ? std::max(RowsShown(*tree, true), 1) : static_cast<int>(lines);
+    constexpr int kRowsPerNotch = 3;
     tree->wheel += turned;
     const int notches = tree->wheel / WHEEL_DELTA;
     tree->wheel -= notches * WHEEL_DELTA;
-    ScrollTo(tree, tree->top - notches * step, tree->left);
+    ScrollTo(tree, tree->top - notches * kRowsPerNotch, tree->left);
 }
 
 }  // namespace platform::comctl

@@ -67,9 +67,6 @@ void TreeView::Free(TreeItem* item) {
     if (caret == item) {
         caret = nullptr;
     }
-    if (dropTarget == item) {
-        dropTarget = nullptr;
-    }
     ++slots[slot].uses;
     slots[slot].item.reset();
     freeSlots.push_back(slot);

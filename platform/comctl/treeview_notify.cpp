@@ -4,17 +4,7 @@
 namespace platform::comctl {
 namespace {
 
-template <class Notification>
-LRESULT Send(const TreeView& tree, UINT code, Notification& notification) {
-    const HWND window = tree.window;
-    notification.hdr.hwndFrom = window;
-    notification.hdr.idFrom = static_cast<UINT_PTR>(GetDlgCtrlID(window));
-    notification.hdr.code = code;
-    return SendMessageA(GetParent(window), WM_NOTIFY, notification.hdr.idFrom, reinterpret_cast<LPARAM>(&notification));
-}
-
-}  // namespace
-
+/// Fills in what a notification tells of an item.
 TVITEMA Describe(const TreeItem* item) {
     TVITEMA description{};
     if (item) {
@@ -30,25 +20,16 @@ TVITEMA Describe(const TreeItem* item) {
     return description;
 }
 
-LRESULT Notify(const TreeView& tree, UINT code) {
-    struct {
-        NMHDR hdr;
-    } notification{};
-    return Send(tree, code, notification);
-}
+}  // namespace
 
 LRESULT NotifyItems(const TreeView& tree, UINT code, UINT action, const TreeItem* before, const TreeItem* after) {
+    const HWND window = tree.window;
     NMTREEVIEWA notification{};
+    notification.hdr = {window, static_cast<UINT_PTR>(GetDlgCtrlID(window)), code};
     notification.action = action;
     notification.itemOld = Describe(before);
     notification.itemNew = Describe(after);
-    return Send(tree, code, notification);
-}
-
-LRESULT NotifyKey(const TreeView& tree, WORD key) {
-    NMTVKEYDOWN notification{};
-    notification.wVKey = key;
-    return Send(tree, TVN_KEYDOWN, notification);
+    return SendMessageA(GetParent(window), WM_NOTIFY, notification.hdr.idFrom, reinterpret_cast<LPARAM>(&notification));
 }
 
 }  // namespace platform::comctl

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "comctl/treeview.h"
+#include "gdi/context/objects.h"
 
 namespace platform::comctl {
 namespace {
@@ -24,7 +25,7 @@ HBRUSH MakeDots() {
         bits[2 * i] = static_cast<BYTE>(kRows[i] >> 8);
     }
     const HBITMAP pattern = CreateBitmap(8, 8, 1, 1, bits.data());
-    const HBRUSH brush = CreatePatternBrush(pattern);
+    const HBRUSH brush = gdi::MakePatternBrush(pattern);
     DeleteObject(pattern);
     return brush;
 }
@@ -69,35 +70,21 @@ void PaintButton(const TreeView& tree, HDC context, const TreeItem* item) {
     }
 }
 
-void PaintPictures(const TreeView& tree, HDC context, const TreeItem* item, int image) {
-    const RECT row = RowRect(tree, item);
-    int x = PictureLeft(tree, item);
-    const int y = row.top + (tree.rowHeight - tree.imageHeight) / 2;
-    if (const UINT state = item->state & TVIS_STATEIMAGEMASK; tree.stateImages && state) {
-        ImageList_Draw(tree.stateImages, static_cast<int>(state >> 12), context, x, y, ILD_TRANSPARENT);
-        x += tree.imageWidth + 3;
-    }
-    if (tree.images) {
-        const UINT cut = item->state & TVIS_CUT ? ILD_BLEND50 : 0;
-        ImageList_DrawEx(tree.images, image, context, x, y, 0, 0, CLR_NONE, Ground(tree),
-                         ILD_TRANSPARENT | cut | (item->state & TVIS_OVERLAYMASK));
-    }
+void PaintPicture(const TreeView& tree, HDC context, const TreeItem* item) {
+    const int image = item == tree.caret ? item->selectedImage : item->image;
+    const int y = RowRect(tree, item).top + (tree.rowHeight - tree.imageHeight) / 2;
+    ImageList_Draw(tree.images, image, context, PictureLeft(tree, item), y, ILD_TRANSPARENT);
 }
 
-void PaintLabel(const TreePointer& tree, HDC context, TreeItem* item, const std::string& text) {
-    const HTREEITEM handle = item->handle;
+void PaintLabel(const TreeView& tree, HDC context, const TreeItem* item) {
     const RECT label = LabelRect(tree, item);
-    item = tree->Find(handle);
-    if (!item) {
-        return;
-    }
-    COLORREF ground = Ground(*tree);
-    COLORREF ink = GetSysColor(IsWindowEnabled(tree->window) ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT);
-    const bool strong = (item->state & TVIS_DROPHILITED) || (item == tree->caret && tree->focused && !tree->dropTarget);
+    COLORREF ground = Ground(tree);
+    COLORREF ink = GetSysColor(IsWindowEnabled(tree.window) ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT);
+    const bool strong = item == tree.caret && tree.focused;
     if (strong) {
         ground = GetSysColor(COLOR_HIGHLIGHT);
         ink = GetSysColor(COLOR_HIGHLIGHTTEXT);
-    } else if (item == tree->caret && HasStyle(*tree, TVS_SHOWSELALWAYS)) {
+    } else if (item == tree.caret && HasStyle(tree, TVS_SHOWSELALWAYS)) {
         ground = GetSysColor(COLOR_BTNFACE);
         ink = GetSysColor(COLOR_BTNTEXT);
     }
@@ -105,35 +92,26 @@ void PaintLabel(const TreePointer& tree, HDC context, TreeItem* item, const std:
     GetTextMetricsA(context, &metrics);
     SetTextColor(context, ink);
     SetBkColor(context, ground);
-    ExtTextOutA(context, label.left + kLabelPadding, label.top + (tree->rowHeight - metrics.tmHeight) / 2, ETO_OPAQUE,
-                &label, text.c_str(), static_cast<UINT>(text.size()), nullptr);
-    if (strong && item == tree->caret) {
+    ExtTextOutA(context, label.left + kLabelPadding, label.top + (tree.rowHeight - metrics.tmHeight) / 2, ETO_OPAQUE,
+                &label, item->text.c_str(), static_cast<UINT>(item->text.size()), nullptr);
+    if (strong) {
         DrawFocusRect(context, &label);
     }
 }
 
-void PaintRow(const TreePointer& tree, const Pencil& pencil, HTREEITEM handle) {
-    TreeItem* item = tree->Find(handle);
-    const std::string text = TextOf(tree, item);
-    item = tree->Find(handle);
-    const int image = item && tree->images ? ImageOf(tree, item, item == tree->caret) : 0;
-    item = tree->Find(handle);
-    const bool button = item && HasStyle(*tree, TVS_HASBUTTONS) &&
-                        (item->depth > 0 || HasStyle(*tree, TVS_LINESATROOT)) && HasChildren(tree, item);
-    item = tree->Find(handle);
-    if (!item || item->row < 0) {
-        return;
+void PaintRow(const TreeView& tree, const Pencil& pencil, const TreeItem* item) {
+    Fill(pencil.context, RowRect(tree, item), Ground(tree));
+    if (HasStyle(tree, TVS_HASLINES) && pencil.dots) {
+        SetBkColor(pencil.context, Ground(tree));
+        PaintLines(tree, pencil, item);
     }
-    Fill(pencil.context, RowRect(*tree, item), Ground(*tree));
-    if (HasStyle(*tree, TVS_HASLINES) && pencil.dots) {
-        SetBkColor(pencil.context, Ground(*tree));
-        PaintLines(*tree, pencil, item);
+    if (HasStyle(tree, TVS_HASBUTTONS) && (item->depth > 0 || HasStyle(tree, TVS_LINESATROOT)) && HasChildren(item)) {
+        PaintButton(tree, pencil.context, item);
     }
-    if (button) {
-        PaintButton(*tree, pencil.context, item);
+    if (tree.images) {
+        PaintPicture(tree, pencil.context, item);
     }
-    PaintPictures(*tree, pencil.context, item, image);
-    PaintLabel(tree, pencil.context, item, text);
+    PaintLabel(tree, pencil.context, item);
 }
 
 }  // namespace
@@ -146,7 +124,7 @@ void Paint(const TreePointer& tree, HDC context, const RECT& area) {
     int row = tree->top + std::max<int>(area.top, 0) / tree->rowHeight;
     int y = (row - tree->top) * tree->rowHeight;
     for (; y < area.bottom && row < static_cast<int>(tree->rows.size()); ++row, y += tree->rowHeight) {
-        PaintRow(tree, pencil, tree->rows[static_cast<std::size_t>(row)]->handle);
+        PaintRow(*tree, pencil, tree->rows[static_cast<std::size_t>(row)]);
     }
     if (y < client.bottom) {
         Fill(context, {0, y, client.right, client.bottom}, Ground(*tree));

@@ -55,11 +55,10 @@ bool Open(const TreePointer& tree, HTREEITEM handle, bool byUser) {
     if (item->state & TVIS_EXPANDED) {
         return true;
     }
-    if (!HasChildren(tree, item)) {
+    if (!HasChildren(item)) {
         return false;
     }
-    item = tree->Find(handle);
-    const bool tells = item && (byUser || !(item->state & TVIS_EXPANDEDONCE));
+    const bool tells = byUser || !(item->state & TVIS_EXPANDEDONCE);
     if (tells && NotifyItems(*tree, TVN_ITEMEXPANDINGA, TVE_EXPAND, nullptr, item)) {
         return false;
     }
@@ -73,35 +72,19 @@ bool Open(const TreePointer& tree, HTREEITEM handle, bool byUser) {
     InvalidateFrom(*tree, item);
     // A bar that comes or goes sends messages.
     UpdateBars(tree);
-    item = tree->Find(handle);
-    if (tells && item) {
-        NotifyItems(*tree, TVN_ITEMEXPANDEDA, TVE_EXPAND, nullptr, item);
-    }
     if (byUser) {
         ShowChildren(tree, handle);
     }
     return true;
 }
 
-void DeleteChildren(const TreePointer& tree, HTREEITEM handle) {
-    const TreeItem* item = tree->Find(handle);
-    const int children = item ? item->children : 0;
-    while ((item = tree->Find(handle)) && item->first) {
-        DeleteItem(tree, item->first->handle);
-    }
-    if (TreeItem* left = tree->Find(handle)) {
-        left->children = children ? children : 1;
-        left->state &= ~static_cast<UINT>(TVIS_EXPANDED | TVIS_EXPANDEDONCE);
-    }
-}
-
-bool Close(const TreePointer& tree, HTREEITEM handle, UINT code, bool byUser) {
+bool Close(const TreePointer& tree, HTREEITEM handle, bool byUser) {
     TreeItem* item = tree->Find(handle);
     if (!item->first || !(item->state & TVIS_EXPANDED)) {
         return false;
     }
     const bool tells = byUser || !(item->state & TVIS_EXPANDEDONCE);
-    if (tells && NotifyItems(*tree, TVN_ITEMEXPANDINGA, code, nullptr, item)) {
+    if (tells && NotifyItems(*tree, TVN_ITEMEXPANDINGA, TVE_COLLAPSE, nullptr, item)) {
         return false;
     }
     item = tree->Find(handle);
@@ -117,14 +100,7 @@ bool Close(const TreePointer& tree, HTREEITEM handle, UINT code, bool byUser) {
     item->state &= ~static_cast<UINT>(TVIS_EXPANDED);
     InvalidateFrom(*tree, item);
     tree->stale = true;
-    if (code & TVE_COLLAPSERESET) {
-        DeleteChildren(tree, handle);
-    }
     UpdateBars(tree);
-    item = tree->Find(handle);
-    if (tells && item) {
-        NotifyItems(*tree, TVN_ITEMEXPANDEDA, code, nullptr, item);
-    }
     return true;
 }
 
@@ -138,14 +114,7 @@ bool Select(const TreePointer& tree, HTREEITEM handle, UINT action) {
     if (item == tree->caret) {
         return true;
     }
-    if (NotifyItems(*tree, TVN_SELCHANGINGA, action, tree->caret, item)) {
-        return false;
-    }
-    item = tree->Find(handle);
-    if (handle && !item) {
-        return false;
-    }
-    const TVITEMA before = Describe(tree->caret);
+    const HTREEITEM before = tree->caret ? tree->caret->handle : nullptr;
     SetSelected(tree, tree->caret, false);
     tree->caret = item;
     SetSelected(tree, item, true);
@@ -153,32 +122,23 @@ bool Select(const TreePointer& tree, HTREEITEM handle, UINT action) {
         EnsureVisible(tree, handle);
         item = tree->Find(handle);
     }
-    const TreeItem* former = tree->Find(before.hItem);
-    NotifyItems(*tree, TVN_SELCHANGEDA, action, former, item);
+    NotifyItems(*tree, TVN_SELCHANGEDA, action, tree->Find(before), item);
     return true;
 }
 
 bool Expand(const TreePointer& tree, HTREEITEM handle, UINT code, bool byUser) {
-    const TreeItem* item = tree->Find(handle);
-    if (!item) {
+    if (!tree->Find(handle)) {
         return false;
     }
-    UINT action = code & TVE_TOGGLE;
-    if (action == TVE_TOGGLE) {
-        action = item->state & TVIS_EXPANDED ? TVE_COLLAPSE : TVE_EXPAND;
-    }
-    if (action == TVE_EXPAND) {
-        return Open(tree, handle, byUser);
-    }
-    return action == TVE_COLLAPSE && Close(tree, handle, (code & TVE_COLLAPSERESET) | TVE_COLLAPSE, byUser);
+    return code == TVE_EXPAND ? Open(tree, handle, byUser) : code == TVE_COLLAPSE && Close(tree, handle, byUser);
 }
 
-bool EnsureVisible(const TreePointer& tree, HTREEITEM handle) {
+void EnsureVisible(const TreePointer& tree, HTREEITEM handle) {
     ShowAncestors(tree, handle);
     UpdateBars(tree);
-    TreeItem* item = tree->Find(handle);
-    if (!item) {
-        return false;
+    const TreeItem* item = tree->Find(handle);
+    if (!item || item->row < 0) {
+        return;
     }
     const int shown = std::max(RowsShown(*tree, true), 1);
     int top = tree->top;
@@ -189,11 +149,7 @@ bool EnsureVisible(const TreePointer& tree, HTREEITEM handle) {
     }
     RECT client{};
     GetClientRect(tree->window, &client);
-    const RECT label = LabelRect(tree, item);
-    item = tree->Find(handle);
-    if (!item) {
-        return false;
-    }
+    const RECT label = LabelRect(*tree, item);
     int left = tree->left;
     const int begin = PictureLeft(*tree, item);
     if (begin < 0) {
@@ -201,9 +157,7 @@ bool EnsureVisible(const TreePointer& tree, HTREEITEM handle) {
     } else if (label.right > client.right) {
         left += std::min<int>(label.right - client.right, begin);
     }
-    const bool moved = top != tree->top || left != tree->left;
     ScrollTo(tree, top, left);
-    return moved;
 }
 
 }  // namespace platform::comctl

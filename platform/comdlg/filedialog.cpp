@@ -31,7 +31,7 @@ user::DialogTemplate Template(const OPENFILENAMEA& record) {
     user::DialogTemplate dialog;
     dialog.style = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN | DS_MODALFRAME | DS_3DLOOK;
     dialog.width = 280;
-    dialog.height = record.Flags & OFN_HIDEREADONLY ? 148 : 162;
+    dialog.height = 148;
     dialog.title = record.lpstrTitle ? record.lpstrTitle : "Open";
     dialog.hasFont = true;
     dialog.pointSize = 8;
@@ -57,10 +57,6 @@ user::DialogTemplate Template(const OPENFILENAMEA& record) {
         if (item.id == lst1 || item.id == edt1) {
             item.exStyle = WS_EX_CLIENTEDGE;
         }
-    }
-    if (!(record.Flags & OFN_HIDEREADONLY)) {
-        dialog.items.push_back(
-            Item("button", chx1, BS_AUTOCHECKBOX | WS_TABSTOP, 54, 147, 155, 10, "Open as &read-only"));
     }
     return dialog;
 }
@@ -113,8 +109,6 @@ void Begin(FileDialog& dialog) {
 
 BOOL OnInit(FileDialog& dialog) {
     SendMessageA(dialog.Control(edt1), EM_LIMITTEXT, std::max<DWORD>(dialog.record.nMaxFile, MAX_PATH), 0);
-    CheckDlgButton(dialog.window, chx1, dialog.Has(OFN_READONLY) ? BST_CHECKED : BST_UNCHECKED);
-    dialog.defaultExtension = dialog.record.lpstrDefExt ? dialog.record.lpstrDefExt : "";
     SubclassList(dialog);
     FillFilters(dialog);
     CreateHook(dialog);
@@ -213,6 +207,9 @@ INT_PTR OnMessage(FileDialog& dialog, UINT message, WPARAM wParam, LPARAM lParam
                 PostMessageA(dialog.window, kTellUnreadable, 0, 0);
             }
             return FALSE;
+        case CDM_SETCONTROLTEXT:
+            SetDlgItemTextA(dialog.window, static_cast<int>(wParam), reinterpret_cast<LPCSTR>(lParam));
+            return TRUE;
         case kTellUnreadable:
             TellNotAccessible(dialog, std::exchange(dialog.unreadable, {}), dialog.whyUnreadable);
             return TRUE;
@@ -222,14 +219,8 @@ INT_PTR OnMessage(FileDialog& dialog, UINT message, WPARAM wParam, LPARAM lParam
         case WM_ACTIVATE:
             dialog.interrupted = dialog.interrupted || LOWORD(wParam) == WA_INACTIVE;
             return FALSE;
-        default: {
-            LRESULT result = 0;
-            if (!AnswerQuery(dialog, message, wParam, lParam, result)) {
-                return FALSE;
-            }
-            SetWindowLongPtrA(dialog.window, DWLP_MSGRESULT, result);
-            return TRUE;
-        }
+        default:
+            return FALSE;
     }
 }
 

@@ -41,7 +41,6 @@ struct FileDialog {
     std::vector<shell::Place> trail;  ///< the folder shown, last, and those above it
     std::vector<Row> items;           ///< as the list shows them
     std::vector<Row> folders;         ///< as the list of folders shows them
-    std::string defaultExtension;
     WNDPROC listProcedure = nullptr;  ///< of the list's class
     comctl::Typing typing;            ///< in the list
     std::string unreadable;           ///< the folder that the dialog should have begun in
@@ -128,8 +127,6 @@ void CreateHook(FileDialog& dialog);
 /// @returns whether the hook refused.
 bool TellHook(FileDialog& dialog, UINT code);
 bool HookRefuses(FileDialog& dialog);
-/// CDM_ messages. @returns false for another message.
-bool AnswerQuery(FileDialog& dialog, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
 
 // --- drawing (filedialog_draw.cpp)
 

@@ -13,16 +13,10 @@ std::string FolderPath(const FileDialog& dialog) {
     return dialog.Folder().path;
 }
 
-/// Adds the default extension to a name without one, unless there is a file of that very name.
-std::string WithExtension(const FileDialog& dialog, const std::string& path) {
-    const bool bare = ExtensionOf(path).empty() && !path.ends_with('.');
-    return bare && !dialog.defaultExtension.empty() && !Exists(path) ? path + '.' + dialog.defaultExtension : path;
-}
-
 /// @returns whether a name may be given back; else the user has been told why not.
 bool MayGiveBack(const FileDialog& dialog, const std::string& path) {
     const auto why = WhyRefused(path, dialog.Has(OFN_PATHMUSTEXIST), dialog.Has(OFN_FILEMUSTEXIST));
-    if (why && !dialog.Has(OFN_NOVALIDATE)) {
+    if (why) {
         TellRefused(dialog, path, *why);
         return false;
     }
@@ -48,9 +42,6 @@ void End(FileDialog& dialog, const Choice& choice) {
         EndDialog(dialog.window, FALSE);
         return;
     }
-    DWORD& flags = dialog.record.Flags;
-    const bool readOnly = IsDlgButtonChecked(dialog.window, chx1) == BST_CHECKED;
-    flags = readOnly ? flags | OFN_READONLY : flags & ~static_cast<DWORD>(OFN_READONLY);
     dialog.record.nFilterIndex = static_cast<DWORD>(SendMessageA(dialog.Control(cmb1), CB_GETCURSEL, 0, 0) + 1);
     dialog.interrupted = false;
     const bool refused = TellHook(dialog, CDN_FILEOK) || HookRefuses(dialog);
@@ -88,16 +79,15 @@ void AcceptOne(FileDialog& dialog, const std::string& name) {
         TellRefused(dialog, path, Refusal::NoPath);
         return;
     }
-    const std::string complete = WithExtension(dialog, path);
-    if (MayGiveBack(dialog, complete)) {
-        End(dialog, Split(complete));
+    if (MayGiveBack(dialog, path)) {
+        End(dialog, Split(path));
     }
 }
 
 void AcceptSeveral(FileDialog& dialog, const std::vector<std::string>& names) {
     Choice choice{FolderPath(dialog), {}};
     for (const std::string& name : names) {
-        const std::string path = WithExtension(dialog, FullPath(choice.folder, name));
+        const std::string path = FullPath(choice.folder, name);
         if (!MayGiveBack(dialog, path)) {
             return;
         }

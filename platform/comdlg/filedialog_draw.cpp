@@ -1,6 +1,7 @@
 // The rows of the open-file dialog's lists: a small icon and a name.
 #include <algorithm>
 
+#include "comctl/imagelist.h"
 #include "comdlg/filedialog.h"
 #include "shell/icons.h"
 
@@ -11,6 +12,17 @@ constexpr int kIcon = 16;
 constexpr int kGap = 3;
 constexpr int kLevel = 10;  ///< pixels that a level of the list of folders is indented
 constexpr int kLeastName = 60;
+constexpr int kUnmixed = -1;
+
+/// colour: the system colour that is mixed in, or kUnmixed.
+void DrawPicture(const DRAWITEMSTRUCT& item, shell::Picture picture, int x, int y, int colour) {
+    const int index = static_cast<int>(picture);
+    if (colour == kUnmixed) {
+        ImageList_Draw(shell::SmallIcons(), index, item.hDC, x, y, ILD_TRANSPARENT);
+    } else {
+        comctl::DrawBlended(shell::SmallIcons(), index, item.hDC, x, y, GetSysColor(colour));
+    }
+}
 
 void DrawUpButton(const DRAWITEMSTRUCT& item) {
     const bool pressed = (item.itemState & ODS_SELECTED) != 0;
@@ -18,9 +30,7 @@ void DrawUpButton(const DRAWITEMSTRUCT& item) {
     DrawFrameControl(item.hDC, &rect, DFC_BUTTON, DFCS_BUTTONPUSH | (pressed ? DFCS_PUSHED : 0));
     const int x = (rect.left + rect.right - kIcon) / 2 + pressed;
     const int y = (rect.top + rect.bottom - kIcon) / 2 + pressed;
-    const UINT faded = item.itemState & ODS_DISABLED ? ILD_BLEND50 : 0;
-    ImageList_DrawEx(shell::SmallIcons(), static_cast<int>(shell::Picture::FolderUp), item.hDC, x, y, 0, 0, CLR_NONE,
-                     GetSysColor(COLOR_BTNFACE), ILD_TRANSPARENT | faded);
+    DrawPicture(item, shell::Picture::FolderUp, x, y, item.itemState & ODS_DISABLED ? COLOR_BTNFACE : kUnmixed);
     if (item.itemState & ODS_FOCUS) {
         InflateRect(&rect, -3, -3);
         DrawFocusRect(item.hDC, &rect);
@@ -54,8 +64,7 @@ void DrawName(const DRAWITEMSTRUCT& item, const Row& row, const std::string& nam
     FillRect(item.hDC, &item.rcItem, GetSysColorBrush(COLOR_WINDOW));
     const int y = (item.rcItem.top + item.rcItem.bottom - kIcon) / 2;
     const int x = item.rcItem.left + 2 + indent;
-    ImageList_DrawEx(shell::SmallIcons(), static_cast<int>(shell::PictureOf(row.place, open)), item.hDC, x, y, 0, 0,
-                     CLR_NONE, GetSysColor(COLOR_HIGHLIGHT), ILD_TRANSPARENT | (selected ? ILD_BLEND50 : 0));
+    DrawPicture(item, shell::PictureOf(row.place, open), x, y, selected ? COLOR_HIGHLIGHT : kUnmixed);
     RECT label = item.rcItem;
     label.left = x + kIcon + kGap;
     label.right = std::min<LONG>(label.left + width + 4, item.rcItem.right);

@@ -9,9 +9,8 @@ namespace {
 
 /// Folders, and the files that fit the patterns, each kind by name.
 HRESULT ListFolder(const FileDialog& dialog, const shell::Place& folder, std::vector<Row>& rows) {
-    const DWORD hidden = dialog.Has(OFN_FORCESHOWHIDDEN) ? SHCONTF_INCLUDEHIDDEN : 0;
     shell::Listing listing;
-    const HRESULT result = shell::ListItems(folder, SHCONTF_FOLDERS | SHCONTF_NONFOLDERS | hidden, listing);
+    const HRESULT result = shell::ListItems(folder, SHCONTF_FOLDERS | SHCONTF_NONFOLDERS, listing);
     if (FAILED(result)) {
         return result;
     }

@@ -1,28 +1,9 @@
 // The application's hook: a child dialog with the hook as its procedure.
-#include <algorithm>
-#include <cstring>
-
 #include "comdlg/filedialog.h"
 #include "user/dialog/dialog.h"
 
 namespace platform::comdlg {
 namespace {
-
-LRESULT CopyOut(const std::string& text, WPARAM size, LPARAM buffer) {
-    if (size > 0 && buffer) {
-        lstrcpynA(reinterpret_cast<LPSTR>(buffer), text.c_str(), static_cast<int>(size));
-    }
-    return static_cast<LRESULT>(text.size() + 1);
-}
-
-std::string ChosenPath(const FileDialog& dialog) {
-    const std::string folder = dialog.Folder().path;
-    const std::vector<std::string> names = SplitNames(TextOf(dialog.Control(edt1)));
-    if (names.empty() || folder.empty()) {
-        return folder;
-    }
-    return names.size() == 1 ? FullPath(folder, names.front()) : folder + '\\' + JoinNames(names);
-}
 
 /// What the hook's window answered: the message result, if its procedure has handled the message.
 bool Ask(const FileDialog& dialog, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -55,31 +36,6 @@ bool TellHook(FileDialog& dialog, UINT code) {
 
 bool HookRefuses(FileDialog& dialog) {
     return Ask(dialog, RegisterWindowMessageA(FILEOKSTRINGA), 0, reinterpret_cast<LPARAM>(&dialog.record));
-}
-
-bool AnswerQuery(FileDialog& dialog, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
-    switch (message) {
-        case CDM_GETSPEC:
-            result = CopyOut(TextOf(dialog.Control(edt1)), wParam, lParam);
-            return true;
-        case CDM_GETFILEPATH:
-            result = CopyOut(ChosenPath(dialog), wParam, lParam);
-            return true;
-        case CDM_GETFOLDERPATH:
-            result = CopyOut(dialog.Folder().path, wParam, lParam);
-            return true;
-        case CDM_SETCONTROLTEXT:
-            SetDlgItemTextA(dialog.window, static_cast<int>(wParam), reinterpret_cast<LPCSTR>(lParam));
-            return true;
-        case CDM_HIDECONTROL:
-            ShowWindow(dialog.Control(static_cast<int>(wParam)), SW_HIDE);
-            return true;
-        case CDM_SETDEFEXT:
-            dialog.defaultExtension = lParam ? reinterpret_cast<LPCSTR>(lParam) : "";
-            return true;
-        default:
-            return false;
-    }
 }
 
 }  // namespace platform::comdlg

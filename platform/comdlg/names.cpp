@@ -56,11 +56,6 @@ void SetOffsets(OPENFILENAMEA& record, const std::string& path) {
     record.nFileOffset = static_cast<WORD>(name);
     // Behind the dot; where there is none, at the end.
     record.nFileExtension = static_cast<WORD>(path.size() - extension.size());
-    const std::string wanted = record.lpstrDefExt ? record.lpstrDefExt : "";
-    record.Flags &= ~static_cast<DWORD>(OFN_EXTENSIONDIFFERENT);
-    if (!wanted.empty() && lstrcmpiA(wanted.c_str(), extension.c_str()) != 0) {
-        record.Flags |= OFN_EXTENSIONDIFFERENT;
-    }
 }
 
 }  // namespace

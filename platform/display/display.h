@@ -60,6 +60,10 @@ class Display {
     /// Gives the host's clipboard a text, UTF-8. Any thread.
     virtual void WriteClipboard(const std::string& text) = 0;
 
+    /// The same for the text that was selected last, where the host keeps one apart from the clipboard. Writing does not wait.
+    virtual bool ReadSelection(std::string* text) = 0;
+    virtual void WriteSelection(const std::string& text) = 0;
+
     /// @returns whether a person may be there to see the screen and to send input.
     virtual bool Interactive() const = 0;
 };

@@ -14,6 +14,10 @@ class HeadlessDisplay final : public Display {
         return false;
     }
     void WriteClipboard(const std::string&) override {}
+    bool ReadSelection(std::string*) override {
+        return false;
+    }
+    void WriteSelection(const std::string&) override {}
     bool Interactive() const override {
         return false;
     }

@@ -5,25 +5,21 @@
 /// hook is the dialog procedure of a child of the dialog: it gets WM_INITDIALOG with the OPENFILENAME record as lParam,
 /// WM_NOTIFY with an OFNOTIFY record, and when a name was chosen the registered message FILEOKSTRING with the record as lParam.
 /// It refuses a name, for CDN_FILEOK and for FILEOKSTRING, by a result other than 0 with DWL_MSGRESULT set to one other than 0.
+/// The dialog has no box for opening files to be read only (OFN_HIDEREADONLY or not) and adds no extension to a name
+/// (lpstrDefExt).
 #pragma once
 
 #include "cderr.h"
 #include "windows.h"
 
-#define OFN_READONLY 0x00000001
 #define OFN_HIDEREADONLY 0x00000004
 #define OFN_NOCHANGEDIR 0x00000008  ///< there is no current folder to change
 #define OFN_ENABLEHOOK 0x00000020
-#define OFN_NOVALIDATE 0x00000100
 #define OFN_ALLOWMULTISELECT 0x00000200
-#define OFN_EXTENSIONDIFFERENT 0x00000400
 #define OFN_PATHMUSTEXIST 0x00000800
 #define OFN_FILEMUSTEXIST 0x00001000
-#define OFN_NOREADONLYRETURN 0x00008000
 #define OFN_EXPLORER 0x00080000
-#define OFN_NODEREFERENCELINKS 0x00100000
 #define OFN_LONGNAMES 0x00200000
-#define OFN_FORCESHOWHIDDEN 0x10000000
 
 typedef UINT_PTR(CALLBACK* LPOFNHOOKPROC)(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
 
@@ -72,12 +68,7 @@ typedef struct _OFNOTIFYA {
 } OFNOTIFYA, *LPOFNOTIFYA;
 
 #define CDM_FIRST (WM_USER + 100)
-#define CDM_GETSPEC (CDM_FIRST + 0)
-#define CDM_GETFILEPATH (CDM_FIRST + 1)
-#define CDM_GETFOLDERPATH (CDM_FIRST + 2)
 #define CDM_SETCONTROLTEXT (CDM_FIRST + 4)
-#define CDM_HIDECONTROL (CDM_FIRST + 5)
-#define CDM_SETDEFEXT (CDM_FIRST + 6)
 
 WINUSERAPI BOOL WINAPI GetOpenFileNameA(LPOPENFILENAMEA record);
 /// @returns what made the last dialog of the thread fail; 0 when the user cancelled it.
@@ -89,5 +80,4 @@ WINUSERAPI DWORD WINAPI CommDlgExtendedError(void);
 #define OFNOTIFY OFNOTIFYA
 #define FILEOKSTRING FILEOKSTRINGA
 #define GetOpenFileName GetOpenFileNameA
-#define OPENFILENAME_SIZE_VERSION_400 OPENFILENAME_SIZE_VERSION_400A
 #endif

@@ -2,7 +2,6 @@
 /// Identifiers of the controls of the open-file dialog.
 #pragma once
 
-#define chx1 0x0410  ///< Open as read-only
 #define stc2 0x0441  ///< Files of type:
 #define stc3 0x0442  ///< File name:
 #define stc4 0x0443  ///< Look in:

@@ -39,5 +39,3 @@ inline int IsEqualGUID(REFGUID a, REFGUID b) {
 #define REFCLSID const IID*
 #define IsEqualGUID(a, b) (!memcmp((a), (b), sizeof(GUID)))
 #endif
-
-#define IsEqualIID(a, b) IsEqualGUID(a, b)

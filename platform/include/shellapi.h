@@ -1,20 +1,15 @@
 /// @file shellapi.h
-/// Facts about items of the shell: names, attributes, and the icons of the system's image lists.
+/// Facts about items of the shell: the icons of the system's image lists.
 #pragma once
 
 #include "windef.h"
 #include "winuser.h"
 
 #define SHGFI_ICON 0x000000100
-#define SHGFI_DISPLAYNAME 0x000000200
-#define SHGFI_TYPENAME 0x000000400
-#define SHGFI_ATTRIBUTES 0x000000800
 #define SHGFI_SYSICONINDEX 0x000004000
-#define SHGFI_LARGEICON 0x000000000
 #define SHGFI_SMALLICON 0x000000001
 #define SHGFI_OPENICON 0x000000002
 #define SHGFI_PIDL 0x000000008
-#define SHGFI_USEFILEATTRIBUTES 0x000000010
 
 typedef struct _SHFILEINFOA {
     HICON hIcon;
@@ -24,8 +19,7 @@ typedef struct _SHFILEINFOA {
     CHAR szTypeName[80];
 } SHFILEINFOA;
 
-/// Answers for a path, or with SHGFI_PIDL for an absolute item identifier list. Of the flags SHGFI_DISPLAYNAME,
-/// SHGFI_TYPENAME, SHGFI_ATTRIBUTES and SHGFI_SYSICONINDEX are answered, the last one for small icons.
+/// Answers for a path, or with SHGFI_PIDL for an absolute item identifier list: SHGFI_SYSICONINDEX, for small icons.
 /// @returns the image list with SHGFI_SYSICONINDEX, else nonzero; 0 when there is no such item.
 WINUSERAPI DWORD_PTR WINAPI SHGetFileInfoA(LPCSTR path, DWORD attributes, SHFILEINFOA* information, UINT size,
                                            UINT flags);

@@ -29,9 +29,6 @@
 #define cdecl
 #define FAR far
 #define NEAR near
-#define CONST const
-#define IN
-#define OUT
 
 typedef int BOOL;
 typedef unsigned char BYTE;
@@ -45,11 +42,9 @@ typedef short SHORT;
 typedef unsigned short USHORT;
 typedef char CHAR;
 typedef unsigned char UCHAR;
-typedef float FLOAT;
 typedef char16_t WCHAR;
 typedef long long LONGLONG;
 typedef unsigned long long ULONGLONG;
-typedef unsigned long long DWORDLONG;
 typedef void VOID;
 typedef intptr_t INT_PTR;
 typedef uintptr_t UINT_PTR;
@@ -57,7 +52,6 @@ typedef intptr_t LONG_PTR;
 typedef uintptr_t ULONG_PTR;
 typedef ULONG_PTR DWORD_PTR;
 typedef ULONG_PTR SIZE_T;
-typedef LONG_PTR SSIZE_T;
 
 typedef void *PVOID, *LPVOID;
 typedef const void* LPCVOID;
@@ -87,7 +81,6 @@ typedef LONG HRESULT;
 typedef void* HANDLE;
 typedef HANDLE* PHANDLE;
 typedef HANDLE HGLOBAL;
-typedef HANDLE HLOCAL;
 typedef void* HGDIOBJ;
 
 #define DECLARE_HANDLE(name) \
@@ -105,22 +98,15 @@ DECLARE_HANDLE(HBRUSH);
 DECLARE_HANDLE(HPEN);
 DECLARE_HANDLE(HFONT);
 DECLARE_HANDLE(HRGN);
-DECLARE_HANDLE(HPALETTE);
 DECLARE_HANDLE(HICON);
 typedef HICON HCURSOR;
 DECLARE_HANDLE(HMENU);
-DECLARE_HANDLE(HRSRC);
 DECLARE_HANDLE(HKEY);
-DECLARE_HANDLE(HHOOK);
-DECLARE_HANDLE(HACCEL);
-DECLARE_HANDLE(HKL);
 
 #ifdef __cplusplus
 typedef INT_PTR(CALLBACK* FARPROC)();
-typedef INT_PTR(CALLBACK* PROC)();
 #else
 typedef INT_PTR(CALLBACK* FARPROC)(void);
-typedef INT_PTR(CALLBACK* PROC)(void);
 #endif
 
 #ifndef NULL
@@ -148,12 +134,10 @@ typedef struct tagRECT {
 } RECT, *PRECT, *LPRECT;
 typedef const RECT* LPCRECT;
 
-#define MAKEWORD(low, high) ((WORD)(((BYTE)((DWORD_PTR)(low)&0xff)) | ((WORD)((BYTE)((DWORD_PTR)(high)&0xff))) << 8))
 #define MAKELONG(low, high) \
     ((LONG)(((WORD)((DWORD_PTR)(low)&0xffff)) | ((DWORD)((WORD)((DWORD_PTR)(high)&0xffff))) << 16))
 #define MAKEWPARAM(low, high) ((WPARAM)(DWORD)MAKELONG(low, high))
 #define MAKELPARAM(low, high) ((LPARAM)(DWORD)MAKELONG(low, high))
-#define MAKELRESULT(low, high) ((LRESULT)(DWORD)MAKELONG(low, high))
 #define LOWORD(value) ((WORD)((DWORD_PTR)(value)&0xffff))
 #define HIWORD(value) ((WORD)(((DWORD_PTR)(value) >> 16) & 0xffff))
 #define LOBYTE(value) ((BYTE)((DWORD_PTR)(value)&0xff))

@@ -13,14 +13,6 @@ typedef LPCSTR LPCTSTR, PCTSTR;
 /// Before a declaration: another module has it.
 #define DECLSPEC_IMPORT __attribute__((visibility("default")))
 
-typedef union _LARGE_INTEGER {
-    struct {
-        DWORD LowPart;
-        LONG HighPart;
-    } u;
-    LONGLONG QuadPart;
-} LARGE_INTEGER, *PLARGE_INTEGER;
-
 // --- reasons of DllMain
 
 #define DLL_PROCESS_DETACH 0
@@ -32,24 +24,16 @@ typedef union _LARGE_INTEGER {
 
 #define LANG_NEUTRAL 0x00
 #define LANG_ENGLISH 0x09
-#define LANG_CHINESE 0x04
-#define LANG_FRENCH 0x0c
 #define LANG_GERMAN 0x07
-#define LANG_JAPANESE 0x11
-#define LANG_KOREAN 0x12
 #define SUBLANG_NEUTRAL 0x00
 #define SUBLANG_DEFAULT 0x01
-#define SUBLANG_SYS_DEFAULT 0x02
 #define SUBLANG_ENGLISH_US 0x01
-#define SUBLANG_ENGLISH_UK 0x02
+#define SUBLANG_SYS_DEFAULT 0x02
 #define SORT_DEFAULT 0x0
 
 #define MAKELANGID(primary, sub) ((((WORD)(sub)) << 10) | (WORD)(primary))
-#define PRIMARYLANGID(id) ((WORD)(id)&0x3ff)
-#define SUBLANGID(id) ((WORD)(id) >> 10)
 #define MAKELCID(language, sort) ((DWORD)((((DWORD)((WORD)(sort))) << 16) | ((DWORD)((WORD)(language)))))
 #define LANGIDFROMLCID(locale) ((WORD)(locale))
-#define SORTIDFROMLCID(locale) ((WORD)((((DWORD)(locale)) >> 16) & 0xf))
 #define LANG_SYSTEM_DEFAULT (MAKELANGID(LANG_NEUTRAL, SUBLANG_SYS_DEFAULT))
 #define LANG_USER_DEFAULT (MAKELANGID(LANG_NEUTRAL, SUBLANG_DEFAULT))
 #define LOCALE_SYSTEM_DEFAULT (MAKELCID(LANG_SYSTEM_DEFAULT, SORT_DEFAULT))
@@ -58,28 +42,14 @@ typedef union _LARGE_INTEGER {
 
 // --- processors (SYSTEM_INFO)
 
-#define PROCESSOR_INTEL_386 386
-#define PROCESSOR_INTEL_486 486
 #define PROCESSOR_INTEL_PENTIUM 586
 #define PROCESSOR_ARCHITECTURE_INTEL 0
-#define PROCESSOR_ARCHITECTURE_AMD64 9
-#define PROCESSOR_ARCHITECTURE_UNKNOWN 0xFFFF
-
-#define VER_PLATFORM_WIN32s 0
-#define VER_PLATFORM_WIN32_WINDOWS 1
-#define VER_PLATFORM_WIN32_NT 2
 
 // --- pages of memory
 
 #define PAGE_NOACCESS 0x01
 #define PAGE_READONLY 0x02
 #define PAGE_READWRITE 0x04
-#define PAGE_EXECUTE 0x10
-#define PAGE_EXECUTE_READ 0x20
-#define PAGE_EXECUTE_READWRITE 0x40
 #define MEM_COMMIT 0x1000
 #define MEM_RESERVE 0x2000
 #define MEM_RELEASE 0x8000
-
-#define MAXLONG 0x7fffffff
-#define MAXDWORD 0xffffffff

@@ -20,11 +20,8 @@ typedef HKEY* PHKEY;
 #define REG_EXPAND_SZ 2
 #define REG_BINARY 3
 #define REG_DWORD 4
-#define REG_DWORD_LITTLE_ENDIAN 4
 #define REG_DWORD_BIG_ENDIAN 5
-#define REG_LINK 6
 #define REG_MULTI_SZ 7
-#define REG_RESOURCE_LIST 8
 
 #define REG_OPTION_NON_VOLATILE 0x00000000L
 
@@ -34,29 +31,21 @@ typedef HKEY* PHKEY;
 // --- what a handle may be used for
 
 #define DELETE 0x00010000L
-#define READ_CONTROL 0x00020000L
-#define SYNCHRONIZE 0x00100000L
-#define STANDARD_RIGHTS_ALL 0x001F0000L
 #define MAXIMUM_ALLOWED 0x02000000L
 
 #define KEY_QUERY_VALUE 0x0001
 #define KEY_SET_VALUE 0x0002
 #define KEY_CREATE_SUB_KEY 0x0004
 #define KEY_ENUMERATE_SUB_KEYS 0x0008
-#define KEY_NOTIFY 0x0010
-#define KEY_CREATE_LINK 0x0020
 #define KEY_READ 0x00020019
-#define KEY_EXECUTE KEY_READ
 #define KEY_WRITE 0x00020006
 #define KEY_ALL_ACCESS 0x000F003F
 
 // --- keys; every function returns ERROR_SUCCESS or an error code
 
 WINADVAPI LONG WINAPI RegCloseKey(HKEY key);
-WINADVAPI LONG WINAPI RegCreateKeyA(HKEY key, LPCSTR subkey, PHKEY result);
 WINADVAPI LONG WINAPI RegCreateKeyExA(HKEY key, LPCSTR subkey, DWORD reserved, LPSTR className, DWORD options,
                                       REGSAM access, LPSECURITY_ATTRIBUTES security, PHKEY result, LPDWORD disposition);
-WINADVAPI LONG WINAPI RegOpenKeyA(HKEY key, LPCSTR subkey, PHKEY result);
 WINADVAPI LONG WINAPI RegOpenKeyExA(HKEY key, LPCSTR subkey, DWORD options, REGSAM access, PHKEY result);
 /// A key that has subkeys is not deleted (ERROR_ACCESS_DENIED).
 WINADVAPI LONG WINAPI RegDeleteKeyA(HKEY key, LPCSTR subkey);
@@ -64,11 +53,6 @@ WINADVAPI LONG WINAPI RegEnumKeyA(HKEY key, DWORD index, LPSTR name, DWORD size)
 /// The time of the last write is not kept: its members become 0.
 WINADVAPI LONG WINAPI RegEnumKeyExA(HKEY key, DWORD index, LPSTR name, LPDWORD size, LPDWORD reserved, LPSTR className,
                                     LPDWORD classSize, FILETIME* lastWrite);
-WINADVAPI LONG WINAPI RegQueryInfoKeyA(HKEY key, LPSTR className, LPDWORD classSize, LPDWORD reserved, LPDWORD subkeys,
-                                       LPDWORD longestSubkey, LPDWORD longestClass, LPDWORD values,
-                                       LPDWORD longestValueName, LPDWORD longestData, LPDWORD securitySize,
-                                       FILETIME* lastWrite);
-WINADVAPI LONG WINAPI RegFlushKey(HKEY key);
 
 // --- values
 
@@ -80,16 +64,13 @@ WINADVAPI LONG WINAPI RegEnumValueA(HKEY key, DWORD index, LPSTR name, LPDWORD n
                                     LPBYTE data, LPDWORD dataSize);
 
 #ifndef CVPLATFORM_NO_GENERIC_NAMES
-#define RegCreateKey RegCreateKeyA
 #define RegCreateKeyEx RegCreateKeyExA
 #define RegDeleteKey RegDeleteKeyA
 #define RegDeleteValue RegDeleteValueA
 #define RegEnumKey RegEnumKeyA
 #define RegEnumKeyEx RegEnumKeyExA
 #define RegEnumValue RegEnumValueA
-#define RegOpenKey RegOpenKeyA
 #define RegOpenKeyEx RegOpenKeyExA
-#define RegQueryInfoKey RegQueryInfoKeyA
 #define RegQueryValueEx RegQueryValueExA
 #define RegSetValueEx RegSetValueExA
 #endif

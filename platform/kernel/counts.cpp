@@ -26,11 +26,10 @@ size_t CvPlatformCount(CvPlatformKind kind) {
         case CV_PLATFORM_WINDOWS:
             return Sum({HandleKind::Window});
         case CV_PLATFORM_GDI_OBJECTS:
-            return Sum({HandleKind::Pen, HandleKind::Brush, HandleKind::Font, HandleKind::Bitmap, HandleKind::Region,
-                        HandleKind::DeviceContext});
+            return Sum(
+                {HandleKind::Pen, HandleKind::Brush, HandleKind::Font, HandleKind::Bitmap, HandleKind::DeviceContext});
         case CV_PLATFORM_OTHER_HANDLES:
-            return Sum({HandleKind::Thread, HandleKind::Event, HandleKind::File, HandleKind::FindFile,
-                        HandleKind::RegistryKey});
+            return Sum({HandleKind::Thread, HandleKind::Event, HandleKind::FindFile, HandleKind::RegistryKey});
         case CV_PLATFORM_COMPONENT_OBJECTS:
             return static_cast<size_t>(platform::base::g_componentObjects.load());
         case CV_PLATFORM_SHELL_BLOCKS:

@@ -37,7 +37,7 @@ constexpr const char* kSchema =
 
 constexpr const char* kQueries[] = {
     "SELECT id FROM keys WHERE parent = ?1 AND folded = ?2",
-    "SELECT class FROM keys WHERE id = ?1",
+    "SELECT 1 FROM keys WHERE id = ?1",
     "INSERT INTO keys(parent, folded, name, class) VALUES (?1, ?2, ?3, ?4)",
     "DELETE FROM keys WHERE id = ?1",
     "DELETE FROM \"values\" WHERE key = ?1",
@@ -47,7 +47,7 @@ constexpr const char* kQueries[] = {
     " WHERE EXISTS (SELECT 1 FROM keys WHERE id = ?1)"
     " ON CONFLICT(key, folded) DO UPDATE SET type = excluded.type, data = excluded.data",
     "DELETE FROM \"values\" WHERE key = ?1 AND folded = ?2",
-    "SELECT name, type, length(data) FROM \"values\" WHERE key = ?1 ORDER BY id",
+    "SELECT name FROM \"values\" WHERE key = ?1 ORDER BY id",
     "BEGIN IMMEDIATE",
     "COMMIT",
     "ROLLBACK",
@@ -274,12 +274,6 @@ Statement Database::Use(Query query) {
         });
     }
     return {statements_[index], code};
-}
-
-int Database::Flush() {
-    return frozen_ ? SQLITE_OK : Patiently([this] {
-        return sqlite3_wal_checkpoint_v2(connection_, nullptr, SQLITE_CHECKPOINT_FULL, nullptr, nullptr);
-    });
 }
 
 // The host has more ways to say that there is no room than SQLite knows.

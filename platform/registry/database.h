@@ -23,7 +23,7 @@ constexpr KeyId kClassesRoot = 4;
 
 enum class Query {
     FindKey,      ///< parent, folded -> id
-    KeyExists,    ///< id -> class
+    KeyExists,    ///< id
     InsertKey,    ///< parent, folded, name, class
     DeleteKey,    ///< id
     DeleteAll,    ///< id: all values of the key
@@ -31,7 +31,7 @@ enum class Query {
     FindValue,    ///< key, folded -> type, data
     WriteValue,   ///< key, folded, name, type, data; changes nothing when the key is gone
     DeleteValue,  ///< key, folded
-    ListValues,   ///< key -> name, type, size of the data; in the order in which they were made
+    ListValues,   ///< key -> name; in the order in which they were made
     Begin,
     Commit,
     Rollback,
@@ -116,9 +116,6 @@ class Database {
     int Changes() const {
         return sqlite3_changes(connection_);
     }
-
-    /// Brings everything that was written to the disk.
-    int Flush();
 
     /// Head of the index that all connections to a write-ahead log share in memory. It changes with every commit of any
     /// process, first of all, so that a look at it tells whether anything has changed. Its layout is a part of the

@@ -49,11 +49,6 @@ LONG WINAPI RegCreateKeyExA(HKEY key, LPCSTR subkey, DWORD reserved, LPSTR class
     });
 }
 
-LONG WINAPI RegCreateKeyA(HKEY key, LPCSTR subkey, PHKEY result) {
-    return RegCreateKeyExA(key, subkey ? subkey : "", 0, nullptr, REG_OPTION_NON_VOLATILE, MAXIMUM_ALLOWED, nullptr,
-                           result, nullptr);
-}
-
 LONG WINAPI RegOpenKeyExA(HKEY key, LPCSTR subkey, DWORD, REGSAM access, PHKEY result) {
     if (!result) {
         return ERROR_INVALID_PARAMETER;
@@ -76,10 +71,6 @@ LONG WINAPI RegOpenKeyExA(HKEY key, LPCSTR subkey, DWORD, REGSAM access, PHKEY r
     });
 }
 
-LONG WINAPI RegOpenKeyA(HKEY key, LPCSTR subkey, PHKEY result) {
-    return RegOpenKeyExA(key, subkey, 0, MAXIMUM_ALLOWED, result);
-}
-
 LONG WINAPI RegDeleteKeyA(HKEY key, LPCSTR subkey) {
     if (!subkey) {
         return ERROR_INVALID_PARAMETER;
@@ -95,20 +86,6 @@ LONG WINAPI RegDeleteKeyA(HKEY key, LPCSTR subkey) {
         }
         if (Store::Use store{&error}) {
             error = store->DeleteKey(from, subkey);
-        }
-        return error;
-    });
-}
-
-LONG WINAPI RegFlushKey(HKEY key) {
-    return Answer([&]() -> LONG {
-        KeyId from = 0;
-        LONG error = FindHandleKey(key, 0, &from);
-        if (error != ERROR_SUCCESS) {
-            return error;
-        }
-        if (Store::Use store{&error}) {
-            error = store->Flush();
         }
         return error;
     });

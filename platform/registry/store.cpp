@@ -126,7 +126,7 @@ LONG Store::FindKey(KeyId from, std::string_view path, KeyId* found) {
     }
     *found = from;
     if (names.empty()) {
-        error = ClassOf(from, nullptr);
+        error = CheckKey(from);
     }
     for (const KeyName& name : names) {
         error = FindBelow(*found, name.folded, found);
@@ -166,7 +166,7 @@ LONG Store::CreateKey(KeyId from, std::string_view path, std::string_view classN
 LONG Store::CreateMissing(KeyId from, std::string_view path, std::string_view className, KeyId* found, bool* created) {
     std::vector<KeyName> names;
     SplitKeyPath(path, names);
-    LONG error = ClassOf(from, nullptr);
+    LONG error = CheckKey(from);
     *found = from;
     const std::string lastClass = kernel::Utf8FromAnsi(className);
     for (std::size_t i = 0; i < names.size() && error == ERROR_SUCCESS; ++i) {
@@ -227,17 +227,14 @@ LONG Store::DeleteFound(KeyId key) {
     return database_->Changes() ? ERROR_SUCCESS : ERROR_FILE_NOT_FOUND;
 }
 
-LONG Store::ClassOf(KeyId key, std::string* className) {
+LONG Store::CheckKey(KeyId key) {
     Statement statement = database_->Use(Query::KeyExists);
     const int code = statement.Bind(1, key).Step();
-    if (code == SQLITE_ROW && className) {
-        *className = kernel::AnsiFromUtf8(statement.Bytes(0));
-    }
     return code == SQLITE_DONE ? ERROR_KEY_DELETED : database_->Failure(code);
 }
 
 LONG Store::MissingValue(KeyId key, LONG otherwise) {
-    const LONG error = ClassOf(key, nullptr);
+    const LONG error = CheckKey(key);
     return error == ERROR_SUCCESS ? otherwise : error;
 }
 
@@ -308,7 +305,7 @@ LONG Store::ListKeys(KeyId key, const std::vector<ListedKey>** list) {
         }
         LONG error = database_->Failure(code);
         if (error == ERROR_SUCCESS && read.empty()) {
-            error = ClassOf(key, nullptr);
+            error = CheckKey(key);
         }
         if (error != ERROR_SUCCESS) {
             return error;
@@ -319,21 +316,20 @@ LONG Store::ListKeys(KeyId key, const std::vector<ListedKey>** list) {
     return ERROR_SUCCESS;
 }
 
-LONG Store::ListValues(KeyId key, const std::vector<ListedValue>** list) {
+LONG Store::ListValues(KeyId key, const std::vector<std::string>** list) {
     auto kept = valueLists_.find(key);
     if (kept == valueLists_.end()) {
-        std::vector<ListedValue> read;
+        std::vector<std::string> read;
         Statement statement = database_->Use(Query::ListValues);
         statement.Bind(1, key);
         int code = SQLITE_DONE;
         while ((code = statement.Step()) == SQLITE_ROW) {
-            read.push_back({kernel::AnsiFromUtf8(statement.Bytes(0)), static_cast<DWORD>(statement.Number(1)),
-                            static_cast<DWORD>(statement.Number(2))});
-            Remember(read.back().name.size());
+            read.push_back(kernel::AnsiFromUtf8(statement.Bytes(0)));
+            Remember(read.back().size());
         }
         LONG error = database_->Failure(code);
         if (error == ERROR_SUCCESS && read.empty()) {
-            error = ClassOf(key, nullptr);
+            error = CheckKey(key);
         }
         if (error != ERROR_SUCCESS) {
             return error;
@@ -342,10 +338,6 @@ LONG Store::ListValues(KeyId key, const std::vector<ListedValue>** list) {
     }
     *list = &kept->second;
     return ERROR_SUCCESS;
-}
-
-LONG Store::Flush() {
-    return database_->Failure(database_->Flush());
 }
 
 }  // namespace platform::registry

@@ -29,12 +29,6 @@ struct ListedKey {
     std::string className;
 };
 
-struct ListedValue {
-    std::string name;
-    DWORD type = REG_NONE;
-    DWORD size = 0;
-};
-
 /// All calls are made under the store's lock, and what they point to holds until the next one.
 class Store {
   public:
@@ -67,10 +61,7 @@ class Store {
     LONG DeleteValue(KeyId key, std::string_view name);
 
     LONG ListKeys(KeyId key, const std::vector<ListedKey>** list);
-    LONG ListValues(KeyId key, const std::vector<ListedValue>** list);
-    LONG ClassOf(KeyId key, std::string* className);
-
-    LONG Flush();
+    LONG ListValues(KeyId key, const std::vector<std::string>** list);
 
   private:
     static Store& Instance();
@@ -83,6 +74,7 @@ class Store {
     void Remember(std::size_t bytes);
     LONG Changed(int code);
 
+    LONG CheckKey(KeyId key);
     LONG FindBelow(KeyId from, const std::string& folded, KeyId* found);
     LONG MissingValue(KeyId key, LONG otherwise);
     LONG CreateMissing(KeyId from, std::string_view path, std::string_view className, KeyId* found, bool* created);
@@ -99,7 +91,7 @@ class Store {
     std::unordered_map<std::string, KeyId> keys_;  ///< by parent and path; 0 for none
     std::unordered_map<std::string, std::optional<Value>> values_;  ///< by key and folded name
     std::unordered_map<KeyId, std::vector<ListedKey>> keyLists_;
-    std::unordered_map<KeyId, std::vector<ListedValue>> valueLists_;
+    std::unordered_map<KeyId, std::vector<std::string>> valueLists_;
 };
 
 }  // namespace platform::registry

@@ -4,6 +4,9 @@
 #include <cstring>
 #include <mutex>
 
+#include "comctl/imagelist.h"
+#include "gdi/bitmap/bitmaps.h"
+
 namespace platform::shell {
 namespace {
 
@@ -206,7 +209,7 @@ HBITMAP MakeStrip(HDC screen, bool mask) {
     const HBITMAP bitmap = mask ? CreateBitmap(kCount * kSize, kSize, 1, 1, nullptr)
                                 : CreateCompatibleBitmap(screen, kCount * kSize, kSize);
     if (bitmap) {
-        SetDIBits(screen, bitmap, 0, kSize, pixels, &info, DIB_RGB_COLORS);
+        gdi::SetBits(bitmap, pixels, &info);
     }
     return bitmap;
 }
@@ -215,11 +218,7 @@ HIMAGELIST Make() {
     const HDC screen = GetDC(nullptr);
     const HBITMAP colours = MakeStrip(screen, false);
     const HBITMAP masks = MakeStrip(screen, true);
-    HIMAGELIST list = ImageList_Create(kSize, kSize, ILC_COLOR | ILC_MASK, kCount, 1);
-    if (list && ImageList_Add(list, colours, masks) < 0) {
-        ImageList_Destroy(list);
-        list = nullptr;
-    }
+    const HIMAGELIST list = comctl::MakeImageList(kSize, colours, masks, CLR_NONE);
     DeleteObject(colours);
     DeleteObject(masks);
     ReleaseDC(nullptr, screen);

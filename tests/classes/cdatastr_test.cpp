@@ -1,6 +1,8 @@
 #include <cvutil32/clist.h>
 #include <cvutil32/cdatastr.h>
 
+#include "tests/classes/strings.h"
+
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -9,10 +11,6 @@
 #include <vector>
 
 namespace {
-
-std::string Text(const CSTRING& string) {
-    return static_cast<const char*>(string);
-}
 
 using Texts = std::vector<std::string>;
 
@@ -37,7 +35,7 @@ Texts Specifications(const CDATASTR& list) {
 }
 
 template <class Edit>
-std::string Edited(const char* text, Edit edit) {
+std::string EditedList(const char* text, Edit edit) {
     CDATASTR list(text);
     edit(list);
     return Text(list);
@@ -45,25 +43,25 @@ std::string Edited(const char* text, Edit edit) {
 
 TEST(DataString, DelimitersAreCollapsedTrimmedAndMapped) {
     const auto clean = [](CDATASTR& list) { list.CleanDelimiters(';'); };
-    EXPECT_EQ(Edited(";;a;;;b;", clean), "a;b");
-    EXPECT_EQ(Edited(";", clean), "");
-    EXPECT_EQ(Edited("", clean), "");
-    EXPECT_EQ(Edited(";;;;;;;", clean), "");
-    EXPECT_EQ(Edited("a b", clean), "a b");
-    EXPECT_EQ(Edited("a,b;c\r\nd", [](CDATASTR& list) { list.NormalizeDelimiters(' ', DATASTR_DELIMITERS); }),
+    EXPECT_EQ(EditedList(";;a;;;b;", clean), "a;b");
+    EXPECT_EQ(EditedList(";", clean), "");
+    EXPECT_EQ(EditedList("", clean), "");
+    EXPECT_EQ(EditedList(";;;;;;;", clean), "");
+    EXPECT_EQ(EditedList("a b", clean), "a b");
+    EXPECT_EQ(EditedList("a,b;c\r\nd", [](CDATASTR& list) { list.NormalizeDelimiters(' ', DATASTR_DELIMITERS); }),
               "a b c  d");
-    EXPECT_EQ(Edited("a,b", [](CDATASTR& list) { list.NormalizeDelimiters(',', nullptr); }), "a,b");
+    EXPECT_EQ(EditedList("a,b", [](CDATASTR& list) { list.NormalizeDelimiters(',', nullptr); }), "a,b");
     const auto unescape = [](CDATASTR& list) { list.RemoveBackslashes(';'); };
-    EXPECT_EQ(Edited("a\\;b", unescape), "a;b");
-    EXPECT_EQ(Edited("a\\\\;b\\c", unescape), "a\\;b\\c");
+    EXPECT_EQ(EditedList("a\\;b", unescape), "a;b");
+    EXPECT_EQ(EditedList("a\\\\;b\\c", unescape), "a\\;b\\c");
 }
 
 TEST(DataString, DuplicatesGoWhereverTheirTextStands) {
     const auto unique = [](CDATASTR& list) { list.RemoveDuplicates(';'); };
-    EXPECT_EQ(Edited("a;b;A", unique), "a;b;");
-    EXPECT_EQ(Edited("a;ba", unique), "a;b");
-    EXPECT_EQ(Edited("a;;a;", unique), "a;;;");
-    EXPECT_EQ(Edited("x", unique), "x");
+    EXPECT_EQ(EditedList("a;b;A", unique), "a;b;");
+    EXPECT_EQ(EditedList("a;ba", unique), "a;b");
+    EXPECT_EQ(EditedList("a;;a;", unique), "a;;;");
+    EXPECT_EQ(EditedList("x", unique), "x");
 }
 
 TEST(DataString, ItemsAndPositions) {
@@ -154,10 +152,10 @@ TEST(DataString, ATextUnderALockIsNotWalkedForEver) {
 
 TEST(DataString, NormalizedFileSpecifications) {
     const auto normalize = [](CDATASTR& list) { list.NormalizeFileSpecs(); };
-    EXPECT_EQ(Edited(" a.txt,b.txt; ", normalize), "a.txt b.txt");
-    EXPECT_EQ(Edited("\"my file.txt\"", normalize), "\"my file.txt\"");
-    EXPECT_EQ(Edited("  ", normalize), "");
-    EXPECT_EQ(Edited("", normalize), "");
+    EXPECT_EQ(EditedList(" a.txt,b.txt; ", normalize), "a.txt b.txt");
+    EXPECT_EQ(EditedList("\"my file.txt\"", normalize), "\"my file.txt\"");
+    EXPECT_EQ(EditedList("  ", normalize), "");
+    EXPECT_EQ(EditedList("", normalize), "");
     CDATASTR list("a,b");
     list.NormalizeFileSpecs();
     EXPECT_TRUE(list.IsValid()) << "it goes on working";

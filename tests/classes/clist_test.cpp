@@ -1,6 +1,8 @@
 #include <cvutil32/clist.h>
 #include <cvutil32/cstring.h>
 
+#include "tests/classes/compare_ints.h"
+
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -9,12 +11,6 @@
 #include <vector>
 
 namespace {
-
-int CompareInts(void* first, void* second) {
-    const int a = *static_cast<int*>(first);
-    const int b = *static_cast<int*>(second);
-    return (a > b) - (a < b);
-}
 
 std::vector<int> Values(const CLIST& list) {
     std::vector<int> values;

@@ -1,5 +1,7 @@
 #include <cvutil32/cstring.h>
 
+#include "tests/classes/strings.h"
+
 #include <gtest/gtest.h>
 
 #include <cstring>
@@ -7,12 +9,6 @@
 #include <utility>
 
 namespace {
-
-constexpr unsigned int kAll = 0xFFFFFFFF;
-
-std::string Text(const CSTRING& string) {
-    return static_cast<const char*>(string);
-}
 
 template <class Edit>
 std::string Edited(const char* text, Edit edit) {

@@ -1,15 +1,12 @@
 #include <cvutil32/cstring.h>
 
+#include "tests/classes/strings.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
 
 namespace {
-
-std::string Text(CSTRING const& string) {
-    char const* const text = string;
-    return text ? text : "(invalid)";
-}
 
 std::string Joined(char const* path, char const* part) {
     CSTRING string(path);

@@ -5,6 +5,8 @@
 #include "tests/support/temp_folder.h"
 #include "tests/support/window.h"
 
+#include "tests/classes/strings.h"
+
 #include <gtest/gtest.h>
 
 #include <cstdarg>
@@ -15,11 +17,6 @@ using testing_support::TempFolder;
 using testing_support::TestWindow;
 
 namespace {
-
-std::string Text(CSTRING const& string) {
-    char const* const text = string;
-    return text ? text : "(invalid)";
-}
 
 HINSTANCE Program() {
     return GetModuleHandleA(nullptr);

@@ -1,5 +1,7 @@
 #include <cvutil32/cstring.h>
 
+#include "tests/classes/strings.h"
+
 #include <gtest/gtest.h>
 
 #include <cstring>
@@ -7,18 +9,12 @@
 
 namespace {
 
-constexpr unsigned int kAll = 0xFFFFFFFF;
-
-char const* Text(CSTRING const& string) {
-    return string;
-}
-
 // --- construction
 
 TEST(CString, BlocksComeInTwoKindsOfGranules) {
     CSTRING empty;
     EXPECT_EQ(0u, empty.GetBufLen(0));
-    EXPECT_STREQ("", Text(empty));
+    EXPECT_STREQ("", Characters(empty));
 
     CSTRING sized(16);
     EXPECT_EQ(32u, sized.GetBufLen(0));
@@ -39,9 +35,9 @@ TEST(CString, NullTextGivesAnEmptyObject) {
     EXPECT_EQ(0u, text.GetBufLen(0));
     text = "kept";
     text = static_cast<char const*>(nullptr);
-    EXPECT_STREQ("kept", Text(text));
+    EXPECT_STREQ("kept", Characters(text));
     text += static_cast<char const*>(nullptr);
-    EXPECT_STREQ("kept", Text(text));
+    EXPECT_STREQ("kept", Characters(text));
 }
 
 TEST(CString, SizesBeyondMemoryLeaveTheTextAlone) {
@@ -50,7 +46,7 @@ TEST(CString, SizesBeyondMemoryLeaveTheTextAlone) {
     CSTRING text("kept");
     EXPECT_EQ(16u, text.GetBufLen(0xFFFFFFF8));
     EXPECT_EQ(nullptr, text.BufferLock(kAll));
-    EXPECT_STREQ("kept", Text(text));
+    EXPECT_STREQ("kept", Characters(text));
 }
 
 TEST(CString, CopyConstructorTakesTheCachedBytes) {
@@ -58,12 +54,12 @@ TEST(CString, CopyConstructorTakesTheCachedBytes) {
     char* const raw = source;
     std::strcpy(raw, "replaced");
     CSTRING const copy(source);
-    EXPECT_STREQ("repla", Text(copy));
+    EXPECT_STREQ("repla", Characters(copy));
 
     CSTRING assigned;
     std::strcpy(static_cast<char*>(source), "replaced");
     assigned = source;
-    EXPECT_STREQ("replaced", Text(assigned));
+    EXPECT_STREQ("replaced", Characters(assigned));
 }
 
 // --- validity
@@ -87,7 +83,7 @@ TEST(CString, InvalidObjectsDoNothing) {
     EXPECT_EQ(nullptr, broken.BufferLock(10));
     EXPECT_EQ(0u, broken.BufferUnlock());
     EXPECT_EQ(nullptr, static_cast<char*>(broken));
-    EXPECT_EQ(nullptr, Text(broken));
+    EXPECT_EQ(nullptr, Characters(broken));
     EXPECT_EQ('\0', broken.GetChar(0));
     EXPECT_EQ('\0', broken.GetRef(3));
     EXPECT_EQ(&broken, &(broken = "text"));
@@ -102,12 +98,12 @@ TEST(CString, InvalidObjectsDoNothing) {
 
     CSTRING text("kept");
     text = broken;
-    EXPECT_STREQ("kept", Text(text));
+    EXPECT_STREQ("kept", Characters(text));
     text += broken;
-    EXPECT_STREQ("kept", Text(text));
-    EXPECT_STREQ("", Text(text + broken));
-    EXPECT_STREQ("", Text(broken + "text"));
-    EXPECT_STREQ("", Text(broken + 'c'));
+    EXPECT_STREQ("kept", Characters(text));
+    EXPECT_STREQ("", Characters(text + broken));
+    EXPECT_STREQ("", Characters(broken + "text"));
+    EXPECT_STREQ("", Characters(broken + 'c'));
 }
 
 TEST(CString, StrayPointersDoNothing) {
@@ -125,7 +121,7 @@ TEST(CString, TextsEndAtTheFirstByteAbove7F) {
     CSTRING text(
         "ab\xE9"
         "cd");
-    EXPECT_STREQ("ab", Text(text));
+    EXPECT_STREQ("ab", Characters(text));
     EXPECT_EQ(2u, text.GetByteCount());
 
     for (unsigned int at = 0; at < 40; ++at) {
@@ -146,7 +142,7 @@ TEST(CString, AppendWritesOverBytesBehindTheWalk) {
     EXPECT_EQ(2u, text.GetByteCount());
     EXPECT_EQ(0u, text.BufferUnlock());
     text += 'x';
-    EXPECT_STREQ("abxcd", Text(text));
+    EXPECT_STREQ("abxcd", Characters(text));
     EXPECT_EQ(5u, text.GetStrLen());
     EXPECT_EQ(3u, text.GetByteCount());
     // Positions stop there as well; a reference does not reach what lies behind.
@@ -161,16 +157,16 @@ TEST(CString, GrowthLosesWhatLiesBehindTheWalk) {
                 "cd");
     text.BufferUnlock();
     EXPECT_EQ(1040u, text.GetBufLen(1025));
-    EXPECT_STREQ("ab\xE9", Text(text));
+    EXPECT_STREQ("ab\xE9", Characters(text));
 }
 
 TEST(CString, SingleCharactersOfAnyValueAreOneByte) {
     CSTRING text;
     text = '\xE9';
-    EXPECT_STREQ("\xE9", Text(text));
+    EXPECT_STREQ("\xE9", Characters(text));
     EXPECT_EQ(1u, text.GetByteCount());
     text = '\0';
-    EXPECT_STREQ("", Text(text));
+    EXPECT_STREQ("", Characters(text));
     EXPECT_EQ(1u, text.GetByteCount());
     EXPECT_EQ(0u, text.GetStrLen());
 
@@ -183,15 +179,15 @@ TEST(CString, SingleCharactersOfAnyValueAreOneByte) {
 
 TEST(CString, AssigningTheOwnTailLeavesOneStaleCharacter) {
     CSTRING text("hello");
-    text = Text(text) + 2;
-    EXPECT_STREQ("llol", Text(text));
+    text = Characters(text) + 2;
+    EXPECT_STREQ("llol", Characters(text));
     EXPECT_EQ(4u, text.GetStrLen());
     EXPECT_EQ(3u, text.GetByteCount());
 
     CSTRING same("unchanged");
     CSTRING const& alias = same;
     same = alias;
-    EXPECT_STREQ("unchanged", Text(same));
+    EXPECT_STREQ("unchanged", Characters(same));
 }
 
 TEST(CString, SelfAssignmentAfterAHiddenCutStaysInsideTheBlock) {
@@ -199,7 +195,7 @@ TEST(CString, SelfAssignmentAfterAHiddenCutStaysInsideTheBlock) {
     text[3] = '\0';
     CSTRING const& alias = text;
     text = alias;
-    EXPECT_STREQ("012", Text(text));
+    EXPECT_STREQ("012", Characters(text));
 }
 
 TEST(CString, AppendsGrowAndKeepTheText) {
@@ -211,23 +207,23 @@ TEST(CString, AppendsGrowAndKeepTheText) {
         expected += "abcd";
         ASSERT_EQ(expected.size(), text.GetStrLen());
     }
-    EXPECT_EQ(expected, Text(text));
+    EXPECT_EQ(expected, Characters(text));
     text.Append(CSTRING("!"));
-    EXPECT_EQ(expected + "!", Text(text));
+    EXPECT_EQ(expected + "!", Characters(text));
     text += text;
-    EXPECT_EQ(expected + "!" + expected + "!", Text(text));
+    EXPECT_EQ(expected + "!" + expected + "!", Characters(text));
 }
 
 TEST(CString, SumsAreNewObjects) {
     CSTRING a("left");
     CSTRING b("right");
-    EXPECT_STREQ("leftright", Text(a + b));
-    EXPECT_STREQ("left...", Text(a + "..."));
-    EXPECT_STREQ("left", Text(a + static_cast<char const*>(nullptr)));
-    EXPECT_STREQ("left!", Text(a + '!'));
-    EXPECT_STREQ("left", Text(a));
+    EXPECT_STREQ("leftright", Characters(a + b));
+    EXPECT_STREQ("left...", Characters(a + "..."));
+    EXPECT_STREQ("left", Characters(a + static_cast<char const*>(nullptr)));
+    EXPECT_STREQ("left!", Characters(a + '!'));
+    EXPECT_STREQ("left", Characters(a));
     EXPECT_EQ(16u, (CSTRING() + CSTRING()).GetBufLen(0)) << "results own a block even when they are empty";
-    EXPECT_STREQ("left+right", Text(a + "+" + b));
+    EXPECT_STREQ("left+right", Characters(a + "+" + b));
 }
 
 // --- locking
@@ -242,13 +238,13 @@ TEST(CString, LocksGiveAtLeast1024Bytes) {
     EXPECT_EQ(1024u, text.GetBufLen(2000));
     text = "refused";
     text += "refused";
-    EXPECT_STREQ("start", Text(text));
+    EXPECT_STREQ("start", Characters(text));
     std::strcpy(buffer, "direct");
     EXPECT_EQ(6u, text.GetStrLen());
     EXPECT_EQ(0u, text.BufferUnlock()) << "the second lock did not count";
     EXPECT_EQ(0u, text.BufferUnlock());
     text += "!";
-    EXPECT_STREQ("direct!", Text(text));
+    EXPECT_STREQ("direct!", Characters(text));
 }
 
 TEST(CString, IncrementLocksAndDecrementUnlocks) {
@@ -258,7 +254,7 @@ TEST(CString, IncrementLocksAndDecrementUnlocks) {
     EXPECT_EQ(nullptr, text--);
     text = "still locked";
     EXPECT_EQ(nullptr, text--);
-    EXPECT_STREQ("one", Text(text));
+    EXPECT_STREQ("one", Characters(text));
     EXPECT_EQ(3u, text.GetStrLen());
 }
 
@@ -310,7 +306,7 @@ TEST(CString, WritesInsideTheTextAreNotNoticed) {
     text.SetChar(1, 'X');
     text.SetChar(6, 'X');
     text.SetChar(kAll, 'X');
-    EXPECT_STREQ("aXc", Text(text));
+    EXPECT_STREQ("aXc", Characters(text));
     text.SetChar(0, '\0');
     EXPECT_EQ(6u, text.GetStrLen());
 }

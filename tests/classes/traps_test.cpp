@@ -10,6 +10,8 @@
 
 #include "tests/support/leaks.h"
 
+#include "tests/classes/strings.h"
+
 namespace {
 
 template <class Left, class Right>
@@ -84,10 +86,6 @@ static_assert(!Formats<CSTRING> && !Formats<int, CSTRING const&, int> && !Format
 static_assert(Appends<CSTRING*> && Appends<void*> && !Appends<CSTRING&>);
 
 constexpr char kName[] = "M\xFCller";
-
-std::string Text(CSTRING const& string) {
-    return static_cast<char const*>(string);
-}
 
 // A string with any bytes, through its block.
 void Fill(CSTRING* string, char const* text) {

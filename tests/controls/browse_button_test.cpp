@@ -4,6 +4,7 @@
 
 #include "tests/controls/folder_tree.h"
 #include "tests/support/leaks.h"
+#include "tests/support/modal.h"
 #include "tests/support/temp_folder.h"
 #include "tests/support/window.h"
 
@@ -20,6 +21,7 @@ using testing_support::LeakCheck;
 using testing_support::Message;
 using testing_support::TempFolder;
 using testing_support::TestWindow;
+using testing_support::TextOf;
 
 constexpr int kButtonId = 20;
 constexpr int kBuddyId = 21;
@@ -30,12 +32,6 @@ HWND Create(LPCSTR className, HWND parent, DWORD style, int id) {
                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleA(nullptr), nullptr);
     EXPECT_NE(nullptr, window) << className;
     return window;
-}
-
-std::string TextOf(HWND window) {
-    char text[MAX_PATH];
-    GetWindowTextA(window, text, sizeof text);
-    return text;
 }
 
 std::string SpecsOf(HWND button) {

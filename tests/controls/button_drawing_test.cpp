@@ -2,7 +2,7 @@
 #include <cvutil32/grbutton.h>
 
 #include "tests/controls/resource.h"
-#include "tests/platform/gdi_canvas.h"
+#include "tests/platform/support/gdi_canvas.h"
 #include "tests/support/leaks.h"
 
 #include <gtest/gtest.h>

@@ -2,7 +2,7 @@
 #include <cvutil32/cklist.h>
 #include <cvutil32/util.h>
 
-#include "tests/platform/gdi_canvas.h"
+#include "tests/platform/support/gdi_canvas.h"
 #include "tests/support/leaks.h"
 #include "tests/support/window.h"
 
@@ -19,7 +19,6 @@ using testing_support::Picture;
 using testing_support::PictureOf;
 using testing_support::TestWindow;
 
-constexpr int kId = 12;
 constexpr int kBox = 11;
 constexpr DWORD kStyle = LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | LBS_MULTIPLESEL | LBS_NOTIFY;
 
@@ -36,6 +35,8 @@ char LetterOf(std::uint32_t pixel) {
 
 class CheckList : public testing::Test {
   protected:
+    static constexpr int kId = 12;
+
     CheckList() : list_(Create(CKLIST_CLASSNAME, kId)) {}
 
     HWND Create(char const* name, int id, DWORD style = kStyle) {

@@ -21,11 +21,11 @@ using testing_support::Picture;
 using testing_support::PictureOf;
 using testing_support::TestWindow;
 
-constexpr int kWidth = 110;
-constexpr int kHeight = 26;
-
 class DateField : public testing::Test, protected FieldDriver {
   protected:
+    static constexpr int kWidth = 110;
+    static constexpr int kHeight = 26;
+
     DateField() {
         Create();
     }

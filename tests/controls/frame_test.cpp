@@ -16,7 +16,7 @@ namespace {
 using testing_support::Message;
 using testing_support::TestWindow;
 
-constexpr char kName[] = "CvTestSuperclass";
+constexpr char kSuperclass[] = "CvTestSuperclass";
 constexpr UINT kQuestion = WM_USER + 77;
 constexpr LRESULT kAnswer = 4711;
 
@@ -56,9 +56,9 @@ LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lPar
 }
 
 HWND CreateSample(HWND parent) {
-    EXPECT_TRUE(frame::RegisterSuperclass(GetModuleHandleA(nullptr), kName, "button", Procedure, g_base));
+    EXPECT_TRUE(frame::RegisterSuperclass(GetModuleHandleA(nullptr), kSuperclass, "button", Procedure, g_base));
     HWND const sample =
-        CreateWindowExA(0, kName, "sample", WS_CHILD | WS_VISIBLE, 0, 0, 60, 20, parent,
+        CreateWindowExA(0, kSuperclass, "sample", WS_CHILD | WS_VISIBLE, 0, 0, 60, 20, parent,
                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(7)), GetModuleHandleA(nullptr), nullptr);
     EXPECT_NE(nullptr, sample);
     return sample;
@@ -74,11 +74,11 @@ TEST(Frame, SuperclassAddsOneSlotBehindItsBase) {
     WNDCLASSA button = {};
     WNDCLASSA super = {};
     ASSERT_TRUE(GetClassInfoA(nullptr, "button", &button));
-    ASSERT_TRUE(GetClassInfoA(GetModuleHandleA(nullptr), kName, &super));
+    ASSERT_TRUE(GetClassInfoA(GetModuleHandleA(nullptr), kSuperclass, &super));
     EXPECT_EQ(button.cbWndExtra, g_base.extraBytes);
     EXPECT_EQ(button.cbWndExtra + static_cast<int>(sizeof(LONG_PTR)), super.cbWndExtra);
     EXPECT_EQ(button.style | CS_GLOBALCLASS, super.style);
-    EXPECT_FALSE(frame::RegisterSuperclass(nullptr, kName, "button", Procedure, g_base));
+    EXPECT_FALSE(frame::RegisterSuperclass(nullptr, kSuperclass, "button", Procedure, g_base));
     frame::BaseClass untouched = {};
     EXPECT_FALSE(
         frame::RegisterSuperclass(GetModuleHandleA(nullptr), "CvTestNoSuch", "CvTestNoBase", Procedure, untouched));
@@ -90,14 +90,14 @@ TEST(Frame, AClassThatIsThereAlreadyTellsOfItsBase) {
     CreateSample(parent);
     // What a second load of the library begins with.
     frame::BaseClass fresh = {};
-    EXPECT_TRUE(frame::RegisterSuperclass(GetModuleHandleA(nullptr), kName, "button", DefWindowProcA, fresh));
+    EXPECT_TRUE(frame::RegisterSuperclass(GetModuleHandleA(nullptr), kSuperclass, "button", DefWindowProcA, fresh));
     EXPECT_EQ(g_base.procedure, fresh.procedure);
     EXPECT_EQ(g_base.extraBytes, fresh.extraBytes);
     WNDCLASSA super = {};
-    ASSERT_TRUE(GetClassInfoA(GetModuleHandleA(nullptr), kName, &super));
+    ASSERT_TRUE(GetClassInfoA(GetModuleHandleA(nullptr), kSuperclass, &super));
     EXPECT_EQ(&Procedure, super.lpfnWndProc) << "the class itself stays as it is";
     frame::BaseClass known = {DefWindowProcA, 3};
-    EXPECT_TRUE(frame::RegisterSuperclass(GetModuleHandleA(nullptr), kName, "button", Procedure, known));
+    EXPECT_TRUE(frame::RegisterSuperclass(GetModuleHandleA(nullptr), kSuperclass, "button", Procedure, known));
     EXPECT_EQ(3, known.extraBytes) << "what is known stays";
 }
 

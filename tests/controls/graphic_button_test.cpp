@@ -16,15 +16,13 @@ using testing_support::Picture;
 using testing_support::PictureOf;
 using testing_support::TestWindow;
 
-constexpr char kValid[] = "GrButton_IsValid";
-constexpr char kParent[] = "GrButton_ParentWndProc";
-constexpr int kWidth = 25;
-constexpr int kHeight = 17;
+constexpr int kButtonWidth = 25;
+constexpr int kButtonHeight = 17;
 
 HWND CreateButton(HWND parent, DWORD style = 0) {
     HWND const button =
-        CreateWindowExA(0, GRBUTTON_CLASSNAME, "", WS_CHILD | WS_VISIBLE | style, 20, 10, kWidth, kHeight, parent,
-                        reinterpret_cast<HMENU>(INT_PTR{5}), GetModuleHandleA(nullptr), nullptr);
+        CreateWindowExA(0, GRBUTTON_CLASSNAME, "", WS_CHILD | WS_VISIBLE | style, 20, 10, kButtonWidth, kButtonHeight,
+                        parent, reinterpret_cast<HMENU>(INT_PTR{5}), GetModuleHandleA(nullptr), nullptr);
     EXPECT_NE(nullptr, button);
     return button;
 }
@@ -45,6 +43,9 @@ bool Exists(HBITMAP bitmap) {
 
 class GraphicButton : public testing::Test {
   protected:
+    static constexpr char kValid[] = "GrButton_IsValid";
+    static constexpr char kParent[] = "GrButton_ParentWndProc";
+
     GraphicButton() : button_(CreateButton(host_)) {
         UpdateWindow(button_);
         host_.Forget();
@@ -117,15 +118,15 @@ TEST_F(GraphicButton, LooksAsItIsToldTo) {
     Picture const raised = PictureOf(button_);
     EXPECT_TRUE(whereItIs(raised, 9, 6));
     EXPECT_EQ(GetSysColor(COLOR_BTNHIGHLIGHT), raised.At(0, 0));
-    EXPECT_EQ(GetSysColor(COLOR_BTNSHADOW), raised.At(kWidth - 2, kHeight - 2));
-    EXPECT_EQ(GetSysColor(COLOR_WINDOWFRAME), raised.At(kWidth - 1, kHeight - 1));
+    EXPECT_EQ(GetSysColor(COLOR_BTNSHADOW), raised.At(kButtonWidth - 2, kButtonHeight - 2));
+    EXPECT_EQ(GetSysColor(COLOR_WINDOWFRAME), raised.At(kButtonWidth - 1, kButtonHeight - 1));
 
     SendMessageA(button_, BM_SETSTATE, TRUE, 0);
     Picture const pressed = PictureOf(button_);
     EXPECT_TRUE(whereItIs(pressed, 10, 7));
     EXPECT_EQ(GetSysColor(COLOR_WINDOWFRAME), pressed.At(0, 0));
     EXPECT_EQ(GetSysColor(COLOR_BTNSHADOW), pressed.At(1, 1));
-    EXPECT_EQ(GetSysColor(COLOR_BTNSHADOW), pressed.At(kWidth - 2, kHeight - 2));
+    EXPECT_EQ(GetSysColor(COLOR_BTNSHADOW), pressed.At(kButtonWidth - 2, kButtonHeight - 2));
     EXPECT_EQ(GetSysColor(COLOR_BTNFACE), pressed.At(2, 2));
 
     SendMessageA(button_, BM_SETSTATE, FALSE, 0);
@@ -151,11 +152,11 @@ TEST_F(GraphicButton, FocusShows) {
     EXPECT_EQ(button_, GetFocus());
     Picture const with = PictureOf(button_);
     int changed = 0;
-    for (int y = 0; y < kHeight; ++y) {
-        for (int x = 0; x < kWidth; ++x) {
+    for (int y = 0; y < kButtonHeight; ++y) {
+        for (int x = 0; x < kButtonWidth; ++x) {
             if (with.At(x, y) != without.At(x, y)) {
                 ++changed;
-                EXPECT_TRUE(x == 2 || x == kWidth - 3 || y == 2 || y == kHeight - 3) << x << ' ' << y;
+                EXPECT_TRUE(x == 2 || x == kButtonWidth - 3 || y == 2 || y == kButtonHeight - 3) << x << ' ' << y;
             }
         }
     }

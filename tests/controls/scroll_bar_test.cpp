@@ -19,13 +19,13 @@ using testing_support::Picture;
 using testing_support::PictureOf;
 using testing_support::TestWindow;
 
-constexpr int kWidth = 18;
-constexpr int kHeight = 20;
+constexpr int kBarWidth = 18;
+constexpr int kBarHeight = 20;
 constexpr LPARAM kUpper = MAKELPARAM(8, 5);
 constexpr LPARAM kLower = MAKELPARAM(8, 15);
 constexpr LPARAM kOutside = MAKELPARAM(8, 60);
 
-HWND CreateBar(HWND parent, LONG style, int width = kWidth, int height = kHeight) {
+HWND CreateBar(HWND parent, LONG style, int width = kBarWidth, int height = kBarHeight) {
     HWND const bar = CreateWindowExA(0, SCROLL_CLASSNAME, "", WS_CHILD | WS_VISIBLE | static_cast<DWORD>(style), 150,
                                      10, width, height, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(2)),
                                      GetModuleHandleA(nullptr), nullptr);
@@ -381,8 +381,8 @@ TEST_F(ScrollBar, DrawsRaisedAndPressedArrows) {
     COLORREF const frame = GetSysColor(COLOR_WINDOWFRAME);
 
     Picture const raised = Painted();
-    ASSERT_EQ(kWidth, raised.width);
-    ASSERT_EQ(kHeight, raised.height);
+    ASSERT_EQ(kBarWidth, raised.width);
+    ASSERT_EQ(kBarHeight, raised.height);
     EXPECT_EQ(frame, raised.At(0, 0));
     EXPECT_EQ(frame, raised.At(17, 0));
     EXPECT_EQ(frame, raised.At(17, 19));

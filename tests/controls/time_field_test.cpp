@@ -20,11 +20,11 @@ using testing_support::Picture;
 using testing_support::PictureOf;
 using testing_support::TestWindow;
 
-constexpr int kWidth = 120;
-constexpr int kHeight = 26;
-
 class TimeField : public testing::Test, protected FieldDriver {
   protected:
+    static constexpr int kWidth = 120;
+    static constexpr int kHeight = 26;
+
     TimeField() {
         Create();
     }

@@ -22,7 +22,7 @@ SYSTEMTIME Time(int hour, int minute, int second) {
     return time;
 }
 
-std::string Parts(SYSTEMTIME const& time) {
+std::string ClockOf(SYSTEMTIME const& time) {
     char text[40];
     wsprintfA(text, "%d:%02d:%02d", time.wHour, time.wMinute, time.wSecond);
     return time.wYear == 1995 && time.wMonth == 5 && time.wDay == 6 && time.wMilliseconds == 77 ? text
@@ -31,12 +31,12 @@ std::string Parts(SYSTEMTIME const& time) {
 
 std::string Up(SYSTEMTIME time, WORD field) {
     EXPECT_TRUE(TIMECTRL_IncrementTime(&time, field));
-    return Parts(time);
+    return ClockOf(time);
 }
 
 std::string Down(SYSTEMTIME time, WORD field) {
     EXPECT_TRUE(TIMECTRL_DecrementTime(&time, field));
-    return Parts(time);
+    return ClockOf(time);
 }
 
 std::string Text(int hour, int minute, int second) {
@@ -49,7 +49,7 @@ std::string Text(int hour, int minute, int second) {
 /// Types a key and tells the result and the advance.
 std::string Typed(SYSTEMTIME time, UINT position, char key) {
     int const advance = timectrl_EnterKey(key, position, &time);
-    return Parts(time) + " +" + std::to_string(advance);
+    return ClockOf(time) + " +" + std::to_string(advance);
 }
 
 void Load() {
@@ -101,7 +101,7 @@ TEST(TimeValue, StepsCarryWithinTheDay) {
     }
     EXPECT_FALSE(TIMECTRL_IncrementTime(nullptr, TIMECTRL_HOUR));
     EXPECT_FALSE(TIMECTRL_DecrementTime(nullptr, TIMECTRL_HOUR));
-    EXPECT_EQ("8:20:30", Parts(time));
+    EXPECT_EQ("8:20:30", ClockOf(time));
 }
 
 TEST(TimeText, FollowsClockAndLeadingZero) {

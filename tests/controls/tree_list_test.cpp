@@ -19,18 +19,19 @@ using testing_support::PumpMessages;
 using testing_support::TempFolder;
 using testing_support::TestWindow;
 
-constexpr int kId = 9;
+constexpr int kTreeListId = 9;
 
-HWND CreateTreeList(HWND parent) {
-    HWND const control = CreateWindowExA(0, TREELIST_CLASSNAME, "", WS_CHILD | WS_VISIBLE, 0, 0, 280, 180, parent,
-                                         reinterpret_cast<HMENU>(INT_PTR{kId}), GetModuleHandleA(nullptr), nullptr);
+HWND MakeTreeList(HWND parent) {
+    HWND const control =
+        CreateWindowExA(0, TREELIST_CLASSNAME, "", WS_CHILD | WS_VISIBLE, 0, 0, 280, 180, parent,
+                        reinterpret_cast<HMENU>(INT_PTR{kTreeListId}), GetModuleHandleA(nullptr), nullptr);
     EXPECT_NE(nullptr, control);
     return control;
 }
 
 class TreeList : public testing::Test {
   protected:
-    TreeList() : control_(CreateTreeList(host_)) {}
+    TreeList() : control_(MakeTreeList(host_)) {}
 
     TempFolder folder_;
     TestWindow host_;
@@ -147,7 +148,7 @@ TEST_F(TreeList, OnlyTheUsersSelectionIsTold) {
     Send(control_, WM_KEYDOWN, VK_DOWN, 1);
     auto const told = host_.Received(WM_COMMAND);
     ASSERT_EQ(1U, told.size());
-    EXPECT_EQ(static_cast<WPARAM>(MAKELONG(kId, TREELIST_SELCHANGE)), told[0].wParam);
+    EXPECT_EQ(static_cast<WPARAM>(MAKELONG(kTreeListId, TREELIST_SELCHANGE)), told[0].wParam);
     EXPECT_EQ(control_, reinterpret_cast<HWND>(told[0].lParam));
     char buffer[MAX_PATH];
     TREELIST_GetFolder(control_, buffer);
@@ -159,9 +160,9 @@ TEST(TreeListEnd, LeavesNothingBehind) {
     folder.MakeFolder("a\\b");
     TestWindow host;
     // The system's icons are made once and stay.
-    DestroyWindow(CreateTreeList(host));
+    DestroyWindow(MakeTreeList(host));
     LeakCheck const leaks;
-    HWND const control = CreateTreeList(host);
+    HWND const control = MakeTreeList(host);
     HTREEITEM const item = Reach(control, folder.Path("a"));
     Expand(control, item);
     DestroyWindow(control);

@@ -5,7 +5,6 @@
 
 namespace {
 
-using msgbox::Layout;
 using msgbox::Measured;
 
 /// The narrow template in pixels of a 6 by 13 font, with one button and an icon.
@@ -25,7 +24,7 @@ Measured Narrow(SIZE text, int iconHeight = 32, int buttons = 1) {
 }
 
 TEST(MessageBoxLayout, ALowMessageStandsBesideTheIcon) {
-    Layout const out = msgbox::LayOut(Narrow({100, 13}));
+    msgbox::Layout const out = msgbox::LayOut(Narrow({100, 13}));
     EXPECT_EQ(60 + 28, out.message.left);
     EXPECT_EQ(20 + 9, out.message.top) << "19 pixels are left over";
     EXPECT_EQ(100, out.message.right - out.message.left);
@@ -34,7 +33,7 @@ TEST(MessageBoxLayout, ALowMessageStandsBesideTheIcon) {
 }
 
 TEST(MessageBoxLayout, WithoutAnIconHalfItsSpaceIsUsed) {
-    Layout const out = msgbox::LayOut(Narrow({100, 13}, 0));
+    msgbox::Layout const out = msgbox::LayOut(Narrow({100, 13}, 0));
     EXPECT_EQ(60 + 28 - 19, out.message.left) << "half of 39, rounded down";
     EXPECT_EQ(20, out.message.top);
     EXPECT_EQ(20 + 13, out.panel.cy);
@@ -42,7 +41,7 @@ TEST(MessageBoxLayout, WithoutAnIconHalfItsSpaceIsUsed) {
 }
 
 TEST(MessageBoxLayout, AsHighAsTheIconItStaysAtTheTop) {
-    Layout const out = msgbox::LayOut(Narrow({156, 32}));
+    msgbox::Layout const out = msgbox::LayOut(Narrow({156, 32}));
     EXPECT_EQ(20, out.message.top);
     EXPECT_EQ(60, out.message.left) << "there is an icon: no shift";
 }
@@ -56,7 +55,7 @@ TEST(MessageBoxLayout, HalvesAreRoundedDown) {
 }
 
 TEST(MessageBoxLayout, AWordTooWideMovesTheButtonsAndTheEdge) {
-    Layout const out = msgbox::LayOut(Narrow({200, 26}));
+    msgbox::Layout const out = msgbox::LayOut(Narrow({200, 26}));
     EXPECT_EQ(60, out.message.left);
     EXPECT_EQ(260, out.message.right);
     EXPECT_EQ(216 + 44, out.panel.cx);
@@ -71,7 +70,7 @@ TEST(MessageBoxLayout, TheHigherColumnDecides) {
     EXPECT_EQ(frame + 55 + 20, msgbox::LayOut(Narrow({100, 13})).window.cy);
     EXPECT_EQ(frame + 20 + 780 + 20, msgbox::LayOut(Narrow({100, 780})).window.cy);
     // The buttons: the last one's bottom and 10 below.
-    Layout const three = msgbox::LayOut(Narrow({100, 13}, 0, 3));
+    msgbox::Layout const three = msgbox::LayOut(Narrow({100, 13}, 0, 3));
     EXPECT_EQ(29, three.step);
     EXPECT_EQ(frame + 10 + 2 * 29 + 23 + 10, three.window.cy);
     EXPECT_EQ(frame + 33 + 20, msgbox::LayOut(Narrow({100, 13}, 0, 0)).window.cy);
@@ -82,7 +81,7 @@ TEST(MessageBoxLayout, NothingTouchesAtAnySize) {
         for (int iconHeight : {0, 32}) {
             for (int width = 0; width <= 400; width += 7) {
                 for (int height = 0; height <= 800; height += 13) {
-                    Layout const out = msgbox::LayOut(Narrow({width, height}, iconHeight, count));
+                    msgbox::Layout const out = msgbox::LayOut(Narrow({width, height}, iconHeight, count));
                     int const client = out.window.cy - 25;
                     int const lastButton = out.button.bottom + (count - 1) * out.step;
                     ASSERT_LE(iconHeight ? 60 : 21, out.message.left) << width << ' ' << height;

@@ -3,21 +3,13 @@
 
 #include "tests/support/leaks.h"
 
-void Run_cbase();
-void Run_cdatastr();
-void Run_clist();
-void Run_cstring();
-void Run_list();
+void RunHeaderExamples();
 
 namespace {
 
 TEST(HeaderExamples, CompileRunAndReleaseWhatTheyTake) {
     testing_support::LeakCheck const leaks;
-    Run_cbase();
-    Run_cdatastr();
-    Run_clist();
-    Run_cstring();
-    Run_list();
+    RunHeaderExamples();
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
-# Turns the examples of a public header (the lines that its first comment sets in by four spaces) into functions, and one
-# that calls them all: Run_<name>.
+# Turns the examples of public headers (the lines that their first comments set in by four spaces) into functions, and one
+# that calls them all: RunHeaderExamples.
 BEGIN {
     print "#include <cvutil32.h>\n#include <cstdio>\n#include <new>\n"
 }
@@ -11,8 +11,17 @@ function End() {
     inside = 0
 }
 
+FNR == 1 {
+    End()
+    over = 0
+}
+
 /^#pragma once/ {
-    exit
+    over = 1
+}
+
+over {
+    next
 }
 
 /^\/\/\/     / {
@@ -30,7 +39,7 @@ function End() {
 
 END {
     End()
-    print "void Run_" name "() {"
+    print "void RunHeaderExamples() {"
     for (i = 1; i <= count; ++i) {
         print "    Example" i "();"
     }

@@ -15,7 +15,6 @@ extern "C" int LLVMFuzzerTestOneInput(unsigned char const* data, std::size_t siz
         for (std::string const& key : file.Keys(section)) {
             file.Find(section, key);
         }
-        file.Entries(section);
     }
     file.Set("section", "key", "value");
     IniFile again(file.Text());

@@ -69,41 +69,21 @@ Kind const kAny[] = {
 Kind const kEdit[] = {
     KIND(WM_CUT, Zero, Zero),          KIND(WM_COPY, Zero, Zero),           KIND(WM_PASTE, Zero, Zero),
     KIND(WM_CLEAR, Zero, Zero),        KIND(WM_UNDO, Zero, Zero),           KIND(EM_GETSEL, Zero, Zero),
-    KIND(EM_SETSEL, Number, Number),   KIND(EM_GETRECT, Zero, Rect),        KIND(EM_SETRECT, Zero, Rect),
-    KIND(EM_SCROLL, Code, Zero),       KIND(EM_LINESCROLL, Number, Number), KIND(EM_SCROLLCARET, Zero, Zero),
+    KIND(EM_SETSEL, Number, Number),   KIND(EM_LINESCROLL, Number, Number), KIND(EM_SCROLLCARET, Zero, Zero),
     KIND(EM_GETLINECOUNT, Zero, Zero), KIND(EM_LINEINDEX, Number, Zero),    KIND(EM_LINELENGTH, Number, Zero),
     KIND(EM_REPLACESEL, Bool, Text),   KIND(EM_GETLINE, Code, Buffer),      KIND(EM_LIMITTEXT, Number, Zero),
     KIND(EM_UNDO, Zero, Zero),         KIND(EM_LINEFROMCHAR, Number, Zero), KIND(EM_SETPASSWORDCHAR, Character, Zero),
-    KIND(EM_SETREADONLY, Bool, Zero),  KIND(EM_SETMARGINS, Code, Pair),     KIND(EM_POSFROMCHAR, Number, Zero),
-    KIND(EM_CHARFROMPOS, Zero, Pair),  KIND(WM_CHAR, Character, Code),
+    KIND(EM_SETREADONLY, Bool, Zero),  KIND(WM_CHAR, Character, Code),
 };
 
 Kind const kList[] = {
-    KIND(LB_ADDSTRING, Zero, Text),
-    KIND(LB_INSERTSTRING, Number, Text),
-    KIND(LB_DELETESTRING, Code, Zero),
-    KIND(LB_RESETCONTENT, Zero, Zero),
-    KIND(LB_SETSEL, Bool, Number),
-    KIND(LB_SETCURSEL, Number, Zero),
-    KIND(LB_GETSEL, Number, Zero),
-    KIND(LB_GETTEXT, Code, Buffer),
-    KIND(LB_GETTEXTLEN, Number, Zero),
-    KIND(LB_SELECTSTRING, Number, Text),
-    KIND(LB_FINDSTRING, Number, Text),
-    KIND(LB_GETSELCOUNT, Zero, Zero),
-    KIND(LB_GETSELITEMS, Code, Numbers),
-    KIND(LB_SETTABSTOPS, Code, Numbers),
-    KIND(LB_SETHORIZONTALEXTENT, Number, Zero),
-    KIND(LB_SETCOLUMNWIDTH, Number, Zero),
-    KIND(LB_SETTOPINDEX, Number, Zero),
-    KIND(LB_GETITEMRECT, Number, Rect),
-    KIND(LB_SETITEMDATA, Number, Number),
-    KIND(LB_SELITEMRANGE, Bool, Pair),
-    KIND(LB_SETANCHORINDEX, Number, Zero),
-    KIND(LB_SETCARETINDEX, Number, Bool),
-    KIND(LB_SETITEMHEIGHT, Code, Number),
-    KIND(LB_GETITEMHEIGHT, Code, Zero),
-    KIND(LB_ITEMFROMPOINT, Zero, Pair),
+    KIND(LB_ADDSTRING, Zero, Text),        KIND(LB_INSERTSTRING, Number, Text),   KIND(LB_DELETESTRING, Code, Zero),
+    KIND(LB_RESETCONTENT, Zero, Zero),     KIND(LB_SETSEL, Bool, Number),         KIND(LB_SETCURSEL, Number, Zero),
+    KIND(LB_GETSEL, Number, Zero),         KIND(LB_GETTEXT, Code, Buffer),        KIND(LB_GETTEXTLEN, Number, Zero),
+    KIND(LB_SELECTSTRING, Number, Text),   KIND(LB_FINDSTRING, Number, Text),     KIND(LB_GETSELCOUNT, Zero, Zero),
+    KIND(LB_GETSELITEMS, Code, Numbers),   KIND(LB_SETCOLUMNWIDTH, Number, Zero), KIND(LB_SETTOPINDEX, Number, Zero),
+    KIND(LB_GETITEMRECT, Number, Rect),    KIND(LB_SETITEMDATA, Number, Number),  KIND(LB_SELITEMRANGE, Bool, Pair),
+    KIND(LB_SETANCHORINDEX, Number, Zero), KIND(LB_SETCARETINDEX, Number, Bool),  KIND(LB_GETITEMHEIGHT, Code, Zero),
 };
 
 Kind const kCombo[] = {
@@ -112,10 +92,9 @@ Kind const kCombo[] = {
     KIND(CB_SETCURSEL, Number, Zero),       KIND(CB_GETLBTEXT, Code, Buffer),
     KIND(CB_FINDSTRING, Number, Text),      KIND(CB_SELECTSTRING, Number, Text),
     KIND(CB_SHOWDROPDOWN, Bool, Zero),      KIND(CB_GETDROPPEDCONTROLRECT, Zero, Rect),
-    KIND(CB_SETITEMHEIGHT, Number, Number), KIND(CB_SETEXTENDEDUI, Bool, Zero),
     KIND(CB_GETEDITSEL, Zero, Zero),        KIND(CB_SETEDITSEL, Zero, Pair),
     KIND(CB_LIMITTEXT, Number, Zero),       KIND(CB_SETITEMDATA, Number, Number),
-    KIND(CB_SETTOPINDEX, Number, Zero),     KIND(CB_SETDROPPEDWIDTH, Number, Zero),
+    KIND(CB_SETDROPPEDWIDTH, Number, Zero),
 };
 
 Kind const kButton[] = {
@@ -124,15 +103,14 @@ Kind const kButton[] = {
 };
 
 Kind const kBar[] = {
-    KIND(SBM_SETPOS, Number, Bool),      KIND(SBM_GETPOS, Zero, Zero),
-    KIND(SBM_SETRANGE, Number, Number),  KIND(SBM_SETRANGEREDRAW, Number, Number),
-    KIND(SBM_ENABLE_ARROWS, Code, Zero), KIND(SBM_SETSCROLLINFO, Bool, ScrollInfo),
+    KIND(SBM_SETPOS, Number, Bool),
+    KIND(SBM_GETPOS, Zero, Zero),
+    KIND(SBM_SETSCROLLINFO, Bool, ScrollInfo),
 };
 
 Kind const kTree[] = {
-    KIND(TVM_GETCOUNT, Zero, Zero),      KIND(TVM_DELETEITEM, Zero, Item),      KIND(TVM_EXPAND, Code, Item),
-    KIND(TVM_GETNEXTITEM, Code, Item),   KIND(TVM_SELECTITEM, Code, Item),      KIND(TVM_SORTCHILDREN, Bool, Item),
-    KIND(TVM_ENSUREVISIBLE, Zero, Item), KIND(TVM_GETVISIBLECOUNT, Zero, Zero),
+    KIND(TVM_GETCOUNT, Zero, Zero),    KIND(TVM_DELETEITEM, Zero, Item), KIND(TVM_EXPAND, Code, Item),
+    KIND(TVM_GETNEXTITEM, Code, Item), KIND(TVM_SELECTITEM, Code, Item), KIND(TVM_SORTCHILDREN, Bool, Item),
 };
 
 #undef KIND

@@ -97,14 +97,12 @@ HWND Sender(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_CTLCOLORSTATIC:
         case WM_CTLCOLORSCROLLBAR:
         case WM_VKEYTOITEM:
-        case WM_CHARTOITEM:
             return reinterpret_cast<HWND>(lParam);
         case WM_NOTIFY:
             return reinterpret_cast<NMHDR const*>(lParam)->hwndFrom;
         case WM_DRAWITEM:
             return reinterpret_cast<DRAWITEMSTRUCT const*>(lParam)->hwndItem;
         case WM_MEASUREITEM:
-        case WM_COMPAREITEM:
         case WM_DELETEITEM:
         case WM_PARENTNOTIFY:
         case WM_SETCURSOR:
@@ -131,10 +129,8 @@ bool IsNotification(UINT message) {
         case WM_CTLCOLORSCROLLBAR:
         case WM_CTLCOLORDLG:
         case WM_VKEYTOITEM:
-        case WM_CHARTOITEM:
         case WM_DRAWITEM:
         case WM_MEASUREITEM:
-        case WM_COMPAREITEM:
         case WM_DELETEITEM:
         case WM_PARENTNOTIFY:
         case WM_SETCURSOR:
@@ -220,7 +216,8 @@ INT_PTR CALLBACK DialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPARA
             FillList(GetDlgItem(dialog, id), CB_ADDSTRING);
         }
         SendDlgItemMessageA(dialog, 102, WM_SETTEXT, 0, reinterpret_cast<LPARAM>("one\r\ntwo\r\nthree words here\r\n"));
-        SetScrollRange(GetDlgItem(dialog, 141), SB_CTL, 0, 50, TRUE);
+        SCROLLINFO const range = {sizeof range, SIF_RANGE, 0, 50, 0, 0, 0};
+        SetScrollInfo(GetDlgItem(dialog, 141), SB_CTL, &range, TRUE);
         FillTree(GetDlgItem(dialog, 143));
         return TRUE;
     }

@@ -22,7 +22,7 @@ using testing_support::PressKey;
 using testing_support::TextOf;
 
 constexpr int kBoxMessage = 10102;
-constexpr char kSection[] = "Trip";
+constexpr char kKept[] = "Trip";
 
 class Tour : public testing::Test {
   protected:
@@ -32,7 +32,7 @@ class Tour : public testing::Test {
 
     Tour() {
         HKEY const base = Reg_OpenBaseUserKey(nullptr);
-        RegDeleteKeyA(base, kSection);
+        RegDeleteKeyA(base, kKept);
         Reg_CloseKey(base);
     }
 
@@ -59,7 +59,7 @@ class Tour : public testing::Test {
         }
     }
     static DWORD Kept(char const* name) {
-        return Reg_GetProfileInt(HKEY_CURRENT_USER, kSection, name, 99);
+        return Reg_GetProfileInt(HKEY_CURRENT_USER, kKept, name, 99);
     }
     static int Persons(HWND dialog) {
         return NUMFLD_GetValue(GetDlgItem(dialog, IDC_PERSONS));

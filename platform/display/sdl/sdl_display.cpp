@@ -348,13 +348,13 @@ void SdlDisplay::RunTasks() {
     }
 }
 
-bool SdlDisplay::ReadClipboard(std::string* text) {
+bool SdlDisplay::ReadText(char* (*get)(), std::string* text) {
     if (!running) {
         return false;
     }
     const auto read = std::make_shared<std::string>();
-    const bool answered = RunOnLoop([read] {
-        if (char* found = SDL_GetClipboardText()) {
+    const bool answered = RunOnLoop([read, get] {
+        if (char* found = get()) {
             *read = found;
             SDL_free(found);
         }
@@ -366,10 +366,26 @@ bool SdlDisplay::ReadClipboard(std::string* text) {
     return true;
 }
 
+bool SdlDisplay::ReadClipboard(std::string* text) {
+    return ReadText(SDL_GetClipboardText, text);
+}
+
 void SdlDisplay::WriteClipboard(const std::string& text) {
     if (running) {
         RunOnLoop([text] { SDL_SetClipboardText(text.c_str()); });
     }
+}
+
+bool SdlDisplay::ReadSelection(std::string* text) {
+    return ReadText(SDL_GetPrimarySelectionText, text);
+}
+
+void SdlDisplay::WriteSelection(const std::string& text) {
+    {
+        const std::lock_guard lock(taskMutex);
+        tasks.emplace_back([text] { SDL_SetPrimarySelectionText(text.c_str()); });
+    }
+    Post();
 }
 
 void SdlDisplay::Post() {

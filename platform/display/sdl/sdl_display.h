@@ -31,6 +31,8 @@ class SdlDisplay final : public Display {
     void SetCursorShape(unsigned idc) override;
     bool ReadClipboard(std::string* text) override;
     void WriteClipboard(const std::string& text) override;
+    bool ReadSelection(std::string* text) override;
+    void WriteSelection(const std::string& text) override;
     bool Interactive() const override {
         return true;
     }
@@ -50,6 +52,7 @@ class SdlDisplay final : public Display {
     void ApplyCursor();
     void Post();
     bool RunOnLoop(std::function<void()> task);
+    bool ReadText(char* (*get)(), std::string* text);
     void RunTasks();
 
     const Sink sink;

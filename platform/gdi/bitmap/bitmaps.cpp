@@ -1,4 +1,4 @@
-// Making device-dependent bitmaps, and their raw bits.
+// Making device-dependent bitmaps.
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
@@ -51,25 +51,12 @@ using namespace platform::gdi;
 
 namespace {
 
-std::size_t OuterRowBytes(const Bitmap& bitmap) {
-    return static_cast<std::size_t>(bitmap.section ? DwordRowBytes(bitmap.width, bitmap.bitsPerPixel)
-                                                   : WordRowBytes(bitmap.width, bitmap.bitsPerPixel));
-}
-
-/// Copies whole and partial rows between a bitmap and the application's rows.
-LONG CopyBits(const Bitmap& bitmap, std::size_t size, std::byte* out, const std::byte* in) {
-    const std::size_t outer = OuterRowBytes(bitmap);
-    const std::size_t total = std::min(size, outer * static_cast<std::size_t>(bitmap.height));
-    for (std::size_t done = 0, row = 0; done < total; done += outer, ++row) {
-        std::byte* bits = bitmap.bits + row * bitmap.rowBytes;
-        const std::size_t part = std::min(outer, total - done);
-        if (out) {
-            std::memcpy(out + done, bits, part);
-        } else {
-            std::memcpy(bits, in + done, part);
-        }
+/// Fills a bitmap from the application's rows, which are multiples of two bytes.
+void CopyBits(const Bitmap& bitmap, const std::byte* in) {
+    const auto outer = static_cast<std::size_t>(WordRowBytes(bitmap.width, bitmap.bitsPerPixel));
+    for (std::size_t row = 0; row < static_cast<std::size_t>(bitmap.height); ++row) {
+        std::memcpy(bitmap.bits + row * bitmap.rowBytes, in + row * outer, outer);
     }
-    return static_cast<LONG>(total);
 }
 
 }  // namespace
@@ -92,7 +79,7 @@ HBITMAP WINAPI CreateBitmap(int width, int height, UINT planes, UINT bitsPerPixe
         return nullptr;
     }
     if (bits) {
-        CopyBits(*bitmap, bitmap->Bytes(), nullptr, static_cast<const std::byte*>(bits));
+        CopyBits(*bitmap, static_cast<const std::byte*>(bits));
     }
     return FileObject<HBITMAP>(std::move(bitmap));
 }
@@ -134,44 +121,4 @@ HBITMAP WINAPI CreateCompatibleBitmap(HDC handle, int width, int height) {
         }
     }
     return FileObject<HBITMAP>(std::move(bitmap));
-}
-
-LONG WINAPI GetBitmapBits(HBITMAP handle, LONG size, LPVOID bits) {
-    const auto* bitmap = FindObject<Bitmap>(handle);
-    if (!bitmap) {
-        return 0;
-    }
-    if (!bits) {
-        return static_cast<LONG>(OuterRowBytes(*bitmap) * static_cast<std::size_t>(bitmap->height));
-    }
-    return size > 0 ? CopyBits(*bitmap, static_cast<std::size_t>(size), static_cast<std::byte*>(bits), nullptr) : 0;
-}
-
-LONG WINAPI SetBitmapBits(HBITMAP handle, DWORD size, const void* bits) {
-    const auto* bitmap = FindObject<Bitmap>(handle);
-    if (!bitmap || !bits) {
-        return 0;
-    }
-    return CopyBits(*bitmap, size, nullptr, static_cast<const std::byte*>(bits));
-}
-
-BOOL WINAPI GetBitmapDimensionEx(HBITMAP handle, LPSIZE size) {
-    const auto* bitmap = FindObject<Bitmap>(handle);
-    if (!bitmap || !size) {
-        return FALSE;
-    }
-    *size = bitmap->dimension;
-    return TRUE;
-}
-
-BOOL WINAPI SetBitmapDimensionEx(HBITMAP handle, int width, int height, LPSIZE previous) {
-    auto* bitmap = FindObject<Bitmap>(handle);
-    if (!bitmap) {
-        return FALSE;
-    }
-    if (previous) {
-        *previous = bitmap->dimension;
-    }
-    bitmap->dimension = {width, height};
-    return TRUE;
 }

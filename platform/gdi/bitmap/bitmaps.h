@@ -17,14 +17,6 @@ bool IsDepth(int bitsPerPixel);
 /// format.
 std::unique_ptr<Bitmap> NewBitmap(int width, int height, int bitsPerPixel);
 
-/// @returns which bits of a pixel are red's, green's and blue's: of 32, or of 16, six or five of them green's.
-constexpr std::array<DWORD, 3> Masks(int bitsPerPixel, bool sixGreen) {
-    if (bitsPerPixel == 32) {
-        return {0xFF0000, 0x00FF00, 0x0000FF};
-    }
-    return sixGreen ? std::array<DWORD, 3>{0xF800, 0x07E0, 0x001F} : std::array<DWORD, 3>{0x7C00, 0x03E0, 0x001F};
-}
-
 /// A device-independent bitmap's header, checked.
 struct DibLayout {
     int width = 0;
@@ -49,5 +41,10 @@ struct DibLayout {
 /// Reads a header (both kinds) and, where colours are asked for, the palette. @returns nothing for a format that is not
 /// supported. `room` is how many bytes may be read; 0 when the caller vouches for them.
 std::optional<DibLayout> ReadLayout(const void* info, UINT usage, bool colours, std::size_t room = 0);
+
+/// Fills a bitmap with the pixels of a device-independent one.
+bool SetBits(HBITMAP bitmap, const void* bits, const BITMAPINFO* info);
+/// Draws the pixels of a device-independent bitmap, stretched to the place.
+bool StretchBits(HDC context, const RECT& place, const void* bits, const BITMAPINFO* info, DWORD operation);
 
 }  // namespace platform::gdi

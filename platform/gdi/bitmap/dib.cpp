@@ -211,22 +211,6 @@ HBITMAP WINAPI CreateDIBSection(HDC, const BITMAPINFO* info, UINT usage, void** 
     return handle;
 }
 
-HBITMAP WINAPI CreateDIBitmap(HDC context, const BITMAPINFOHEADER* header, DWORD init, const void* bits,
-                              const BITMAPINFO* info, UINT usage) {
-    const auto layout = Checked(header, DIB_RGB_COLORS, false);
-    if (!layout) {
-        return nullptr;
-    }
-    const HBITMAP bitmap = context ? CreateCompatibleBitmap(context, layout->width, layout->height)
-                                   : CreateBitmap(layout->width, layout->height, 1, 1, nullptr);
-    if (bitmap && init & CBM_INIT && bits && info &&
-        !SetDIBits(context, bitmap, 0, static_cast<UINT>(layout->height), bits, info, usage)) {
-        DeleteObject(bitmap);
-        return nullptr;
-    }
-    return bitmap;
-}
-
 int WINAPI GetDIBits(HDC context, HBITMAP handle, UINT start, UINT lines, LPVOID bits, LPBITMAPINFO info, UINT usage) {
     const auto* bitmap = FindObject<Bitmap>(handle);
     if (!bitmap || !FindObject<DeviceContext>(context)) {
@@ -294,103 +278,30 @@ int WINAPI GetDIBits(HDC context, HBITMAP handle, UINT start, UINT lines, LPVOID
     });
 }
 
-int WINAPI SetDIBits(HDC, HBITMAP handle, UINT start, UINT lines, const void* bits, const BITMAPINFO* info,
-                     UINT usage) {
+namespace platform::gdi {
+
+bool SetBits(HBITMAP handle, const void* bits, const BITMAPINFO* info) {
     auto* bitmap = FindObject<Bitmap>(handle);
-    const auto layout = bitmap ? Checked(info, usage, true) : std::nullopt;
-    if (!layout || !bits || start >= static_cast<UINT>(layout->height)) {
-        return 0;
-    }
-    const int count = static_cast<int>(std::min(lines, static_cast<UINT>(layout->height) - start));
-    return Guarded(0, [&] {
-        const Surface from = layout->View(bits, count);
-        const int first = TopRow(*layout, static_cast<int>(start), count);
-        const int rows = std::clamp(bitmap->height - first, 0, count);
-        if (rows > 0) {
-            Surface to = bitmap->View();
-            // Black and white decide the bits of a monochrome bitmap.
-            to.monochrome = false;
-            CopyRows(from, 0, to, first, rows, std::min(bitmap->width, layout->width));
-        }
-        return count;
-    });
+    const auto layout = bitmap ? Checked(info, DIB_RGB_COLORS, true) : std::nullopt;
+    return layout && Guarded(false, [&] {
+               Surface to = bitmap->View();
+               // Black and white decide the bits of a monochrome bitmap.
+               to.monochrome = false;
+               CopyRows(layout->View(bits, layout->height), 0, to, 0, std::min(bitmap->height, layout->height),
+                        std::min(bitmap->width, layout->width));
+               return true;
+           });
 }
 
-int WINAPI SetDIBitsToDevice(HDC context, int x, int y, DWORD width, DWORD height, int sourceX, int sourceY, UINT start,
-                             UINT lines, const void* bits, const BITMAPINFO* info, UINT usage) {
+bool StretchBits(HDC context, const RECT& place, const void* bits, const BITMAPINFO* info, DWORD operation) {
     const Drawing drawing(context);
-    const auto layout = drawing ? Checked(info, usage, true) : std::nullopt;
-    if (!layout || !bits || start >= static_cast<UINT>(layout->height)) {
-        return 0;
-    }
-    const int count = static_cast<int>(std::min(lines, static_cast<UINT>(layout->height) - start));
-    constexpr DWORD kFar = 1 << 28;
-    width = std::min(width, kFar);
-    height = std::min(height, kFar);
-    sourceX = Near(sourceX);
-    sourceY = Near(sourceY);
-    return Guarded(0, [&] {
-        const Surface from = layout->View(bits, count);
-        // The lower left corner of the source counts from the bottom of the bitmap; only the rows at hand are drawn.
-        const int top =
-            layout->height - sourceY - static_cast<int>(height) - TopRow(*layout, static_cast<int>(start), count);
-        const POINT at = drawing->ToSurface(x, y);
-        const RECT target{at.x, at.y, at.x + static_cast<LONG>(width), at.y + static_cast<LONG>(height)};
-        const RECT source{sourceX, top, sourceX + static_cast<LONG>(width), top + static_cast<LONG>(height)};
-        DrawSurface(*drawing, target, from, source, false, false, kCopySource, {});
-        return count;
-    });
+    const auto layout = drawing ? Checked(info, DIB_RGB_COLORS, true) : std::nullopt;
+    return layout && layout->height > 0 && place.left < place.right && place.top < place.bottom && Guarded(false, [&] {
+               const Surface from = layout->View(bits, layout->height);
+               DrawSurface(*drawing, drawing->ToSurface(place), from, from.Bounds(), false, false,
+                           OperationOf(operation), {});
+               return true;
+           });
 }
 
-int WINAPI StretchDIBits(HDC context, int x, int y, int width, int height, int sourceX, int sourceY, int sourceWidth,
-                         int sourceHeight, const void* bits, const BITMAPINFO* info, UINT usage, DWORD operation) {
-    const Drawing drawing(context);
-    const auto layout = drawing ? Checked(info, usage, true) : std::nullopt;
-    if (!layout || !bits || layout->height == 0 || !width || !height || !sourceWidth || !sourceHeight) {
-        return 0;
-    }
-    for (int* value : {&width, &height, &sourceX, &sourceY, &sourceWidth, &sourceHeight}) {
-        *value = Near(*value);
-    }
-    return Guarded(0, [&] {
-        const Surface from = layout->View(bits, layout->height);
-        const POINT at = drawing->ToSurface(x, y);
-        const RECT target{std::min(at.x, at.x + width), std::min(at.y, at.y + height), std::max(at.x, at.x + width),
-                          std::max(at.y, at.y + height)};
-        const int top = layout->topDown ? sourceY : layout->height - sourceY - sourceHeight;
-        const RECT source{std::min(sourceX, sourceX + sourceWidth), std::min(top, top + sourceHeight),
-                          std::max(sourceX, sourceX + sourceWidth), std::max(top, top + sourceHeight)};
-        DrawSurface(*drawing, target, from, source, (width < 0) != (sourceWidth < 0),
-                    (height < 0) != (sourceHeight < 0), OperationOf(operation), {});
-        return layout->height;
-    });
-}
-
-UINT WINAPI GetDIBColorTable(HDC handle, UINT start, UINT count, RGBQUAD* colours) {
-    const auto* context = FindObject<DeviceContext>(handle);
-    const Bitmap* bitmap = context ? context->state.bitmap : nullptr;
-    if (!bitmap || !bitmap->section || !bitmap->palette || !colours) {
-        return 0;
-    }
-    UINT done = 0;
-    for (; done < count && start + done < static_cast<UINT>(bitmap->paletteSize); ++done) {
-        const std::uint32_t pixel = bitmap->palette[start + done];
-        colours[done] = {static_cast<BYTE>(pixel), static_cast<BYTE>(pixel >> 8), static_cast<BYTE>(pixel >> 16), 0};
-    }
-    return done;
-}
-
-UINT WINAPI SetDIBColorTable(HDC handle, UINT start, UINT count, const RGBQUAD* colours) {
-    const auto* context = FindObject<DeviceContext>(handle);
-    const Bitmap* bitmap = context ? context->state.bitmap : nullptr;
-    if (!bitmap || !bitmap->section || !bitmap->palette || !colours) {
-        return 0;
-    }
-    UINT done = 0;
-    for (; done < count && start + done < static_cast<UINT>(bitmap->paletteSize); ++done) {
-        const RGBQUAD& colour = colours[done];
-        bitmap->palette[start + done] =
-            static_cast<std::uint32_t>(colour.rgbBlue | colour.rgbGreen << 8 | colour.rgbRed << 16);
-    }
-    return done;
-}
+}  // namespace platform::gdi

@@ -4,8 +4,10 @@
 
 #include "gdi/bitmap/bitmaps.h"
 #include "gdi/context/context.h"
+#include "kernel/modules/resource.h"
 
 using namespace platform::gdi;
+namespace kernel = platform::kernel;
 
 namespace {
 
@@ -25,39 +27,6 @@ struct Header {
 
 RGBQUAD Quad(std::uint32_t pixel) {
     return {static_cast<BYTE>(pixel), static_cast<BYTE>(pixel >> 8), static_cast<BYTE>(pixel >> 16), 0};
-}
-
-std::uint32_t FirstPixel(const DibLayout& layout, const std::byte* bits) {
-    const Surface view = layout.View(bits, layout.height);
-    return ReadPixel(view, 0, 0);
-}
-
-/// The colours of a picture drawn for the standard desktop become those in use.
-void MapColours(DibLayout& layout, UINT flags, const std::byte* bits) {
-    if (layout.bitsPerPixel > 8) {
-        return;
-    }
-    const auto system = [](int index) { return PixelOf(GetSysColor(index)); };
-    if (flags & LR_LOADMAP3DCOLORS) {
-        for (std::uint32_t& colour : layout.palette) {
-            switch (colour) {
-                case 0x808080:
-                    colour = system(COLOR_3DSHADOW);
-                    break;
-                case 0xC0C0C0:
-                    colour = system(COLOR_3DFACE);
-                    break;
-                case 0xDFDFDF:
-                    colour = system(COLOR_3DLIGHT);
-                    break;
-                default:
-                    break;
-            }
-        }
-    }
-    if (flags & LR_LOADTRANSPARENT) {
-        layout.palette[FirstPixel(layout, bits)] = system(flags & LR_LOADMAP3DCOLORS ? COLOR_3DFACE : COLOR_WINDOW);
-    }
 }
 
 bool BlackAndWhite(const DibLayout& layout) {
@@ -83,8 +52,7 @@ HBITMAP MakeBitmap(const DibLayout& source, const std::byte* bits, int width, in
         void* unused = nullptr;
         bitmap = CreateDIBSection(memory, header.Info(), DIB_RGB_COLORS, &unused, nullptr, 0);
     } else {
-        const bool mono = flags & LR_MONOCHROME || BlackAndWhite(source);
-        bitmap = CreateBitmap(width, height, 1, mono ? 1 : 32, nullptr);
+        bitmap = CreateBitmap(width, height, 1, BlackAndWhite(source) ? 1 : 32, nullptr);
     }
     if (!bitmap || !memory) {
         DeleteObject(bitmap);
@@ -94,12 +62,11 @@ HBITMAP MakeBitmap(const DibLayout& source, const std::byte* bits, int width, in
     header.header.biWidth = source.width;
     header.header.biHeight = source.topDown ? -source.height : source.height;
     if (width == source.width && height == source.height) {
-        SetDIBits(memory, bitmap, 0, static_cast<UINT>(height), bits, header.Info(), DIB_RGB_COLORS);
+        SetBits(bitmap, bits, header.Info());
     } else {
         const HGDIOBJ previous = SelectObject(memory, bitmap);
         SetStretchBltMode(memory, COLORONCOLOR);
-        StretchDIBits(memory, 0, 0, width, height, 0, 0, source.width, source.height, bits, header.Info(),
-                      DIB_RGB_COLORS, SRCCOPY);
+        StretchBits(memory, {0, 0, width, height}, bits, header.Info(), SRCCOPY);
         SelectObject(memory, previous);
     }
     DeleteDC(memory);
@@ -114,18 +81,15 @@ HBITMAP FromPacked(Packed packed, int width, int height, UINT flags) {
         return nullptr;
     }
     const std::byte* bits = packed.data + offset;
-    MapColours(*layout, flags, bits);
     return MakeBitmap(*layout, bits, width > 0 ? width : layout->width, height > 0 ? height : layout->height, flags);
 }
 
 HBITMAP FromResource(HINSTANCE instance, LPCSTR name, int width, int height, UINT flags) {
-    const HRSRC resource = FindResourceA(instance, name, RT_BITMAP);
-    const HGLOBAL block = resource ? LoadResource(instance, resource) : nullptr;
-    const void* data = block ? LockResource(block) : nullptr;
-    if (!data) {
+    const kernel::Bytes resource = kernel::FindResourceBytes(instance, name, RT_BITMAP);
+    if (resource.empty()) {
         return nullptr;
     }
-    return FromPacked({static_cast<const std::byte*>(data), SizeofResource(instance, resource)}, width, height, flags);
+    return FromPacked({reinterpret_cast<const std::byte*>(resource.data()), resource.size()}, width, height, flags);
 }
 
 }  // namespace
@@ -135,7 +99,7 @@ HBITMAP WINAPI LoadBitmapA(HINSTANCE instance, LPCSTR name) {
 }
 
 HANDLE WINAPI LoadImageA(HINSTANCE instance, LPCSTR name, UINT type, int width, int height, UINT flags) {
-    if (type != IMAGE_BITMAP || flags & LR_LOADFROMFILE || width < 0 || height < 0) {
+    if (type != IMAGE_BITMAP || (flags & ~UINT{LR_CREATEDIBSECTION}) || width < 0 || height < 0) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return nullptr;
     }

@@ -1,4 +1,4 @@
-// Colours, modes and origins of device contexts, and what the device can do.
+// Colours and modes of device contexts, and what the device can do.
 #include "gdi/context/context.h"
 
 using namespace platform::gdi;
@@ -31,28 +31,6 @@ Value Get(HDC handle, Value DrawState::*member, Value failure) {
     return context ? context->state.*member : failure;
 }
 
-BOOL ExchangePoint(HDC handle, POINT DrawState::*member, int x, int y, LPPOINT previous, bool add) {
-    auto* context = FindObject<DeviceContext>(handle);
-    if (!context) {
-        return FALSE;
-    }
-    POINT& point = context->state.*member;
-    if (previous) {
-        *previous = point;
-    }
-    point = add ? POINT{static_cast<LONG>(point.x + x), static_cast<LONG>(point.y + y)} : POINT{x, y};
-    return TRUE;
-}
-
-BOOL GetPoint(HDC handle, POINT DrawState::*member, LPPOINT point) {
-    const auto* context = FindObject<DeviceContext>(handle);
-    if (!context || !point) {
-        return FALSE;
-    }
-    *point = context->state.*member;
-    return TRUE;
-}
-
 }  // namespace
 
 COLORREF WINAPI SetBkColor(HDC context, COLORREF colour) {
@@ -79,142 +57,8 @@ COLORREF WINAPI GetTextColor(HDC context) {
     return Get(context, &DrawState::textColour, COLORREF{CLR_INVALID});
 }
 
-int WINAPI SetROP2(HDC context, int mode) {
-    return ExchangeMode(context, &DrawState::rop2, mode, R2_BLACK, R2_WHITE);
-}
-
-int WINAPI GetROP2(HDC context) {
-    return Get(context, &DrawState::rop2, 0);
-}
-
 int WINAPI SetStretchBltMode(HDC context, int mode) {
     return ExchangeMode(context, &DrawState::stretchMode, mode, BLACKONWHITE, HALFTONE);
-}
-
-int WINAPI GetStretchBltMode(HDC context) {
-    return Get(context, &DrawState::stretchMode, 0);
-}
-
-int WINAPI SetPolyFillMode(HDC context, int mode) {
-    return ExchangeMode(context, &DrawState::polyFillMode, mode, ALTERNATE, WINDING);
-}
-
-int WINAPI GetPolyFillMode(HDC context) {
-    return Get(context, &DrawState::polyFillMode, 0);
-}
-
-UINT WINAPI SetTextAlign(HDC context, UINT align) {
-    return Exchange(context, &DrawState::textAlign, align, UINT{GDI_ERROR});
-}
-
-UINT WINAPI GetTextAlign(HDC context) {
-    return Get(context, &DrawState::textAlign, UINT{GDI_ERROR});
-}
-
-int WINAPI SetTextCharacterExtra(HDC context, int extra) {
-    return Exchange(context, &DrawState::characterExtra, extra, static_cast<int>(0x80000000));
-}
-
-int WINAPI GetTextCharacterExtra(HDC context) {
-    return Get(context, &DrawState::characterExtra, static_cast<int>(0x80000000));
-}
-
-BOOL WINAPI SetTextJustification(HDC handle, int extra, int count) {
-    auto* context = FindObject<DeviceContext>(handle);
-    if (!context) {
-        return FALSE;
-    }
-    context->state.breakExtra = count > 0 ? extra : 0;
-    context->state.breakCount = count > 0 ? count : 0;
-    return TRUE;
-}
-
-COLORREF WINAPI GetNearestColor(HDC handle, COLORREF colour) {
-    const auto* context = FindObject<DeviceContext>(handle);
-    if (!context) {
-        return CLR_INVALID;
-    }
-    return ColourOf(ShownColour(context->surface, NativeColour(context->surface, PixelOf(colour))));
-}
-
-int WINAPI SetMapMode(HDC handle, int mode) {
-    if (!FindObject<DeviceContext>(handle)) {
-        return 0;
-    }
-    if (mode != MM_TEXT) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return 0;
-    }
-    return MM_TEXT;
-}
-
-int WINAPI GetMapMode(HDC handle) {
-    return FindObject<DeviceContext>(handle) ? MM_TEXT : 0;
-}
-
-BOOL WINAPI SetViewportOrgEx(HDC context, int x, int y, LPPOINT previous) {
-    return ExchangePoint(context, &DrawState::viewportOrigin, x, y, previous, false);
-}
-
-BOOL WINAPI GetViewportOrgEx(HDC context, LPPOINT origin) {
-    return GetPoint(context, &DrawState::viewportOrigin, origin);
-}
-
-BOOL WINAPI OffsetViewportOrgEx(HDC context, int x, int y, LPPOINT previous) {
-    return ExchangePoint(context, &DrawState::viewportOrigin, x, y, previous, true);
-}
-
-BOOL WINAPI SetWindowOrgEx(HDC context, int x, int y, LPPOINT previous) {
-    return ExchangePoint(context, &DrawState::windowOrigin, x, y, previous, false);
-}
-
-BOOL WINAPI GetWindowOrgEx(HDC context, LPPOINT origin) {
-    return GetPoint(context, &DrawState::windowOrigin, origin);
-}
-
-BOOL WINAPI OffsetWindowOrgEx(HDC context, int x, int y, LPPOINT previous) {
-    return ExchangePoint(context, &DrawState::windowOrigin, x, y, previous, true);
-}
-
-BOOL WINAPI SetBrushOrgEx(HDC context, int x, int y, LPPOINT previous) {
-    return ExchangePoint(context, &DrawState::brushOrigin, x, y, previous, false);
-}
-
-BOOL WINAPI GetBrushOrgEx(HDC context, LPPOINT origin) {
-    return GetPoint(context, &DrawState::brushOrigin, origin);
-}
-
-BOOL WINAPI LPtoDP(HDC handle, LPPOINT points, int count) {
-    const auto* context = FindObject<DeviceContext>(handle);
-    if (!context || (!points && count > 0)) {
-        return FALSE;
-    }
-    for (int i = 0; i < count; ++i) {
-        points[i] = context->ToDevice(points[i].x, points[i].y);
-    }
-    return TRUE;
-}
-
-BOOL WINAPI DPtoLP(HDC handle, LPPOINT points, int count) {
-    const auto* context = FindObject<DeviceContext>(handle);
-    if (!context || (!points && count > 0)) {
-        return FALSE;
-    }
-    const POINT zero = context->ToDevice(0, 0);
-    for (int i = 0; i < count; ++i) {
-        points[i].x -= zero.x;
-        points[i].y -= zero.y;
-    }
-    return TRUE;
-}
-
-BOOL WINAPI GetDCOrgEx(HDC handle, LPPOINT origin) {
-    const auto* context = FindObject<DeviceContext>(handle);
-    if (!context || !origin) {
-        return FALSE;
-    }
-    *origin = context->screen ? context->origin : POINT{};
-    return TRUE;
 }
 
 BOOL WINAPI GdiFlush(void) {

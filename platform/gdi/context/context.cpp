@@ -100,16 +100,6 @@ void Destroy(DeviceContext* context) {
 
 std::atomic<std::size_t> windowContexts{0};
 
-HDC WholeScreenContext() {
-    auto context = std::unique_ptr<DeviceContext>(new (std::nothrow) DeviceContext);
-    if (!context) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return nullptr;
-    }
-    UseScreen(*context, {0, 0}, Region(ScreenRect()));
-    return FileContext(std::move(context));
-}
-
 template <class Kind>
 HGDIOBJ Replace(Kind*& slot, Kind* object) {
     Kind* previous = slot;
@@ -193,32 +183,11 @@ void ResetContext(HDC handle) {
     }
 }
 
-void SetContextWindow(HDC handle, HWND window) {
-    if (auto* context = base::Find<DeviceContext>(handle, DeviceContext::kKind)) {
-        context->window = window;
-    }
-}
-
-HWND GetContextWindow(HDC handle) {
-    const auto* context = base::Find<DeviceContext>(handle, DeviceContext::kKind);
-    return context ? context->window : nullptr;
-}
-
-POINT ContextOrigin(HDC handle) {
-    const auto* context = base::Find<DeviceContext>(handle, DeviceContext::kKind);
-    return context ? context->origin : POINT{};
-}
-
-Region VisibleArea(HDC handle) {
-    const auto* context = base::Find<DeviceContext>(handle, DeviceContext::kKind);
-    return context && context->screen ? context->visible : Region();
-}
-
 std::size_t CountObjects() {
     using base::HandleKind;
     std::size_t count = 0;
-    for (const HandleKind kind : {HandleKind::Pen, HandleKind::Brush, HandleKind::Font, HandleKind::Bitmap,
-                                  HandleKind::Region, HandleKind::DeviceContext}) {
+    for (const HandleKind kind :
+         {HandleKind::Pen, HandleKind::Brush, HandleKind::Font, HandleKind::Bitmap, HandleKind::DeviceContext}) {
         count += base::CountHandles(kind);
     }
     const std::size_t without = StockCount() + windowContexts.load();
@@ -234,28 +203,6 @@ void DeleteFontWhenFree(HFONT handle) {
 }  // namespace platform::gdi
 
 using namespace platform::gdi;
-
-HDC WINAPI CreateDCA(LPCSTR driver, LPCSTR, LPCSTR, const DEVMODEA*) {
-    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
-    const char* expected = "display";
-    if (!driver) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return nullptr;
-    }
-    while (*expected && lower(*driver) == *expected) {
-        ++driver;
-        ++expected;
-    }
-    if (*expected || *driver) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return nullptr;
-    }
-    return WholeScreenContext();
-}
-
-HDC WINAPI CreateICA(LPCSTR driver, LPCSTR device, LPCSTR port, const DEVMODEA* mode) {
-    return CreateDCA(driver, device, port, mode);
-}
 
 HDC WINAPI CreateCompatibleDC(HDC context) {
     if (context && !FindObject<DeviceContext>(context)) {
@@ -295,9 +242,6 @@ HGDIOBJ WINAPI SelectObject(HDC handle, HGDIOBJ object) {
             return Replace(context->state.brush, FindObject<Brush>(object));
         case HandleKind::Font:
             return Replace(context->state.font, FindObject<Font>(object));
-        case HandleKind::Region:
-            return platform::base::ToHandle<HGDIOBJ>(
-                static_cast<std::uint32_t>(SelectClipRgn(handle, static_cast<HRGN>(object))));
         case HandleKind::Bitmap: {
             auto* bitmap = FindObject<Bitmap>(object);
             if (context->screen || !bitmap || (bitmap->context && bitmap->context != context)) {
@@ -320,32 +264,6 @@ HGDIOBJ WINAPI SelectObject(HDC handle, HGDIOBJ object) {
             SetLastError(ERROR_INVALID_HANDLE);
             return nullptr;
     }
-}
-
-HGDIOBJ WINAPI GetCurrentObject(HDC handle, UINT type) {
-    const auto* context = FindObject<DeviceContext>(handle);
-    if (!context) {
-        return nullptr;
-    }
-    const Object* object = nullptr;
-    switch (type) {
-        case OBJ_PEN:
-            object = context->state.pen;
-            break;
-        case OBJ_BRUSH:
-            object = context->state.brush;
-            break;
-        case OBJ_FONT:
-            object = context->state.font;
-            break;
-        case OBJ_BITMAP:
-            object = context->state.bitmap;
-            break;
-        default:
-            SetLastError(ERROR_INVALID_PARAMETER);
-            break;
-    }
-    return object ? platform::base::ToHandle<HGDIOBJ>(object->handle) : nullptr;
 }
 
 int WINAPI SaveDC(HDC handle) {

@@ -32,17 +32,8 @@ struct DrawState {
     COLORREF textColour = RGB(0, 0, 0);
     COLORREF backColour = RGB(255, 255, 255);
     int backMode = OPAQUE;
-    int rop2 = R2_COPYPEN;
     int stretchMode = BLACKONWHITE;
-    int polyFillMode = ALTERNATE;
-    UINT textAlign = TA_LEFT | TA_TOP;
-    int characterExtra = 0;
-    int breakExtra = 0;  ///< what SetTextJustification shares out among breakCount blanks
-    int breakCount = 0;
-    POINT brushOrigin{};
     POINT position{};
-    POINT windowOrigin{};
-    POINT viewportOrigin{};
     std::optional<Region> clip;  ///< device coordinates
 };
 
@@ -54,7 +45,6 @@ struct DeviceContext {
     Surface surface;
     POINT origin{};  ///< device (0, 0) on the surface
     Region visible;  ///< surface coordinates
-    HWND window = nullptr;
     DrawState state;
     std::vector<DrawState> saved;
 
@@ -65,14 +55,9 @@ struct DeviceContext {
     void ClipChanged() {
         drawableStale = true;
     }
-    /// Logical to device and to surface coordinates.
-    POINT ToDevice(int x, int y) const {
-        return {Near(std::int64_t{x} - state.windowOrigin.x + state.viewportOrigin.x),
-                Near(std::int64_t{y} - state.windowOrigin.y + state.viewportOrigin.y)};
-    }
+    /// Device to surface coordinates.
     POINT ToSurface(int x, int y) const {
-        const POINT point = ToDevice(x, y);
-        return {Near(std::int64_t{point.x} + origin.x), Near(std::int64_t{point.y} + origin.y)};
+        return {Near(std::int64_t{Near(x)} + origin.x), Near(std::int64_t{Near(y)} + origin.y)};
     }
     RECT ToSurface(const RECT& rect) const {
         const POINT a = ToSurface(rect.left, rect.top);
@@ -106,8 +91,5 @@ class Drawing {
     DeviceContext* context_;
     std::optional<ScreenGuard> lock_;
 };
-
-/// @returns NULLREGION, SIMPLEREGION or COMPLEXREGION.
-int Complexity(const Region& region);
 
 }  // namespace platform::gdi

@@ -5,6 +5,7 @@
 #include <windef.h>
 
 #include <cstddef>
+#include <string>
 
 #include "gdi/surface/region.h"
 
@@ -21,33 +22,24 @@ bool ReplaceVisible(HDC context, POINT origin, const Region& visible);
 /// Ends a screen context; its selected objects become free. Other handles are left alone.
 void DeleteScreenContext(HDC context);
 
-/// Puts a context back to its defaults (objects, colours, modes, origins, clip region, saved states).
+/// Puts a context back to its defaults (objects, colours, modes, clip region, saved states).
 void ResetContext(HDC context);
 
-/// The window that a context draws to, for WindowFromDC; null unless set.
-void SetContextWindow(HDC context, HWND window);
-HWND GetContextWindow(HDC context);
+/// @returns the rectangle around all that a context can draw to; empty for a bad handle.
+RECT ClipBounds(HDC context);
 
-/// @returns the screen point of the context's device point (0, 0); (0, 0) for memory contexts.
-POINT ContextOrigin(HDC context);
+/// Takes a rectangle out of what a context can draw to, until its clip region changes.
+void ExcludeFromClip(HDC context, const RECT& rect);
 
-/// @returns the area, in screen coordinates, that a screen context was given as visible.
-Region VisibleArea(HDC context);
-
-/// @returns a copy of a region object's pixels; empty when the handle is not a region.
-Region RegionOf(HRGN region);
-
-/// Overwrites a region object. @returns false when the handle is not a region.
-bool AssignRegion(HRGN region, const Region& value);
-
-/// Makes a region object. @returns null when memory or handles have run out.
-HRGN MakeRegionObject(const Region& value);
+/// Text whose tabs go on to stops that lie eight average characters apart.
+void DrawTabbedText(HDC context, int x, int y, const std::string& text);
+int TabbedTextWidth(HDC context, const std::string& text);
 
 /// Deletes a font at once, or when the last context lets go of it that has it selected.
 void DeleteFontWhenFree(HFONT font);
 
-/// @returns the number of live pens, brushes, fonts, bitmaps, regions and contexts, without the stock objects, the
-/// system colour brushes and the window contexts that the user module keeps.
+/// @returns the number of live pens, brushes, fonts, bitmaps and contexts, without the stock objects, the system colour
+/// brushes and the window contexts that the user module keeps.
 std::size_t CountObjects();
 
 }  // namespace platform::gdi

@@ -6,7 +6,6 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "gdi/bitmap/bitmaps.h"
 #include "gdi/context/context.h"
 
 namespace platform::gdi {
@@ -214,28 +213,6 @@ HGDIOBJ WINAPI GetStockObject(int index) {
     return platform::base::ToHandle<HGDIOBJ>(objects[static_cast<std::size_t>(index)]->handle);
 }
 
-DWORD WINAPI GetObjectType(HGDIOBJ handle) {
-    switch (platform::base::KindOfHandle(platform::base::ToNumber(handle))) {
-        case HandleKind::Pen:
-            return OBJ_PEN;
-        case HandleKind::Brush:
-            return OBJ_BRUSH;
-        case HandleKind::Font:
-            return OBJ_FONT;
-        case HandleKind::Bitmap:
-            return OBJ_BITMAP;
-        case HandleKind::Region:
-            return OBJ_REGION;
-        case HandleKind::DeviceContext: {
-            const auto* context = FindObject<DeviceContext>(handle);
-            return context ? context->screen ? OBJ_DC : OBJ_MEMDC : 0;
-        }
-        default:
-            SetLastError(ERROR_INVALID_HANDLE);
-            return 0;
-    }
-}
-
 BOOL WINAPI DeleteObject(HGDIOBJ handle) {
     switch (platform::base::KindOfHandle(platform::base::ToNumber(handle))) {
         case HandleKind::Pen:
@@ -246,8 +223,6 @@ BOOL WINAPI DeleteObject(HGDIOBJ handle) {
             return DeleteKind<Font>(handle);
         case HandleKind::Bitmap:
             return DeleteKind<Bitmap>(handle);
-        case HandleKind::Region:
-            return DeleteKind<RegionObject>(handle);
         case HandleKind::DeviceContext:
             return DeleteDC(static_cast<HDC>(handle));
         default:
@@ -271,7 +246,7 @@ int WINAPI GetObjectA(HANDLE handle, int size, LPVOID buffer) {
             if (!brush) {
                 return 0;
             }
-            const LOGBRUSH logical{brush->style, brush->colour, brush->hatch};
+            const LOGBRUSH logical{brush->style, brush->colour, 0};
             return CopyOut(&logical, sizeof(logical), size, buffer);
         }
         case HandleKind::Font: {
@@ -298,12 +273,4 @@ int WINAPI GetObjectA(HANDLE handle, int size, LPVOID buffer) {
             SetLastError(ERROR_INVALID_HANDLE);
             return 0;
     }
-}
-
-BOOL WINAPI UnrealizeObject(HGDIOBJ handle) {
-    if (platform::base::KindOfHandle(platform::base::ToNumber(handle)) == HandleKind::None) {
-        SetLastError(ERROR_INVALID_HANDLE);
-        return FALSE;
-    }
-    return TRUE;
 }

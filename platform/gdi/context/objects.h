@@ -1,9 +1,10 @@
 /// @file objects.h
-/// What stands behind the handles of pens, brushes, fonts, bitmaps and regions.
+/// What stands behind the handles of pens, brushes, fonts and bitmaps.
 #pragma once
 
 #include <windows.h>
 
+#include <array>
 #include <atomic>
 #include <cstdint>
 #include <memory>
@@ -35,7 +36,6 @@ struct Brush : Object {
     static constexpr base::HandleKind kKind = base::HandleKind::Brush;
     UINT style = BS_SOLID;
     COLORREF colour = 0;
-    ULONG_PTR hatch = 0;
     int width = 0;  ///< of the pattern
     int height = 0;
     bool monochrome = false;                  ///< the pattern holds 0 and 1, else colours
@@ -48,6 +48,14 @@ struct Font : Object {
     bool doomed = false;  ///< deleted by whoever lets go of it last
     std::atomic<RealizedFont*> realized{nullptr};  ///< found on first use; lives as long as the process
 };
+
+/// @returns which bits of a pixel are red's, green's and blue's: of 32, or of 16, six or five of them green's.
+constexpr std::array<DWORD, 3> Masks(int bitsPerPixel, bool sixGreen) {
+    if (bitsPerPixel == 32) {
+        return {0xFF0000, 0x00FF00, 0x0000FF};
+    }
+    return sixGreen ? std::array<DWORD, 3>{0xF800, 0x07E0, 0x001F} : std::array<DWORD, 3>{0x7C00, 0x03E0, 0x001F};
+}
 
 struct Bitmap : Object {
     static constexpr base::HandleKind kKind = base::HandleKind::Bitmap;
@@ -64,17 +72,11 @@ struct Bitmap : Object {
     std::unique_ptr<std::uint32_t[]> palette;
     int paletteSize = 0;
     DeviceContext* context = nullptr;  ///< the one context that it is selected into
-    SIZE dimension{};
 
     Surface View() const;
     std::size_t Bytes() const {
         return rowBytes * static_cast<std::size_t>(height);
     }
-};
-
-struct RegionObject : Object {
-    static constexpr base::HandleKind kKind = base::HandleKind::Region;
-    Region region;
 };
 
 /// @returns the object of a handle; null, with ERROR_INVALID_HANDLE set, when it is stale or of another kind.
@@ -114,6 +116,8 @@ struct StockObjects {
 };
 const StockObjects& Stock();
 
+/// Makes a brush of a bitmap's pixels; those of a monochrome one take the context's text and background colours.
+HBRUSH MakePatternBrush(HBITMAP bitmap);
 /// Makes a brush that counts as a stock object; its colour follows a system colour.
 HBRUSH MakeStockBrush(COLORREF colour);
 /// Changes the colour of such a brush.

@@ -1,11 +1,9 @@
 // Making pens and brushes.
 #include "gdi/context/objects.h"
 
-using namespace platform::gdi;
+namespace platform::gdi {
 
-namespace {
-
-HBRUSH PatternBrush(HBITMAP pattern) {
+HBRUSH MakePatternBrush(HBITMAP pattern) {
     const auto* bitmap = FindObject<Bitmap>(pattern);
     if (!bitmap) {
         return nullptr;
@@ -16,7 +14,6 @@ HBRUSH PatternBrush(HBITMAP pattern) {
     }
     const Surface surface = bitmap->View();
     brush->style = BS_PATTERN;
-    brush->hatch = reinterpret_cast<ULONG_PTR>(pattern);
     brush->width = surface.width;
     brush->height = surface.height;
     brush->monochrome = surface.monochrome;
@@ -37,7 +34,9 @@ HBRUSH PatternBrush(HBITMAP pattern) {
     return FileObject<HBRUSH>(std::move(brush));
 }
 
-}  // namespace
+}  // namespace platform::gdi
+
+using namespace platform::gdi;
 
 HPEN WINAPI CreatePen(int style, int width, COLORREF colour) {
     auto pen = NewObject<Pen>();
@@ -49,41 +48,10 @@ HPEN WINAPI CreatePen(int style, int width, COLORREF colour) {
     return FileObject<HPEN>(std::move(pen));
 }
 
-HPEN WINAPI CreatePenIndirect(const LOGPEN* pen) {
-    return pen ? CreatePen(static_cast<int>(pen->lopnStyle), pen->lopnWidth.x, pen->lopnColor) : nullptr;
-}
-
 HBRUSH WINAPI CreateSolidBrush(COLORREF colour) {
-    const LOGBRUSH logical{BS_SOLID, colour, 0};
-    return CreateBrushIndirect(&logical);
-}
-
-HBRUSH WINAPI CreateHatchBrush(int hatch, COLORREF colour) {
-    const LOGBRUSH logical{BS_HATCHED, colour, static_cast<ULONG_PTR>(hatch)};
-    return CreateBrushIndirect(&logical);
-}
-
-HBRUSH WINAPI CreatePatternBrush(HBITMAP bitmap) {
-    return PatternBrush(bitmap);
-}
-
-HBRUSH WINAPI CreateBrushIndirect(const LOGBRUSH* logical) {
-    if (!logical) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return nullptr;
-    }
-    if (logical->lbStyle == BS_PATTERN) {
-        return PatternBrush(reinterpret_cast<HBITMAP>(logical->lbHatch));
-    }
-    if (logical->lbStyle > BS_HATCHED || (logical->lbStyle == BS_HATCHED && logical->lbHatch > HS_DIAGCROSS)) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return nullptr;
-    }
     auto brush = NewObject<Brush>();
     if (brush) {
-        brush->style = logical->lbStyle;
-        brush->colour = logical->lbColor & 0x00FFFFFF;
-        brush->hatch = logical->lbStyle == BS_HATCHED ? logical->lbHatch : 0;
+        brush->colour = colour & 0x00FFFFFF;
     }
     return FileObject<HBRUSH>(std::move(brush));
 }

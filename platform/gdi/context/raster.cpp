@@ -41,15 +41,11 @@ int Wrapped(int value, int size) {
     return rest < 0 ? rest + size : rest;
 }
 
-void ReadTile(const Ink& ink, int x, int y, int count, std::uint32_t* out, std::uint8_t* holes) {
+void ReadTile(const Ink& ink, int x, int y, int count, std::uint32_t* out) {
     const int row = Wrapped(y - ink.origin.y, ink.height) * ink.width;
     int column = Wrapped(x - ink.origin.x, ink.width);
     for (int i = 0; i < count; ++i) {
-        const auto at = static_cast<std::size_t>(row + column);
-        out[i] = ink.tile[at];
-        if (holes) {
-            holes[i] = ink.holes[at];
-        }
+        out[i] = ink.tile[static_cast<std::size_t>(row + column)];
         if (++column == ink.width) {
             column = 0;
         }
@@ -99,13 +95,11 @@ void CombineRect(const Surface& surface, const RECT& rect, Operation operation, 
     const Mixer mix(operation);
     const bool needsSource = source && UsesSource(operation);
     const bool tiled = ink && ink->width > 0 && UsesPattern(operation);
-    const bool holed = tiled && !ink->holes.empty();
-    const bool needsDestination = UsesDestination(operation) || holed;
+    const bool needsDestination = UsesDestination(operation);
     const std::uint32_t mask = surface.Mask();
     std::array<std::uint32_t, kChunk> patterns;
     std::array<std::uint32_t, kChunk> sources;
     std::array<std::uint32_t, kChunk> values;
-    std::array<std::uint8_t, kChunk> holes;
     patterns.fill(ink ? ink->colour : 0);
     sources.fill(0);
     values.fill(0);
@@ -113,7 +107,7 @@ void CombineRect(const Surface& surface, const RECT& rect, Operation operation, 
         for (int x = rect.left; x < rect.right; x += kChunk) {
             const int count = std::min(kChunk, static_cast<int>(rect.right) - x);
             if (tiled) {
-                ReadTile(*ink, x, y, count, patterns.data(), holed ? holes.data() : nullptr);
+                ReadTile(*ink, x, y, count, patterns.data());
             }
             if (needsSource) {
                 source->Read(x, y, count, sources.data());
@@ -122,8 +116,7 @@ void CombineRect(const Surface& surface, const RECT& rect, Operation operation, 
                 ReadRow(surface, x, y, count, values.data());
             }
             for (std::size_t i = 0; i < static_cast<std::size_t>(count); ++i) {
-                const std::uint32_t value = mix(patterns[i], sources[i], values[i]) & mask;
-                values[i] = holed && holes[i] ? values[i] : value;
+                values[i] = mix(patterns[i], sources[i], values[i]) & mask;
             }
             WriteRow(surface, x, y, count, values.data());
         }
@@ -153,15 +146,6 @@ void Combine(DeviceContext& context, const Region& area, Operation operation, co
     }
     if (!inside.Empty()) {
         context.Drawn(inside.Bounds());
-    }
-}
-
-void CombinePixel(const Surface& surface, int x, int y, Operation operation, std::uint32_t ink) {
-    if (operation == kCopyPattern) {
-        WritePixel(surface, x, y, ink);
-    } else {
-        const std::uint32_t value = ReadPixel(surface, x, y);
-        WritePixel(surface, x, y, Mixer(operation)(ink, 0, value) & surface.Mask());
     }
 }
 

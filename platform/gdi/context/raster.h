@@ -31,13 +31,6 @@ constexpr bool UsesSource(Operation operation) {
 constexpr bool UsesDestination(Operation operation) {
     return ((operation >> 1 ^ operation) & 0x55) != 0;
 }
-/// A binary mode (R2_...) mixes the pen, which stands in the pattern's place, with the destination.
-constexpr Operation OperationOfMode(int rop2) {
-    const int table = rop2 - 1;
-    const int low = table & 3;
-    const int high = table >> 2 & 3;
-    return static_cast<Operation>(low | low << 2 | high << 4 | high << 6);
-}
 
 /// What a brush or pen lays down on one surface, in its native values.
 struct Ink {
@@ -47,7 +40,6 @@ struct Ink {
     int height = 0;
     POINT origin{};  ///< of the tile, surface coordinates
     std::vector<std::uint32_t> tile;
-    std::vector<std::uint8_t> holes;  ///< tile pixels that are left alone (1); empty for none
 };
 Ink InkOf(const DeviceContext& context, const Brush& brush);
 Ink PlainInk(const DeviceContext& context, COLORREF colour);
@@ -67,8 +59,5 @@ void CombineRect(const Surface& surface, const RECT& rect, Operation operation, 
 void Combine(DeviceContext& context, const RECT& area, Operation operation, const Ink* ink,
              RowSource* source = nullptr);
 void Combine(DeviceContext& context, const Region& area, Operation operation, const Ink* ink);
-
-/// Mixes one pixel inside the drawable area. @returns its new native value.
-void CombinePixel(const Surface& surface, int x, int y, Operation operation, std::uint32_t ink);
 
 }  // namespace platform::gdi

@@ -58,33 +58,6 @@ void Layer(SystemPainter& painter, RECT& rect, const Bevel& bevel, UINT flags) {
     rect.bottom -= flags & BF_BOTTOM ? 1 : 0;
 }
 
-/// A bevel along the diagonal that ends in the corner that the flags name, as wide as its lines.
-void Diagonal(SystemPainter& painter, const RECT& rect, UINT edge, UINT flags) {
-    const bool rising = ((flags & BF_TOP) != 0) == ((flags & BF_RIGHT) != 0);
-    const int width = rect.right - rect.left;
-    const int height = rect.bottom - rect.top;
-    const int steps = std::max(width, height);
-    const bool ends = (flags & BF_BOTTOM) != 0;
-    const auto line = [&](const Bevel& bevel, int shift) {
-        const int colour = ends ? bevel.bottomRight : bevel.topLeft;
-        for (int i = 0; i < steps; ++i) {
-            const int x = rect.left + (steps > 1 ? i * (width - 1) / (steps - 1) : 0);
-            const int down = steps > 1 ? i * (height - 1) / (steps - 1) : 0;
-            const int y = (rising ? rect.bottom - 1 - down : rect.top + down) + shift;
-            if (y < rect.bottom) {
-                painter.Fill(x, y, x + 1, y + 1, colour);
-            }
-        }
-    };
-    int shift = 0;
-    if (edge & BDR_OUTER) {
-        line(OuterBevel(edge, flags), shift++);
-    }
-    if (edge & BDR_INNER) {
-        line(InnerBevel(edge, flags), shift);
-    }
-}
-
 }  // namespace
 
 void SystemPainter::Dither(const RECT& rect, int first, int second) {
@@ -100,10 +73,6 @@ void SystemPainter::Dither(const RECT& rect, int first, int second) {
 bool PaintEdge(SystemPainter& painter, RECT& rect, UINT edge, UINT flags) {
     if ((edge & BDR_OUTER) == BDR_OUTER || (edge & BDR_INNER) == BDR_INNER) {
         return false;
-    }
-    if (flags & BF_DIAGONAL) {
-        Diagonal(painter, rect, edge, flags);
-        return true;
     }
     RECT inside = rect;
     if (edge & BDR_OUTER) {

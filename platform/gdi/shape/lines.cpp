@@ -36,7 +36,6 @@ Stroke::Stroke(DeviceContext& context) : context_(context) {
     none_ = pen.style == PS_NULL;
     width_ = std::max(pen.width, 1);
     ink_ = PlainInk(context, pen.colour);
-    operation_ = OperationOfMode(context.state.rop2);
     // A dashed pen is one pixel wide, or it is solid.
     if (width_ == 1 && pen.style >= PS_DASH && pen.style <= PS_DASHDOTDOT) {
         const Dashes dashes = DashesOf(pen.style);
@@ -58,7 +57,7 @@ void Stroke::Line(POINT from, POINT to) {
         return;
     }
     if (width_ > 1) {
-        Combine(context_, StrokeArea(from, to, width_), operation_, &ink_);
+        Combine(context_, StrokeArea(from, to, width_), kCopyPattern, &ink_);
     } else if (!dashed_ && (from.x == to.x || from.y == to.y)) {
         // The end point stays out, whichever end it is.
         RECT rect{std::min(from.x, to.x), std::min(from.y, to.y), std::max(from.x, to.x), std::max(from.y, to.y)};
@@ -71,7 +70,7 @@ void Stroke::Line(POINT from, POINT to) {
             rect.bottom += from.y > to.y;
             rect.right = rect.left + 1;
         }
-        Combine(context_, rect, operation_, &ink_);
+        Combine(context_, rect, kCopyPattern, &ink_);
     } else {
         Thin(from, to);
     }
@@ -108,7 +107,7 @@ void Stroke::Thin(POINT from, POINT to) {
         const bool inside = at.x >= bounds.left && at.x < bounds.right && at.y >= bounds.top && at.y < bounds.bottom;
         const bool drawn = !dashed_ || pattern_[static_cast<std::size_t>(phase_)];
         if (inside && (drawn || gaps_) && (simple || drawable.Contains(at))) {
-            CombinePixel(context_.surface, at.x, at.y, operation_, drawn ? ink_.colour : gapInk_.colour);
+            WritePixel(context_.surface, at.x, at.y, drawn ? ink_.colour : gapInk_.colour);
         }
         if (dashed_ && ++phase_ == period_) {
             phase_ = 0;
@@ -154,51 +153,15 @@ BOOL WINAPI MoveToEx(HDC handle, int x, int y, LPPOINT previous) {
     return TRUE;
 }
 
-BOOL WINAPI GetCurrentPositionEx(HDC handle, LPPOINT point) {
-    const auto* context = FindObject<DeviceContext>(handle);
-    if (!context || !point) {
-        return FALSE;
-    }
-    *point = context->state.position;
-    return TRUE;
-}
-
 BOOL WINAPI LineTo(HDC handle, int x, int y) {
-    const POINT end{x, y};
-    return PolylineTo(handle, &end, 1);
-}
-
-BOOL WINAPI Polyline(HDC handle, const POINT* points, int count) {
     const Drawing drawing(handle);
     if (!drawing) {
         return FALSE;
     }
-    if (!points || count < 2) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return FALSE;
-    }
     return Guarded(FALSE, [&] {
-        Stroke stroke(*drawing);
-        for (int i = 1; i < count; ++i) {
-            stroke.Line(drawing->ToSurface(points[i - 1].x, points[i - 1].y),
-                        drawing->ToSurface(points[i].x, points[i].y));
-        }
-        return TRUE;
-    });
-}
-
-BOOL WINAPI PolylineTo(HDC handle, const POINT* points, DWORD count) {
-    const Drawing drawing(handle);
-    if (!drawing || (!points && count)) {
-        return FALSE;
-    }
-    return Guarded(FALSE, [&] {
-        Stroke stroke(*drawing);
         POINT& position = drawing->state.position;
-        for (DWORD i = 0; i < count; ++i) {
-            stroke.Line(drawing->ToSurface(position.x, position.y), drawing->ToSurface(points[i].x, points[i].y));
-            position = points[i];
-        }
+        Stroke(*drawing).Line(drawing->ToSurface(position.x, position.y), drawing->ToSurface(x, y));
+        position = {x, y};
         return TRUE;
     });
 }
@@ -228,8 +191,4 @@ COLORREF WINAPI SetPixel(HDC handle, int x, int y, COLORREF colour) {
     WritePixel(drawing->surface, at.x, at.y, value);
     drawing->Drawn({at.x, at.y, at.x + 1, at.y + 1});
     return ColourOf(ShownColour(drawing->surface, value));
-}
-
-BOOL WINAPI SetPixelV(HDC handle, int x, int y, COLORREF colour) {
-    return SetPixel(handle, x, y, colour) != CLR_INVALID;
 }

@@ -8,7 +8,7 @@
 
 namespace platform::gdi {
 
-/// Draws connected lines with the pen, raster mode and background of a context; dashes run on from line to line. A line
+/// Draws connected lines with the pen and background of a context; dashes run on from line to line. A line
 /// excludes its end point.
 class Stroke {
   public:
@@ -24,9 +24,6 @@ class Stroke {
     bool Dashed() const {
         return dashed_;
     }
-    Operation Mix() const {
-        return operation_;
-    }
     const Ink& PenInk() const {
         return ink_;
     }
@@ -37,7 +34,6 @@ class Stroke {
     DeviceContext& context_;
     Ink ink_;
     Ink gapInk_;
-    Operation operation_ = kCopyPattern;
     int width_ = 1;
     bool none_ = false;
     bool dashed_ = false;

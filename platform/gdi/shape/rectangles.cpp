@@ -90,42 +90,6 @@ BOOL WINAPI UnionRect(LPRECT rect, const RECT* first, const RECT* second) {
     return TRUE;
 }
 
-BOOL WINAPI SubtractRect(LPRECT rect, const RECT* first, const RECT* second) {
-    if (!rect || !first || !second) {
-        return FALSE;
-    }
-    RECT rest = *first;
-    RECT common;
-    if (Empty(rest)) {
-        SetRectEmpty(rect);
-        return FALSE;
-    }
-    if (IntersectRect(&common, first, second)) {
-        // Only a cut that leaves a rectangle is made.
-        const bool full = common.top <= rest.top && common.bottom >= rest.bottom;
-        const bool wide = common.left <= rest.left && common.right >= rest.right;
-        if (full && wide) {
-            SetRectEmpty(rect);
-            return FALSE;
-        }
-        if (full) {
-            if (common.left <= rest.left) {
-                rest.left = common.right;
-            } else if (common.right >= rest.right) {
-                rest.right = common.left;
-            }
-        } else if (wide) {
-            if (common.top <= rest.top) {
-                rest.top = common.bottom;
-            } else if (common.bottom >= rest.bottom) {
-                rest.bottom = common.top;
-            }
-        }
-    }
-    *rect = rest;
-    return TRUE;
-}
-
 BOOL WINAPI PtInRect(const RECT* rect, POINT point) {
     return rect && point.x >= rect->left && point.x < rect->right && point.y >= rect->top && point.y < rect->bottom;
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 #include <vector>
 
 namespace platform::gdi {
@@ -15,51 +16,14 @@ double HalfWidth(double width, double height, int row) {
     return rest <= 0 ? 0 : width / 2 * std::sqrt(rest);
 }
 
-struct Edge {
-    double x;  ///< at the row's middle
-    int direction;
-};
-
-}  // namespace
-
-Region EllipseArea(const RECT& rect) {
-    return RoundRectArea(rect, rect.right - rect.left, rect.bottom - rect.top);
-}
-
-Region RoundRectArea(const RECT& rect, int width, int height) {
-    const int w = rect.right - rect.left;
-    const int h = rect.bottom - rect.top;
-    width = std::min(std::abs(width), w);
-    height = std::min(std::abs(height), h);
-    if (w <= 0 || h <= 0 || width < 2 || height < 2) {
-        return Region(rect);
-    }
-    std::vector<RECT> rows;
-    const int corner = height / 2;
-    for (int y = 0; y < h; ++y) {
-        // The rows between the corners are full; the lower corner mirrors the upper one.
-        const int row = y < corner ? y : y >= h - corner ? h - 1 - y : -1;
-        int inset = 0;
-        if (row >= 0) {
-            inset = static_cast<int>(std::lround(width / 2.0 - HalfWidth(width, height, row)));
-        }
-        if (2 * inset < w) {
-            rows.push_back({rect.left + inset, rect.top + y, rect.right - inset, rect.top + y + 1});
-        }
-    }
-    return Region(std::span<const RECT>(rows));
-}
-
-Region PolygonArea(std::span<const POINT> points, bool winding) {
-    if (points.size() < 2) {
-        return {};
-    }
+/// A closed polygon that does not cross itself.
+Region PolygonArea(std::span<const POINT> points) {
     const auto [lowest, highest] =
         std::minmax_element(points.begin(), points.end(), [](const POINT& a, const POINT& b) { return a.y < b.y; });
     const int top = std::max<int>(lowest->y, -(1 << 20));
     const int bottom = std::min<int>(highest->y, 1 << 20);
     std::vector<RECT> rows;
-    std::vector<Edge> edges;
+    std::vector<double> edges;  // x at the row's middle
     for (int y = top; y < bottom; ++y) {
         edges.clear();
         // Pixel centres lie on the grid points: a row includes its upper edge and excludes its lower one.
@@ -68,20 +32,37 @@ Region PolygonArea(std::span<const POINT> points, bool winding) {
             const POINT& b = points[(i + 1) % points.size()];
             if (a.y != b.y && y >= std::min(a.y, b.y) && y < std::max(a.y, b.y)) {
                 const double t = (static_cast<double>(y) - a.y) / (static_cast<double>(b.y) - a.y);
-                edges.push_back({a.x + t * (static_cast<double>(b.x) - a.x), a.y < b.y ? 1 : -1});
+                edges.push_back(a.x + t * (static_cast<double>(b.x) - a.x));
             }
         }
-        std::sort(edges.begin(), edges.end(), [](const Edge& a, const Edge& b) { return a.x < b.x; });
-        int wound = 0;
-        for (std::size_t i = 0; i + 1 < edges.size(); ++i) {
-            wound += winding ? edges[i].direction : i % 2 == 0 ? 1 : -1;
-            if (wound != 0) {
-                const int left = static_cast<int>(std::ceil(edges[i].x));
-                const int right = static_cast<int>(std::ceil(edges[i + 1].x));
-                if (left < right) {
-                    rows.push_back({left, y, right, y + 1});
-                }
+        std::sort(edges.begin(), edges.end());
+        for (std::size_t i = 0; i + 1 < edges.size(); i += 2) {
+            const int left = static_cast<int>(std::ceil(edges[i]));
+            const int right = static_cast<int>(std::ceil(edges[i + 1]));
+            if (left < right) {
+                rows.push_back({left, y, right, y + 1});
             }
+        }
+    }
+    return Region(std::span<const RECT>(rows));
+}
+
+}  // namespace
+
+Region EllipseArea(const RECT& rect) {
+    const int width = rect.right - rect.left;
+    const int height = rect.bottom - rect.top;
+    if (width < 2 || height < 2) {
+        return Region(rect);
+    }
+    std::vector<RECT> rows;
+    for (int y = 0; y < height; ++y) {
+        // The lower half mirrors the upper one.
+        const int row = std::min(y, height - 1 - y);
+        const bool middle = 2 * row + 1 == height;
+        const int inset = middle ? 0 : static_cast<int>(std::lround(width / 2.0 - HalfWidth(width, height, row)));
+        if (2 * inset < width) {
+            rows.push_back({rect.left + inset, rect.top + y, rect.right - inset, rect.top + y + 1});
         }
     }
     return Region(std::span<const RECT>(rows));
@@ -115,7 +96,7 @@ Region StrokeArea(POINT from, POINT to, int width) {
     };
     const POINT body[4] = {corner(from.x + nx, from.y + ny), corner(to.x + nx, to.y + ny), corner(to.x - nx, to.y - ny),
                            corner(from.x - nx, from.y - ny)};
-    area.Union(PolygonArea(body, false));
+    area.Union(PolygonArea(body));
     return area;
 }
 

@@ -4,18 +4,12 @@
 
 #include <windef.h>
 
-#include <span>
-
 #include "gdi/surface/region.h"
 
 namespace platform::gdi {
 
 /// The ellipse that touches the sides of a rectangle (right and bottom excluded).
 Region EllipseArea(const RECT& rect);
-/// A rectangle whose corners are quarters of an ellipse `width` by `height`.
-Region RoundRectArea(const RECT& rect, int width, int height);
-/// A closed polygon, by the alternate or the winding rule.
-Region PolygonArea(std::span<const POINT> points, bool winding);
 /// The stroke of a line `width` pixels wide with round ends.
 Region StrokeArea(POINT from, POINT to, int width);
 /// What is left of an area when `steps` layers of border pixels are taken off (neighbours left, right, above and

@@ -21,9 +21,6 @@ class SystemPainter {
     }
     /// Every other pixel in either colour.
     void Dither(const RECT& rect, int first, int second);
-    DeviceContext& Context() {
-        return context_;
-    }
 
   private:
     DeviceContext& context_;

@@ -132,20 +132,4 @@ void CopyScreenArea(const RECT& from, POINT to, const Region& clip) {
     });
 }
 
-void InvertScreen(const Region& area) {
-    const ScreenGuard guard(ScreenLock());
-    const ScreenView view = Screen();
-    Region inside(area);
-    inside.Intersect(ScreenRect());
-    for (const RECT& rect : inside.Rects()) {
-        for (int y = rect.top; y < rect.bottom; ++y) {
-            std::uint32_t* row = view.pixels + static_cast<std::ptrdiff_t>(y) * view.stride;
-            for (int x = rect.left; x < rect.right; ++x) {
-                row[x] ^= 0x00FFFFFF;
-            }
-        }
-        MarkDirty(rect);
-    }
-}
-
 }  // namespace platform::gdi

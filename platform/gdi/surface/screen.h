@@ -44,7 +44,4 @@ void SetDirtyHook(void (*hook)());
 /// screen coordinates). Overlap is fine. Takes the lock.
 void CopyScreenArea(const RECT& from, POINT to, const Region& clip);
 
-/// Inverts pixels; twice restores them. Takes the lock.
-void InvertScreen(const Region& area);
-
 }  // namespace platform::gdi

@@ -27,9 +27,6 @@ class Layout {
     int LineHeight() const {
         return lineHeight_;
     }
-    int AverageWidth() const {
-        return font_.Metrics().averageWidth;
-    }
 
     /// Takes the next line off the text: up to a line break, or to the last blank before `limit` where words wrap.
     TextLine Next(const char* at, const char* end, int limit) const {
@@ -103,9 +100,9 @@ class Layout {
     }
 
     /// Cuts a line that is too long, and says so with dots.
-    bool Shorten(TextLine& line, int limit) const {
+    void Shorten(TextLine& line, int limit) const {
         if (line.width <= limit || !(format_ & (DT_END_ELLIPSIS | DT_PATH_ELLIPSIS | DT_WORD_ELLIPSIS))) {
-            return false;
+            return;
         }
         static constexpr char kDots[] = "...";
         const int dots = TextWidth(context_, kDots, 3);
@@ -128,7 +125,6 @@ class Layout {
         if (line.underline >= static_cast<int>(line.text.size())) {
             line.underline = -1;
         }
-        return true;
     }
 
     void Draw(const TextLine& line, int x, int y, const RECT* clip) const {
@@ -176,9 +172,8 @@ class Layout {
             return (from / tab_ + 1) * tab_ - from;
         }
         const CodePage& page = CurrentCodePage();
-        const char16_t character =
-            bytes == 2 ? DoubleByte(page, at[0], at[1]) : page.single[static_cast<unsigned char>(*at)];
-        return font_.Get(character).advance + context_.state.characterExtra;
+        const char16_t character = bytes == 2 ? DoubleByte(at[0], at[1]) : page.single[static_cast<unsigned char>(*at)];
+        return font_.Get(character).advance;
     }
 
     std::size_t Fitting(const std::string& text, int room) const {
@@ -218,23 +213,13 @@ class Layout {
     int lineHeight_;
 };
 
-struct Drawn {
-    int height = 0;
-    UINT characters = 0;
-    std::string shortened;  ///< what DT_MODIFYSTRING puts back
-    bool wasShortened = false;
-};
-
-Drawn Run(HDC handle, DeviceContext& context, const char* text, int length, RECT& rect, UINT format, int tabCharacters,
-          const DRAWTEXTPARAMS* params) {
+/// @returns the height of what was drawn.
+int Run(HDC handle, DeviceContext& context, const char* text, int length, RECT& rect, UINT format, int tabCharacters) {
     const Layout layout(handle, context, format, tabCharacters);
     const bool measuring = format & DT_CALCRECT;
     const bool single = format & DT_SINGLELINE;
     const bool unclipped = (format & DT_NOCLIP) || measuring;
-    Drawn drawn;
-    const int leftMargin = params ? params->iLeftMargin : 0;
-    const int rightMargin = params ? params->iRightMargin : 0;
-    const int limit = rect.right - rect.left - leftMargin - rightMargin;
+    const int limit = rect.right - rect.left;
     const char* at = text;
     const char* end = text + length;
     int y = rect.top;
@@ -249,13 +234,12 @@ Drawn Run(HDC handle, DeviceContext& context, const char* text, int length, RECT
         TextLine line = layout.Next(at, end, std::max(limit, 0));
         const bool last = line.next >= end;
         at = line.next;
-        if ((last || format & DT_WORD_ELLIPSIS) && layout.Shorten(line, limit)) {
-            drawn.shortened = line.text;
-            drawn.wasShortened = true;
+        if (last || format & DT_WORD_ELLIPSIS) {
+            layout.Shorten(line, limit);
         }
         widest = std::max(widest, line.width);
         if (!measuring) {
-            int x = rect.left + leftMargin;
+            int x = rect.left;
             if (format & DT_CENTER) {
                 x += (limit - line.width) / 2;
             } else if (format & DT_RIGHT) {
@@ -264,7 +248,6 @@ Drawn Run(HDC handle, DeviceContext& context, const char* text, int length, RECT
             layout.Draw(line, x, y, unclipped ? nullptr : &rect);
         }
         y += layout.LineHeight();
-        drawn.characters = static_cast<UINT>(at - text);
         const bool below = format & DT_EDITCONTROL ? y + layout.LineHeight() > rect.bottom : y >= rect.bottom;
         if (!unclipped && below) {
             break;
@@ -274,18 +257,18 @@ Drawn Run(HDC handle, DeviceContext& context, const char* text, int length, RECT
             break;
         }
     }
-    drawn.height = y - first;
     if (measuring) {
-        rect.right = rect.left + widest + leftMargin + rightMargin;
-        rect.bottom = rect.top + drawn.height;
+        rect.right = rect.left + widest;
+        rect.bottom = rect.top + y - first;
     } else if (single && format & (DT_VCENTER | DT_BOTTOM)) {
-        drawn.height = y - rect.top;
+        return y - rect.top;
     }
-    return drawn;
+    return y - first;
 }
 
-int DrawTextIn(HDC handle, const char* text, int length, RECT* rect, UINT format, DRAWTEXTPARAMS* params,
-               char* writable) {
+}  // namespace
+
+int WINAPI DrawTextA(HDC handle, LPCSTR text, int length, LPRECT rect, UINT format) {
     const Drawing drawing(handle);
     if (!drawing || !text || !rect || length < -1) {
         return 0;
@@ -295,13 +278,9 @@ int DrawTextIn(HDC handle, const char* text, int length, RECT* rect, UINT format
     }
     int tabCharacters = 8;
     if (format & DT_TABSTOP) {
-        // Without parameters the tab width travels in the second byte of the format, in the place of other flags.
-        if (params) {
-            tabCharacters = params->iTabLength;
-        } else {
-            tabCharacters = static_cast<int>(format >> 8 & 0xFF);
-            format &= ~0x0000FF00u;
-        }
+        // The tab width travels in the second byte of the format, in the place of other flags.
+        tabCharacters = static_cast<int>(format >> 8 & 0xFF);
+        format &= ~0x0000FF00u;
     }
     return Guarded(0, [&] {
         if (length == 0) {
@@ -310,33 +289,8 @@ int DrawTextIn(HDC handle, const char* text, int length, RECT* rect, UINT format
                 rect->right = rect->left;
                 rect->bottom = rect->top + (format & DT_SINGLELINE ? layout.LineHeight() : 0);
             }
-            if (params) {
-                params->uiLengthDrawn = 0;
-            }
             return layout.LineHeight();
         }
-        const Drawn drawn = Run(handle, *drawing, text, length, *rect, format, tabCharacters, params);
-        if (params) {
-            params->uiLengthDrawn = drawn.characters;
-        }
-        if (writable && format & DT_MODIFYSTRING && drawn.wasShortened) {
-            // The caller leaves room for four more characters.
-            std::memcpy(writable, drawn.shortened.c_str(), drawn.shortened.size() + 1);
-        }
-        return drawn.height;
+        return Run(handle, *drawing, text, length, *rect, format, tabCharacters);
     });
-}
-
-}  // namespace
-
-int WINAPI DrawTextA(HDC context, LPCSTR text, int length, LPRECT rect, UINT format) {
-    return DrawTextIn(context, text, length, rect, format & ~UINT{DT_MODIFYSTRING}, nullptr, nullptr);
-}
-
-int WINAPI DrawTextExA(HDC context, LPSTR text, int length, LPRECT rect, UINT format, LPDRAWTEXTPARAMS params) {
-    if (params && params->cbSize != sizeof(DRAWTEXTPARAMS)) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return 0;
-    }
-    return DrawTextIn(context, text, length, rect, format, params, text);
 }

@@ -74,24 +74,3 @@ BOOL WINAPI GetTextMetricsA(HDC handle, LPTEXTMETRICA metrics) {
         return TRUE;
     });
 }
-
-int WINAPI GetTextFaceA(HDC handle, int size, LPSTR name) {
-    auto* context = FindObject<DeviceContext>(handle);
-    if (!context) {
-        return 0;
-    }
-    return Guarded(0, [&] {
-        const std::string& own = Realize(*context->state.font).Metrics().name;
-        if (!name) {
-            return static_cast<int>(own.size()) + 1;
-        }
-        if (size <= 0) {
-            SetLastError(ERROR_INVALID_PARAMETER);
-            return 0;
-        }
-        const std::size_t copied = std::min(own.size(), static_cast<std::size_t>(size) - 1);
-        std::memcpy(name, own.data(), copied);
-        name[copied] = 0;
-        return static_cast<int>(copied);
-    });
-}

@@ -8,51 +8,27 @@
 namespace platform::gdi {
 
 const CodePage& CurrentCodePage() {
-    static std::atomic<const CodePage*> current{nullptr};
-    const UINT number = GetACP();
-    const CodePage* page = current.load(std::memory_order_acquire);
-    if (page && page->number == number) {
-        return *page;
-    }
-    // An older table may still be in use by another thread; there is one a code page ever chosen, so they stay.
-    auto* made = new CodePage;
-    made->number = number;
-    for (unsigned i = 0; i < 256; ++i) {
-        made->lead[i] = IsDBCSLeadByteEx(number, static_cast<BYTE>(i));
-        const char byte = static_cast<char>(i);
-        WCHAR wide[4] = {};
-        made->single[i] = MultiByteToWideChar(number, 0, &byte, 1, wide, 4) == 1 ? wide[0] : static_cast<char16_t>(i);
-    }
-    current.store(made, std::memory_order_release);
-    return *made;
+    static const CodePage page = [] {
+        CodePage made;
+        for (unsigned i = 0; i < 256; ++i) {
+            made.lead[i] = IsDBCSLeadByte(static_cast<BYTE>(i));
+            const char byte = static_cast<char>(i);
+            WCHAR wide[4] = {};
+            made.single[i] =
+                MultiByteToWideChar(CP_ACP, 0, &byte, 1, wide, 4) == 1 ? wide[0] : static_cast<char16_t>(i);
+        }
+        return made;
+    }();
+    return page;
 }
 
-char16_t DoubleByte(const CodePage& page, char lead, char trail) {
+char16_t DoubleByte(char lead, char trail) {
     const char bytes[2] = {lead, trail};
     WCHAR wide[4] = {};
-    return MultiByteToWideChar(page.number, 0, bytes, 2, wide, 4) >= 1 ? wide[0] : u'?';
+    return MultiByteToWideChar(CP_ACP, 0, bytes, 2, wide, 4) >= 1 ? wide[0] : u'?';
 }
 
 namespace {
-
-/// Hands out the extra room that SetTextJustification asked for, blank by blank.
-class Spacing {
-  public:
-    explicit Spacing(const DrawState& state) : state_(state) {}
-    int After(char16_t character) {
-        int extra = state_.characterExtra;
-        if (character == u' ' && state_.breakCount > 0) {
-            const int before = given_ * state_.breakExtra / state_.breakCount;
-            ++given_;
-            extra += given_ * state_.breakExtra / state_.breakCount - before;
-        }
-        return extra;
-    }
-
-  private:
-    const DrawState& state_;
-    int given_ = 0;
-};
 
 struct Placed {
     const Glyph* glyph;
@@ -172,11 +148,8 @@ void DrawLine(DeviceContext& context, const Line& line, RealizedFont& font, cons
 
 int TextWidth(DeviceContext& context, const char* text, int length) {
     RealizedFont& font = Realize(*context.state.font);
-    Spacing spacing(context.state);
     int width = 0;
-    ForEachCharacter(text, length, [&](int, int, char16_t character) {
-        width += font.Get(character).advance + spacing.After(character);
-    });
+    ForEachCharacter(text, length, [&](int, int, char16_t character) { width += font.Get(character).advance; });
     return width;
 }
 
@@ -195,15 +168,9 @@ BOOL WINAPI ExtTextOutA(HDC handle, int x, int y, UINT options, const RECT* rect
         return FALSE;
     }
     return Guarded(FALSE, [&] {
-        DrawState& state = drawing->state;
+        const DrawState& state = drawing->state;
         RealizedFont& font = Realize(*state.font);
-        const UINT align = state.textAlign;
-        if (align & TA_UPDATECP) {
-            x = state.position.x;
-            y = state.position.y;
-        }
         Line line;
-        Spacing spacing(state);
         int width = 0;
         ForEachCharacter(text, static_cast<int>(length), [&](int index, int bytes, char16_t character) {
             const Glyph& glyph = font.Get(character);
@@ -211,27 +178,10 @@ BOOL WINAPI ExtTextOutA(HDC handle, int x, int y, UINT options, const RECT* rect
             if (widths) {
                 width += widths[index] + (bytes == 2 ? widths[index + 1] : 0);
             } else {
-                width += glyph.advance + spacing.After(character);
+                width += glyph.advance;
             }
         });
-        int left = x;
-        switch (align & TA_CENTER) {
-            case TA_CENTER:
-                left = x - width / 2;
-                break;
-            case TA_RIGHT:
-                left = x - width;
-                break;
-            default:
-                break;
-        }
-        int top = y;
-        if ((align & TA_BASELINE) == TA_BASELINE) {
-            top = y - font.Metrics().ascent;
-        } else if (align & TA_BOTTOM) {
-            top = y - font.Height();
-        }
-        const POINT at = drawing->ToSurface(left, top);
+        const POINT at = drawing->ToSurface(x, y);
         const RECT cell{at.x, at.y, at.x + width, at.y + font.Height()};
         const RECT area = rect ? drawing->ToSurface(*rect) : RECT{};
         const RECT* limit = rect && options & ETO_CLIPPED ? &area : nullptr;
@@ -251,18 +201,6 @@ BOOL WINAPI ExtTextOutA(HDC handle, int x, int y, UINT options, const RECT* rect
         if (length > 0) {
             DrawLine(*drawing, line, font, cell, limit);
         }
-        if (align & TA_UPDATECP) {
-            switch (align & TA_CENTER) {
-                case TA_CENTER:
-                    break;
-                case TA_RIGHT:
-                    state.position.x -= width;
-                    break;
-                default:
-                    state.position.x += width;
-                    break;
-            }
-        }
         return TRUE;
     });
 }
@@ -277,58 +215,4 @@ BOOL WINAPI GetTextExtentPoint32A(HDC handle, LPCSTR text, int length, LPSIZE si
         *size = length == 0 ? SIZE{} : SIZE{TextWidth(*context, text, length), Realize(*context->state.font).Height()};
         return TRUE;
     });
-}
-
-BOOL WINAPI GetTextExtentPointA(HDC context, LPCSTR text, int length, LPSIZE size) {
-    return GetTextExtentPoint32A(context, text, length, size);
-}
-
-BOOL WINAPI GetTextExtentExPointA(HDC handle, LPCSTR text, int length, int maximum, LPINT fit, LPINT widths,
-                                  LPSIZE size) {
-    auto* context = FindObject<DeviceContext>(handle);
-    if (!context || !size || length < 0 || (!text && length > 0) || (fit && maximum < -1)) {
-        return FALSE;
-    }
-    return Guarded(FALSE, [&] {
-        RealizedFont& font = Realize(*context->state.font);
-        Spacing spacing(context->state);
-        int width = 0;
-        int fitting = 0;
-        bool room = true;
-        ForEachCharacter(text, length, [&](int index, int bytes, char16_t character) {
-            width += font.Get(character).advance + spacing.After(character);
-            if (fit && width > maximum) {
-                room = false;
-            }
-            if (room) {
-                fitting = index + bytes;
-                for (int i = 0; widths && i < bytes; ++i) {
-                    widths[index + i] = width;
-                }
-            }
-        });
-        if (fit) {
-            *fit = fitting;
-        }
-        *size = {width, font.Height()};
-        return TRUE;
-    });
-}
-
-BOOL WINAPI GetCharWidth32A(HDC handle, UINT first, UINT last, LPINT widths) {
-    auto* context = FindObject<DeviceContext>(handle);
-    if (!context || !widths || first > last || last > 0xFF) {
-        return FALSE;
-    }
-    return Guarded(FALSE, [&] {
-        RealizedFont& font = Realize(*context->state.font);
-        for (UINT i = first; i <= last; ++i) {
-            widths[i - first] = font.Get(CurrentCodePage().single[i]).advance;
-        }
-        return TRUE;
-    });
-}
-
-BOOL WINAPI GetCharWidthA(HDC context, UINT first, UINT last, LPINT widths) {
-    return GetCharWidth32A(context, first, last, widths);
 }

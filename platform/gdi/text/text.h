@@ -11,15 +11,14 @@
 
 namespace platform::gdi {
 
-/// What the bytes of a code page stand for.
+/// What the bytes of the code page stand for.
 struct CodePage {
-    UINT number = 0;
     std::array<char16_t, 256> single{};
     std::array<bool, 256> lead{};
 };
 const CodePage& CurrentCodePage();
 /// @returns the character that a lead byte and the byte after it stand for.
-char16_t DoubleByte(const CodePage& page, char lead, char trail);
+char16_t DoubleByte(char lead, char trail);
 
 /// Calls visit(first byte's index, number of bytes, character) for each character.
 template <class Visit>
@@ -28,7 +27,7 @@ void ForEachCharacter(const char* text, int length, Visit&& visit) {
     for (int i = 0; i < length;) {
         const auto byte = static_cast<unsigned char>(text[i]);
         if (page.lead[byte] && i + 1 < length) {
-            visit(i, 2, DoubleByte(page, text[i], text[i + 1]));
+            visit(i, 2, DoubleByte(text[i], text[i + 1]));
             i += 2;
         } else {
             visit(i, 1, page.single[byte]);
@@ -37,7 +36,7 @@ void ForEachCharacter(const char* text, int length, Visit&& visit) {
     }
 }
 
-/// @returns the width of a text with the context's font and spacing.
+/// @returns the width of a text with the context's font.
 int TextWidth(DeviceContext& context, const char* text, int length);
 
 }  // namespace platform::gdi

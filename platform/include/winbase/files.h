@@ -7,19 +7,13 @@
 
 #define FILE_ATTRIBUTE_READONLY 0x00000001
 #define FILE_ATTRIBUTE_HIDDEN 0x00000002
-#define FILE_ATTRIBUTE_SYSTEM 0x00000004
 #define FILE_ATTRIBUTE_DIRECTORY 0x00000010
-#define FILE_ATTRIBUTE_ARCHIVE 0x00000020
 #define FILE_ATTRIBUTE_NORMAL 0x00000080
 #define INVALID_FILE_ATTRIBUTES ((DWORD)-1)
 
 #define DRIVE_UNKNOWN 0
 #define DRIVE_NO_ROOT_DIR 1
-#define DRIVE_REMOVABLE 2
 #define DRIVE_FIXED 3
-#define DRIVE_REMOTE 4
-#define DRIVE_CDROM 5
-#define DRIVE_RAMDISK 6
 
 typedef struct _WIN32_FIND_DATAA {
     DWORD dwFileAttributes;
@@ -40,19 +34,12 @@ WINBASEAPI BOOL WINAPI FindNextFileA(HANDLE search, LPWIN32_FIND_DATAA data);
 WINBASEAPI BOOL WINAPI FindClose(HANDLE search);
 WINBASEAPI DWORD WINAPI GetFileAttributesA(LPCSTR path);
 WINBASEAPI UINT WINAPI GetDriveTypeA(LPCSTR root);
-WINBASEAPI DWORD WINAPI GetLogicalDrives(void);
-WINBASEAPI DWORD WINAPI GetLogicalDriveStringsA(DWORD size, LPSTR buffer);
-WINBASEAPI DWORD WINAPI GetCurrentDirectoryA(DWORD size, LPSTR buffer);
-WINBASEAPI BOOL WINAPI SetCurrentDirectoryA(LPCSTR path);
 
 #ifndef CVPLATFORM_NO_GENERIC_NAMES
 #define FindFirstFile FindFirstFileA
 #define FindNextFile FindNextFileA
-#define GetCurrentDirectory GetCurrentDirectoryA
 #define GetDriveType GetDriveTypeA
 #define GetFileAttributes GetFileAttributesA
-#define GetLogicalDriveStrings GetLogicalDriveStringsA
-#define SetCurrentDirectory SetCurrentDirectoryA
 #define WIN32_FIND_DATA WIN32_FIND_DATAA
 #define LPWIN32_FIND_DATA LPWIN32_FIND_DATAA
 #endif

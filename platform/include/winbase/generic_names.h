@@ -3,33 +3,17 @@
 #pragma once
 
 #define CreateEvent CreateEventA
-#define FindResource FindResourceA
-#define FindResourceEx FindResourceExA
-#define GetCommandLine GetCommandLineA
-#define GetComputerName GetComputerNameA
-#define GetEnvironmentVariable GetEnvironmentVariableA
 #define GetModuleFileName GetModuleFileNameA
 #define GetModuleHandle GetModuleHandleA
 #define GetPrivateProfileInt GetPrivateProfileIntA
-#define GetPrivateProfileSection GetPrivateProfileSectionA
 #define GetPrivateProfileString GetPrivateProfileStringA
 #define GetProfileInt GetProfileIntA
-#define GetProfileSection GetProfileSectionA
 #define GetProfileString GetProfileStringA
-#define GetStartupInfo GetStartupInfoA
-#define GetSystemDirectory GetSystemDirectoryA
 #define GetTempPath GetTempPathA
-#define GetVersionEx GetVersionExA
 #define GetWindowsDirectory GetWindowsDirectoryA
-#define IsBadStringPtr IsBadStringPtrA
 #define LoadLibrary LoadLibraryA
 #define MAKEINTRESOURCE MAKEINTRESOURCEA
-#define OSVERSIONINFO OSVERSIONINFOA
-#define LPOSVERSIONINFO LPOSVERSIONINFOA
 #define OutputDebugString OutputDebugStringA
-#define STARTUPINFO STARTUPINFOA
-#define LPSTARTUPINFO LPSTARTUPINFOA
-#define SetEnvironmentVariable SetEnvironmentVariableA
 #define WritePrivateProfileString WritePrivateProfileStringA
 #define WriteProfileString WriteProfileStringA
 #define lstrcat lstrcatA

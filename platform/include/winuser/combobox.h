@@ -5,8 +5,8 @@
 /// The height that a drop-down combo box is made with, or given, is that of field and dropped list together; the window is as
 /// high as the field. The list drops below the field, or above it where there is no room, and is no longer than its items
 /// unless CBS_NOINTEGRALHEIGHT is set. While it is down it has the mouse: the item under the pointer is selected, a click takes
-/// it, a click elsewhere or Escape leaves everything as it was. F4 and Alt with an arrow drop the list and close it, or with the
-/// extended interface the down arrow and Alt with an arrow. Arrow keys, Page Up, Page Down and letters go to other items.
+/// it, a click elsewhere or Escape leaves everything as it was. F4 and Alt with an arrow drop the list and close it. Arrow keys,
+/// Page Up, Page Down and letters go to other items.
 ///
 /// The parent hears through WM_COMMAND, in this order: CBN_DROPDOWN; CBN_SELENDOK or CBN_SELENDCANCEL, CBN_CLOSEUP;
 /// CBN_SELCHANGE, at which the edit control still holds the former text. Messages do not notify. Owner drawing is that of the
@@ -22,15 +22,10 @@
 #define CBS_DROPDOWN 0x0002L
 #define CBS_DROPDOWNLIST 0x0003L
 #define CBS_OWNERDRAWFIXED 0x0010L
-#define CBS_OWNERDRAWVARIABLE 0x0020L
 #define CBS_AUTOHSCROLL 0x0040L
-#define CBS_OEMCONVERT 0x0080L
 #define CBS_SORT 0x0100L
 #define CBS_HASSTRINGS 0x0200L
 #define CBS_NOINTEGRALHEIGHT 0x0400L
-#define CBS_DISABLENOSCROLL 0x0800L
-#define CBS_UPPERCASE 0x2000L
-#define CBS_LOWERCASE 0x4000L
 
 // --- notifications (WM_COMMAND)
 
@@ -50,7 +45,6 @@
 
 #define CB_OKAY 0
 #define CB_ERR (-1)
-#define CB_ERRSPACE (-2)
 
 // --- messages
 
@@ -72,35 +66,8 @@
 #define CB_GETITEMDATA 0x0150
 #define CB_SETITEMDATA 0x0151
 #define CB_GETDROPPEDCONTROLRECT 0x0152
-#define CB_SETITEMHEIGHT 0x0153
 #define CB_GETITEMHEIGHT 0x0154
-#define CB_SETEXTENDEDUI 0x0155
-#define CB_GETEXTENDEDUI 0x0156
 #define CB_GETDROPPEDSTATE 0x0157
 #define CB_FINDSTRINGEXACT 0x0158
-#define CB_SETLOCALE 0x0159
-#define CB_GETLOCALE 0x015A
-#define CB_GETTOPINDEX 0x015B
-#define CB_SETTOPINDEX 0x015C
-#define CB_GETHORIZONTALEXTENT 0x015D
-#define CB_SETHORIZONTALEXTENT 0x015E
 #define CB_GETDROPPEDWIDTH 0x015F
 #define CB_SETDROPPEDWIDTH 0x0160
-#define CB_INITSTORAGE 0x0161
-
-// --- the parts of a combo box
-
-#define STATE_SYSTEM_PRESSED 0x00000008
-#define STATE_SYSTEM_INVISIBLE 0x00008000
-
-typedef struct tagCOMBOBOXINFO {
-    DWORD cbSize;
-    RECT rcItem;
-    RECT rcButton;
-    DWORD stateButton;
-    HWND hwndCombo;
-    HWND hwndItem;  ///< the edit control; with CBS_DROPDOWNLIST the combo box
-    HWND hwndList;
-} COMBOBOXINFO, *PCOMBOBOXINFO, *LPCOMBOBOXINFO;
-
-WINUSERAPI BOOL WINAPI GetComboBoxInfo(HWND window, PCOMBOBOXINFO info);

@@ -44,7 +44,6 @@ typedef DLGITEMTEMPLATE* LPDLGITEMTEMPLATE;
 #define DS_3DLOOK 0x0004
 #define DS_FIXEDSYS 0x0008
 #define DS_NOFAILCREATE 0x0010
-#define DS_LOCALEDIT 0x20
 #define DS_SETFONT 0x40
 #define DS_MODALFRAME 0x80
 #define DS_NOIDLEMSG 0x100
@@ -53,7 +52,6 @@ typedef DLGITEMTEMPLATE* LPDLGITEMTEMPLATE;
 #define DS_CENTER 0x0800
 #define DS_CENTERMOUSE 0x1000
 #define DS_CONTEXTHELP 0x2000
-#define DS_SHELLFONT (DS_SETFONT | DS_FIXEDSYS)
 
 #define DM_GETDEFID (WM_USER + 0)
 #define DM_SETDEFID (WM_USER + 1)
@@ -106,18 +104,14 @@ typedef DLGITEMTEMPLATE* LPDLGITEMTEMPLATE;
 #define MB_APPLMODAL 0x00000000
 #define MB_SYSTEMMODAL 0x00001000
 #define MB_TASKMODAL 0x00002000
-#define MB_HELP 0x00004000
 #define MB_NOFOCUS 0x00008000
 #define MB_SETFOREGROUND 0x00010000
-#define MB_DEFAULT_DESKTOP_ONLY 0x00020000
 #define MB_TOPMOST 0x00040000
 #define MB_RIGHT 0x00080000
-#define MB_RTLREADING 0x00100000
 #define MB_TYPEMASK 0x0000000F
 #define MB_ICONMASK 0x000000F0
 #define MB_DEFMASK 0x00000F00
 #define MB_MODEMASK 0x00003000
-#define MB_MISCMASK 0x0000C000
 
 // --- making and ending dialogs
 
@@ -138,7 +132,6 @@ WINUSERAPI BOOL WINAPI EndDialog(HWND dialog, INT_PTR result);
 #define DialogBoxIndirectA(instance, dialogTemplate, owner, procedure) \
     DialogBoxIndirectParamA(instance, dialogTemplate, owner, procedure, 0L)
 
-WINUSERAPI LRESULT WINAPI DefDlgProcA(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
 WINUSERAPI BOOL WINAPI IsDialogMessageA(HWND dialog, MSG* message);
 
 // --- controls of a dialog
@@ -164,7 +157,6 @@ WINUSERAPI LONG WINAPI GetDialogBaseUnits(void);
 // --- message boxes
 
 WINUSERAPI int WINAPI MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type);
-WINUSERAPI int WINAPI MessageBoxExA(HWND owner, LPCSTR text, LPCSTR caption, UINT type, WORD language);
 WINUSERAPI BOOL WINAPI MessageBeep(UINT type);
 
 #ifndef CVPLATFORM_NO_GENERIC_NAMES
@@ -176,11 +168,9 @@ WINUSERAPI BOOL WINAPI MessageBeep(UINT type);
 #define CreateDialogIndirect CreateDialogIndirectA
 #define DialogBox DialogBoxA
 #define DialogBoxIndirect DialogBoxIndirectA
-#define DefDlgProc DefDlgProcA
 #define IsDialogMessage IsDialogMessageA
 #define SetDlgItemText SetDlgItemTextA
 #define GetDlgItemText GetDlgItemTextA
 #define SendDlgItemMessage SendDlgItemMessageA
 #define MessageBox MessageBoxA
-#define MessageBoxEx MessageBoxExA
 #endif

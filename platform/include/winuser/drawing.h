@@ -56,7 +56,6 @@ WINUSERAPI BOOL WINAPI InflateRect(LPRECT rect, int dx, int dy);
 WINUSERAPI BOOL WINAPI OffsetRect(LPRECT rect, int dx, int dy);
 WINUSERAPI BOOL WINAPI IntersectRect(LPRECT rect, const RECT* first, const RECT* second);
 WINUSERAPI BOOL WINAPI UnionRect(LPRECT rect, const RECT* first, const RECT* second);
-WINUSERAPI BOOL WINAPI SubtractRect(LPRECT rect, const RECT* first, const RECT* second);
 WINUSERAPI BOOL WINAPI PtInRect(const RECT* rect, POINT point);
 WINUSERAPI BOOL WINAPI IsRectEmpty(const RECT* rect);
 WINUSERAPI BOOL WINAPI EqualRect(const RECT* first, const RECT* second);
@@ -74,8 +73,6 @@ WINUSERAPI BOOL WINAPI DrawFocusRect(HDC context, const RECT* rect);
 #define BDR_SUNKENINNER 0x0008
 #define BDR_OUTER (BDR_RAISEDOUTER | BDR_SUNKENOUTER)
 #define BDR_INNER (BDR_RAISEDINNER | BDR_SUNKENINNER)
-#define BDR_RAISED (BDR_RAISEDOUTER | BDR_RAISEDINNER)
-#define BDR_SUNKEN (BDR_SUNKENOUTER | BDR_SUNKENINNER)
 #define EDGE_RAISED (BDR_RAISEDOUTER | BDR_RAISEDINNER)
 #define EDGE_SUNKEN (BDR_SUNKENOUTER | BDR_SUNKENINNER)
 #define EDGE_ETCHED (BDR_SUNKENOUTER | BDR_RAISEDINNER)
@@ -85,16 +82,7 @@ WINUSERAPI BOOL WINAPI DrawFocusRect(HDC context, const RECT* rect);
 #define BF_TOP 0x0002
 #define BF_RIGHT 0x0004
 #define BF_BOTTOM 0x0008
-#define BF_TOPLEFT (BF_TOP | BF_LEFT)
-#define BF_TOPRIGHT (BF_TOP | BF_RIGHT)
-#define BF_BOTTOMLEFT (BF_BOTTOM | BF_LEFT)
-#define BF_BOTTOMRIGHT (BF_BOTTOM | BF_RIGHT)
 #define BF_RECT (BF_LEFT | BF_TOP | BF_RIGHT | BF_BOTTOM)
-#define BF_DIAGONAL 0x0010
-#define BF_DIAGONAL_ENDTOPRIGHT (BF_DIAGONAL | BF_TOP | BF_RIGHT)
-#define BF_DIAGONAL_ENDTOPLEFT (BF_DIAGONAL | BF_TOP | BF_LEFT)
-#define BF_DIAGONAL_ENDBOTTOMLEFT (BF_DIAGONAL | BF_BOTTOM | BF_LEFT)
-#define BF_DIAGONAL_ENDBOTTOMRIGHT (BF_DIAGONAL | BF_BOTTOM | BF_RIGHT)
 #define BF_MIDDLE 0x0800
 #define BF_SOFT 0x1000
 #define BF_ADJUST 0x2000
@@ -133,8 +121,6 @@ WINUSERAPI BOOL WINAPI DrawEdge(HDC context, LPRECT rect, UINT edge, UINT flags)
 #define DFCS_INACTIVE 0x0100
 #define DFCS_PUSHED 0x0200
 #define DFCS_CHECKED 0x0400
-#define DFCS_TRANSPARENT 0x0800
-#define DFCS_HOT 0x1000
 #define DFCS_ADJUSTRECT 0x2000
 #define DFCS_FLAT 0x4000
 #define DFCS_MONO 0x8000
@@ -157,33 +143,14 @@ WINUSERAPI BOOL WINAPI DrawFrameControl(HDC context, LPRECT rect, UINT type, UIN
 #define DT_EXTERNALLEADING 0x00000200
 #define DT_CALCRECT 0x00000400
 #define DT_NOPREFIX 0x00000800
-#define DT_INTERNAL 0x00001000
 #define DT_EDITCONTROL 0x00002000
 #define DT_PATH_ELLIPSIS 0x00004000
 #define DT_END_ELLIPSIS 0x00008000
-#define DT_MODIFYSTRING 0x00010000
 #define DT_WORD_ELLIPSIS 0x00040000
 #define DT_HIDEPREFIX 0x00100000
 #define DT_PREFIXONLY 0x00200000
 
-typedef struct tagDRAWTEXTPARAMS {
-    UINT cbSize;
-    int iTabLength;
-    int iLeftMargin;
-    int iRightMargin;
-    UINT uiLengthDrawn;
-} DRAWTEXTPARAMS, *LPDRAWTEXTPARAMS;
-
 WINUSERAPI int WINAPI DrawTextA(HDC context, LPCSTR text, int length, LPRECT rect, UINT format);
-WINUSERAPI int WINAPI DrawTextExA(HDC context, LPSTR text, int length, LPRECT rect, UINT format,
-                                  LPDRAWTEXTPARAMS params);
-WINUSERAPI LONG WINAPI TabbedTextOutA(HDC context, int x, int y, LPCSTR text, int length, int tabs, const INT* tabStops,
-                                      int tabOrigin);
-WINUSERAPI DWORD WINAPI GetTabbedTextExtentA(HDC context, LPCSTR text, int length, int tabs, const INT* tabStops);
-
-typedef BOOL(CALLBACK* GRAYSTRINGPROC)(HDC context, LPARAM data, int length);
-WINUSERAPI BOOL WINAPI GrayStringA(HDC context, HBRUSH brush, GRAYSTRINGPROC output, LPARAM data, int length, int x,
-                                   int y, int width, int height);
 
 // --- bitmaps from resources
 
@@ -191,13 +158,7 @@ WINUSERAPI BOOL WINAPI GrayStringA(HDC context, HBRUSH brush, GRAYSTRINGPROC out
 #define IMAGE_ICON 1
 #define IMAGE_CURSOR 2
 #define LR_DEFAULTCOLOR 0x0000
-#define LR_MONOCHROME 0x0001
-#define LR_LOADFROMFILE 0x0010
-#define LR_LOADTRANSPARENT 0x0020
-#define LR_DEFAULTSIZE 0x0040
-#define LR_LOADMAP3DCOLORS 0x1000
 #define LR_CREATEDIBSECTION 0x2000
-#define LR_SHARED 0x8000
 
 /// LoadImageA loads bitmaps from a module's resources; for another type, or from a file, it fails with
 /// ERROR_INVALID_PARAMETER.

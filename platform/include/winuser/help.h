@@ -13,7 +13,6 @@
 #define HELP_WM_HELP 0x000CL
 
 #define HELPINFO_WINDOW 0x0001
-#define HELPINFO_MENUITEM 0x0002
 
 /// What lParam of WM_HELP points to.
 typedef struct tagHELPINFO {

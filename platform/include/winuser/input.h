@@ -20,10 +20,6 @@
 #define VK_PAUSE 0x13
 #define VK_CAPITAL 0x14
 #define VK_ESCAPE 0x1B
-#define VK_CONVERT 0x1C
-#define VK_NONCONVERT 0x1D
-#define VK_ACCEPT 0x1E
-#define VK_MODECHANGE 0x1F
 #define VK_SPACE 0x20
 #define VK_PRIOR 0x21
 #define VK_NEXT 0x22
@@ -33,17 +29,14 @@
 #define VK_UP 0x26
 #define VK_RIGHT 0x27
 #define VK_DOWN 0x28
-#define VK_SELECT 0x29
 #define VK_PRINT 0x2A
 #define VK_EXECUTE 0x2B
 #define VK_SNAPSHOT 0x2C
 #define VK_INSERT 0x2D
 #define VK_DELETE 0x2E
-#define VK_HELP 0x2F
 #define VK_LWIN 0x5B
 #define VK_RWIN 0x5C
 #define VK_APPS 0x5D
-#define VK_SLEEP 0x5F
 #define VK_NUMPAD0 0x60
 #define VK_NUMPAD1 0x61
 #define VK_NUMPAD2 0x62
@@ -56,7 +49,6 @@
 #define VK_NUMPAD9 0x69
 #define VK_MULTIPLY 0x6A
 #define VK_ADD 0x6B
-#define VK_SEPARATOR 0x6C
 #define VK_SUBTRACT 0x6D
 #define VK_DECIMAL 0x6E
 #define VK_DIVIDE 0x6F
@@ -72,18 +64,6 @@
 #define VK_F10 0x79
 #define VK_F11 0x7A
 #define VK_F12 0x7B
-#define VK_F13 0x7C
-#define VK_F14 0x7D
-#define VK_F15 0x7E
-#define VK_F16 0x7F
-#define VK_F17 0x80
-#define VK_F18 0x81
-#define VK_F19 0x82
-#define VK_F20 0x83
-#define VK_F21 0x84
-#define VK_F22 0x85
-#define VK_F23 0x86
-#define VK_F24 0x87
 #define VK_NUMLOCK 0x90
 #define VK_SCROLL 0x91
 #define VK_LSHIFT 0xA0
@@ -103,18 +83,10 @@
 #define VK_OEM_5 0xDC
 #define VK_OEM_6 0xDD
 #define VK_OEM_7 0xDE
-#define VK_OEM_8 0xDF
 #define VK_OEM_102 0xE2
-#define VK_PROCESSKEY 0xE5
 #define VK_PACKET 0xE7
 
 // High word of a key message's lParam
-#define KF_EXTENDED 0x0100
-#define KF_DLGMODE 0x0800
-#define KF_MENUMODE 0x1000
-#define KF_ALTDOWN 0x2000
-#define KF_REPEAT 0x4000
-#define KF_UP 0x8000
 
 // --- synthesised input
 
@@ -135,24 +107,16 @@ typedef struct tagKEYBDINPUT {
     ULONG_PTR dwExtraInfo;
 } KEYBDINPUT, *PKEYBDINPUT, *LPKEYBDINPUT;
 
-typedef struct tagHARDWAREINPUT {
-    DWORD uMsg;
-    WORD wParamL;
-    WORD wParamH;
-} HARDWAREINPUT, *PHARDWAREINPUT, *LPHARDWAREINPUT;
-
 typedef struct tagINPUT {
     DWORD type;
     union {
         MOUSEINPUT mi;
         KEYBDINPUT ki;
-        HARDWAREINPUT hi;
     };
 } INPUT, *PINPUT, *LPINPUT;
 
 #define INPUT_MOUSE 0
 #define INPUT_KEYBOARD 1
-#define INPUT_HARDWARE 2
 
 #define KEYEVENTF_EXTENDEDKEY 0x0001
 #define KEYEVENTF_KEYUP 0x0002
@@ -167,12 +131,9 @@ typedef struct tagINPUT {
 #define MOUSEEVENTF_MIDDLEDOWN 0x0020
 #define MOUSEEVENTF_MIDDLEUP 0x0040
 #define MOUSEEVENTF_WHEEL 0x0800
-#define MOUSEEVENTF_VIRTUALDESK 0x4000
 #define MOUSEEVENTF_ABSOLUTE 0x8000
 
 WINUSERAPI UINT WINAPI SendInput(UINT count, LPINPUT inputs, int size);
-WINUSERAPI VOID WINAPI keybd_event(BYTE key, BYTE scan, DWORD flags, ULONG_PTR extra);
-WINUSERAPI VOID WINAPI mouse_event(DWORD flags, DWORD dx, DWORD dy, DWORD data, ULONG_PTR extra);
 
 // --- keyboard
 
@@ -183,46 +144,19 @@ WINUSERAPI VOID WINAPI mouse_event(DWORD flags, DWORD dx, DWORD dy, DWORD data, 
 
 WINUSERAPI SHORT WINAPI GetKeyState(int key);
 WINUSERAPI SHORT WINAPI GetAsyncKeyState(int key);
-WINUSERAPI BOOL WINAPI GetKeyboardState(PBYTE state);
-WINUSERAPI BOOL WINAPI SetKeyboardState(LPBYTE state);
 WINUSERAPI UINT WINAPI MapVirtualKeyA(UINT code, UINT mapType);
-WINUSERAPI SHORT WINAPI VkKeyScanA(CHAR character);
-WINUSERAPI int WINAPI ToAscii(UINT key, UINT scan, const BYTE* state, LPWORD characters, UINT flags);
-WINUSERAPI int WINAPI GetKeyNameTextA(LONG keyData, LPSTR text, int size);
 
 // --- mouse and cursor
 
 WINUSERAPI BOOL WINAPI GetCursorPos(LPPOINT position);
 WINUSERAPI BOOL WINAPI SetCursorPos(int x, int y);
 WINUSERAPI HCURSOR WINAPI SetCursor(HCURSOR cursor);
-WINUSERAPI HCURSOR WINAPI GetCursor(VOID);
-WINUSERAPI int WINAPI ShowCursor(BOOL show);
-WINUSERAPI UINT WINAPI GetDoubleClickTime(VOID);
-WINUSERAPI BOOL WINAPI SetDoubleClickTime(UINT milliseconds);
 
 WINUSERAPI HWND WINAPI GetCapture(VOID);
 WINUSERAPI HWND WINAPI SetCapture(HWND window);
 WINUSERAPI BOOL WINAPI ReleaseCapture(VOID);
 
 // --- focus and activation
-
-#define GUI_CARETBLINKING 0x00000001
-#define GUI_INMOVESIZE 0x00000002
-#define GUI_INMENUMODE 0x00000004
-#define GUI_SYSTEMMENUMODE 0x00000008
-#define GUI_POPUPMENUMODE 0x00000010
-
-typedef struct tagGUITHREADINFO {
-    DWORD cbSize;
-    DWORD flags;
-    HWND hwndActive;
-    HWND hwndFocus;
-    HWND hwndCapture;
-    HWND hwndMenuOwner;
-    HWND hwndMoveSize;
-    HWND hwndCaret;
-    RECT rcCaret;
-} GUITHREADINFO, *PGUITHREADINFO, *LPGUITHREADINFO;
 
 WINUSERAPI HWND WINAPI GetFocus(VOID);
 WINUSERAPI HWND WINAPI SetFocus(HWND window);
@@ -231,8 +165,6 @@ WINUSERAPI HWND WINAPI SetActiveWindow(HWND window);
 WINUSERAPI HWND WINAPI GetForegroundWindow(VOID);
 WINUSERAPI BOOL WINAPI SetForegroundWindow(HWND window);
 WINUSERAPI BOOL WINAPI BringWindowToTop(HWND window);
-WINUSERAPI HWND WINAPI GetLastActivePopup(HWND window);
-WINUSERAPI BOOL WINAPI GetGUIThreadInfo(DWORD thread, PGUITHREADINFO info);
 
 // --- carets
 
@@ -242,11 +174,7 @@ WINUSERAPI BOOL WINAPI ShowCaret(HWND window);
 WINUSERAPI BOOL WINAPI HideCaret(HWND window);
 WINUSERAPI BOOL WINAPI SetCaretPos(int x, int y);
 WINUSERAPI BOOL WINAPI GetCaretPos(LPPOINT position);
-WINUSERAPI UINT WINAPI GetCaretBlinkTime(VOID);
-WINUSERAPI BOOL WINAPI SetCaretBlinkTime(UINT milliseconds);
 
 #ifndef CVPLATFORM_NO_GENERIC_NAMES
 #define MapVirtualKey MapVirtualKeyA
-#define VkKeyScan VkKeyScanA
-#define GetKeyNameText GetKeyNameTextA
 #endif

@@ -2,9 +2,8 @@
 /// The "listbox" class: a column (LBS_MULTICOLUMN: columns) of items, of which one or several can be selected.
 ///
 /// Items are texts, or with an owner-drawn style and without LBS_HASSTRINGS values that only the application understands: then
-/// LB_ADDSTRING and the searches take such a value where they otherwise take a text. An owner-drawn list asks its parent for the
-/// height of its items (WM_MEASUREITEM: once while it is created with LBS_OWNERDRAWFIXED, for each item with
-/// LBS_OWNERDRAWVARIABLE) and to draw them (WM_DRAWITEM); a sorted one without texts asks for their order (WM_COMPAREITEM).
+/// LB_ADDSTRING and the searches take such a value where they otherwise take a text, and nothing is sorted. An owner-drawn list
+/// asks its parent for the height of its items (WM_MEASUREITEM, once while it is created) and to draw them (WM_DRAWITEM).
 /// WM_DELETEITEM tells of each item that goes.
 ///
 /// Without a style of selection a click selects one item. LBS_MULTIPLESEL: a click or the space bar turns one item over.
@@ -12,8 +11,8 @@
 /// dragging selects a range. Arrow keys, Page Up, Page Down, Home and End move, a letter goes to the next item that begins with
 /// it. With LBS_NOTIFY the parent hears of what the user does (never of what messages do) through WM_COMMAND.
 ///
-/// The height is cut to whole items unless LBS_NOINTEGRALHEIGHT or LBS_OWNERDRAWVARIABLE is set. A list made with WS_VSCROLL
-/// shows its scroll bar while there is something to scroll, or always with LBS_DISABLENOSCROLL.
+/// The height is cut to whole items unless LBS_NOINTEGRALHEIGHT is set. A list made with WS_VSCROLL (of several columns:
+/// WS_HSCROLL) shows its scroll bar while there is something to scroll.
 #pragma once
 
 #include "../windef.h"
@@ -22,19 +21,13 @@
 
 #define LBS_NOTIFY 0x0001L
 #define LBS_SORT 0x0002L
-#define LBS_NOREDRAW 0x0004L
 #define LBS_MULTIPLESEL 0x0008L
 #define LBS_OWNERDRAWFIXED 0x0010L
-#define LBS_OWNERDRAWVARIABLE 0x0020L
 #define LBS_HASSTRINGS 0x0040L
-#define LBS_USETABSTOPS 0x0080L
 #define LBS_NOINTEGRALHEIGHT 0x0100L
 #define LBS_MULTICOLUMN 0x0200L
 #define LBS_WANTKEYBOARDINPUT 0x0400L
 #define LBS_EXTENDEDSEL 0x0800L
-#define LBS_DISABLENOSCROLL 0x1000L
-#define LBS_NODATA 0x2000L
-#define LBS_NOSEL 0x4000L
 #define LBS_STANDARD (LBS_NOTIFY | LBS_SORT | WS_VSCROLL | WS_BORDER)
 
 // --- notifications (WM_COMMAND)
@@ -48,7 +41,6 @@
 
 // --- results
 
-#define LB_CTLCODE 0L
 #define LB_OKAY 0
 #define LB_ERR (-1)
 #define LB_ERRSPACE (-2)
@@ -58,7 +50,6 @@
 #define LB_ADDSTRING 0x0180
 #define LB_INSERTSTRING 0x0181
 #define LB_DELETESTRING 0x0182
-#define LB_SELITEMRANGEEX 0x0183
 #define LB_RESETCONTENT 0x0184
 #define LB_SETSEL 0x0185
 #define LB_SETCURSEL 0x0186
@@ -72,9 +63,6 @@
 #define LB_FINDSTRING 0x018F
 #define LB_GETSELCOUNT 0x0190
 #define LB_GETSELITEMS 0x0191
-#define LB_SETTABSTOPS 0x0192
-#define LB_GETHORIZONTALEXTENT 0x0193
-#define LB_SETHORIZONTALEXTENT 0x0194
 #define LB_SETCOLUMNWIDTH 0x0195
 #define LB_SETTOPINDEX 0x0197
 #define LB_GETITEMRECT 0x0198
@@ -82,14 +70,7 @@
 #define LB_SETITEMDATA 0x019A
 #define LB_SELITEMRANGE 0x019B
 #define LB_SETANCHORINDEX 0x019C
-#define LB_GETANCHORINDEX 0x019D
 #define LB_SETCARETINDEX 0x019E
 #define LB_GETCARETINDEX 0x019F
-#define LB_SETITEMHEIGHT 0x01A0
 #define LB_GETITEMHEIGHT 0x01A1
 #define LB_FINDSTRINGEXACT 0x01A2
-#define LB_SETLOCALE 0x01A5
-#define LB_GETLOCALE 0x01A6
-#define LB_SETCOUNT 0x01A7
-#define LB_INITSTORAGE 0x01A8
-#define LB_ITEMFROMPOINT 0x01A9

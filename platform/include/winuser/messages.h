@@ -13,14 +13,7 @@ typedef struct tagMSG {
     POINT pt;
 } MSG, *PMSG, *NPMSG, *LPMSG;
 
-typedef struct tagCOPYDATASTRUCT {
-    ULONG_PTR dwData;
-    DWORD cbData;
-    PVOID lpData;
-} COPYDATASTRUCT, *PCOPYDATASTRUCT;
-
 typedef VOID(CALLBACK* TIMERPROC)(HWND window, UINT message, UINT_PTR id, DWORD time);
-typedef VOID(CALLBACK* SENDASYNCPROC)(HWND window, UINT message, ULONG_PTR data, LRESULT result);
 
 #define HWND_BROADCAST ((HWND)0xffff)
 
@@ -50,44 +43,23 @@ typedef VOID(CALLBACK* SENDASYNCPROC)(HWND window, UINT message, ULONG_PTR data,
 #define WM_SHOWWINDOW 0x0018
 #define WM_WININICHANGE 0x001A
 #define WM_SETTINGCHANGE WM_WININICHANGE
-#define WM_DEVMODECHANGE 0x001B
 #define WM_ACTIVATEAPP 0x001C
-#define WM_FONTCHANGE 0x001D
-#define WM_TIMECHANGE 0x001E
 #define WM_CANCELMODE 0x001F
 #define WM_SETCURSOR 0x0020
 #define WM_MOUSEACTIVATE 0x0021
 #define WM_CHILDACTIVATE 0x0022
-#define WM_QUEUESYNC 0x0023
 #define WM_GETMINMAXINFO 0x0024
-#define WM_PAINTICON 0x0026
-#define WM_ICONERASEBKGND 0x0027
 #define WM_NEXTDLGCTL 0x0028
-#define WM_SPOOLERSTATUS 0x002A
 #define WM_DRAWITEM 0x002B
 #define WM_MEASUREITEM 0x002C
 #define WM_DELETEITEM 0x002D
 #define WM_VKEYTOITEM 0x002E
-#define WM_CHARTOITEM 0x002F
 #define WM_SETFONT 0x0030
 #define WM_GETFONT 0x0031
-#define WM_SETHOTKEY 0x0032
-#define WM_GETHOTKEY 0x0033
-#define WM_QUERYDRAGICON 0x0037
-#define WM_COMPAREITEM 0x0039
-#define WM_COMPACTING 0x0041
 #define WM_WINDOWPOSCHANGING 0x0046
 #define WM_WINDOWPOSCHANGED 0x0047
-#define WM_POWER 0x0048
-#define WM_COPYDATA 0x004A
-#define WM_CANCELJOURNAL 0x004B
 #define WM_NOTIFY 0x004E
-#define WM_INPUTLANGCHANGEREQUEST 0x0050
-#define WM_INPUTLANGCHANGE 0x0051
-#define WM_TCARD 0x0052
 #define WM_HELP 0x0053
-#define WM_USERCHANGED 0x0054
-#define WM_NOTIFYFORMAT 0x0055
 #define WM_CONTEXTMENU 0x007B
 #define WM_STYLECHANGING 0x007C
 #define WM_STYLECHANGED 0x007D
@@ -101,7 +73,6 @@ typedef VOID(CALLBACK* SENDASYNCPROC)(HWND window, UINT message, ULONG_PTR data,
 #define WM_NCPAINT 0x0085
 #define WM_NCACTIVATE 0x0086
 #define WM_GETDLGCODE 0x0087
-#define WM_SYNCPAINT 0x0088
 #define WM_NCMOUSEMOVE 0x00A0
 #define WM_NCLBUTTONDOWN 0x00A1
 #define WM_NCLBUTTONUP 0x00A2
@@ -120,7 +91,6 @@ typedef VOID(CALLBACK* SENDASYNCPROC)(HWND window, UINT message, ULONG_PTR data,
 #define WM_SYSKEYDOWN 0x0104
 #define WM_SYSKEYUP 0x0105
 #define WM_SYSCHAR 0x0106
-#define WM_SYSDEADCHAR 0x0107
 #define WM_KEYLAST 0x0108
 #define WM_INITDIALOG 0x0110
 #define WM_COMMAND 0x0111
@@ -128,15 +98,7 @@ typedef VOID(CALLBACK* SENDASYNCPROC)(HWND window, UINT message, ULONG_PTR data,
 #define WM_TIMER 0x0113
 #define WM_HSCROLL 0x0114
 #define WM_VSCROLL 0x0115
-#define WM_INITMENU 0x0116
-#define WM_INITMENUPOPUP 0x0117
-#define WM_MENUSELECT 0x011F
-#define WM_MENUCHAR 0x0120
 #define WM_ENTERIDLE 0x0121
-#define WM_CHANGEUISTATE 0x0127
-#define WM_UPDATEUISTATE 0x0128
-#define WM_QUERYUISTATE 0x0129
-#define WM_CTLCOLORMSGBOX 0x0132
 #define WM_CTLCOLOREDIT 0x0133
 #define WM_CTLCOLORLISTBOX 0x0134
 #define WM_CTLCOLORBTN 0x0135
@@ -157,27 +119,16 @@ typedef VOID(CALLBACK* SENDASYNCPROC)(HWND window, UINT message, ULONG_PTR data,
 #define WM_MOUSEWHEEL 0x020A
 #define WM_MOUSELAST 0x020A
 #define WM_PARENTNOTIFY 0x0210
-#define WM_ENTERMENULOOP 0x0211
-#define WM_EXITMENULOOP 0x0212
 #define WM_SIZING 0x0214
 #define WM_CAPTURECHANGED 0x0215
 #define WM_MOVING 0x0216
-#define WM_POWERBROADCAST 0x0218
-#define WM_DEVICECHANGE 0x0219
 #define WM_ENTERSIZEMOVE 0x0231
 #define WM_EXITSIZEMOVE 0x0232
-#define WM_DROPFILES 0x0233
 #define WM_CUT 0x0300
 #define WM_COPY 0x0301
 #define WM_PASTE 0x0302
 #define WM_CLEAR 0x0303
 #define WM_UNDO 0x0304
-#define WM_QUERYNEWPALETTE 0x030F
-#define WM_PALETTEISCHANGING 0x0310
-#define WM_PALETTECHANGED 0x0311
-#define WM_HOTKEY 0x0312
-#define WM_PRINT 0x0317
-#define WM_PRINTCLIENT 0x0318
 #define WM_USER 0x0400
 #define WM_APP 0x8000
 
@@ -196,8 +147,6 @@ typedef VOID(CALLBACK* SENDASYNCPROC)(HWND window, UINT message, ULONG_PTR data,
 #define SIZE_RESTORED 0
 #define SIZE_MINIMIZED 1
 #define SIZE_MAXIMIZED 2
-#define SIZE_MAXSHOW 3
-#define SIZE_MAXHIDE 4
 
 // Key states that come with mouse messages
 #define MK_LBUTTON 0x0001
@@ -207,7 +156,6 @@ typedef VOID(CALLBACK* SENDASYNCPROC)(HWND window, UINT message, ULONG_PTR data,
 #define MK_MBUTTON 0x0010
 
 #define WHEEL_DELTA 120
-#define WHEEL_PAGESCROLL ((UINT)-1)
 #define GET_WHEEL_DELTA_WPARAM(wParam) ((SHORT)HIWORD(wParam))
 
 // WM_GETDLGCODE
@@ -227,45 +175,21 @@ typedef VOID(CALLBACK* SENDASYNCPROC)(HWND window, UINT message, ULONG_PTR data,
 #define ICON_SMALL 0
 #define ICON_BIG 1
 
-// WM_PRINT
-#define PRF_CHECKVISIBLE 0x0001
-#define PRF_NONCLIENT 0x0002
-#define PRF_CLIENT 0x0004
-#define PRF_ERASEBKGND 0x0008
-#define PRF_CHILDREN 0x0010
-#define PRF_OWNED 0x0020
-
 // WM_ENTERIDLE
 #define MSGF_DIALOGBOX 0
-#define MSGF_MESSAGEBOX 1
-#define MSGF_MENU 2
 
 // WM_SYSCOMMAND
 #define SC_SIZE 0xF000
 #define SC_MOVE 0xF010
 #define SC_MINIMIZE 0xF020
 #define SC_MAXIMIZE 0xF030
-#define SC_NEXTWINDOW 0xF040
-#define SC_PREVWINDOW 0xF050
 #define SC_CLOSE 0xF060
 #define SC_VSCROLL 0xF070
 #define SC_HSCROLL 0xF080
 #define SC_MOUSEMENU 0xF090
 #define SC_KEYMENU 0xF100
-#define SC_ARRANGE 0xF110
 #define SC_RESTORE 0xF120
-#define SC_TASKLIST 0xF130
-#define SC_SCREENSAVE 0xF140
-#define SC_HOTKEY 0xF150
-#define SC_DEFAULT 0xF160
 #define SC_CONTEXTHELP 0xF180
-
-// Changes of state that keyboard cues follow (WM_CHANGEUISTATE)
-#define UIS_SET 1
-#define UIS_CLEAR 2
-#define UIS_INITIALIZE 3
-#define UISF_HIDEFOCUS 0x1
-#define UISF_HIDEACCEL 0x2
 
 // --- sending
 
@@ -273,21 +197,9 @@ typedef VOID(CALLBACK* SENDASYNCPROC)(HWND window, UINT message, ULONG_PTR data,
 #define SMTO_BLOCK 0x0001
 #define SMTO_ABORTIFHUNG 0x0002
 
-#define ISMEX_NOSEND 0x00000000
-#define ISMEX_SEND 0x00000001
-#define ISMEX_NOTIFY 0x00000002
-#define ISMEX_CALLBACK 0x00000004
-#define ISMEX_REPLIED 0x00000008
-
 WINUSERAPI LRESULT WINAPI SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 WINUSERAPI LRESULT WINAPI SendMessageTimeoutA(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT flags,
                                               UINT timeout, DWORD_PTR* result);
-WINUSERAPI BOOL WINAPI SendNotifyMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-WINUSERAPI BOOL WINAPI SendMessageCallbackA(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                                            SENDASYNCPROC procedure, ULONG_PTR data);
-WINUSERAPI BOOL WINAPI ReplyMessage(LRESULT result);
-WINUSERAPI BOOL WINAPI InSendMessage(VOID);
-WINUSERAPI DWORD WINAPI InSendMessageEx(LPVOID reserved);
 
 // --- posting
 
@@ -300,7 +212,6 @@ WINUSERAPI UINT WINAPI RegisterWindowMessageA(LPCSTR name);
 
 #define PM_NOREMOVE 0x0000
 #define PM_REMOVE 0x0001
-#define PM_NOYIELD 0x0002
 
 #define QS_KEY 0x0001
 #define QS_MOUSEMOVE 0x0002
@@ -320,24 +231,14 @@ WINUSERAPI UINT WINAPI RegisterWindowMessageA(LPCSTR name);
 #define MAXIMUM_WAIT_OBJECTS 64
 #endif
 
-#define MWMO_WAITALL 0x0001
-#define MWMO_INPUTAVAILABLE 0x0004
-
 WINUSERAPI BOOL WINAPI GetMessageA(LPMSG message, HWND window, UINT first, UINT last);
 WINUSERAPI BOOL WINAPI PeekMessageA(LPMSG message, HWND window, UINT first, UINT last, UINT remove);
 WINUSERAPI BOOL WINAPI TranslateMessage(const MSG* message);
 WINUSERAPI LRESULT WINAPI DispatchMessageA(const MSG* message);
-WINUSERAPI BOOL WINAPI WaitMessage(VOID);
-WINUSERAPI DWORD WINAPI GetQueueStatus(UINT flags);
-WINUSERAPI BOOL WINAPI GetInputState(VOID);
 WINUSERAPI DWORD WINAPI MsgWaitForMultipleObjects(DWORD count, const HANDLE* handles, BOOL waitAll, DWORD milliseconds,
                                                   DWORD wakeMask);
-WINUSERAPI DWORD WINAPI MsgWaitForMultipleObjectsEx(DWORD count, const HANDLE* handles, DWORD milliseconds,
-                                                    DWORD wakeMask, DWORD flags);
 WINUSERAPI LONG WINAPI GetMessageTime(VOID);
 WINUSERAPI DWORD WINAPI GetMessagePos(VOID);
-WINUSERAPI LPARAM WINAPI GetMessageExtraInfo(VOID);
-WINUSERAPI LPARAM WINAPI SetMessageExtraInfo(LPARAM extra);
 
 // --- timers
 
@@ -350,8 +251,6 @@ WINUSERAPI BOOL WINAPI KillTimer(HWND window, UINT_PTR id);
 #ifndef CVPLATFORM_NO_GENERIC_NAMES
 #define SendMessage SendMessageA
 #define SendMessageTimeout SendMessageTimeoutA
-#define SendNotifyMessage SendNotifyMessageA
-#define SendMessageCallback SendMessageCallbackA
 #define PostMessage PostMessageA
 #define PostThreadMessage PostThreadMessageA
 #define RegisterWindowMessage RegisterWindowMessageA
@@ -365,7 +264,6 @@ WINUSERAPI BOOL WINAPI KillTimer(HWND window, UINT_PTR id);
 #define SB_HORZ 0
 #define SB_VERT 1
 #define SB_CTL 2
-#define SB_BOTH 3
 #define SB_LINEUP 0
 #define SB_LINELEFT 0
 #define SB_LINEDOWN 1

@@ -16,36 +16,13 @@
 
 #define SBS_HORZ 0x0000L
 #define SBS_VERT 0x0001L
-#define SBS_TOPALIGN 0x0002L
-#define SBS_LEFTALIGN 0x0002L
-#define SBS_BOTTOMALIGN 0x0004L
-#define SBS_RIGHTALIGN 0x0004L
-#define SBS_SIZEBOXTOPLEFTALIGN 0x0002L
-#define SBS_SIZEBOXBOTTOMRIGHTALIGN 0x0004L
-#define SBS_SIZEBOX 0x0008L
-#define SBS_SIZEGRIP 0x0010L
 
 // --- "scrollbar": messages
 
 #define SBM_SETPOS 0x00E0
 #define SBM_GETPOS 0x00E1
-#define SBM_SETRANGE 0x00E2
-#define SBM_GETRANGE 0x00E3
-#define SBM_ENABLE_ARROWS 0x00E4
-#define SBM_SETRANGEREDRAW 0x00E6
 #define SBM_SETSCROLLINFO 0x00E9
 #define SBM_GETSCROLLINFO 0x00EA
-
-// --- which arrows cannot be used (EnableScrollBar)
-
-#define ESB_ENABLE_BOTH 0x0000
-#define ESB_DISABLE_LEFT 0x0001
-#define ESB_DISABLE_RIGHT 0x0002
-#define ESB_DISABLE_UP 0x0001
-#define ESB_DISABLE_DOWN 0x0002
-#define ESB_DISABLE_BOTH 0x0003
-#define ESB_DISABLE_LTUP ESB_DISABLE_LEFT
-#define ESB_DISABLE_RTDN ESB_DISABLE_RIGHT
 
 // --- what a SCROLLINFO tells
 
@@ -72,8 +49,3 @@ WINUSERAPI int WINAPI SetScrollInfo(HWND window, int bar, LPCSCROLLINFO info, BO
 WINUSERAPI BOOL WINAPI GetScrollInfo(HWND window, int bar, LPSCROLLINFO info);
 WINUSERAPI int WINAPI SetScrollPos(HWND window, int bar, int position, BOOL redraw);
 WINUSERAPI int WINAPI GetScrollPos(HWND window, int bar);
-WINUSERAPI BOOL WINAPI SetScrollRange(HWND window, int bar, int low, int high, BOOL redraw);
-WINUSERAPI BOOL WINAPI GetScrollRange(HWND window, int bar, LPINT low, LPINT high);
-/// bar: as above, or SB_BOTH.
-WINUSERAPI BOOL WINAPI ShowScrollBar(HWND window, int bar, BOOL show);
-WINUSERAPI BOOL WINAPI EnableScrollBar(HWND window, UINT bar, UINT arrows);

@@ -7,8 +7,6 @@
 DECLARE_HANDLE(HWINSTA);
 
 #define UOI_FLAGS 1
-#define UOI_NAME 2
-#define UOI_TYPE 3
 
 #define WSF_VISIBLE 0x0001
 

@@ -16,8 +16,6 @@ WINUSERAPI DWORD WINAPI CharUpperBuffA(LPSTR text, DWORD length);
 WINUSERAPI DWORD WINAPI CharLowerBuffA(LPSTR text, DWORD length);
 WINUSERAPI BOOL WINAPI IsCharAlphaA(CHAR character);
 WINUSERAPI BOOL WINAPI IsCharAlphaNumericA(CHAR character);
-WINUSERAPI BOOL WINAPI IsCharUpperA(CHAR character);
-WINUSERAPI BOOL WINAPI IsCharLowerA(CHAR character);
 
 // --- formatted text, at most 1024 bytes with the final NUL
 
@@ -29,18 +27,10 @@ WINUSERAPI int WINAPI wvsprintfA(LPSTR target, LPCSTR format, va_list arguments)
 #define RT_CURSOR MAKEINTRESOURCEA(1)
 #define RT_BITMAP MAKEINTRESOURCEA(2)
 #define RT_ICON MAKEINTRESOURCEA(3)
-#define RT_MENU MAKEINTRESOURCEA(4)
 #define RT_DIALOG MAKEINTRESOURCEA(5)
 #define RT_STRING MAKEINTRESOURCEA(6)
-#define RT_FONTDIR MAKEINTRESOURCEA(7)
-#define RT_FONT MAKEINTRESOURCEA(8)
-#define RT_ACCELERATOR MAKEINTRESOURCEA(9)
-#define RT_RCDATA MAKEINTRESOURCEA(10)
-#define RT_MESSAGETABLE MAKEINTRESOURCEA(11)
 #define RT_GROUP_CURSOR MAKEINTRESOURCEA(12)
 #define RT_GROUP_ICON MAKEINTRESOURCEA(14)
-#define RT_VERSION MAKEINTRESOURCEA(16)
-#define RT_DLGINCLUDE MAKEINTRESOURCEA(17)
 
 /// Returns the length without the NUL, or 0 when there is no such string; size 0 gives 0.
 WINUSERAPI int WINAPI LoadStringA(HINSTANCE module, UINT id, LPSTR buffer, int size);
@@ -54,8 +44,6 @@ WINUSERAPI int WINAPI LoadStringA(HINSTANCE module, UINT id, LPSTR buffer, int s
 #define CharUpperBuff CharUpperBuffA
 #define IsCharAlpha IsCharAlphaA
 #define IsCharAlphaNumeric IsCharAlphaNumericA
-#define IsCharLower IsCharLowerA
-#define IsCharUpper IsCharUpperA
 #define LoadString LoadStringA
 #define wsprintf wsprintfA
 #define wvsprintf wvsprintfA

@@ -26,10 +26,6 @@
 #define WS_TABSTOP 0x00010000
 #define WS_MINIMIZEBOX 0x00020000
 #define WS_MAXIMIZEBOX 0x00010000
-#define WS_TILED WS_OVERLAPPED
-#define WS_ICONIC WS_MINIMIZE
-#define WS_SIZEBOX WS_THICKFRAME
-#define WS_TILEDWINDOW WS_OVERLAPPEDWINDOW
 #define WS_OVERLAPPEDWINDOW (WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX | WS_MAXIMIZEBOX)
 #define WS_POPUPWINDOW (WS_POPUP | WS_BORDER | WS_SYSMENU)
 #define WS_CHILDWINDOW (WS_CHILD)
@@ -37,32 +33,21 @@
 #define WS_EX_DLGMODALFRAME 0x00000001
 #define WS_EX_NOPARENTNOTIFY 0x00000004
 #define WS_EX_TOPMOST 0x00000008
-#define WS_EX_ACCEPTFILES 0x00000010
 #define WS_EX_TRANSPARENT 0x00000020
-#define WS_EX_MDICHILD 0x00000040
 #define WS_EX_TOOLWINDOW 0x00000080
 #define WS_EX_WINDOWEDGE 0x00000100
 #define WS_EX_CLIENTEDGE 0x00000200
 #define WS_EX_CONTEXTHELP 0x00000400
-#define WS_EX_RIGHT 0x00001000
-#define WS_EX_LEFT 0x00000000
-#define WS_EX_RTLREADING 0x00002000
-#define WS_EX_LTRREADING 0x00000000
-#define WS_EX_LEFTSCROLLBAR 0x00004000
-#define WS_EX_RIGHTSCROLLBAR 0x00000000
 #define WS_EX_CONTROLPARENT 0x00010000
 #define WS_EX_STATICEDGE 0x00020000
 #define WS_EX_APPWINDOW 0x00040000
 #define WS_EX_NOACTIVATE 0x08000000
-#define WS_EX_OVERLAPPEDWINDOW (WS_EX_WINDOWEDGE | WS_EX_CLIENTEDGE)
-#define WS_EX_PALETTEWINDOW (WS_EX_WINDOWEDGE | WS_EX_TOOLWINDOW | WS_EX_TOPMOST)
 
 // --- creating and destroying
 
 #define CW_USEDEFAULT ((int)0x80000000)
 
 #define HWND_DESKTOP ((HWND)0)
-#define HWND_MESSAGE ((HWND)-3)
 #define HWND_TOP ((HWND)0)
 #define HWND_BOTTOM ((HWND)1)
 #define HWND_TOPMOST ((HWND)-1)
@@ -96,14 +81,12 @@ WINUSERAPI LRESULT WINAPI CallWindowProcA(WNDPROC procedure, HWND window, UINT m
 // --- state
 
 WINUSERAPI BOOL WINAPI IsWindow(HWND window);
-WINUSERAPI BOOL WINAPI IsWindowUnicode(HWND window);
 WINUSERAPI BOOL WINAPI IsWindowVisible(HWND window);
 WINUSERAPI BOOL WINAPI IsWindowEnabled(HWND window);
 WINUSERAPI BOOL WINAPI EnableWindow(HWND window, BOOL enable);
 WINUSERAPI BOOL WINAPI IsIconic(HWND window);
 WINUSERAPI BOOL WINAPI IsZoomed(HWND window);
 WINUSERAPI DWORD WINAPI GetWindowThreadProcessId(HWND window, LPDWORD process);
-WINUSERAPI BOOL WINAPI FlashWindow(HWND window, BOOL invert);
 
 WINUSERAPI BOOL WINAPI SetWindowTextA(HWND window, LPCSTR text);
 WINUSERAPI int WINAPI GetWindowTextA(HWND window, LPSTR text, int size);
@@ -131,19 +114,12 @@ WINUSERAPI LONG WINAPI GetWindowLongA(HWND window, int index);
 WINUSERAPI LONG WINAPI SetWindowLongA(HWND window, int index, LONG value);
 WINUSERAPI LONG_PTR WINAPI GetWindowLongPtrA(HWND window, int index);
 WINUSERAPI LONG_PTR WINAPI SetWindowLongPtrA(HWND window, int index, LONG_PTR value);
-WINUSERAPI WORD WINAPI GetWindowWord(HWND window, int index);
-WINUSERAPI WORD WINAPI SetWindowWord(HWND window, int index, WORD value);
 
 // --- properties
-
-typedef BOOL(CALLBACK* PROPENUMPROCA)(HWND window, LPCSTR name, HANDLE data);
-typedef BOOL(CALLBACK* PROPENUMPROCEXA)(HWND window, LPSTR name, HANDLE data, ULONG_PTR parameter);
 
 WINUSERAPI BOOL WINAPI SetPropA(HWND window, LPCSTR name, HANDLE data);
 WINUSERAPI HANDLE WINAPI GetPropA(HWND window, LPCSTR name);
 WINUSERAPI HANDLE WINAPI RemovePropA(HWND window, LPCSTR name);
-WINUSERAPI int WINAPI EnumPropsA(HWND window, PROPENUMPROCA procedure);
-WINUSERAPI int WINAPI EnumPropsExA(HWND window, PROPENUMPROCEXA procedure, LPARAM parameter);
 
 // --- the window tree
 
@@ -161,11 +137,6 @@ typedef BOOL(CALLBACK* WNDENUMPROC)(HWND window, LPARAM parameter);
 #define GA_ROOT 2
 #define GA_ROOTOWNER 3
 
-#define CWP_ALL 0x0000
-#define CWP_SKIPINVISIBLE 0x0001
-#define CWP_SKIPDISABLED 0x0002
-#define CWP_SKIPTRANSPARENT 0x0004
-
 WINUSERAPI HWND WINAPI GetDesktopWindow(VOID);
 WINUSERAPI HWND WINAPI GetParent(HWND window);
 WINUSERAPI HWND WINAPI SetParent(HWND window, HWND parent);
@@ -177,13 +148,8 @@ WINUSERAPI BOOL WINAPI IsChild(HWND parent, HWND window);
 WINUSERAPI HWND WINAPI FindWindowA(LPCSTR className, LPCSTR text);
 WINUSERAPI HWND WINAPI FindWindowExA(HWND parent, HWND after, LPCSTR className, LPCSTR text);
 WINUSERAPI HWND WINAPI WindowFromPoint(POINT point);
-WINUSERAPI HWND WINAPI ChildWindowFromPoint(HWND parent, POINT point);
-WINUSERAPI HWND WINAPI ChildWindowFromPointEx(HWND parent, POINT point, UINT flags);
-WINUSERAPI HWND WINAPI RealChildWindowFromPoint(HWND parent, POINT point);
-WINUSERAPI BOOL WINAPI EnumWindows(WNDENUMPROC procedure, LPARAM parameter);
 WINUSERAPI BOOL WINAPI EnumChildWindows(HWND parent, WNDENUMPROC procedure, LPARAM parameter);
 WINUSERAPI BOOL WINAPI EnumThreadWindows(DWORD thread, WNDENUMPROC procedure, LPARAM parameter);
-WINUSERAPI BOOL WINAPI AnyPopup(VOID);
 
 // --- position, size, visibility
 
@@ -205,9 +171,7 @@ WINUSERAPI BOOL WINAPI AnyPopup(VOID);
 
 // WM_SHOWWINDOW
 #define SW_PARENTCLOSING 1
-#define SW_OTHERZOOM 2
 #define SW_PARENTOPENING 3
-#define SW_OTHERUNZOOM 4
 
 #define SWP_NOSIZE 0x0001
 #define SWP_NOMOVE 0x0002
@@ -220,10 +184,6 @@ WINUSERAPI BOOL WINAPI AnyPopup(VOID);
 #define SWP_NOCOPYBITS 0x0100
 #define SWP_NOOWNERZORDER 0x0200
 #define SWP_NOSENDCHANGING 0x0400
-#define SWP_DRAWFRAME SWP_FRAMECHANGED
-#define SWP_NOREPOSITION SWP_NOOWNERZORDER
-#define SWP_DEFERERASE 0x2000
-#define SWP_ASYNCWINDOWPOS 0x4000
 
 typedef struct tagWINDOWPOS {
     HWND hwnd;
@@ -258,7 +218,6 @@ typedef struct tagMINMAXINFO {
     POINT ptMaxTrackSize;
 } MINMAXINFO, *PMINMAXINFO, *LPMINMAXINFO;
 
-#define WPF_SETMINPOSITION 0x0001
 #define WPF_RESTORETOMAXIMIZED 0x0002
 
 typedef struct tagWINDOWPLACEMENT {
@@ -270,17 +229,9 @@ typedef struct tagWINDOWPLACEMENT {
     RECT rcNormalPosition;
 } WINDOWPLACEMENT, *PWINDOWPLACEMENT, *LPWINDOWPLACEMENT;
 
-typedef HANDLE HDWP;
-
 WINUSERAPI BOOL WINAPI SetWindowPos(HWND window, HWND after, int x, int y, int width, int height, UINT flags);
 WINUSERAPI BOOL WINAPI MoveWindow(HWND window, int x, int y, int width, int height, BOOL repaint);
 WINUSERAPI BOOL WINAPI ShowWindow(HWND window, int show);
-WINUSERAPI HDWP WINAPI BeginDeferWindowPos(int count);
-WINUSERAPI HDWP WINAPI DeferWindowPos(HDWP batch, HWND window, HWND after, int x, int y, int width, int height,
-                                      UINT flags);
-WINUSERAPI BOOL WINAPI EndDeferWindowPos(HDWP batch);
-WINUSERAPI BOOL WINAPI ShowOwnedPopups(HWND owner, BOOL show);
-WINUSERAPI BOOL WINAPI CloseWindow(HWND window);
 
 /// ptMinPosition and ptMaxPosition are always (-1, -1): the system chooses where minimised and maximised windows lie.
 WINUSERAPI BOOL WINAPI GetWindowPlacement(HWND window, WINDOWPLACEMENT* placement);
@@ -291,7 +242,6 @@ WINUSERAPI BOOL WINAPI GetClientRect(HWND window, LPRECT rect);
 WINUSERAPI BOOL WINAPI ClientToScreen(HWND window, LPPOINT point);
 WINUSERAPI BOOL WINAPI ScreenToClient(HWND window, LPPOINT point);
 WINUSERAPI int WINAPI MapWindowPoints(HWND from, HWND to, LPPOINT points, UINT count);
-WINUSERAPI BOOL WINAPI AdjustWindowRect(LPRECT rect, DWORD style, BOOL menu);
 WINUSERAPI BOOL WINAPI AdjustWindowRectEx(LPRECT rect, DWORD style, BOOL menu, DWORD exStyle);
 
 // --- WM_NCHITTEST
@@ -322,7 +272,6 @@ WINUSERAPI BOOL WINAPI AdjustWindowRectEx(LPRECT rect, DWORD style, BOOL menu, D
 #define HTZOOM HTMAXBUTTON
 #define HTSIZEFIRST HTLEFT
 #define HTSIZELAST HTBOTTOMRIGHT
-#define HTOBJECT 19
 #define HTCLOSE 20
 #define HTHELP 21
 
@@ -353,8 +302,6 @@ typedef LPCREATESTRUCTA LPCREATESTRUCT;
 #define SetProp SetPropA
 #define GetProp GetPropA
 #define RemoveProp RemovePropA
-#define EnumProps EnumPropsA
-#define EnumPropsEx EnumPropsExA
 #define FindWindow FindWindowA
 #define FindWindowEx FindWindowExA
 #endif

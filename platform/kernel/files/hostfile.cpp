@@ -202,20 +202,6 @@ LONG FindHostFile(std::string_view path, std::string* host, bool* root) {
     return ERROR_SUCCESS;
 }
 
-std::string DrivePath(const std::string& host) {
-    const std::string state = base::StateFolder();
-    const char drive = DriveOf(host, state);
-    std::string path = "Z:" + host;
-    if (drive != 'z') {
-        path = std::string(1, static_cast<char>(drive & ~0x20)) + ":" + host.substr(DriveLength(state));
-    }
-    if (path.size() == 2) {
-        path += '/';
-    }
-    std::replace(path.begin(), path.end(), '/', '\\');
-    return AnsiFromUtf8(path);
-}
-
 LONG ErrorOfHost(int number) {
     switch (number) {
         case ENOENT:

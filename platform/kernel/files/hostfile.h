@@ -41,9 +41,6 @@ std::string_view WithoutTail(std::string_view name);
 /// @returns the name in a folder that is this one but for its case, or an empty text.
 std::string FindInAnyCase(const std::string& folder, const std::string& name);
 
-/// @returns the Windows path of a host's folder: on one of the drives of the state folder where it lies there, else on Z.
-std::string DrivePath(const std::string& host);
-
 /// @returns ERROR_FILE_NOT_FOUND, ERROR_PATH_NOT_FOUND or another code for a failure of the host's.
 LONG ErrorOfHost(int number);
 

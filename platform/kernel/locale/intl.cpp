@@ -17,24 +17,8 @@ struct Key {
 };
 
 constexpr Key kKeys[] = {
-    {"sCountry", LOCALE_SCOUNTRY},
-    {"sList", LOCALE_SLIST},
-    {"iMeasure", LOCALE_IMEASURE},
     {"sDecimal", LOCALE_SDECIMAL},
     {"sThousand", LOCALE_STHOUSAND},
-    {"sGrouping", LOCALE_SGROUPING},
-    {"iDigits", LOCALE_IDIGITS},
-    {"iLZero", LOCALE_ILZERO},
-    {"sNegativeSign", LOCALE_SNEGATIVESIGN},
-    {"sPositiveSign", LOCALE_SPOSITIVESIGN},
-    {"iNegNumber", LOCALE_INEGNUMBER},
-    {"sCurrency", LOCALE_SCURRENCY},
-    {"sMonDecimalSep", LOCALE_SMONDECIMALSEP},
-    {"sMonThousandSep", LOCALE_SMONTHOUSANDSEP},
-    {"sMonGrouping", LOCALE_SMONGROUPING},
-    {"iCurrDigits", LOCALE_ICURRDIGITS},
-    {"iCurrency", LOCALE_ICURRENCY},
-    {"iNegCurr", LOCALE_INEGCURR},
     {"sDate", LOCALE_SDATE},
     {"sTime", LOCALE_STIME},
     {"sShortDate", LOCALE_SSHORTDATE},
@@ -45,7 +29,6 @@ constexpr Key kKeys[] = {
     {"iTLZero", LOCALE_ITLZERO},
     {"s1159", LOCALE_S1159},
     {"s2359", LOCALE_S2359},
-    {"iFirstDayOfWeek", LOCALE_IFIRSTDAYOFWEEK},
 };
 
 const Key* FindKey(LPCSTR name) {

@@ -43,7 +43,7 @@ std::optional<LocaleNames> NamesOf(LCID locale) {
     if (U_FAILURE(error) || length <= 0 || length >= 64) {
         return std::nullopt;
     }
-    return LocaleNames{name, name, name, name};
+    return LocaleNames{name, name, name};
 }
 
 std::optional<std::string> UsersValue(LCTYPE type) {
@@ -86,21 +86,13 @@ int Find(LCID locale, LCTYPE type, LPSTR buffer, int size) {
 
 }  // namespace
 
-LCID WINAPI GetUserDefaultLCID(void) {
-    return HostNumber();
-}
+namespace platform::kernel {
 
-LCID WINAPI GetSystemDefaultLCID(void) {
-    return HostNumber();
-}
-
-LANGID WINAPI GetUserDefaultLangID(void) {
+LANGID UsersLanguage() {
     return LANGIDFROMLCID(HostNumber());
 }
 
-LANGID WINAPI GetSystemDefaultLangID(void) {
-    return LANGIDFROMLCID(HostNumber());
-}
+}  // namespace platform::kernel
 
 int WINAPI GetLocaleInfoA(LCID locale, LCTYPE type, LPSTR buffer, int size) {
     try {

@@ -45,7 +45,7 @@ BOOL WINAPI SetLocaleInfoA(LCID locale, LCTYPE type, LPCSTR data) try {
         return base::Fail(ERROR_INVALID_PARAMETER, FALSE);
     }
     const LCTYPE item = type & ~LCTYPE{LOCALE_NOUSEROVERRIDE | LOCALE_USE_CP_ACP};
-    if (!IntlKey(item) || item == LOCALE_SCOUNTRY) {
+    if (!IntlKey(item)) {
         return base::Fail(ERROR_INVALID_FLAGS, FALSE);
     }
     if (std::strlen(data) > LongestOf(item)) {

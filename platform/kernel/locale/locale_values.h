@@ -14,7 +14,6 @@ struct LocaleNames {
     std::string language;
     std::string time;
     std::string numbers;
-    std::string money;
 };
 
 /// @returns the locales that the environment asks for; "C" and "POSIX", and a missing one, are American English.

@@ -13,6 +13,7 @@
 
 #include "base/fail.h"
 #include "base/handle.h"
+#include "kernel/memory/probe.h"
 
 namespace base = platform::base;
 
@@ -25,7 +26,6 @@ struct alignas(16) Block {
     std::uint32_t handle = 0;
     std::atomic<std::uint32_t> locks{0};
     bool movable = false;
-    bool discardable = false;
     bool discarded = false;
 
     char* bytes() {
@@ -34,6 +34,7 @@ struct alignas(16) Block {
 };
 static_assert(sizeof(Block) == 32);
 
+constexpr std::uint32_t kMostLocks = 0xFF;
 constexpr std::size_t kMostBlockBytes = std::size_t{1} << 39;
 
 std::atomic<unsigned> failCountdown{0};
@@ -61,7 +62,7 @@ Block* BlockAt(LPCVOID address) {
     const auto at = reinterpret_cast<std::uintptr_t>(address);
     const std::uintptr_t record = at - sizeof(Block);
     if (at % alignof(Block) != 0 || at < sizeof(Block) ||
-        IsBadReadPtr(reinterpret_cast<const void*>(record), sizeof(Block))) {
+        !platform::kernel::IsReadable(reinterpret_cast<const void*>(record), sizeof(Block))) {
         return nullptr;
     }
     void* block = platform::base::FindHandle(HandleInFront(at), HandleKind::GlobalBlock);
@@ -95,12 +96,13 @@ Block* Resize(Block* block, std::size_t size, bool zero, bool mayMove) {
         }
     } else {
         const std::uint32_t handle = block->handle;
+        const auto former = reinterpret_cast<std::uintptr_t>(block);
         auto* moved = static_cast<Block*>(std::realloc(static_cast<void*>(block), total));
         if (!moved) {
             return nullptr;
         }
-        if (moved != block) {
-            platform::base::ReplaceHandle(handle, HandleKind::GlobalBlock, moved);
+        if (reinterpret_cast<std::uintptr_t>(moved) != former) {
+            platform::base::ReplaceHandle(handle, HandleKind::GlobalBlock, former, moved);
         }
         block = moved;
     }
@@ -110,6 +112,19 @@ Block* Resize(Block* block, std::size_t size, bool zero, bool mayMove) {
         std::memset(block->bytes() + old, 0, size - old);
     }
     return block;
+}
+
+// Small blocks are cleared here: calloc passes the cache of small blocks by, and takes several times as long for them.
+void* NewMemory(std::size_t size, bool zero) {
+    constexpr std::size_t kSmall = 1024;
+    if (zero && size > kSmall) {
+        return std::calloc(1, size);
+    }
+    void* memory = std::malloc(size);
+    if (memory && zero) {
+        std::memset(memory, 0, size);
+    }
+    return memory;
 }
 
 HGLOBAL Discard(Block* block) {
@@ -125,9 +140,8 @@ HGLOBAL Discard(Block* block) {
 }
 
 HGLOBAL Modify(Block* block, UINT flags) {
-    // A block may become movable and discardable, never the other way.
+    // A block may become movable, never the other way.
     block->movable = block->movable || (flags & GMEM_MOVEABLE);
-    block->discardable = block->discardable || (block->movable && (flags & GMEM_DISCARDABLE));
     return ToGlobal(block);
 }
 
@@ -141,14 +155,13 @@ HGLOBAL WINAPI GlobalAlloc(UINT flags, SIZE_T size) {
         return base::Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
     }
     const std::size_t total = size + sizeof(Block);
-    void* memory = flags & GMEM_ZEROINIT ? std::calloc(1, total) : std::malloc(total);
+    void* memory = NewMemory(total, flags & GMEM_ZEROINIT);
     if (!memory) {
         return base::Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
     }
     auto* block = new (memory) Block;
     block->size = size;
     block->movable = (flags & GMEM_MOVEABLE) != 0;
-    block->discardable = block->movable && (flags & GMEM_DISCARDABLE);
     block->discarded = block->movable && size == 0;
     block->handle = platform::base::InsertHandle(HandleKind::GlobalBlock, block);
     if (!block->handle) {
@@ -197,7 +210,7 @@ LPVOID WINAPI GlobalLock(HGLOBAL memory) {
         return base::Fail<LPVOID>(ERROR_DISCARDED, nullptr);
     }
     std::uint32_t locks = block->locks.load(std::memory_order_relaxed);
-    while (locks < GMEM_LOCKCOUNT && !block->locks.compare_exchange_weak(locks, locks + 1)) {
+    while (locks < kMostLocks && !block->locks.compare_exchange_weak(locks, locks + 1)) {
     }
     return block->bytes();
 }
@@ -224,14 +237,6 @@ HGLOBAL WINAPI GlobalHandle(LPCVOID address) {
 SIZE_T WINAPI GlobalSize(HGLOBAL memory) {
     const Block* block = FindBlock(memory);
     return block ? block->size : 0;
-}
-
-UINT WINAPI GlobalFlags(HGLOBAL memory) {
-    const Block* block = FindBlock(memory);
-    if (!block) {
-        return GMEM_INVALID_HANDLE;
-    }
-    return block->locks | (block->discarded ? GMEM_DISCARDED : 0) | (block->discardable ? GMEM_DISCARDABLE : 0);
 }
 
 void CvPlatformFailAllocation(unsigned count) {

@@ -10,6 +10,7 @@
 #include <new>
 
 #include "base/fail.h"
+#include "kernel/memory/pages.h"
 
 namespace base = platform::base;
 
@@ -17,8 +18,7 @@ namespace {
 
 struct Area {
     std::size_t size;
-    std::map<std::uintptr_t, DWORD> protection;  ///< by page, where it is not the first one
-    DWORD initial;
+    bool writable;
 };
 
 // Areas by address. Never destroyed: memory may be released while the process ends.
@@ -46,18 +46,39 @@ int HostProtection(DWORD protection) {
             return PROT_READ;
         case PAGE_READWRITE:
             return PROT_READ | PROT_WRITE;
-        case PAGE_EXECUTE:
-            return PROT_EXEC;
-        case PAGE_EXECUTE_READ:
-            return PROT_READ | PROT_EXEC;
-        case PAGE_EXECUTE_READWRITE:
-            return PROT_READ | PROT_WRITE | PROT_EXEC;
         default:
             return -1;
     }
 }
 
+/// @returns the area around an address, or the end. Lock held.
+std::map<std::uintptr_t, Area>::iterator AreaAround(std::uintptr_t address) {
+    auto found = Areas().upper_bound(address);
+    if (found == Areas().begin()) {
+        return Areas().end();
+    }
+    --found;
+    return address - found->first < found->second.size ? found : Areas().end();
+}
+
 }  // namespace
+
+namespace platform::kernel {
+
+PageRun WritablePages(std::uintptr_t address) {
+    // A probe never waits: it may come from a signal's handler.
+    const std::unique_lock guard(AreasLock(), std::try_to_lock);
+    if (!guard) {
+        return {};
+    }
+    const auto found = AreaAround(address);
+    if (found == Areas().end() || !found->second.writable) {
+        return {};
+    }
+    return {found->first, found->first + found->second.size, g_pagesAge.load()};
+}
+
+}  // namespace platform::kernel
 
 // Reserving and committing are one step here, at an address that the host chooses.
 LPVOID WINAPI VirtualAlloc(LPVOID address, SIZE_T size, DWORD type, DWORD protection) {
@@ -73,7 +94,7 @@ LPVOID WINAPI VirtualAlloc(LPVOID address, SIZE_T size, DWORD type, DWORD protec
     }
     try {
         const std::lock_guard guard(AreasLock());
-        Areas()[reinterpret_cast<std::uintptr_t>(memory)] = Area{rounded, {}, protection};
+        Areas()[reinterpret_cast<std::uintptr_t>(memory)] = Area{rounded, (host & PROT_WRITE) != 0};
     } catch (const std::bad_alloc&) {
         munmap(memory, rounded);
         return base::Fail<LPVOID>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
@@ -90,44 +111,8 @@ BOOL WINAPI VirtualFree(LPVOID address, SIZE_T size, DWORD type) {
     if (area == Areas().end()) {
         return base::Fail(ERROR_INVALID_ADDRESS, FALSE);
     }
+    platform::kernel::g_pagesAge.fetch_add(1);
     munmap(address, area->second.size);
     Areas().erase(area);
-    return TRUE;
-}
-
-// Changes whole pages of one area; the former protection is that of the first page.
-BOOL WINAPI VirtualProtect(LPVOID address, SIZE_T size, DWORD protection, PDWORD previous) {
-    const int host = HostProtection(protection);
-    if (host < 0 || size == 0) {
-        return base::Fail(ERROR_INVALID_PARAMETER, FALSE);
-    }
-    if (!previous) {
-        return base::Fail(ERROR_NOACCESS, FALSE);
-    }
-    const auto at = reinterpret_cast<std::uintptr_t>(address);
-    const std::lock_guard guard(AreasLock());
-    auto found = Areas().upper_bound(at);
-    if (found == Areas().begin()) {
-        return base::Fail(ERROR_INVALID_ADDRESS, FALSE);
-    }
-    --found;
-    Area& area = found->second;
-    if (at - found->first >= area.size || size > area.size - (at - found->first)) {
-        return base::Fail(ERROR_INVALID_ADDRESS, FALSE);
-    }
-    const std::uintptr_t first = at & ~(PageSize() - 1);
-    const std::uintptr_t last = (at + size - 1) & ~(PageSize() - 1);
-    if (mprotect(reinterpret_cast<void*>(first), last - first + PageSize(), host) != 0) {
-        return base::Fail(ERROR_ACCESS_DENIED, FALSE);
-    }
-    const auto former = area.protection.find(first);
-    *previous = former == area.protection.end() ? area.initial : former->second;
-    try {
-        for (std::uintptr_t page = first; page <= last; page += PageSize()) {
-            area.protection[page] = protection;
-        }
-    } catch (const std::bad_alloc&) {
-        // Only the report of a former protection suffers.
-    }
     return TRUE;
 }

@@ -66,11 +66,6 @@ Module* Application() {
 }
 
 void RemoveModule(Module* module) {
-    for (ResourceEntry& entry : module->resources) {
-        if (entry.handle) {
-            base::RemoveHandle(entry.handle, HandleKind::Resource);
-        }
-    }
     base::RemoveHandle(base::ToNumber(module->handle), HandleKind::Module);
     std::erase_if(Modules(), [module](const auto& other) { return other.get() == module; });
 }
@@ -150,7 +145,7 @@ void NotifyThread(DWORD reason) {
         const std::lock_guard guard(ModuleLock());
         entries.reserve(Modules().size());
         for (const auto& module : Modules()) {
-            if (module->entry && module->wantsThreads) {
+            if (module->entry) {
                 entries.emplace_back(module->handle, module->entry);
             }
         }
@@ -322,17 +317,6 @@ BOOL WINAPI FreeLibrary(HMODULE handle) {
             RemoveModule(module);
         }
     }
-    return TRUE;
-}
-
-BOOL WINAPI DisableThreadLibraryCalls(HMODULE handle) {
-    const std::lock_guard guard(ModuleLock());
-    Module* module = handle ? FindModule(handle) : nullptr;
-    if (!module) {
-        SetLastError(ERROR_INVALID_HANDLE);
-        return FALSE;
-    }
-    module->wantsThreads = false;
     return TRUE;
 }
 

@@ -21,7 +21,6 @@ struct Module {
     BOOL(WINAPI* entry)(HINSTANCE, DWORD, LPVOID) = nullptr;
     void* loaded = nullptr;  ///< the host loader's handle, of LoadLibraryA
     unsigned loads = 0;
-    bool wantsThreads = true;  ///< whether its entry point is told about threads
     Bytes resourceFile;
     bool resourcesRead = false;
     bool resourcesDamaged = false;

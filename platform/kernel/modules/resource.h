@@ -19,7 +19,7 @@ struct ResourceName {
     std::string text;
 
     bool operator==(const ResourceName&) const = default;
-    /// From an argument of FindResourceA: a number in a pointer, "#123" or a text.
+    /// From what an API call names it by: a number in a pointer, "#123" or a text.
     static ResourceName FromArgument(LPCSTR argument);
 };
 
@@ -28,7 +28,6 @@ struct ResourceEntry {
     ResourceName name;
     WORD language = 0;
     Bytes data;
-    std::uint32_t handle = 0;  ///< made when it is found for the first time
 };
 
 /// Reads all entries. @param damaged  set when the file ends in the middle of an entry or lies about a length; the
@@ -36,7 +35,7 @@ struct ResourceEntry {
 std::vector<ResourceEntry> ReadResources(Bytes file, bool* damaged);
 
 /// @returns the data of a resource of a module (null: the application), empty with the documented error code set when
-/// there is none.
+/// there is none. They stay where they are for as long as the module is loaded.
 Bytes FindResourceBytes(HMODULE module, LPCSTR name, LPCSTR type);
 
 }  // namespace platform::kernel

@@ -45,9 +45,6 @@ class Cursor {
     void Align() {
         at_ = (at_ + 3) & ~std::size_t{3};
     }
-    bool AtEnd() const {
-        return at_ >= bytes_.size();
-    }
     std::size_t at() const {
         return at_;
     }

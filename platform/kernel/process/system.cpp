@@ -1,22 +1,14 @@
-// Facts about the machine and the system. The layer is of the 4.0 family, and so are the answers that name a version or
-// a processor.
+// Facts about the machine.
 #include <windows.h>
 
 #include <sys/sysinfo.h>
-#include <sys/utsname.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cstdio>
-#include <cstring>
-#include <string>
 #include <thread>
 
 namespace {
-
-constexpr DWORD kMajor = 4;
-constexpr DWORD kMinor = 0;
-constexpr DWORD kBuild = 1381;
 
 // "MemAvailable" counts what caches would give back; sysinfo knows nothing of it.
 SIZE_T AvailableMemory(SIZE_T otherwise) {
@@ -33,23 +25,6 @@ SIZE_T AvailableMemory(SIZE_T otherwise) {
 }
 
 }  // namespace
-
-DWORD WINAPI GetVersion(void) {
-    return kBuild << 16 | kMinor << 8 | kMajor;
-}
-
-BOOL WINAPI GetVersionExA(LPOSVERSIONINFOA information) {
-    if (!information || information->dwOSVersionInfoSize < sizeof(OSVERSIONINFOA)) {
-        SetLastError(ERROR_INSUFFICIENT_BUFFER);
-        return FALSE;
-    }
-    information->dwMajorVersion = kMajor;
-    information->dwMinorVersion = kMinor;
-    information->dwBuildNumber = kBuild;
-    information->dwPlatformId = VER_PLATFORM_WIN32_NT;
-    information->szCSDVersion[0] = '\0';
-    return TRUE;
-}
 
 void WINAPI GetSystemInfo(LPSYSTEM_INFO information) {
     *information = SYSTEM_INFO{};
@@ -82,23 +57,4 @@ void WINAPI GlobalMemoryStatus(LPMEMORYSTATUS status) {
     if (status->dwTotalPhys) {
         status->dwMemoryLoad = static_cast<DWORD>(100 - status->dwAvailPhys * 100 / status->dwTotalPhys);
     }
-}
-
-BOOL WINAPI GetComputerNameA(LPSTR buffer, LPDWORD size) {
-    utsname host{};
-    if (!buffer || !size || uname(&host) != 0) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return FALSE;
-    }
-    std::size_t length = std::min<std::size_t>(std::strcspn(host.nodename, "."), MAX_COMPUTERNAME_LENGTH);
-    if (length >= *size) {
-        *size = static_cast<DWORD>(length + 1);
-        SetLastError(ERROR_BUFFER_OVERFLOW);
-        return FALSE;
-    }
-    std::memcpy(buffer, host.nodename, length);
-    buffer[length] = '\0';
-    CharUpperBuffA(buffer, static_cast<DWORD>(length));
-    *size = static_cast<DWORD>(length);
-    return TRUE;
 }

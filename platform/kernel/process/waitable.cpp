@@ -26,7 +26,6 @@ struct Waitable {
     std::condition_variable changed;
     bool signalled = false;
     bool manualReset = true;
-    DWORD exitCode = STILL_ACTIVE;
     std::vector<const ObjectWait*> waits;  // of threads that wait for more than this
 
     // Lock held.
@@ -81,10 +80,9 @@ std::shared_ptr<Waitable> FindWaitable(HANDLE handle, std::initializer_list<Hand
 
 void RunThread(const std::shared_ptr<Waitable>& object, LPTHREAD_START_ROUTINE start, LPVOID parameter) {
     platform::kernel::NotifyThread(DLL_THREAD_ATTACH);
-    const DWORD code = start(parameter);
+    start(parameter);
     platform::kernel::NotifyThread(DLL_THREAD_DETACH);
     const std::lock_guard guard(object->lock);
-    object->exitCode = code;
     object->Signal();
 }
 
@@ -201,19 +199,6 @@ HANDLE WINAPI CreateThread(LPSECURITY_ATTRIBUTES, SIZE_T, LPTHREAD_START_ROUTINE
     }
 }
 
-BOOL WINAPI GetExitCodeThread(HANDLE thread, LPDWORD code) {
-    if (!code) {
-        return base::Fail(ERROR_INVALID_PARAMETER, FALSE);
-    }
-    const auto object = FindWaitable(thread, {HandleKind::Thread});
-    if (!object) {
-        return FALSE;
-    }
-    const std::lock_guard guard(object->lock);
-    *code = object->exitCode;
-    return TRUE;
-}
-
 HANDLE WINAPI CreateEventA(LPSECURITY_ATTRIBUTES, BOOL manualReset, BOOL initialState, LPCSTR name) {
     if (name) {
         return base::Fail<HANDLE>(ERROR_NOT_SUPPORTED, nullptr);  // events are not shared between processes here
@@ -236,16 +221,6 @@ BOOL WINAPI SetEvent(HANDLE event) {
     }
     const std::lock_guard guard(object->lock);
     object->Signal();
-    return TRUE;
-}
-
-BOOL WINAPI ResetEvent(HANDLE event) {
-    const auto object = FindWaitable(event, {HandleKind::Event});
-    if (!object) {
-        return FALSE;
-    }
-    const std::lock_guard guard(object->lock);
-    object->signalled = false;
     return TRUE;
 }
 

@@ -124,21 +124,6 @@ std::vector<std::string> IniFile::Keys(std::string_view section) const {
     return names;
 }
 
-std::vector<std::string> IniFile::Entries(std::string_view section) const {
-    std::vector<std::string> entries;
-    const std::size_t start = SectionStart(Trim(section));
-    if (start < lines_.size()) {
-        const std::size_t end = SectionEnd(start);
-        for (std::size_t i = start + 1; i < end; ++i) {
-            if (lines_[i].isKey) {
-                const std::string_view raw = lines_[i].raw;
-                entries.push_back(lines_[i].name + "=" + std::string(Trim(raw.substr(raw.find('=') + 1))));
-            }
-        }
-    }
-    return entries;
-}
-
 void IniFile::Set(std::string_view section, std::string_view key, std::string_view value) {
     section = Trim(section);
     key = Trim(key);

@@ -18,9 +18,6 @@ class IniFile {
     std::vector<std::string> Sections() const;
     std::vector<std::string> Keys(std::string_view section) const;
 
-    /// @returns the entries of a section as "key=value", as they stand in the file.
-    std::vector<std::string> Entries(std::string_view section) const;
-
     /// Sets a key, in place where it exists; the section is added at the end when it is missing.
     void Set(std::string_view section, std::string_view key, std::string_view value);
     /// @returns whether there was one.

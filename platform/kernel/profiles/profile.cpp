@@ -285,14 +285,6 @@ DWORD GetText(const std::string& path, LPCSTR section, LPCSTR key, LPCSTR defaul
     return DeliverText(otherwise, buffer, size);
 }
 
-DWORD GetSection(const std::string& path, LPCSTR section, LPSTR buffer, DWORD size) {
-    if (!section || !buffer) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return 0;
-    }
-    return DeliverList(Load(path)->Entries(section), buffer, size);
-}
-
 // A sign, then digits up to the first character that is none; "0x" begins hexadecimal ones. An empty value is no
 // number.
 UINT GetNumber(const std::string& path, LPCSTR section, LPCSTR key, INT defaultValue) {
@@ -369,14 +361,6 @@ UINT WINAPI GetPrivateProfileIntA(LPCSTR section, LPCSTR key, INT defaultValue, 
 DWORD WINAPI GetPrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR defaultText, LPSTR buffer, DWORD size,
                                       LPCSTR file) {
     return Guarded(DWORD{0}, [&] { return GetText(ProfilePath(file), section, key, defaultText, buffer, size); });
-}
-
-DWORD WINAPI GetProfileSectionA(LPCSTR section, LPSTR buffer, DWORD size) {
-    return Guarded(DWORD{0}, [&] { return GetSection(WinIni(), section, buffer, size); });
-}
-
-DWORD WINAPI GetPrivateProfileSectionA(LPCSTR section, LPSTR buffer, DWORD size, LPCSTR file) {
-    return Guarded(DWORD{0}, [&] { return GetSection(ProfilePath(file), section, buffer, size); });
 }
 
 BOOL WINAPI WritePrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR text, LPCSTR file) {

@@ -107,11 +107,3 @@ BOOL WINAPI IsCharAlphaA(CHAR character) {
 BOOL WINAPI IsCharAlphaNumericA(CHAR character) {
     return IsKind(character, CodePage::kAlpha | CodePage::kDigit);
 }
-
-BOOL WINAPI IsCharUpperA(CHAR character) {
-    return IsKind(character, CodePage::kUpper);
-}
-
-BOOL WINAPI IsCharLowerA(CHAR character) {
-    return IsKind(character, CodePage::kLower);
-}

@@ -86,12 +86,6 @@ void FillCase(CodePage& page) {
             numeric == U_NT_DECIMAL || numeric == U_NT_DIGIT) {
             page.kind[byte] |= CodePage::kDigit;
         }
-        if (u_isUUppercase(character)) {
-            page.kind[byte] |= CodePage::kUpper;
-        }
-        if (u_isULowercase(character)) {
-            page.kind[byte] |= CodePage::kLower;
-        }
         // A letter whose other case the page lacks keeps its own.
         const std::uint16_t upper = page.fromUnicode[static_cast<char16_t>(u_toupper(character))];
         const std::uint16_t lower = page.fromUnicode[static_cast<char16_t>(u_tolower(character))];
@@ -232,10 +226,6 @@ UINT WINAPI GetOEMCP(void) {
     return name && name->oem ? name->oem : 437;
 }
 
-BOOL WINAPI IsValidCodePage(UINT codePage) {
-    return codePage == CP_UTF8 || platform::kernel::NameOf(codePage) != nullptr;
-}
-
 BOOL WINAPI GetCPInfo(UINT codePage, LPCPINFO info) {
     const CodePage* page = codePage == CP_UTF8 ? nullptr : FindCodePage(codePage);
     if (!info || (!page && codePage != CP_UTF8)) {
@@ -257,12 +247,4 @@ BOOL WINAPI GetCPInfo(UINT codePage, LPCPINFO info) {
 
 BOOL WINAPI IsDBCSLeadByte(BYTE byte) {
     return ActiveCodePage().lead[byte];
-}
-
-BOOL WINAPI IsDBCSLeadByteEx(UINT codePage, BYTE byte) {
-    const CodePage* page = FindCodePage(codePage);
-    if (!page) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-    }
-    return page && page->lead[byte];
 }

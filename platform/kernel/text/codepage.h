@@ -21,9 +21,9 @@ struct CodePage {
         fromUnicode;  ///< bytes (lead << 8 | trail, or the single byte) by UTF-16 unit; 0 for none
     std::array<std::uint8_t, 256> upper{};  ///< case of single bytes
     std::array<std::uint8_t, 256> lower{};
-    std::array<std::uint8_t, 256> kind{};  ///< kAlpha | kDigit | kUpper | kLower
+    std::array<std::uint8_t, 256> kind{};  ///< kAlpha | kDigit
 
-    static constexpr std::uint8_t kAlpha = 1, kDigit = 2, kUpper = 4, kLower = 8;
+    static constexpr std::uint8_t kAlpha = 1, kDigit = 2;
 
     /// @returns the character at text[0], and how many bytes it takes (1 or 2; a lead byte before the end takes 1).
     char16_t Decode(const unsigned char* text, std::size_t left, std::size_t* size) const;

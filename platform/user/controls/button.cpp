@@ -131,7 +131,7 @@ void OnMouseMove(HWND button, const ButtonData& data, LPARAM lParam) {
 void OnDoubleClick(HWND button, ButtonData& data) {
     const DWORD style = ControlStyle(button);
     const DWORD kind = ButtonKind(style);
-    if ((style & BS_NOTIFY) || kind == BS_OWNERDRAW || IsRadioKind(kind) || kind == BS_USERBUTTON)
+    if ((style & BS_NOTIFY) || kind == BS_OWNERDRAW || IsRadioKind(kind))
         NotifyParent(button, BN_DOUBLECLICKED);
     else
         OnButtonDown(button, data);
@@ -219,14 +219,6 @@ void OnPaint(HWND button, const ButtonData& data, HDC given) {
     EndPaint(button, &paint);
 }
 
-LRESULT OnSetImage(HWND button, ButtonData& data, WPARAM kind, LPARAM handle) {
-    const HANDLE previous = data.image;
-    data.imageKind = static_cast<UINT>(kind);
-    data.image = reinterpret_cast<HANDLE>(handle);
-    RedrawAll(button, data);
-    return reinterpret_cast<LRESULT>(previous);
-}
-
 LRESULT OnButtonMessage(HWND button, ButtonData& data, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case BM_GETCHECK:
@@ -250,10 +242,6 @@ LRESULT OnButtonMessage(HWND button, ButtonData& data, UINT message, WPARAM wPar
             SendMessageA(button, WM_LBUTTONDOWN, MK_LBUTTON, 0);
             SendMessageA(button, WM_LBUTTONUP, 0, 0);
             return 0;
-        case BM_GETIMAGE:
-            return reinterpret_cast<LRESULT>(data.imageKind == wParam ? data.image : nullptr);
-        case BM_SETIMAGE:
-            return OnSetImage(button, data, wParam, lParam);
         default:
             return DefWindowProcA(button, message, wParam, lParam);
     }
@@ -299,10 +287,6 @@ LRESULT CALLBACK ButtonProcedure(HWND window, UINT message, WPARAM wParam, LPARA
     if (!data)
         return AnswerWithoutData(window, message, wParam, lParam);
     switch (message) {
-        case WM_CREATE:
-            if (ButtonKind(ControlStyle(window)) == BS_USERBUTTON)
-                OnSetStyle(window, *data, BS_PUSHBUTTON, FALSE);
-            return 0;
         case WM_GETDLGCODE:
             return ButtonDialogCode(window, lParam);
         case WM_NCHITTEST: {
@@ -312,7 +296,6 @@ LRESULT CALLBACK ButtonProcedure(HWND window, UINT message, WPARAM wParam, LPARA
         case WM_ERASEBKGND:
             return TRUE;
         case WM_PAINT:
-        case WM_PRINTCLIENT:
             OnPaint(window, *data, reinterpret_cast<HDC>(wParam));
             return 0;
         case WM_ENABLE:
@@ -340,7 +323,7 @@ LRESULT CALLBACK ButtonProcedure(HWND window, UINT message, WPARAM wParam, LPARA
             InvalidateRect(window, nullptr, TRUE);
             return 0;
         default:
-            if (message >= BM_GETCHECK && message <= BM_SETIMAGE)
+            if (message >= BM_GETCHECK && message <= BM_CLICK)
                 return OnButtonMessage(window, *data, message, wParam, lParam);
             return OnInput(window, *data, message, wParam, lParam);
     }

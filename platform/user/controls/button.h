@@ -12,8 +12,6 @@ struct ButtonData : ControlData {
     UINT state = 0;             ///< BST_ bits, as BM_GETSTATE gives them
     Press press = Press::None;  ///< what holds the button down (with the capture)
     HFONT font = nullptr;
-    HANDLE image = nullptr;
-    UINT imageKind = IMAGE_BITMAP;
 };
 
 inline DWORD ButtonKind(DWORD style) {

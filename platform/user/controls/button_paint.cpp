@@ -33,11 +33,8 @@ struct ButtonPainter {
     bool Focused() const {
         return (data.state & BST_FOCUS) != 0;
     }
-    bool Checked() const {
-        return (data.state & (BST_CHECKED | BST_INDETERMINATE)) != 0;
-    }
     bool LooksPush() const {
-        return !(IsCheckKind(Kind()) || IsRadioKind(Kind())) || (style & BS_PUSHLIKE);
+        return !IsCheckKind(Kind()) && !IsRadioKind(Kind());
     }
 };
 
@@ -91,52 +88,7 @@ void DrawLabel(const ButtonPainter& painter, RECT place, UINT format) {
     DrawTextA(painter.context, painter.text.c_str(), static_cast<int>(painter.text.size()), &place, format);
 }
 
-/// A button whose style and picture agree shows the picture instead of its text.
-bool ShowsPicture(const ButtonPainter& painter) {
-    const UINT kind = painter.data.imageKind;
-    return painter.data.image &&
-           ((kind == IMAGE_BITMAP && (painter.style & BS_BITMAP)) || (kind == IMAGE_ICON && (painter.style & BS_ICON)));
-}
-
-SIZE PictureSize(const ButtonPainter& painter) {
-    BITMAP info{};
-    if (painter.data.imageKind == IMAGE_BITMAP) {
-        GetObjectA(painter.data.image, sizeof info, &info);
-        return {info.bmWidth, info.bmHeight};
-    }
-    ICONINFO icon{};
-    if (!GetIconInfo(static_cast<HICON>(painter.data.image), &icon))
-        return {};
-    // A mask alone holds both halves of an icon, one above the other.
-    GetObjectA(icon.hbmColor ? icon.hbmColor : icon.hbmMask, sizeof info, &info);
-    DeleteObject(icon.hbmColor);
-    DeleteObject(icon.hbmMask);
-    return {info.bmWidth, icon.hbmColor ? info.bmHeight : info.bmHeight / 2};
-}
-
-void DrawPicture(const ButtonPainter& painter, const RECT& area) {
-    if (painter.data.imageKind == IMAGE_BITMAP) {
-        DrawCentredBitmap(painter.context, static_cast<HBITMAP>(painter.data.image), area);
-        return;
-    }
-    const SIZE size = PictureSize(painter);
-    DrawIconEx(painter.context, (area.left + area.right - size.cx) / 2, (area.top + area.bottom - size.cy) / 2,
-               static_cast<HICON>(painter.data.image), size.cx, size.cy, 0, nullptr, DI_NORMAL);
-}
-
-/// The picture of a check box or a radio button begins where its text would.
-RECT PlacePicture(const ButtonPainter& painter, const RECT& area) {
-    const SIZE size = PictureSize(painter);
-    const int top = area.top + (area.bottom - area.top - size.cy) / 2;
-    const int left = painter.style & BS_LEFTTEXT ? std::max<int>(area.left, area.right - size.cx) : area.left;
-    return {left, top, std::min<LONG>(area.right, left + size.cx), top + size.cy};
-}
-
 void DrawContents(const ButtonPainter& painter, const RECT& area) {
-    if (ShowsPicture(painter)) {
-        DrawPicture(painter, area);
-        return;
-    }
     if (painter.text.empty())
         return;
     const UINT format = TextFormat(painter);
@@ -155,26 +107,22 @@ void PaintPush(const ButtonPainter& painter) {
     ControlBrush(painter.button, painter.context, WM_CTLCOLORBTN);
     RECT frame = painter.client;
     const bool isDefault = painter.Kind() == BS_DEFPUSHBUTTON;
-    const bool checked = (painter.style & BS_PUSHLIKE) && painter.Checked();
-    const bool down = painter.Pushed() || checked;
     if (isDefault) {
         FrameRect(painter.context, &frame, GetSysColorBrush(COLOR_WINDOWFRAME));
         InflateRect(&frame, -1, -1);
     }
-    if (isDefault && down) {
+    if (isDefault && painter.Pushed()) {
         // The outlined button goes flat when pressed: a single line of shadow.
         FillRect(painter.context, &frame, GetSysColorBrush(COLOR_BTNFACE));
         FrameRect(painter.context, &frame, GetSysColorBrush(COLOR_BTNSHADOW));
     } else {
         RECT bevel = frame;
-        DrawFrameControl(painter.context, &bevel, DFC_BUTTON,
-                         DFCS_BUTTONPUSH | (painter.Pushed() ? DFCS_PUSHED : 0) | (checked ? DFCS_CHECKED : 0) |
-                             (painter.style & BS_FLAT ? DFCS_FLAT : 0));
+        DrawFrameControl(painter.context, &bevel, DFC_BUTTON, DFCS_BUTTONPUSH | (painter.Pushed() ? DFCS_PUSHED : 0));
     }
     // The contents are laid out in the whole button, so that the outline does not move them.
     RECT area = painter.client;
     InflateRect(&area, -kEdge, -kEdge);
-    if (down)
+    if (painter.Pushed())
         OffsetRect(&area, 1, 1);
     DrawContents(painter, area);
     if (painter.Focused()) {
@@ -195,8 +143,6 @@ UINT BoxState(const ButtonPainter& painter) {
         state |= DFCS_PUSHED;
     if (painter.Disabled())
         state |= DFCS_INACTIVE;
-    if (painter.style & BS_FLAT)
-        state |= DFCS_FLAT;
     return state;
 }
 
@@ -210,8 +156,7 @@ void PaintBox(const ButtonPainter& painter) {
     else
         area.left += kBoxSize + kBoxGap;
     const UINT format = TextFormat(painter);
-    const bool picture = ShowsPicture(painter);
-    RECT place = picture ? PlacePicture(painter, area) : PlaceText(painter, area, format);
+    RECT place = PlaceText(painter, area, format);
 
     RECT box = painter.client;
     if (boxAtRight)
@@ -223,12 +168,9 @@ void PaintBox(const ButtonPainter& painter) {
     box.bottom = box.top + kBoxSize;
     DrawFrameControl(painter.context, &box, DFC_BUTTON, BoxState(painter));
 
-    if (picture)
-        DrawPicture(painter, place);
-    else if (painter.text.empty())
+    if (painter.text.empty())
         return;
-    else
-        DrawLabel(painter, place, format);
+    DrawLabel(painter, place, format);
     if (painter.Focused()) {
         InflateRect(&place, 1, 1);
         RECT focus{};

@@ -1,4 +1,5 @@
 #include "user/controls/controls.h"
+#include "user/dialog/dialog.h"
 
 #include "user/window/above.h"
 #include "user/window/class.h"
@@ -42,42 +43,21 @@ void DrawDisabledText(HDC context, const std::string& text, RECT rect, UINT form
     SetBkMode(context, mode);
 }
 
-namespace {
-
-/// Hands a bitmap, selected into a context of its own, to an action, together with its size.
-template <class Action>
-void WithBitmap(HDC context, HBITMAP bitmap, const Action& action) {
+void DrawCentredBitmap(HDC context, HBITMAP bitmap, const RECT& rect) {
     BITMAP info{};
-    if (!bitmap || !GetObjectA(bitmap, sizeof info, &info))
-        return;
-    const HDC memory = CreateCompatibleDC(context);
+    const HDC memory = bitmap && GetObjectA(bitmap, sizeof info, &info) ? CreateCompatibleDC(context) : nullptr;
     if (!memory)
         return;
     const HGDIOBJ previous = SelectObject(memory, bitmap);
-    action(memory, info.bmWidth, info.bmHeight);
+    const int x = (rect.left + rect.right - info.bmWidth) / 2;
+    const int y = (rect.top + rect.bottom - info.bmHeight) / 2;
+    BitBlt(context, x, y, info.bmWidth, info.bmHeight, memory, 0, 0, SRCCOPY);
     SelectObject(memory, previous);
     DeleteDC(memory);
 }
 
-}  // namespace
-
-void DrawCentredBitmap(HDC context, HBITMAP bitmap, const RECT& rect) {
-    WithBitmap(context, bitmap, [&](HDC memory, int width, int height) {
-        const int x = (rect.left + rect.right - width) / 2;
-        const int y = (rect.top + rect.bottom - height) / 2;
-        BitBlt(context, x, y, width, height, memory, 0, 0, SRCCOPY);
-    });
-}
-
-void DrawStretchedBitmap(HDC context, HBITMAP bitmap, const RECT& rect) {
-    WithBitmap(context, bitmap, [&](HDC memory, int width, int height) {
-        StretchBlt(context, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top, memory, 0, 0, width,
-                   height, SRCCOPY);
-    });
-}
-
 void RegisterDialogClasses() {
-    RegisterSystemClass("#32770", DefDlgProcA, CS_SAVEBITS | CS_DBLCLKS, DLGWINDOWEXTRA, IDC_ARROW, nullptr);
+    RegisterSystemClass("#32770", DialogProcedure, CS_SAVEBITS | CS_DBLCLKS, DLGWINDOWEXTRA, IDC_ARROW, nullptr);
     RegisterSystemClass("Button", ButtonProcedure, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 0, IDC_ARROW, nullptr);
     RegisterSystemClass("Edit", EditProcedure, CS_DBLCLKS, 0, IDC_IBEAM, nullptr);
     RegisterSystemClass("Static", StaticProcedure, CS_DBLCLKS, 0, IDC_ARROW, nullptr);

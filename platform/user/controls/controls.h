@@ -70,7 +70,4 @@ void DrawDisabledText(HDC context, const std::string& text, RECT rect, UINT form
 /// Draws a bitmap in its own size, centred in a rectangle.
 void DrawCentredBitmap(HDC context, HBITMAP bitmap, const RECT& rect);
 
-/// Draws a bitmap as large as a rectangle.
-void DrawStretchedBitmap(HDC context, HBITMAP bitmap, const RECT& rect);
-
 }  // namespace platform::user

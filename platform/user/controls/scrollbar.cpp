@@ -1,6 +1,4 @@
-// The "scrollbar" class: a scroll bar on its own, and the box at a window's corner that sizes it.
-#include <algorithm>
-
+// The "scrollbar" class: a scroll bar on its own.
 #include "user/controls/controls.h"
 #include "user/frame/above.h"
 #include "user/frame/scrollbar/bar.h"
@@ -17,34 +15,6 @@ struct ScrollBarData : ControlData {
         bar->high = 0;
     }
 };
-
-bool IsVertical(HWND window) {
-    return (ControlStyle(window) & SBS_VERT) != 0;
-}
-
-bool IsSizeBox(HWND window) {
-    return (ControlStyle(window) & (SBS_SIZEBOX | SBS_SIZEGRIP)) != 0;
-}
-
-/// The aligned styles give a bar its usual width, at one side of the rectangle that it was made with.
-void Align(HWND window, const CREATESTRUCTA& create) {
-    const DWORD style = ControlStyle(window);
-    if (!(style & (SBS_TOPALIGN | SBS_BOTTOMALIGN)))
-        return;
-    RECT place{create.x, create.y, create.x + create.cx, create.y + create.cy};
-    const bool atEnd = (style & SBS_BOTTOMALIGN) != 0;
-    const bool both = IsSizeBox(window);
-    if (both || IsVertical(window)) {
-        const int width = GetSystemMetrics(SM_CXVSCROLL);
-        (atEnd ? place.left : place.right) = atEnd ? place.right - width : place.left + width;
-    }
-    if (both || !IsVertical(window)) {
-        const int height = GetSystemMetrics(SM_CYHSCROLL);
-        (atEnd ? place.top : place.bottom) = atEnd ? place.bottom - height : place.top + height;
-    }
-    SetWindowPos(window, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
-}
 
 // --- the caret: a grey block that blinks on the thumb
 
@@ -74,20 +44,10 @@ void ShowFocus(HWND window) {
 
 // --- painting
 
-void PaintSizeBox(HWND window, HDC context) {
-    RECT client{};
-    GetClientRect(window, &client);
-    FillRect(context, &client, GetSysColorBrush(COLOR_3DFACE));
-    if (ControlStyle(window) & SBS_SIZEGRIP)
-        DrawFrameControl(context, &client, DFC_SCROLL, DFCS_SCROLLSIZEGRIP);
-}
-
 void OnPaint(HWND window) {
     PAINTSTRUCT paint{};
     const HDC context = BeginPaint(window, &paint);
-    if (context && IsSizeBox(window))
-        PaintSizeBox(window, context);
-    else if (context)
+    if (context)
         DrawBarControl(window, context);
     EndPaint(window, &paint);
 }
@@ -106,12 +66,6 @@ void Repaint(HWND window) {
 void OnButtonDown(HWND window, LPARAM lParam) {
     POINT point = MousePoint(lParam);
     ClientToScreen(window, &point);
-    if (IsSizeBox(window)) {
-        const bool topLeft = (ControlStyle(window) & SBS_SIZEBOXTOPLEFTALIGN) != 0;
-        SendMessageA(GetParent(window), WM_SYSCOMMAND, SC_SIZE | (topLeft ? WMSZ_TOPLEFT : WMSZ_BOTTOMRIGHT),
-                     MAKELPARAM(point.x, point.y));
-        return;
-    }
     if (ControlStyle(window) & WS_TABSTOP)
         SetFocus(window);
     TrackBar({window, SB_CTL}, point);
@@ -157,20 +111,13 @@ LRESULT Change(HWND window, ScrollBarData& data, const SCROLLINFO& info, bool re
         const bool alive = CanScroll(*data.bar);
         data.idle = !alive;
         if (alive || asked) {
-            data.bar->arrows = alive ? ESB_ENABLE_BOTH : ESB_DISABLE_BOTH;
+            data.bar->disabled = !alive;
             EnableWindow(window, alive);
         }
     }
     if (redraw)
         Repaint(window);
     return position;
-}
-
-LRESULT OnSetRange(HWND window, ScrollBarData& data, WPARAM low, LPARAM high, bool redraw) {
-    const int before = data.bar->position;
-    const SCROLLINFO info{sizeof info, SIF_RANGE, static_cast<int>(low), static_cast<int>(high), 0, 0, 0};
-    const LRESULT position = Change(window, data, info, redraw);
-    return position == before ? 0 : before;
 }
 
 LRESULT OnBarMessage(HWND window, ScrollBarData& data, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -184,24 +131,6 @@ LRESULT OnBarMessage(HWND window, ScrollBarData& data, UINT message, WPARAM wPar
         }
         case SBM_GETPOS:
             return bar.position;
-        case SBM_SETRANGE:
-        case SBM_SETRANGEREDRAW:
-            return OnSetRange(window, data, wParam, lParam, message == SBM_SETRANGEREDRAW);
-        case SBM_GETRANGE:
-            if (auto* low = reinterpret_cast<int*>(wParam))
-                *low = bar.low;
-            if (auto* high = reinterpret_cast<int*>(lParam))
-                *high = bar.high;
-            return 0;
-        case SBM_ENABLE_ARROWS: {
-            const UINT arrows = static_cast<UINT>(wParam) & ESB_DISABLE_BOTH;
-            const bool changed = bar.arrows != arrows;
-            // A bar of which nothing works is a disabled window. One that is enabled has both arrows to begin with.
-            EnableWindow(window, arrows != ESB_DISABLE_BOTH);
-            bar.arrows = arrows;
-            Repaint(window);
-            return changed;
-        }
         case SBM_SETSCROLLINFO: {
             const auto* info = reinterpret_cast<const SCROLLINFO*>(lParam);
             return info ? Change(window, data, *info, wParam != 0) : 0;
@@ -225,9 +154,6 @@ LRESULT CALLBACK ScrollBarProcedure(HWND window, UINT message, WPARAM wParam, LP
     if (!data)
         return AnswerWithoutData(window, message, wParam, lParam);
     switch (message) {
-        case WM_CREATE:
-            Align(window, *reinterpret_cast<const CREATESTRUCTA*>(lParam));
-            return 0;
         case WM_GETDLGCODE:
             return DLGC_WANTARROWS;
         case WM_ERASEBKGND:
@@ -235,12 +161,9 @@ LRESULT CALLBACK ScrollBarProcedure(HWND window, UINT message, WPARAM wParam, LP
         case WM_PAINT:
             OnPaint(window);
             return 0;
-        case WM_PRINTCLIENT:
-            DrawBarControl(window, reinterpret_cast<HDC>(wParam));
-            return 0;
         case WM_ENABLE:
             data->idle = data->idle && !wParam;
-            data->bar->arrows = wParam ? ESB_ENABLE_BOTH : ESB_DISABLE_BOTH;
+            data->bar->disabled = !wParam;
             Repaint(window);
             return 0;
         case WM_SETFOCUS:

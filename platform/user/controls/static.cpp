@@ -62,7 +62,6 @@ LRESULT CALLBACK StaticProcedure(HWND window, UINT message, WPARAM wParam, LPARA
         case WM_ERASEBKGND:
             return TRUE;
         case WM_PAINT:
-        case WM_PRINTCLIENT:
             OnPaint(window, *data, reinterpret_cast<HDC>(wParam));
             return 0;
         case WM_ENABLE:

@@ -5,15 +5,13 @@
 namespace platform::user {
 namespace {
 
-constexpr DWORD kOwnSize = SS_CENTERIMAGE | SS_REALSIZEIMAGE | SS_REALSIZECONTROL;
-
 bool IsIconKind(WPARAM kind) {
     return kind == IMAGE_ICON || kind == IMAGE_CURSOR;
 }
 
 void FitTo(HWND control, SIZE size) {
     const DWORD style = ControlStyle(control);
-    if (size.cx <= 0 || size.cy <= 0 || (style & kOwnSize))
+    if (size.cx <= 0 || size.cy <= 0 || (style & SS_CENTERIMAGE))
         return;
     RECT window{};
     RECT client{};
@@ -22,10 +20,7 @@ void FitTo(HWND control, SIZE size) {
     MapWindowPoints(nullptr, GetParent(control), reinterpret_cast<POINT*>(&window), 2);
     const int width = size.cx + (window.right - window.left - client.right);
     const int height = size.cy + (window.bottom - window.top - client.bottom);
-    const bool fixedAtRight = style & SS_RIGHTJUST;
-    const int x = fixedAtRight ? window.right - width : window.left;
-    const int y = fixedAtRight ? window.bottom - height : window.top;
-    SetWindowPos(control, nullptr, x, y, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+    SetWindowPos(control, nullptr, window.left, window.top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 LRESULT SetBitmap(HWND control, StaticData& data, HBITMAP bitmap) {

@@ -5,19 +5,6 @@
 namespace platform::user {
 namespace {
 
-UINT Ellipsis(DWORD style) {
-    switch (style & SS_ELLIPSISMASK) {
-        case SS_ENDELLIPSIS:
-            return DT_END_ELLIPSIS | DT_SINGLELINE;
-        case SS_PATHELLIPSIS:
-            return DT_PATH_ELLIPSIS | DT_SINGLELINE;
-        case SS_WORDELLIPSIS:
-            return DT_WORD_ELLIPSIS | DT_SINGLELINE;
-        default:
-            return 0;
-    }
-}
-
 UINT TextFormat(DWORD style) {
     UINT format = style & SS_NOPREFIX ? DT_NOPREFIX : 0;
     switch (StaticKind(style)) {
@@ -41,7 +28,6 @@ UINT TextFormat(DWORD style) {
         format |= DT_EDITCONTROL;
     if (style & SS_CENTERIMAGE)
         format |= DT_SINGLELINE | DT_VCENTER;
-    format |= Ellipsis(style);
     return format & DT_SINGLELINE ? format & ~UINT{DT_WORDBREAK} : format;
 }
 
@@ -75,10 +61,7 @@ struct StaticPainter {
         if (!data.bitmap || !GetObjectA(data.bitmap, sizeof info, &info))
             return;
         const RECT whole{0, 0, info.bmWidth, info.bmHeight};
-        if (style & SS_REALSIZECONTROL)
-            DrawStretchedBitmap(context, data.bitmap, client);
-        else
-            DrawCentredBitmap(context, data.bitmap, style & SS_CENTERIMAGE ? client : whole);
+        DrawCentredBitmap(context, data.bitmap, style & SS_CENTERIMAGE ? client : whole);
     }
 
     void Icon() const {
@@ -87,8 +70,9 @@ struct StaticPainter {
         if (size.cx <= 0)
             return;
         const bool centred = style & SS_CENTERIMAGE;
-        DrawIconEx(context, centred ? (client.right - size.cx) / 2 : 0, centred ? (client.bottom - size.cy) / 2 : 0,
-                   data.icon, size.cx, size.cy, 0, nullptr, DI_NORMAL);
+        RECT place{0, 0, size.cx, size.cy};
+        OffsetRect(&place, centred ? (client.right - size.cx) / 2 : 0, centred ? (client.bottom - size.cy) / 2 : 0);
+        DrawIconIn(context, place, data.icon);
     }
 
     void AskOwner() const {

@@ -18,4 +18,8 @@ bool ReadHostClipboard(std::string* utf8);
 /// Gives the host's clipboard a text.
 void WriteHostClipboard(const std::string& utf8);
 
+/// The same for the text that was selected last on the host.
+bool ReadHostSelection(std::string* utf8);
+void WriteHostSelection(const std::string& utf8);
+
 }  // namespace platform::user

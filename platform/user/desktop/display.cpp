@@ -133,4 +133,15 @@ void WriteHostClipboard(const std::string& utf8) {
     }
 }
 
+bool ReadHostSelection(std::string* utf8) {
+    display::Display* shown = presenter.load(std::memory_order_acquire);
+    return shown != nullptr && shown->ReadSelection(utf8);
+}
+
+void WriteHostSelection(const std::string& utf8) {
+    if (display::Display* shown = presenter.load(std::memory_order_acquire)) {
+        shown->WriteSelection(utf8);
+    }
+}
+
 }  // namespace platform::user

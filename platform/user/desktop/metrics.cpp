@@ -16,14 +16,9 @@ using namespace platform::user;
 int WINAPI GetSystemMetrics(int index) {
     switch (index) {
         case SM_CXSCREEN:
-        case SM_CXVIRTUALSCREEN:
-        case SM_CXFULLSCREEN:
             return platform::gdi::Screen().width;
         case SM_CYSCREEN:
-        case SM_CYVIRTUALSCREEN:
             return platform::gdi::Screen().height;
-        case SM_CYFULLSCREEN:
-            return platform::gdi::Screen().height - GetSystemMetrics(SM_CYCAPTION);
         case SM_CXMAXIMIZED:
             return platform::gdi::Screen().width + 2 * GetSystemMetrics(SM_CXSIZEFRAME);
         case SM_CYMAXIMIZED:
@@ -34,44 +29,30 @@ int WINAPI GetSystemMetrics(int index) {
             return platform::gdi::Screen().height + 12;
         case SM_CXBORDER:
         case SM_CYBORDER:
-        case SM_MOUSEPRESENT:
-        case SM_MOUSEWHEELPRESENT:
-        case SM_CMONITORS:
-        case SM_SAMEDISPLAYFORMAT:
             return 1;
         case SM_CXEDGE:
         case SM_CYEDGE:
             return 2;
         case SM_CXDLGFRAME:
         case SM_CYDLGFRAME:
-        case SM_CMOUSEBUTTONS:
             return 3;
         case SM_CXFRAME:
         case SM_CYFRAME:
         case SM_CXDOUBLECLK:
         case SM_CYDOUBLECLK:
-        case SM_CXDRAG:
-        case SM_CYDRAG:
             return 4;
         case SM_CYCAPTION:
         case SM_CYMENU:
             return 19;  // one pixel more than the bar itself: the line below it
-        case SM_CXSIZE:
-        case SM_CYSIZE:
         case SM_CXMENUSIZE:
         case SM_CYMENUSIZE:
             return 18;
         case SM_CYSMCAPTION:
             return 16;
-        case SM_CXSMSIZE:
-        case SM_CYSMSIZE:
-            return 15;
         case SM_CXVSCROLL:
         case SM_CYHSCROLL:
         case SM_CYVSCROLL:
-        case SM_CXHSCROLL:
         case SM_CYVTHUMB:
-        case SM_CXHTHUMB:
         case SM_CXSMICON:
         case SM_CYSMICON:
             return 16;
@@ -80,47 +61,23 @@ int WINAPI GetSystemMetrics(int index) {
         case SM_CXCURSOR:
         case SM_CYCURSOR:
             return 32;
-        case SM_CXMIN:
         case SM_CXMINTRACK:
             return 112;
-        case SM_CYMIN:
         case SM_CYMINTRACK:
             return 27;
-        case SM_CXICONSPACING:
-        case SM_CYICONSPACING:
-            return 75;
         case SM_CXMENUCHECK:
         case SM_CYMENUCHECK:
             return 13;
         case SM_CXMINIMIZED:
-        case SM_CXMINSPACING:
             return 160;
         case SM_CYMINIMIZED:
-        case SM_CYMINSPACING:
             return 24;
-        case SM_DBCSENABLED: {
-            CPINFO info;
-            return GetCPInfo(CP_ACP, &info) && info.MaxCharSize > 1;
-        }
         default:
             return 0;
     }
 }
 
 namespace {
-
-struct Settings {
-    BOOL beep = TRUE;
-    BOOL dragFullWindows = TRUE;
-    UINT wheelLines = 3;
-    int keyboardDelay = 1;
-    DWORD keyboardSpeed = 31;
-};
-
-Settings& TheSettings() {
-    static Settings settings;
-    return settings;
-}
 
 LOGFONTA DialogFont(LONG weight) {
     LOGFONTA font{};
@@ -146,41 +103,16 @@ BOOL NonClientMetrics(NONCLIENTMETRICSA* metrics) {
     return TRUE;
 }
 
-BOOL Apply(UINT action, UINT parameter, PVOID data) {
-    Settings& settings = TheSettings();
+}  // namespace
+
+BOOL WINAPI SystemParametersInfoA(UINT action, UINT, PVOID data, UINT) {
+    if (!data) {
+        SetLastError(ERROR_NOACCESS);
+        return FALSE;
+    }
     switch (action) {
-        case SPI_GETBEEP:
-            *static_cast<BOOL*>(data) = settings.beep;
-            return TRUE;
-        case SPI_SETBEEP:
-            settings.beep = parameter != 0;
-            return TRUE;
-        case SPI_GETBORDER:
-            *static_cast<int*>(data) = 1;
-            return TRUE;
-        case SPI_GETKEYBOARDSPEED:
-            *static_cast<DWORD*>(data) = settings.keyboardSpeed;
-            return TRUE;
-        case SPI_SETKEYBOARDSPEED:
-            settings.keyboardSpeed = parameter;
-            return TRUE;
-        case SPI_GETKEYBOARDDELAY:
-            *static_cast<int*>(data) = settings.keyboardDelay;
-            return TRUE;
-        case SPI_SETKEYBOARDDELAY:
-            settings.keyboardDelay = static_cast<int>(parameter);
-            return TRUE;
-        case SPI_GETDRAGFULLWINDOWS:
-            *static_cast<BOOL*>(data) = settings.dragFullWindows;
-            return TRUE;
-        case SPI_SETDRAGFULLWINDOWS:
-            settings.dragFullWindows = parameter != 0;
-            return TRUE;
         case SPI_GETWHEELSCROLLLINES:
-            *static_cast<UINT*>(data) = settings.wheelLines;
-            return TRUE;
-        case SPI_SETWHEELSCROLLLINES:
-            settings.wheelLines = parameter;
+            *static_cast<UINT*>(data) = 3;
             return TRUE;
         case SPI_GETWORKAREA:
             *static_cast<RECT*>(data) = {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
@@ -194,27 +126,6 @@ BOOL Apply(UINT action, UINT parameter, PVOID data) {
             SetLastError(ERROR_INVALID_PARAMETER);
             return FALSE;
     }
-}
-
-bool TakesNoData(UINT action) {
-    return action == SPI_SETBEEP || action == SPI_SETKEYBOARDSPEED || action == SPI_SETKEYBOARDDELAY ||
-           action == SPI_SETDRAGFULLWINDOWS || action == SPI_SETWHEELSCROLLLINES;
-}
-
-}  // namespace
-
-BOOL WINAPI SystemParametersInfoA(UINT action, UINT parameter, PVOID data, UINT winIni) {
-    if (!data && !TakesNoData(action)) {
-        SetLastError(ERROR_NOACCESS);
-        return FALSE;
-    }
-    if (!Apply(action, parameter, data)) {
-        return FALSE;
-    }
-    if (TakesNoData(action) && (winIni & SPIF_SENDCHANGE)) {
-        BroadcastSetting(WM_WININICHANGE, action, 0);
-    }
-    return TRUE;
 }
 
 namespace {
@@ -236,13 +147,11 @@ DWORD WINAPI GetGuiResources(HANDLE, DWORD flags) {
     switch (flags) {
         case GR_GDIOBJECTS:
             return static_cast<DWORD>(platform::gdi::CountObjects()) + static_cast<DWORD>(ContextsInUse());
-        case GR_USEROBJECTS: {
-            // The desktop and the parent of message-only windows are the system's own.
-            MessageRoot();
+        case GR_USEROBJECTS:
+            // The desktop and the parent of what has lost its own are the system's.
+            Orphanage();
             Desktop();
-            return static_cast<DWORD>(platform::base::CountHandles(platform::base::HandleKind::Window)) - 2 +
-                   OwnIcons();
-        }
+            return static_cast<DWORD>(platform::base::CountHandles(platform::base::HandleKind::Window)) - 2;
         default:
             SetLastError(ERROR_INVALID_PARAMETER);
             return 0;

@@ -19,32 +19,17 @@ BOOL WINAPI GetUserObjectInformationA(HANDLE object, int index, PVOID informatio
         return FALSE;
     }
     const USEROBJECTFLAGS flags{FALSE, FALSE, platform::display::IsInteractive() ? DWORD{WSF_VISIBLE} : 0};
-    static constexpr char kName[] = "WinSta0";
-    static constexpr char kType[] = "WindowStation";
-    const void* value = &flags;
-    DWORD length = sizeof flags;
-    switch (index) {
-        case UOI_FLAGS:
-            break;
-        case UOI_NAME:
-            value = kName;
-            length = sizeof kName;
-            break;
-        case UOI_TYPE:
-            value = kType;
-            length = sizeof kType;
-            break;
-        default:
-            SetLastError(ERROR_INVALID_PARAMETER);
-            return FALSE;
+    if (index != UOI_FLAGS) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return FALSE;
     }
     if (needed != nullptr) {
-        *needed = length;
+        *needed = sizeof flags;
     }
-    if (information == nullptr || size < length) {
+    if (information == nullptr || size < sizeof flags) {
         SetLastError(ERROR_INSUFFICIENT_BUFFER);
         return FALSE;
     }
-    std::memcpy(information, value, length);
+    std::memcpy(information, &flags, sizeof flags);
     return TRUE;
 }

@@ -7,17 +7,13 @@ namespace {
 /// Messages whose answer is the dialog procedure's own result; for all others that is DWLP_MSGRESULT.
 bool AnswersDirectly(UINT message) {
     switch (message) {
-        case WM_CTLCOLORMSGBOX:
         case WM_CTLCOLOREDIT:
         case WM_CTLCOLORLISTBOX:
         case WM_CTLCOLORBTN:
         case WM_CTLCOLORDLG:
         case WM_CTLCOLORSCROLLBAR:
         case WM_CTLCOLORSTATIC:
-        case WM_COMPAREITEM:
         case WM_VKEYTOITEM:
-        case WM_CHARTOITEM:
-        case WM_QUERYDRAGICON:
         case WM_INITDIALOG:
             return true;
         default:
@@ -80,7 +76,6 @@ void EraseDialog(HWND dialog, HDC context) {
         brush = reinterpret_cast<HBRUSH>(DefWindowProcA(dialog, WM_CTLCOLORDLG, dc, self));
     RECT client{};
     GetClientRect(dialog, &client);
-    DPtoLP(context, reinterpret_cast<POINT*>(&client), 2);
     FillRect(context, &client, brush);
 }
 
@@ -158,15 +153,7 @@ LRESULT DefaultAnswer(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam, D
 
 }  // namespace
 
-LRESULT CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    return DefDlgProcA(window, message, wParam, lParam);
-}
-
-}  // namespace platform::user
-
-using namespace platform::user;
-
-WINUSERAPI LRESULT WINAPI DefDlgProcA(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT CALLBACK DialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
     const auto state = NeedDialogState(dialog);
     if (!state)
         return 0;
@@ -183,3 +170,5 @@ WINUSERAPI LRESULT WINAPI DefDlgProcA(HWND dialog, UINT message, WPARAM wParam, 
     }
     return DefaultAnswer(dialog, message, wParam, lParam, *state);
 }
+
+}  // namespace platform::user

@@ -3,6 +3,8 @@
 #include <cstring>
 #include <new>
 
+#include "kernel/modules/resource.h"
+
 namespace platform::user {
 namespace {
 
@@ -196,14 +198,10 @@ bool ParseDialogTemplate(const void* data, size_t size, DialogTemplate& result) 
 }
 
 bool LoadDialogTemplate(HINSTANCE instance, LPCSTR name, DialogTemplate& result) {
-    const HRSRC resource = FindResourceA(instance, name, RT_DIALOG);
-    if (!resource)
+    const kernel::Bytes resource = kernel::FindResourceBytes(instance, name, RT_DIALOG);
+    if (resource.empty())
         return false;
-    const HGLOBAL loaded = LoadResource(instance, resource);
-    const void* data = loaded ? LockResource(loaded) : nullptr;
-    if (!data)
-        return false;
-    if (ParseDialogTemplate(data, SizeofResource(instance, resource), result))
+    if (ParseDialogTemplate(resource.data(), resource.size(), result))
         return true;
     SetLastError(ERROR_INVALID_DATA);
     return false;

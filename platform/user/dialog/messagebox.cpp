@@ -239,11 +239,7 @@ int ShowBox(HWND owner, LPCSTR text, LPCSTR caption, UINT type) {
 }  // namespace
 }  // namespace platform::user
 
-WINUSERAPI int WINAPI MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type) {
-    return MessageBoxExA(owner, text, caption, type, 0);
-}
-
-WINUSERAPI int WINAPI MessageBoxExA(HWND owner, LPCSTR text, LPCSTR caption, UINT type, WORD) try {
+WINUSERAPI int WINAPI MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type) try {
     return platform::user::ShowBox(owner, text, caption, type);
 } catch (const std::bad_alloc&) {
     SetLastError(ERROR_NOT_ENOUGH_MEMORY);

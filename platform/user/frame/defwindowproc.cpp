@@ -4,6 +4,7 @@
 #include <new>
 #include <utility>
 
+#include "gdi/context/device_context.h"
 #include "gdi/context/objects.h"
 #include "kernel/memory/probe.h"
 #include "user/frame/nonclient.h"
@@ -33,7 +34,7 @@ LRESULT SetText(HWND handle, LPCSTR text) {
     const bool hasCaption = CaptionHeight(window->style, window->exStyle) && IsShown(window);
     hold.unlock();
     if (hasCaption) {
-        PaintFrame(handle, reinterpret_cast<HRGN>(1));
+        PaintFrame(handle);
     }
     return TRUE;
 }
@@ -60,8 +61,7 @@ LRESULT EraseBackground(HWND handle, HDC context) {
     if (!brush) {
         return 0;
     }
-    RECT area;
-    GetClipBox(context, &area);
+    const RECT area = gdi::ClipBounds(context);
     FillRect(context, &area, brush);
     return 1;
 }
@@ -112,7 +112,7 @@ HBRUSH ChequeredBrush() {
     static const HBRUSH brush = [] {
         const WORD rows[8] = {0x5555, 0xAAAA, 0x5555, 0xAAAA, 0x5555, 0xAAAA, 0x5555, 0xAAAA};
         const HBITMAP bitmap = CreateBitmap(8, 8, 1, 1, rows);
-        const HBRUSH made = CreatePatternBrush(bitmap);
+        const HBRUSH made = gdi::MakePatternBrush(bitmap);
         DeleteObject(bitmap);
         // It is the system's own, and no application is to answer for it.
         if (auto* object = gdi::FindObject<gdi::Brush>(made)) {
@@ -166,16 +166,6 @@ LRESULT ActivateByMouse(HWND handle, WPARAM wParam, LPARAM lParam) {
     return MA_ACTIVATE;
 }
 
-/// Alt+F4 closes; other system keys have no menu to go to.
-LRESULT SystemKeyDown(HWND handle, WPARAM key, LPARAM bits) {
-    if (key == VK_F4 && (bits & (1 << 29))) {
-        if (const HWND top = GetAncestor(handle, GA_ROOT)) {
-            SendMessageA(top, WM_SYSCOMMAND, SC_CLOSE, 0);
-        }
-    }
-    return 0;
-}
-
 void SetRedraw(HWND handle, bool redraw) {
     UserHold hold(UserLock());
     Window* window = PeekWindow(handle);
@@ -202,26 +192,10 @@ LRESULT SetIcon(HWND handle, bool big, HICON icon) {
     const bool hasCaption = CaptionHeight(window->style, window->exStyle) && IsShown(window);
     hold.unlock();
     if (hasCaption) {
-        PaintFrame(handle, reinterpret_cast<HRGN>(1));
+        PaintFrame(handle);
     }
     return reinterpret_cast<LRESULT>(before);
 }
-
-void Print(HWND handle, WPARAM context, LPARAM what) {
-    if ((what & PRF_CHECKVISIBLE) && !IsWindowVisible(handle)) {
-        return;
-    }
-    if (what & PRF_ERASEBKGND) {
-        SendMessageA(handle, WM_ERASEBKGND, context, 0);
-    }
-    if (what & PRF_CLIENT) {
-        SendMessageA(handle, WM_PRINTCLIENT, context, what);
-    }
-}
-
-// WM_NOTIFYFORMAT: a control asks its parent, which hears every notification in the ANSI form.
-constexpr LPARAM kQueryFormat = 3;
-constexpr LRESULT kAnsiFormat = 1;
 
 }  // namespace
 }  // namespace platform::user
@@ -264,9 +238,7 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
             return 0;
         }
         case WM_ERASEBKGND:
-        case WM_ICONERASEBKGND:
             return EraseBackground(handle, reinterpret_cast<HDC>(wParam));
-        case WM_CTLCOLORMSGBOX:
         case WM_CTLCOLOREDIT:
         case WM_CTLCOLORLISTBOX:
         case WM_CTLCOLORBTN:
@@ -296,7 +268,11 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
         case WM_SETCURSOR:
             return SetCursorFor(handle, wParam, lParam);
         case WM_SYSKEYDOWN:
-            return SystemKeyDown(handle, wParam, lParam);
+            return OnSystemKey(handle, wParam, lParam);
+        case WM_SYSCHAR:
+            return OnSystemCharacter(handle, wParam, lParam);
+        case WM_KEYUP:
+            return OnKeyUp(handle, wParam);
         case WM_RBUTTONUP: {
             POINT point = MousePoint(lParam);
             ClientToScreen(handle, &point);
@@ -310,6 +286,7 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
             return above ? SendMessageA(above, message, wParam, lParam) : 0;
         }
         case WM_CONTEXTMENU:
+            return OnContextMenu(handle, wParam, lParam);
         case WM_MOUSEWHEEL:
             if (IsChildStyle(window->style)) {
                 if (const HWND parent = GetParent(handle)) {
@@ -318,19 +295,11 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
             }
             return 0;
         case WM_VKEYTOITEM:
-        case WM_CHARTOITEM:
             return -1;
-        case WM_NOTIFYFORMAT:
-            return lParam == kQueryFormat ? kAnsiFormat : 0;
         case WM_GETICON:
             return reinterpret_cast<LRESULT>(wParam == ICON_BIG ? window->bigIcon : window->smallIcon);
         case WM_SETICON:
             return SetIcon(handle, wParam == ICON_BIG, reinterpret_cast<HICON>(lParam));
-        case WM_QUERYDRAGICON:
-            return reinterpret_cast<LRESULT>(window->bigIcon ? window->bigIcon : window->windowClass->icon);
-        case WM_PRINT:
-            Print(handle, wParam, lParam);
-            return 0;
         case WM_SHOWWINDOW:
             // Owned windows come and go with their owner.
             if (lParam && window->owner) {
@@ -338,9 +307,7 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
             }
             return 0;
         case WM_CANCELMODE:
-            if (GetCapture() == handle) {
-                ReleaseCapture();
-            }
+            LeaveModes(handle);
             return 0;
         default:
             return 0;

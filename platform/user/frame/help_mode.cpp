@@ -59,11 +59,6 @@ HWND WindowToAsk(HWND handle, POINT point) try {
     return nullptr;
 }
 
-bool IsPress(UINT message) {
-    return message == WM_LBUTTONDOWN || message == WM_LBUTTONDBLCLK || message == WM_RBUTTONDOWN ||
-           message == WM_RBUTTONDBLCLK || message == WM_MBUTTONDOWN || message == WM_MBUTTONDBLCLK;
-}
-
 /// Waits for a press of a button, Escape, or somebody who takes the mouse away. @returns whether the left button went
 /// down, and where.
 bool WaitForClick(HWND handle, POINT* point) {

@@ -71,7 +71,7 @@ HICON CaptionIcon(const Window* window) {
     if (!(window->style & WS_SYSMENU) || (window->exStyle & (WS_EX_TOOLWINDOW | WS_EX_DLGMODALFRAME))) {
         return nullptr;
     }
-    for (HICON icon : {window->smallIcon, window->windowClass->smallIcon, window->bigIcon, window->windowClass->icon}) {
+    for (HICON icon : {window->smallIcon, window->bigIcon, window->windowClass->icon}) {
         if (icon) {
             return icon;
         }
@@ -178,6 +178,8 @@ void CalculateClient(HWND handle, RECT* rect) {
     }
 }
 
+}  // namespace
+
 UINT SizingCursor(int hitCode) {
     switch (hitCode) {
         case HTLEFT:
@@ -196,8 +198,6 @@ UINT SizingCursor(int hitCode) {
             return 32512;
     }
 }
-
-}  // namespace
 
 bool SetHitCursor(HWND hit, int hitCode, UINT) {
     if (hitCode == HTCLIENT) {
@@ -252,12 +252,12 @@ LRESULT DefaultNonClient(Window* window, UINT message, WPARAM wParam, LPARAM lPa
         case WM_NCHITTEST:
             return HitTest(handle, point);
         case WM_NCPAINT:
-            PaintFrame(handle, reinterpret_cast<HRGN>(wParam));
+            PaintFrame(handle);
             return 0;
         case WM_NCACTIVATE: {
             window->captionActive = wParam != 0;
             if (window->style & WS_VISIBLE) {
-                PaintFrame(handle, reinterpret_cast<HRGN>(1));
+                PaintFrame(handle);
             }
             return TRUE;
         }
@@ -289,8 +289,4 @@ BOOL WINAPI AdjustWindowRectEx(LPRECT rect, DWORD style, BOOL menu, DWORD exStyl
     InflateRect(rect, inset, inset);
     rect->top -= CaptionHeight(style, exStyle) + (menu ? GetSystemMetrics(SM_CYMENU) : 0);
     return TRUE;
-}
-
-BOOL WINAPI AdjustWindowRect(LPRECT rect, DWORD style, BOOL menu) {
-    return AdjustWindowRectEx(rect, style, menu, 0);
 }

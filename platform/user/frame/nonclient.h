@@ -11,8 +11,21 @@ RECT ClientFromWindow(const Window* window, const RECT& windowRect);
 /// WM_NCPAINT, WM_NCHITTEST, WM_NCCALCSIZE, WM_NCLBUTTONDOWN, WM_SYSCOMMAND, ... as DefWindowProcA answers them.
 LRESULT DefaultNonClient(Window* window, UINT message, WPARAM wParam, LPARAM lParam);
 
+/// WM_SYSKEYDOWN: Alt+F4 closes, Shift+F10 asks for the context menu, as the menu key does when it is let go (WM_KEYUP).
+LRESULT OnSystemKey(HWND window, WPARAM key, LPARAM bits);
+LRESULT OnKeyUp(HWND window, WPARAM key);
+/// WM_SYSCHAR: Alt+Space opens the system menu; other characters have no menu to go to.
+LRESULT OnSystemCharacter(HWND window, WPARAM character, LPARAM bits);
+/// WM_CONTEXTMENU: a child leaves it to its parent; over a caption the system menu is meant.
+LRESULT OnContextMenu(HWND window, WPARAM wParam, LPARAM lParam);
+/// WM_CANCELMODE: the mouse is let go, and a menu of the window or of one in it is put away.
+void LeaveModes(HWND window);
+
 /// WM_SETCURSOR's default, once the parents have been asked. @returns whether a cursor was set.
 bool SetHitCursor(HWND hit, int hitCode, UINT mouseMessage);
+
+/// @returns the IDC_ number of the pointer over a part of the frame.
+UINT SizingCursor(int hitCode);
 
 /// @returns how many pixels wide the frame is on each side, the sunken client edge left out.
 int FrameWidth(DWORD style, DWORD exStyle);
@@ -35,9 +48,8 @@ CaptionParts LayOutCaption(const Window* window, RECT windowRect);
 /// @returns the HT code of a screen point.
 LRESULT HitTest(HWND window, POINT point);
 
-/// Draws the frame within a region (in screen coordinates; 1: all of it). pressed: the HT code of a button that is
-/// held.
-void PaintFrame(HWND window, HRGN region, int pressed = HTNOWHERE);
+/// Draws the frame. pressed: the HT code of a button that is held.
+void PaintFrame(HWND window, int pressed = HTNOWHERE);
 
 /// The left button goes down on a part of the frame: moves, sizes, or tracks a button.
 void PressFrame(HWND window, int hitCode, POINT point);
@@ -47,6 +59,9 @@ LRESULT SystemCommand(HWND window, WPARAM command, POINT point);
 /// The next message of a loop that handles a window's frame. @returns false when the loop has to end: the window is gone,
 /// or the program ends, which is passed on.
 bool NextMessage(HWND window, MSG* message);
+
+/// @returns whether a message tells of a button of the mouse going down in a client area.
+bool IsPress(UINT message);
 
 /// @returns whether a message comes from the keyboard or the mouse, which such a loop keeps to itself.
 bool IsInput(UINT message);

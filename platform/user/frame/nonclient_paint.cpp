@@ -20,7 +20,6 @@ struct Picture {
     bool active;
     bool closes;  ///< the close box works
     HICON icon;
-    POINT origin;
 };
 
 bool Describe(HWND handle, Picture* picture) try {
@@ -32,8 +31,7 @@ bool Describe(HWND handle, Picture* picture) try {
     picture->style = window->style;
     picture->exStyle = window->exStyle;
     picture->rect = window->windowRect;
-    picture->origin = {window->windowRect.left, window->windowRect.top};
-    OffsetRect(&picture->rect, -picture->origin.x, -picture->origin.y);
+    OffsetRect(&picture->rect, -picture->rect.left, -picture->rect.top);
     picture->caption = LayOutCaption(window, picture->rect);
     picture->text = window->text;
     picture->active = window->captionActive;
@@ -104,11 +102,15 @@ void DrawButton(HDC context, RECT rect, UINT kind, bool pressed, bool disabled) 
 
 /// The bar is put together in memory and arrives on the screen at once.
 void DrawCaption(HDC context, const Picture& picture, int pressed) {
-    const CaptionParts& parts = picture.caption;
+    CaptionParts parts = picture.caption;
+    const POINT place{parts.bar.left, parts.bar.top};
     const int width = parts.bar.right - parts.bar.left;
     const int height = parts.bar.bottom - parts.bar.top;
     if (width <= 0 || height <= 0) {
         return;
+    }
+    for (RECT* part : {&parts.bar, &parts.icon, &parts.close, &parts.minimize, &parts.maximize, &parts.help}) {
+        OffsetRect(part, -place.x, -place.y);
     }
     HDC memory = CreateCompatibleDC(context);
     HBITMAP bitmap = CreateCompatibleBitmap(context, width, height + 1);
@@ -118,7 +120,6 @@ void DrawCaption(HDC context, const Picture& picture, int pressed) {
         return;
     }
     HGDIOBJ oldBitmap = SelectObject(memory, bitmap);
-    SetViewportOrgEx(memory, -parts.bar.left, -parts.bar.top, nullptr);
     FillRect(memory, &parts.bar, GetSysColorBrush(picture.active ? COLOR_ACTIVECAPTION : COLOR_INACTIVECAPTION));
     const RECT line{parts.bar.left, parts.bar.bottom, parts.bar.right, parts.bar.bottom + 1};
     FillRect(memory, &line, GetSysColorBrush(COLOR_3DFACE));
@@ -130,8 +131,7 @@ void DrawCaption(HDC context, const Picture& picture, int pressed) {
     DrawButton(memory, parts.help, DFCS_CAPTIONHELP, pressed == HTHELP, false);
     RECT text = parts.bar;
     if (!IsRectEmpty(&parts.icon)) {
-        DrawIconEx(memory, parts.icon.left, parts.icon.top, picture.icon, parts.icon.right - parts.icon.left,
-                   parts.icon.bottom - parts.icon.top, 0, nullptr, DI_NORMAL);
+        DrawIconIn(memory, parts.icon, picture.icon);
         text.left = parts.icon.right;
     }
     text.left += 3;
@@ -146,7 +146,7 @@ void DrawCaption(HDC context, const Picture& picture, int pressed) {
     DrawTextA(memory, picture.text.c_str(), static_cast<int>(picture.text.size()), &text,
               DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
     SelectObject(memory, oldFont);
-    BitBlt(context, parts.bar.left, parts.bar.top, width, height + 1, memory, parts.bar.left, parts.bar.top, SRCCOPY);
+    BitBlt(context, place.x, place.y, width, height + 1, memory, 0, 0, SRCCOPY);
     SelectObject(memory, oldBitmap);
     DeleteObject(bitmap);
     DeleteDC(memory);
@@ -154,7 +154,7 @@ void DrawCaption(HDC context, const Picture& picture, int pressed) {
 
 }  // namespace
 
-void PaintFrame(HWND handle, HRGN region, int pressed) {
+void PaintFrame(HWND handle, int pressed) {
     Picture picture;
     if (!Describe(handle, &picture)) {
         return;
@@ -168,13 +168,6 @@ void PaintFrame(HWND handle, HRGN region, int pressed) {
     if (!context) {
         return;
     }
-    const bool partial = reinterpret_cast<ULONG_PTR>(region) > 1;
-    HRGN clip = partial ? CreateRectRgn(0, 0, 0, 0) : nullptr;
-    if (clip) {
-        CombineRgn(clip, region, nullptr, RGN_COPY);
-        OffsetRgn(clip, -picture.origin.x, -picture.origin.y);
-        SelectClipRgn(context, clip);
-    }
     RECT rect = picture.rect;
     DrawBorders(context, picture, rect);
     if (picture.caption.height) {
@@ -186,10 +179,6 @@ void PaintFrame(HWND handle, HRGN region, int pressed) {
     }
     if (picture.style & (WS_HSCROLL | WS_VSCROLL)) {
         DrawWindowBars(handle, context);
-    }
-    if (clip) {
-        SelectClipRgn(context, nullptr);
-        DeleteObject(clip);
     }
     ReleaseDC(handle, context);
 }

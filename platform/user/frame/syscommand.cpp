@@ -1,6 +1,8 @@
 // What a person does to a frame: moving and sizing, by mouse or keyboard, and the buttons of the caption.
 #include <algorithm>
+#include <utility>
 
+#include "user/frame/above.h"
 #include "user/frame/nonclient.h"
 #include "user/frame/scrollbar/bar.h"
 #include "user/input/input.h"
@@ -126,10 +128,29 @@ bool ArrowStep(WPARAM key, int* dx, int* dy) {
     return *dx != 0 || *dy != 0;
 }
 
-void SetMoveSize(HWND handle) {
-    ThreadState* self = CurrentThread();
-    const UserGuard guard(UserLock());
-    self->moveSize = handle;
+/// Sizing by the keyboard: the first arrow takes hold of an edge, one across it of the corner there. @returns the part that
+/// is held then; the same one as before when the arrow moves it.
+int Grasp(int part, int dx, int dy) {
+    switch (part) {
+        case HTNOWHERE:
+            return dx < 0 ? HTLEFT : dx > 0 ? HTRIGHT : dy < 0 ? HTTOP : HTBOTTOM;
+        case HTLEFT:
+            return dy == 0 ? part : dy < 0 ? HTTOPLEFT : HTBOTTOMLEFT;
+        case HTRIGHT:
+            return dy == 0 ? part : dy < 0 ? HTTOPRIGHT : HTBOTTOMRIGHT;
+        case HTTOP:
+            return dx == 0 ? part : dx < 0 ? HTTOPLEFT : HTTOPRIGHT;
+        case HTBOTTOM:
+            return dx == 0 ? part : dx < 0 ? HTBOTTOMLEFT : HTBOTTOMRIGHT;
+        default:
+            return part;
+    }
+}
+
+/// The pointer that shows what is being moved by the keyboard.
+void ShowHold(int part) {
+    const UINT shape = part == HTCAPTION || part == HTNOWHERE ? 32646 : SizingCursor(part);  // IDC_SIZEALL
+    SetCursor(LoadCursorA(nullptr, MAKEINTRESOURCEA(shape)));
 }
 
 /// One round of moving or sizing: where the window was, what of it follows, and how far by now.
@@ -161,65 +182,96 @@ struct MoveDrag {
         }
     }
 
-    /// An arrow key goes on from where the last one has led.
-    void Step(int stepX, int stepY) {
+    /// An arrow key, or the mouse between two of them, goes on from where the last one has led.
+    void GoOn(int stepX, int stepY) {
         dx += stepX;
         dy += stepY;
         Apply();
         RECT now;
-        if (part == HTCAPTION && GetWindowRect(window, &now)) {
-            dx = now.left - start.left;
-            dy = now.top - start.top;
+        if (GetWindowRect(window, &now)) {
+            dx = now.left != start.left ? now.left - start.left : now.right - start.right;
+            dy = now.top != start.top ? now.top - start.top : now.bottom - start.bottom;
+        }
+    }
+
+    void Step(int stepX, int stepY) {
+        const int held = part == HTCAPTION ? part : Grasp(part, stepX, stepY);
+        if (held == part) {
+            GoOn(stepX, stepY);
+        } else {
+            part = held;
+            ShowHold(part);
+        }
+    }
+
+    void MoveOn(POINT from, POINT to) {
+        if (part != HTNOWHERE && (to.x != from.x || to.y != from.y)) {
+            GoOn(to.x - from.x, to.y - from.y);
         }
     }
 };
 
-/// Moves or sizes until the button is let go, or Enter or Escape is pressed. Escape puts everything back.
+/// The key that a message tells of going down, with Alt or without; 0 for other messages.
+WPARAM KeyOf(const MSG& message) {
+    return message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN ? message.wParam : 0;
+}
+
+/// Moves or sizes until the button is let go, or Enter or Escape is pressed. Escape puts everything back. By the keyboard, the
+/// mouse helps and a click ends it.
 void MoveOrSize(HWND handle, int part, bool byMouse, POINT from) {
     MoveDrag drag{handle, part};
     GetWindowRect(handle, &drag.start);
     if (part != HTCAPTION) {
         drag.limits = QueryMinMax(handle);
     }
+    HCURSOR cursor = nullptr;
+    if (!byMouse) {
+        GetCursorPos(&from);
+        cursor = SetCursor(nullptr);
+        ShowHold(part);
+    }
     SetCapture(handle);
-    SetMoveSize(handle);
     SendMessageA(handle, WM_ENTERSIZEMOVE, 0, 0);
     for (MSG message; NextMessage(handle, &message);) {
         int stepX = 0;
         int stepY = 0;
-        if (message.message == WM_MOUSEMOVE && byMouse) {
+        if (byMouse && (message.message == WM_MOUSEMOVE || message.message == WM_LBUTTONUP)) {
             drag.MoveTo(from, message.pt);
-        } else if (message.message == WM_LBUTTONUP) {
-            if (byMouse) {
-                drag.MoveTo(from, message.pt);
-            }
-            break;
-        } else if (message.message == WM_KEYDOWN && message.wParam == VK_RETURN) {
-            break;
-        } else if (message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE) {
+        } else if (message.message == WM_MOUSEMOVE) {
+            drag.MoveOn(std::exchange(from, message.pt), message.pt);
+        } else if (KeyOf(message) == VK_ESCAPE) {
             Place(handle, drag.start);
-            break;
-        } else if (message.message == WM_KEYDOWN && ArrowStep(message.wParam, &stepX, &stepY)) {
+        } else if (ArrowStep(KeyOf(message), &stepX, &stepY)) {
             drag.Step(stepX, stepY);
         } else if (!IsInput(message.message)) {
             DispatchMessageA(&message);
         }
-        if (GetCapture() != handle) {
+        const bool over = message.message == WM_LBUTTONUP || KeyOf(message) == VK_RETURN || KeyOf(message) == VK_ESCAPE;
+        if (over || GetCapture() != handle) {
             break;
         }
     }
-    SetMoveSize(nullptr);
     if (GetCapture() == handle) {
         ReleaseCapture();
     }
+    if (!byMouse) {
+        SetCursor(cursor);
+    }
     SendMessageA(handle, WM_EXITSIZEMOVE, 0, 0);
+}
+
+/// The press on the icon that puts its menu away does not open it anew.
+bool HasJustClosedMenu(HWND handle) {
+    ThreadState* self = CurrentThread();
+    const UserGuard guard(UserLock());
+    return std::exchange(self->menu.closedOwner, nullptr) == handle && self->menu.closingPress == self->messageTime;
 }
 
 /// A button of the caption looks pressed while the pointer is held over it. @returns whether it was let go there.
 bool TrackButton(HWND handle, int button) {
     bool inside = true;
     bool released = false;
-    PaintFrame(handle, reinterpret_cast<HRGN>(1), button);
+    PaintFrame(handle, button);
     SetCapture(handle);
     for (MSG message; !released && GetCapture() == handle && NextMessage(handle, &message);) {
         released = message.message == WM_LBUTTONUP;
@@ -227,7 +279,7 @@ bool TrackButton(HWND handle, int button) {
             const bool now = HitTest(handle, message.pt) == button;
             if (now != inside) {
                 inside = now;
-                PaintFrame(handle, reinterpret_cast<HRGN>(1), inside ? button : HTNOWHERE);
+                PaintFrame(handle, inside ? button : HTNOWHERE);
             }
         } else if (!IsInput(message.message)) {
             DispatchMessageA(&message);
@@ -236,7 +288,7 @@ bool TrackButton(HWND handle, int button) {
     if (GetCapture() == handle) {
         ReleaseCapture();
     }
-    PaintFrame(handle, reinterpret_cast<HRGN>(1));
+    PaintFrame(handle);
     return inside && released && PeekWindow(handle);
 }
 
@@ -251,6 +303,11 @@ bool NextMessage(HWND handle, MSG* message) {
         PostQuitMessage(static_cast<int>(message->wParam));
     }
     return got > 0;
+}
+
+bool IsPress(UINT message) {
+    return message == WM_LBUTTONDOWN || message == WM_LBUTTONDBLCLK || message == WM_RBUTTONDOWN ||
+           message == WM_RBUTTONDBLCLK || message == WM_MBUTTONDOWN || message == WM_MBUTTONDBLCLK;
 }
 
 bool IsInput(UINT message) {
@@ -269,6 +326,9 @@ void PressFrame(HWND handle, int hitCode, POINT point) {
             SendMessageA(handle, WM_SYSCOMMAND, SC_MOVE | HTCAPTION, where);
             break;
         }
+        case HTSYSMENU:
+            SendMessageA(handle, WM_SYSCOMMAND, SC_MOUSEMENU | HTSYSMENU, where);
+            break;
         case HTCLOSE:
             if (TrackButton(handle, hitCode)) {
                 SendMessageA(handle, WM_SYSCOMMAND, SC_CLOSE, where);
@@ -314,8 +374,17 @@ LRESULT SystemCommand(HWND handle, WPARAM command, POINT point) {
             break;
         case SC_SIZE:
             if ((style & WS_THICKFRAME) && !(style & (WS_MAXIMIZE | WS_MINIMIZE))) {
-                MoveOrSize(handle, detail ? HTSIZEFIRST + static_cast<int>(detail) - 1 : HTBOTTOMRIGHT, detail != 0,
-                           point);
+                MoveOrSize(handle, detail ? HTSIZEFIRST + static_cast<int>(detail) - 1 : HTNOWHERE, detail != 0, point);
+            }
+            break;
+        case SC_MOUSEMENU:
+            if (!HasJustClosedMenu(handle)) {
+                OpenSystemMenu(handle, nullptr, false);
+            }
+            break;
+        case SC_KEYMENU:
+            if (point.x == VK_SPACE) {
+                OpenSystemMenu(handle, nullptr, true);
             }
             break;
         case SC_VSCROLL:

@@ -12,8 +12,7 @@ void AskForHelp(HWND window, POINT point);
 /// desktop: shows the pointer. @param idc an IDC_ value, 0 to hide it.
 void ShowCursorShape(unsigned idc);
 
-/// desktop: a window is about to end. What it has put off rendering is rendered, and a clipboard that it holds open is
-/// closed. Lock not held.
+/// desktop: a window is about to end: a clipboard that it holds open is closed. Lock not held.
 void LeaveClipboard(HWND window);
 
 }  // namespace platform::user

@@ -11,8 +11,6 @@
 namespace platform::user {
 namespace {
 
-unsigned lastStamp = 0;
-
 // Keys may have changed while other threads had the keyboard. Input that still waits brings its own changes.
 void TakeOverKeys(ThreadState* thread) {
     if (thread->input.empty()) {
@@ -38,11 +36,18 @@ std::vector<HWND> TopLevelsOf(const ThreadState* thread) {
 void TellApplication(const ThreadState* thread, bool active, const ThreadState* other) {
     try {
         for (HWND window : TopLevelsOf(thread)) {
-            SendNotifyMessageA(window, WM_ACTIVATEAPP, active, other != nullptr ? other->id : 0);
+            Tell(window, WM_ACTIVATEAPP, active, other != nullptr ? other->id : 0);
         }
     } catch (const std::bad_alloc&) {
         // Without memory nobody hears of it; activation itself goes on.
         return;
+    }
+}
+
+// An open menu belongs to the window in front.
+void PutMenuAway(const ThreadState* thread) {
+    if (const HWND menu = Shared(thread->menu.window)) {
+        Tell(menu, WM_CANCELMODE, 0, 0);
     }
 }
 
@@ -58,13 +63,14 @@ void LeaveForeground(ThreadState* loser, ThreadState* winner, HWND to) {
         loser->active = nullptr;
         loser->focus = nullptr;
     }
+    PutMenuAway(loser);
     if (active != nullptr) {
-        SendNotifyMessageA(active, WM_NCACTIVATE, FALSE, reinterpret_cast<LPARAM>(to));
-        SendNotifyMessageA(active, WM_ACTIVATE, ActivationState(WA_INACTIVE, active), reinterpret_cast<LPARAM>(to));
+        Tell(active, WM_NCACTIVATE, FALSE, reinterpret_cast<LPARAM>(to));
+        Tell(active, WM_ACTIVATE, ActivationState(WA_INACTIVE, active), reinterpret_cast<LPARAM>(to));
     }
     TellApplication(loser, false, winner);
     if (focus != nullptr) {
-        SendNotifyMessageA(focus, WM_KILLFOCUS, 0, 0);
+        Tell(focus, WM_KILLFOCUS, 0, 0);
     }
 }
 
@@ -149,6 +155,7 @@ bool ActivateOwn(ThreadState* self, HWND window, bool byMouse, bool foreground) 
     }
     hold.unlock();
     if (previous != window) {
+        PutMenuAway(self);
         const Window* leaving = PeekWindow(previous);
         const bool forced = leaving == nullptr || leaving->destroying || (leaving->style & WS_VISIBLE) == 0;
         if (!Deactivate(previous, window, forced)) {
@@ -164,7 +171,6 @@ bool ActivateOwn(ThreadState* self, HWND window, bool byMouse, bool foreground) 
     self->comingForward = false;
     self->lastActive = previous;
     self->active = window;
-    target->activeStamp = ++lastStamp;
     if (takes) {
         input.foreground = self;
         TakeOverKeys(self);
@@ -196,6 +202,7 @@ bool ActivateOwn(ThreadState* self, HWND window, bool byMouse, bool foreground) 
 
 void DeactivateOwn(ThreadState* self) {
     const HWND active = Shared(self->active);
+    PutMenuAway(self);
     Deactivate(active, nullptr, true);
     bool left = false;
     {
@@ -311,23 +318,4 @@ BOOL WINAPI SetForegroundWindow(HWND window) {
 
 BOOL WINAPI BringWindowToTop(HWND window) {
     return SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
-}
-
-HWND WINAPI GetLastActivePopup(HWND window) {
-    UserGuard guard(UserLock());
-    const Window* owner = FindWindowObject(window);
-    if (owner == nullptr || owner->owner != nullptr) {
-        return window;
-    }
-    const Window* last = owner;
-    for (const Window* each = Desktop()->firstChild; each != nullptr; each = each->next) {
-        const Window* root = each;
-        while (root->owner != nullptr) {
-            root = root->owner;
-        }
-        if (root == owner && each->activeStamp > last->activeStamp) {
-            last = each;
-        }
-    }
-    return last->handle;
 }

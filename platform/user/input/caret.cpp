@@ -17,11 +17,9 @@
 namespace platform::user {
 namespace {
 
-constexpr UINT kDefaultBlink = 530;
+constexpr UINT kBlinkTime = 530;
 constexpr std::uint32_t kAllInk = 0x00FFFFFF;
 const HBITMAP kGreyCaret = reinterpret_cast<HBITMAP>(static_cast<UINT_PTR>(1));
-
-UINT blinkTime = kDefaultBlink;  // guarded by UserLock
 
 void Combine(const ThreadState* thread) {
     const auto& caret = thread->caret;
@@ -75,7 +73,7 @@ void Draw(ThreadState* thread) {
 // Starts a new blink with the caret visible.
 void Restart(ThreadState* thread) {
     thread->caret.blinkOn = true;
-    thread->caret.due = blinkTime == INFINITE ? UINT64_MAX : base::TickCount64() + blinkTime;
+    thread->caret.due = base::TickCount64() + kBlinkTime;
     Draw(thread);
 }
 
@@ -137,7 +135,7 @@ std::uint64_t CheckCaret(ThreadState* self) {
         return UINT64_MAX;
     }
     if (base::TickCount64() >= caret.due) {
-        caret.due = base::TickCount64() + blinkTime;
+        caret.due = base::TickCount64() + kBlinkTime;
         caret.blinkOn = !caret.blinkOn;
         if (caret.blinkOn) {
             Draw(self);
@@ -292,20 +290,5 @@ BOOL WINAPI GetCaretPos(LPPOINT position) {
         return FALSE;
     }
     *position = self->caret.position;
-    return TRUE;
-}
-
-UINT WINAPI GetCaretBlinkTime(VOID) {
-    UserGuard guard(UserLock());
-    return blinkTime;
-}
-
-BOOL WINAPI SetCaretBlinkTime(UINT milliseconds) {
-    UserGuard guard(UserLock());
-    blinkTime = milliseconds;
-    ThreadState* self = CurrentThread();
-    if (self != nullptr && self->caret.window != nullptr) {
-        Restart(self);
-    }
     return TRUE;
 }

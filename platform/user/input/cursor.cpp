@@ -1,6 +1,4 @@
-// The mouse pointer: its place, its shape, and how long two clicks belong together.
-#include <algorithm>
-
+// The mouse pointer: its place and its shape.
 #include "user/input/above.h"
 #include "user/input/input.h"
 #include "user/model/input_state.h"
@@ -9,19 +7,13 @@
 namespace platform::user {
 namespace {
 
-constexpr UINT kDefaultDoubleClick = 500;
-constexpr UINT kLongestDoubleClick = 5000;
-
-// Guarded by UserLock.
-HCURSOR currentCursor = nullptr;
-int showCount = 0;
-UINT doubleClickTime = kDefaultDoubleClick;
+HCURSOR currentCursor = nullptr;  // guarded by UserLock
 
 void PresentCursor() {
     unsigned shape = 0;
     {
         UserGuard guard(UserLock());
-        shape = showCount >= 0 && currentCursor != nullptr ? CursorShape(currentCursor) : 0;
+        shape = currentCursor != nullptr ? CursorShape(currentCursor) : 0;
     }
     ShowCursorShape(shape);
 }
@@ -55,31 +47,4 @@ HCURSOR WINAPI SetCursor(HCURSOR cursor) {
     }
     PresentCursor();
     return previous;
-}
-
-HCURSOR WINAPI GetCursor(VOID) {
-    UserGuard guard(UserLock());
-    return currentCursor;
-}
-
-int WINAPI ShowCursor(BOOL show) {
-    int count = 0;
-    {
-        UserGuard guard(UserLock());
-        showCount += show ? 1 : -1;
-        count = showCount;
-    }
-    PresentCursor();
-    return count;
-}
-
-UINT WINAPI GetDoubleClickTime(VOID) {
-    UserGuard guard(UserLock());
-    return doubleClickTime;
-}
-
-BOOL WINAPI SetDoubleClickTime(UINT milliseconds) {
-    UserGuard guard(UserLock());
-    doubleClickTime = milliseconds == 0 ? kDefaultDoubleClick : std::min(milliseconds, kLongestDoubleClick);
-    return TRUE;
 }

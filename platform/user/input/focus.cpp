@@ -99,32 +99,3 @@ HWND WINAPI SetFocus(HWND window) {
     MoveFocus(self, window);
     return previous;
 }
-
-BOOL WINAPI GetGUIThreadInfo(DWORD thread, PGUITHREADINFO info) {
-    if (info == nullptr || info->cbSize != sizeof(GUITHREADINFO)) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return FALSE;
-    }
-    UserGuard guard(UserLock());
-    const ThreadState* asked = thread != 0 ? FindThread(thread) : Input().foreground;
-    if (asked == nullptr) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return FALSE;
-    }
-    const auto& caret = asked->caret;
-    info->flags = (caret.window != nullptr && caret.hideCount == 0 ? GUI_CARETBLINKING : 0) |
-                  (asked->moveSize != nullptr ? GUI_INMOVESIZE : 0) |
-                  (asked->menuOwner != nullptr ? GUI_INMENUMODE : 0);
-    info->hwndActive = asked->active;
-    info->hwndFocus = asked->focus;
-    info->hwndCapture = asked->capture;
-    info->hwndMenuOwner = asked->menuOwner;
-    info->hwndMoveSize = asked->moveSize;
-    info->hwndCaret = caret.window;
-    info->rcCaret = {};
-    if (caret.window != nullptr) {
-        info->rcCaret = {caret.position.x, caret.position.y, caret.position.x + caret.width,
-                         caret.position.y + caret.height};
-    }
-    return TRUE;
-}

@@ -65,7 +65,6 @@ void File(ThreadState* thread, const InputEvent& event) {
         InputEvent& last = thread->input.back();
         last.point = event.point;
         last.time = event.time;
-        last.extra = event.extra;
     } else {
         try {
             thread->input.push_back(event);

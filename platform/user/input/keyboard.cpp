@@ -1,7 +1,5 @@
 // Asking for the state of keys, and turning key messages into characters.
-#include <algorithm>
-#include <cstring>
-
+#include "user/input/input.h"
 #include "user/model/input_state.h"
 #include "user/model/thread.h"
 #include "user/model/window.h"
@@ -25,6 +23,13 @@ int ToBytes(unsigned unicode, char (&bytes)[4]) {
     return WideCharToMultiByte(CP_ACP, 0, wide, units, bytes, sizeof bytes, nullptr, nullptr);
 }
 
+/// @returns the character of a key with the modifiers that are down, -1 for none.
+int TypedCharacter(const ThreadState* self, UINT key) {
+    const UserGuard guard(UserLock());
+    const auto down = [self](BYTE which) { return (self->keyState[which] & 0x80) != 0; };
+    return CharacterOf(key, down(VK_SHIFT), down(VK_CONTROL), down(VK_MENU), (self->keyState[VK_CAPITAL] & 1) != 0);
+}
+
 }  // namespace
 }  // namespace platform::user
 
@@ -45,13 +50,9 @@ BOOL WINAPI TranslateMessage(const MSG* message) {
     int count = 0;
     if (last.unicode != 0 && last.key == message->wParam && last.data == message->lParam) {
         count = ToBytes(last.unicode, bytes);
-    } else {
-        WORD character = 0;
-        const auto key = static_cast<UINT>(message->wParam);
-        BYTE state[256];
-        GetKeyboardState(state);
-        count = ToAscii(key, HIWORD(message->lParam) & 0xFF, state, &character, 0);
-        bytes[0] = static_cast<char>(LOBYTE(character));
+    } else if (const int character = TypedCharacter(self, static_cast<UINT>(message->wParam)); character >= 0) {
+        bytes[0] = static_cast<char>(character);
+        count = 1;
     }
     for (int i = 0; i < count; ++i) {
         PostMessageA(message->hwnd, number, static_cast<unsigned char>(bytes[i]), message->lParam);
@@ -78,26 +79,4 @@ SHORT WINAPI GetAsyncKeyState(int key) {
     const bool pressed = input.pressedSince[key];
     input.pressedSince[key] = false;
     return static_cast<SHORT>((down ? 0x8000 : 0) | (pressed ? 1 : 0));
-}
-
-BOOL WINAPI GetKeyboardState(PBYTE state) {
-    const ThreadState* self = CurrentThread();
-    if (self == nullptr || state == nullptr) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return FALSE;
-    }
-    UserGuard guard(UserLock());
-    std::memcpy(state, self->keyState, sizeof self->keyState);
-    return TRUE;
-}
-
-BOOL WINAPI SetKeyboardState(LPBYTE state) {
-    ThreadState* self = CurrentThread();
-    if (self == nullptr || state == nullptr) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return FALSE;
-    }
-    UserGuard guard(UserLock());
-    std::memcpy(self->keyState, state, sizeof self->keyState);
-    return TRUE;
 }

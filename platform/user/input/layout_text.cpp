@@ -1,6 +1,4 @@
 // The characters of the US keyboard.
-#include <iterator>
-
 #include "user/input/input.h"
 
 namespace platform::user {
@@ -101,48 +99,3 @@ int CharacterOf(UINT key, bool shift, bool control, bool alt, bool capital) {
 }
 
 }  // namespace platform::user
-
-using namespace platform::user;
-
-SHORT WINAPI VkKeyScanA(CHAR character) {
-    constexpr int kShift = 0x100;
-    constexpr int kControlKey = 0x200;
-    if (character >= 'a' && character <= 'z') {
-        return static_cast<SHORT>(character - 'a' + 'A');
-    }
-    if (character >= 'A' && character <= 'Z') {
-        return static_cast<SHORT>(character | kShift);
-    }
-    for (const KeyText& each : kText) {
-        if (each.plain == character && each.key != VK_CANCEL) {
-            return each.key;
-        }
-        if (each.shifted == character && each.key != VK_CANCEL) {
-            return static_cast<SHORT>(each.key | kShift);
-        }
-    }
-    if (character >= 1 && character <= 26 && character != '\n') {
-        return static_cast<SHORT>((character - 1 + 'A') | kControlKey);
-    }
-    for (const KeyName& each : kControlKeys) {
-        if (each.character == character) {
-            return static_cast<SHORT>(each.key | kControlKey | (each.shift ? kShift : 0));
-        }
-    }
-    return -1;
-}
-
-int WINAPI ToAscii(UINT key, UINT scan, const BYTE* state, LPWORD characters, UINT) {
-    constexpr UINT kReleased = 0x8000;
-    if (characters == nullptr || state == nullptr || (scan & kReleased) != 0) {
-        return 0;
-    }
-    const auto down = [state](BYTE which) { return (state[which] & 0x80) != 0; };
-    const int character =
-        CharacterOf(key, down(VK_SHIFT), down(VK_CONTROL), down(VK_MENU), (state[VK_CAPITAL] & 1) != 0);
-    if (character < 0) {
-        return 0;
-    }
-    *characters = static_cast<WORD>(character);
-    return 1;
-}

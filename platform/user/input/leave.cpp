@@ -1,7 +1,6 @@
 // Windows that go away, or can no longer take input.
 #include <algorithm>
 
-#include "user/desktop/clipboard.h"
 #include "user/input/above.h"
 #include "user/input/input.h"
 #include "user/message/queue.h"
@@ -51,8 +50,8 @@ void ForgetInput(Window* window) {
     }
     std::erase_if(thread->posted, [handle](const MSG& message) { return message.hwnd == handle; });
     std::erase(thread->caretSuspensions, handle);
-    for (HWND* held : {&thread->active, &thread->focus, &thread->capture, &thread->menuOwner, &thread->moveSize,
-                       &thread->lastActive, &thread->lastClick.window}) {
+    for (HWND* held :
+         {&thread->active, &thread->focus, &thread->capture, &thread->lastActive, &thread->lastClick.window}) {
         if (*held == handle) {
             *held = nullptr;
         }

@@ -89,6 +89,7 @@ UINT ButtonMessage(const InputEvent& event) {
     return event.down ? down : down + 1;
 }
 
+constexpr UINT kDoubleClickTime = 500;
 constexpr UINT kDownToDouble = WM_LBUTTONDBLCLK - WM_LBUTTONDOWN;
 
 UINT FrameMessage(UINT message) {
@@ -98,7 +99,7 @@ UINT FrameMessage(UINT message) {
 bool IsSecondClick(const ThreadState* self, HWND window, UINT message, const InputEvent& event) {
     const auto& last = self->lastClick;
     const auto isNear = [](LONG a, LONG b, int metric) { return std::abs(a - b) * 2 <= GetSystemMetrics(metric); };
-    return last.window == window && last.message == message && event.time - last.time <= GetDoubleClickTime() &&
+    return last.window == window && last.message == message && event.time - last.time <= kDoubleClickTime &&
            isNear(event.point.x, last.point.x, SM_CXDOUBLECLK) && isNear(event.point.y, last.point.y, SM_CYDOUBLECLK);
 }
 

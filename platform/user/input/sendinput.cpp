@@ -8,13 +8,6 @@
 namespace platform::user {
 namespace {
 
-InputEvent Timed(DWORD time, ULONG_PTR extra) {
-    InputEvent event;
-    event.time = time;
-    event.extra = extra;
-    return event;
-}
-
 // Absolute positions run from 0 to 65535 across the screen.
 POINT Destination(const MOUSEINPUT& mouse) {
     if ((mouse.dwFlags & MOUSEEVENTF_ABSOLUTE) != 0) {
@@ -29,7 +22,8 @@ POINT Destination(const MOUSEINPUT& mouse) {
 }
 
 void InjectMouse(const MOUSEINPUT& mouse) {
-    InputEvent event = Timed(mouse.time, mouse.dwExtraInfo);
+    InputEvent event;
+    event.time = mouse.time;
     if ((mouse.dwFlags & MOUSEEVENTF_MOVE) != 0) {
         event.point = Destination(mouse);
         Inject(event);
@@ -80,7 +74,8 @@ bool NumLockOn() {
 }
 
 bool InjectKeyboard(const KEYBDINPUT& keyboard) {
-    InputEvent event = Timed(keyboard.time, keyboard.dwExtraInfo);
+    InputEvent event;
+    event.time = keyboard.time;
     event.kind = InputKind::Key;
     event.down = (keyboard.dwFlags & KEYEVENTF_KEYUP) == 0;
     event.extended = (keyboard.dwFlags & KEYEVENTF_EXTENDEDKEY) != 0;
@@ -124,12 +119,4 @@ UINT WINAPI SendInput(UINT count, LPINPUT inputs, int size) {
         ++done;
     }
     return done;
-}
-
-VOID WINAPI keybd_event(BYTE key, BYTE scan, DWORD flags, ULONG_PTR extra) {
-    InjectKeyboard({key, scan, flags, 0, extra});
-}
-
-VOID WINAPI mouse_event(DWORD flags, DWORD dx, DWORD dy, DWORD data, ULONG_PTR extra) {
-    InjectMouse({static_cast<LONG>(dx), static_cast<LONG>(dy), data, flags, 0, extra});
 }

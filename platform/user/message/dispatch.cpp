@@ -1,6 +1,7 @@
 // Delivering a message that was taken.
 #include "base/clock.h"
 
+#include "user/message/above.h"
 #include "user/message/queue.h"
 #include "user/model/thread.h"
 

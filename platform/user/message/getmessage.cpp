@@ -45,10 +45,9 @@ bool WantsCooked(const MSG& message, const void* filter) {
     return wanted->Wants(message.message) && wanted->WantsWindow(message.hwnd);
 }
 
-void NoteTaken(ThreadState* self, const MSG& message, LPARAM extra) {
+void NoteTaken(ThreadState* self, const MSG& message) {
     self->messageTime = message.time;
     self->messagePosition = static_cast<DWORD>(MAKELONG(message.pt.x, message.pt.y));
-    self->messageExtra = extra;
 }
 
 bool TakePosted(ThreadState* self, const Filter& filter, bool remove, MSG* message) {
@@ -107,7 +106,7 @@ bool TakeInput(ThreadState* self, UserHold& hold, const Filter& filter, bool rem
             self->input.erase(place);
         }
         if (cooked == Cooked::Message) {
-            NoteTaken(self, *message, static_cast<LPARAM>(event.extra));
+            NoteTaken(self, *message);
             return true;
         }
     }
@@ -173,7 +172,7 @@ bool Take(ThreadState* self, UserHold& hold, const Filter& filter, bool remove, 
     }
     self->wakeBits &= ~SeenBits(filter);
     if (!self->posted.empty() && TakePosted(self, filter, remove, message)) {
-        NoteTaken(self, *message, 0);
+        NoteTaken(self, *message);
         return true;
     }
     if (!self->input.empty() && TakeInput(self, hold, filter, remove, message)) {
@@ -181,7 +180,7 @@ bool Take(ThreadState* self, UserHold& hold, const Filter& filter, bool remove, 
     }
     if (TakeQuit(self, remove, message) || TakePaint(self, filter, remove, message) ||
         TakeTimerFor(self, filter, remove, message)) {
-        NoteTaken(self, *message, 0);
+        NoteTaken(self, *message);
         return true;
     }
     return false;
@@ -254,19 +253,4 @@ LONG WINAPI GetMessageTime(VOID) {
 DWORD WINAPI GetMessagePos(VOID) {
     const ThreadState* self = CurrentThread();
     return self != nullptr ? self->messagePosition : 0;
-}
-
-LPARAM WINAPI GetMessageExtraInfo(VOID) {
-    const ThreadState* self = CurrentThread();
-    return self != nullptr ? self->messageExtra : 0;
-}
-
-LPARAM WINAPI SetMessageExtraInfo(LPARAM extra) {
-    ThreadState* self = CurrentThread();
-    if (self == nullptr) {
-        return 0;
-    }
-    const LPARAM previous = self->messageExtra;
-    self->messageExtra = extra;
-    return previous;
 }

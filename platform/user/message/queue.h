@@ -21,13 +21,9 @@ struct SentMessage {
     LPARAM lParam = 0;
     void (*errand)(const SentMessage& sent) = nullptr;
     ThreadState* sender = nullptr;  ///< waits for the reply; null when nobody does
-    SENDASYNCPROC callback = nullptr;
-    ULONG_PTR callbackData = 0;
-    DWORD callbackThread = 0;
     LRESULT result = 0;
     bool replied = false;
     bool answered = false;  ///< the receiver replied in time, so the result counts
-    bool notify = false;
     int holders = 1;
 };
 
@@ -36,6 +32,9 @@ bool Enqueue(ThreadState* receiver, SentMessage* sent);
 
 /// Answers the messages that other threads have sent to this one. The lock is released meanwhile.
 void ServeSent(ThreadState* self, UserHold& hold);
+
+/// Sends a message whose parameters are no pointers, without waiting where the window is another thread's. Lock not held.
+void Tell(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
 /// @returns whether a message may only be sent, with ERROR_MESSAGE_SYNC_ONLY set, because its parameters point to data.
 bool MustBeSynchronous(UINT message);

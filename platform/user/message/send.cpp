@@ -17,10 +17,6 @@ void Release(SentMessage* sent) {
     }
 }
 
-void RunCallback(const SentMessage& sent) {
-    sent.callback(sent.window, sent.message, sent.callbackData, sent.result);
-}
-
 // Lock held.
 void Reply(SentMessage* sent, LRESULT result, bool answered) {
     if (sent->replied) {
@@ -31,20 +27,6 @@ void Reply(SentMessage* sent, LRESULT result, bool answered) {
     sent->result = result;
     if (sent->sender != nullptr) {
         WakeThread(sent->sender, 0);
-    }
-    if (sent->callback == nullptr || sent->errand != nullptr) {
-        return;
-    }
-    ThreadState* caller = FindThread(sent->callbackThread);
-    auto* errand = caller != nullptr ? new (std::nothrow) SentMessage(*sent) : nullptr;
-    if (errand != nullptr) {
-        errand->errand = RunCallback;
-        errand->sender = nullptr;
-        errand->replied = true;
-        errand->holders = 1;
-        if (!Enqueue(caller, errand)) {
-            delete errand;
-        }
     }
 }
 
@@ -97,10 +79,8 @@ bool CarriesPointer(UINT message) {
         case WM_DRAWITEM:
         case WM_MEASUREITEM:
         case WM_DELETEITEM:
-        case WM_COMPAREITEM:
         case WM_WINDOWPOSCHANGING:
         case WM_WINDOWPOSCHANGED:
-        case WM_COPYDATA:
         case WM_NOTIFY:
         case WM_HELP:
         case WM_STYLECHANGING:
@@ -147,7 +127,6 @@ void ServeSent(ThreadState* self, UserHold& hold) {
     while (!self->sent.empty()) {
         SentMessage* sent = self->sent.front();
         self->sent.pop_front();
-        SentMessage* outer = self->answering;
         if (sent->errand != nullptr) {
             hold.unlock();
             sent->errand(*sent);
@@ -162,11 +141,9 @@ void ServeSent(ThreadState* self, UserHold& hold) {
             continue;
         }
         const WNDPROC procedure = target->procedure;
-        self->answering = sent;
         hold.unlock();
         const LRESULT result = CallProcedure(procedure, sent->window, sent->message, sent->wParam, sent->lParam);
         hold.lock();
-        self->answering = outer;
         Reply(sent, result, true);
         Release(sent);
     }
@@ -197,68 +174,39 @@ void BroadcastSetting(UINT message, WPARAM wParam, LPARAM lParam) {
     }
 }
 
+// Within a thread the procedure is called at once.
+void Tell(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    ThreadState* self = CurrentThread();
+    UserHold hold(UserLock());
+    Window* target = self != nullptr ? FindWindowObject(window) : nullptr;
+    if (target == nullptr) {
+        return;
+    }
+    if (target->thread == self || target->thread == nullptr) {
+        const WNDPROC procedure = target->procedure;
+        hold.unlock();
+        CallProcedure(procedure, window, message, wParam, lParam);
+        return;
+    }
+    auto* sent = new (std::nothrow) SentMessage;
+    if (sent == nullptr) {
+        return;
+    }
+    sent->window = window;
+    sent->message = message;
+    sent->wParam = wParam;
+    sent->lParam = lParam;
+    if (!Enqueue(target->thread, sent)) {
+        delete sent;
+    }
+}
+
 }  // namespace platform::user
 
 using namespace platform::user;
 namespace base = platform::base;
 
 namespace {
-
-// Hands a message over without waiting: to this thread's own windows by calling them at once.
-BOOL SendAside(HWND window, UINT message, WPARAM wParam, LPARAM lParam, SENDASYNCPROC callback, ULONG_PTR data) {
-    ThreadState* self = CurrentThread();
-    UserHold hold(UserLock());
-    Window* target = self != nullptr ? FindWindowObject(window) : nullptr;
-    if (target == nullptr) {
-        return FALSE;
-    }
-    if (target->thread == self || target->thread == nullptr) {
-        const WNDPROC procedure = target->procedure;
-        hold.unlock();
-        const LRESULT result = CallProcedure(procedure, window, message, wParam, lParam);
-        if (callback != nullptr) {
-            callback(window, message, data, result);
-        }
-        return TRUE;
-    }
-    if (MustBeSynchronous(message)) {
-        return FALSE;
-    }
-    auto* sent = new (std::nothrow) SentMessage;
-    if (sent == nullptr) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return FALSE;
-    }
-    sent->window = window;
-    sent->message = message;
-    sent->wParam = wParam;
-    sent->lParam = lParam;
-    sent->callback = callback;
-    sent->callbackData = data;
-    sent->callbackThread = self->id;
-    sent->notify = true;
-    if (!Enqueue(target->thread, sent)) {
-        delete sent;
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return FALSE;
-    }
-    return TRUE;
-}
-
-BOOL SendAsideToAll(UINT message, WPARAM wParam, LPARAM lParam, SENDASYNCPROC callback, ULONG_PTR data) {
-    if (MustBeSynchronous(message)) {
-        return FALSE;
-    }
-    try {
-        for (HWND window : BroadcastTargets()) {
-            SendAside(window, message, wParam, lParam, callback, data);
-        }
-        return TRUE;
-    } catch (const std::bad_alloc&) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return FALSE;
-    }
-}
 
 LRESULT SendToAll(UINT message, WPARAM wParam, LPARAM lParam) {
     try {
@@ -332,45 +280,4 @@ LRESULT WINAPI SendMessageTimeoutA(HWND window, UINT message, WPARAM wParam, LPA
         *result = static_cast<DWORD_PTR>(answer);
     }
     return 1;
-}
-
-BOOL WINAPI SendNotifyMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    return window == HWND_BROADCAST ? SendAsideToAll(message, wParam, lParam, nullptr, 0)
-                                    : SendAside(window, message, wParam, lParam, nullptr, 0);
-}
-
-BOOL WINAPI SendMessageCallbackA(HWND window, UINT message, WPARAM wParam, LPARAM lParam, SENDASYNCPROC procedure,
-                                 ULONG_PTR data) {
-    if (procedure == nullptr) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return FALSE;
-    }
-    return window == HWND_BROADCAST ? SendAsideToAll(message, wParam, lParam, procedure, data)
-                                    : SendAside(window, message, wParam, lParam, procedure, data);
-}
-
-BOOL WINAPI ReplyMessage(LRESULT result) {
-    ThreadState* self = CurrentThread();
-    UserGuard guard(UserLock());
-    if (self == nullptr || self->answering == nullptr) {
-        return FALSE;
-    }
-    Reply(self->answering, result, true);
-    return TRUE;
-}
-
-BOOL WINAPI InSendMessage(VOID) {
-    const ThreadState* self = CurrentThread();
-    return self != nullptr && self->answering != nullptr;
-}
-
-DWORD WINAPI InSendMessageEx(LPVOID) {
-    const ThreadState* self = CurrentThread();
-    UserGuard guard(UserLock());
-    if (self == nullptr || self->answering == nullptr) {
-        return ISMEX_NOSEND;
-    }
-    const SentMessage& sent = *self->answering;
-    const DWORD kind = sent.callback != nullptr ? ISMEX_CALLBACK : (sent.notify ? ISMEX_NOTIFY : ISMEX_SEND);
-    return kind | (sent.replied ? ISMEX_REPLIED : 0);
 }

@@ -15,6 +15,23 @@ constexpr unsigned char Lower(char c) {
     return static_cast<unsigned char>(c >= 'A' && c <= 'Z' ? c + ('a' - 'A') : c);
 }
 
+/// @returns the number of an integer atom given by value or as "#number", else 0. `isInteger` tells an invalid number
+/// from a name.
+ATOM IntegerAtom(LPCSTR name, bool* isInteger) {
+    *isInteger = true;
+    unsigned value = 0;
+    if (IS_INTRESOURCE(name)) {
+        value = LOWORD(name);
+    } else {
+        *isInteger = name[0] == '#' && name[1] != '\0';
+        for (const char* digit = name + 1; *isInteger && *digit; ++digit) {
+            *isInteger = *digit >= '0' && *digit <= '9';
+            value = std::min(value * 10 + static_cast<unsigned>(*digit - '0'), 0x10000u);
+        }
+    }
+    return *isInteger && value < kFirstNamed ? static_cast<ATOM>(value) : ATOM{0};
+}
+
 }  // namespace
 
 std::size_t NameHash::operator()(std::string_view name) const noexcept {
@@ -34,21 +51,6 @@ bool NameEqual::operator()(std::string_view a, std::string_view b) const noexcep
     return SameName(a, b);
 }
 
-ATOM IntegerAtom(LPCSTR name, bool* isInteger) {
-    *isInteger = true;
-    unsigned value = 0;
-    if (IS_INTRESOURCE(name)) {
-        value = LOWORD(name);
-    } else {
-        *isInteger = name[0] == '#' && name[1] != '\0';
-        for (const char* digit = name + 1; *isInteger && *digit; ++digit) {
-            *isInteger = *digit >= '0' && *digit <= '9';
-            value = std::min(value * 10 + static_cast<unsigned>(*digit - '0'), 0x10000u);
-        }
-    }
-    return *isInteger && value < kFirstNamed ? static_cast<ATOM>(value) : ATOM{0};
-}
-
 ATOM AtomTable::FindQuietly(LPCSTR name) {
     bool isInteger = false;
     const ATOM integer = IntegerAtom(name, &isInteger);
@@ -66,14 +68,6 @@ ATOM AtomTable::FindQuietly(LPCSTR name) {
     }
     const auto found = byName_.find(std::string_view(name));
     return found == byName_.end() ? ATOM{0} : found->second;
-}
-
-ATOM AtomTable::Find(LPCSTR name) {
-    const ATOM atom = FindQuietly(name);
-    if (!atom) {
-        SetLastError(ERROR_FILE_NOT_FOUND);
-    }
-    return atom;
 }
 
 ATOM AtomTable::Add(LPCSTR name) try {
@@ -141,76 +135,9 @@ std::string AtomTable::Name(ATOM atom) {
     return entries_[index]->name;
 }
 
-AtomTable& GlobalAtoms() {
-    static AtomTable table;
-    return table;
-}
-
 AtomTable& ClassAtoms() {
     static AtomTable table;
     return table;
 }
 
-namespace {
-
-AtomTable& LocalAtoms() {
-    static AtomTable table;
-    return table;
-}
-
-UINT CopyName(AtomTable& table, ATOM atom, LPSTR name, int size) try {
-    if (!name || size <= 0) {
-        SetLastError(ERROR_MORE_DATA);
-        return 0;
-    }
-    const std::string text = table.Name(atom);
-    const std::size_t length = std::min(text.size(), static_cast<std::size_t>(size - 1));
-    std::memcpy(name, text.data(), length);
-    name[length] = '\0';
-    return static_cast<UINT>(length);
-} catch (const std::bad_alloc&) {
-    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-    return 0;
-}
-
-}  // namespace
-
 }  // namespace platform::user
-
-using namespace platform::user;
-
-ATOM WINAPI GlobalAddAtomA(LPCSTR name) {
-    return GlobalAtoms().Add(name);
-}
-
-ATOM WINAPI GlobalFindAtomA(LPCSTR name) {
-    return GlobalAtoms().Find(name);
-}
-
-ATOM WINAPI GlobalDeleteAtom(ATOM atom) {
-    return GlobalAtoms().Delete(atom) ? ATOM{0} : atom;
-}
-
-UINT WINAPI GlobalGetAtomNameA(ATOM atom, LPSTR name, int size) {
-    return CopyName(GlobalAtoms(), atom, name, size);
-}
-
-ATOM WINAPI AddAtomA(LPCSTR name) {
-    return LocalAtoms().Add(name);
-}
-
-ATOM WINAPI FindAtomA(LPCSTR name) {
-    return LocalAtoms().Find(name);
-}
-
-ATOM WINAPI DeleteAtom(ATOM atom) {
-    return LocalAtoms().Delete(atom) ? ATOM{0} : atom;
-}
-
-UINT WINAPI GetAtomNameA(ATOM atom, LPSTR name, int size) {
-    return CopyName(LocalAtoms(), atom, name, size);
-}
-
-BOOL WINAPI InitAtomTable(DWORD) {
-    return TRUE;
-}

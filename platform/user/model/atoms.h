@@ -23,14 +23,9 @@ struct NameEqual {
 /// Compares names of classes, atoms and properties: ASCII letters match in either case.
 bool SameName(std::string_view a, std::string_view b) noexcept;
 
-/// @returns the number of an integer atom given by value or as "#number", else 0. `isInteger` tells an invalid number
-/// from a name.
-ATOM IntegerAtom(LPCSTR name, bool* isInteger);
-
 class AtomTable {
   public:
     ATOM Add(LPCSTR name);          ///< 0 with the error code set
-    ATOM Find(LPCSTR name);         ///< 0 with ERROR_FILE_NOT_FOUND set
     bool Delete(ATOM atom);         ///< false with ERROR_INVALID_HANDLE set
     std::string Name(ATOM atom);    ///< empty with ERROR_INVALID_HANDLE set
     ATOM FindQuietly(LPCSTR name);  ///< leaves the error code alone
@@ -45,7 +40,6 @@ class AtomTable {
     std::unordered_map<std::string_view, ATOM, NameHash, NameEqual> byName_;  ///< views into the entries
 };
 
-AtomTable& GlobalAtoms();
 AtomTable& ClassAtoms();
 
 }  // namespace platform::user

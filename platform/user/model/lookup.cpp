@@ -54,8 +54,8 @@ Window* Desktop() {
     return desktop;
 }
 
-Window* MessageRoot() {
-    static Window* const root = MakeRoot("Message", RECT{0, 0, 100, 100});
+Window* Orphanage() {
+    static Window* const root = MakeRoot("Orphanage", RECT{0, 0, 100, 100});
     return root;
 }
 
@@ -79,18 +79,18 @@ bool IsAncestor(const Window* ancestor, const Window* window) {
 }
 
 Window* TopLevel(Window* window) {
-    if (!window || window == Desktop() || window == MessageRoot()) {
+    if (!window || window == Desktop() || window == Orphanage()) {
         return nullptr;
     }
     while (IsChildStyle(window->style) && window->parent && window->parent != Desktop() &&
-           window->parent != MessageRoot()) {
+           window->parent != Orphanage()) {
         window = window->parent;
     }
     return window;
 }
 
 HWND HandleOf(const Window* window) {
-    return window && window != MessageRoot() ? window->handle : nullptr;
+    return window && window != Orphanage() ? window->handle : nullptr;
 }
 
 POINT ParentOrigin(const Window* window) {

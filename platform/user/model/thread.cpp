@@ -43,7 +43,7 @@ void EndThread(ThreadState* thread) {
         thread->ending = true;
         try {
             CollectWindows(Desktop(), thread, &windows);
-            CollectWindows(MessageRoot(), thread, &windows);
+            CollectWindows(Orphanage(), thread, &windows);
         } catch (const std::bad_alloc&) {
             base::ReportOnce("out of memory: windows of a thread that ended are left behind");
         }

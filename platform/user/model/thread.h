@@ -30,7 +30,6 @@ struct InputEvent {
     unsigned unicode = 0;  ///< the character this press makes under the host's layout; 0: the layer's own layout says
     POINT point{};
     DWORD time = 0;
-    ULONG_PTR extra = 0;
     std::uint64_t number = 0;  ///< finds the event again after window procedures have run
 };
 
@@ -51,18 +50,15 @@ struct ThreadState {
     std::vector<Timer> timers;
     bool quitPosted = false;
     int quitCode = 0;
-    DWORD wakeBits = 0;    ///< QS_ bits that came since the last GetQueueStatus
+    DWORD wakeBits = 0;    ///< QS_ bits that came since the queue was last looked at
     int paintWindows = 0;  ///< hint: more than 0 when some window of this thread may need WM_PAINT
     int windowCount = 0;
     HWND active = nullptr;
     HWND focus = nullptr;
     HWND capture = nullptr;
-    HWND menuOwner = nullptr;
-    HWND moveSize = nullptr;
     BYTE keyState[256] = {};  ///< the synchronous state, as of the last input message taken
     DWORD messageTime = 0;    ///< owner only
     DWORD messagePosition = 0;
-    LPARAM messageExtra = 0;
     struct {
         HWND window = nullptr;
         HBITMAP bitmap = nullptr;
@@ -80,7 +76,6 @@ struct ThreadState {
 
     std::vector<HWND> caretSuspensions;  ///< windows that are being painted or moved; one entry a nested call
     std::deque<InputEvent> input;        ///< routed to this thread, not yet taken
-    SentMessage* answering = nullptr;    ///< from another thread, being handled now
     bool sleeping = false;
     bool objectSignalled = false;  ///< one of the kernel objects it waits for, since it last looked at them
     bool ending = false;           ///< is over; its windows are being cleared away
@@ -98,6 +93,12 @@ struct ThreadState {
         DWORD time = 0;
         POINT point{};
     } lastClick;
+    struct {
+        HWND window = nullptr;       ///< of the menu that is open
+        HWND owner = nullptr;        ///< the window that has opened it
+        HWND closedOwner = nullptr;  ///< the owner of the menu that a press beside it has put away last
+        DWORD closingPress = 0;      ///< the time of that press
+    } menu;
 };
 
 /// @returns the calling thread's state, made on first use and filed until the thread ends.

@@ -37,9 +37,8 @@ struct WindowClass {
     HBRUSH background = nullptr;
     std::string menuName;
     LPCSTR menuId = nullptr;  ///< when the menu was given by number
-    std::vector<std::byte> extra;
-    int windows = 0;  ///< windows of the class that are alive
-    HICON smallIcon = nullptr;
+    int classExtra = 0;       ///< as GetClassInfoA tells; nobody can reach the bytes
+    int windows = 0;          ///< windows of the class that are alive
 };
 
 struct WindowProperty {
@@ -76,10 +75,9 @@ struct Window {
     bool frameNeeded = false;                 ///< WM_NCPAINT is due
     bool internalPaint = false;               ///< RDW_INTERNALPAINT
     bool paintRuns = false;                   ///< its WM_PAINT is being handled and has not come to BeginPaint
-    HDC classOrOwnContext = nullptr;          ///< CS_OWNDC
     struct PaintState* paintState = nullptr;  ///< the painting module's own: cached visible regions
     bool sizeSent = false;                    ///< WM_SIZE and WM_MOVE were sent; else the first ShowWindow sends them
-    bool hiddenByOwner = false;               ///< hidden by ShowOwnedPopups(owner, FALSE)
+    bool hiddenByOwner = false;               ///< hidden because its owner was minimised
 
     RECT restoredRect{};  ///< normal position while minimised or maximised
     bool destroying = false;
@@ -90,10 +88,9 @@ struct Window {
     bool restoreMaximised = false;  ///< minimised while it was maximised
     HICON bigIcon = nullptr;        ///< WM_SETICON
     HICON smallIcon = nullptr;
-    unsigned activeStamp = 0;  ///< grows with each activation: tells which popup was active last (activation.cpp)
 
     // Dialogs and controls: shared, so that a handler that is running outlives its window.
-    std::shared_ptr<DialogState> dialog;      ///< made when DefDlgProcA first sees the window
+    std::shared_ptr<DialogState> dialog;      ///< made when the dialog procedure first sees the window
     std::shared_ptr<ControlData> control;     ///< what a predefined control keeps (controls/controls.h)
     std::shared_ptr<struct WindowBars> bars;  ///< scroll bars, made when they are first asked about (scrollbar/bar.h)
 };
@@ -119,8 +116,8 @@ inline Window* PeekWindow(HWND handle) {
 
 /// @returns the desktop window, which is made on first use and covers the screen; it belongs to no thread.
 Window* Desktop();
-/// The parent of message-only windows (HWND_MESSAGE): never shown, never enumerated.
-Window* MessageRoot();
+/// The parent of windows whose parent ended and whose thread has yet to end them: never shown, never enumerated.
+Window* Orphanage();
 
 /// @returns the handle by which applications may know a window; null for none and for the parent of message-only windows.
 HWND HandleOf(const Window* window);

@@ -1,5 +1,4 @@
-// Device contexts of windows. Most come from a cache of contexts that are back at their defaults; a window of a class
-// with CS_OWNDC has one for life, the windows of a class with CS_CLASSDC share one.
+// Device contexts of windows, from a cache of contexts that are back at their defaults.
 #include <algorithm>
 #include <memory>
 #include <new>
@@ -15,11 +14,8 @@ namespace {
 constexpr std::size_t kSpareContexts = 12;
 
 struct Slot {
-    enum class Kind { Cache, Own, Class };
     HDC context = nullptr;
     HWND window = nullptr;
-    const WindowClass* windowClass = nullptr;  ///< of a class context
-    Kind kind = Kind::Cache;
     unsigned visible = 0;
     bool inUse = false;
     bool painting = false;
@@ -50,10 +46,9 @@ void Place(Slot& slot, Window* window) {
     gdi::ReplaceVisible(slot.context, POINT{place.left, place.top}, region);
 }
 
-Slot* NewSlot(Slot::Kind kind) {
+Slot* NewSlot() {
     try {
         auto slot = std::make_unique<Slot>();
-        slot->kind = kind;
         slot->context = gdi::CreateScreenContext(POINT{0, 0}, gdi::Region());
         if (slot->context == nullptr) {
             return nullptr;
@@ -65,10 +60,10 @@ Slot* NewSlot(Slot::Kind kind) {
     }
 }
 
-Slot* FindCacheSlot(HWND window, unsigned visible) {
+Slot* FindFreeSlot(HWND window, unsigned visible) {
     Slot* any = nullptr;
     for (const auto& slot : AllSlots()) {
-        if (slot->kind != Slot::Kind::Cache || slot->inUse) {
+        if (slot->inUse) {
             continue;
         }
         if (slot->window == window && slot->visible == visible) {
@@ -80,27 +75,11 @@ Slot* FindCacheSlot(HWND window, unsigned visible) {
     }
     const bool keepAny = any != nullptr && any->window != nullptr && AllSlots().size() < kSpareContexts;
     if (any == nullptr || keepAny) {
-        if (Slot* fresh = NewSlot(Slot::Kind::Cache); fresh != nullptr) {
+        if (Slot* fresh = NewSlot(); fresh != nullptr) {
             return fresh;
         }
     }
     return any;
-}
-
-Slot* FindPrivateSlot(Window* window) {
-    const bool own = (window->windowClass->style & CS_OWNDC) != 0;
-    for (const auto& slot : AllSlots()) {
-        if (own ? slot->kind == Slot::Kind::Own && slot->window == window->handle
-                : slot->kind == Slot::Kind::Class && slot->windowClass == window->windowClass) {
-            return slot.get();
-        }
-    }
-    Slot* slot = NewSlot(own ? Slot::Kind::Own : Slot::Kind::Class);
-    if (slot != nullptr) {
-        slot->windowClass = window->windowClass;
-        window->classOrOwnContext = slot->context;
-    }
-    return slot;
 }
 
 Slot* FindSlot(HDC context) {
@@ -122,77 +101,24 @@ bool Renew(Slot& slot) {
     return slot.context != nullptr;
 }
 
-unsigned ResolveFlags(const Window* window, DWORD flags) {
-    const Window* parent = window->parent;
+unsigned VisibleFlagsOf(const Window* window, bool whole) {
     if (window == Desktop()) {
         return kVisibleWhole;
     }
-    if ((flags & kContextUseStyle) != 0) {
-        flags &= ~static_cast<DWORD>(DCX_CLIPCHILDREN | DCX_CLIPSIBLINGS | DCX_PARENTCLIP);
-        if ((window->style & WS_CLIPSIBLINGS) != 0) {
-            flags |= DCX_CLIPSIBLINGS;
-        }
-        if ((flags & DCX_WINDOW) == 0) {
-            if ((window->style & WS_CLIPCHILDREN) != 0) {
-                flags |= DCX_CLIPCHILDREN;
-            }
-            if ((window->windowClass->style & CS_PARENTDC) != 0 &&
-                (window->style & (WS_CLIPCHILDREN | WS_CLIPSIBLINGS)) == 0 && parent != nullptr &&
-                (parent->style & WS_CLIPCHILDREN) == 0) {
-                flags |= DCX_PARENTCLIP;
-            }
-        }
-    }
-    const bool child = (window->style & WS_CHILD) != 0 && parent != nullptr && parent != Desktop();
-    return ((flags & DCX_WINDOW) != 0 ? kVisibleWhole : 0U) |
-           ((flags & DCX_CLIPCHILDREN) != 0 ? kVisibleClipChildren : 0U) |
-           ((flags & DCX_CLIPSIBLINGS) != 0 ? kVisibleClipSiblings : 0U) |
-           ((flags & DCX_PARENTCLIP) != 0 && child ? kVisibleParentClip : 0U);
-}
-
-/// The limit that the flags of GetDCEx ask for. @returns false when there is none.
-bool LimitOf(Window* window, HRGN clip, DWORD flags, gdi::Region* limit) {
-    bool limited = false;
-    limit->Set(window->windowRect);
-    // 1 stands for the whole window, as WM_NCPAINT hands it on.
-    if (clip != nullptr && reinterpret_cast<ULONG_PTR>(clip) != 1) {
-        if ((flags & DCX_INTERSECTRGN) != 0) {
-            limit->Intersect(gdi::RegionOf(clip));
-            limited = true;
-        } else if ((flags & DCX_EXCLUDERGN) != 0) {
-            limit->Subtract(gdi::RegionOf(clip));
-            limited = true;
-        }
-    }
-    if ((flags & DCX_INTERSECTUPDATE) != 0) {
-        limit->Intersect(ScreenUpdate(window));
-        limited = true;
-    } else if ((flags & DCX_EXCLUDEUPDATE) != 0) {
-        limit->Subtract(ScreenUpdate(window));
-        limited = true;
-    }
-    return limited;
+    return whole ? kVisibleWhole | (StyleFlags(window) & kVisibleClipSiblings) : StyleFlags(window);
 }
 
 }  // namespace
 
-HDC AcquireContext(Window* window, DWORD flags, const gdi::Region* limit, bool painting) {
-    const bool isPrivate =
-        (window->windowClass->style & (CS_OWNDC | CS_CLASSDC)) != 0 && (flags & (DCX_CACHE | DCX_WINDOW)) == 0;
-    unsigned visible = ResolveFlags(window, isPrivate ? flags | kContextUseStyle : flags);
-    if (painting) {
-        visible &= ~kVisibleParentClip;
-    }
-    Slot* slot = isPrivate ? FindPrivateSlot(window) : FindCacheSlot(window->handle, visible);
+HDC AcquireContext(Window* window, bool whole, const gdi::Region* limit, bool painting) {
+    const unsigned visible = VisibleFlagsOf(window, whole);
+    Slot* slot = FindFreeSlot(window->handle, visible);
     if (slot == nullptr) {
         return nullptr;
     }
     const bool current = slot->window == window->handle && slot->visible == visible && !slot->limited &&
                          limit == nullptr && slot->generation == WindowsGeneration();
-    if (slot->window != window->handle) {
-        slot->window = window->handle;
-        gdi::SetContextWindow(slot->context, window->handle);
-    }
+    slot->window = window->handle;
     slot->visible = visible;
     slot->inUse = true;
     slot->painting = painting;
@@ -213,27 +139,17 @@ bool ReleaseContext(HDC context, bool* painting) {
     }
     UserGuard guard(UserLock());
     Slot* slot = FindSlot(context);
-    if (slot == nullptr || (slot->kind == Slot::Kind::Cache && !slot->inUse)) {
+    if (slot == nullptr || !slot->inUse) {
         return false;
     }
     if (painting != nullptr) {
         *painting = slot->painting;
     }
     slot->painting = false;
-    if (slot->kind != Slot::Kind::Cache) {
-        if (slot->limited) {
-            slot->limited = false;
-            if (Window* window = base::Find<Window>(slot->window, base::HandleKind::Window); window != nullptr) {
-                Place(*slot, window);
-            }
-        }
-        return true;
-    }
     slot->inUse = false;
     gdi::ResetContext(context);
     Slots& slots = AllSlots();
-    const auto spare = std::count_if(slots.begin(), slots.end(),
-                                     [](const auto& each) { return each->kind == Slot::Kind::Cache && !each->inUse; });
+    const auto spare = std::count_if(slots.begin(), slots.end(), [](const auto& each) { return !each->inUse; });
     if (static_cast<std::size_t>(spare) > kSpareContexts) {
         gdi::DeleteScreenContext(context);
         slots.erase(std::find_if(slots.begin(), slots.end(), [slot](const auto& each) { return each.get() == slot; }));
@@ -243,7 +159,7 @@ bool ReleaseContext(HDC context, bool* painting) {
 
 void RefreshContexts() {
     for (const auto& slot : AllSlots()) {
-        if ((!slot->inUse && slot->kind == Slot::Kind::Cache) || slot->generation == WindowsGeneration()) {
+        if (!slot->inUse || slot->generation == WindowsGeneration()) {
             continue;
         }
         if (Window* window = base::Find<Window>(slot->window, base::HandleKind::Window); window != nullptr) {
@@ -255,8 +171,7 @@ void RefreshContexts() {
 int ContextsInUse() {
     UserGuard guard(UserLock());
     const Slots& slots = AllSlots();
-    return static_cast<int>(std::count_if(
-        slots.begin(), slots.end(), [](const auto& slot) { return slot->kind == Slot::Kind::Cache && slot->inUse; }));
+    return static_cast<int>(std::count_if(slots.begin(), slots.end(), [](const auto& slot) { return slot->inUse; }));
 }
 
 void ForgetPainting(Window* window) {
@@ -264,21 +179,17 @@ void ForgetPainting(Window* window) {
     Slots& slots = AllSlots();
     for (std::size_t i = 0; i < slots.size();) {
         Slot& slot = *slots[i];
-        const bool classContext = slot.kind == Slot::Kind::Class && slot.windowClass == window->windowClass;
-        const bool mine = slot.window == window->handle;
-        if (mine && slot.kind == Slot::Kind::Cache && (!slot.inUse || Renew(slot))) {
-            gdi::SetContextWindow(slot.context, nullptr);
+        if (slot.window == window->handle) {
+            if (slot.inUse && !Renew(slot)) {
+                slots.erase(slots.begin() + static_cast<std::ptrdiff_t>(i));
+                continue;
+            }
             gdi::ReplaceVisible(slot.context, POINT{0, 0}, gdi::Region());
             slot.window = nullptr;
             slot.limited = false;
-        } else if ((mine && slot.kind != Slot::Kind::Class) || (classContext && window->windowClass->windows <= 1)) {
-            gdi::DeleteScreenContext(slot.context);
-            slots.erase(slots.begin() + static_cast<std::ptrdiff_t>(i));
-            continue;
         }
         ++i;
     }
-    window->classOrOwnContext = nullptr;
     window->update.Clear();
     window->eraseNeeded = window->frameNeeded = window->internalPaint = false;
     delete window->paintState;
@@ -288,45 +199,25 @@ void ForgetPainting(Window* window) {
 }  // namespace platform::user
 
 using namespace platform::user;
-namespace base = platform::base;
-namespace gdi = platform::gdi;
 
-HDC WINAPI GetDCEx(HWND handle, HRGN clip, DWORD flags) {
-    HDC context = nullptr;
-    {
-        UserGuard guard(UserLock());
-        Window* window = handle == nullptr ? Desktop() : FindWindowObject(handle);
-        if (window == nullptr) {
-            return nullptr;
-        }
-        gdi::Region limit;
-        const bool limited = LimitOf(window, clip, flags, &limit);
-        context = AcquireContext(window, flags, limited ? &limit : nullptr, false);
-        if (context != nullptr && (flags & DCX_VALIDATE) != 0 && (flags & DCX_INTERSECTUPDATE) != 0) {
-            window->update.Clear();
-            window->eraseNeeded = window->frameNeeded = false;
-        }
-    }
-    // With these flags the region passes into the system's hands.
-    if (context != nullptr && (flags & (DCX_INTERSECTRGN | DCX_EXCLUDERGN)) != 0 &&
-        base::KindOfHandle(base::ToNumber(clip)) == base::HandleKind::Region) {
-        DeleteObject(clip);
-    }
-    return context;
+namespace {
+
+HDC ContextOf(HWND handle, bool whole) {
+    const UserGuard guard(UserLock());
+    Window* window = handle == nullptr ? Desktop() : FindWindowObject(handle);
+    return window == nullptr ? nullptr : AcquireContext(window, whole, nullptr, false);
 }
 
+}  // namespace
+
 HDC WINAPI GetDC(HWND handle) {
-    return GetDCEx(handle, nullptr, kContextUseStyle);
+    return ContextOf(handle, false);
 }
 
 HDC WINAPI GetWindowDC(HWND handle) {
-    return GetDCEx(handle, nullptr, kContextUseStyle | DCX_WINDOW);
+    return ContextOf(handle, true);
 }
 
 int WINAPI ReleaseDC(HWND, HDC context) {
     return ReleaseContext(context) ? 1 : 0;
-}
-
-HWND WINAPI WindowFromDC(HDC context) {
-    return gdi::GetContextWindow(context);
 }

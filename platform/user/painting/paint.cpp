@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "base/handle.h"
-#include "gdi/context/device_context.h"
 #include "user/message/above.h"
+#include "user/message/queue.h"
 #include "user/painting/above.h"
 #include "user/painting/painting.h"
 
@@ -51,7 +51,6 @@ void ListChildren(const Window* window, PaintList& list) {
 }  // namespace
 
 void SendFramePaint(HWND handle) {
-    HRGN object = nullptr;
     {
         UserGuard guard(UserLock());
         Window* window = PeekWindow(handle);
@@ -59,28 +58,20 @@ void SendFramePaint(HWND handle) {
             return;
         }
         window->frameNeeded = false;
-        gdi::Region due = ScreenUpdate(window);
+        const gdi::Region due = ScreenUpdate(window);
         RECT client = window->clientRect;
         gdi::Region frame = Visible(window, (StyleFlags(window) & ~kVisibleClipChildren) | kVisibleWhole);
         frame.Subtract(client);
         OffsetRect(&client, -window->windowRect.left, -window->windowRect.top);
         window->update.Intersect(client);
 
-        gdi::Region frameDue = frame;
-        frameDue.Intersect(due);
-        if (frameDue.Empty()) {
+        frame.Intersect(due);
+        if (frame.Empty()) {
             return;
         }
-        if (!frame.Subtract(due).Empty()) {
-            object = gdi::MakeRegionObject(due);
-        }
     }
-    const WPARAM area = object != nullptr ? reinterpret_cast<WPARAM>(object) : 1;
-    SendMessageA(handle, WM_NCPAINT, area, 0);
-    // Whoever hands the region to GetDCEx has given it away already.
-    if (object != nullptr && base::KindOfHandle(base::ToNumber(object)) == base::HandleKind::Region) {
-        DeleteObject(object);
-    }
+    // 1 stands for all of the frame.
+    SendMessageA(handle, WM_NCPAINT, 1, 0);
 }
 
 void SendErase(HWND handle) {
@@ -96,7 +87,7 @@ void SendErase(HWND handle) {
         if (region.Empty()) {
             return;
         }
-        context = AcquireContext(window, kContextUseStyle | DCX_CACHE, &region, false);
+        context = AcquireContext(window, false, &region, false);
         if (context == nullptr) {
             return;
         }
@@ -225,7 +216,7 @@ HDC WINAPI BeginPaint(HWND handle, LPPAINTSTRUCT paint) {
         TakePaintRequest(window);
         erase = window->eraseNeeded && !region.Empty();
         window->eraseNeeded = false;
-        context = AcquireContext(window, kContextUseStyle, &region, true);
+        context = AcquireContext(window, false, &region, true);
         if (context == nullptr) {
             // Kept for another try, when there is memory again.
             MarkInvalid(window, std::move(region), erase, false);
@@ -235,9 +226,6 @@ HDC WINAPI BeginPaint(HWND handle, LPPAINTSTRUCT paint) {
         if (!region.Empty()) {
             paint->rcPaint = region.Bounds();
             OffsetRect(&paint->rcPaint, -window->clientRect.left, -window->clientRect.top);
-            if ((window->windowClass->style & (CS_OWNDC | CS_CLASSDC)) != 0) {
-                DPtoLP(context, reinterpret_cast<POINT*>(&paint->rcPaint), 2);
-            }
         }
     }
     paint->hdc = context;

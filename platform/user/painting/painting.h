@@ -17,8 +17,7 @@ enum VisibleFlags : unsigned {
     kVisibleWhole = 1,         ///< the whole window, not only its client area
     kVisibleClipChildren = 2,  ///< without its children
     kVisibleClipSiblings = 4,  ///< without siblings above it; top-level windows are always cut so
-    kVisibleParentClip = 8,    ///< the parent's client area, whatever of it the window covers
-    kVisibleFlagCount = 16
+    kVisibleFlagCount = 8
 };
 
 struct PaintState {
@@ -63,9 +62,6 @@ gdi::Region VisibleRegion(Window* window, bool clientOnly, bool clipChildren);
 /// desktop's background. Area in screen coordinates.
 void ExposeScreen(const gdi::Region& area);
 
-/// Adds to a window's update region (window-relative) and tells its thread that painting is due. Lock held.
-void AddUpdate(Window* window, const gdi::Region& area, bool erase, bool frame);
-
 /// @returns whether the window has something to paint (update region or internal paint). Lock held.
 bool NeedsPaint(const Window* window);
 
@@ -78,11 +74,9 @@ void WindowsChanged();
 
 // --- contexts (dc.cpp)
 
-constexpr DWORD kContextUseStyle = 0x00010000;  ///< resolve clipping from the styles of class and window
-
-/// Hands out a context for a window. limit: null, or the area of the screen that drawing is held to.
-/// @returns null when memory has run out.
-HDC AcquireContext(Window* window, DWORD flags, const gdi::Region* limit, bool painting);
+/// Hands out a context for a window, clipped as the styles of window and class say. whole: the whole window, not only its
+/// client area. limit: null, or the area of the screen that drawing is held to. @returns null when memory has run out.
+HDC AcquireContext(Window* window, bool whole, const gdi::Region* limit, bool painting);
 
 /// Takes a context back. @returns false when it is not one that AcquireContext gave. painting: tells whether it was a
 /// paint context. Takes the lock itself.
@@ -102,6 +96,10 @@ void SendErase(HWND handle);
 /// Sends WM_PAINT to a window and its descendants where it is due, each once, parents first.
 /// children: 0 as WS_CLIPCHILDREN says, RDW_ALLCHILDREN or RDW_NOCHILDREN. erase: only frames and backgrounds.
 void UpdateTree(HWND handle, UINT children, bool eraseOnly);
+
+/// Moves the pixels of a client area that nobody else draws to; what comes into view has to be painted. Takes the lock itself.
+/// @param erase  whether its background is due as well.
+void ScrollClient(HWND control, int dx, int dy, bool erase);
 
 /// @returns how many window contexts are handed out and not released yet, for GetGuiResources.
 int ContextsInUse();

@@ -3,11 +3,8 @@
 #include <new>
 #include <vector>
 
-#include "base/handle.h"
-#include "gdi/context/device_context.h"
-#include "gdi/surface/screen.h"
-#include "user/painting/painting.h"
 #include "user/model/thread.h"
+#include "user/painting/painting.h"
 
 namespace platform::user {
 namespace {
@@ -68,39 +65,25 @@ void ValidateWalk(Window* window, const gdi::Region& area, UINT flags) {
     }
 }
 
-/// The area that a caller means, in screen coordinates. @returns false when the region handle is bad.
-bool AreaOf(const Window* window, const RECT* rect, HRGN region, bool whole, gdi::Region* area) {
-    if (region != nullptr) {
-        if (base::KindOfHandle(base::ToNumber(region)) != base::HandleKind::Region) {
-            SetLastError(ERROR_INVALID_HANDLE);
-            return false;
-        }
-        *area = gdi::RegionOf(region);
-        area->Offset(window->clientRect.left, window->clientRect.top);
-    } else if (rect != nullptr) {
-        // An inverted rectangle means the same area, and far coordinates must not overflow.
-        const auto limit = [](LONG value) { return std::min<LONG>(std::max<LONG>(value, -0x100000), 0x100000); };
-        const RECT& client = window->clientRect;
-        area->Set(RECT{limit(std::min(rect->left, rect->right)) + client.left,
-                       limit(std::min(rect->top, rect->bottom)) + client.top,
-                       limit(std::max(rect->left, rect->right)) + client.left,
-                       limit(std::max(rect->top, rect->bottom)) + client.top});
-    } else {
-        area->Set(whole ? window->windowRect : window->clientRect);
+/// The area that a caller means, in screen coordinates.
+gdi::Region AreaOf(const Window* window, const RECT* rect, bool whole) {
+    if (rect == nullptr) {
+        return gdi::Region(whole ? window->windowRect : window->clientRect);
     }
-    return true;
+    // An inverted rectangle means the same area, and far coordinates must not overflow.
+    const auto limit = [](LONG value) { return std::min<LONG>(std::max<LONG>(value, -0x100000), 0x100000); };
+    const RECT& client = window->clientRect;
+    return gdi::Region(RECT{
+        limit(std::min(rect->left, rect->right)) + client.left, limit(std::min(rect->top, rect->bottom)) + client.top,
+        limit(std::max(rect->left, rect->right)) + client.left, limit(std::max(rect->top, rect->bottom)) + client.top});
 }
 
 /// Everything on the screen is to be drawn anew.
-void RedrawScreen(const RECT* rect, HRGN region) {
+void RedrawScreen(const RECT* rect) {
     std::vector<HWND> windows;
     {
         UserGuard guard(UserLock());
-        gdi::Region area;
-        if (!AreaOf(Desktop(), rect, region, true, &area)) {
-            return;
-        }
-        ExposeScreen(area);
+        ExposeScreen(AreaOf(Desktop(), rect, true));
         try {
             for (Window* window = Desktop()->firstChild; window != nullptr; window = window->next) {
                 if (window->thread == CurrentThread()) {
@@ -139,13 +122,16 @@ void FinishFrame(HWND handle) {
 }  // namespace platform::user
 
 using namespace platform::user;
-namespace base = platform::base;
 namespace gdi = platform::gdi;
 
 BOOL WINAPI RedrawWindow(HWND handle, const RECT* rect, HRGN region, UINT flags) {
+    if (region != nullptr) {
+        SetLastError(ERROR_INVALID_HANDLE);
+        return FALSE;
+    }
     if (handle == nullptr || handle == GetDesktopWindow()) {
         if ((flags & RDW_INVALIDATE) != 0) {
-            RedrawScreen(rect, region);
+            RedrawScreen(rect);
         }
         return TRUE;
     }
@@ -155,11 +141,7 @@ BOOL WINAPI RedrawWindow(HWND handle, const RECT* rect, HRGN region, UINT flags)
         if (window == nullptr) {
             return FALSE;
         }
-        gdi::Region area;
-        const bool whole = (flags & (RDW_FRAME | RDW_VALIDATE)) != 0;
-        if (!AreaOf(window, rect, region, whole, &area)) {
-            return FALSE;
-        }
+        const gdi::Region area = AreaOf(window, rect, (flags & (RDW_FRAME | RDW_VALIDATE)) != 0);
         if ((flags & RDW_INVALIDATE) != 0) {
             if (IsShown(window)) {
                 InvalidateWalk(window, area, flags);
@@ -187,32 +169,12 @@ BOOL WINAPI InvalidateRect(HWND handle, const RECT* rect, BOOL erase) {
     return RedrawWindow(handle, rect, nullptr, RDW_INVALIDATE | (erase ? RDW_ERASE : 0U));
 }
 
-BOOL WINAPI InvalidateRgn(HWND handle, HRGN region, BOOL erase) {
-    if (handle == nullptr) {
-        SetLastError(ERROR_INVALID_WINDOW_HANDLE);
-        return FALSE;
-    }
-    return RedrawWindow(handle, nullptr, region, RDW_INVALIDATE | (erase ? RDW_ERASE : 0U));
-}
-
 BOOL WINAPI ValidateRect(HWND handle, const RECT* rect) {
     if (handle == nullptr) {
         // Documented so: without a window everything is invalidated.
         return RedrawWindow(nullptr, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
     }
     if (!RedrawWindow(handle, rect, nullptr, RDW_VALIDATE)) {
-        return FALSE;
-    }
-    FinishFrame(handle);
-    return TRUE;
-}
-
-BOOL WINAPI ValidateRgn(HWND handle, HRGN region) {
-    if (handle == nullptr) {
-        SetLastError(ERROR_INVALID_WINDOW_HANDLE);
-        return FALSE;
-    }
-    if (!RedrawWindow(handle, nullptr, region, RDW_VALIDATE | RDW_NOCHILDREN)) {
         return FALSE;
     }
     FinishFrame(handle);

@@ -1,9 +1,4 @@
 // Update regions: what a window still has to paint, and who is next to paint it.
-#include <new>
-
-#include "base/handle.h"
-#include "gdi/context/context.h"
-#include "gdi/context/device_context.h"
 #include "user/message/above.h"
 #include "user/model/thread.h"
 #include "user/painting/painting.h"
@@ -38,14 +33,6 @@ Window* SearchChildren(Window* parent, const ThreadState* thread) {
         }
     }
     return transparent;
-}
-
-/// The update region of the client area in client coordinates.
-gdi::Region ClientUpdate(Window* window) {
-    gdi::Region region = ScreenUpdate(window);
-    region.Intersect(window->clientRect);
-    region.Offset(-window->clientRect.left, -window->clientRect.top);
-    return region;
 }
 
 }  // namespace
@@ -103,13 +90,6 @@ void MarkInvalid(Window* window, gdi::Region area, bool erase, bool frame) {
     }
 }
 
-void AddUpdate(Window* window, const gdi::Region& area, bool erase, bool frame) {
-    gdi::Region visible = area;
-    visible.Offset(window->windowRect.left, window->windowRect.top);
-    visible.Intersect(Visible(window, StyleFlags(window) | kVisibleWhole));
-    MarkInvalid(window, std::move(visible), erase, frame);
-}
-
 bool NeedsPaint(const Window* window) {
     return window->internalPaint || !window->update.Empty();
 }
@@ -135,8 +115,6 @@ Window* NextPaintWindow(ThreadState* thread, Window* within) {
 }  // namespace platform::user
 
 using namespace platform::user;
-namespace base = platform::base;
-namespace gdi = platform::gdi;
 
 BOOL WINAPI GetUpdateRect(HWND handle, LPRECT rect, BOOL erase) {
     if (erase) {
@@ -148,51 +126,11 @@ BOOL WINAPI GetUpdateRect(HWND handle, LPRECT rect, BOOL erase) {
     if (window == nullptr) {
         return FALSE;
     }
-    const gdi::Region region = ClientUpdate(window);
+    platform::gdi::Region region = ScreenUpdate(window);
+    region.Intersect(window->clientRect);
+    region.Offset(-window->clientRect.left, -window->clientRect.top);
     if (rect != nullptr) {
         *rect = region.Bounds();
-        if ((window->windowClass->style & CS_OWNDC) != 0 && window->classOrOwnContext != nullptr) {
-            DPtoLP(window->classOrOwnContext, reinterpret_cast<POINT*>(rect), 2);
-        }
     }
     return !region.Empty();
-}
-
-int WINAPI GetUpdateRgn(HWND handle, HRGN result, BOOL erase) {
-    if (erase) {
-        SendFramePaint(handle);
-        SendErase(handle);
-    }
-    UserGuard guard(UserLock());
-    Window* window = FindWindowObject(handle);
-    if (window == nullptr) {
-        return ERROR;
-    }
-    const gdi::Region region = ClientUpdate(window);
-    if (!gdi::AssignRegion(result, region)) {
-        SetLastError(ERROR_INVALID_HANDLE);
-        return ERROR;
-    }
-    return gdi::Complexity(region);
-}
-
-int WINAPI ExcludeUpdateRgn(HDC context, HWND handle) {
-    gdi::Region region;
-    {
-        UserGuard guard(UserLock());
-        Window* window = FindWindowObject(handle);
-        if (window == nullptr) {
-            return ERROR;
-        }
-        region = ScreenUpdate(window);
-    }
-    const POINT origin = gdi::ContextOrigin(context);
-    region.Offset(-origin.x, -origin.y);
-    HRGN object = gdi::MakeRegionObject(region);
-    if (object == nullptr) {
-        return ERROR;
-    }
-    const int type = ExtSelectClipRgn(context, object, RGN_DIFF);
-    DeleteObject(object);
-    return type;
 }

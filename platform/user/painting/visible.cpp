@@ -69,23 +69,16 @@ void CutChildren(gdi::Region& region, const Window* window) {
 }
 
 gdi::Region Compute(Window* window, unsigned flags) {
-    const Window* desktop = Desktop();
     gdi::Region region;
-    if (window == desktop) {
+    if (window == Desktop()) {
         return gdi::Region(gdi::ScreenRect());
     }
     if (!IsShown(window)) {
         return region;
     }
-    if ((flags & kVisibleParentClip) != 0 && window->parent != nullptr && window->parent != desktop) {
-        region.Set(window->parent->clientRect);
-        region.Intersect(gdi::ScreenRect());
-        CutSurroundings(region, window->parent, (window->parent->style & WS_CLIPSIBLINGS) != 0);
-    } else {
-        region.Set((flags & kVisibleWhole) != 0 ? window->windowRect : window->clientRect);
-        region.Intersect(gdi::ScreenRect());
-        CutSurroundings(region, window, (flags & kVisibleClipSiblings) != 0);
-    }
+    region.Set((flags & kVisibleWhole) != 0 ? window->windowRect : window->clientRect);
+    region.Intersect(gdi::ScreenRect());
+    CutSurroundings(region, window, (flags & kVisibleClipSiblings) != 0);
     if ((flags & kVisibleClipChildren) != 0) {
         CutChildren(region, window);
     }

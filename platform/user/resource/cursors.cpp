@@ -1,14 +1,14 @@
 // Cursors and icons as objects: the system's own, known by number, and those of modules, known by name.
 #include <algorithm>
-#include <atomic>
 #include <iterator>
 #include <memory>
 #include <mutex>
 #include <new>
 
 #include "base/handle.h"
-#include "user/resource/icons.h"
+#include "kernel/modules/resource.h"
 #include "user/model/window.h"
+#include "user/resource/icons.h"
 
 namespace platform::user {
 namespace {
@@ -21,8 +21,6 @@ constexpr unsigned kFirstIcon = 32512;
 constexpr unsigned kLastIcon = 32517;
 constexpr unsigned kArrow = 32512;
 
-std::atomic<DWORD> ownIcons{0};
-
 HandleKind KindOf(bool cursor) {
     return cursor ? HandleKind::Cursor : HandleKind::Icon;
 }
@@ -33,9 +31,6 @@ std::uint32_t File(std::unique_ptr<Icon> icon) {
     if (!handle) {
         throw std::bad_alloc();
     }
-    if (!icon->shared) {
-        ++ownIcons;
-    }
     icon.release();
     return handle;
 }
@@ -43,7 +38,7 @@ std::uint32_t File(std::unique_ptr<Icon> icon) {
 /// What was loaded before, as a second call gives the same handle.
 struct Loaded {
     HINSTANCE instance;
-    HRSRC group;  ///< null for the system's own
+    const void* group;  ///< null for the system's own
     unsigned number;
     bool cursor;
     std::uint32_t handle;
@@ -90,7 +85,8 @@ HANDLE Load(HINSTANCE instance, LPCSTR name, bool cursor) try {
         SetLastError(ERROR_RESOURCE_NAME_NOT_FOUND);
         return nullptr;
     }
-    const HRSRC group = instance ? FindResourceA(instance, name, cursor ? RT_GROUP_CURSOR : RT_GROUP_ICON) : nullptr;
+    const void* group =
+        instance ? kernel::FindResourceBytes(instance, name, cursor ? RT_GROUP_CURSOR : RT_GROUP_ICON).data() : nullptr;
     if (instance && !group) {
         return nullptr;
     }
@@ -106,7 +102,6 @@ HANDLE Load(HINSTANCE instance, LPCSTR name, bool cursor) try {
     if (!icon) {
         return nullptr;
     }
-    icon->shared = true;
     icon->cursor = cursor;
     shared.all.reserve(shared.all.size() + 1);
     const std::uint32_t handle = File(std::move(icon));
@@ -115,21 +110,6 @@ HANDLE Load(HINSTANCE instance, LPCSTR name, bool cursor) try {
 } catch (const std::bad_alloc&) {
     SetLastError(ERROR_NOT_ENOUGH_MEMORY);
     return nullptr;
-}
-
-BOOL Destroy(HANDLE handle, HandleKind kind, DWORD error) {
-    const Icon* icon = base::Find<Icon>(handle, kind);
-    if (!icon) {
-        SetLastError(error);
-        return FALSE;
-    }
-    // A shared one is destroyed by nobody, and asking for it does no harm.
-    if (!icon->shared) {
-        base::RemoveHandle(base::ToNumber(handle), kind);
-        delete icon;
-        --ownIcons;
-    }
-    return TRUE;
 }
 
 }  // namespace
@@ -152,10 +132,6 @@ SIZE IconSize(HICON handle) {
             picture.height ? picture.height : GetSystemMetrics(SM_CYICON)};
 }
 
-DWORD OwnIcons() {
-    return ownIcons.load();
-}
-
 }  // namespace platform::user
 
 using namespace platform::user;
@@ -165,31 +141,15 @@ HCURSOR WINAPI LoadCursorA(HINSTANCE instance, LPCSTR name) {
     return static_cast<HCURSOR>(Load(instance, name, true));
 }
 
-BOOL WINAPI DestroyCursor(HCURSOR cursor) {
-    return Destroy(cursor, HandleKind::Cursor, ERROR_INVALID_CURSOR_HANDLE);
-}
-
 HICON WINAPI LoadIconA(HINSTANCE instance, LPCSTR name) {
     return static_cast<HICON>(Load(instance, name, false));
 }
 
 BOOL WINAPI DestroyIcon(HICON icon) {
-    return Destroy(icon, HandleKind::Icon, ERROR_INVALID_ICON_HANDLE);
-}
-
-HICON WINAPI CopyIcon(HICON handle) try {
-    const Icon* icon = platform::base::Find<Icon>(handle, HandleKind::Icon);
-    if (!icon) {
-        icon = platform::base::Find<Icon>(handle, HandleKind::Cursor);
-    }
-    if (!icon) {
+    if (!platform::base::Find<Icon>(icon, HandleKind::Icon)) {
         SetLastError(ERROR_INVALID_ICON_HANDLE);
-        return nullptr;
+        return FALSE;
     }
-    auto copy = std::make_unique<Icon>(*icon);
-    copy->shared = false;
-    return platform::base::ToHandle<HICON>(File(std::move(copy)));
-} catch (const std::bad_alloc&) {
-    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-    return nullptr;
+    // All icons are loaded, and so shared: one is destroyed by nobody, and asking for it does no harm.
+    return TRUE;
 }

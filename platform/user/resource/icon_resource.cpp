@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "kernel/modules/resource.h"
 namespace platform::user {
 namespace {
 
@@ -13,29 +14,21 @@ constexpr int kLargest = 256;
 /// A resource's bytes; every read is checked against their number.
 class Bytes {
   public:
-    Bytes(HINSTANCE instance, LPCSTR name, LPCSTR type) {
-        const HRSRC found = FindResourceA(instance, name, type);
-        const HGLOBAL loaded = found ? LoadResource(instance, found) : nullptr;
-        if (loaded) {
-            data_ = static_cast<const unsigned char*>(LockResource(loaded));
-            size_ = data_ ? SizeofResource(instance, found) : 0;
-        }
-    }
+    Bytes(HINSTANCE instance, LPCSTR name, LPCSTR type) : data_(kernel::FindResourceBytes(instance, name, type)) {}
     bool Has(std::size_t at, std::size_t count) const {
-        return at <= size_ && count <= size_ - at;
+        return at <= data_.size() && count <= data_.size() - at;
     }
     template <class Number>
     Number Read(std::size_t at) const {
         Number value = 0;
         if (Has(at, sizeof value)) {
-            std::memcpy(&value, data_ + at, sizeof value);
+            std::memcpy(&value, data_.data() + at, sizeof value);
         }
         return value;
     }
 
   private:
-    const unsigned char* data_ = nullptr;
-    std::size_t size_ = 0;
+    kernel::Bytes data_;
 };
 
 std::uint32_t PixelAt(const Bytes& bytes, std::size_t row, int x, int bits, std::size_t palette) {

@@ -25,7 +25,6 @@ struct IconPicture {
 /// What an icon's or a cursor's handle leads to.
 struct Icon {
     unsigned number = 0;  ///< of the system's own: IDI_ or IDC_ as a number; the shape that stands for a cursor
-    bool shared = false;  ///< lives as long as the process; destroying it does nothing
     bool cursor = false;
     IconPicture picture;
 };
@@ -37,14 +36,14 @@ IconPicture DrawSystemIcon(unsigned number);
 /// @returns nothing, with the error code set, when it is missing or damaged.
 std::optional<IconPicture> ReadIconResource(HINSTANCE instance, LPCSTR name, bool cursor);
 
+/// Draws an icon or a cursor, stretched to the place. @returns false, with the error set, when it could not be drawn.
+bool DrawIconIn(HDC context, const RECT& place, HICON icon);
+
 /// @returns an icon's or a cursor's width and height; zeros, and no error code, for anything else.
 SIZE IconSize(HICON icon);
 
 /// @returns the icon that stands in a window's caption, null for none. Lock held.
 HICON CaptionIcon(const Window* window);
-
-/// @returns how many icons and cursors the application made and has not destroyed.
-DWORD OwnIcons();
 
 /// @returns the number of the system cursor that a cursor shows (IDC_ARROW ... as a number), 0 for none.
 unsigned CursorShape(HCURSOR cursor);

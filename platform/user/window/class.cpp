@@ -17,8 +17,7 @@ namespace platform::user {
 namespace {
 
 constexpr int kMostExtra = 0x10000;
-constexpr UINT kKnownStyles = CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS | CS_OWNDC | CS_CLASSDC | CS_PARENTDC | CS_NOCLOSE |
-                              CS_SAVEBITS | CS_BYTEALIGNCLIENT | CS_BYTEALIGNWINDOW | CS_GLOBALCLASS | CS_DROPSHADOW;
+constexpr UINT kKnownStyles = CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS | CS_NOCLOSE | CS_SAVEBITS | CS_GLOBALCLASS;
 
 std::vector<std::unique_ptr<WindowClass>>& Classes() {
     static std::vector<std::unique_ptr<WindowClass>> classes;
@@ -37,7 +36,7 @@ bool IsRealBrush(HBRUSH brush) {
     return reinterpret_cast<std::uintptr_t>(brush) >= 0x10000;
 }
 
-ATOM Register(const WNDCLASSEXA& given) {
+ATOM Register(const WNDCLASSA& given) {
     if (!given.lpszClassName || !given.lpfnWndProc || given.cbClsExtra < 0 || given.cbWndExtra < 0 ||
         given.cbClsExtra > kMostExtra || given.cbWndExtra > kMostExtra || (given.style & ~kKnownStyles)) {
         SetLastError(ERROR_INVALID_PARAMETER);
@@ -66,7 +65,6 @@ ATOM Register(const WNDCLASSEXA& given) {
     made->procedure = given.lpfnWndProc;
     made->windowExtra = given.cbWndExtra;
     made->icon = given.hIcon;
-    made->smallIcon = given.hIconSm;
     made->cursor = given.hCursor;
     made->background = given.hbrBackground;
     if (IS_INTRESOURCE(given.lpszMenuName)) {
@@ -74,39 +72,9 @@ ATOM Register(const WNDCLASSEXA& given) {
     } else {
         made->menuName = given.lpszMenuName;
     }
-    made->extra.resize(static_cast<std::size_t>(given.cbClsExtra));
+    made->classExtra = given.cbClsExtra;
     Classes().push_back(std::move(made));
     return atom;
-}
-
-void Describe(const WindowClass& found, HINSTANCE instance, LPCSTR name, WNDCLASSEXA* result) {
-    result->style = found.style;
-    result->lpfnWndProc = found.procedure;
-    result->cbClsExtra = static_cast<int>(found.extra.size());
-    result->cbWndExtra = found.windowExtra;
-    result->hInstance = found.system ? nullptr : instance;
-    result->hIcon = found.icon;
-    result->hIconSm = found.smallIcon;
-    result->hCursor = found.cursor;
-    result->hbrBackground = found.background;
-    result->lpszMenuName = found.menuId || found.menuName.empty() ? found.menuId : found.menuName.c_str();
-    result->lpszClassName = name;
-}
-
-ATOM Look(HINSTANCE instance, LPCSTR name, WNDCLASSEXA* result) {
-    if (!name || !result) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return 0;
-    }
-    InitialiseClasses();
-    const UserGuard guard(UserLock());
-    const WindowClass* found = FindClass(instance, name);
-    if (!found) {
-        SetLastError(ERROR_CLASS_DOES_NOT_EXIST);
-        return 0;
-    }
-    Describe(*found, instance, name, result);
-    return found->atom;
 }
 
 /// Takes one class out. @return false if there is none, and else a brush that is nobody's any more.
@@ -184,6 +152,7 @@ void InitialiseClasses() {
     static std::once_flag once;
     std::call_once(once, [] {
         RegisterDialogClasses();
+        RegisterMenuClass();
         kernel::WhenModulesGo(ForgetClasses);
     });
 }
@@ -192,34 +161,12 @@ void InitialiseClasses() {
 
 using namespace platform::user;
 
-ATOM WINAPI RegisterClassExA(const WNDCLASSEXA* windowClass) try {
-    if (!windowClass || windowClass->cbSize != sizeof(WNDCLASSEXA)) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return 0;
-    }
-    return Register(*windowClass);
-} catch (const std::bad_alloc&) {
-    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-    return 0;
-}
-
 ATOM WINAPI RegisterClassA(const WNDCLASSA* windowClass) try {
     if (!windowClass) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return 0;
     }
-    WNDCLASSEXA extended{};
-    extended.style = windowClass->style;
-    extended.lpfnWndProc = windowClass->lpfnWndProc;
-    extended.cbClsExtra = windowClass->cbClsExtra;
-    extended.cbWndExtra = windowClass->cbWndExtra;
-    extended.hInstance = windowClass->hInstance;
-    extended.hIcon = windowClass->hIcon;
-    extended.hCursor = windowClass->hCursor;
-    extended.hbrBackground = windowClass->hbrBackground;
-    extended.lpszMenuName = windowClass->lpszMenuName;
-    extended.lpszClassName = windowClass->lpszClassName;
-    return Register(extended);
+    return Register(*windowClass);
 } catch (const std::bad_alloc&) {
     SetLastError(ERROR_NOT_ENOUGH_MEMORY);
     return 0;
@@ -254,18 +201,29 @@ BOOL WINAPI UnregisterClassA(LPCSTR name, HINSTANCE instance) {
     return TRUE;
 }
 
-BOOL WINAPI GetClassInfoExA(HINSTANCE instance, LPCSTR name, LPWNDCLASSEXA windowClass) {
-    return Look(instance, name, windowClass);
-}
-
 BOOL WINAPI GetClassInfoA(HINSTANCE instance, LPCSTR name, LPWNDCLASSA windowClass) {
-    WNDCLASSEXA found{};
-    const ATOM atom = Look(instance, name, windowClass ? &found : nullptr);
-    if (atom) {
-        *windowClass = {found.style, found.lpfnWndProc, found.cbClsExtra,    found.cbWndExtra,   found.hInstance,
-                        found.hIcon, found.hCursor,     found.hbrBackground, found.lpszMenuName, found.lpszClassName};
+    if (!name || !windowClass) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return 0;
     }
-    return atom;
+    InitialiseClasses();
+    const UserGuard guard(UserLock());
+    const WindowClass* found = FindClass(instance, name);
+    if (!found) {
+        SetLastError(ERROR_CLASS_DOES_NOT_EXIST);
+        return 0;
+    }
+    *windowClass = {found->style,
+                    found->procedure,
+                    found->classExtra,
+                    found->windowExtra,
+                    found->system ? nullptr : instance,
+                    found->icon,
+                    found->cursor,
+                    found->background,
+                    found->menuId || found->menuName.empty() ? found->menuId : found->menuName.c_str(),
+                    name};
+    return found->atom;
 }
 
 int WINAPI GetClassNameA(HWND window, LPSTR name, int size) {
@@ -283,8 +241,4 @@ int WINAPI GetClassNameA(HWND window, LPSTR name, int size) {
     std::memcpy(name, text.data(), length);
     name[length] = '\0';
     return static_cast<int>(length);
-}
-
-UINT WINAPI RealGetWindowClassA(HWND window, LPSTR name, UINT size) {
-    return static_cast<UINT>(GetClassNameA(window, name, static_cast<int>(std::min(size, UINT{0x7FFFFFFF}))));
 }

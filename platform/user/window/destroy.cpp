@@ -18,7 +18,7 @@ Window* spareWindows = nullptr;  // linked by `next`; guarded by UserLock
 void Remove(Window* window) {
     ForgetPainting(window);
     UnlinkWindow(window);
-    for (Window* root : {Desktop(), MessageRoot()}) {
+    for (Window* root : {Desktop(), Orphanage()}) {
         for (Window* other = root->firstChild; other; other = other->next) {
             if (other->owner == window) {
                 other->owner = nullptr;
@@ -111,7 +111,7 @@ void RunDestruction(const SentMessage& sent) {
 /// held.
 void HandOver(Window* window) {
     UnlinkWindow(window);
-    window->parent = MessageRoot();
+    window->parent = Orphanage();
     window->style &= ~static_cast<DWORD>(WS_VISIBLE);
     LinkWindow(window, HWND_TOP);
     auto* errand = new (std::nothrow) SentMessage;
@@ -153,7 +153,7 @@ void NotifyParents(HWND handle, UINT event) {
             const UserGuard guard(UserLock());
             const Window* window = PeekWindow(child);
             if (!window || !IsChildStyle(window->style) || (window->exStyle & WS_EX_NOPARENTNOTIFY) ||
-                !window->parent || window->parent == Desktop() || window->parent == MessageRoot()) {
+                !window->parent || window->parent == Desktop() || window->parent == Orphanage()) {
                 return;
             }
             // A thread that ends waits for no other, which may be waiting for its end.

@@ -10,14 +10,6 @@ using namespace platform::user;
 
 namespace {
 
-std::vector<HWND> Children(const Window* parent) {
-    std::vector<HWND> list;
-    for (const Window* child = parent->firstChild; child; child = child->next) {
-        list.push_back(child->handle);
-    }
-    return list;
-}
-
 void CollectDescendants(const Window* parent, std::vector<HWND>& list) {
     for (const Window* child = parent->firstChild; child; child = child->next) {
         list.push_back(child->handle);
@@ -54,10 +46,6 @@ BOOL EnumerateCollected(WNDENUMPROC procedure, LPARAM parameter, Collect collect
     return Enumerate(list, procedure, parameter);
 }
 
-}  // namespace
-
-namespace {
-
 bool Matches(const Window* window, ATOM atom, LPCSTR text) {
     return (!atom || window->windowClass->atom == atom) && (!text || lstrcmpiA(window->text.c_str(), text) == 0);
 }
@@ -66,9 +54,7 @@ bool Matches(const Window* window, ATOM atom, LPCSTR text) {
 
 HWND WINAPI FindWindowExA(HWND parentHandle, HWND afterHandle, LPCSTR className, LPCSTR text) {
     const UserGuard guard(UserLock());
-    const Window* parent = !parentHandle                  ? Desktop()
-                           : parentHandle == HWND_MESSAGE ? MessageRoot()
-                                                          : FindWindowObject(parentHandle);
+    const Window* parent = parentHandle ? FindWindowObject(parentHandle) : Desktop();
     if (!parent) {
         return nullptr;
     }
@@ -89,7 +75,7 @@ HWND WINAPI FindWindowExA(HWND parentHandle, HWND afterHandle, LPCSTR className,
     while (window && !Matches(window, atom, text)) {
         window = window->next;
     }
-    return HandleOf(window);
+    return window ? window->handle : nullptr;
 }
 
 HWND WINAPI FindWindowA(LPCSTR className, LPCSTR text) {
@@ -135,43 +121,6 @@ HWND WINAPI WindowFromPoint(POINT point) try {
 } catch (const std::bad_alloc&) {
     SetLastError(ERROR_NOT_ENOUGH_MEMORY);
     return nullptr;
-}
-
-HWND WINAPI ChildWindowFromPointEx(HWND handle, POINT point, UINT flags) {
-    const UserGuard guard(UserLock());
-    const Window* parent = FindWindowObject(handle);
-    if (!parent) {
-        return nullptr;
-    }
-    point.x += parent->clientRect.left;
-    point.y += parent->clientRect.top;
-    if (!PtInRect(&parent->clientRect, point)) {
-        return nullptr;
-    }
-    for (const Window* child = parent->firstChild; child; child = child->next) {
-        const bool skipped = ((flags & CWP_SKIPINVISIBLE) && !(child->style & WS_VISIBLE)) ||
-                             ((flags & CWP_SKIPDISABLED) && (child->style & WS_DISABLED)) ||
-                             ((flags & CWP_SKIPTRANSPARENT) && (child->exStyle & WS_EX_TRANSPARENT));
-        if (!skipped && PtInRect(&child->windowRect, point)) {
-            return child->handle;
-        }
-    }
-    return parent->handle;
-}
-
-HWND WINAPI ChildWindowFromPoint(HWND parent, POINT point) {
-    return ChildWindowFromPointEx(parent, point, CWP_ALL);
-}
-
-HWND WINAPI RealChildWindowFromPoint(HWND parent, POINT point) {
-    return ChildWindowFromPointEx(parent, point, CWP_SKIPTRANSPARENT | CWP_SKIPINVISIBLE);
-}
-
-BOOL WINAPI EnumWindows(WNDENUMPROC procedure, LPARAM parameter) {
-    return EnumerateCollected(procedure, parameter, [](std::vector<HWND>& list) {
-        list = Children(Desktop());
-        return true;
-    });
 }
 
 BOOL WINAPI EnumChildWindows(HWND parent, WNDENUMPROC procedure, LPARAM parameter) {

@@ -1,10 +1,11 @@
-// The longs of windows and classes: styles, procedures, identifiers, extra bytes.
+// The longs of windows: styles, procedures, identifiers, extra bytes.
 #include <cstring>
 #include <utility>
 
 #include "user/model/thread.h"
 #include "user/model/window.h"
 #include "user/painting/painting.h"
+#include "user/window/tree.h"
 
 using namespace platform::user;
 
@@ -188,137 +189,4 @@ LONG WINAPI SetWindowLongA(HWND window, int index, LONG value) {
 
 LONG_PTR WINAPI SetWindowLongPtrA(HWND window, int index, LONG_PTR value) {
     return Set(window, index, value, true);
-}
-
-WORD WINAPI GetWindowWord(HWND handle, int index) {
-    const UserGuard guard(UserLock());
-    Window* window = FindWindowObject(handle);
-    return window ? ReadExtra<WORD>(window->extra, index) : 0;
-}
-
-WORD WINAPI SetWindowWord(HWND handle, int index, WORD value) {
-    const UserGuard guard(UserLock());
-    Window* window = FindChangeable(handle);
-    return window ? WriteExtra<WORD>(window->extra, index, value) : 0;
-}
-
-// --- classes
-
-namespace {
-
-template <class Type>
-ULONG_PTR Number(Type* pointer) {
-    return reinterpret_cast<ULONG_PTR>(pointer);
-}
-
-ULONG_PTR GetOfClass(HWND handle, int index, bool wide) {
-    const UserGuard guard(UserLock());
-    Window* window = FindWindowObject(handle);
-    if (!window) {
-        return 0;
-    }
-    WindowClass& found = *window->windowClass;
-    switch (index) {
-        case GCL_CBCLSEXTRA:
-            return found.extra.size();
-        case GCL_CBWNDEXTRA:
-            return static_cast<ULONG_PTR>(found.windowExtra);
-        case GCL_STYLE:
-            return found.style;
-        case GCW_ATOM:
-            return found.atom;
-        case GCLP_HBRBACKGROUND:
-            return Number(found.background);
-        case GCLP_HCURSOR:
-            return Number(found.cursor);
-        case GCLP_HICON:
-            return Number(found.icon);
-        case GCLP_HICONSM:
-            return Number(found.smallIcon);
-        case GCLP_HMODULE:
-            return Number(found.instance);
-        case GCLP_WNDPROC:
-            return reinterpret_cast<ULONG_PTR>(found.procedure);
-        case GCLP_MENUNAME:
-            return Number(found.menuId || found.menuName.empty() ? found.menuId : found.menuName.c_str());
-        default:
-            return wide ? ReadExtra<ULONG_PTR>(found.extra, index) : ReadExtra<DWORD>(found.extra, index);
-    }
-}
-
-ULONG_PTR SetOfClass(HWND handle, int index, ULONG_PTR value, bool wide) {
-    const UserGuard guard(UserLock());
-    Window* window = FindWindowObject(handle);
-    if (!window) {
-        return 0;
-    }
-    WindowClass& found = *window->windowClass;
-    const ULONG_PTR old = index < 0 ? GetOfClass(handle, index, wide) : 0;
-    switch (index) {
-        case GCL_CBWNDEXTRA:
-            found.windowExtra = static_cast<int>(value);
-            return old;
-        case GCL_STYLE:
-            found.style = static_cast<UINT>(value);
-            WindowsChanged();
-            return old;
-        case GCLP_HBRBACKGROUND:
-            found.background = reinterpret_cast<HBRUSH>(value);
-            return old;
-        case GCLP_HCURSOR:
-            found.cursor = reinterpret_cast<HCURSOR>(value);
-            return old;
-        case GCLP_HICON:
-            found.icon = reinterpret_cast<HICON>(value);
-            return old;
-        case GCLP_HICONSM:
-            found.smallIcon = reinterpret_cast<HICON>(value);
-            return old;
-        case GCLP_HMODULE:
-            found.instance = reinterpret_cast<HINSTANCE>(value);
-            return old;
-        case GCLP_WNDPROC:
-            found.procedure = reinterpret_cast<WNDPROC>(value);
-            return old;
-        default:
-            if (index < 0) {
-                SetLastError(ERROR_INVALID_INDEX);
-                return 0;
-            }
-            return wide ? WriteExtra<ULONG_PTR>(found.extra, index, value)
-                        : WriteExtra<DWORD>(found.extra, index, static_cast<DWORD>(value));
-    }
-}
-
-}  // namespace
-
-DWORD WINAPI GetClassLongA(HWND window, int index) {
-    return static_cast<DWORD>(GetOfClass(window, index, false));
-}
-
-ULONG_PTR WINAPI GetClassLongPtrA(HWND window, int index) {
-    return GetOfClass(window, index, true);
-}
-
-DWORD WINAPI SetClassLongA(HWND window, int index, LONG value) {
-    return static_cast<DWORD>(SetOfClass(window, index, static_cast<DWORD>(value), false));
-}
-
-ULONG_PTR WINAPI SetClassLongPtrA(HWND window, int index, LONG_PTR value) {
-    return SetOfClass(window, index, static_cast<ULONG_PTR>(value), true);
-}
-
-WORD WINAPI GetClassWord(HWND handle, int index) {
-    if (index == GCW_ATOM) {
-        return static_cast<WORD>(GetOfClass(handle, index, false));
-    }
-    const UserGuard guard(UserLock());
-    Window* window = FindWindowObject(handle);
-    return window ? ReadExtra<WORD>(window->windowClass->extra, index) : 0;
-}
-
-WORD WINAPI SetClassWord(HWND handle, int index, WORD value) {
-    const UserGuard guard(UserLock());
-    Window* window = FindWindowObject(handle);
-    return window ? WriteExtra<WORD>(window->windowClass->extra, index, value) : 0;
 }

@@ -1,11 +1,8 @@
 // Changing a window's place, size, order and visibility, in the documented steps: WM_WINDOWPOSCHANGING, WM_NCCALCSIZE,
-// the change itself with the pixels that stay good, what was uncovered and what is new, WM_WINDOWPOSCHANGED. Several
-// windows go through each step together, so that none is drawn where another one is about to be.
+// the change itself with the pixels that stay good, what was uncovered and what is new, WM_WINDOWPOSCHANGED.
 #include "user/window/position.h"
 
 #include <algorithm>
-#include <new>
-#include <vector>
 
 #include "gdi/surface/screen.h"
 #include "user/input/input.h"
@@ -78,7 +75,7 @@ bool ChangesAnything(UINT flags) {
 
 /// WM_WINDOWPOSCHANGING, and what remains of the change afterwards. @returns false when the window is gone.
 bool Announce(Step& step) {
-    WINDOWPOS& position = step.change->position;
+    WINDOWPOS& position = step.position;
     const HWND handle = position.hwnd;
     {
         UserGuard guard(UserLock());
@@ -119,7 +116,7 @@ bool Announce(Step& step) {
 
 /// WM_NCCALCSIZE: the new client area, and which of the old pixels stay good.
 void CalculateClient(Step& step) {
-    WINDOWPOS& position = step.change->position;
+    WINDOWPOS& position = step.position;
     const bool sized = (position.flags & SWP_NOSIZE) == 0;
     step.keep = Keep::Window;
     if (!sized && (position.flags & SWP_FRAMECHANGED) == 0) {
@@ -180,9 +177,17 @@ void CalculateClient(Step& step) {
 
 /// WM_WINDOWPOSCHANGED and what goes with it, once the change has been made.
 void Report(Step& step) {
-    WINDOWPOS& position = step.change->position;
+    WINDOWPOS& position = step.position;
     const HWND handle = position.hwnd;
     UINT& flags = position.flags;
+    const RECT& before = step.oldClient;
+    const RECT& after = step.newClient;
+    if (SameSize(before, after)) {
+        flags |= kNoClientSize;
+    }
+    if (before.left == after.left && before.top == after.top) {
+        flags |= kNoClientMove;
+    }
     if ((flags & SWP_HIDEWINDOW) != 0) {
         if (Window* window = PeekWindow(handle); window != nullptr) {
             LeaveDisabledOrHidden(window, true);
@@ -215,56 +220,6 @@ void Report(Step& step) {
 
 }  // namespace
 
-bool ChangePositions(PositionChange* changes, std::size_t count) {
-    std::vector<Step> steps;
-    try {
-        steps.resize(count);
-    } catch (const std::bad_alloc&) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return false;
-    }
-    bool all = true;
-    for (std::size_t i = 0; i < count; ++i) {
-        steps[i].change = &changes[i];
-        steps[i].alive = Announce(steps[i]);
-        all = all && steps[i].alive;
-    }
-    for (Step& step : steps) {
-        if (step.alive && ChangesAnything(step.change->position.flags)) {
-            CalculateClient(step);
-        }
-    }
-    const bool changed = std::any_of(steps.begin(), steps.end(), [](const Step& step) {
-        return step.alive && ChangesAnything(step.change->position.flags);
-    });
-    if (changed) {
-        ThreadState* thread = CurrentThread();
-        const HWND caret = thread == nullptr ? nullptr : thread->caret.window;
-        if (caret != nullptr) {
-            SuspendCaret(caret);
-        }
-        ApplySteps(steps);
-        if (caret != nullptr) {
-            ResumeCaret(caret);
-        }
-    }
-    for (Step& step : steps) {
-        if (step.alive) {
-            const RECT& before = step.oldClient;
-            const RECT& after = step.newClient;
-            UINT& flags = step.change->position.flags;
-            if (SameSize(before, after)) {
-                flags |= kNoClientSize;
-            }
-            if (before.left == after.left && before.top == after.top) {
-                flags |= kNoClientMove;
-            }
-            Report(step);
-        }
-    }
-    return all;
-}
-
 void HideForDestruction(Window* window) {
     UserGuard guard(UserLock());
     if ((window->style & WS_VISIBLE) == 0) {
@@ -284,7 +239,8 @@ void HideForDestruction(Window* window) {
 using namespace platform::user;
 
 BOOL WINAPI SetWindowPos(HWND handle, HWND after, int x, int y, int width, int height, UINT flags) {
-    PositionChange change{WINDOWPOS{handle, after, x, y, width, height, flags}};
+    Step step;
+    step.position = {handle, after, x, y, width, height, flags};
     {
         UserGuard guard(UserLock());
         const Window* window = FindWindowObject(handle);
@@ -301,11 +257,27 @@ BOOL WINAPI SetWindowPos(HWND handle, HWND after, int x, int y, int width, int h
                 return FALSE;
             }
             if (sibling == window || sibling->parent != window->parent) {
-                change.position.flags |= SWP_NOZORDER;
+                step.position.flags |= SWP_NOZORDER;
             }
         }
     }
-    return ChangePositions(&change, 1);
+    if (!Announce(step)) {
+        return FALSE;
+    }
+    if (ChangesAnything(step.position.flags)) {
+        CalculateClient(step);
+        ThreadState* thread = CurrentThread();
+        const HWND caret = thread == nullptr ? nullptr : thread->caret.window;
+        if (caret != nullptr) {
+            SuspendCaret(caret);
+        }
+        Apply(step);
+        if (caret != nullptr) {
+            ResumeCaret(caret);
+        }
+    }
+    Report(step);
+    return TRUE;
 }
 
 BOOL WINAPI MoveWindow(HWND handle, int x, int y, int width, int height, BOOL repaint) {

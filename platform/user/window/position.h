@@ -11,16 +11,6 @@
 
 namespace platform::user {
 
-/// One change of place, order or visibility on its way through the documented steps.
-struct PositionChange {
-    WINDOWPOS position{};
-    bool alive = true;
-};
-
-/// Runs changes through all steps together. Takes the lock itself, and sends messages. @returns false when a window was
-/// gone.
-bool ChangePositions(PositionChange* changes, std::size_t count);
-
 /// Moves a window in the z-order, together with the windows it owns and, unless SWP_NOOWNERZORDER is set, its owners.
 /// touched: gets every window that moved, the window first.
 void ChangeOrder(Window* window, HWND after, UINT flags);
@@ -37,18 +27,16 @@ constexpr UINT kNoClientMove = 0x1000;
 enum class Keep { Window, Client, Nothing };
 
 struct Step {
-    PositionChange* change = nullptr;
-    bool alive = false;
+    WINDOWPOS position{};
     bool order = false;  ///< its place in the z-order changes
     RECT oldWindow{}, oldClient{}, newWindow{}, newClient{};
     Keep keep = Keep::Window;
     RECT validSource{}, validTarget{};  ///< with Keep::Client
-    bool wasVisible = false;
-    gdi::Region oldPixels;  ///< what the window showed
+    gdi::Region oldPixels;              ///< what the window showed
 };
 
-/// Makes the changes in the window tree and brings the screen's pixels and the update regions in line. Takes the lock.
-void ApplySteps(std::vector<Step>& steps);
+/// Makes the change in the window tree and brings the screen's pixels and the update regions in line. Takes the lock.
+void Apply(Step& step);
 
 /// @returns whether a value names a place in the z-order other than a sibling.
 inline bool IsInsertAfter(HWND after) {

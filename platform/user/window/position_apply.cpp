@@ -1,5 +1,4 @@
 // The change itself: rectangles, order and visibility, pixels that move along, and what has to be drawn.
-#include <algorithm>
 #include <new>
 
 #include "gdi/surface/screen.h"
@@ -36,9 +35,8 @@ void Resize(Window* window, const Step& step) {
     }
 }
 
-/// Moves the pixels that stay good. @returns where they are now. overwritten: what moves of other windows have already
-/// drawn over, and grows by this one.
-gdi::Region KeepPixels(const Step& step, const gdi::Region& newPixels, gdi::Region& overwritten) {
+/// Moves the pixels that stay good. @returns where they are now.
+gdi::Region KeepPixels(const Step& step, const gdi::Region& newPixels) {
     gdi::Region kept = step.oldPixels;
     int dx = step.newWindow.left - step.oldWindow.left;
     int dy = step.newWindow.top - step.oldWindow.top;
@@ -50,7 +48,6 @@ gdi::Region KeepPixels(const Step& step, const gdi::Region& newPixels, gdi::Regi
         dx = step.validTarget.left - step.validSource.left;
         dy = step.validTarget.top - step.validSource.top;
     }
-    kept.Subtract(overwritten);
     kept.Offset(dx, dy);
     if (step.keep == Keep::Client) {
         kept.Intersect(step.validTarget);
@@ -60,42 +57,20 @@ gdi::Region KeepPixels(const Step& step, const gdi::Region& newPixels, gdi::Regi
         const RECT to = kept.Bounds();
         gdi::CopyScreenArea(RECT{to.left - dx, to.top - dy, to.right - dx, to.bottom - dy}, POINT{to.left, to.top},
                             kept);
-        overwritten.Union(kept);
     }
     return kept;
 }
 
-/// Brings one window's update regions in line. @returns what it shows now.
-gdi::Region Settle(Window* window, const Step& step, gdi::Region& overwritten) {
-    const UINT flags = step.change->position.flags;
-    gdi::Region pixels = Visible(window, kPixels);
-    gdi::Region fresh = pixels;
-    if (step.wasVisible && (flags & SWP_NOCOPYBITS) == 0) {
-        fresh.Subtract(KeepPixels(step, pixels, overwritten));
-    }
-    if (!fresh.Empty()) {
-        InvalidateTree(window, fresh);
-    }
-    return pixels;
-}
-
-std::vector<Companion> Companions(const std::vector<Step>& steps) {
-    std::vector<Companion> companions;
+/// The windows that change their place in the order together with the one that is moved. Throws bad_alloc.
+std::vector<Companion> Companions(const Step& step, const Window* window) {
     std::vector<Window*> group;
-    for (const Step& step : steps) {
-        Window* window = step.alive && step.order ? PeekWindow(step.change->position.hwnd) : nullptr;
-        if (window != nullptr && window->parent == Desktop()) {
-            CollectGroup(window, group);
-        }
+    if (step.order && window->parent == Desktop()) {
+        CollectGroup(const_cast<Window*>(window), group);
     }
-    for (Window* window : group) {
-        const bool stepped = std::any_of(steps.begin(), steps.end(), [window](const Step& step) {
-            return step.alive && step.change->position.hwnd == window->handle;
-        });
-        const bool known = std::any_of(companions.begin(), companions.end(),
-                                       [window](const Companion& companion) { return companion.window == window; });
-        if (!stepped && !known) {
-            companions.push_back(Companion{window, Visible(window, kPixels)});
+    std::vector<Companion> companions;
+    for (Window* each : group) {
+        if (each != window) {
+            companions.push_back(Companion{each, Visible(each, kPixels)});
         }
     }
     return companions;
@@ -103,54 +78,46 @@ std::vector<Companion> Companions(const std::vector<Step>& steps) {
 
 }  // namespace
 
-void ApplySteps(std::vector<Step>& steps) {
-    UserGuard guard(UserLock());
+void Apply(Step& step) {
+    const UserGuard guard(UserLock());
+    const WINDOWPOS& position = step.position;
+    Window* window = PeekWindow(position.hwnd);
+    if (window == nullptr) {
+        return;
+    }
     std::vector<Companion> companions;
     try {
-        companions = Companions(steps);
+        companions = Companions(step, window);
     } catch (const std::bad_alloc&) {
         // Then they are drawn when next something uncovers them.
     }
-    for (Step& step : steps) {
-        Window* window = step.alive ? PeekWindow(step.change->position.hwnd) : nullptr;
-        step.alive = window != nullptr;
-        if (window != nullptr) {
-            step.wasVisible = (window->style & WS_VISIBLE) != 0;
-            if ((step.change->position.flags & SWP_NOREDRAW) == 0) {
-                step.oldPixels = Visible(window, kPixels);
-            }
-        }
+    const bool redraw = (position.flags & SWP_NOREDRAW) == 0;
+    const bool wasVisible = (window->style & WS_VISIBLE) != 0;
+    if (redraw) {
+        step.oldPixels = Visible(window, kPixels);
     }
-    for (Step& step : steps) {
-        Window* window = step.alive ? PeekWindow(step.change->position.hwnd) : nullptr;
-        if (window == nullptr) {
-            continue;
-        }
-        const WINDOWPOS& position = step.change->position;
-        if (step.order) {
-            ChangeOrder(window, position.hwndInsertAfter, position.flags);
-        }
-        if ((position.flags & SWP_SHOWWINDOW) != 0) {
-            window->style |= WS_VISIBLE;
-        } else if ((position.flags & SWP_HIDEWINDOW) != 0) {
-            window->style &= ~static_cast<DWORD>(WS_VISIBLE);
-        }
-        Resize(window, step);
+    if (step.order) {
+        ChangeOrder(window, position.hwndInsertAfter, position.flags);
     }
+    if ((position.flags & SWP_SHOWWINDOW) != 0) {
+        window->style |= WS_VISIBLE;
+    } else if ((position.flags & SWP_HIDEWINDOW) != 0) {
+        window->style &= ~static_cast<DWORD>(WS_VISIBLE);
+    }
+    Resize(window, step);
     WindowsChanged();
 
-    gdi::Region lost, held, overwritten;
-    Window* parent = nullptr;
-    bool sameParent = true;
-    for (Step& step : steps) {
-        Window* window = step.alive ? PeekWindow(step.change->position.hwnd) : nullptr;
-        if (window == nullptr || (step.change->position.flags & SWP_NOREDRAW) != 0) {
-            continue;
+    gdi::Region lost, held;
+    if (redraw) {
+        held = Visible(window, kPixels);
+        gdi::Region fresh = held;
+        if (wasVisible && (position.flags & SWP_NOCOPYBITS) == 0) {
+            fresh.Subtract(KeepPixels(step, held));
         }
-        sameParent = sameParent && (parent == nullptr || parent == window->parent);
-        parent = window->parent;
-        lost.Union(step.oldPixels);
-        held.Union(Settle(window, step, overwritten));
+        if (!fresh.Empty()) {
+            InvalidateTree(window, fresh);
+        }
+        lost = step.oldPixels;
     }
     for (const Companion& companion : companions) {
         const gdi::Region& pixels = Visible(companion.window, kPixels);
@@ -164,7 +131,7 @@ void ApplySteps(std::vector<Step>& steps) {
     }
     lost.Subtract(held);
     if (!lost.Empty()) {
-        ExposeWithin(sameParent ? parent : nullptr, lost);
+        ExposeWithin(redraw ? window->parent : nullptr, lost);
     }
     RefreshContexts();
 }

@@ -10,14 +10,14 @@ namespace platform::user {
 
 namespace {
 
-/// The name that a property is kept under: a string atom stands for its string.
+/// The name that a property is kept under; a number is a name too.
 class PropertyName {
   public:
     explicit PropertyName(LPCSTR name) {
         if (!IS_INTRESOURCE(name)) {
             view_ = name;
         } else if (LOWORD(name)) {
-            owned_ = GlobalAtoms().Name(LOWORD(name));
+            owned_ = '#' + std::to_string(LOWORD(name));
             view_ = owned_;
         } else {
             SetLastError(ERROR_INVALID_PARAMETER);
@@ -38,32 +38,6 @@ class PropertyName {
 auto Locate(Window* window, std::string_view name) {
     return std::find_if(window->properties.begin(), window->properties.end(),
                         [name](const WindowProperty& one) { return SameName(one.name, name); });
-}
-
-template <class Call>
-int Enumerate(HWND window, Call call) try {
-    std::vector<WindowProperty> all;
-    {
-        const UserGuard guard(UserLock());
-        const Window* object = FindWindowObject(window);
-        if (!object) {
-            return -1;
-        }
-        all = object->properties;
-    }
-    int result = -1;
-    for (WindowProperty& one : all) {
-        bool isInteger = false;
-        const ATOM atom = IntegerAtom(one.name.c_str(), &isInteger);
-        result = call(isInteger ? MAKEINTATOM(atom) : one.name.data(), one.data);
-        if (!result) {
-            break;
-        }
-    }
-    return result;
-} catch (const std::bad_alloc&) {
-    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-    return -1;
 }
 
 }  // namespace
@@ -123,14 +97,4 @@ HANDLE WINAPI RemovePropA(HWND window, LPCSTR name) try {
 } catch (const std::bad_alloc&) {
     SetLastError(ERROR_NOT_ENOUGH_MEMORY);
     return nullptr;
-}
-
-int WINAPI EnumPropsA(HWND window, PROPENUMPROCA procedure) {
-    return Enumerate(window, [=](LPSTR name, HANDLE data) { return procedure(window, name, data); });
-}
-
-int WINAPI EnumPropsExA(HWND window, PROPENUMPROCEXA procedure, LPARAM parameter) {
-    return Enumerate(window, [=](LPSTR name, HANDLE data) {
-        return procedure(window, name, data, static_cast<ULONG_PTR>(parameter));
-    });
 }

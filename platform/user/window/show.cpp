@@ -166,6 +166,39 @@ bool FollowsOwner(HWND handle, bool show) {
     return window != nullptr && (show ? !IsVisibleItself(window) && window->hiddenByOwner : IsVisibleItself(window));
 }
 
+/// Hides an owner's windows that are shown, or shows those that were hidden so.
+void ShowOwned(HWND owner, bool show) {
+    std::vector<HWND> owned;
+    {
+        UserGuard guard(UserLock());
+        const Window* window = PeekWindow(owner);
+        if (window == nullptr) {
+            return;
+        }
+        try {
+            owned = WindowsOwnedBy(window);
+        } catch (const std::bad_alloc&) {
+            return;
+        }
+    }
+    for (HWND popup : owned) {
+        if (!FollowsOwner(popup, show)) {
+            continue;
+        }
+        SendMessageA(popup, WM_SHOWWINDOW, show, show ? SW_PARENTOPENING : SW_PARENTCLOSING);
+        // Most windows leave the rest to DefWindowProcA; others are taken along all the same.
+        if (PeekWindow(popup) != nullptr && IsVisibleItself(PeekWindow(popup)) != show) {
+            SetWindowPos(
+                popup, nullptr, 0, 0, 0, 0,
+                SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | (show ? SWP_SHOWWINDOW : SWP_HIDEWINDOW));
+        }
+        UserGuard guard(UserLock());
+        if (Window* window = PeekWindow(popup); window != nullptr) {
+            window->hiddenByOwner = !show && !IsVisibleItself(window);
+        }
+    }
+}
+
 }  // namespace
 }  // namespace platform::user
 
@@ -207,7 +240,7 @@ BOOL WINAPI ShowWindow(HWND handle, int show) {
     const bool restored = !plan.keepState && plan.state == 0;
     const bool moved = !plan.keepState && ChangeState(handle, plan.state, restored && show == SW_RESTORE, &place);
     if (moved && plan.state == WS_MINIMIZE && !child) {
-        ShowOwnedPopups(handle, FALSE);
+        ShowOwned(handle, false);
     }
     if (wasVisible != plan.show) {
         SendMessageA(handle, WM_SHOWWINDOW, plan.show, 0);
@@ -251,52 +284,7 @@ BOOL WINAPI ShowWindow(HWND handle, int show) {
         ActivateNext(CurrentThread(), window);
     }
     if (moved && plan.state != WS_MINIMIZE && !child) {
-        ShowOwnedPopups(handle, TRUE);
+        ShowOwned(handle, true);
     }
     return wasVisible;
-}
-
-BOOL WINAPI ShowOwnedPopups(HWND owner, BOOL show) {
-    std::vector<HWND> owned;
-    {
-        UserGuard guard(UserLock());
-        const Window* window = FindWindowObject(owner);
-        if (window == nullptr) {
-            return FALSE;
-        }
-        try {
-            owned = WindowsOwnedBy(window);
-        } catch (const std::bad_alloc&) {
-            SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-            return FALSE;
-        }
-    }
-    for (HWND popup : owned) {
-        if (!FollowsOwner(popup, show != FALSE)) {
-            continue;
-        }
-        SendMessageA(popup, WM_SHOWWINDOW, show ? TRUE : FALSE, show ? SW_PARENTOPENING : SW_PARENTCLOSING);
-        // Most windows leave the rest to DefWindowProcA; others are taken along all the same.
-        if (PeekWindow(popup) != nullptr && IsVisibleItself(PeekWindow(popup)) != (show != FALSE)) {
-            SetWindowPos(
-                popup, nullptr, 0, 0, 0, 0,
-                SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | (show ? SWP_SHOWWINDOW : SWP_HIDEWINDOW));
-        }
-        UserGuard guard(UserLock());
-        if (Window* window = PeekWindow(popup); window != nullptr) {
-            window->hiddenByOwner = !show && !IsVisibleItself(window);
-        }
-    }
-    return TRUE;
-}
-
-BOOL WINAPI CloseWindow(HWND handle) {
-    {
-        UserGuard guard(UserLock());
-        if (FindWindowObject(handle) == nullptr) {
-            return FALSE;
-        }
-    }
-    ShowWindow(handle, SW_MINIMIZE);
-    return TRUE;
 }

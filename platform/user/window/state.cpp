@@ -23,10 +23,6 @@ BOOL WINAPI IsWindow(HWND window) {
     return PeekWindow(window) != nullptr;
 }
 
-BOOL WINAPI IsWindowUnicode(HWND) {
-    return FALSE;
-}
-
 BOOL WINAPI IsWindowVisible(HWND handle) {
     const UserGuard guard(UserLock());
     const Window* window = FindWindowObject(handle);
@@ -86,17 +82,6 @@ DWORD WINAPI GetWindowThreadProcessId(HWND handle, LPDWORD process) {
         *process = static_cast<DWORD>(getpid());
     }
     return window->thread ? window->thread->id : static_cast<DWORD>(getpid());
-}
-
-BOOL WINAPI FlashWindow(HWND handle, BOOL invert) {
-    const Window* window = FindWindowObject(handle);
-    if (!window) {
-        return FALSE;
-    }
-    const bool was = window->captionActive;
-    const bool now = invert ? !was : GetActiveWindow() == handle;
-    SendMessageA(handle, WM_NCACTIVATE, now, 0);
-    return was;
 }
 
 // --- text

@@ -108,7 +108,7 @@ namespace {
 
 /// The end of the chain of parents, whatever the styles on the way.
 Window* RootOf(Window* window) {
-    while (window->parent && window->parent != Desktop() && window->parent != MessageRoot()) {
+    while (window->parent && window->parent != Desktop() && window->parent != Orphanage()) {
         window = window->parent;
     }
     return window;
@@ -204,9 +204,7 @@ HWND WINAPI SetParent(HWND handle, HWND newParent) {
     {
         const UserGuard guard(UserLock());
         const Window* window = FindWindowObject(handle);
-        const Window* parent = newParent == HWND_MESSAGE ? MessageRoot()
-                               : newParent               ? FindWindowObject(newParent)
-                                                         : Desktop();
+        const Window* parent = newParent ? FindWindowObject(newParent) : Desktop();
         if (!window || !parent) {
             return nullptr;
         }
@@ -227,7 +225,7 @@ HWND WINAPI SetParent(HWND handle, HWND newParent) {
     {
         const UserGuard guard(UserLock());
         Window* window = PeekWindow(handle);
-        Window* parent = newParent == HWND_MESSAGE ? MessageRoot() : newParent ? PeekWindow(newParent) : Desktop();
+        Window* parent = newParent ? PeekWindow(newParent) : Desktop();
         if (!window || !parent || parent->ending) {
             SetLastError(ERROR_INVALID_WINDOW_HANDLE);
             return nullptr;
@@ -253,14 +251,4 @@ HWND WINAPI SetParent(HWND handle, HWND newParent) {
         ShowWindow(handle, SW_SHOWNA);
     }
     return old;
-}
-
-BOOL WINAPI AnyPopup(VOID) {
-    const UserGuard guard(UserLock());
-    for (const Window* window = Desktop()->firstChild; window; window = window->next) {
-        if (window->owner && (window->style & WS_VISIBLE)) {
-            return TRUE;
-        }
-    }
-    return FALSE;
 }

@@ -55,9 +55,7 @@ DWORD Complete(Request& request) {
     DWORD style = static_cast<DWORD>(given.style);
     const bool child = IsChildStyle(style);
     HWND relative = given.hwndParent;
-    if (relative == HWND_MESSAGE) {
-        request.parent = MessageRoot();
-    } else if (relative) {
+    if (relative) {
         Window* window = FindWindowObject(relative);
         if (!window) {
             return ERROR_INVALID_WINDOW_HANDLE;
@@ -130,7 +128,7 @@ Window* Make(const Request& request) {
     made->extra.resize(static_cast<std::size_t>(request.windowClass->windowExtra));
     made->parent = request.parent;
     made->owner = request.owner;
-    const POINT origin = request.parent == Desktop() || request.parent == MessageRoot()
+    const POINT origin = request.parent == Desktop()
                              ? POINT{0, 0}
                              : POINT{request.parent->clientRect.left, request.parent->clientRect.top};
     // As far as SetWindowPos would bring it.

@@ -11,16 +11,14 @@
 
 #include "tests/support/native/failing_memory.h"
 
+#include "tests/classes/strings.h"
+
 namespace {
 
 using std::string;
 using testing_support::FailingAllocation;
 using testing_support::NoMemory;
 using testing_support::WithEachFailure;
-
-char const* Text(CSTRING const& string) {
-    return string;
-}
 
 TEST(CStringMemory, FailedGrowthEmptiesOnAssignmentAndKeepsOnAppend) {
     CSTRING text("0123456789");
@@ -30,21 +28,21 @@ TEST(CStringMemory, FailedGrowthEmptiesOnAssignmentAndKeepsOnAppend) {
     {
         NoMemory const now;
         text += longer;
-        EXPECT_STREQ("0123456789", Text(text));
+        EXPECT_STREQ("0123456789", Characters(text));
         EXPECT_EQ(10u, text.GetStrLen());
         EXPECT_EQ(nullptr, text.BufferLock(10));
         EXPECT_EQ(nullptr, static_cast<char*>(text));
         text += "ok";
-        EXPECT_STREQ("0123456789ok", Text(text)) << "what fits needs no memory";
+        EXPECT_STREQ("0123456789ok", Characters(text)) << "what fits needs no memory";
         text = longer;
-        EXPECT_STREQ("", Text(text));
+        EXPECT_STREQ("", Characters(text));
         EXPECT_EQ(0u, text.GetStrLen());
         CSTRING const none("text");
         EXPECT_EQ(1, none.IsValid());
-        EXPECT_STREQ("", Text(none));
+        EXPECT_STREQ("", Characters(none));
     }
     text = "again";
-    EXPECT_STREQ("again", Text(text));
+    EXPECT_STREQ("again", Characters(text));
 }
 
 // Runs one member on a text; afterwards the text, which works on, is one of those that are allowed.
@@ -56,12 +54,12 @@ void Drive(char const* text, std::set<string> const& allowed, Member member) {
         member(object);
         failing.Off();
         EXPECT_TRUE(object.IsValid());
-        EXPECT_EQ(object.GetStrLen(), std::strlen(Text(object)));
-        string const left = Text(object);
+        EXPECT_EQ(object.GetStrLen(), std::strlen(Characters(object)));
+        string const left = Characters(object);
         EXPECT_EQ(allowed.count(left), 1u) << left;
         EXPECT_TRUE(failing.failed() || left == *allowed.rbegin()) << left;
         object = "and on it goes";
-        EXPECT_STREQ(Text(object), "and on it goes");
+        EXPECT_STREQ(Characters(object), "and on it goes");
     });
 }
 
@@ -76,7 +74,7 @@ TEST(CStringMemory, EveryFailureOfAnEditingMemberLeavesTheTextOrEmptiesIt) {
     Drive("abc", {"abc", "a" + kLong + "bc"}, [](CSTRING& s) { s.Insert(kLong.c_str(), 1, 0xFFFFFFFF); });
     Drive("0123456789abcdefghijklmnopqrstu", {"0123456789abcdefghijklmnopqrstu", "0123456789abcdefghijklmnopqrstuv"},
           [](CSTRING& s) { s.Insert('v', 31); });
-    Drive("abc", {"abc", "bcabc"}, [](CSTRING& s) { s.Insert(Text(s) + 1, 0, 0xFFFFFFFF); });
+    Drive("abc", {"abc", "bcabc"}, [](CSTRING& s) { s.Insert(Characters(s) + 1, 0, 0xFFFFFFFF); });
     // What is replaced is taken out first.
     Drive("a-c", {"ac", "a" + kLong + "c"}, [](CSTRING& s) { s.Replace("-", kLong.c_str(), 1); });
     Drive("abcd", {"abcd", "axyd"}, [](CSTRING& s) { s.Replace("xy", 1, 5); });
@@ -111,8 +109,8 @@ TEST(CStringMemory, EveryFailureOfAnExtractedTextGivesLessOfIt) {
             CSTRING const part = make(source);
             failing.Off();
             EXPECT_TRUE(part.IsValid());
-            EXPECT_EQ(allowed.count(Text(part)), 1u) << Text(part);
-            EXPECT_STREQ(Text(source), "abcdef");
+            EXPECT_EQ(allowed.count(Characters(part)), 1u) << Characters(part);
+            EXPECT_STREQ(Characters(source), "abcdef");
         });
     };
     extracted({"", "ab"}, [](CSTRING const& s) { return s.Left(2); });
@@ -130,7 +128,7 @@ TEST(DataStringMemory, WithoutAMarkerItIsAStringThatDoesNothing) {
         CDATASTR list(";;a;");
         failing.Off();
         list.CleanDelimiters(';');
-        string const text = Text(list);
+        string const text = Characters(list);
         EXPECT_TRUE(list.IsValid() ? text == "a" || text.empty() : text == ";;a;") << text;
         CDATASTR const copy(list);
         EXPECT_EQ(copy.IsValid(), list.IsValid());
@@ -149,7 +147,7 @@ TEST(DataStringMemory, EveryMemberSurvivesEveryFailure) {
             CSTRING item;
             unsigned int position = 2;
             EXPECT_EQ(list.EnumDataItems(&position, &item, ';'), 1);
-            EXPECT_STREQ(Text(item), "y");
+            EXPECT_STREQ(Characters(item), "y");
         });
     };
     drive([](CDATASTR& list) { list.CleanDelimiters(';'); });

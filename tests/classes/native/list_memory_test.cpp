@@ -10,16 +10,12 @@
 
 #include "tests/support/native/failing_memory.h"
 
+#include "tests/classes/compare_ints.h"
+
 namespace {
 
 using testing_support::FailingAllocation;
 using testing_support::WithEachFailure;
-
-int CompareInts(void* first, void* second) {
-    const int a = *static_cast<int*>(first);
-    const int b = *static_cast<int*>(second);
-    return (a > b) - (a < b);
-}
 
 int At(const CLIST& list, unsigned int index) {
     const auto* item = static_cast<int*>(list.GetItem(index));

@@ -76,23 +76,23 @@ struct Desk {
     TestWindow owner;
 };
 
-enum class End { kBox, kOwner, kOther, kEndDialog, kCommand };
+enum class BoxEnd { kBox, kOwner, kOther, kEndDialog, kCommand };
 
-void Act(End end, Desk const& desk) {
+void Act(BoxEnd end, Desk const& desk) {
     switch (end) {
-        case End::kBox:
+        case BoxEnd::kBox:
             DestroyWindow(FindBox());
             break;
-        case End::kOwner:
+        case BoxEnd::kOwner:
             DestroyWindow(desk.owner);
             break;
-        case End::kOther:
+        case BoxEnd::kOther:
             DestroyWindow(desk.other);
             break;
-        case End::kEndDialog:
+        case BoxEnd::kEndDialog:
             EndDialog(FindBox(), 5);
             break;
-        case End::kCommand:
+        case BoxEnd::kCommand:
             SendMessageA(FindBox(), WM_COMMAND, 6, 0);
             break;
     }
@@ -105,7 +105,7 @@ bool IsUsable(HWND window) {
 void TakeThrough(std::function<void(HWND owner)> const& show) {
     testing_support::OpenFirstDialog();
     LeakCheck const leaks;
-    for (End const end : {End::kBox, End::kOwner, End::kOther, End::kEndDialog, End::kCommand}) {
+    for (BoxEnd const end : {BoxEnd::kBox, BoxEnd::kOwner, BoxEnd::kOther, BoxEnd::kEndDialog, BoxEnd::kCommand}) {
         SCOPED_TRACE(testing::Message() << "end of " << static_cast<int>(end));
         int const boxes = Sweep([&](int at) {
             Desk desk;

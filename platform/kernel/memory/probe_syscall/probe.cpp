@@ -80,15 +80,3 @@ std::size_t ProbeLength(const char* text, std::size_t most) {
 BOOL WINAPI IsBadWritePtr(LPVOID address, UINT_PTR size) {
     return size != 0 && !RangeIsGood<CanWrite>(reinterpret_cast<std::uintptr_t>(address), size);
 }
-
-BOOL WINAPI IsBadReadPtr(const void* address, UINT_PTR size) {
-    return !platform::kernel::IsReadable(address, size);
-}
-
-BOOL WINAPI IsBadStringPtrA(LPCSTR text, UINT_PTR size) {
-    return platform::kernel::ProbeLength(text, size) == platform::kernel::kBadText;
-}
-
-BOOL WINAPI IsBadCodePtr(FARPROC function) {
-    return IsBadReadPtr(reinterpret_cast<const void*>(function), 1);
-}

@@ -1,7 +1,8 @@
 // Memory probes: the bytes are touched, and a fault handler answers for those that cannot be. Good memory costs neither
 // a system call nor a jump buffer. A touch for writing is one locked instruction that leaves the byte as it is, so that
 // no other thread's write is ever lost. Most of what is asked about lies on the caller's own stack, in the heap that
-// grows by brk, or among the program's variables, which are writable from end to end: these are known by their bounds.
+// grows by brk, among the program's variables or in pages of VirtualAlloc, which are writable from end to end: these are known
+// by their bounds.
 #include <windows.h>
 
 #include <link.h>
@@ -15,6 +16,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "kernel/memory/pages.h"
 #include "kernel/memory/probe.h"
 
 namespace {
@@ -63,6 +65,10 @@ struct Range {
 // The stack of a thread; the end is 0 until it is asked for.
 __attribute__((tls_model("initial-exec"))) thread_local Range t_stack;
 
+// The pages of VirtualAlloc that this thread asked about last.
+__attribute__((tls_model("initial-exec"))) thread_local platform::kernel::PageRun t_pages;
+__attribute__((tls_model("initial-exec"))) thread_local unsigned t_touches = 0;
+
 // The program's own variables.
 Range g_data;
 std::uintptr_t g_heapBegin = ~std::uintptr_t{0};
@@ -79,6 +85,10 @@ inline __attribute__((always_inline)) bool IsOnStack(std::uintptr_t address) {
 
 inline __attribute__((always_inline)) bool IsInHeap(std::uintptr_t address) {
     return address >= g_heapBegin && address < reinterpret_cast<std::uintptr_t>(__curbrk);
+}
+
+inline __attribute__((always_inline)) bool IsInKnownPages(std::uintptr_t address) {
+    return address >= t_pages.begin && address < t_pages.end && t_pages.age == platform::kernel::g_pagesAge.load();
 }
 
 __attribute__((noinline)) void LearnStack() {
@@ -149,6 +159,22 @@ bool WriteTouch(std::uintptr_t address) {
     return CanWrite(address);
 }
 
+// Asking about the pages takes longer than the touch, and is for nothing where they are not of VirtualAlloc: it is done once
+// in a while.
+__attribute__((noinline)) bool TouchAndLearn(std::uintptr_t address) {
+    constexpr unsigned kOnceInTouches = 32;
+    if (!t_stack.end) {
+        LearnStack();
+    }
+    if (!CanWrite(address)) {
+        return false;
+    }
+    if (t_touches++ % kOnceInTouches == 0) {
+        t_pages = platform::kernel::WritablePages(address);
+    }
+    return true;
+}
+
 struct sigaction previousSegv;
 struct sigaction previousBus;
 
@@ -201,19 +227,12 @@ BOOL WINAPI IsBadWritePtr(LPVOID address, UINT_PTR bytes) {
     const auto first = reinterpret_cast<std::uintptr_t>(address);
     // By far most ranges lie within one page.
     if (bytes - 1 < kPage && (first ^ (first + bytes - 1)) < kPage) [[likely]] {
-        if (IsOnStack(first) || IsInHeap(first) || g_data.Holds(first)) [[likely]] {
+        if (IsOnStack(first) || IsInHeap(first) || g_data.Holds(first) || IsInKnownPages(first)) [[likely]] {
             return FALSE;
         }
-        if (!t_stack.end) {
-            LearnStack();
-        }
-        return !CanWrite(first);
+        return !TouchAndLearn(first);
     }
     return bytes != 0 && !RangeIsGood<WriteTouch>(first, bytes);
-}
-
-BOOL WINAPI IsBadReadPtr(const void* address, UINT_PTR bytes) {
-    return !platform::kernel::IsReadable(address, bytes);
 }
 
 namespace platform::kernel {
@@ -239,11 +258,3 @@ std::size_t ProbeLength(const char* text, std::size_t most) {
 }
 
 }  // namespace platform::kernel
-
-BOOL WINAPI IsBadStringPtrA(LPCSTR text, UINT_PTR most) {
-    return platform::kernel::ProbeLength(text, most) == platform::kernel::kBadText;
-}
-
-BOOL WINAPI IsBadCodePtr(FARPROC procedure) {
-    return IsBadReadPtr(reinterpret_cast<const void*>(procedure), 1);
-}

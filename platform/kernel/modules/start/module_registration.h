@@ -17,3 +17,6 @@ WINBASEAPI HINSTANCE CvPlatformAttachModule(const CvModuleStart* start);
 
 /// Calls the entry point for the last time and forgets the module.
 WINBASEAPI void CvPlatformDetachModule(HINSTANCE instance);
+
+/// @returns the command line that WinMain gets: the arguments of main without the program's name. To be called once.
+WINBASEAPI LPSTR CvPlatformCommandLine(int count, char** arguments);

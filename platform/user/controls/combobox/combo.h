@@ -18,7 +18,6 @@ struct ComboData : ControlData {
     bool heightGiven = false;  ///< by the owner, so that the font leaves it alone
     int dropHeight = 0;        ///< greatest height of the dropped list
     int dropWidth = 0;         ///< least width of the dropped list
-    bool extended = false;     ///< CB_SETEXTENDEDUI
     DWORD scrollStyle = 0;     ///< WS_VSCROLL and WS_HSCROLL, which are the list's
     bool dropped = false;
     bool closing = false;
@@ -39,7 +38,7 @@ struct ComboData : ControlData {
         return Kind() != CBS_SIMPLE;
     }
     bool OwnerDrawn() const {
-        return (Style() & (CBS_OWNERDRAWFIXED | CBS_OWNERDRAWVARIABLE)) != 0;
+        return (Style() & CBS_OWNERDRAWFIXED) != 0;
     }
 };
 

@@ -219,7 +219,6 @@ LRESULT CALLBACK ComboBoxProcedure(HWND window, UINT message, WPARAM wParam, LPA
         case WM_ERASEBKGND:
             return TRUE;
         case WM_PAINT:
-        case WM_PRINTCLIENT:
             OnPaint(combo, reinterpret_cast<HDC>(wParam));
             return 0;
         case WM_ENABLE:
@@ -258,31 +257,10 @@ LRESULT CALLBACK ComboBoxProcedure(HWND window, UINT message, WPARAM wParam, LPA
             InvalidateRect(window, nullptr, TRUE);
             return 0;
         default:
-            if (message >= CB_GETEDITSEL && message <= CB_INITSTORAGE)
+            if (message >= CB_GETEDITSEL && message <= CB_SETDROPPEDWIDTH)
                 return OnComboMessage(combo, message, wParam, lParam);
             return OnInput(combo, message, wParam, lParam);
     }
 }
 
 }  // namespace platform::user
-
-using namespace platform::user;
-
-BOOL WINAPI GetComboBoxInfo(HWND window, PCOMBOBOXINFO info) {
-    if (!FindWindowObject(window))
-        return FALSE;
-    const auto combo = ControlOf<ComboData>(window);
-    if (!combo || !info || info->cbSize != sizeof *info) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return FALSE;
-    }
-    info->rcItem = TextRect(*combo);
-    info->rcButton = ArrowRect(*combo);
-    info->stateButton = !combo->Drops()  ? DWORD{STATE_SYSTEM_INVISIBLE}
-                        : combo->pressed ? DWORD{STATE_SYSTEM_PRESSED}
-                                         : 0;
-    info->hwndCombo = window;
-    info->hwndItem = combo->edit ? combo->edit : window;
-    info->hwndList = combo->list;
-    return TRUE;
-}

@@ -31,18 +31,6 @@ LRESULT OnSetCurrent(ComboData& combo, WPARAM index) {
     return result;
 }
 
-LRESULT OnSetItemHeight(ComboData& combo, int index, int height) {
-    if (index != -1)
-        return ToList(combo, LB_SETITEMHEIGHT, static_cast<WPARAM>(index), MAKELPARAM(height, 0));
-    if (height <= 0 || height > 0xFF)
-        return CB_ERR;
-    combo.fieldHeight = height;
-    combo.heightGiven = true;
-    MeasureField(combo);
-    InvalidateRect(combo.window, nullptr, TRUE);
-    return CB_OKAY;
-}
-
 /// The selection may be gone after its item was deleted. What stands in an edit control stays.
 LRESULT AfterRemoval(ComboData& combo, LRESULT result, int before) {
     if (before >= 0 && Current(combo) < 0) {
@@ -87,13 +75,6 @@ LRESULT OnStateMessage(ComboData& combo, UINT message, WPARAM wParam, LPARAM lPa
                 return FALSE;
             *reinterpret_cast<RECT*>(lParam) = DroppedRect(combo);
             return TRUE;
-        case CB_SETEXTENDEDUI:
-            if (wParam > 1)
-                return CB_ERR;
-            combo.extended = wParam != 0;
-            return CB_OKAY;
-        case CB_GETEXTENDEDUI:
-            return combo.extended;
         case CB_SETDROPPEDWIDTH:
             if (number > kLargestWidth)
                 return CB_ERR;
@@ -106,8 +87,6 @@ LRESULT OnStateMessage(ComboData& combo, UINT message, WPARAM wParam, LPARAM lPa
             GetWindowRect(combo.window, &rect);
             return combo.Drops() ? std::max<LRESULT>(rect.right - rect.left, combo.dropWidth) : CB_ERR;
         }
-        case CB_SETITEMHEIGHT:
-            return OnSetItemHeight(combo, number, static_cast<int>(lParam));
         case CB_GETITEMHEIGHT:
             return number == -1 ? combo.fieldHeight : ToList(combo, LB_GETITEMHEIGHT, wParam, 0);
         default:
@@ -185,20 +164,6 @@ LRESULT OnComboMessage(ComboData& combo, UINT message, WPARAM wParam, LPARAM lPa
             return ToList(combo, LB_GETITEMDATA, wParam, 0);
         case CB_SETITEMDATA:
             return ToList(combo, LB_SETITEMDATA, wParam, lParam);
-        case CB_SETLOCALE:
-            return ToList(combo, LB_SETLOCALE, wParam, 0);
-        case CB_GETLOCALE:
-            return ToList(combo, LB_GETLOCALE, 0, 0);
-        case CB_GETTOPINDEX:
-            return ToList(combo, LB_GETTOPINDEX, 0, 0);
-        case CB_SETTOPINDEX:
-            return ToList(combo, LB_SETTOPINDEX, wParam, 0);
-        case CB_GETHORIZONTALEXTENT:
-            return ToList(combo, LB_GETHORIZONTALEXTENT, 0, 0);
-        case CB_SETHORIZONTALEXTENT:
-            return ToList(combo, LB_SETHORIZONTALEXTENT, wParam, 0);
-        case CB_INITSTORAGE:
-            return ToList(combo, LB_INITSTORAGE, wParam, lParam);
         default:
             return OnStateMessage(combo, message, wParam, lParam);
     }

@@ -14,7 +14,7 @@ RECT ListRect(const ComboData& combo) {
     GetWindowRect(combo.window, &field);
     const auto list = ControlOf<ListData>(combo.list);
     int height = combo.dropHeight;
-    if (list && !list->Variable()) {
+    if (list) {
         const int item = std::max(1, list->itemHeight);
         if (!(combo.Style() & CBS_NOINTEGRALHEIGHT)) {
             const int wanted = std::clamp(list->items.Count(), 1, 0x7FFF) * item + kListFrame;
@@ -184,7 +184,7 @@ bool OnComboKey(ComboData& combo, UINT message, WPARAM key) {
         Toggle(combo);
         return true;
     }
-    if (combo.Drops() && ((key == VK_F4 && !combo.extended) || (key == VK_DOWN && combo.extended && !combo.dropped))) {
+    if (combo.Drops() && key == VK_F4) {
         Toggle(combo);
         return true;
     }

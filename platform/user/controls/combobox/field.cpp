@@ -1,6 +1,7 @@
 // The part of a combo box that is always seen: a sunken field, and the arrow at its right.
 #include <algorithm>
 
+#include "gdi/context/device_context.h"
 #include "user/controls/combobox/combo.h"
 
 namespace platform::user {
@@ -129,7 +130,7 @@ void PaintCombo(const ComboData& combo, HDC context) {
     const HBRUSH brush = FieldBrush(combo, context);
     if (combo.edit) {
         // The edit control draws its own part.
-        ExcludeClipRect(context, text.left, text.top, text.right, text.bottom);
+        gdi::ExcludeFromClip(context, text);
         FillRect(context, &field, brush);
     } else {
         const bool focus = combo.focused && !combo.dropped;

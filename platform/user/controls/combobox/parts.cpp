@@ -69,9 +69,7 @@ LRESULT CALLBACK ComboEditProcedure(HWND window, UINT message, WPARAM wParam, LP
 
 bool MakeEdit(ComboData& combo, const CREATESTRUCTA& create) {
     const DWORD style = combo.Style();
-    const DWORD wanted = WS_CHILD | WS_VISIBLE | (style & CBS_AUTOHSCROLL ? ES_AUTOHSCROLL : 0) |
-                         (style & CBS_UPPERCASE ? ES_UPPERCASE : 0) | (style & CBS_LOWERCASE ? ES_LOWERCASE : 0) |
-                         (style & CBS_OEMCONVERT ? ES_OEMCONVERT : 0) | (style & WS_DISABLED);
+    const DWORD wanted = WS_CHILD | WS_VISIBLE | (style & CBS_AUTOHSCROLL ? ES_AUTOHSCROLL : 0) | (style & WS_DISABLED);
     combo.edit = CreateWindowExA(WS_EX_NOPARENTNOTIFY, "edit", "", wanted, 0, 0, 0, 0, combo.window,
                                  reinterpret_cast<HMENU>(kEditId), create.hInstance, nullptr);
     if (!combo.edit)
@@ -86,9 +84,7 @@ DWORD ListStyle(const ComboData& combo) {
     const std::pair<DWORD, DWORD> same[] = {{CBS_SORT, LBS_SORT},
                                             {CBS_HASSTRINGS, LBS_HASSTRINGS},
                                             {CBS_OWNERDRAWFIXED, LBS_OWNERDRAWFIXED},
-                                            {CBS_OWNERDRAWVARIABLE, LBS_OWNERDRAWVARIABLE},
                                             {CBS_NOINTEGRALHEIGHT, LBS_NOINTEGRALHEIGHT},
-                                            {CBS_DISABLENOSCROLL, LBS_DISABLENOSCROLL},
                                             {WS_DISABLED, WS_DISABLED}};
     for (const auto& [own, lists] : same)
         list |= style & own ? lists : 0;

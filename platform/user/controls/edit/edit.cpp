@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 #include "kernel/memory/probe.h"
 
@@ -47,7 +48,7 @@ LRESULT EditDialogCode(HWND edit, EditData& data, LPARAM lParam) {
 
 void OnSetFont(HWND edit, EditData& data, WPARAM font, bool redraw) {
     data.font = reinterpret_cast<HFONT>(font);
-    TakeFontMargins(edit, data, EC_LEFTMARGIN | EC_RIGHTMARGIN);
+    TakeFontMargin(edit, data);
     LayOut(edit, data);
     if (data.focused && GetFocus() == edit) {
         // The caret is as high as a line.
@@ -110,8 +111,19 @@ void OnScroll(HWND edit, EditData& data, WPARAM wParam) {
         case SB_THUMBTRACK:
             ScrollLines(edit, data, HIWORD(wParam) - static_cast<int>(data.firstLine));
             break;
+        case SB_LINEUP:
+            ScrollLines(edit, data, -1);
+            break;
+        case SB_LINEDOWN:
+            ScrollLines(edit, data, 1);
+            break;
+        case SB_PAGEUP:
+            ScrollLines(edit, data, -PageLines(data));
+            break;
+        case SB_PAGEDOWN:
+            ScrollLines(edit, data, PageLines(data));
+            break;
         default:
-            SendMessageA(edit, EM_SCROLL, LOWORD(wParam), 0);
             break;
     }
 }
@@ -169,14 +181,34 @@ LRESULT OnTextMessage(HWND edit, EditData& data, UINT message, WPARAM wParam, LP
     }
 }
 
+/// Keys may select; what the application selects itself is not the user's choice.
+template <class Action>
+void WithOffer(EditData& data, const Action& action) {
+    const auto before = std::pair(data.SelectionStart(), data.SelectionEnd());
+    action();
+    if (before != std::pair(data.SelectionStart(), data.SelectionEnd())) {
+        OfferSelection(data);
+    }
+}
+
+/// A drag by the mouse is over, and what it has selected is the user's choice.
+void OnRelease(HWND edit, EditData& data) {
+    if (data.drag != EditData::Drag::None) {
+        OfferSelection(data);
+    }
+    EndEditDrag(edit, data);
+}
+
 LRESULT OnInput(HWND edit, EditData& data, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_KEYDOWN:
-            OnEditKey(edit, data, wParam);
+            WithOffer(data, [&] { OnEditKey(edit, data, wParam); });
             return DefWindowProcA(edit, message, wParam, lParam);
         case WM_CHAR:
-            OnEditCharacter(edit, data, wParam);
+            WithOffer(data, [&] { OnEditCharacter(edit, data, wParam); });
             return 0;
+        case WM_CONTEXTMENU:
+            return OnEditContextMenu(edit, data, lParam) ? 0 : DefWindowProcA(edit, message, wParam, lParam);
         case WM_SYSKEYDOWN:
             if (wParam == VK_BACK) {
                 SendMessageA(edit, WM_UNDO, 0, 0);
@@ -193,7 +225,10 @@ LRESULT OnInput(HWND edit, EditData& data, UINT message, WPARAM wParam, LPARAM l
             OnEditMove(edit, data, lParam);
             return 0;
         case WM_LBUTTONUP:
-            EndEditDrag(edit, data);
+            OnRelease(edit, data);
+            return 0;
+        case WM_MBUTTONDOWN:
+            OnEditMiddlePress(edit, data, lParam);
             return 0;
         case WM_CAPTURECHANGED:
             if (reinterpret_cast<HWND>(lParam) != edit) {
@@ -238,7 +273,6 @@ LRESULT Handle(HWND edit, EditData& data, UINT message, WPARAM wParam, LPARAM lP
         case WM_ERASEBKGND:
             return TRUE;
         case WM_PAINT:
-        case WM_PRINTCLIENT:
             OnPaint(edit, data, reinterpret_cast<HDC>(wParam));
             return 0;
         case WM_ENABLE:
@@ -261,7 +295,7 @@ LRESULT Handle(HWND edit, EditData& data, UINT message, WPARAM wParam, LPARAM lP
         case WM_UNDO:
             return OnTextMessage(edit, data, message, wParam, lParam);
         default:
-            if (message >= EM_GETSEL && message <= EM_CHARFROMPOS) {
+            if (message >= EM_GETSEL && message <= EM_GETLIMITTEXT) {
                 return OnTextMessage(edit, data, message, wParam, lParam);
             }
             return OnInput(edit, data, message, wParam, lParam);

@@ -1,7 +1,7 @@
 /// @file edit.h
 /// The edit control. edit.cpp holds the procedure, edit_text.cpp the text and its undo, edit_lines.cpp where lines and
 /// characters stand, edit_paint.cpp the picture, edit_keys.cpp and edit_mouse.cpp input, edit_query.cpp the messages
-/// that ask.
+/// that ask, edit_clipboard.cpp and edit_menu.cpp what is done with other texts and how it is chosen.
 ///
 /// The text is one string with lines set over it: a single-line field has one line, the whole text. Handlers hold the
 /// data shared and ask IsWindow after each notification, since the parent may end the control in it.
@@ -42,13 +42,10 @@ struct EditData : ControlData {
     bool modified = false;
     char password = 0;  ///< shown in place of every character; 0: the text itself is shown
     char lead = 0;      ///< first byte of a double-byte character whose second one has yet to be typed
-    EDITWORDBREAKPROCA wordBreak = nullptr;
 
     HFONT font = nullptr;
-    int leftMargin = 0;
-    int rightMargin = 0;
-    RECT format{};           ///< where text goes, client coordinates
-    bool formatSet = false;  ///< by EM_SETRECT, so that the size leaves it alone
+    int margin = 0;  ///< left and right of the text
+    RECT format{};   ///< where text goes, client coordinates
     int lineHeight = 1;
     std::vector<EditLine> lines{EditLine{}};
     int scrollX = 0;            ///< pixels of the lines that are left of the format rectangle
@@ -110,8 +107,8 @@ void Select(HWND edit, EditData& data, std::size_t anchor, std::size_t caret);
 void MoveEditCaret(HWND edit, EditData& data, std::size_t position, bool extend);
 /// Scrolls as little as needed to see the caret. @returns whether anything moved.
 bool ScrollToCaret(HWND edit, EditData& data);
-/// Scrolls a multi-line control. @returns by how many lines.
-int ScrollLines(HWND edit, EditData& data, int lines);
+/// Scrolls a multi-line control.
+void ScrollLines(HWND edit, EditData& data, int lines);
 /// Lines that fit in full, at least 1.
 int PageLines(const EditData& data);
 
@@ -121,11 +118,12 @@ void ShowEditBar(HWND edit, const EditData& data);
 
 // --- layout (edit_lines.cpp, edit_measure.cpp)
 
-/// Works out the format rectangle and the lines anew, after a change of size, font, margins, style or text.
+/// Works out the format rectangle and the lines anew, after a change of size, font, style or text.
 void LayOut(HWND edit, EditData& data);
 /// Only the lines.
 void BreakLines(HWND edit, EditData& data);
-void TakeFontMargins(HWND edit, EditData& data, UINT which);
+/// The margin goes by the font.
+void TakeFontMargin(HWND edit, EditData& data);
 
 /// The index of the line that a position is in; at a wrap that is the lower one.
 std::size_t LineOf(const EditData& data, std::size_t position);
@@ -179,11 +177,22 @@ void OnEditMove(HWND edit, EditData& data, LPARAM point);
 void OnEditTimer(HWND edit, EditData& data);
 void EndEditDrag(HWND edit, EditData& data);
 
+/// The context menu, at a point or by the keyboard; it acts on the control by messages. @returns false for a scroll bar, which
+/// has no menu.
+bool OnEditContextMenu(HWND edit, EditData& data, LPARAM where);
+/// The middle button inserts what was selected last in any program of the desktop.
+void OnEditMiddlePress(HWND edit, EditData& data, LPARAM point);
+
+/// Shows other programs of the desktop what the user has selected.
+void OfferSelection(const EditData& data);
+
+/// @returns whether there is text to paste.
+bool CanPaste(HWND edit);
 void CopySelection(HWND edit, const EditData& data);
 void CutSelection(HWND edit, EditData& data);
 void PasteText(HWND edit, EditData& data);
 
-/// The messages that only ask or that set no text (EM_GET..., EM_LINE..., EM_POSFROMCHAR, EM_CHARFROMPOS).
+/// The messages that only ask or that set no text (EM_GET..., EM_LINE...).
 LRESULT OnEditQuery(HWND edit, EditData& data, UINT message, WPARAM wParam, LPARAM lParam);
 
 }  // namespace platform::user

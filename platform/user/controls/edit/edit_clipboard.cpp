@@ -1,7 +1,9 @@
 // Cutting, copying and pasting in edit controls.
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
+#include "user/controls/above.h"
 #include "user/controls/edit/edit.h"
 
 namespace platform::user {
@@ -30,6 +32,14 @@ bool PutOnClipboard(HWND edit, std::string_view text) {
         GlobalFree(block);
     }
     return kept;
+}
+
+/// One line has room for the first one.
+std::string Fitting(HWND edit, std::string text) {
+    if (!IsMultiLine(edit)) {
+        text.resize(std::min(text.find_first_of("\r\n"), text.size()));
+    }
+    return text;
 }
 
 std::string TextOnClipboard(HWND edit) {
@@ -67,12 +77,36 @@ void CutSelection(HWND edit, EditData& data) {
 }
 
 void PasteText(HWND edit, EditData& data) {
-    std::string text = TextOnClipboard(edit);
-    if (!IsMultiLine(edit)) {
-        // One line has room for the first one.
-        text.resize(std::min(text.find_first_of("\r\n"), text.size()));
-    }
+    const std::string text = Fitting(edit, TextOnClipboard(edit));
     if (!text.empty()) {
+        InsertText(edit, data, text, true);
+    }
+}
+
+bool CanPaste(HWND edit) {
+    return !TextOnClipboard(edit).empty();
+}
+
+void OfferSelection(const EditData& data) {
+    if (MayCopy(data)) {
+        OfferPrimarySelection(data.text.substr(data.SelectionStart(), data.SelectionEnd() - data.SelectionStart()));
+    }
+}
+
+void OnEditMiddlePress(HWND edit, EditData& data, LPARAM point) {
+    std::string text;
+    if ((ControlStyle(edit) & ES_READONLY) || !ReadPrimarySelection(&text)) {
+        return;
+    }
+    text = Fitting(edit, std::move(text));
+    if (text.empty()) {
+        return;
+    }
+    if (GetFocus() != edit) {
+        SetFocus(edit);
+    }
+    if (IsWindow(edit)) {
+        MoveEditCaret(edit, data, PositionAt(edit, data, MousePoint(point)), false);
         InsertText(edit, data, text, true);
     }
 }

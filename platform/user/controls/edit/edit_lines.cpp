@@ -53,8 +53,8 @@ RECT FormatOf(HWND edit, const EditData& data) {
     if (framed && rect.bottom >= data.lineHeight + 2) {
         InflateRect(&rect, -1, -1);
     }
-    rect.left += data.leftMargin;
-    rect.right = std::max(rect.left, rect.right - data.rightMargin);
+    rect.left += data.margin;
+    rect.right = std::max(rect.left, rect.right - data.margin);
     if (!IsMultiLine(edit)) {
         rect.bottom = std::min<LONG>(rect.bottom, rect.top + data.lineHeight);
     }
@@ -125,23 +125,14 @@ void BreakLines(HWND edit, EditData& data) {
 
 void LayOut(HWND edit, EditData& data) {
     data.lineHeight = EditMeasure(edit, data).LineHeight();
-    if (!data.formatSet) {
-        data.format = FormatOf(edit, data);
-    }
+    data.format = FormatOf(edit, data);
     BreakLines(edit, data);
     data.scrollX = 0;
     ScrollToCaret(edit, data);
 }
 
-void TakeFontMargins(HWND edit, EditData& data, UINT which) {
-    // Half a character, as long as that leaves most of the control for text.
-    const int margin = data.font ? EditMeasure(edit, data).AverageWidth() / 2 : 0;
-    if (which & EC_LEFTMARGIN) {
-        data.leftMargin = margin;
-    }
-    if (which & EC_RIGHTMARGIN) {
-        data.rightMargin = margin;
-    }
+void TakeFontMargin(HWND edit, EditData& data) {
+    data.margin = data.font ? EditMeasure(edit, data).AverageWidth() / 2 : 0;
 }
 
 std::size_t LineOf(const EditData& data, std::size_t position) {
@@ -216,12 +207,12 @@ bool ScrollToCaret(HWND edit, EditData& data) {
     return sideways || upright;
 }
 
-int ScrollLines(HWND edit, EditData& data, int lines) {
+void ScrollLines(HWND edit, EditData& data, int lines) {
     const auto last = static_cast<int>(data.lines.size()) - 1;
     const auto first = static_cast<int>(data.firstLine);
     const int wanted = std::clamp(first + lines, 0, std::max(0, std::max(first, last - PageLines(data) + 1)));
     if (wanted == first) {
-        return 0;
+        return;
     }
     data.firstLine = static_cast<std::size_t>(wanted);
     ShowEditBar(edit, data);
@@ -230,7 +221,6 @@ int ScrollLines(HWND edit, EditData& data, int lines) {
         RedrawEdit(edit);
         PlaceEditCaret(edit, data);
     }
-    return wanted - first;
 }
 
 }  // namespace platform::user

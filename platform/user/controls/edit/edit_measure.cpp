@@ -1,6 +1,7 @@
 // Widths of an edit control's text in its font.
 #include <algorithm>
 
+#include "gdi/context/device_context.h"
 #include "user/controls/edit/edit.h"
 
 namespace platform::user {
@@ -30,7 +31,7 @@ int EditMeasure::Width(std::size_t start, std::size_t count) const {
     const std::string text = Shown(data_, start, count);
     const auto length = static_cast<int>(text.size());
     if (text.find('\t') != std::string::npos) {
-        return LOWORD(GetTabbedTextExtentA(context_, text.c_str(), length, 0, nullptr));
+        return gdi::TabbedTextWidth(context_, text);
     }
     SIZE size{};
     GetTextExtentPoint32A(context_, text.c_str(), length, &size);

@@ -1,6 +1,7 @@
 // How an edit control looks: its text, the selection in the highlight colours, and the caret.
 #include <algorithm>
 
+#include "gdi/context/device_context.h"
 #include "user/controls/edit/edit.h"
 
 namespace platform::user {
@@ -15,7 +16,7 @@ struct Colours {
 void DrawRun(HDC context, const std::string& text, int x, int y) {
     const auto length = static_cast<int>(text.size());
     if (text.find('\t') != std::string::npos) {
-        TabbedTextOutA(context, x, y, text.c_str(), length, 0, nullptr, x);
+        gdi::DrawTabbedText(context, x, y, text);
     } else {
         TextOutA(context, x, y, text.c_str(), length);
     }

@@ -65,68 +65,6 @@ LRESULT GetLine(const EditData& data, std::size_t index, char* buffer) {
     return static_cast<LRESULT>(length);
 }
 
-LRESULT PointOfCharacter(HWND edit, const EditData& data, std::size_t position) {
-    if (position >= data.text.size()) {
-        return -1;
-    }
-    const POINT point = PointOf(edit, data, position);
-    return MAKELONG(point.x, point.y);
-}
-
-LRESULT CharacterAt(HWND edit, const EditData& data, LPARAM lParam) {
-    const POINT point = MousePoint(lParam);
-    RECT client{};
-    GetClientRect(edit, &client);
-    if (!PtInRect(&client, point)) {
-        return -1;
-    }
-    const std::size_t position = PositionAt(edit, data, point);
-    return MAKELONG(position, LineOf(data, position));
-}
-
-LRESULT FirstVisible(HWND edit, const EditData& data) {
-    if (IsMultiLine(edit)) {
-        return static_cast<LRESULT>(data.firstLine);
-    }
-    return static_cast<LRESULT>(EditMeasure(edit, data).Fit(data.lines[0], data.scrollX, false));
-}
-
-void SetMargins(HWND edit, EditData& data, UINT which, DWORD margins) {
-    if (which == EC_USEFONTINFO) {
-        TakeFontMargins(edit, data, EC_LEFTMARGIN | EC_RIGHTMARGIN);
-    } else {
-        if ((which & EC_LEFTMARGIN) && LOWORD(margins) != EC_USEFONTINFO) {
-            data.leftMargin = LOWORD(margins);
-        } else {
-            TakeFontMargins(edit, data, which & EC_LEFTMARGIN);
-        }
-        if ((which & EC_RIGHTMARGIN) && HIWORD(margins) != EC_USEFONTINFO) {
-            data.rightMargin = HIWORD(margins);
-        } else {
-            TakeFontMargins(edit, data, which & EC_RIGHTMARGIN);
-        }
-    }
-    LayOut(edit, data);
-    RedrawEdit(edit);
-    PlaceEditCaret(edit, data);
-}
-
-/// Null gives the control its own format rectangle back.
-void SetFormat(HWND edit, EditData& data, const RECT* rect, bool redraw) {
-    if (!IsMultiLine(edit)) {
-        return;
-    }
-    data.formatSet = rect != nullptr;
-    if (rect) {
-        data.format = *rect;
-    }
-    LayOut(edit, data);
-    if (redraw) {
-        RedrawEdit(edit);
-    }
-    PlaceEditCaret(edit, data);
-}
-
 void SetPassword(HWND edit, EditData& data, char character) {
     const DWORD style = ControlStyle(edit);
     if (style & ES_MULTILINE) {
@@ -152,31 +90,6 @@ LRESULT SetReadOnly(HWND edit, bool readOnly) {
     return TRUE;
 }
 
-/// EM_SCROLL, by the codes of scroll bars.
-LRESULT ScrollBy(HWND edit, EditData& data, WPARAM code) {
-    int lines = 0;
-    switch (code) {
-        case SB_LINEUP:
-            lines = -1;
-            break;
-        case SB_LINEDOWN:
-            lines = 1;
-            break;
-        case SB_PAGEUP:
-            lines = -PageLines(data);
-            break;
-        case SB_PAGEDOWN:
-            lines = PageLines(data);
-            break;
-        default:
-            return FALSE;
-    }
-    if (!IsMultiLine(edit)) {
-        return FALSE;
-    }
-    return MAKELONG(ScrollLines(edit, data, lines), TRUE);
-}
-
 std::size_t DefaultLimit(HWND edit) {
     return IsMultiLine(edit) ? 0xFFFFFFFF : 0x7FFFFFFE;
 }
@@ -189,17 +102,6 @@ LRESULT OnEditQuery(HWND edit, EditData& data, UINT message, WPARAM wParam, LPAR
             return GetSelection(data, reinterpret_cast<DWORD*>(wParam), reinterpret_cast<DWORD*>(lParam));
         case EM_SETSEL:
             return SetSelection(edit, data, static_cast<int>(wParam), static_cast<int>(lParam));
-        case EM_GETRECT:
-            if (lParam) {
-                *reinterpret_cast<RECT*>(lParam) = data.format;
-            }
-            return 0;
-        case EM_SETRECT:
-        case EM_SETRECTNP:
-            SetFormat(edit, data, reinterpret_cast<const RECT*>(lParam), message == EM_SETRECT);
-            return 0;
-        case EM_SCROLL:
-            return ScrollBy(edit, data, wParam);
         case EM_LINESCROLL:
             if (!IsMultiLine(edit)) {
                 return FALSE;
@@ -245,24 +147,8 @@ LRESULT OnEditQuery(HWND edit, EditData& data, UINT message, WPARAM wParam, LPAR
             return 0;
         case EM_GETPASSWORDCHAR:
             return static_cast<BYTE>(data.password);
-        case EM_GETFIRSTVISIBLELINE:
-            return FirstVisible(edit, data);
         case EM_SETREADONLY:
             return SetReadOnly(edit, wParam != 0);
-        case EM_SETWORDBREAKPROC:
-            data.wordBreak = reinterpret_cast<EDITWORDBREAKPROCA>(lParam);
-            return 0;
-        case EM_GETWORDBREAKPROC:
-            return reinterpret_cast<LRESULT>(data.wordBreak);
-        case EM_SETMARGINS:
-            SetMargins(edit, data, static_cast<UINT>(wParam), static_cast<DWORD>(lParam));
-            return 0;
-        case EM_GETMARGINS:
-            return MAKELONG(data.leftMargin, data.rightMargin);
-        case EM_POSFROMCHAR:
-            return PointOfCharacter(edit, data, static_cast<std::size_t>(wParam));
-        case EM_CHARFROMPOS:
-            return CharacterAt(edit, data, lParam);
         default:
             return DefWindowProcA(edit, message, wParam, lParam);
     }

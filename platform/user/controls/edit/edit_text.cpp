@@ -10,20 +10,6 @@ bool IsBlank(char character) {
     return character == ' ' || character == '\t' || character == '\r' || character == '\n';
 }
 
-bool IsDelimiter(const EditData& data, std::size_t position) {
-    if (data.wordBreak) {
-        return data.wordBreak(const_cast<LPSTR>(data.text.c_str()), static_cast<int>(position),
-                              static_cast<int>(data.text.size()), WB_ISDELIMITER) != 0;
-    }
-    return IsBlank(data.text[position]);
-}
-
-std::size_t AskWordBreak(const EditData& data, std::size_t position, int code) {
-    const int answer = data.wordBreak(const_cast<LPSTR>(data.text.c_str()), static_cast<int>(position),
-                                      static_cast<int>(data.text.size()), code);
-    return std::clamp<std::size_t>(answer < 0 ? 0 : static_cast<std::size_t>(answer), 0, data.text.size());
-}
-
 /// The longest beginning that has at most so many bytes and no half character at its end.
 std::string_view Beginning(std::string_view text, std::size_t most) {
     if (text.size() <= most) {
@@ -123,9 +109,6 @@ std::size_t WordLeft(const EditData& data, std::size_t position) {
     if (data.password) {
         return 0;
     }
-    if (data.wordBreak) {
-        return AskWordBreak(data, position, WB_LEFT);
-    }
     while (position > 0 && IsBlank(data.text[position - 1])) {
         --position;
     }
@@ -139,13 +122,10 @@ std::size_t WordRight(const EditData& data, std::size_t position) {
     if (data.password) {
         return data.text.size();
     }
-    if (data.wordBreak) {
-        return AskWordBreak(data, position, WB_RIGHT);
-    }
-    while (position < data.text.size() && !IsDelimiter(data, position)) {
+    while (position < data.text.size() && !IsBlank(data.text[position])) {
         ++position;
     }
-    while (position < data.text.size() && IsDelimiter(data, position)) {
+    while (position < data.text.size() && IsBlank(data.text[position])) {
         ++position;
     }
     return position;

@@ -7,48 +7,26 @@
 namespace platform::user {
 namespace {
 
-constexpr DWORD kIgnoreCase = NORM_IGNORECASE;
-
-int CompareTexts(const ListData& list, const char* a, int lengthA, const char* b, int lengthB) {
-    return CompareStringA(list.locale, kIgnoreCase, a, lengthA, b, lengthB) - CSTR_EQUAL;
-}
-
-/// The owner says which of two items comes first. An index of -1 is a value that is not in the list.
-int AskOrder(const ListData& list, int first, ULONG_PTR firstData, int second, ULONG_PTR secondData) {
-    const ListOwner owner = OwnerOf(list);
-    COMPAREITEMSTRUCT pair{};
-    pair.CtlType = owner.kind;
-    pair.CtlID = owner.id;
-    pair.hwndItem = owner.control;
-    pair.itemID1 = static_cast<UINT>(first);
-    pair.itemData1 = firstData;
-    pair.itemID2 = static_cast<UINT>(second);
-    pair.itemData2 = secondData;
-    pair.dwLocaleId = list.locale;
-    return static_cast<int>(SendMessageA(owner.parent, WM_COMPAREITEM, owner.id, reinterpret_cast<LPARAM>(&pair)));
+int CompareTexts(const char* a, std::size_t lengthA, const char* b, std::size_t lengthB) {
+    return CompareStringA(LOCALE_USER_DEFAULT, NORM_IGNORECASE, a, static_cast<int>(lengthA), b,
+                          static_cast<int>(lengthB)) -
+           CSTR_EQUAL;
 }
 
 /// @returns where a new item goes in the order: behind those that are equal to it.
-int SortedPlace(const ListData& list, LPARAM wanted) {
-    const auto* text = reinterpret_cast<const char*>(wanted);
-    const bool texts = list.HasTexts();
-    const int length = texts ? static_cast<int>(std::strlen(text)) : 0;
+int SortedPlace(const ListData& list, const char* text) {
+    const std::size_t length = std::strlen(text);
     int low = 0;
     int high = list.items.Count();
     while (low < high) {
         const int middle = low + (high - low) / 2;
-        const ListItem& item = list.items[middle];
-        const int order = texts
-                              ? CompareTexts(list, text, length, item.text.c_str(), static_cast<int>(item.text.size()))
-                              : AskOrder(list, -1, static_cast<ULONG_PTR>(wanted), middle, item.data);
-        // The owner may have taken items away.
-        high = std::min(high, list.items.Count());
-        if (order < 0)
+        const std::string& other = list.items[middle].text;
+        if (CompareTexts(text, length, other.c_str(), other.size()) < 0)
             high = middle;
         else
             low = middle + 1;
     }
-    return std::min(low, list.items.Count());
+    return low;
 }
 
 LRESULT NoSpace(const ListData& list) {
@@ -67,28 +45,20 @@ LRESULT InsertAt(ListData& list, int index, LPARAM what) {
         ++list.caret;
     if (list.anchor >= index)
         ++list.anchor;
-    if (list.Variable()) {
-        const int height = MeasureItem(list, index);
-        if (list.items.Has(index))
-            list.items[index].height = height;
-    }
     UpdateBars(list);
     InvalidateFrom(list, index);
     return index;
 }
 
 LRESULT OnAdd(ListData& list, LPARAM what) {
-    if (list.Style() & LBS_NODATA)
-        return LB_ERR;
     if (list.HasTexts() && !what)
         what = reinterpret_cast<LPARAM>("");
-    const bool sorted = (list.Style() & LBS_SORT) != 0;
-    return InsertAt(list, sorted ? SortedPlace(list, what) : list.items.Count(), what);
+    // Without texts there is no order.
+    const bool sorted = (list.Style() & LBS_SORT) && list.HasTexts();
+    return InsertAt(list, sorted ? SortedPlace(list, reinterpret_cast<const char*>(what)) : list.items.Count(), what);
 }
 
 LRESULT OnInsert(ListData& list, int index, LPARAM what) {
-    if (list.Style() & LBS_NODATA)
-        return LB_ERR;
     if (index == -1)
         index = list.items.Count();
     if (index < 0 || index > list.items.Count())
@@ -100,7 +70,7 @@ LRESULT OnInsert(ListData& list, int index, LPARAM what) {
 void TellDeleted(const ListData& list, int index) {
     const ULONG_PTR data = list.items[index].data;
     const ListOwner owner = OwnerOf(list);
-    if ((!list.OwnerDrawn() && !data) || !owner.parent || (list.Style() & LBS_NODATA))
+    if ((!list.OwnerDrawn() && !data) || !owner.parent)
         return;
     DELETEITEMSTRUCT item{owner.kind, owner.id, static_cast<UINT>(index), owner.control, data};
     SendMessageA(owner.parent, WM_DELETEITEM, owner.id, reinterpret_cast<LPARAM>(&item));
@@ -145,21 +115,6 @@ LRESULT OnGetText(const ListData& list, int index, char* buffer) {
     return static_cast<LRESULT>(item.text.size());
 }
 
-LRESULT OnSetCount(ListData& list, int count) {
-    if (!(list.Style() & LBS_NODATA) || count < 0)
-        return LB_ERR;
-    RemoveAll(list);
-    if (!list.items.Reserve(count))
-        return NoSpace(list);
-    for (int i = 0; i < count; ++i) {
-        if (!list.items.Insert(i, nullptr, 0))
-            return NoSpace(list);
-    }
-    UpdateBars(list);
-    InvalidateFrom(list, 0);
-    return LB_OKAY;
-}
-
 /// The index -1 means all items.
 LRESULT OnSetItemData(ListData& list, int index, ULONG_PTR data) {
     if (index != -1 && !list.items.Has(index))
@@ -172,16 +127,13 @@ LRESULT OnSetItemData(ListData& list, int index, ULONG_PTR data) {
 
 bool Matches(const ListData& list, int index, LPARAM wanted, bool exact) {
     const ListItem& item = list.items[index];
-    if (!list.HasTexts()) {
-        if (list.Style() & LBS_SORT)
-            return AskOrder(list, -1, static_cast<ULONG_PTR>(wanted), index, item.data) == 0;
+    if (!list.HasTexts())
         return item.data == static_cast<ULONG_PTR>(wanted);
-    }
     const auto* text = reinterpret_cast<const char*>(wanted);
     const std::size_t length = std::strlen(text);
     if (exact ? item.text.size() != length : item.text.size() < length)
         return false;
-    return CompareTexts(list, text, static_cast<int>(length), item.text.c_str(), static_cast<int>(length)) == 0;
+    return CompareTexts(text, length, item.text.c_str(), length) == 0;
 }
 
 }  // namespace
@@ -213,18 +165,17 @@ void RemoveAll(ListData& list) {
     }
     list.emptying = false;
     list.chosen = list.anchor = -1;
-    list.caret = list.top = list.offset = 0;
+    list.caret = list.top = 0;
 }
 
-int MeasureItem(const ListData& list, int index) {
+int MeasureItem(const ListData& list) {
     const ListOwner owner = OwnerOf(list);
     MEASUREITEMSTRUCT item{};
     item.CtlType = owner.kind;
     item.CtlID = owner.id;
-    item.itemID = static_cast<UINT>(index);
+    item.itemID = list.combo ? 0 : static_cast<UINT>(-1);
     item.itemWidth = static_cast<UINT>(ListClient(list).right);
     item.itemHeight = static_cast<UINT>(list.itemHeight);
-    item.itemData = list.items.Has(index) ? list.items[index].data : 0;
     if (owner.parent)
         SendMessageA(owner.parent, WM_MEASUREITEM, owner.id, reinterpret_cast<LPARAM>(&item));
     return std::clamp(static_cast<int>(item.itemHeight), 1, 0xFFFF);
@@ -261,10 +212,6 @@ LRESULT OnContentsMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lP
             const int found = list.Multiple() ? LB_ERR : FindItem(list, index, lParam, false);
             return found < 0 ? found : SendMessageA(list.window, LB_SETCURSEL, static_cast<WPARAM>(found), 0);
         }
-        case LB_SETCOUNT:
-            return OnSetCount(list, index);
-        case LB_INITSTORAGE:
-            return list.items.Reserve(index) ? LRESULT{list.items.Count()} + std::max(index, 0) : NoSpace(list);
         default:
             return LB_ERR;
     }

@@ -57,7 +57,7 @@ bool ScrollTowards(ListData& list, POINT point) {
 int DragTarget(const ListData& list, POINT point) {
     bool outside = false;
     const int index = ItemAt(list, point, &outside);
-    return std::clamp(index, list.top, std::max(list.top, list.top + PageFrom(list, list.top) - 1));
+    return std::clamp(index, list.top, std::max(list.top, list.top + PageOf(list) - 1));
 }
 
 void Follow(ListData& list, POINT point) {
@@ -154,11 +154,11 @@ void EndTracking(ListData& list) {
 namespace {
 
 /// The parent of a list that wants keys may act on them: -2 for done, an item to go to, or -1 for the usual.
-int AskAboutKey(const ListData& list, UINT message, WPARAM key) {
+int AskAboutKey(const ListData& list, WPARAM key) {
     const ListOwner owner = OwnerOf(list);
     if (!(list.Style() & LBS_WANTKEYBOARDINPUT) || !owner.parent)
         return -1;
-    return static_cast<int>(SendMessageA(owner.parent, message, MAKEWPARAM(key, std::max(list.caret, 0)),
+    return static_cast<int>(SendMessageA(owner.parent, WM_VKEYTOITEM, MAKEWPARAM(key, std::max(list.caret, 0)),
                                          reinterpret_cast<LPARAM>(list.window)));
 }
 
@@ -166,7 +166,7 @@ int AskAboutKey(const ListData& list, UINT message, WPARAM key) {
 int TargetOf(const ListData& list, WPARAM key) {
     const int last = list.items.Count() - 1;
     const int rows = RowsOf(list);
-    const int page = PageFrom(list, list.top);
+    const int page = PageOf(list);
     const bool fresh = !list.Multiple() && list.chosen < 0;
     const int from = std::clamp(list.caret, 0, std::max(0, last));
     const auto by = [&](int distance) { return fresh ? from : std::clamp(from + distance, 0, last); };
@@ -241,7 +241,7 @@ void OnSpace(ListData& list) {
 }  // namespace
 
 void OnListKey(ListData& list, WPARAM key) {
-    const int wish = AskAboutKey(list, WM_VKEYTOITEM, key);
+    const int wish = AskAboutKey(list, key);
     if (wish == -2 || !IsWindow(list.window))
         return;
     if (wish >= 0)
@@ -253,14 +253,8 @@ void OnListKey(ListData& list, WPARAM key) {
 }
 
 void OnListCharacter(ListData& list, WPARAM character) {
-    if (!list.HasTexts()) {
-        const int wish = AskAboutKey(list, WM_CHARTOITEM, character);
-        if (wish >= 0)
-            GoTo(list, wish);
-        return;
-    }
     // The space bar selects; control characters are no text.
-    if (character <= ' ')
+    if (!list.HasTexts() || character <= ' ')
         return;
     const char text[2] = {static_cast<char>(character), '\0'};
     GoTo(list, FindItem(list, list.Multiple() ? list.caret : list.chosen, reinterpret_cast<LPARAM>(text), false));

@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "user/controls/listbox/list.h"
 
 namespace platform::user {
@@ -18,13 +16,6 @@ bool ListItems::Insert(int index, const char* text, ULONG_PTR data) try {
     made.release();
     return true;
 } catch (const std::bad_alloc&) {
-    return false;
-}
-
-bool ListItems::Reserve(int count) try {
-    items_.reserve(items_.size() + static_cast<std::size_t>(std::max(count, 0)));
-    return true;
-} catch (const std::exception&) {
     return false;
 }
 

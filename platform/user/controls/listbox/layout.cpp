@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "user/controls/listbox/list.h"
+#include "user/painting/painting.h"
 
 namespace platform::user {
 
@@ -10,10 +11,6 @@ RECT ListClient(const ListData& list) {
     RECT client{};
     GetClientRect(list.window, &client);
     return client;
-}
-
-int HeightOf(const ListData& list, int index) {
-    return list.Variable() && list.items.Has(index) ? list.items[index].height : list.itemHeight;
 }
 
 int RowsOf(const ListData& list) {
@@ -28,19 +25,8 @@ int ColumnsInView(const ListData& list) {
 
 }  // namespace
 
-int PageFrom(const ListData& list, int index) {
-    if (list.Columns())
-        return RowsOf(list) * ColumnsInView(list);
-    if (!list.Variable())
-        return RowsOf(list);
-    const int height = ListClient(list).bottom;
-    int count = 0;
-    for (int used = 0; list.items.Has(index + count); ++count) {
-        used += HeightOf(list, index + count);
-        if (used > height)
-            break;
-    }
-    return std::max(1, count);
+int PageOf(const ListData& list) {
+    return list.Columns() ? RowsOf(list) * ColumnsInView(list) : RowsOf(list);
 }
 
 int LastTop(const ListData& list) {
@@ -50,13 +36,7 @@ int LastTop(const ListData& list) {
         const int columns = (count + rows - 1) / rows;
         return std::max(0, columns - ColumnsInView(list)) * rows;
     }
-    if (!list.Variable())
-        return std::max(0, count - RowsOf(list));
-    int room = ListClient(list).bottom;
-    int top = count;
-    while (top > 0 && HeightOf(list, top - 1) <= room)
-        room -= HeightOf(list, --top);
-    return std::clamp(top, 0, std::max(0, count - 1));
+    return std::max(0, count - RowsOf(list));
 }
 
 namespace {
@@ -79,17 +59,8 @@ RECT RectOf(const ListData& list, int index) {
         return {Distance(column, list.columnWidth), Distance(row, list.itemHeight),
                 Distance(column + 1, list.columnWidth), Distance(row + 1, list.itemHeight)};
     }
-    RECT rect{-list.offset, 0, std::max<LONG>(client.right, list.extent - list.offset), 0};
-    if (list.Variable()) {
-        for (int i = list.top; i < index; ++i)
-            rect.top += HeightOf(list, i);
-        for (int i = index; i < list.top; ++i)
-            rect.top -= HeightOf(list, i);
-    } else {
-        rect.top = Distance(index - list.top, list.itemHeight);
-    }
-    rect.bottom = rect.top + HeightOf(list, index);
-    return rect;
+    const LONG top = Distance(index - list.top, list.itemHeight);
+    return {0, top, client.right, top + list.itemHeight};
 }
 
 int ItemAt(const ListData& list, POINT point, bool* outside) {
@@ -105,14 +76,6 @@ int ItemAt(const ListData& list, POINT point, bool* outside) {
         const int column = point.x >= 0 ? static_cast<int>(point.x) / width : -1;
         const int row = std::clamp(static_cast<int>(point.y) / std::max(1, list.itemHeight), 0, rows - 1);
         index += column * rows + row;
-    } else if (list.Variable()) {
-        int bottom = 0;
-        for (; index < count - 1; ++index) {
-            bottom += HeightOf(list, index);
-            if (point.y < bottom)
-                break;
-        }
-        index -= point.y < 0;
     } else {
         index += point.y >= 0 ? static_cast<int>(point.y) / std::max(1, list.itemHeight) : -1;
     }
@@ -121,7 +84,7 @@ int ItemAt(const ListData& list, POINT point, bool* outside) {
 
 void FitHeight(ListData& list) {
     const DWORD style = list.Style();
-    if ((style & (LBS_NOINTEGRALHEIGHT | LBS_OWNERDRAWVARIABLE)) || list.fitting || list.itemHeight <= 0)
+    if ((style & LBS_NOINTEGRALHEIGHT) || list.fitting || list.itemHeight <= 0)
         return;
     const RECT client = ListClient(list);
     const int spare = client.bottom % list.itemHeight;
@@ -136,28 +99,10 @@ void FitHeight(ListData& list) {
 
 namespace {
 
-UINT KeepFlag(const ListData& list) {
-    return list.Style() & LBS_DISABLENOSCROLL ? SIF_DISABLENOSCROLL : 0U;
-}
-
 void SetBar(ListData& list, int bar, int last, int page, int position) {
     const SCROLLINFO info{
-        sizeof info, SIF_RANGE | SIF_PAGE | SIF_POS | KeepFlag(list), 0, last, static_cast<UINT>(page), position, 0};
+        sizeof info, SIF_RANGE | SIF_PAGE | SIF_POS, 0, std::max(0, last), static_cast<UINT>(page), position, 0};
     SetScrollInfo(list.window, bar, &info, list.redraw);
-}
-
-void UpdateAcross(ListData& list) {
-    if (!list.horizontal)
-        return;
-    if (list.Columns()) {
-        const int rows = RowsOf(list);
-        SetBar(list, SB_HORZ, std::max(0, (list.items.Count() + rows - 1) / rows - 1), ColumnsInView(list),
-               list.top / rows);
-        return;
-    }
-    const int width = ListClient(list).right;
-    SetBar(list, SB_HORZ, std::max(0, list.extent - 1), width, list.offset);
-    ScrollAcross(list, std::clamp(list.offset, 0, std::max(0, list.extent - width)));
 }
 
 }  // namespace
@@ -165,12 +110,11 @@ void UpdateAcross(ListData& list) {
 void UpdateBars(ListData& list) {
     if (!list.redraw)
         return;
-    if (list.vertical && !list.Columns()) {
-        // With items of several heights the page is what fits at the end.
-        const int page = list.Variable() ? list.items.Count() - LastTop(list) : RowsOf(list);
-        SetBar(list, SB_VERT, std::max(0, list.items.Count() - 1), page, list.top);
-    }
-    UpdateAcross(list);
+    const int rows = RowsOf(list);
+    if (list.vertical && !list.Columns())
+        SetBar(list, SB_VERT, list.items.Count() - 1, rows, list.top);
+    if (list.horizontal && list.Columns())
+        SetBar(list, SB_HORZ, (list.items.Count() + rows - 1) / rows - 1, ColumnsInView(list), list.top / rows);
     const int last = LastTop(list);
     if (list.top > last)
         ScrollTo(list, last);
@@ -196,17 +140,7 @@ void ScrollTo(ListData& list, int top) {
     if (list.Columns() || place.top >= client.bottom || place.top <= -client.bottom)
         InvalidateRect(list.window, nullptr, TRUE);
     else
-        ScrollWindowEx(list.window, 0, -place.top, nullptr, nullptr, nullptr, nullptr, SW_INVALIDATE | SW_ERASE);
-}
-
-void ScrollAcross(ListData& list, int offset) {
-    offset = std::clamp(offset, 0, std::max(0, list.extent - static_cast<int>(ListClient(list).right)));
-    if (offset == list.offset)
-        return;
-    list.offset = offset;
-    SetScrollPos(list.window, SB_HORZ, offset, list.redraw);
-    if (list.redraw)
-        InvalidateRect(list.window, nullptr, TRUE);
+        ScrollClient(list.window, 0, -place.top, true);
 }
 
 void Reveal(ListData& list, int index) {
@@ -219,12 +153,8 @@ void Reveal(ListData& list, int index) {
         const int beyond = index / rows - list.top / rows - ColumnsInView(list) + 1;
         if (beyond > 0)
             ScrollTo(list, list.top + beyond * rows);
-    } else if (index >= list.top + PageFrom(list, list.top)) {
-        int top = index;
-        int room = ListClient(list).bottom - HeightOf(list, index);
-        while (top > 0 && HeightOf(list, top - 1) <= room)
-            room -= HeightOf(list, --top);
-        ScrollTo(list, top);
+    } else if (index >= list.top + PageOf(list)) {
+        ScrollTo(list, index - PageOf(list) + 1);
     }
 }
 
@@ -232,16 +162,14 @@ void OnScroll(ListData& list, bool vertical, WPARAM wParam) {
     const int bar = vertical ? SB_VERT : SB_HORZ;
     const bool columns = list.Columns();
     const int step = columns ? RowsOf(list) : 1;
-    const bool items = vertical || columns;
-    const int page = items ? std::max(step, PageFrom(list, list.top)) : static_cast<int>(ListClient(list).right);
-    const int line = items ? step : std::max(1, page / 3);
-    int wanted = items ? list.top : list.offset;
+    const int page = PageOf(list);
+    int wanted = list.top;
     switch (LOWORD(wParam)) {
         case SB_LINEUP:
-            wanted -= line;
+            wanted -= step;
             break;
         case SB_LINEDOWN:
-            wanted += line;
+            wanted += step;
             break;
         case SB_PAGEUP:
             wanted -= page;
@@ -264,15 +192,12 @@ void OnScroll(ListData& list, bool vertical, WPARAM wParam) {
             wanted = 0;
             break;
         case SB_BOTTOM:
-            wanted = items ? LastTop(list) : list.extent;
+            wanted = LastTop(list);
             break;
         default:
             return;
     }
-    if (items)
-        ScrollTo(list, wanted);
-    else
-        ScrollAcross(list, wanted);
+    ScrollTo(list, wanted);
     UpdateWindow(list.window);
 }
 

@@ -17,7 +17,6 @@ namespace platform::user {
 struct ListItem {
     std::string text;    ///< empty without texts
     ULONG_PTR data = 0;  ///< the application's value
-    int height = 0;      ///< LBS_OWNERDRAWVARIABLE
     bool selected = false;
 };
 
@@ -43,7 +42,6 @@ class ListItems {
     }
     /// @returns false without memory.
     bool Insert(int index, const char* text, ULONG_PTR data);
-    bool Reserve(int count);
     void Remove(int index);
 
   private:
@@ -55,14 +53,10 @@ struct ListData : ControlData {
     HWND combo = nullptr;  ///< the combo box that the list belongs to
     ListItems items;
     HFONT font = nullptr;
-    LCID locale = 0;
-    std::vector<int> tabStops;  ///< in pixels
 
     int itemHeight = 1;
     int columnWidth = 0;
-    int extent = 0;  ///< width that can be scrolled across
-    int offset = 0;  ///< scrolled across by so many pixels
-    int top = 0;     ///< the first item in view
+    int top = 0;  ///< the first item in view
     bool vertical = false;
     bool horizontal = false;  ///< made with a scroll bar, which comes and goes
     bool redraw = true;       ///< WM_SETREDRAW
@@ -82,10 +76,7 @@ struct ListData : ControlData {
         return ControlStyle(window);
     }
     bool OwnerDrawn() const {
-        return (Style() & (LBS_OWNERDRAWFIXED | LBS_OWNERDRAWVARIABLE)) != 0;
-    }
-    bool Variable() const {
-        return (Style() & LBS_OWNERDRAWVARIABLE) != 0;
+        return (Style() & LBS_OWNERDRAWFIXED) != 0;
     }
     bool HasTexts() const {
         return !OwnerDrawn() || (Style() & LBS_HASSTRINGS);
@@ -107,11 +98,10 @@ struct ListData : ControlData {
 // --- layout.cpp
 
 RECT ListClient(const ListData& list);
-int HeightOf(const ListData& list, int index);
 /// @returns how many items a column shows whole, at least 1.
 int RowsOf(const ListData& list);
-/// @returns how many items the list shows whole from an item on, at least 1.
-int PageFrom(const ListData& list, int index);
+/// @returns how many items the list shows whole, at least 1.
+int PageOf(const ListData& list);
 /// @returns the greatest index that can come to the top.
 int LastTop(const ListData& list);
 /// @returns the rectangle of an item, which may lie outside the client area.
@@ -123,7 +113,6 @@ void FitHeight(ListData& list);
 /// Brings scroll bars and top index up to date after items, sizes or fonts changed.
 void UpdateBars(ListData& list);
 void ScrollTo(ListData& list, int top);
-void ScrollAcross(ListData& list, int offset);
 /// Scrolls as little as brings an item into view.
 void Reveal(ListData& list, int index);
 void OnScroll(ListData& list, bool vertical, WPARAM wParam);
@@ -155,8 +144,8 @@ LRESULT OnContentsMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lP
 int FindItem(const ListData& list, int start, LPARAM wanted, bool exact);
 /// Removes all items, with WM_DELETEITEM for each.
 void RemoveAll(ListData& list);
-/// Asks for the height of owner-drawn items. index: -1 while the list is created.
-int MeasureItem(const ListData& list, int index);
+/// Asks for the height of owner-drawn items.
+int MeasureItem(const ListData& list);
 
 // --- input.cpp
 

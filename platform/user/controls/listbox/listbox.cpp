@@ -3,13 +3,11 @@
 #include <cstring>
 
 #include "user/controls/listbox/list.h"
-#include "user/dialog/dialog.h"
 
 namespace platform::user {
 namespace {
 
 constexpr int kWheelLines = 3;
-constexpr int kDefaultTab = 2;  // dialog units
 
 void Renew(ListData& list) {
     FitHeight(list);
@@ -49,12 +47,10 @@ LRESULT OnCreate(ListData& list) {
     const DWORD style = list.Style();
     list.vertical = (style & WS_VSCROLL) != 0;
     list.horizontal = (style & WS_HSCROLL) != 0;
-    list.redraw = !(style & LBS_NOREDRAW);
-    list.locale = GetUserDefaultLCID();
     list.caret = 0;
     UseFont(list, nullptr);
-    if (style & LBS_OWNERDRAWFIXED)
-        list.itemHeight = MeasureItem(list, list.combo ? 0 : -1);
+    if (list.OwnerDrawn())
+        list.itemHeight = MeasureItem(list);
     FitHeight(list);
     UpdateBars(list);
     return 0;
@@ -107,49 +103,6 @@ bool OnWheel(ListData& list, WPARAM wParam) {
     return true;
 }
 
-LRESULT OnSetTabs(ListData& list, WPARAM count, const int* stops) try {
-    if (!(list.Style() & LBS_USETABSTOPS))
-        return FALSE;
-    int baseX = 0;
-    int baseY = 0;
-    FontBaseUnits(list.font, baseX, baseY);
-    std::vector<int> pixels;
-    if (count == 0 || !stops)
-        pixels.push_back(MulDiv(kDefaultTab, baseX, 4));
-    for (WPARAM i = 0; stops && i < count; ++i)
-        pixels.push_back(MulDiv(stops[i], baseX, 4));
-    list.tabStops.swap(pixels);
-    if (list.redraw)
-        InvalidateRect(list.window, nullptr, TRUE);
-    return TRUE;
-} catch (const std::bad_alloc&) {
-    return FALSE;
-}
-
-LRESULT OnSetItemHeight(ListData& list, int index, int height) {
-    if (height <= 0 || height > 0xFF || (list.Variable() ? !list.items.Has(index) : index != 0))
-        return LB_ERR;
-    if (list.Variable())
-        list.items[index].height = height;
-    else
-        list.itemHeight = height;
-    Renew(list);
-    return LB_OKAY;
-}
-
-/// The item nearest to a point among those in view, and in the high word whether the point misses it.
-LRESULT OnItemFromPoint(const ListData& list, POINT point) {
-    const RECT client = ListClient(list);
-    const POINT inside{std::clamp<LONG>(point.x, 0, std::max<LONG>(0, client.right - 1)),
-                       std::clamp<LONG>(point.y, 0, std::max<LONG>(0, client.bottom - 1))};
-    bool outside = false;
-    const int found = ItemAt(list, inside, &outside);
-    if (found < 0)
-        return MAKELRESULT(found, TRUE);
-    const RECT item = RectOf(list, found);
-    return MAKELRESULT(found, !PtInRect(&client, point) || !PtInRect(&item, point));
-}
-
 LRESULT OnLayoutMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lParam) {
     const int index = static_cast<int>(wParam);
     switch (message) {
@@ -166,32 +119,11 @@ LRESULT OnLayoutMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lPar
             *reinterpret_cast<RECT*>(lParam) = RectOf(list, index);
             return LB_OKAY;
         case LB_GETITEMHEIGHT:
-            return list.Variable() && !list.items.Has(index) ? LB_ERR : HeightOf(list, index);
-        case LB_SETITEMHEIGHT:
-            return OnSetItemHeight(list, index, static_cast<int>(LOWORD(lParam)));
-        case LB_ITEMFROMPOINT:
-            return OnItemFromPoint(list, MousePoint(lParam));
+            return list.itemHeight;
         case LB_SETCOLUMNWIDTH:
             list.columnWidth = std::max(1, index);
             Renew(list);
             return LB_OKAY;
-        case LB_SETHORIZONTALEXTENT:
-            list.extent = std::max(0, index);
-            UpdateBars(list);
-            return LB_OKAY;
-        case LB_GETHORIZONTALEXTENT:
-            return list.extent;
-        case LB_SETTABSTOPS:
-            return OnSetTabs(list, wParam, reinterpret_cast<const int*>(lParam));
-        case LB_SETLOCALE: {
-            const LCID before = list.locale;
-            if (!CompareStringA(static_cast<LCID>(wParam), 0, "a", 1, "a", 1))
-                return LB_ERR;
-            list.locale = static_cast<LCID>(wParam);
-            return static_cast<LRESULT>(before);
-        }
-        case LB_GETLOCALE:
-            return static_cast<LRESULT>(list.locale);
         default:
             return LB_ERR;
     }
@@ -211,10 +143,7 @@ LRESULT OnListMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lParam
         case LB_FINDSTRINGEXACT:
         case LB_GETITEMDATA:
         case LB_SETITEMDATA:
-        case LB_SETCOUNT:
-        case LB_INITSTORAGE:
             return OnContentsMessage(list, message, wParam, lParam);
-        case LB_SELITEMRANGEEX:
         case LB_SETSEL:
         case LB_SETCURSEL:
         case LB_GETSEL:
@@ -223,7 +152,6 @@ LRESULT OnListMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lParam
         case LB_GETSELITEMS:
         case LB_SELITEMRANGE:
         case LB_SETANCHORINDEX:
-        case LB_GETANCHORINDEX:
         case LB_SETCARETINDEX:
         case LB_GETCARETINDEX:
             return OnSelectionMessage(list, message, wParam, lParam);
@@ -305,7 +233,6 @@ LRESULT CALLBACK ListBoxProcedure(HWND window, UINT message, WPARAM wParam, LPAR
         case WM_ERASEBKGND:
             return TRUE;
         case WM_PAINT:
-        case WM_PRINTCLIENT:
             OnPaint(list, reinterpret_cast<HDC>(wParam));
             return 0;
         case WM_SIZE:
@@ -331,7 +258,7 @@ LRESULT CALLBACK ListBoxProcedure(HWND window, UINT message, WPARAM wParam, LPAR
             InvalidateRect(window, nullptr, TRUE);
             return 0;
         default:
-            if (message >= LB_ADDSTRING && message <= LB_ITEMFROMPOINT)
+            if (message >= LB_ADDSTRING && message <= LB_FINDSTRINGEXACT)
                 return OnListMessage(list, message, wParam, lParam);
             return OnInput(list, message, wParam, lParam);
     }

@@ -55,19 +55,6 @@ void AskOwner(const ListData& list, HDC context, int index, const RECT& rect, UI
     SendMessageA(owner.parent, WM_DRAWITEM, owner.id, reinterpret_cast<LPARAM>(&item));
 }
 
-void DrawItemText(const ListData& list, HDC context, const std::string& text, const RECT& rect) {
-    const int length = static_cast<int>(text.size());
-    if (list.Style() & LBS_USETABSTOPS) {
-        ExtTextOutA(context, 0, 0, ETO_OPAQUE, &rect, "", 0, nullptr);
-        TabbedTextOutA(context, rect.left + kTextInset, rect.top, text.c_str(), length,
-                       static_cast<int>(list.tabStops.size()), list.tabStops.empty() ? nullptr : list.tabStops.data(),
-                       rect.left + kTextInset);
-        return;
-    }
-    ExtTextOutA(context, rect.left + kTextInset, rect.top, ETO_OPAQUE | ETO_CLIPPED, &rect, text.c_str(),
-                static_cast<UINT>(length), nullptr);
-}
-
 void DrawOwnItem(const ListData& list, const Brush& brush, int index, RECT rect) {
     const HDC context = brush.context;
     const bool disabled = (list.Style() & WS_DISABLED) != 0;
@@ -82,7 +69,9 @@ void DrawOwnItem(const ListData& list, const Brush& brush, int index, RECT rect)
     }
     if (disabled)
         SetTextColor(context, GetSysColor(COLOR_GRAYTEXT));
-    DrawItemText(list, context, list.items[index].text, rect);
+    const std::string& label = list.items[index].text;
+    ExtTextOutA(context, rect.left + kTextInset, rect.top, ETO_OPAQUE | ETO_CLIPPED, &rect, label.c_str(),
+                static_cast<UINT>(label.size()), nullptr);
     if (ShowsCaret(list, index))
         DrawFocusRect(context, &rect);
     SetTextColor(context, text);

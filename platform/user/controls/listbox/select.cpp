@@ -6,7 +6,7 @@
 namespace platform::user {
 
 void SelectItem(ListData& list, int index, bool selected) {
-    if ((list.Style() & LBS_NOSEL) || !list.items.Has(index) || list.IsSelected(index) == selected)
+    if (!list.items.Has(index) || list.IsSelected(index) == selected)
         return;
     if (list.Multiple()) {
         list.items[index].selected = selected;
@@ -129,17 +129,11 @@ LRESULT OnSelectionMessage(ListData& list, UINT message, WPARAM wParam, LPARAM l
             return list.Multiple() ? Collect(list, reinterpret_cast<int*>(lParam), first) : LB_ERR;
         case LB_SELITEMRANGE:
             return OnSelectRange(list, LOWORD(lParam), HIWORD(lParam), wParam != 0);
-        case LB_SELITEMRANGEEX: {
-            const int last = static_cast<int>(lParam);
-            return OnSelectRange(list, std::min(first, last), std::max(first, last), first <= last);
-        }
         case LB_SETANCHORINDEX:
             if (!list.items.Has(first))
                 return LB_ERR;
             list.anchor = first;
             return LB_OKAY;
-        case LB_GETANCHORINDEX:
-            return list.anchor;
         case LB_SETCARETINDEX:
             if (!list.items.Has(first))
                 return LB_ERR;

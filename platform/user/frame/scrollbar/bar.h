@@ -14,10 +14,10 @@ struct BarState {
     int high = 100;
     int page = 0;
     int position = 0;
-    UINT arrows = ESB_ENABLE_BOTH;  ///< those that cannot be used
-    bool dragging = false;          ///< the thumb is held: it lies where the pointer took it
-    int track = 0;                  ///< the position that the held thumb stands for
-    int thumbOffset = 0;            ///< of the held thumb from the first arrow, in pixels
+    bool disabled = false;
+    bool dragging = false;  ///< the thumb is held: it lies where the pointer took it
+    int track = 0;          ///< the position that the held thumb stands for
+    int thumbOffset = 0;    ///< of the held thumb from the first arrow, in pixels
 };
 
 struct WindowBars {

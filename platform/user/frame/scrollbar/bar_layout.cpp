@@ -59,7 +59,7 @@ BarLayout LayOutBar(const RECT& whole, bool vertical, const BarState& state) {
     BarLayout layout{vertical, whole, along.Part(whole, from, from + arrow), {}, along.Part(whole, to - arrow, to)};
     const int shaft = ShaftLength(layout);
     const int thumb = ThumbLength(state, shaft);
-    if (!CanScroll(state) || state.arrows == ESB_DISABLE_BOTH || thumb > shaft) {
+    if (!CanScroll(state) || state.disabled || thumb > shaft) {
         return layout;
     }
     const std::int64_t range = std::int64_t{LastPosition(state)} - state.low;

@@ -24,11 +24,11 @@ void DrawShaft(HDC context, const RECT& rect, HBRUSH brush, bool pressed) {
 }  // namespace
 
 void DrawBar(HDC context, const BarLayout& layout, const BarState& state, BarPart pressed, HBRUSH shaft) {
-    const bool still = !CanScroll(state);
+    const bool still = !CanScroll(state) || state.disabled;
     DrawArrow(context, layout.firstArrow, layout.vertical ? DFCS_SCROLLUP : DFCS_SCROLLLEFT,
-              pressed == BarPart::FirstArrow, still || (state.arrows & ESB_DISABLE_LTUP));
+              pressed == BarPart::FirstArrow, still);
     DrawArrow(context, layout.secondArrow, layout.vertical ? DFCS_SCROLLDOWN : DFCS_SCROLLRIGHT,
-              pressed == BarPart::SecondArrow, still || (state.arrows & ESB_DISABLE_RTDN));
+              pressed == BarPart::SecondArrow, still);
     DrawShaft(context, FirstShaft(layout), shaft, pressed == BarPart::FirstShaft);
     DrawShaft(context, SecondShaft(layout), shaft, pressed == BarPart::SecondShaft);
     if (!IsRectEmpty(&layout.thumb)) {

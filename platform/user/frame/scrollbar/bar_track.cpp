@@ -40,8 +40,8 @@ class Hold {
         }
         part_ = PartAt(layout_, point);
         start_ = layout_;
-        if ((part_ == BarPart::FirstArrow && (state_.arrows & ESB_DISABLE_LTUP)) ||
-            (part_ == BarPart::SecondArrow && (state_.arrows & ESB_DISABLE_RTDN)) || !CanScroll(state_)) {
+        const bool arrow = part_ == BarPart::FirstArrow || part_ == BarPart::SecondArrow;
+        if ((arrow && state_.disabled) || !CanScroll(state_)) {
             part_ = BarPart::None;
         }
     }

@@ -1,7 +1,6 @@
 // The scroll bars at a window's edges, and the calls that set and ask for what any scroll bar shows.
 #include "user/frame/scrollbar/bar.h"
 
-#include <cstring>
 #include <new>
 
 #include "user/frame/above.h"
@@ -42,6 +41,24 @@ bool Knows(int bar) {
     return bar == SB_HORZ || bar == SB_VERT || bar == SB_CTL;
 }
 
+void ShowWindowBar(HWND handle, int bar, bool show) {
+    const DWORD wanted = bar == SB_HORZ ? WS_HSCROLL : WS_VSCROLL;
+    {
+        const UserGuard guard(UserLock());
+        Window* window = FindWindowObject(handle);
+        if (!window) {
+            return;
+        }
+        const DWORD style = show ? window->style | wanted : window->style & ~wanted;
+        if (style == window->style) {
+            return;
+        }
+        window->style = style;
+    }
+    SetWindowPos(handle, nullptr, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+}
+
 /// Changes a bar of a window as a SCROLLINFO says. @returns the position that it comes to.
 int ChangeWindowBar(HWND handle, bool vertical, const SCROLLINFO& info, bool redraw) {
     const Bar bar{handle, vertical ? SB_VERT : SB_HORZ};
@@ -49,7 +66,7 @@ int ChangeWindowBar(HWND handle, bool vertical, const SCROLLINFO& info, bool red
     BarLayout after;
     BarState state;
     const bool shown = ReadBar(bar, &state, &before);
-    UINT arrows = state.arrows;
+    bool disabled = state.disabled;
     {
         const UserGuard guard(UserLock());
         Window* window = FindWindowObject(handle);
@@ -57,21 +74,19 @@ int ChangeWindowBar(HWND handle, bool vertical, const SCROLLINFO& info, bool red
         if (!own) {
             return 0;
         }
-        arrows = own->arrows;
+        disabled = own->disabled;
         ApplyInfo(*own, info);
         if (info.fMask & (SIF_RANGE | SIF_PAGE | SIF_DISABLENOSCROLL)) {
             // A bar that had nothing to scroll comes to life again.
-            own->arrows = CanScroll(*own)                    ? UINT{ESB_ENABLE_BOTH}
-                          : info.fMask & SIF_DISABLENOSCROLL ? UINT{ESB_DISABLE_BOTH}
-                                                             : own->arrows;
+            own->disabled = !CanScroll(*own) && (info.fMask & SIF_DISABLENOSCROLL || own->disabled);
         }
         state = *own;
     }
     if (info.fMask & (SIF_RANGE | SIF_PAGE | SIF_DISABLENOSCROLL)) {
-        ShowScrollBar(handle, bar.kind, CanScroll(state) || (info.fMask & SIF_DISABLENOSCROLL));
+        ShowWindowBar(handle, bar.kind, CanScroll(state) || (info.fMask & SIF_DISABLENOSCROLL));
     }
     BarState now;
-    if (shown && redraw && ReadBar(bar, &now, &after) && (!SameLayout(before, after) || arrows != now.arrows)) {
+    if (shown && redraw && ReadBar(bar, &now, &after) && (!SameLayout(before, after) || disabled != now.disabled)) {
         PaintBar(bar);
     }
     return state.position;
@@ -134,7 +149,7 @@ void Draw(const Bar& bar, HDC context, BarPart pressed) {
     const HWND parent = bar.kind == SB_CTL ? GetParent(bar.window) : nullptr;
     const int saved = SaveDC(context);
     if (bar.kind == SB_CTL && (GetWindowLongA(bar.window, GWL_STYLE) & WS_DISABLED)) {
-        state.arrows = ESB_DISABLE_BOTH;
+        state.disabled = true;
         layout.thumb = RECT{};
     }
     DrawBar(context, layout, state, pressed, ShaftBrush(parent ? parent : bar.window, context, bar.window));
@@ -251,104 +266,4 @@ int WINAPI GetScrollPos(HWND handle, int bar) {
     }
     SCROLLINFO info{sizeof info, SIF_POS, 0, 0, 0, 0, 0};
     return GetScrollInfo(handle, bar, &info) ? info.nPos : 0;
-}
-
-BOOL WINAPI SetScrollRange(HWND handle, int bar, int low, int high, BOOL redraw) {
-    if (!FindWindowObject(handle)) {
-        return FALSE;
-    }
-    if (high < low || static_cast<LONGLONG>(high) - low > 0x7FFFFFFF) {
-        SetLastError(ERROR_INVALID_SCROLLBAR_RANGE);
-        return FALSE;
-    }
-    if (bar == SB_CTL) {
-        SendMessageA(handle, redraw ? SBM_SETRANGEREDRAW : SBM_SETRANGE, static_cast<WPARAM>(low), high);
-        return TRUE;
-    }
-    const SCROLLINFO info{sizeof info, SIF_RANGE, low, high, 0, 0, 0};
-    SetScrollInfo(handle, bar, &info, redraw);
-    return TRUE;
-}
-
-BOOL WINAPI GetScrollRange(HWND handle, int bar, LPINT low, LPINT high) {
-    if (!low || !high) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return FALSE;
-    }
-    *low = *high = 0;
-    if (bar == SB_CTL) {
-        if (!FindWindowObject(handle)) {
-            return FALSE;
-        }
-        SendMessageA(handle, SBM_GETRANGE, reinterpret_cast<WPARAM>(low), reinterpret_cast<LPARAM>(high));
-        return TRUE;
-    }
-    SCROLLINFO info{sizeof info, SIF_RANGE, 0, 0, 0, 0, 0};
-    if (!GetScrollInfo(handle, bar, &info)) {
-        return FALSE;
-    }
-    *low = info.nMin;
-    *high = info.nMax;
-    return TRUE;
-}
-
-BOOL WINAPI ShowScrollBar(HWND handle, int bar, BOOL show) {
-    if (!FindWindowObject(handle)) {
-        return FALSE;
-    }
-    if (bar == SB_CTL) {
-        ShowWindow(handle, show ? SW_SHOW : SW_HIDE);
-        return TRUE;
-    }
-    const DWORD wanted = bar == SB_HORZ   ? WS_HSCROLL
-                         : bar == SB_VERT ? WS_VSCROLL
-                         : bar == SB_BOTH ? WS_HSCROLL | WS_VSCROLL
-                                          : 0;
-    {
-        const UserGuard guard(UserLock());
-        Window* window = FindWindowObject(handle);
-        if (!window || !wanted) {
-            return FALSE;
-        }
-        const DWORD style = show ? window->style | wanted : window->style & ~wanted;
-        if (!StateOf(window, true, true) || style == window->style) {
-            return TRUE;
-        }
-        window->style = style;
-    }
-    SetWindowPos(handle, nullptr, 0, 0, 0, 0,
-                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
-    return TRUE;
-}
-
-BOOL WINAPI EnableScrollBar(HWND handle, UINT bar, UINT arrows) {
-    if (!FindWindowObject(handle)) {
-        return FALSE;
-    }
-    arrows &= ESB_DISABLE_BOTH;
-    if (bar == SB_CTL) {
-        return SendMessageA(handle, SBM_ENABLE_ARROWS, arrows, 0) != 0;
-    }
-    bool changed = false;
-    {
-        const UserGuard guard(UserLock());
-        Window* window = FindWindowObject(handle);
-        for (const bool vertical : {false, true}) {
-            if (bar != SB_BOTH && vertical != (bar == SB_VERT)) {
-                continue;
-            }
-            BarState* own = window ? StateOf(window, vertical, false) : nullptr;
-            if (!own) {
-                SetLastError(ERROR_NO_SCROLLBARS);
-                return FALSE;
-            }
-            changed |= own->arrows != arrows;
-            own->arrows = arrows;
-        }
-    }
-    if (changed) {
-        PaintBar({handle, SB_HORZ});
-        PaintBar({handle, SB_VERT});
-    }
-    return changed;
 }

@@ -1,0 +1,363 @@
+// The tree view: items, notifications, selection, keyboard and mouse.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstring>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr char kParentClass[] = "CvTreeParent";
+constexpr int kId = 77;
+
+struct Told {
+    UINT code;
+    UINT action;
+    HTREEITEM before;
+    HTREEITEM item;
+    LPARAM param;
+};
+
+class TreeViewTest : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        InitCommonControls();
+        WNDCLASSA record{};
+        record.lpfnWndProc = ParentProcedure;
+        record.hInstance = GetModuleHandleA(nullptr);
+        record.lpszClassName = kParentClass;
+        if (!GetClassInfoA(record.hInstance, kParentClass, &record)) {
+            ASSERT_NE(0, RegisterClassA(&record));
+        }
+        current_ = this;
+        parent_ = CreateWindowExA(0, kParentClass, "", WS_POPUP | WS_VISIBLE, 20, 20, 220, 180, nullptr, nullptr,
+                                  GetModuleHandleA(nullptr), nullptr);
+        tree_ = CreateWindowExA(0, WC_TREEVIEWA, "",
+                                WS_CHILD | WS_VISIBLE | TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT, 0, 0, 200, 160,
+                                parent_, reinterpret_cast<HMENU>(INT_PTR{kId}), GetModuleHandleA(nullptr), nullptr);
+        ASSERT_NE(nullptr, tree_);
+    }
+    void TearDown() override {
+        DestroyWindow(parent_);
+        current_ = nullptr;
+    }
+
+    LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+        return SendMessageA(tree_, message, wParam, lParam);
+    }
+    HTREEITEM Add(std::string text, HTREEITEM parent = TVI_ROOT, HTREEITEM after = TVI_LAST, LPARAM param = 0,
+                  int children = 0) {
+        TVINSERTSTRUCTA insert{};
+        insert.hParent = parent;
+        insert.hInsertAfter = after;
+        insert.item.mask = TVIF_TEXT | TVIF_PARAM | TVIF_CHILDREN;
+        insert.item.pszText = text.data();
+        insert.item.lParam = param;
+        insert.item.cChildren = children;
+        return reinterpret_cast<HTREEITEM>(Send(TVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&insert)));
+    }
+    HTREEITEM Next(WPARAM code, HTREEITEM item = nullptr) {
+        return reinterpret_cast<HTREEITEM>(Send(TVM_GETNEXTITEM, code, reinterpret_cast<LPARAM>(item)));
+    }
+    HTREEITEM Caret() {
+        return Next(TVGN_CARET);
+    }
+    std::string Text(HTREEITEM handle) {
+        char text[MAX_PATH] = "?";
+        TVITEMA item{};
+        item.mask = TVIF_TEXT;
+        item.hItem = handle;
+        item.pszText = text;
+        item.cchTextMax = sizeof text;
+        return Send(TVM_GETITEMA, 0, reinterpret_cast<LPARAM>(&item)) ? text : "(none)";
+    }
+    UINT State(HTREEITEM handle) {
+        TVITEMA item{};
+        item.mask = TVIF_STATE;
+        item.stateMask = 0xFF;
+        item.hItem = handle;
+        return Send(TVM_GETITEMA, 0, reinterpret_cast<LPARAM>(&item)) ? item.state : 0;
+    }
+    std::string Children(HTREEITEM parent) {
+        std::string texts;
+        for (HTREEITEM item = Next(TVGN_CHILD, parent); item; item = Next(TVGN_NEXT, item)) {
+            texts += Text(item) + ' ';
+        }
+        return texts;
+    }
+    bool Expand(HTREEITEM item, WPARAM code = TVE_EXPAND) {
+        return Send(TVM_EXPAND, code, reinterpret_cast<LPARAM>(item)) != 0;
+    }
+    void Select(HTREEITEM item) {
+        Send(TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(item));
+    }
+    void Key(WPARAM key) {
+        Send(WM_KEYDOWN, key, 1);
+    }
+    RECT Rect(HTREEITEM item, bool label) {
+        RECT rect{};
+        std::memcpy(&rect, &item, sizeof item);  // the message takes the item where it puts the rectangle
+        return Send(TVM_GETITEMRECT, label, reinterpret_cast<LPARAM>(&rect)) ? rect : RECT{};
+    }
+    void Click(POINT at) {
+        // Elsewhere the press itself waits for its end, to see whether it becomes a drag: the end is in the queue before it.
+        PostMessageA(tree_, WM_LBUTTONUP, 0, MAKELPARAM(at.x, at.y));
+        Send(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(at.x, at.y));
+        MSG message;
+        while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+            DispatchMessageA(&message);
+        }
+    }
+    std::vector<Told> ToldOf(UINT code) {
+        std::vector<Told> found;
+        for (const Told& one : told_) {
+            if (one.code == code) {
+                found.push_back(one);
+            }
+        }
+        return found;
+    }
+
+    HWND parent_ = nullptr;
+    HWND tree_ = nullptr;
+    std::vector<Told> told_;
+    std::function<LRESULT(NMHDR*)> answer_;
+
+  private:
+    static LRESULT CALLBACK ParentProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        if (message == WM_NOTIFY && current_) {
+            auto* header = reinterpret_cast<NMHDR*>(lParam);
+            const auto* tree = reinterpret_cast<NMTREEVIEWA*>(lParam);
+            switch (header->code) {
+                case TVN_SELCHANGEDA:
+                case TVN_ITEMEXPANDINGA:
+                    current_->told_.push_back(
+                        {header->code, tree->action, tree->itemOld.hItem, tree->itemNew.hItem, tree->itemNew.lParam});
+                    break;
+                case TVN_DELETEITEMA:
+                    current_->told_.push_back({header->code, 0, tree->itemOld.hItem, nullptr, tree->itemOld.lParam});
+                    break;
+                default:
+                    break;
+            }
+            return current_->answer_ ? current_->answer_(header) : 0;
+        }
+        return DefWindowProcA(window, message, wParam, lParam);
+    }
+    static TreeViewTest* current_;
+};
+
+TreeViewTest* TreeViewTest::current_ = nullptr;
+
+TEST_F(TreeViewTest, ItemsStandWhereTheyWerePut) {
+    const HTREEITEM b = Add("b");
+    const HTREEITEM d = Add("d");
+    Add("c", TVI_ROOT, b);
+    const HTREEITEM child = Add("y", d);
+    Add("z", d);
+    EXPECT_EQ("b c d ", Children(TVI_ROOT));
+    EXPECT_EQ("y z ", Children(d));
+    EXPECT_EQ(5, Send(TVM_GETCOUNT));
+    EXPECT_EQ(d, Next(TVGN_PARENT, child));
+    EXPECT_EQ(nullptr, Next(TVGN_PARENT, d));
+    EXPECT_EQ("b", Text(Next(TVGN_ROOT)));
+    // Only what is not hidden in a closed item counts as visible.
+    EXPECT_EQ(nullptr, Next(TVGN_NEXTVISIBLE, d));
+    EXPECT_TRUE(Expand(d));
+    EXPECT_EQ(child, Next(TVGN_NEXTVISIBLE, d));
+    EXPECT_EQ(d, Next(TVGN_PREVIOUSVISIBLE, child));
+}
+
+TEST_F(TreeViewTest, ChildrenAreSortedByText) {
+    for (const char* text : {"beta", "Alpha", "gamma"}) {
+        Add(text);
+    }
+    EXPECT_TRUE(Send(TVM_SORTCHILDREN, 0, reinterpret_cast<LPARAM>(TVI_ROOT)));
+    EXPECT_EQ("Alpha beta gamma ", Children(TVI_ROOT));
+}
+
+TEST_F(TreeViewTest, ChildrenMayComeWhenTheItemIsOpened) {
+    EXPECT_FALSE(Expand(Add("empty")));
+    const HTREEITEM folder = Add("folder", TVI_ROOT, TVI_LAST, 5, 1);
+    answer_ = [&](NMHDR* header) -> LRESULT {
+        if (header->code == TVN_ITEMEXPANDINGA && !Next(TVGN_CHILD, folder)) {
+            Add("child", folder);
+        }
+        return 0;
+    };
+    EXPECT_TRUE(Expand(folder));
+    ASSERT_EQ(1U, ToldOf(TVN_ITEMEXPANDINGA).size());
+    EXPECT_EQ(5, ToldOf(TVN_ITEMEXPANDINGA)[0].param);
+    EXPECT_EQ(UINT{TVIS_EXPANDED | TVIS_EXPANDEDONCE}, State(folder) & (TVIS_EXPANDED | TVIS_EXPANDEDONCE));
+    // A program that opens it again is not told; the user's own opening is told each time.
+    EXPECT_TRUE(Expand(folder, TVE_COLLAPSE));
+    EXPECT_TRUE(Expand(folder));
+    EXPECT_EQ(1U, ToldOf(TVN_ITEMEXPANDINGA).size());
+    SetFocus(tree_);
+    Select(folder);
+    Key(VK_LEFT);
+    Key(VK_RIGHT);
+    EXPECT_EQ(3U, ToldOf(TVN_ITEMEXPANDINGA).size());
+}
+
+TEST_F(TreeViewTest, TheApplicationMayRefuse) {
+    const HTREEITEM a = Add("a");
+    Add("child", a);
+    answer_ = [](NMHDR* header) -> LRESULT { return header->code == TVN_ITEMEXPANDINGA; };
+    Expand(a);
+    EXPECT_EQ(0U, State(a) & TVIS_EXPANDED);
+}
+
+TEST_F(TreeViewTest, SelectionTellsWhoMadeIt) {
+    const HTREEITEM a = Add("a");
+    const HTREEITEM b = Add("b");
+    SetFocus(tree_);
+    Select(a);
+    told_.clear();
+    Select(b);
+    Select(b);
+    Key(VK_UP);
+    const RECT label = Rect(b, true);
+    ASSERT_GT(label.right, label.left);
+    Click({(label.left + label.right) / 2, (label.top + label.bottom) / 2});
+    const auto changes = ToldOf(TVN_SELCHANGEDA);
+    ASSERT_EQ(3U, changes.size());
+    EXPECT_EQ(UINT{TVC_UNKNOWN}, changes[0].action);
+    EXPECT_EQ(a, changes[0].before);
+    EXPECT_EQ(b, changes[0].item);
+    EXPECT_EQ(UINT{TVC_BYKEYBOARD}, changes[1].action);
+    EXPECT_EQ(UINT{TVC_BYMOUSE}, changes[2].action);
+    EXPECT_EQ(b, Caret());
+    EXPECT_EQ(0U, State(a) & TVIS_SELECTED);
+    EXPECT_NE(0U, State(b) & TVIS_SELECTED);
+    Select(nullptr);
+    EXPECT_EQ(nullptr, Caret());
+}
+
+TEST_F(TreeViewTest, AClosedItemTakesTheSelectionFromItsChildren) {
+    const HTREEITEM a = Add("a");
+    const HTREEITEM child = Add("child", a);
+    // To be selected an item must be seen.
+    Select(child);
+    EXPECT_NE(0U, State(a) & TVIS_EXPANDED);
+    EXPECT_TRUE(Expand(a, TVE_COLLAPSE));
+    EXPECT_EQ(a, Caret());
+    EXPECT_FALSE(Expand(a, TVE_COLLAPSE));
+}
+
+TEST_F(TreeViewTest, EachItemThatGoesIsTold) {
+    const HTREEITEM a = Add("a", TVI_ROOT, TVI_LAST, 1);
+    const HTREEITEM child = Add("child", a, TVI_LAST, 2);
+    Add("grandchild", child, TVI_LAST, 3);
+    Add("b", TVI_ROOT, TVI_LAST, 4);
+    Select(a);
+    EXPECT_TRUE(Send(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(a)));
+    std::vector<LPARAM> gone;
+    for (const Told& one : ToldOf(TVN_DELETEITEMA)) {
+        gone.push_back(one.param);
+    }
+    std::sort(gone.begin(), gone.end());
+    EXPECT_EQ((std::vector<LPARAM>{1, 2, 3}), gone);
+    EXPECT_EQ("b", Text(Caret()));
+    EXPECT_EQ(1, Send(TVM_GETCOUNT));
+    told_.clear();
+    DestroyWindow(tree_);
+    ASSERT_EQ(1U, ToldOf(TVN_DELETEITEMA).size());
+    EXPECT_EQ(4, ToldOf(TVN_DELETEITEMA)[0].param);
+}
+
+TEST_F(TreeViewTest, KeysWalkThroughTheRows) {
+    const HTREEITEM a = Add("a");
+    const HTREEITEM child = Add("child", a);
+    const HTREEITEM b = Add("b");
+    SetFocus(tree_);
+    Select(a);
+    Key(VK_DOWN);
+    EXPECT_EQ(b, Caret());
+    Key(VK_HOME);
+    EXPECT_EQ(a, Caret());
+    Key(VK_RIGHT);
+    EXPECT_EQ(a, Caret());
+    Key(VK_RIGHT);
+    EXPECT_EQ(child, Caret());
+    Key(VK_END);
+    EXPECT_EQ(b, Caret());
+    Key(VK_UP);
+    EXPECT_EQ(child, Caret());
+    Key(VK_LEFT);
+    EXPECT_EQ(a, Caret());
+    Key(VK_SUBTRACT);
+    EXPECT_EQ(0U, State(a) & TVIS_EXPANDED);
+    Key(VK_ADD);
+    EXPECT_NE(0U, State(a) & TVIS_EXPANDED);
+    Select(child);
+    Key(VK_BACK);
+    EXPECT_EQ(a, Caret());
+}
+
+TEST_F(TreeViewTest, TypingFindsAName) {
+    const HTREEITEM alpha = Add("alpha");
+    Add("beta");
+    const HTREEITEM gamma = Add("Gamma");
+    const HTREEITEM garden = Add("garden");
+    SetFocus(tree_);
+    Select(alpha);
+    Send(WM_CHAR, 'g', 1);
+    EXPECT_EQ(gamma, Caret());
+    Send(WM_CHAR, 'a', 1);
+    EXPECT_EQ(gamma, Caret());
+    Send(WM_CHAR, 'r', 1);
+    EXPECT_EQ(garden, Caret());
+}
+
+TEST_F(TreeViewTest, TheMouseFindsButtonsAndLabels) {
+    const HTREEITEM a = Add("a");
+    Add("child", a);
+    const RECT label = Rect(a, true);
+    const RECT row = Rect(a, false);
+    EXPECT_EQ(0, row.left);
+    Click({label.left + 3, (label.top + label.bottom) / 2});
+    EXPECT_EQ(a, Caret());
+    Click({10, row.bottom + 100});
+    EXPECT_EQ(a, Caret());
+    // The button lies somewhere in the indent before the item.
+    POINT button{0, (row.top + row.bottom) / 2};
+    while (button.x < label.left && !(State(a) & TVIS_EXPANDED)) {
+        ++button.x;
+        Click(button);
+    }
+    ASSERT_LT(button.x, label.left);
+    Click(button);
+    EXPECT_EQ(0U, State(a) & TVIS_EXPANDED);
+}
+
+TEST_F(TreeViewTest, TenThousandItemsScroll) {
+    Send(WM_SETREDRAW, FALSE);
+    HTREEITEM last = nullptr;
+    for (int i = 0; i < 10000; ++i) {
+        last = Add("item " + std::to_string(i));
+    }
+    Send(WM_SETREDRAW, TRUE);
+    UpdateWindow(tree_);
+    const HTREEITEM first = Next(TVGN_ROOT);
+    EXPECT_EQ(first, Next(TVGN_FIRSTVISIBLE));
+    Select(last);
+    EXPECT_NE(first, Next(TVGN_FIRSTVISIBLE));
+    const RECT row = Rect(last, false);
+    RECT client;
+    GetClientRect(tree_, &client);
+    EXPECT_GE(row.top, 0);
+    EXPECT_LE(row.bottom, client.bottom);
+    Send(WM_VSCROLL, SB_TOP);
+    EXPECT_EQ(first, Next(TVGN_FIRSTVISIBLE));
+    Send(WM_VSCROLL, SB_LINEDOWN);
+    EXPECT_EQ("item 1", Text(Next(TVGN_FIRSTVISIBLE)));
+}
+
+}  // namespace

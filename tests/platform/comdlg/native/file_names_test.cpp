@@ -1,0 +1,71 @@
+// What is typed in the open-file dialog, and what comes back, as text.
+#include "comdlg/names.h"
+
+#include <gtest/gtest.h>
+
+using namespace platform::comdlg;
+
+namespace {
+
+using Names = std::vector<std::string>;
+
+TEST(FileNames, FiltersArePairsUpToAnEmptyText) {
+    const auto filters = ReadFilters("Texts\0*.txt;*.doc\0All\0*.*\0\0rest");
+    ASSERT_EQ(2U, filters.size());
+    EXPECT_EQ("Texts", filters[0].name);
+    EXPECT_EQ("*.txt;*.doc", filters[0].patterns);
+    EXPECT_TRUE(ReadFilters("\0").empty());
+    EXPECT_TRUE(ReadFilters(nullptr).empty());
+    EXPECT_TRUE(Matches("Notes.TXT", " *.doc ; *.txt"));
+    EXPECT_FALSE(Matches("notes.txt.gz", "*.doc;*.txt"));
+    EXPECT_TRUE(Matches("no extension", "*.*"));
+    EXPECT_FALSE(Matches("x", ""));
+}
+
+TEST(FileNames, NamesAreReadAsPeopleTypeThem) {
+    EXPECT_EQ(Names({"my file.txt"}), SplitNames("  my file.txt "));
+    EXPECT_EQ(Names({"a b.txt", "c.txt"}), SplitNames("\"a b.txt\" \"c.txt\""));
+    EXPECT_EQ(Names({"my file.txt"}), SplitNames("\"my file\".txt"));
+    EXPECT_EQ(Names({"open end"}), SplitNames("\"open end"));
+    EXPECT_TRUE(SplitNames(" \"\" ").empty());
+    EXPECT_EQ("a.txt", JoinNames({"a.txt"}));
+    EXPECT_EQ(Names({"a b", "c"}), SplitNames(JoinNames({"a b", "c"})));
+}
+
+TEST(FileNames, PathsAreCompleted) {
+    EXPECT_EQ("C:\\dir\\a.txt", FullPath("C:\\dir", "a.txt"));
+    EXPECT_EQ("C:\\a.txt", FullPath("C:\\", "a.txt"));
+    EXPECT_EQ("C:\\top", FullPath("C:\\dir\\sub", "\\top"));
+    EXPECT_EQ("C:\\dir", FullPath("C:\\dir\\sub", ".."));
+    EXPECT_EQ("C:\\", FullPath("C:\\dir", "..\\..\\.."));
+    EXPECT_EQ("D:\\x\\y", FullPath("C:\\dir", "d:/x//./y"));
+    EXPECT_EQ("txt", ExtensionOf("C:\\a.b\\c.txt"));
+    EXPECT_EQ("", ExtensionOf("C:\\a.b\\c"));
+}
+
+TEST(FileNames, ChoicesAreWrittenWithTheirOffsets) {
+    char buffer[40];
+    char title[20];
+    OPENFILENAMEA record{};
+    record.lpstrFile = buffer;
+    record.nMaxFile = sizeof buffer;
+    record.lpstrFileTitle = title;
+    record.nMaxFileTitle = sizeof title;
+    EXPECT_EQ(0U, WriteChoice(record, {"C:\\dir", {"a.txt"}}));
+    EXPECT_STREQ("C:\\dir\\a.txt", buffer);
+    EXPECT_STREQ("a.txt", title);
+    EXPECT_EQ(7, record.nFileOffset);
+    EXPECT_EQ(9, record.nFileExtension);
+
+    record.Flags = OFN_ALLOWMULTISELECT;
+    EXPECT_EQ(0U, WriteChoice(record, {"C:\\dir", {"a.txt", "b.txt"}}));
+    EXPECT_EQ(std::string("C:\\dir\0a.txt\0b.txt\0\0", 20), std::string(buffer, 20));
+    EXPECT_EQ(7, record.nFileOffset);
+    // One byte less than is needed changes nothing.
+    record.nMaxFile = 19;
+    buffer[0] = '?';
+    EXPECT_EQ(20U, WriteChoice(record, {"C:\\dir", {"a.txt", "b.txt"}}));
+    EXPECT_EQ('?', buffer[0]);
+}
+
+}  // namespace

@@ -1,0 +1,147 @@
+#include "tests/platform/support/gdi_canvas.h"
+
+#include <cstring>
+
+namespace {
+
+TEST(GdiObjects, StaleHandlesAreRefused) {
+    const HBRUSH brush = CreateSolidBrush(RGB(1, 2, 3));
+    ASSERT_NE(nullptr, brush);
+    EXPECT_TRUE(DeleteObject(brush));
+    EXPECT_FALSE(DeleteObject(brush));
+    LOGBRUSH logical;
+    EXPECT_EQ(0, GetObjectA(brush, sizeof(logical), &logical));
+    Canvas canvas;
+    EXPECT_EQ(nullptr, SelectObject(canvas, brush));
+}
+
+TEST(GdiObjects, StaleContextsAreRefused) {
+    const HDC dc = CreateCompatibleDC(nullptr);
+    ASSERT_TRUE(DeleteDC(dc));
+    SetLastError(0);
+    EXPECT_FALSE(DeleteDC(dc));
+    EXPECT_EQ(DWORD{ERROR_INVALID_HANDLE}, GetLastError());
+    EXPECT_EQ(COLORREF{CLR_INVALID}, SetTextColor(dc, 0));
+    EXPECT_EQ(0, SetBkMode(dc, OPAQUE));
+    EXPECT_FALSE(BitBlt(dc, 0, 0, 1, 1, nullptr, 0, 0, BLACKNESS));
+    EXPECT_EQ(0, SaveDC(dc));
+}
+
+TEST(GdiObjects, DescribeThemselves) {
+    const HPEN pen = CreatePen(PS_DASH, 1, RGB(10, 20, 30));
+    LOGPEN logicalPen{};
+    EXPECT_EQ(int{sizeof(logicalPen)}, GetObjectA(pen, sizeof(logicalPen), &logicalPen));
+    EXPECT_EQ(UINT{PS_DASH}, logicalPen.lopnStyle);
+    EXPECT_EQ(RGB(10, 20, 30), logicalPen.lopnColor);
+    DeleteObject(pen);
+
+    const HBRUSH brush = CreateSolidBrush(RGB(1, 2, 3));
+    LOGBRUSH logicalBrush{};
+    EXPECT_EQ(int{sizeof(logicalBrush)}, GetObjectA(brush, 0, nullptr));
+    EXPECT_EQ(int{sizeof(logicalBrush)}, GetObjectA(brush, sizeof(logicalBrush), &logicalBrush));
+    EXPECT_EQ(UINT{BS_SOLID}, logicalBrush.lbStyle);
+    EXPECT_EQ(RGB(1, 2, 3), logicalBrush.lbColor);
+    DeleteObject(brush);
+
+    const HFONT font =
+        CreateFontA(-11, 0, 0, 0, FW_BOLD, TRUE, FALSE, FALSE, DEFAULT_CHARSET, 0, 0, 0, 0, "MS Sans Serif");
+    LOGFONTA logicalFont{};
+    EXPECT_NE(0, GetObjectA(font, sizeof(logicalFont), &logicalFont));
+    EXPECT_EQ(-11, logicalFont.lfHeight);
+    EXPECT_EQ(FW_BOLD, logicalFont.lfWeight);
+    EXPECT_STREQ("MS Sans Serif", logicalFont.lfFaceName);
+    DeleteObject(font);
+}
+
+TEST(GdiObjects, StockObjectsOutliveDeletion) {
+    const HGDIOBJ white = GetStockObject(WHITE_BRUSH);
+    EXPECT_TRUE(DeleteObject(white));
+    EXPECT_EQ(white, GetStockObject(WHITE_BRUSH));
+    EXPECT_EQ(nullptr, GetStockObject(-1));
+    EXPECT_EQ(nullptr, GetStockObject(1000));
+}
+
+TEST(GdiObjects, MemoryContextsStartWithTheDefaults) {
+    const HDC dc = CreateCompatibleDC(nullptr);
+    const HBITMAP other = CreateBitmap(2, 2, 1, 1, nullptr);
+    const HGDIOBJ first = SelectObject(dc, other);
+    BITMAP bitmap{};
+    ASSERT_NE(0, GetObjectA(first, sizeof(bitmap), &bitmap));
+    EXPECT_EQ(1, bitmap.bmWidth);
+    EXPECT_EQ(1, bitmap.bmHeight);
+    EXPECT_EQ(1, bitmap.bmBitsPixel);
+    SelectObject(dc, first);
+    DeleteObject(other);
+    EXPECT_EQ(GetStockObject(BLACK_PEN), SelectObject(dc, GetStockObject(NULL_PEN)));
+    EXPECT_EQ(GetStockObject(WHITE_BRUSH), SelectObject(dc, GetStockObject(NULL_BRUSH)));
+    EXPECT_EQ(GetStockObject(SYSTEM_FONT), SelectObject(dc, GetStockObject(ANSI_VAR_FONT)));
+    EXPECT_EQ(RGB(0, 0, 0), GetTextColor(dc));
+    EXPECT_EQ(RGB(255, 255, 255), GetBkColor(dc));
+    EXPECT_EQ(OPAQUE, GetBkMode(dc));
+    DeleteDC(dc);
+}
+
+TEST(GdiObjects, ABitmapIsSelectedOnceAndGivenBack) {
+    const HDC first = CreateCompatibleDC(nullptr);
+    const HDC second = CreateCompatibleDC(nullptr);
+    const HBITMAP bitmap = CreateBitmap(4, 4, 1, 1, nullptr);
+    const HGDIOBJ previous = SelectObject(first, bitmap);
+    ASSERT_NE(nullptr, previous);
+    EXPECT_EQ(nullptr, SelectObject(second, bitmap));
+    EXPECT_EQ(bitmap, SelectObject(first, previous));
+    const HGDIOBJ other = SelectObject(second, bitmap);
+    EXPECT_NE(nullptr, other);
+    SelectObject(second, other);
+    EXPECT_TRUE(DeleteObject(bitmap));
+    DeleteDC(first);
+    DeleteDC(second);
+}
+
+TEST(GdiObjects, SavedStatesNest) {
+    Canvas canvas;
+    SetTextColor(canvas, RGB(1, 1, 1));
+    const int outer = SaveDC(canvas);
+    EXPECT_EQ(1, outer);
+    SetTextColor(canvas, RGB(2, 2, 2));
+    SelectObject(canvas, GetStockObject(WHITE_PEN));
+    IntersectClipRect(canvas, 0, 0, 5, 5);
+    EXPECT_EQ(2, SaveDC(canvas));
+    SetTextColor(canvas, RGB(3, 3, 3));
+    EXPECT_TRUE(RestoreDC(canvas, -1));
+    EXPECT_EQ(RGB(2, 2, 2), GetTextColor(canvas));
+    EXPECT_EQ(COLORREF{CLR_INVALID}, GetPixel(canvas, 5, 5)) << "clipped still";
+    EXPECT_EQ(2, SaveDC(canvas));
+    EXPECT_FALSE(RestoreDC(canvas, 5));
+    EXPECT_TRUE(RestoreDC(canvas, outer));
+    EXPECT_EQ(RGB(1, 1, 1), GetTextColor(canvas));
+    EXPECT_EQ(GetStockObject(BLACK_PEN), SelectObject(canvas, GetStockObject(WHITE_PEN)));
+    EXPECT_EQ(RGB(255, 255, 255), GetPixel(canvas, 63, 47)) << "nothing is clipped any more";
+    EXPECT_FALSE(RestoreDC(canvas, -1));
+}
+
+TEST(GdiObjects, SystemColourBrushes) {
+    const HBRUSH brush = GetSysColorBrush(COLOR_BTNFACE);
+    ASSERT_NE(nullptr, brush);
+    EXPECT_EQ(brush, GetSysColorBrush(COLOR_BTNFACE));
+    EXPECT_EQ(nullptr, GetSysColorBrush(1000));
+    Canvas canvas;
+    const RECT rect{0, 0, 4, 4};
+    FillRect(canvas, &rect, brush);
+    EXPECT_EQ(PixelOf(GetSysColor(COLOR_BTNFACE)), canvas.At(3, 3));
+    FillRect(canvas, &rect, reinterpret_cast<HBRUSH>(COLOR_HIGHLIGHT + 1));
+    EXPECT_EQ(PixelOf(GetSysColor(COLOR_HIGHLIGHT)), canvas.At(0, 0));
+}
+
+TEST(GdiObjects, WithoutABrushTheSelectedOneFills) {
+    Canvas canvas;
+    const HBRUSH red = CreateSolidBrush(RGB(255, 0, 0));
+    const HGDIOBJ previous = SelectObject(canvas, red);
+    const RECT rect{1, 1, 4, 4};
+    EXPECT_NE(0, FillRect(canvas, &rect, nullptr));
+    EXPECT_EQ(9, canvas.Count(canvas.All(), 0xFF0000));
+    SelectObject(canvas, previous);
+    DeleteObject(red);
+    EXPECT_EQ(0, FrameRect(canvas, &rect, nullptr));
+}
+
+}  // namespace

@@ -1,0 +1,130 @@
+// What is fixed on this layer and varies elsewhere: the colours of 1995, the measures of the dialog font, and
+// documented answers that not every host gives.
+#include "tests/platform/support/gdi_canvas.h"
+
+namespace {
+
+TEST(GdiLook, ColoursOf1995) {
+    EXPECT_EQ(RGB(192, 192, 192), GetSysColor(COLOR_BTNFACE));
+    EXPECT_EQ(RGB(128, 128, 128), GetSysColor(COLOR_BTNSHADOW));
+    EXPECT_EQ(RGB(255, 255, 255), GetSysColor(COLOR_BTNHIGHLIGHT));
+    EXPECT_EQ(RGB(0, 0, 0), GetSysColor(COLOR_3DDKSHADOW));
+    EXPECT_EQ(RGB(223, 223, 223), GetSysColor(COLOR_3DLIGHT));
+    EXPECT_EQ(RGB(0, 0, 128), GetSysColor(COLOR_HIGHLIGHT));
+    EXPECT_EQ(RGB(0, 128, 128), GetSysColor(COLOR_BACKGROUND));
+    EXPECT_EQ(DWORD{0}, GetSysColor(-1));
+}
+
+TEST(GdiLook, TheDialogFontMeasuresSixByThirteen) {
+    const HDC dc = CreateCompatibleDC(nullptr);
+    const HFONT eight = CreateFontA(-11, 0, 0, 0, FW_NORMAL, 0, 0, 0, 0, 0, 0, 0, 0, "MS Sans Serif");
+    const HFONT helv = CreateFontA(13, 0, 0, 0, FW_NORMAL, 0, 0, 0, 0, 0, 0, 0, 0, "Helv");
+    for (const HGDIOBJ font : {GetStockObject(DEFAULT_GUI_FONT), HGDIOBJ{eight}, HGDIOBJ{helv}}) {
+        SelectObject(dc, font);
+        TEXTMETRICA metrics;
+        ASSERT_TRUE(GetTextMetricsA(dc, &metrics));
+        EXPECT_EQ(13, metrics.tmHeight);
+        EXPECT_EQ(11, metrics.tmAscent);
+        EXPECT_EQ(2, metrics.tmDescent);
+        SIZE size;
+        GetTextExtentPoint32A(dc, "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz", 52, &size);
+        EXPECT_EQ(6, (size.cx / 26 + 1) / 2);
+    }
+    DeleteDC(dc);
+    EXPECT_TRUE(DeleteObject(eight));
+    EXPECT_TRUE(DeleteObject(helv));
+}
+
+TEST(GdiLook, ASelectedObjectIsNotDeleted) {
+    const HDC dc = CreateCompatibleDC(nullptr);
+    const HBITMAP bitmap = CreateBitmap(4, 4, 1, 1, nullptr);
+    const HGDIOBJ previous = SelectObject(dc, bitmap);
+    EXPECT_FALSE(DeleteObject(bitmap));
+    SaveDC(dc);
+    SelectObject(dc, previous);
+    EXPECT_FALSE(DeleteObject(bitmap));  // the saved state holds it
+    RestoreDC(dc, -1);
+    SelectObject(dc, previous);
+    EXPECT_TRUE(DeleteObject(bitmap));
+    DeleteDC(dc);
+}
+
+TEST(GdiLook, BytesFollowTheCodePage) {
+    const HDC dc = CreateCompatibleDC(nullptr);
+    SelectObject(dc, GetStockObject(DEFAULT_GUI_FONT));
+    SIZE wide{};
+    SIZE narrow{};
+    // In code page 1252 this byte is a letter with a diaeresis, as wide as the letter without.
+    ASSERT_TRUE(GetTextExtentPoint32A(dc, "\xE4", 1, &wide));
+    ASSERT_TRUE(GetTextExtentPoint32A(dc, "a", 1, &narrow));
+    EXPECT_EQ(narrow.cx, wide.cx);
+    DeleteDC(dc);
+}
+
+TEST(GdiLook, ShrinkingMixesByTheMode) {
+    Canvas from(2, 1);
+    from.Put(0, 0, 0xFF0000);
+    from.Put(1, 0, 0x00FF00);
+    Canvas to(1, 1);
+    SetStretchBltMode(to, BLACKONWHITE);
+    StretchBlt(to, 0, 0, 1, 1, from, 0, 0, 2, 1, SRCCOPY);
+    EXPECT_EQ(0x000000u, to.At(0, 0));
+    SetStretchBltMode(to, WHITEONBLACK);
+    StretchBlt(to, 0, 0, 1, 1, from, 0, 0, 2, 1, SRCCOPY);
+    EXPECT_EQ(0xFFFF00u, to.At(0, 0));
+    SetStretchBltMode(to, HALFTONE);
+    StretchBlt(to, 0, 0, 1, 1, from, 0, 0, 2, 1, SRCCOPY);
+    EXPECT_EQ(0x808000u, to.At(0, 0));
+}
+
+TEST(GdiLook, PixelsOutsideTheClipRegionAreNone) {
+    Canvas canvas;
+    IntersectClipRect(canvas, 3, 3, 6, 6);
+    EXPECT_EQ(COLORREF{CLR_INVALID}, GetPixel(canvas, 2, 3));
+    EXPECT_EQ(COLORREF{CLR_INVALID}, SetPixel(canvas, 6, 6, 0));
+    EXPECT_EQ(COLORREF{CLR_INVALID}, GetPixel(canvas, 64, 0));
+}
+
+TEST(GdiLook, HiddenPrefixesLeaveNoMark) {
+    Canvas canvas;
+    SetBkMode(canvas, TRANSPARENT);
+    RECT rect = canvas.All();
+    DrawTextA(canvas, "xx", -1, &rect, DT_SINGLELINE);
+    const int plain = canvas.Count(canvas.All(), Canvas::kBlack);
+    canvas.Clear(Canvas::kWhite);
+    DrawTextA(canvas, "x&x", -1, &rect, DT_SINGLELINE | DT_HIDEPREFIX);
+    EXPECT_EQ(plain, canvas.Count(canvas.All(), Canvas::kBlack));
+}
+
+TEST(GdiLook, DamagedHeadersAreRefused) {
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof(info.bmiHeader);
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    info.bmiHeader.biWidth = 0x7FFFFFFF;
+    info.bmiHeader.biHeight = 0x7FFFFFFF;
+    void* bits = &info;
+    EXPECT_EQ(nullptr, CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+    EXPECT_EQ(nullptr, bits);
+    info.bmiHeader.biWidth = 1;
+    info.bmiHeader.biHeight = static_cast<LONG>(0x80000000);
+    EXPECT_EQ(nullptr, CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+    info.bmiHeader.biHeight = 1;
+    info.bmiHeader.biSize = 3;
+    EXPECT_EQ(nullptr, CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+    info.bmiHeader.biSize = sizeof(info.bmiHeader);
+    info.bmiHeader.biPlanes = 4;
+    EXPECT_EQ(nullptr, CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+    EXPECT_EQ(nullptr, CreateBitmap(40000, 40000, 1, 32, nullptr));
+}
+
+TEST(GdiLook, FarCoordinatesOnlyClip) {
+    Canvas canvas;
+    const RECT everything{-0x7FFFFFFF, -0x7FFFFFFF, 0x7FFFFFFF, 0x7FFFFFFF};
+    FillRect(canvas, &everything, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
+    EXPECT_EQ(64 * 48, canvas.Count(canvas.All(), Canvas::kBlack));
+    PatBlt(canvas, 5, 5, 0x7FFFFFFF, 0x7FFFFFFF, WHITENESS);
+    EXPECT_EQ((64 - 5) * (48 - 5), canvas.Count(canvas.All(), Canvas::kWhite));
+}
+
+}  // namespace

@@ -1,0 +1,82 @@
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <cstring>
+#include <vector>
+
+namespace {
+
+TEST(GlobalMemory, GrowsWithZerosAndIsFoundByItsAddress) {
+    HGLOBAL handle = GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, 100);
+    ASSERT_NE(handle, nullptr);
+    auto* bytes = static_cast<unsigned char*>(GlobalLock(handle));
+    ASSERT_NE(bytes, nullptr);
+    for (int i = 0; i < 100; ++i) {
+        ASSERT_EQ(bytes[i], 0);
+    }
+    std::memset(bytes, 0xAB, 100);
+    EXPECT_EQ(GlobalHandle(bytes), handle);
+    EXPECT_FALSE(GlobalUnlock(handle));
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(NO_ERROR));
+    HGLOBAL grown = GlobalReAlloc(handle, 100000, GMEM_ZEROINIT);
+    ASSERT_NE(grown, nullptr);
+    bytes = static_cast<unsigned char*>(GlobalLock(grown));
+    EXPECT_EQ(bytes[99], 0xAB);
+    for (int i = 100; i < 100000; ++i) {
+        ASSERT_EQ(bytes[i], 0) << i;
+    }
+    EXPECT_GE(GlobalSize(grown), 100000u);
+    GlobalUnlock(grown);
+    EXPECT_EQ(GlobalFree(grown), nullptr);
+}
+
+TEST(GlobalMemory, LocksAreCounted) {
+    HGLOBAL handle = GlobalAlloc(GMEM_MOVEABLE, 16);
+    void* first = GlobalLock(handle);
+    EXPECT_EQ(GlobalLock(handle), first);
+    EXPECT_TRUE(GlobalUnlock(handle));
+    EXPECT_FALSE(GlobalUnlock(handle));
+    EXPECT_FALSE(GlobalUnlock(handle));
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_NOT_LOCKED));
+    GlobalFree(handle);
+}
+
+TEST(GlobalMemory, FixedBlocksAreTheirAddress) {
+    HGLOBAL block = GlobalAlloc(GMEM_FIXED | GMEM_ZEROINIT, 32);
+    ASSERT_NE(block, nullptr);
+    EXPECT_EQ(GlobalLock(block), block);
+    EXPECT_EQ(GlobalHandle(block), block);
+    EXPECT_GE(GlobalSize(block), 32u);
+    EXPECT_EQ(GlobalFree(block), nullptr);
+}
+
+TEST(GlobalMemory, ImpossibleSizesFailAndKeepTheBlock) {
+    // Read through a volatile, so that no compiler foresees the failure.
+    volatile SIZE_T impossible = static_cast<SIZE_T>(-1) / 2 - 64;
+    EXPECT_EQ(GlobalAlloc(GMEM_MOVEABLE, impossible), nullptr);
+    HGLOBAL handle = GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, 8);
+    std::memcpy(GlobalLock(handle), "kept", 5);
+    GlobalUnlock(handle);
+    EXPECT_EQ(GlobalReAlloc(handle, impossible, GMEM_ZEROINIT), nullptr);
+    EXPECT_STREQ(static_cast<char*>(GlobalLock(handle)), "kept");
+    GlobalUnlock(handle);
+    GlobalFree(handle);
+}
+
+TEST(MemoryProbe, TellsGoodFromNull) {
+    std::vector<char> good(100000);
+    EXPECT_FALSE(IsBadWritePtr(good.data(), good.size()));
+    EXPECT_FALSE(IsBadWritePtr(nullptr, 0));
+    EXPECT_TRUE(IsBadWritePtr(nullptr, 1));
+    EXPECT_TRUE(IsBadWritePtr(good.data(), static_cast<UINT_PTR>(-1)));
+    EXPECT_TRUE(IsBadWritePtr(reinterpret_cast<void*>(UINT_PTR{64}), 4));
+}
+
+TEST(MemoryProbe, ConstantsCannotBeWritten) {
+    static const char constant[64] = "constant";
+    auto* writable = const_cast<char*>(constant);
+    EXPECT_TRUE(IsBadWritePtr(writable, sizeof constant));
+    EXPECT_STREQ(constant, "constant");
+}
+
+}  // namespace

@@ -1,0 +1,40 @@
+// How combo boxes look where the documentation leaves it open and hosts differ.
+#include <gtest/gtest.h>
+
+#include "tests/platform/support/dialog_builder.h"
+
+namespace {
+
+bool ShowsHighlight(HWND window) {
+    UpdateWindow(window);
+    RECT client{};
+    GetClientRect(window, &client);
+    const HDC context = GetDC(window);
+    bool found = false;
+    for (int y = 0; y < client.bottom && !found; ++y) {
+        for (int x = 0; x < client.right && !found; ++x)
+            found = GetPixel(context, x, y) == GetSysColor(COLOR_HIGHLIGHT);
+    }
+    ReleaseDC(window, context);
+    return found;
+}
+
+TEST(ComboBoxLook, TheTextIsHighlightedOnlyWithTheFocus) {
+    const HWND parent = tests::MakeOwner(DefWindowProcA);
+    ShowWindow(parent, SW_SHOWNA);
+    SetActiveWindow(parent);
+    const HWND combo = CreateWindowExA(0, "combobox", "", WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, 10, 10, 120, 100,
+                                       parent, nullptr, nullptr, nullptr);
+    SendMessageA(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>("ant"));
+    SendMessageA(combo, CB_SETCURSEL, 0, 0);
+    const HWND edit = tests::ComboField(combo);
+    SetFocus(combo);
+    EXPECT_TRUE(ShowsHighlight(edit));
+    SetFocus(parent);
+    EXPECT_FALSE(ShowsHighlight(edit));
+    SetFocus(combo);
+    EXPECT_TRUE(ShowsHighlight(edit));
+    DestroyWindow(parent);
+}
+
+}  // namespace

@@ -1,0 +1,180 @@
+// Scroll bars of windows and the "scrollbar" class: ranges, pages, appearing and going, mouse and keyboard.
+#include <gtest/gtest.h>
+
+#include <utility>
+#include <vector>
+
+#include "tests/platform/support/recorder.h"
+
+namespace {
+
+using tests::Recorder;
+
+class ScrollBarTest : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        Recorder::Get().Reset();
+        window_ = Recorder::Get().Make(WS_POPUP | WS_VISIBLE | WS_VSCROLL, 50, 50, 200, 200);
+        SetForegroundWindow(window_);
+        tests::Pump();
+    }
+    void TearDown() override {
+        DestroyWindow(window_);
+        Recorder::Get().Reset();
+    }
+    static SCROLLINFO Info(HWND window, int bar) {
+        SCROLLINFO info{sizeof info, SIF_ALL, -1, -1, 99, -1, -1};
+        GetScrollInfo(window, bar, &info);
+        return info;
+    }
+    static void SetRange(HWND window, int bar, int last) {
+        const SCROLLINFO info{sizeof info, SIF_RANGE, 0, last, 0, 0, 0};
+        SetScrollInfo(window, bar, &info, TRUE);
+    }
+    static bool Shows(HWND window, DWORD style) {
+        return (GetWindowLongA(window, GWL_STYLE) & style) != 0;
+    }
+    HWND MakeBar(DWORD style) {
+        return CreateWindowExA(0, "scrollbar", "", WS_CHILD | WS_VISIBLE | style, 10, 10, 20, 120, window_, nullptr,
+                               nullptr, nullptr);
+    }
+    static void Mouse(POINT point, std::initializer_list<DWORD> events) {
+        SetCursorPos(point.x, point.y);
+        for (const DWORD event : events) {
+            INPUT input{};
+            input.type = INPUT_MOUSE;
+            input.mi.dwFlags = event;
+            SendInput(1, &input, sizeof input);
+        }
+    }
+    /// The codes that were heard, with the positions of those that carry one.
+    static std::vector<std::pair<int, int>> Codes(UINT message) {
+        std::vector<std::pair<int, int>> codes;
+        for (const tests::Heard& heard : Recorder::Get().heard) {
+            if (heard.message == message)
+                codes.emplace_back(LOWORD(heard.wParam), HIWORD(heard.wParam));
+        }
+        return codes;
+    }
+
+    HWND window_ = nullptr;
+};
+
+TEST_F(ScrollBarTest, NumbersAreBroughtIntoBounds) {
+    SCROLLINFO info = Info(window_, SB_VERT);
+    EXPECT_EQ(0, info.nMin);
+    EXPECT_EQ(100, info.nMax);
+    EXPECT_EQ(0, SetScrollPos(window_, SB_VERT, 150, TRUE));
+    EXPECT_EQ(100, GetScrollPos(window_, SB_VERT));
+    info = {sizeof info, SIF_RANGE | SIF_PAGE, 10, 50, 11, 0, 0};
+    EXPECT_EQ(40, SetScrollInfo(window_, SB_VERT, &info, TRUE)) << "the end less the page, plus one";
+    info = {sizeof info, SIF_PAGE, 0, 0, 1000, 0, 0};
+    SetScrollInfo(window_, SB_VERT, &info, TRUE);
+    EXPECT_EQ(41U, Info(window_, SB_VERT).nPage);
+    info.cbSize = 3;
+    EXPECT_FALSE(GetScrollInfo(window_, SB_VERT, &info));
+    EXPECT_EQ(10, Info(window_, SB_VERT).nMin);
+    EXPECT_EQ(50, Info(window_, SB_VERT).nMax);
+}
+
+TEST_F(ScrollBarTest, ABarComesAndGoesWithWhatThereIsToScroll) {
+    RECT client{};
+    GetClientRect(window_, &client);
+    EXPECT_EQ(200 - GetSystemMetrics(SM_CXVSCROLL), client.right);
+    EXPECT_EQ(200, client.bottom);
+    RECT rect{};
+    GetWindowRect(window_, &rect);
+    EXPECT_EQ(HTVSCROLL, SendMessageA(window_, WM_NCHITTEST, 0, MAKELPARAM(rect.right - 3, rect.top + 3)));
+    SetRange(window_, SB_VERT, 0);
+    EXPECT_FALSE(Shows(window_, WS_VSCROLL));
+    GetClientRect(window_, &client);
+    EXPECT_EQ(200, client.right);
+    SetRange(window_, SB_VERT, 9);
+    EXPECT_TRUE(Shows(window_, WS_VSCROLL));
+    SCROLLINFO info{sizeof info, SIF_PAGE | SIF_DISABLENOSCROLL, 0, 0, 10, 0, 0};
+    SetScrollInfo(window_, SB_VERT, &info, TRUE);
+    EXPECT_TRUE(Shows(window_, WS_VSCROLL)) << "it stays, disabled";
+    SetRange(window_, SB_HORZ, 9);
+    GetClientRect(window_, &client);
+    EXPECT_EQ(200 - GetSystemMetrics(SM_CYHSCROLL), client.bottom);
+}
+
+TEST_F(ScrollBarTest, ABarOnItsOwn) {
+    const HWND bar = MakeBar(SBS_VERT);
+    EXPECT_EQ(0, Info(bar, SB_CTL).nMax) << "an empty range to begin with";
+    SetRange(bar, SB_CTL, 20);
+    EXPECT_EQ(0, SetScrollPos(bar, SB_CTL, 5, TRUE));
+    EXPECT_EQ(5, SendMessageA(bar, SBM_SETPOS, 7, FALSE));
+    EXPECT_EQ(7, GetScrollPos(bar, SB_CTL));
+    EXPECT_EQ(DLGC_WANTARROWS, SendMessageA(bar, WM_GETDLGCODE, 0, 0));
+    SetFocus(bar);
+    SendMessageA(bar, WM_KEYDOWN, VK_DOWN, 1);
+    SendMessageA(bar, WM_KEYDOWN, VK_PRIOR, 1);
+    SendMessageA(bar, WM_KEYDOWN, VK_END, 1);
+    std::vector<int> codes;
+    for (const auto& [code, position] : Codes(WM_VSCROLL)) {
+        if (code != SB_ENDSCROLL)
+            codes.push_back(code);
+    }
+    EXPECT_EQ((std::vector<int>{SB_LINEDOWN, SB_PAGEUP, SB_BOTTOM}), codes);
+    EXPECT_EQ(reinterpret_cast<LPARAM>(bar), Recorder::Get().Find(WM_VSCROLL)->lParam);
+}
+
+TEST_F(ScrollBarTest, ABarOnItsOwnIsDisabledWhenAskedTo) {
+    const HWND bar = MakeBar(SBS_VERT);
+    const auto set = [&](UINT mask, int high, UINT page) {
+        const SCROLLINFO info{sizeof info, mask, 0, high, page, 0, 0};
+        SetScrollInfo(bar, SB_CTL, &info, TRUE);
+        EXPECT_TRUE(IsWindowVisible(bar));
+        return IsWindowEnabled(bar) != FALSE;
+    };
+    constexpr UINT kKeep = SIF_DISABLENOSCROLL;
+    EXPECT_TRUE(set(SIF_RANGE | SIF_PAGE, 10, 20)) << "nobody asked for it";
+    EXPECT_FALSE(set(SIF_RANGE | SIF_PAGE | kKeep, 10, 20));
+    EXPECT_TRUE(set(SIF_RANGE | SIF_PAGE | kKeep, 100, 20));
+    EXPECT_FALSE(set(SIF_PAGE | kKeep, 0, 200));
+    EXPECT_TRUE(set(SIF_RANGE | SIF_PAGE, 100, 20)) << "there is something to scroll again";
+}
+
+TEST_F(ScrollBarTest, PressingAnArrowAndTheShaft) {
+    RECT rect{};
+    GetWindowRect(window_, &rect);
+    const auto press = [&](int y) {
+        Recorder::Get().Clear();
+        Mouse({rect.right - 5, y}, {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP});
+        tests::PumpUntil([] { return !Codes(WM_VSCROLL).empty() && Codes(WM_VSCROLL).back().first == SB_ENDSCROLL; });
+        return Codes(WM_VSCROLL).empty() ? -1 : Codes(WM_VSCROLL).front().first;
+    };
+    EXPECT_EQ(SB_LINEUP, press(rect.top + 5));
+    EXPECT_EQ(SB_LINEDOWN, press(rect.bottom - 5));
+    EXPECT_EQ(SB_PAGEDOWN, press(rect.bottom - 30));
+    EXPECT_EQ(nullptr, GetCapture());
+}
+
+TEST_F(ScrollBarTest, DraggingTheThumb) {
+    RECT rect{};
+    GetWindowRect(window_, &rect);
+    // Everything waits in the queue before the press is delivered: the bar takes it from there.
+    SetCursorPos(rect.right - 5, rect.top + GetSystemMetrics(SM_CYVSCROLL) + 4);
+    tests::Pump();
+    Mouse({rect.right - 5, rect.top + GetSystemMetrics(SM_CYVSCROLL) + 4}, {MOUSEEVENTF_LEFTDOWN});
+    PostMessageA(window_, WM_APP, 0, 0);
+    Recorder::Get().answer = [&](const tests::Heard& heard, LRESULT*) {
+        if (heard.message == WM_APP) {
+            Mouse({rect.right - 5, rect.bottom - 20}, {MOUSEEVENTF_LEFTUP});
+            return true;
+        }
+        return false;
+    };
+    ASSERT_TRUE(
+        tests::PumpUntil([] { return !Codes(WM_VSCROLL).empty() && Codes(WM_VSCROLL).back().first == SB_ENDSCROLL; }));
+    const auto codes = Codes(WM_VSCROLL);
+    ASSERT_GE(codes.size(), 3U);
+    EXPECT_EQ(SB_THUMBTRACK, codes.front().first);
+    const auto& end = codes[codes.size() - 2];
+    EXPECT_EQ(SB_THUMBPOSITION, end.first);
+    EXPECT_EQ(100, end.second);
+    EXPECT_EQ(0, GetScrollPos(window_, SB_VERT)) << "the window itself sets the position";
+}
+
+}  // namespace

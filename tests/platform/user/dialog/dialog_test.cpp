@@ -1,0 +1,308 @@
+// Making dialogs: templates, controls, WM_INITDIALOG, answers of the dialog procedure, fonts, items.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "tests/platform/support/dialog_builder.h"
+
+namespace {
+
+using tests::DialogBuilder;
+
+class DialogTest : public ::testing::Test {
+  protected:
+    static inline INT_PTR initResult = FALSE;
+    static inline HWND initFocusOffered = nullptr;
+    static inline HWND initFocusTaken = nullptr;
+    static inline int commands = 0;
+    static inline WPARAM lastCommand = 0;
+    static inline LPARAM lastControl = 0;
+    static INT_PTR CALLBACK Procedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+        switch (message) {
+            case WM_INITDIALOG:
+                initFocusOffered = reinterpret_cast<HWND>(wParam);
+                if (lParam)
+                    SetFocus(initFocusTaken = GetDlgItem(dialog, static_cast<int>(lParam)));
+                return initResult;
+            case WM_COMMAND:
+                if (HIWORD(wParam) != BN_CLICKED)
+                    return FALSE;
+                ++commands;
+                lastCommand = wParam;
+                lastControl = lParam;
+                return TRUE;
+            case WM_USER + 7:
+                SetWindowLongPtrA(dialog, DWLP_MSGRESULT, 4711);
+                return TRUE;
+            default:
+                return FALSE;
+        }
+    }
+
+    void SetUp() override {
+        initResult = FALSE;
+        initFocusOffered = initFocusTaken = nullptr;
+        commands = 0;
+        lastCommand = 0;
+    }
+    void TearDown() override {
+        if (dialog_ && IsWindow(dialog_))
+            DestroyWindow(dialog_);
+    }
+    HWND Make(DialogBuilder& builder, LPARAM parameter = 0, HWND owner = nullptr) {
+        dialog_ = CreateDialogIndirectParamA(GetModuleHandleA(nullptr), builder.Data(), owner, Procedure, parameter);
+        return dialog_;
+    }
+
+    HWND dialog_ = nullptr;
+};
+
+std::string TextOf(HWND window) {
+    char text[256] = "";
+    GetWindowTextA(window, text, sizeof text);
+    return text;
+}
+
+std::string ClassOf(HWND window) {
+    char name[64] = "";
+    GetClassNameA(window, name, sizeof name);
+    CharLowerA(name);
+    return name;
+}
+
+// Both forms say the same, so both make the same dialog.
+class TemplateForm : public DialogTest, public ::testing::WithParamInterface<bool> {};
+
+TEST_P(TemplateForm, MakesTheDialogAndItsControls) {
+    DialogBuilder builder(WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_SETFONT | DS_MODALFRAME, 160, 120, GetParam());
+    builder.Title("Title", "MS Sans Serif")
+        .NumberedItem(0x0082, "&Name:", 300, SS_LEFT, 7, 9, 40, 8)
+        .Item("button", "OK", IDOK, BS_DEFPUSHBUTTON | WS_TABSTOP, 50, 100, 50, 14)
+        .NumberedItem(0x0080, "Box", 1000, BS_AUTOCHECKBOX | WS_TABSTOP, 7, 40, 60, 10);
+    ASSERT_NE(nullptr, Make(builder));
+
+    EXPECT_EQ("Title", TextOf(dialog_));
+    EXPECT_EQ("#32770", ClassOf(dialog_));
+    EXPECT_FALSE(IsWindowVisible(dialog_));
+    EXPECT_TRUE(GetWindowLongA(dialog_, GWL_EXSTYLE) & WS_EX_DLGMODALFRAME);
+    const HWND label = GetDlgItem(dialog_, 300);
+    const HWND check = GetDlgItem(dialog_, 1000);
+    EXPECT_EQ("static", ClassOf(label));
+    EXPECT_EQ("&Name:", TextOf(label));
+    EXPECT_EQ("button", ClassOf(check));
+    EXPECT_EQ(1000, GetDlgCtrlID(check));
+    EXPECT_EQ(MAKELONG(IDOK, DC_HASDEFID), SendMessageA(dialog_, DM_GETDEFID, 0, 0));
+
+    // Every position is its template's, in units of the dialog's own font.
+    RECT expected{7, 40, 67, 50};
+    ASSERT_TRUE(MapDialogRect(dialog_, &expected));
+    RECT actual;
+    GetWindowRect(check, &actual);
+    MapWindowPoints(nullptr, dialog_, reinterpret_cast<POINT*>(&actual), 2);
+    EXPECT_TRUE(EqualRect(&expected, &actual));
+    RECT client;
+    RECT size{0, 0, 160, 120};
+    GetClientRect(dialog_, &client);
+    MapDialogRect(dialog_, &size);
+    EXPECT_TRUE(EqualRect(&size, &client));
+
+    // The controls have the dialog's font.
+    const LRESULT font = SendMessageA(dialog_, WM_GETFONT, 0, 0);
+    EXPECT_NE(0, font);
+    EXPECT_EQ(font, SendMessageA(label, WM_GETFONT, 0, 0));
+    EXPECT_EQ(font, SendMessageA(check, WM_GETFONT, 0, 0));
+}
+
+INSTANTIATE_TEST_SUITE_P(Forms, TemplateForm, ::testing::Bool());
+
+LRESULT CALLBACK DataProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_CREATE) {
+        const auto* create = reinterpret_cast<const CREATESTRUCTA*>(lParam);
+        const auto* data = static_cast<const BYTE*>(create->lpCreateParams);
+        SetWindowLongPtrA(window, GWLP_USERDATA, data ? data[2] | data[3] << 8 : -1);
+    }
+    return DefWindowProcA(window, message, wParam, lParam);
+}
+
+TEST_F(DialogTest, CreationDataReachesTheControlBehindItsLength) {
+    WNDCLASSA windowClass{};
+    windowClass.lpfnWndProc = DataProcedure;
+    windowClass.hInstance = GetModuleHandleA(nullptr);
+    windowClass.lpszClassName = "tests_creation_data";
+    ASSERT_NE(0, RegisterClassA(&windowClass));
+    for (const bool extended : {false, true}) {
+        DialogBuilder builder(WS_POPUP, 100, 50, extended);
+        builder.Title("")
+            .Item("tests_creation_data", "", 1, 0, 0, 0, 9, 9, 0, {0x1234, 0x5678})
+            .Item("tests_creation_data", "", 2, 0, 0, 0, 9, 9);
+        ASSERT_NE(nullptr, Make(builder)) << extended;
+        EXPECT_EQ(0x1234, GetWindowLongPtrA(GetDlgItem(dialog_, 1), GWLP_USERDATA)) << extended;
+        EXPECT_EQ(-1, GetWindowLongPtrA(GetDlgItem(dialog_, 2), GWLP_USERDATA)) << extended;
+        DestroyWindow(dialog_);
+    }
+    UnregisterClassA("tests_creation_data", windowClass.hInstance);
+}
+
+TEST_F(DialogTest, AControlThatCannotBeMadeFailsTheDialogUnlessAllowed) {
+    DialogBuilder strict;
+    strict.Title("strict").Item("tests_no_such_class", "", 1, 0, 0, 0, 9, 9);
+    EXPECT_EQ(nullptr, Make(strict));
+    EXPECT_EQ(nullptr, FindWindowA("#32770", "strict"));
+
+    DialogBuilder lenient(WS_POPUP | DS_NOFAILCREATE);
+    lenient.Title("lenient").Item("tests_no_such_class", "", 1, 0, 0, 0, 9, 9).Item("static", "", 2, 0, 0, 0, 9, 9);
+    ASSERT_NE(nullptr, Make(lenient));
+    EXPECT_EQ(nullptr, GetDlgItem(dialog_, 1));
+    EXPECT_NE(nullptr, GetDlgItem(dialog_, 2));
+}
+
+TEST_F(DialogTest, FromResources) {
+    const HINSTANCE instance = GetModuleHandleA(nullptr);
+    dialog_ = CreateDialogParamA(instance, MAKEINTRESOURCEA(2000), nullptr, Procedure, 0);
+    ASSERT_NE(nullptr, dialog_);
+    EXPECT_EQ("From resources", TextOf(dialog_));
+    EXPECT_EQ("&Apply", TextOf(GetDlgItem(dialog_, 2101)));
+    EXPECT_EQ(nullptr, CreateDialogParamA(instance, MAKEINTRESOURCEA(2999), nullptr, Procedure, 0));
+    EXPECT_EQ(-1, DialogBoxParamA(instance, "no such dialog", nullptr, Procedure, 0));
+}
+
+TEST_F(DialogTest, InitDialogDecidesOnTheFocus) {
+    DialogBuilder builder(WS_POPUP | WS_VISIBLE);
+    builder.Title("")
+        .Item("static", "text", 300, 0, 0, 0, 9, 9)
+        .Item("button", "1", 1001, WS_TABSTOP | WS_DISABLED, 0, 0, 9, 9)
+        .Item("button", "2", 1002, WS_TABSTOP, 0, 0, 9, 9)
+        .Item("button", "3", 1003, WS_TABSTOP, 0, 0, 9, 9);
+    initResult = TRUE;
+    ASSERT_NE(nullptr, Make(builder));
+    EXPECT_EQ(GetDlgItem(dialog_, 1002), initFocusOffered);
+    EXPECT_EQ(GetDlgItem(dialog_, 1002), GetFocus());
+    DestroyWindow(dialog_);
+
+    initResult = FALSE;
+    ASSERT_NE(nullptr, Make(builder, 1003));
+    EXPECT_EQ(initFocusTaken, GetFocus());
+}
+
+TEST_F(DialogTest, TheFocusComesBackWithTheActivation) {
+    DialogBuilder builder(WS_POPUP | WS_VISIBLE);
+    builder.Title("")
+        .Item("button", "1", 1001, WS_TABSTOP, 0, 0, 9, 9)
+        .Item("button", "2", 1002, WS_TABSTOP, 0, 0, 9, 9);
+    ASSERT_NE(nullptr, Make(builder, 1002));
+    const HWND other = tests::MakeOwner();
+    SetActiveWindow(other);
+    EXPECT_NE(GetDlgItem(dialog_, 1002), GetFocus());
+    SetActiveWindow(dialog_);
+    EXPECT_EQ(GetDlgItem(dialog_, 1002), GetFocus());
+    DestroyWindow(other);
+}
+
+INT_PTR CALLBACK AnsweringProcedure(HWND dialog, UINT message, WPARAM, LPARAM) {
+    switch (message) {
+        case WM_CTLCOLORSTATIC:
+        case WM_VKEYTOITEM:
+            SetWindowLongPtrA(dialog, DWLP_MSGRESULT, 1);
+            return 77;
+        case WM_USER + 7:
+            SetWindowLongPtrA(dialog, DWLP_MSGRESULT, 4711);
+            return TRUE;
+        case WM_USER + 8:
+            return TRUE;
+        default:
+            return FALSE;
+    }
+}
+
+TEST_F(DialogTest, AnswersOfTheDialogProcedure) {
+    DialogBuilder builder;
+    builder.Title("");
+    dialog_ = CreateDialogIndirectParamA(nullptr, builder.Data(), nullptr, AnsweringProcedure, 0);
+    ASSERT_NE(nullptr, dialog_);
+    EXPECT_EQ(77, SendMessageA(dialog_, WM_VKEYTOITEM, 0, 0));
+    EXPECT_EQ(4711, SendMessageA(dialog_, WM_USER + 7, 0, 0));
+    EXPECT_EQ(0, SendMessageA(dialog_, WM_USER + 8, 0, 0)) << "an earlier result is not reused";
+}
+
+TEST_F(DialogTest, CloseIsCancel) {
+    DialogBuilder builder;
+    builder.Title("").Item("button", "Cancel", IDCANCEL, WS_TABSTOP, 0, 0, 9, 9);
+    ASSERT_NE(nullptr, Make(builder));
+    SendMessageA(dialog_, WM_CLOSE, 0, 0);
+    tests::PumpMessages();
+    EXPECT_EQ(1, commands);
+    EXPECT_EQ(MAKEWPARAM(IDCANCEL, BN_CLICKED), lastCommand);
+    EXPECT_EQ(reinterpret_cast<LPARAM>(GetDlgItem(dialog_, IDCANCEL)), lastControl);
+}
+
+TEST_F(DialogTest, Numbers) {
+    DialogBuilder builder;
+    builder.Title("").Item("static", "", 300, 0, 0, 0, 99, 9);
+    ASSERT_NE(nullptr, Make(builder));
+    const auto read = [&](const char* text, BOOL isSigned, BOOL& translated) {
+        SetDlgItemTextA(dialog_, 300, text);
+        return GetDlgItemInt(dialog_, 300, &translated, isSigned);
+    };
+    BOOL translated = FALSE;
+    EXPECT_EQ(42U, read("  42", FALSE, translated));
+    EXPECT_TRUE(translated);
+    EXPECT_EQ(-17, static_cast<int>(read("-17", TRUE, translated)));
+    EXPECT_TRUE(translated);
+    EXPECT_EQ(4294967295U, read("4294967295", FALSE, translated));
+    EXPECT_TRUE(translated);
+    EXPECT_EQ(0U, read("4294967296", FALSE, translated));
+    EXPECT_FALSE(translated);
+    EXPECT_EQ(0U, read("2147483648", TRUE, translated));
+    EXPECT_FALSE(translated);
+    EXPECT_EQ(0U, read("x1", TRUE, translated));
+    EXPECT_FALSE(translated);
+    EXPECT_EQ(0U, GetDlgItemInt(dialog_, 999, &translated, TRUE));
+    EXPECT_FALSE(translated);
+
+    SetDlgItemInt(dialog_, 300, static_cast<UINT>(-5), TRUE);
+    EXPECT_EQ("-5", TextOf(GetDlgItem(dialog_, 300)));
+    SetDlgItemInt(dialog_, 300, static_cast<UINT>(-5), FALSE);
+    EXPECT_EQ("4294967291", TextOf(GetDlgItem(dialog_, 300)));
+}
+
+TEST_F(DialogTest, MissingItems) {
+    DialogBuilder builder;
+    builder.Title("");
+    ASSERT_NE(nullptr, Make(builder));
+    EXPECT_EQ(nullptr, GetDlgItem(dialog_, 5));
+    char text[8] = "before";
+    EXPECT_EQ(0U, GetDlgItemTextA(dialog_, 5, text, sizeof text));
+    EXPECT_FALSE(SetDlgItemTextA(dialog_, 5, "x"));
+}
+
+TEST_F(DialogTest, NothingIsLeftBehind) {
+    DialogBuilder builder(WS_POPUP | WS_CAPTION | WS_VISIBLE | DS_SETFONT);
+    builder.Title("counted", "MS Sans Serif")
+        .Item("button", "&Yes", 1, WS_TABSTOP, 5, 5, 50, 14)
+        .Item("button", "Check", 2, BS_AUTOCHECKBOX, 5, 25, 50, 14)
+        .Item("static", "Text", 3, 0, 5, 45, 50, 14);
+    const auto once = [&] {
+        Make(builder);
+        tests::PumpMessages();
+        DestroyWindow(dialog_);
+    };
+    once();  // caches fill
+    const DWORD gdi = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+    const DWORD user = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
+    for (int count = 0; count < 6; ++count)
+        once();
+    EXPECT_EQ(gdi, GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS));
+    EXPECT_EQ(user, GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS));
+}
+
+TEST_F(DialogTest, BordersOfControlsAreSunken) {
+    DialogBuilder builder(WS_POPUP);
+    builder.Title("").Item("listbox", "", 1, WS_BORDER, 4, 4, 60, 40).Item("combobox", "", 2, WS_BORDER, 4, 50, 60, 40);
+    const HWND dialog = Make(builder);
+    ASSERT_NE(nullptr, dialog);
+    EXPECT_FALSE(GetWindowLongA(GetDlgItem(dialog, 1), GWL_STYLE) & WS_BORDER);
+    EXPECT_TRUE(GetWindowLongA(GetDlgItem(dialog, 1), GWL_EXSTYLE) & WS_EX_CLIENTEDGE);
+    EXPECT_FALSE(GetWindowLongA(GetDlgItem(dialog, 2), GWL_EXSTYLE) & WS_EX_CLIENTEDGE);
+}
+
+}  // namespace

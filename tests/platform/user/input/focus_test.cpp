@@ -1,0 +1,306 @@
+// Focus, activation and the caret.
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <atomic>
+#include <thread>
+#include <vector>
+
+#include "tests/platform/support/recorder.h"
+
+namespace {
+
+using tests::Heard;
+using tests::Pump;
+using tests::PumpUntil;
+using tests::Recorder;
+
+class FocusTest : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        window = Recorder::Get().Make(WS_POPUP | WS_VISIBLE, 100, 100, 300, 200);
+        ASSERT_NE(window, nullptr);
+        SetForegroundWindow(window);
+        ASSERT_TRUE(PumpUntil([this] { return GetForegroundWindow() == window; }));
+        Recorder::Get().Reset();
+    }
+    void TearDown() override {
+        Recorder::Get().Reset();
+        if (other != nullptr && IsWindow(other)) {
+            DestroyWindow(other);
+        }
+        if (IsWindow(window)) {
+            DestroyWindow(window);
+        }
+        Pump();
+    }
+    HWND window = nullptr;
+    HWND other = nullptr;
+};
+
+TEST_F(FocusTest, ShowingAWindowActivatesIt) {
+    other = Recorder::Get().Make(WS_POPUP, 200, 200, 100, 100);
+    Recorder::Get().Clear();
+    ShowWindow(other, SW_SHOW);
+    EXPECT_EQ(GetActiveWindow(), other);
+    EXPECT_EQ(GetFocus(), other);
+    const std::vector<UINT> wanted{WM_NCACTIVATE, WM_ACTIVATE, WM_KILLFOCUS, WM_SETFOCUS};
+    EXPECT_EQ(Recorder::Get().Numbers(wanted, window), (std::vector<UINT>{WM_NCACTIVATE, WM_ACTIVATE, WM_KILLFOCUS}));
+    EXPECT_EQ(Recorder::Get().Numbers(wanted, other), (std::vector<UINT>{WM_NCACTIVATE, WM_ACTIVATE, WM_SETFOCUS}));
+    const Heard* left = Recorder::Get().Find(WM_ACTIVATE, window);
+    EXPECT_EQ(LOWORD(left->wParam), WA_INACTIVE);
+    EXPECT_EQ(left->lParam, reinterpret_cast<LPARAM>(other));
+    const Heard* came = Recorder::Get().Find(WM_ACTIVATE, other);
+    EXPECT_EQ(LOWORD(came->wParam), WA_ACTIVE);
+    EXPECT_EQ(came->lParam, reinterpret_cast<LPARAM>(window));
+    EXPECT_EQ(Recorder::Get().Find(WM_ACTIVATEAPP), nullptr);
+    // It goes: the one before is active again.
+    DestroyWindow(other);
+    EXPECT_EQ(GetActiveWindow(), window);
+    EXPECT_EQ(GetFocus(), window);
+}
+
+TEST_F(FocusTest, FocusMovesWithMessagesInOrder) {
+    HWND first = Recorder::Get().Make(WS_CHILD | WS_VISIBLE, 0, 0, 10, 10, window);
+    HWND second = Recorder::Get().Make(WS_CHILD | WS_VISIBLE, 20, 0, 10, 10, window);
+    EXPECT_EQ(SetFocus(first), window);
+    HWND seen = nullptr;
+    Recorder::Get().answer = [&seen](const Heard& heard, LRESULT*) {
+        if (heard.message == WM_KILLFOCUS) {
+            seen = GetFocus();
+        }
+        return false;
+    };
+    Recorder::Get().Clear();
+    EXPECT_EQ(SetFocus(second), first);
+    EXPECT_EQ(seen, second);
+    ASSERT_GE(Recorder::Get().heard.size(), 2u);
+    EXPECT_EQ(Recorder::Get().Find(WM_KILLFOCUS, first)->wParam, reinterpret_cast<WPARAM>(second));
+    EXPECT_EQ(Recorder::Get().Find(WM_SETFOCUS, second)->wParam, reinterpret_cast<WPARAM>(first));
+    EXPECT_EQ(Recorder::Get().Numbers({WM_KILLFOCUS, WM_SETFOCUS}), (std::vector<UINT>{WM_KILLFOCUS, WM_SETFOCUS}));
+    Recorder::Get().Clear();
+    EXPECT_EQ(SetFocus(second), second);
+    EXPECT_TRUE(Recorder::Get().Numbers({WM_KILLFOCUS, WM_SETFOCUS}).empty());
+    // A focus window that is disabled loses it; hiding one gives it to the parent.
+    EnableWindow(second, FALSE);
+    EXPECT_NE(GetFocus(), second);
+    SetFocus(first);
+    ShowWindow(first, SW_HIDE);
+    EXPECT_NE(GetFocus(), first);
+}
+
+TEST_F(FocusTest, AHiddenWindowThatIsDisabledStaysActive) {
+    other = Recorder::Get().Make(WS_POPUP, 200, 200, 100, 100);
+    HWND child = Recorder::Get().Make(WS_CHILD | WS_VISIBLE, 0, 0, 10, 10, other);
+    SetActiveWindow(other);
+    SetFocus(other);
+    ASSERT_EQ(GetActiveWindow(), other);
+    EnableWindow(other, FALSE);
+    EXPECT_EQ(GetActiveWindow(), other);
+    EXPECT_EQ(GetFocus(), nullptr);
+    EnableWindow(other, TRUE);
+    // What its children hold is none of its business.
+    SetFocus(child);
+    SetCapture(child);
+    EnableWindow(other, FALSE);
+    EXPECT_EQ(GetFocus(), child);
+    EXPECT_EQ(GetCapture(), child);
+    ReleaseCapture();
+}
+
+TEST_F(FocusTest, FocusIsRefusedWhereItCannotBe) {
+    HWND child = Recorder::Get().Make(WS_CHILD | WS_VISIBLE | WS_DISABLED, 0, 0, 10, 10, window);
+    EXPECT_EQ(SetFocus(child), nullptr);
+    EXPECT_NE(GetFocus(), child);
+    HWND focus = GetFocus();
+    SetLastError(0);
+    HWND gone = Recorder::Get().Make(WS_POPUP, 0, 0, 10, 10);
+    DestroyWindow(gone);
+    EXPECT_EQ(SetFocus(gone), nullptr);
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_WINDOW_HANDLE));
+    EXPECT_EQ(GetFocus(), focus);
+    HWND result = window;
+    std::thread([&result, this] { result = SetFocus(window); }).join();
+    EXPECT_EQ(result, nullptr);
+}
+
+TEST_F(FocusTest, FocusActivatesTheTopLevelWindow) {
+    other = Recorder::Get().Make(WS_POPUP | WS_VISIBLE, 200, 200, 100, 100);
+    ASSERT_EQ(GetActiveWindow(), other);
+    HWND child = Recorder::Get().Make(WS_CHILD | WS_VISIBLE, 0, 0, 10, 10, window);
+    SetFocus(child);
+    EXPECT_EQ(GetActiveWindow(), window);
+    EXPECT_EQ(GetFocus(), child);
+}
+
+TEST_F(FocusTest, ClickActivatesAndRaises) {
+    other = Recorder::Get().Make(WS_POPUP | WS_VISIBLE, 450, 100, 100, 100);
+    ASSERT_EQ(GetActiveWindow(), other);
+    Pump();
+    Recorder::Get().Clear();
+    SetCursorPos(120, 120);
+    INPUT click[2] = {};
+    click[0].type = click[1].type = INPUT_MOUSE;
+    click[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
+    click[1].mi.dwFlags = MOUSEEVENTF_LEFTUP;
+    SendInput(2, click, sizeof(INPUT));
+    ASSERT_TRUE(PumpUntil([] { return Recorder::Get().Find(WM_LBUTTONUP) != nullptr; }));
+    EXPECT_EQ(GetActiveWindow(), window);
+    const Heard* came = Recorder::Get().Find(WM_ACTIVATE, window);
+    ASSERT_NE(came, nullptr);
+    EXPECT_EQ(LOWORD(came->wParam), WA_CLICKACTIVE);
+    const std::vector<UINT> order = Recorder::Get().Numbers({WM_MOUSEACTIVATE, WM_ACTIVATE, WM_LBUTTONDOWN}, window);
+    EXPECT_EQ(order, (std::vector<UINT>{WM_MOUSEACTIVATE, WM_ACTIVATE, WM_LBUTTONDOWN}));
+    // A window may refuse, and may keep the press to itself.
+    Recorder::Get().answer = [this](const Heard& heard, LRESULT* result) {
+        *result = MA_NOACTIVATEANDEAT;
+        return heard.message == WM_MOUSEACTIVATE && heard.window == other;
+    };
+    Recorder::Get().Clear();
+    SetCursorPos(470, 120);
+    SendInput(2, click, sizeof(INPUT));
+    ASSERT_TRUE(PumpUntil([] { return Recorder::Get().Find(WM_LBUTTONUP) != nullptr; }));
+    EXPECT_EQ(GetActiveWindow(), window);
+    EXPECT_EQ(Recorder::Get().Find(WM_LBUTTONDOWN), nullptr);
+}
+
+TEST_F(FocusTest, ForegroundMovesBetweenThreads) {
+    std::atomic<HWND> theirs{nullptr};
+    std::atomic<bool> theirsActive{false};
+    std::atomic<bool> done{false};
+    std::thread thread([&] {
+        theirs = CreateWindowExA(0, "STATIC", "", WS_POPUP | WS_VISIBLE, 400, 400, 50, 50, nullptr, nullptr, nullptr,
+                                 nullptr);
+        while (!done) {
+            Pump();
+            theirsActive = GetActiveWindow() == theirs;
+            MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
+        }
+        DestroyWindow(theirs);
+    });
+    while (theirs == nullptr) {
+        MsgWaitForMultipleObjects(0, nullptr, FALSE, 1, QS_ALLINPUT);
+        Pump();
+    }
+    SetForegroundWindow(window);
+    EXPECT_TRUE(PumpUntil([&] { return GetForegroundWindow() == window && GetActiveWindow() == window; }));
+    Pump();
+    Recorder::Get().Clear();
+    SetForegroundWindow(theirs);
+    EXPECT_TRUE(PumpUntil([&] { return GetForegroundWindow() == theirs && theirsActive; }));
+    EXPECT_TRUE(PumpUntil([&] { return GetActiveWindow() == nullptr && GetFocus() == nullptr; }));
+    const Heard* left = Recorder::Get().Find(WM_ACTIVATEAPP, window);
+    ASSERT_NE(left, nullptr);
+    EXPECT_EQ(left->wParam, static_cast<WPARAM>(FALSE));
+    EXPECT_NE(Recorder::Get().Find(WM_KILLFOCUS, window), nullptr);
+    SetForegroundWindow(window);
+    EXPECT_TRUE(PumpUntil([&] { return GetActiveWindow() == window && GetFocus() == window; }));
+    done = true;
+    thread.join();
+}
+
+// A caret blinks only while its thread waits for messages.
+class CaretTest : public FocusTest {
+  protected:
+    void SetUp() override {
+        FocusTest::SetUp();
+        UpdateWindow(window);
+        Pump();
+    }
+    void TearDown() override {
+        DestroyCaret();
+        FocusTest::TearDown();
+    }
+    COLORREF Pixel(int x, int y) {
+        HDC context = GetDC(window);
+        const COLORREF pixel = GetPixel(context, x, y);
+        ReleaseDC(window, context);
+        return pixel;
+    }
+    static constexpr COLORREF kWhite = RGB(255, 255, 255);
+    static constexpr COLORREF kBlack = RGB(0, 0, 0);
+};
+
+TEST_F(CaretTest, InvertsItsBlockWhereItStands) {
+    ASSERT_EQ(Pixel(50, 60), kWhite);
+    ASSERT_TRUE(CreateCaret(window, nullptr, 2, 10));
+    ASSERT_TRUE(SetCaretPos(50, 60));
+    POINT position{};
+    ASSERT_TRUE(GetCaretPos(&position));
+    EXPECT_EQ(position.x, 50);
+    EXPECT_EQ(position.y, 60);
+    EXPECT_EQ(Pixel(50, 60), kWhite) << "a new caret is hidden";
+    ASSERT_TRUE(ShowCaret(window));
+    EXPECT_EQ(Pixel(50, 60), kBlack);
+    EXPECT_EQ(Pixel(51, 69), kBlack);
+    EXPECT_EQ(Pixel(52, 60), kWhite);
+    EXPECT_EQ(Pixel(50, 70), kWhite);
+    ASSERT_TRUE(SetCaretPos(80, 60));
+    EXPECT_EQ(Pixel(50, 60), kWhite);
+    EXPECT_EQ(Pixel(80, 60), kBlack);
+    // Hiding is cumulative.
+    HideCaret(window);
+    HideCaret(window);
+    EXPECT_EQ(Pixel(80, 60), kWhite);
+    ShowCaret(window);
+    EXPECT_EQ(Pixel(80, 60), kWhite);
+    ShowCaret(window);
+    EXPECT_EQ(Pixel(80, 60), kBlack);
+    EXPECT_TRUE(DestroyCaret());
+    EXPECT_EQ(Pixel(80, 60), kWhite);
+    EXPECT_FALSE(ShowCaret(window));
+}
+
+TEST_F(CaretTest, BitmapInvertsWhereItsBitsAreOne) {
+    const BYTE bits[] = {0xA0, 0, 0x40, 0};
+    HBITMAP bitmap = CreateBitmap(4, 2, 1, 1, bits);
+    ASSERT_NE(bitmap, nullptr);
+    ASSERT_TRUE(CreateCaret(window, bitmap, 0, 0));
+    SetCaretPos(10, 20);
+    ShowCaret(window);
+    EXPECT_EQ(Pixel(10, 20), kBlack);
+    EXPECT_EQ(Pixel(11, 20), kWhite);
+    EXPECT_EQ(Pixel(12, 20), kBlack);
+    EXPECT_EQ(Pixel(13, 20), kWhite);
+    EXPECT_EQ(Pixel(10, 21), kWhite);
+    EXPECT_EQ(Pixel(11, 21), kBlack);
+    DestroyCaret();
+    EXPECT_EQ(Pixel(11, 21), kWhite);
+    DeleteObject(bitmap);
+}
+
+TEST_F(CaretTest, StaysInsideItsWindowAndSurvivesPainting) {
+    HWND child = Recorder::Get().Make(WS_CHILD | WS_VISIBLE, 0, 0, 20, 20, window);
+    UpdateWindow(child);
+    CreateCaret(child, nullptr, 10, 10);
+    SetCaretPos(15, 0);
+    ShowCaret(child);
+    EXPECT_EQ(Pixel(19, 5), kBlack);
+    EXPECT_EQ(Pixel(20, 5), kWhite);
+    InvalidateRect(child, nullptr, TRUE);
+    UpdateWindow(child);
+    EXPECT_EQ(Pixel(19, 5), kBlack);
+    EXPECT_EQ(Pixel(10, 5), kWhite);
+    HideCaret(child);
+    EXPECT_EQ(Pixel(19, 5), kWhite);
+}
+
+TEST_F(CaretTest, BelongsToOneWindow) {
+    HWND child = Recorder::Get().Make(WS_CHILD | WS_VISIBLE, 0, 0, 20, 20, window);
+    CreateCaret(window, nullptr, 1, 10);
+    EXPECT_FALSE(ShowCaret(child));
+    CreateCaret(child, nullptr, 1, 10);
+    EXPECT_FALSE(ShowCaret(window));
+    EXPECT_TRUE(ShowCaret(child));
+}
+
+TEST_F(CaretTest, BlinksWhileTheThreadWaits) {
+    CreateCaret(window, nullptr, 2, 10);
+    SetCaretPos(50, 60);
+    ShowCaret(window);
+    ASSERT_EQ(Pixel(50, 60), kBlack);
+    EXPECT_TRUE(PumpUntil([this] { return Pixel(50, 60) == kWhite; }));
+    EXPECT_TRUE(PumpUntil([this] { return Pixel(50, 60) == kBlack; }));
+}
+
+}  // namespace

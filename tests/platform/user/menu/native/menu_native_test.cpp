@@ -1,0 +1,592 @@
+// Menus under the pointer and the keys, and what may happen to them while they are open. What a test does meanwhile is a list of
+// steps: each runs when all input before it has been worked off.
+#include "tests/platform/support/edit_control.h"
+
+#include <functional>
+#include <thread>
+
+#include "tests/platform/support/recorder.h"
+
+namespace {
+
+using tests::EditControl;
+using tests::Heard;
+using tests::Pump;
+using tests::PumpUntil;
+using tests::Recorder;
+
+using Steps = std::vector<std::function<void()>>;
+
+class OpenMenus : public EditControl {
+  protected:
+    void SetUp() override {
+        Recorder::Get().Reset();
+        EditControl::SetUp();
+        SetWindowPos(parent_, nullptr, 200, 200, 300, 200, SWP_NOZORDER);
+        SetForegroundWindow(parent_);
+        Move(5, 5);
+        Pump();
+    }
+    void TearDown() override {
+        Steps_().clear();
+        if (OpenClipboard(IsWindow(parent_) ? parent_ : nullptr)) {
+            EmptyClipboard();
+            CloseClipboard();
+        }
+        Recorder::Get().Reset();
+        if (IsWindow(window)) {
+            DestroyWindow(window);
+        }
+        if (IsWindow(parent_)) {
+            EditControl::TearDown();
+        }
+        Pump();
+        EXPECT_EQ(nullptr, Menu());
+        EXPECT_EQ(nullptr, GetCapture());
+    }
+
+    static void Play(std::vector<INPUT> inputs) {
+        SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+    }
+    static INPUT At(int x, int y, DWORD flags) {
+        INPUT input{};
+        input.type = INPUT_MOUSE;
+        input.mi.dx = (x * 65536 + 32768) / GetSystemMetrics(SM_CXSCREEN);
+        input.mi.dy = (y * 65536 + 32768) / GetSystemMetrics(SM_CYSCREEN);
+        input.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | flags;
+        return input;
+    }
+    static void Move(int x, int y) {
+        Play({At(x, y, 0)});
+    }
+    static void Click(int x, int y) {
+        Play({At(x, y, MOUSEEVENTF_LEFTDOWN), At(x, y, MOUSEEVENTF_LEFTUP)});
+    }
+    static void RightClick(int x, int y) {
+        Play({At(x, y, MOUSEEVENTF_RIGHTDOWN), At(x, y, MOUSEEVENTF_RIGHTUP)});
+    }
+    static void Key(WORD key) {
+        INPUT down{};
+        down.type = INPUT_KEYBOARD;
+        down.ki.wVk = key;
+        INPUT up = down;
+        up.ki.dwFlags = KEYEVENTF_KEYUP;
+        Play({down, up});
+    }
+
+    /// Runs the steps, the last of which has to leave no menu open.
+    void Run(Steps steps) {
+        Steps_() = std::move(steps);
+        SetTimer(nullptr, 0, 10, [](HWND, UINT, UINT_PTR id, DWORD) {
+            if (Steps_().empty()) {
+                KillTimer(nullptr, id);
+                done_ = true;
+                if (const HWND open = Menu()) {
+                    ADD_FAILURE() << "a menu is left open";
+                    SendMessageA(open, WM_CANCELMODE, 0, 0);
+                }
+                return;
+            }
+            const auto step = Steps_().front();
+            Steps_().erase(Steps_().begin());
+            step();
+        });
+        done_ = false;
+        EXPECT_TRUE(PumpUntil([] { return done_; }));
+    }
+
+    /// @returns the menu that is open.
+    static HWND Menu() {
+        HWND each = nullptr;
+        do {
+            each = FindWindowExA(nullptr, each, "#32768", nullptr);
+        } while (each != nullptr && !IsWindowVisible(each));
+        return each;
+    }
+    static RECT PlaceOf(HWND handle) {
+        RECT rect{};
+        GetWindowRect(handle, &rect);
+        return rect;
+    }
+    static POINT Point(HWND edit, int x, int y) {
+        POINT point{x, y};
+        ClientToScreen(edit, &point);
+        return point;
+    }
+    static COLORREF Pixel(int x, int y) {
+        const HDC screen = GetDC(nullptr);
+        const COLORREF colour = GetPixel(screen, x, y);
+        ReleaseDC(nullptr, screen);
+        return colour;
+    }
+    /// @returns whether the item whose middle is this far below the menu's top is highlighted.
+    static bool IsLit(int y) {
+        const RECT menu = PlaceOf(Menu());
+        return Pixel(menu.left + 6, menu.top + y) == GetSysColor(COLOR_HIGHLIGHT);
+    }
+    static HWND MakeWindow(DWORD style) {
+        const HWND made =
+            Recorder::Get().Make(WS_POPUP | WS_VISIBLE | WS_CAPTION | WS_SYSMENU | style, 100, 100, 300, 150);
+        SetForegroundWindow(made);
+        Pump();
+        Recorder::Get().Clear();
+        return made;
+    }
+    /// The system commands that a window has got, without the one that opens the menu.
+    static std::vector<WPARAM> Commands() {
+        std::vector<WPARAM> commands;
+        for (const Heard& each : Recorder::Get().heard) {
+            const WPARAM command = each.wParam & 0xFFF0;
+            if (each.message == WM_SYSCOMMAND && command != SC_KEYMENU && command != SC_MOUSEMENU) {
+                commands.push_back(command);
+            }
+        }
+        return commands;
+    }
+    /// How many items the open menu has, and lines between them.
+    static int ItemsOf(int lines) {
+        const RECT rect = PlaceOf(Menu());
+        return (rect.bottom - rect.top - 6 - lines * 9) / kItem;
+    }
+
+    static constexpr int kItem = 17;
+    /// The middles of the items of a field's menu.
+    static constexpr int kUndo = 3 + 8;
+    static constexpr int kLine = 3 + kItem + 4;
+    static constexpr int kCut = kUndo + kItem + 9;
+    static constexpr int kCopy = kCut + kItem;
+    static constexpr int kPaste = kCopy + kItem;
+    static constexpr int kDelete = kPaste + kItem;
+    static constexpr int kSelectAll = kDelete + kItem + 9;
+
+    /// Opens the field's menu by the keyboard and goes down some items. The keys are queued before it opens, a spare Escape too.
+    static void Choose(HWND edit, int down, WPARAM last = VK_RETURN) {
+        SetFocus(edit);
+        for (int i = 0; i < down; ++i)
+            PostMessageA(edit, WM_KEYDOWN, VK_DOWN, 1);
+        PostMessageA(edit, WM_KEYDOWN, last, 1);
+        PostMessageA(edit, WM_KEYDOWN, VK_ESCAPE, 1);
+        Send(edit, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(edit), -1);
+        Pump();
+        SetFocus(edit);
+    }
+    /// Which item of a field's menu is which, from the top.
+    static constexpr int kUndoItem = 1;
+    static constexpr int kCutItem = 2;
+    static constexpr int kCopyItem = 3;
+    static constexpr int kPasteItem = 4;
+    static constexpr int kDeleteItem = 5;
+    static constexpr int kSelectAllItem = 6;
+
+    static Steps& Steps_() {
+        static Steps steps;
+        return steps;
+    }
+    static inline bool done_ = false;
+    HWND window = nullptr;
+};
+
+TEST_F(OpenMenus, OfAFieldStandAtThePointerAndLeaveItTheFocus) {
+    const HWND edit = Make(ES_AUTOHSCROLL, "one two");
+    Select(edit, 0, 3);
+    const POINT at = Point(edit, 60, 8);
+    Run({[&] { RightClick(at.x, at.y); },
+         [&] {
+             const RECT menu = PlaceOf(Menu());
+             EXPECT_EQ(at.x, menu.left);
+             EXPECT_EQ(at.y, menu.top);
+             EXPECT_EQ(6, ItemsOf(2));
+             EXPECT_EQ(edit, GetFocus());
+             EXPECT_EQ(parent_, GetActiveWindow());
+             EXPECT_EQ("[one] two", Marked(edit));
+             const POINT selected = Point(edit, 4, 2);
+             EXPECT_EQ(GetSysColor(COLOR_HIGHLIGHT), Pixel(selected.x, selected.y));
+             EXPECT_EQ(GetSysColor(COLOR_3DHIGHLIGHT), Pixel(menu.left + 1, menu.top + 1));
+             EXPECT_EQ(GetSysColor(COLOR_3DDKSHADOW), Pixel(menu.right - 1, menu.bottom - 1));
+             EXPECT_EQ(GetSysColor(COLOR_3DSHADOW), Pixel(menu.left + 20, menu.top + kLine - 1));
+             EXPECT_EQ(GetSysColor(COLOR_3DHIGHLIGHT), Pixel(menu.left + 20, menu.top + kLine));
+             EXPECT_FALSE(IsLit(kCopy));
+             Move(menu.left + 10, menu.top + kCopy);
+         },
+         [&] {
+             EXPECT_TRUE(IsLit(kCopy));
+             Move(at.x + 10, at.y + kPaste);
+         },
+         [&] {
+             EXPECT_FALSE(IsLit(kCopy));
+             EXPECT_TRUE(IsLit(kPaste)) << "disabled ones too";
+             Move(at.x - 30, at.y);
+         },
+         [&] {
+             EXPECT_FALSE(IsLit(kPaste)) << "the pointer has left the menu";
+             Click(at.x + 10, at.y + kUndo);
+         },
+         [&] {
+             ASSERT_NE(nullptr, Menu()) << "nothing to undo: the item does not answer";
+             Click(at.x + 10, at.y + kLine);
+         },
+         [&] {
+             ASSERT_NE(nullptr, Menu());
+             Click(at.x + 10, at.y + kCut);
+         }});
+    EXPECT_EQ("| two", Marked(edit));
+}
+
+TEST_F(OpenMenus, OfAFieldDoWhatTheirItemsSay) {
+    const HWND edit = Make(ES_AUTOHSCROLL, "one two");
+    Choose(edit, kSelectAllItem);
+    EXPECT_EQ("[one two]", Marked(edit));
+    Select(edit, 0, 3);
+    Choose(edit, kCutItem);
+    EXPECT_EQ("| two", Marked(edit));
+    Choose(edit, kUndoItem);
+    EXPECT_EQ("[one] two", Marked(edit));
+    Choose(edit, kCopyItem);
+    Select(edit, 7, 7);
+    Choose(edit, kPasteItem);
+    EXPECT_EQ("one twoone|", Marked(edit));
+    Select(edit, 3, 7);
+    Choose(edit, kDeleteItem);
+    EXPECT_EQ("one|one", Marked(edit));
+    Select(edit, 0, 2);
+    Choose(edit, kDeleteItem, VK_ESCAPE);
+    EXPECT_EQ("[on]eone", Marked(edit)) << "put away, with the selection as it was";
+    EXPECT_EQ(edit, GetFocus());
+}
+
+TEST_F(OpenMenus, OfAFieldOfferWhatCanBeDone) {
+    const HWND edit = Make(ES_AUTOHSCROLL, "secret");
+    Select(edit, 0, 6);
+    SetFocus(edit);
+    // A letter whose item is disabled leaves the menu open.
+    const auto refused = [&](const char* letters) {
+        Steps steps;
+        for (; *letters; ++letters) {
+            steps.push_back([=, letter = *letters] {
+                if (!Menu()) {
+                    PostMessageA(edit, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(edit), -1);
+                }
+                Key(static_cast<WORD>(letter));
+            });
+            steps.push_back([letter = *letters] { EXPECT_NE(nullptr, Menu()) << letter; });
+        }
+        steps.push_back([] { Key(VK_ESCAPE); });
+        Run(steps);
+        EXPECT_EQ("[secret]", Marked(edit)) << letters;
+    };
+    if (OpenClipboard(edit)) {
+        EmptyClipboard();
+        CloseClipboard();
+    }
+    refused("UPA");
+    Send(edit, EM_SETPASSWORDCHAR, '*');
+    refused("UTCPA");
+    Send(edit, EM_SETPASSWORDCHAR, 0);
+    Send(edit, EM_SETREADONLY, TRUE);
+    refused("UTPDA");
+    Run({[&] { PostMessageA(edit, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(edit), -1); }, [] { Key('C'); }});
+    Send(edit, EM_SETREADONLY, FALSE);
+    Select(edit, 6, 6);
+    Run({[&] { PostMessageA(edit, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(edit), -1); }, [] { Key('P'); }});
+    EXPECT_EQ("secretsecret|", Marked(edit));
+}
+
+TEST_F(OpenMenus, AreGoneThroughByKeys) {
+    const HWND edit = Make(ES_AUTOHSCROLL, "one two");
+    Select(edit, 0, 3);
+    SetFocus(edit);
+    Run({[&] { PostMessageA(edit, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(edit), -1); },
+         [&] {
+             // Below the caret's line.
+             POINT caret{};
+             GetCaretPos(&caret);
+             ClientToScreen(edit, &caret);
+             EXPECT_EQ(caret.x, PlaceOf(Menu()).left);
+             EXPECT_EQ(caret.y + static_cast<LONG>(HIWORD(GetDialogBaseUnits())), PlaceOf(Menu()).top);
+             Key(VK_UP);
+         },
+         [] {
+             EXPECT_TRUE(IsLit(kSelectAll)) << "from one end to the other";
+             Key(VK_DOWN);
+         },
+         [] {
+             EXPECT_TRUE(IsLit(kUndo));
+             Key(VK_RETURN);
+         },
+         [] {
+             EXPECT_NE(nullptr, Menu()) << "there is nothing to undo";
+             Key(VK_DOWN);
+         },
+         [] {
+             EXPECT_TRUE(IsLit(kCut)) << "a line is passed over";
+             Key(VK_END);
+         },
+         [] {
+             EXPECT_TRUE(IsLit(kSelectAll));
+             Key('Q');
+         },
+         [] {
+             EXPECT_NE(nullptr, Menu()) << "no item has this letter";
+             Key(VK_HOME);
+             Key(VK_ESCAPE);
+         }});
+    EXPECT_EQ("[one] two", Marked(edit));
+    EXPECT_EQ(edit, GetFocus());
+}
+
+TEST_F(OpenMenus, ComeByTheKeysOfTheKeyboard) {
+    const HWND edit = Make(ES_AUTOHSCROLL, "one");
+    SetFocus(edit);
+    Run({[] { Key(VK_APPS); }, [] { EXPECT_NE(nullptr, Menu()); }, [] { Key('A'); },
+         [&] {
+             EXPECT_EQ("[one]", Marked(edit));
+             INPUT shift{};
+             shift.type = INPUT_KEYBOARD;
+             shift.ki.wVk = VK_SHIFT;
+             Play({shift});
+             Key(VK_F10);
+             shift.ki.dwFlags = KEYEVENTF_KEYUP;
+             Play({shift});
+         },
+         [] { EXPECT_NE(nullptr, Menu()); }, [] { Key('D'); }});
+    EXPECT_EQ("|", Marked(edit));
+}
+
+TEST_F(OpenMenus, OfAComboBoxAreThoseOfItsField) {
+    const HWND combo = CreateWindowExA(0, "combobox", "", WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, 10, 60, 100, 90,
+                                       parent_, nullptr, nullptr, nullptr);
+    const HWND field = GetWindow(combo, GW_CHILD);
+    SetWindowTextA(field, "one");
+    SetFocus(field);
+    Select(field, 3, 3);
+    Send(field, WM_KEYDOWN, VK_F4, 1);
+    EXPECT_NE(nullptr, GetCapture()) << "the list is dropped";
+    Run({[&] { PostMessageA(field, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(field), -1); },
+         [] {
+             EXPECT_NE(nullptr, Menu());
+             EXPECT_EQ(Menu(), GetCapture()) << "the list has closed";
+             Key('A');
+         }});
+    EXPECT_EQ("[one]", Marked(field));
+    EXPECT_EQ(field, GetFocus());
+}
+
+TEST_F(OpenMenus, TheMiddleButtonHasNothingToInsertWithoutADesktop) {
+    const HWND edit = Make(ES_AUTOHSCROLL, "one two");
+    Select(edit, 0, 3);
+    Type(edit, "\x03");
+    Send(edit, WM_MBUTTONDOWN, MK_MBUTTON, MAKELPARAM(60, 8));
+    EXPECT_EQ("[one] two", Marked(edit)) << "the clipboard is something else";
+}
+
+TEST_F(OpenMenus, AClickBesideThemGoesWhereItWasMeant) {
+    const HWND edit = Make(ES_AUTOHSCROLL, "one two");
+    const HWND other = CreateWindowExA(0, "edit", "other", WS_CHILD | WS_VISIBLE, 10, 150, 100, 20, parent_, nullptr,
+                                       nullptr, nullptr);
+    const POINT at = Point(edit, 60, 8);
+    const POINT beside = Point(other, 5, 5);
+    Run({[&] { RightClick(at.x, at.y); }, [] { EXPECT_NE(nullptr, Menu()); }, [&] { Click(beside.x, beside.y); },
+         [&] {
+             EXPECT_EQ(nullptr, Menu());
+             EXPECT_EQ(other, GetFocus());
+             RightClick(at.x, at.y);
+         },
+         [&] { RightClick(beside.x, beside.y); },
+         [&] {
+             EXPECT_EQ(beside.y, PlaceOf(Menu()).top) << "the other field's menu in its place";
+             Key(VK_ESCAPE);
+         }});
+}
+
+TEST_F(OpenMenus, StayOnTheScreen) {
+    const int width = GetSystemMetrics(SM_CXSCREEN);
+    const int height = GetSystemMetrics(SM_CYSCREEN);
+    SetWindowPos(parent_, nullptr, width - 140, height - 80, 300, 200, SWP_NOZORDER);
+    const HWND edit = Make(ES_AUTOHSCROLL, "one two");
+    Select(edit, 7, 7);
+    SetFocus(edit);
+    const POINT at = Point(edit, 110, 8);
+    Run({[&] { RightClick(at.x, at.y); },
+         [&] {
+             EXPECT_EQ(at.x, PlaceOf(Menu()).right);
+             EXPECT_EQ(at.y, PlaceOf(Menu()).bottom);
+             Key(VK_ESCAPE);
+             Key(VK_APPS);
+         },
+         [&] {
+             POINT caret{};
+             GetCaretPos(&caret);
+             ClientToScreen(edit, &caret);
+             EXPECT_EQ(caret.y, PlaceOf(Menu()).bottom) << "above the line where there is no room below";
+             EXPECT_LE(PlaceOf(Menu()).right, width);
+             Key(VK_ESCAPE);
+         }});
+}
+
+TEST_F(OpenMenus, EndWithWhatTheyBelongTo) {
+    const auto open = [&](HWND edit, const std::function<void()>& happens) {
+        Run({[=] { PostMessageA(edit, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(edit), -1); },
+             [] { EXPECT_NE(nullptr, Menu()); }, happens, [] { EXPECT_EQ(nullptr, Menu()); }});
+        if (IsWindow(parent_)) {
+            SetForegroundWindow(parent_);
+        }
+    };
+    const HWND edit = Make(ES_AUTOHSCROLL, "one");
+    open(edit, [&] { SendMessageA(edit, WM_CANCELMODE, 0, 0); });
+    open(edit, [&] { SendMessageA(parent_, WM_CANCELMODE, 0, 0); });
+    open(edit, [&] { EnableWindow(parent_, FALSE); });
+    EnableWindow(parent_, TRUE);
+    open(edit, [&] { ShowWindow(parent_, SW_HIDE); });
+    ShowWindow(parent_, SW_SHOW);
+    open(edit, [&] { SetCapture(parent_); });
+    ReleaseCapture();
+    open(edit, [&] {
+        window = Recorder::Get().Make(WS_POPUP | WS_VISIBLE, 500, 500, 50, 50);
+        SetActiveWindow(window);
+    });
+    open(edit, [&] {
+        std::thread([&] {
+            const HWND other =
+                CreateWindowExA(0, "static", "", WS_POPUP | WS_VISIBLE, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+            SetForegroundWindow(other);
+            DestroyWindow(other);
+        }).join();
+    });
+    open(edit, [&] {
+        SendMessageA(edit, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(edit), -1);
+        SendMessageA(Menu(), WM_CLOSE, 0, 0);
+    });
+    open(edit, [&] { DestroyWindow(edit); });
+    const HWND second = Make(ES_AUTOHSCROLL, "two");
+    open(second, [&] { DestroyWindow(parent_); });
+}
+
+TEST_F(OpenMenus, TheEndOfTheProgramEndsThem) {
+    const HWND edit = Make(ES_AUTOHSCROLL, "one");
+    PostMessageA(edit, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(edit), -1);
+    PostQuitMessage(5);
+    MSG message;
+    int taken = 0;
+    while (GetMessageA(&message, nullptr, 0, 0) > 0 && ++taken < 100) {
+        DispatchMessageA(&message);
+    }
+    EXPECT_EQ(UINT{WM_QUIT}, message.message);
+    EXPECT_EQ(5U, message.wParam);
+}
+
+TEST_F(OpenMenus, OfAWindowOfferWhatItsStylesAllow) {
+    window = MakeWindow(0);
+    const auto key = [](WORD letter) { return [=] { Key(letter); }; };
+    Steps steps{[&] { PostMessageA(window, WM_SYSCOMMAND, SC_KEYMENU, VK_SPACE); },
+                [&] {
+                    EXPECT_EQ(2, ItemsOf(0)) << "a dialog's: Move and Close";
+                    EXPECT_TRUE(IsLit(kUndo)) << "the first item, from the start";
+                },
+                key(VK_ESCAPE)};
+    Run(steps);
+    DestroyWindow(window);
+
+    window = MakeWindow(WS_THICKFRAME | WS_MAXIMIZEBOX | WS_MINIMIZEBOX);
+    Run({[&] { PostMessageA(window, WM_SYSCOMMAND, SC_KEYMENU, VK_SPACE); },
+         [] {
+             EXPECT_EQ(6, ItemsOf(1));
+             Key('R');
+         },
+         [] {
+             EXPECT_NE(nullptr, Menu()) << "it is not to be restored";
+             Key('X');
+         }});
+    EXPECT_TRUE(IsZoomed(window));
+    EXPECT_EQ((std::vector<WPARAM>{SC_MAXIMIZE}), Commands());
+    for (const char letter : {'M', 'S', 'X'}) {
+        Run({[&] { PostMessageA(window, WM_SYSCOMMAND, SC_KEYMENU, VK_SPACE); }, key(static_cast<WORD>(letter)),
+             [=] { EXPECT_NE(nullptr, Menu()) << letter; }, key(VK_ESCAPE)});
+    }
+    Run({[&] { PostMessageA(window, WM_SYSCOMMAND, SC_KEYMENU, VK_SPACE); }, key('R')});
+    EXPECT_FALSE(IsZoomed(window));
+    Run({[&] { PostMessageA(window, WM_SYSCOMMAND, SC_KEYMENU, VK_SPACE); }, key('N')});
+    EXPECT_TRUE(IsIconic(window));
+    Run({[&] { PostMessageA(window, WM_SYSCOMMAND, SC_RESTORE, 0); },
+         [&] { PostMessageA(window, WM_SYSCOMMAND, SC_KEYMENU, VK_SPACE); }, key('C')});
+    EXPECT_FALSE(IsWindow(window));
+}
+
+TEST_F(OpenMenus, OfAWindowComeByItsCaptionAndItsIcon) {
+    window = MakeWindow(WS_MINIMIZEBOX);
+    SendMessageA(window, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(LoadIconA(nullptr, IDI_APPLICATION)));
+    constexpr POINT kIcon{112, 112};
+    constexpr POINT kCaption{200, 112};
+    Run({[&] { RightClick(kCaption.x, kCaption.y); },
+         [&] {
+             EXPECT_EQ(kCaption.x, PlaceOf(Menu()).left);
+             EXPECT_EQ(kCaption.y, PlaceOf(Menu()).top);
+             Key(VK_ESCAPE);
+             Click(kIcon.x, kIcon.y);
+         },
+         [&] {
+             EXPECT_EQ(103, PlaceOf(Menu()).left) << "below the icon";
+             EXPECT_EQ(121, PlaceOf(Menu()).top);
+             EXPECT_FALSE(IsLit(kUndo));
+             Key(VK_ESCAPE);
+         }});
+    // Clicks on the icon come and go with the menu, as long as they are no double click.
+    const auto press = [=](DWORD time, DWORD flags) {
+        INPUT input = At(kIcon.x, kIcon.y, flags);
+        input.mi.time = time;
+        Play({input});
+    };
+    const auto clickAt = [=](DWORD time) {
+        press(time, MOUSEEVENTF_LEFTDOWN);
+        press(time, MOUSEEVENTF_LEFTUP);
+    };
+    const DWORD now = GetTickCount() + 10000;
+    Run({[=] { clickAt(now); }, [] { EXPECT_NE(nullptr, Menu()); }, [=] { clickAt(now + 5000); },
+         [] { EXPECT_EQ(nullptr, Menu()); }, [=] { clickAt(now + 10000); }, [] { EXPECT_NE(nullptr, Menu()); },
+         // Pressed, dragged to the last item, let go.
+         [] { Key(VK_ESCAPE); }, [=] { press(now + 20000, MOUSEEVENTF_LEFTDOWN); },
+         [] {
+             const RECT menu = PlaceOf(Menu());
+             Play({At(menu.left + 20, menu.bottom - 10, 0)});
+         },
+         [] {
+             const RECT menu = PlaceOf(Menu());
+             Play({At(menu.left + 20, menu.bottom - 10, MOUSEEVENTF_LEFTUP)});
+         }});
+    EXPECT_FALSE(IsWindow(window));
+
+    window = MakeWindow(0);
+    SendMessageA(window, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(LoadIconA(nullptr, IDI_APPLICATION)));
+    Run({[=] { clickAt(now + 30000); }, [=] { clickAt(now + 30000); }});
+    EXPECT_FALSE(IsWindow(window)) << "a double click closes";
+}
+
+TEST_F(OpenMenus, MovingAndSizingGoByArrows) {
+    window = MakeWindow(WS_THICKFRAME);
+    const auto choose = [&](WORD letter, const std::vector<WORD>& keys) {
+        Steps steps{[&] { PostMessageA(window, WM_SYSCOMMAND, SC_KEYMENU, VK_SPACE); }, [=] { Key(letter); }};
+        for (const WORD each : keys) {
+            steps.push_back([=] { Key(each); });
+        }
+        Run(steps);
+        return PlaceOf(window);
+    };
+    const RECT moved = choose('M', {VK_RIGHT, VK_RIGHT, VK_DOWN, VK_RETURN});
+    EXPECT_EQ(116, moved.left);
+    EXPECT_EQ(108, moved.top);
+    EXPECT_EQ(116, choose('M', {VK_LEFT, VK_UP, VK_ESCAPE}).left);
+    const RECT wider = choose('S', {VK_RIGHT, VK_RIGHT, VK_RIGHT, VK_RETURN});
+    EXPECT_EQ(116, wider.left);
+    EXPECT_EQ(416 + 16, wider.right) << "the first arrow takes hold of the edge";
+    const RECT corner = choose('S', {VK_LEFT, VK_LEFT, VK_UP, VK_UP, VK_RIGHT, VK_RETURN});
+    EXPECT_EQ(116, corner.left);
+    EXPECT_EQ(100, corner.top);
+    EXPECT_EQ(wider.right, corner.right);
+    EXPECT_EQ(wider.bottom, corner.bottom);
+    // The mouse goes on from where it is, and a click ends it.
+    Run({[&] { PostMessageA(window, WM_SYSCOMMAND, SC_KEYMENU, VK_SPACE); }, [] { Key('M'); }, [] { Move(605, 605); },
+         [] { Move(615, 600); }, [] { Click(615, 600); }});
+    EXPECT_EQ(nullptr, GetCapture());
+    EXPECT_EQ(WPARAM{SC_MOVE}, Commands().back());
+}
+
+}  // namespace

@@ -1,0 +1,91 @@
+#include "tests/platform/support/painted_window.h"
+
+namespace {
+
+using UpdateRegion = PaintedWindows;
+
+TEST_F(UpdateRegion, GrowsByInvalidationAndShrinksByValidation) {
+    HWND window = Make(kPlain, 10, 10, 100, 80, ground, kRed);
+    Settle();
+    EXPECT_FALSE(GetUpdateRect(window, nullptr, FALSE));
+    ExpectRect(UpdateOf(window), 0, 0, 0, 0);
+
+    const RECT first{5, 5, 20, 20};
+    const RECT second{40, 10, 60, 30};
+    InvalidateRect(window, &first, FALSE);
+    ExpectRect(UpdateOf(window), 5, 5, 20, 20);
+    InvalidateRect(window, &second, FALSE);
+    ExpectRect(UpdateOf(window), 5, 5, 60, 30);
+
+    ValidateRect(window, &first);
+    ExpectRect(UpdateOf(window), 40, 10, 60, 30);
+    ValidateRect(window, &second);
+    EXPECT_FALSE(GetUpdateRect(window, nullptr, FALSE));
+
+    Settle();
+    EXPECT_EQ(Of(window).Count(WM_PAINT), 0);
+}
+
+TEST_F(UpdateRegion, StaysWithinTheClientArea) {
+    HWND window = Make(kPlain | WS_BORDER, 10, 10, 100, 80, ground, kRed);
+    Settle();
+    const RECT beyond{-50, -50, 5000, 20};
+    InvalidateRect(window, &beyond, TRUE);
+    RECT client;
+    GetClientRect(window, &client);
+    ExpectRect(UpdateOf(window), 0, 0, client.right, 20);
+}
+
+TEST_F(UpdateRegion, HiddenWindowsTakeNone) {
+    HWND window = Make(WS_POPUP, 10, 10, 100, 80, ground, kRed);
+    HWND child = Child(window, 0, 0, 20, 20, kGreen);
+    EXPECT_TRUE(InvalidateRect(window, nullptr, TRUE));
+    EXPECT_TRUE(InvalidateRect(child, nullptr, TRUE));
+    EXPECT_FALSE(GetUpdateRect(window, nullptr, FALSE));
+    EXPECT_FALSE(GetUpdateRect(child, nullptr, FALSE));
+}
+
+TEST_F(UpdateRegion, ReachesChildrenUnlessTheParentLeavesThemOut) {
+    HWND plain = Make(kPlain, 10, 10, 100, 80, ground, kRed);
+    HWND inPlain = Child(plain, 10, 10, 30, 30, kGreen);
+    HWND clipping = Make(kPlain | WS_CLIPCHILDREN, 150, 10, 100, 80, ground, kRed);
+    HWND inClipping = Child(clipping, 10, 10, 30, 30, kGreen);
+    Settle();
+
+    InvalidateRect(plain, nullptr, TRUE);
+    EXPECT_TRUE(GetUpdateRect(inPlain, nullptr, FALSE));
+    InvalidateRect(clipping, nullptr, TRUE);
+    EXPECT_FALSE(GetUpdateRect(inClipping, nullptr, FALSE));
+    Settle();
+
+    RedrawWindow(clipping, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+    EXPECT_TRUE(GetUpdateRect(inClipping, nullptr, FALSE));
+    RedrawWindow(clipping, nullptr, nullptr, RDW_VALIDATE | RDW_ALLCHILDREN);
+    EXPECT_FALSE(GetUpdateRect(inClipping, nullptr, FALSE));
+    RedrawWindow(plain, nullptr, nullptr, RDW_INVALIDATE | RDW_NOCHILDREN);
+    EXPECT_FALSE(GetUpdateRect(inPlain, nullptr, FALSE));
+}
+
+TEST_F(UpdateRegion, LeavesOutChildrenAndWhatLiesAbove) {
+    HWND window = Make(kPlain | WS_CLIPCHILDREN, 10, 10, 100, 80, ground, kRed);
+    Child(window, 0, 0, 100, 40, kGreen);
+    Settle();
+    InvalidateRect(window, nullptr, FALSE);
+    UpdateWindow(window);
+    ASSERT_EQ(Of(window).updates.size(), 1U);
+    ExpectRect(Of(window).updates[0], 0, 40, 100, 80);
+}
+
+TEST_F(UpdateRegion, BadHandlesAreRefused) {
+    HWND gone = Make(kPlain, 10, 10, 20, 20, ground, kBlue);
+    DestroyWindow(gone);
+    SetLastError(0);
+    EXPECT_FALSE(InvalidateRect(gone, nullptr, TRUE));
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_WINDOW_HANDLE));
+    EXPECT_FALSE(GetUpdateRect(gone, nullptr, FALSE));
+    PAINTSTRUCT paint;
+    EXPECT_EQ(BeginPaint(gone, &paint), nullptr);
+    EXPECT_EQ(GetDC(gone), nullptr);
+}
+
+}  // namespace
