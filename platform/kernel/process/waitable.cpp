@@ -11,6 +11,7 @@
 #include <unistd.h>
 
 #include "base/clock.h"
+#include "base/immortal.h"
 #include "base/fail.h"
 #include "base/handle.h"
 #include "kernel/modules/module.h"
@@ -55,8 +56,8 @@ struct HandleShare {
 
 // A share may be taken out of the table and deleted by another thread: it is read, and taken out, only under this lock.
 std::mutex& SharesLock() {
-    static auto& lock = *new std::mutex;
-    return lock;
+    static base::Immortal<std::mutex> lock;
+    return *lock;
 }
 
 HANDLE MakeHandle(HandleKind kind, const std::shared_ptr<Waitable>& object) {
