@@ -15,7 +15,7 @@ struct Record {
     std::atomic<unsigned long> events;
     std::atomic<unsigned long> dialogs;
     std::atomic<unsigned long> failed;  ///< allocations that were made to fail
-    char lines[kLines][kLength];  ///< a ring: that of event n is at n modulo kLines
+    char lines[kLines][kLength];        ///< a ring: that of event n is at n modulo kLines
 };
 
 /// The calling process's record: shared with whoever started it, else its own.

@@ -176,8 +176,7 @@ LRESULT OnInput(ListData& list, UINT message, WPARAM wParam, LPARAM lParam) {
             return 0;
         case WM_MOUSEWHEEL:
             // A combo box hands the wheel on to its list, which must not hand it back.
-            return OnWheel(list, wParam) || list.combo ? 0
-                                                       : DefWindowProcA(list.window, message, wParam, lParam);
+            return OnWheel(list, wParam) || list.combo ? 0 : DefWindowProcA(list.window, message, wParam, lParam);
         case WM_CAPTURECHANGED:
             if (list.tracking) {
                 EndTracking(list);
