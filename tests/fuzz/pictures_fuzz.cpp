@@ -62,16 +62,9 @@ void LoadIcons(HINSTANCE instance) {
     Canvas const canvas;
     if (HICON const icon = LoadIconA(instance, MAKEINTRESOURCEA(1))) {
         DrawIcon(canvas, 3, 3, icon);
-        ICONINFO information = {};
-        if (GetIconInfo(icon, &information)) {
-            DeleteObject(information.hbmColor);
-            DeleteObject(information.hbmMask);
-        }
-        DestroyIcon(CopyIcon(icon));
     }
     if (HCURSOR const cursor = LoadCursorA(instance, MAKEINTRESOURCEA(1))) {
         DrawIcon(canvas, -3, 3, cursor);
-        DestroyCursor(cursor);
     }
 }
 
@@ -98,8 +91,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     {
         fuzz::Module const module(file);
         if (bitmap) {
-            UINT const flags = (how & 2 ? LR_CREATEDIBSECTION : 0) | (how & 4 ? LR_LOADMAP3DCOLORS : 0) |
-                               (how & 8 ? LR_LOADTRANSPARENT : 0) | (how & 16 ? LR_MONOCHROME : 0);
+            UINT const flags = how & 2 ? LR_CREATEDIBSECTION : LR_DEFAULTCOLOR;
             LoadBitmaps(module.instance(), flags);
         } else {
             LoadIcons(module.instance());
