@@ -92,6 +92,8 @@ void PlaceCaret(Rules const& rules, HWND field) {
 }
 
 void ShowFocus(Rules const& rules, HWND field) {
+    // Told of the focus twice, the field has a caret already.
+    HideFocus(field);
     if (Data* const data = DataOf(field)) {
         data->caretBitmap = CreateCaretBitmap();
         if (CreateCaret(field, data->caretBitmap, kCaretWidth, kCaretHeight)) {

@@ -77,6 +77,20 @@ std::string QueryValue(HKEY key, char const* name) {
     return static_cast<char const*>(text);
 }
 
+/// Closes a key, also when memory runs out while it is read.
+class OpenKey {
+  public:
+    explicit OpenKey(HKEY key) : key_(key) {}
+    ~OpenKey() {
+        RegCloseKey(key_);
+    }
+    OpenKey(OpenKey const&) = delete;
+    OpenKey& operator=(OpenKey const&) = delete;
+
+  private:
+    HKEY key_;
+};
+
 /// @return the lines about the registered user; empty without one.
 std::string RegistrationLines() {
     std::string lines;
@@ -84,6 +98,7 @@ std::string RegistrationLines() {
     if (RegOpenKeyExA(HKEY_LOCAL_MACHINE, kRegistrationKey, 0, KEY_READ, &key) != ERROR_SUCCESS) {
         return lines;
     }
+    OpenKey const open(key);
     std::string const owner = QueryValue(key, "RegisteredOwner");
     if (!owner.empty()) {
         lines = "\n\n" + OwnText(CVAB_LICENSED) + '\n' + owner;
@@ -92,7 +107,6 @@ std::string RegistrationLines() {
             lines += '\n' + organization;
         }
     }
-    RegCloseKey(key);
     return lines;
 }
 

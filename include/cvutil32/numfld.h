@@ -52,7 +52,7 @@ CVAPI(BOOL) NUMFLD_RegisterClass(HINSTANCE instance);
 
 /// Sets the limits of stepping, and with the digits of the maximum how long the text may become by typing: 1 digit up
 /// to 9, 2 up to 99, 3 up to 999, 4 up to 9999, else 5. The text stays as it is.
-/// @param field    a numeric field; anything else, and null, is left alone.
+/// @param field    a numeric field; null, and what is no window, is left alone.
 /// @param minimum  0 to 4294967295; stepping down ends there.
 /// @param maximum  0 to 4294967295; stepping up ends there. It may be below the minimum: then nothing between the two
 /// can be stepped away from.

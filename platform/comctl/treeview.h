@@ -30,6 +30,7 @@ struct TreeItem {
     TreeItem* next = nullptr;
     int depth = 0;
     std::string text;
+    bool leaving = false;  ///< is being deleted: gets no more items below it
     int image = 0;
     int selectedImage = 0;
     int children = 0;  ///< 0 or 1, as the application said or as children came and went

@@ -50,27 +50,43 @@ TreeItem* PlaceFor(const TreePointer& tree, TreeItem* parent, HTREEITEM after) {
     return found && tree->ParentOf(found) == parent ? found : parent->last;
 }
 
-/// An item and everything below it: whatever is below another comes before it.
-void Collect(TreeItem* item, std::vector<HTREEITEM>& found) {
-    std::vector<TreeItem*> open{item};
-    const std::size_t begin = found.size();
-    while (!open.empty()) {
-        TreeItem* const one = open.back();
-        open.pop_back();
-        found.push_back(one->handle);
-        for (TreeItem* child = one->first; child; child = child->next) {
-            open.push_back(child);
+// What goes is marked first and then taken item by item, as whoever hears of an item's end may do anything to the others: a
+// list would take memory, and the application's data must not depend on there being some.
+
+/// Marks an item and everything below it.
+void MarkLeaving(TreeItem* top) {
+    for (TreeItem* item = top;;) {
+        item->leaving = true;
+        if (item->first) {
+            item = item->first;
+            continue;
         }
+        while (item != top && !item->next) {
+            item = item->parent;
+        }
+        if (item == top) {
+            return;
+        }
+        item = item->next;
     }
-    std::reverse(found.begin() + static_cast<std::ptrdiff_t>(begin), found.end());
 }
 
-void Discard(const TreePointer& tree, const std::vector<HTREEITEM>& items) {
-    for (const HTREEITEM handle : items) {
-        if (const TreeItem* item = tree->Find(handle)) {
-            NotifyItems(*tree, TVN_DELETEITEMA, TVC_UNKNOWN, item, nullptr);
+TreeItem* FirstLeaving(TreeItem* item) {
+    while (item && !item->leaving) {
+        item = item->next;
+    }
+    return item;
+}
+
+/// Ends a marked item, or all that are marked (null): whatever is below another comes before it.
+void Discard(const TreePointer& tree, HTREEITEM top) {
+    while (TreeItem* item = top ? tree->Find(top) : FirstLeaving(tree->root.first)) {
+        while (TreeItem* const below = FirstLeaving(item->first)) {
+            item = below;
         }
-        if (TreeItem* item = tree->Find(handle)) {
+        const HTREEITEM handle = item->handle;
+        NotifyItems(*tree, TVN_DELETEITEMA, TVC_UNKNOWN, item, nullptr);
+        if ((item = tree->Find(handle))) {
             tree->Unlink(item);
             tree->Free(item);
         }
@@ -92,7 +108,7 @@ bool HasChildren(const TreeItem* item) {
 
 HTREEITEM InsertItem(const TreePointer& tree, const TVINSERTSTRUCTA& given) {
     TreeItem* const parent = IsRoot(given.hParent) ? &tree->root : tree->Find(given.hParent);
-    if (!parent) {
+    if (!parent || parent->leaving) {
         return nullptr;
     }
     TreeItem* const item = tree->New();
@@ -149,10 +165,9 @@ bool DeleteItem(const TreePointer& tree, HTREEITEM handle) {
             return true;
         }
     }
-    std::vector<HTREEITEM> leaving;
-    Collect(item, leaving);
+    MarkLeaving(item);
     const HTREEITEM above = item->parent ? item->parent->handle : nullptr;
-    Discard(tree, leaving);
+    Discard(tree, handle);
     TreeItem* const parent = tree->Find(above);
     if (parent && !parent->first) {
         parent->children = 0;
@@ -163,13 +178,12 @@ bool DeleteItem(const TreePointer& tree, HTREEITEM handle) {
 }
 
 void DeleteAll(const TreePointer& tree) {
-    std::vector<HTREEITEM> leaving;
     for (TreeItem* item = tree->root.first; item; item = item->next) {
-        Collect(item, leaving);
+        MarkLeaving(item);
     }
     tree->caret = nullptr;
     tree->top = tree->left = 0;
-    Discard(tree, leaving);
+    Discard(tree, nullptr);
     if (!tree->ending) {
         InvalidateRect(tree->window, nullptr, FALSE);
     }

@@ -63,6 +63,10 @@ void SubclassList(FileDialog& dialog) {
 }
 
 std::vector<std::size_t> SelectedRows(const FileDialog& dialog) {
+    // A hook may have put items of its own into the list, so that there is more to be selected than rows.
+    if (dialog.items.empty()) {
+        return {};
+    }
     const HWND list = dialog.Control(lst1);
     std::vector<int> found(dialog.items.size());
     int count =

@@ -1,6 +1,6 @@
 /// @file cvplatform.h
-/// What the layer offers beyond the Windows API, for tests on hosts that have none: counts of live objects and driven
-/// failures of allocation.
+/// What the layer offers beyond the Windows API, for tests on hosts that have none: counts of live objects, driven
+/// failures of allocation, and a driven clock.
 #pragma once
 
 #include "windef.h"
@@ -29,3 +29,8 @@ WINBASEAPI void CvPlatformFailAllocation(unsigned count);
 /// of the shell's allocator. Counted as in CvPlatformFailAllocation. @returns what was left of the order before; 0 when it
 /// had been carried out.
 WINBASEAPI unsigned CvPlatformFailShell(unsigned count);
+
+/// Drives the process's clock: GetTickCount, timers, waits and message times, and the time of day. It stands at so many
+/// milliseconds, which may be more than 32 bits count, and moves on where a thread would wait for a time: to the end of that
+/// wait, at once. 0 gives it back to the host. For programs of one thread: nobody waits for what another thread does meanwhile.
+WINBASEAPI void CvPlatformDriveClock(ULONGLONG milliseconds);

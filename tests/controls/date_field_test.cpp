@@ -429,4 +429,13 @@ TEST_F(DateField, LeavesNothingBehind) {
     }
 }
 
+TEST_F(DateField, ToldOfTheFocusTwiceItHasOneCaret) {
+    SetFocus(host_);
+    LeakCheck const leaks;
+    for (int i = 0; i < 3; ++i) {
+        SendMessageA(field_, WM_SETFOCUS, 0, 0);
+    }
+    SendMessageA(field_, WM_KILLFOCUS, 0, 0);
+}
+
 }  // namespace

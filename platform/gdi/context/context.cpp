@@ -16,6 +16,13 @@ void Drop(Object* object) {
     object->selected.fetch_sub(1, std::memory_order_relaxed);
 }
 
+void Drop(Font* font) {
+    if (font->selected.fetch_sub(1, std::memory_order_relaxed) == 1 && font->doomed) {
+        base::RemoveHandle(font->handle, Font::kKind);
+        delete font;
+    }
+}
+
 void HoldAll(const DrawState& state) {
     Hold(state.pen);
     Hold(state.brush);
@@ -100,10 +107,11 @@ std::atomic<std::size_t> windowContexts{0};
 template <class Kind>
 HGDIOBJ Replace(Kind*& slot, Kind* object) {
     Kind* previous = slot;
+    const auto result = base::ToHandle<HGDIOBJ>(previous->handle);
     Hold(object);
     Drop(previous);
     slot = object;
-    return base::ToHandle<HGDIOBJ>(previous->handle);
+    return result;
 }
 
 }  // namespace
@@ -194,6 +202,12 @@ std::size_t CountObjects() {
     }
     const std::size_t without = StockCount() + windowContexts.load();
     return count > without ? count - without : 0;
+}
+
+void DeleteFontWhenFree(HFONT handle) {
+    if (auto* font = FindObject<Font>(handle); font && !DeleteObject(handle)) {
+        font->doomed = true;
+    }
 }
 
 }  // namespace platform::gdi

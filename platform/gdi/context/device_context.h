@@ -35,6 +35,9 @@ void ExcludeFromClip(HDC context, const RECT& rect);
 void DrawTabbedText(HDC context, int x, int y, const std::string& text);
 int TabbedTextWidth(HDC context, const std::string& text);
 
+/// Deletes a font at once, or when the last context lets go of it that has it selected.
+void DeleteFontWhenFree(HFONT font);
+
 /// @returns the number of live pens, brushes, fonts, bitmaps and contexts, without the stock objects, the system colour
 /// brushes and the window contexts that the user module keeps.
 std::size_t CountObjects();

@@ -45,6 +45,7 @@ struct Brush : Object {
 struct Font : Object {
     static constexpr base::HandleKind kKind = base::HandleKind::Font;
     LOGFONTA logical{};
+    bool doomed = false;                           ///< deleted by whoever lets go of it last
     std::atomic<RealizedFont*> realized{nullptr};  ///< found on first use; lives as long as the process
 };
 

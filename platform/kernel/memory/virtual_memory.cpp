@@ -10,6 +10,7 @@
 #include <new>
 
 #include "base/fail.h"
+#include "base/immortal.h"
 #include "kernel/memory/pages.h"
 
 namespace base = platform::base;
@@ -23,13 +24,13 @@ struct Area {
 
 // Areas by address. Never destroyed: memory may be released while the process ends.
 std::mutex& AreasLock() {
-    static auto& lock = *new std::mutex;
-    return lock;
+    static base::Immortal<std::mutex> lock;
+    return *lock;
 }
 
 std::map<std::uintptr_t, Area>& Areas() {
-    static auto& areas = *new std::map<std::uintptr_t, Area>;
-    return areas;
+    static base::Immortal<std::map<std::uintptr_t, Area>> areas;
+    return *areas;
 }
 
 std::uintptr_t PageSize() {

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "base/handle.h"
+#include "base/immortal.h"
 #include "base/report.h"
 #include "kernel/text/encoding.h"
 #include "kernel/guarded.h"
@@ -123,8 +124,8 @@ Module* FindByName(const std::string& name) {
 }  // namespace
 
 std::recursive_mutex& ModuleLock() {
-    static auto& lock = *new std::recursive_mutex;
-    return lock;
+    static platform::base::Immortal<std::recursive_mutex> lock;
+    return *lock;
 }
 
 Module* FindModule(HMODULE module) {

@@ -1,3 +1,4 @@
+#include <cvplatform.h>
 #include <windows.h>
 
 #include <cerrno>
@@ -18,16 +19,14 @@ void Store(const tm& parts, long nanoseconds, LPSYSTEMTIME time) {
 }  // namespace
 
 void WINAPI GetLocalTime(LPSYSTEMTIME time) {
-    timespec now{};
-    clock_gettime(CLOCK_REALTIME, &now);
+    const timespec now = platform::base::TimeOfDay();
     tm parts{};
     localtime_r(&now.tv_sec, &parts);
     Store(parts, now.tv_nsec, time);
 }
 
 void WINAPI GetSystemTime(LPSYSTEMTIME time) {
-    timespec now{};
-    clock_gettime(CLOCK_REALTIME, &now);
+    const timespec now = platform::base::TimeOfDay();
     tm parts{};
     gmtime_r(&now.tv_sec, &parts);
     Store(parts, now.tv_nsec, time);
@@ -38,9 +37,16 @@ DWORD WINAPI GetTickCount(void) {
 }
 
 void WINAPI Sleep(DWORD milliseconds) {
+    if (milliseconds != INFINITE && platform::base::SkipTo(platform::base::TickCount64() + milliseconds)) {
+        return;
+    }
     timespec wait{milliseconds / 1000, static_cast<long>(milliseconds % 1000) * 1000000};
     do {
         while (nanosleep(&wait, &wait) != 0 && errno == EINTR) {
         }
     } while (milliseconds == INFINITE);
+}
+
+void CvPlatformDriveClock(ULONGLONG milliseconds) {
+    platform::base::DriveClock(milliseconds);
 }

@@ -10,6 +10,8 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
+#include "base/clock.h"
+#include "base/immortal.h"
 #include "base/fail.h"
 #include "base/handle.h"
 #include "kernel/modules/module.h"
@@ -54,8 +56,8 @@ struct HandleShare {
 
 // A share may be taken out of the table and deleted by another thread: it is read, and taken out, only under this lock.
 std::mutex& SharesLock() {
-    static auto& lock = *new std::mutex;
-    return lock;
+    static base::Immortal<std::mutex> lock;
+    return *lock;
 }
 
 HANDLE MakeHandle(HandleKind kind, const std::shared_ptr<Waitable>& object) {
@@ -232,6 +234,8 @@ DWORD WINAPI WaitForSingleObject(HANDLE handle, DWORD milliseconds) {
     const auto ready = [&] { return object->signalled; };
     if (milliseconds == INFINITE) {
         object->changed.wait(guard, ready);
+    } else if (!ready() && base::SkipTo(base::TickCount64() + milliseconds)) {
+        return WAIT_TIMEOUT;
     } else if (!object->changed.wait_for(guard, std::chrono::milliseconds(milliseconds), ready)) {
         return WAIT_TIMEOUT;
     }

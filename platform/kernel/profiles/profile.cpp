@@ -21,6 +21,7 @@
 #include <vector>
 
 #include "base/report.h"
+#include "base/immortal.h"
 #include "base/state.h"
 #include "kernel/text/encoding.h"
 #include "kernel/guarded.h"
@@ -56,8 +57,8 @@ struct Cached {
 };
 
 std::mutex& CacheLock() {
-    static auto& lock = *new std::mutex;
-    return lock;
+    static platform::base::Immortal<std::mutex> lock;
+    return *lock;
 }
 
 bool ReadAll(int descriptor, off_t size, std::string& text) {

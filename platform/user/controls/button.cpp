@@ -285,7 +285,7 @@ LRESULT OnInput(HWND button, ButtonData& data, UINT message, WPARAM wParam, LPAR
 LRESULT CALLBACK ButtonProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const auto data = ControlOf<ButtonData>(window);
     if (!data)
-        return DefWindowProcA(window, message, wParam, lParam);
+        return AnswerWithoutData(window, message, wParam, lParam);
     switch (message) {
         case WM_GETDLGCODE:
             return ButtonDialogCode(window, lParam);

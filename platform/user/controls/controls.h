@@ -42,6 +42,15 @@ std::shared_ptr<Data> ControlOf(HWND handle) {
     return std::dynamic_pointer_cast<Data>(window->control);
 }
 
+/// What a control answers for which there is no memory: a new one is not made.
+inline LRESULT AnswerWithoutData(HWND control, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_NCCREATE) {
+        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+        return FALSE;
+    }
+    return DefWindowProcA(control, message, wParam, lParam);
+}
+
 inline DWORD ControlStyle(HWND control) {
     return static_cast<DWORD>(GetWindowLongA(control, GWL_STYLE));
 }

@@ -152,7 +152,7 @@ std::shared_ptr<BarState> ControlBar(HWND window) {
 LRESULT CALLBACK ScrollBarProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const auto data = ControlOf<ScrollBarData>(window);
     if (!data)
-        return DefWindowProcA(window, message, wParam, lParam);
+        return AnswerWithoutData(window, message, wParam, lParam);
     switch (message) {
         case WM_GETDLGCODE:
             return DLGC_WANTARROWS;

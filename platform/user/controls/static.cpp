@@ -48,7 +48,7 @@ void Notify(HWND control, UINT code) {
 LRESULT CALLBACK StaticProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const auto data = ControlOf<StaticData>(window);
     if (!data)
-        return DefWindowProcA(window, message, wParam, lParam);
+        return AnswerWithoutData(window, message, wParam, lParam);
     switch (message) {
         case WM_NCCREATE:
             SinkEdge(window);

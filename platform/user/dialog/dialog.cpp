@@ -2,13 +2,15 @@
 #include <new>
 #include <utility>
 
+#include "gdi/context/device_context.h"
 #include "user/dialog/dialog.h"
 
 namespace platform::user {
 
 DialogState::~DialogState() {
+    // A control that is painting may have it selected: whoever answers it can end the dialog.
     if (ownFont)
-        DeleteObject(ownFont);
+        gdi::DeleteFontWhenFree(ownFont);
 }
 
 std::shared_ptr<DialogState> FindDialogState(HWND dialog) {

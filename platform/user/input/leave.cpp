@@ -8,26 +8,39 @@
 
 namespace platform::user {
 
+namespace {
+
+/// What a window holds of this thread's goes on to others, who are told. What they do may end the window at once.
+void PassOn(Window* window) {
+    ThreadState* thread = window->thread;
+    const HWND handle = window->handle;
+    LeaveClipboard(handle);
+    if (thread->capture == handle) {
+        MoveCapture(thread, nullptr);
+    }
+    if (PeekWindow(handle) == window && Shared(thread->active) == handle) {
+        ActivateNext(thread, window);
+    }
+    if (PeekWindow(handle) == window && Shared(thread->focus) == handle) {
+        const Window* parent = (window->style & WS_CHILD) != 0 ? window->parent : nullptr;
+        const bool usable = parent != nullptr && parent->thread == thread && !parent->destroying;
+        MoveFocus(thread, usable ? parent->handle : nullptr);
+    }
+}
+
+}  // namespace
+
 void ForgetInput(Window* window) {
     ThreadState* thread = window->thread;
     if (thread == nullptr) {
         return;
     }
     const HWND handle = window->handle;
-    ThreadState* self = CurrentThread();
-    if (thread == self) {
-        LeaveClipboard(handle);
-        if (thread->capture == handle) {
-            MoveCapture(thread, nullptr);
-        }
-        // Each of these tells windows, and what they do may end this one at once.
-        if (PeekWindow(handle) == window && Shared(thread->active) == handle) {
-            ActivateNext(thread, window);
-        }
-        if (PeekWindow(handle) == window && Shared(thread->focus) == handle) {
-            const Window* parent = (window->style & WS_CHILD) != 0 ? window->parent : nullptr;
-            const bool usable = parent != nullptr && parent->thread == thread && !parent->destroying;
-            MoveFocus(thread, usable ? parent->handle : nullptr);
+    if (thread == CurrentThread()) {
+        try {
+            PassOn(window);
+        } catch (const std::bad_alloc&) {
+            SetLastError(ERROR_NOT_ENOUGH_MEMORY);  // nobody is told, but nothing may stay behind
         }
     }
     UserGuard guard(UserLock());

@@ -1,4 +1,5 @@
 // Finding windows, and walking the tree that they make.
+#include "base/immortal.h"
 #include "user/model/window.h"
 
 #include "gdi/surface/screen.h"
@@ -8,8 +9,8 @@ namespace platform::user {
 
 std::recursive_mutex& UserLock() {
     // Never destroyed: threads may outlive the statics of this library.
-    static auto& lock = *new std::recursive_mutex;
-    return lock;
+    static base::Immortal<std::recursive_mutex> lock;
+    return *lock;
 }
 
 Window* FindWindowObject(HWND handle) {

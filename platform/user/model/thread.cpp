@@ -127,7 +127,7 @@ void Sleep(ThreadState* self, UserHold& hold, std::uint64_t deadline) {
         self->wake.wait(hold);
     } else {
         const std::uint64_t now = base::TickCount64();
-        if (deadline > now) {
+        if (deadline > now && !base::SkipTo(deadline)) {
             // A day at most: far deadlines would overflow the clock's arithmetic, and waking early does no harm.
             self->wake.wait_for(hold, std::chrono::milliseconds(std::min<std::uint64_t>(deadline - now, 86400000)));
         }

@@ -81,6 +81,7 @@ struct Window {
 
     RECT restoredRect{};  ///< normal position while minimised or maximised
     bool destroying = false;
+    bool goesAlong = false;         ///< is to be told of the end of its owner or parent, which is its own too
     bool ending = false;            ///< its children are gone, or going: no new ones are made
     bool created = false;           ///< WM_CREATE has returned
     bool captionActive = false;     ///< how the caption was drawn last (WM_NCACTIVATE)

@@ -91,6 +91,16 @@ Slot* FindSlot(HDC context) {
     return nullptr;
 }
 
+/// Ends a context in use and puts another one in its place: whoever still paints with it must not change what the next
+/// window gets. @returns false when there is none.
+bool Renew(Slot& slot) {
+    gdi::DeleteScreenContext(slot.context);
+    slot.context = gdi::CreateScreenContext(POINT{0, 0}, gdi::Region());
+    slot.inUse = false;
+    slot.painting = false;
+    return slot.context != nullptr;
+}
+
 unsigned VisibleFlagsOf(const Window* window, bool whole) {
     if (window == Desktop()) {
         return kVisibleWhole;
@@ -166,18 +176,19 @@ int ContextsInUse() {
 
 void ForgetPainting(Window* window) {
     UserGuard guard(UserLock());
-    for (const auto& slot : AllSlots()) {
-        if (slot->window != window->handle) {
-            continue;
+    Slots& slots = AllSlots();
+    for (std::size_t i = 0; i < slots.size();) {
+        Slot& slot = *slots[i];
+        if (slot.window == window->handle) {
+            if (slot.inUse && !Renew(slot)) {
+                slots.erase(slots.begin() + static_cast<std::ptrdiff_t>(i));
+                continue;
+            }
+            gdi::ReplaceVisible(slot.context, POINT{0, 0}, gdi::Region());
+            slot.window = nullptr;
+            slot.limited = false;
         }
-        if (slot->inUse) {
-            gdi::ResetContext(slot->context);
-            slot->inUse = false;
-            slot->painting = false;
-        }
-        gdi::ReplaceVisible(slot->context, POINT{0, 0}, gdi::Region());
-        slot->window = nullptr;
-        slot->limited = false;
+        ++i;
     }
     window->update.Clear();
     window->eraseNeeded = window->frameNeeded = window->internalPaint = false;

@@ -38,35 +38,67 @@ bool IsWithin(const Window* window, const Window* ancestor) {
     return window != nullptr;
 }
 
-/// The windows that a window, or one of its thread within it, owns.
-std::vector<HWND> OwnedWithin(const Window* owner) {
-    std::vector<HWND> list;
-    for (const Window* window = Desktop()->firstChild; window; window = window->next) {
+// What ends along with a window is marked first and then taken one by one, as any of them may end the others: a list would
+// take memory, and the end of a window must not depend on there being some.
+
+/// Marks the windows that a window, or one of its thread within it, owns. Lock held.
+void MarkOwned(const Window* owner) {
+    for (Window* window = Desktop()->firstChild; window; window = window->next) {
         if (window->owner && window->owner->thread == owner->thread && IsWithin(window->owner, owner)) {
-            list.push_back(window->handle);
+            window->goesAlong = true;
         }
     }
-    return list;
+}
+
+HWND TakeOwned(HWND handle) {
+    const UserGuard guard(UserLock());
+    const Window* owner = PeekWindow(handle);
+    for (Window* window = owner ? Desktop()->firstChild : nullptr; window; window = window->next) {
+        if (window->goesAlong && window->owner && IsWithin(window->owner, owner)) {
+            window->goesAlong = false;
+            return window->handle;
+        }
+    }
+    return nullptr;
+}
+
+void MarkChildren(HWND handle) {
+    const UserGuard guard(UserLock());
+    if (const Window* window = PeekWindow(handle)) {
+        for (Window* child = window->firstChild; child; child = child->next) {
+            child->goesAlong = child->thread == window->thread;
+        }
+    }
+}
+
+HWND TakeChild(HWND handle) {
+    const UserGuard guard(UserLock());
+    const Window* window = PeekWindow(handle);
+    for (Window* child = window ? window->firstChild : nullptr; child; child = child->next) {
+        if (child->goesAlong) {
+            child->goesAlong = false;
+            return child->handle;
+        }
+    }
+    return nullptr;
 }
 
 /// WM_DESTROY comes to a window before its children, which all still live.
 void SendDestroy(HWND handle) {
     SendMessageA(handle, WM_DESTROY, 0, 0);
-    std::vector<HWND> children;
-    {
-        const UserGuard guard(UserLock());
-        if (const Window* window = PeekWindow(handle)) {
-            for (const Window* child = window->firstChild; child; child = child->next) {
-                if (child->thread == window->thread) {
-                    children.push_back(child->handle);
-                }
-            }
-        }
+    MarkChildren(handle);
+    while (HWND child = TakeChild(handle)) {
+        SendDestroy(child);
     }
-    for (HWND child : children) {
-        if (PeekWindow(child)) {
-            SendDestroy(child);
-        }
+}
+
+/// A step on the way to a window's end, which is left out where memory has run out.
+template <class Step>
+void IfMemoryAllows(Step step) {
+    try {
+        step();
+    } catch (const std::bad_alloc&) {
+        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
     }
 }
 
@@ -168,36 +200,33 @@ void EndWindow(HWND handle) {
 }
 
 bool DestroyTree(HWND handle) {
-    std::vector<HWND> owned;
     {
         const UserGuard guard(UserLock());
         Window* window = PeekWindow(handle);
         if (!window || window->destroying) {
             return window != nullptr;
         }
-        owned = OwnedWithin(window);
+        MarkOwned(window);
         window->destroying = true;
     }
     NotifyParents(handle, WM_DESTROY);
-    for (HWND other : owned) {
-        const UserGuard guard(UserLock());
-        Window* window = PeekWindow(other);
-        if (window && window->thread != CurrentThread()) {
-            window->owner = nullptr;  // only its own thread may destroy it
+    while (HWND owned = TakeOwned(handle)) {
+        {
+            const UserGuard guard(UserLock());
+            Window* window = PeekWindow(owned);
+            if (window->thread != CurrentThread()) {
+                window->owner = nullptr;  // only its own thread may destroy it
+                continue;
+            }
         }
-    }
-    for (HWND other : owned) {
-        const Window* window = PeekWindow(other);
-        if (window && window->thread == CurrentThread()) {
-            DestroyTree(other);
-        }
+        DestroyTree(owned);
     }
     // Activation, focus and capture move on while the window can still be told.
     if (Window* window = PeekWindow(handle)) {
-        HideForDestruction(window);
+        IfMemoryAllows([=] { HideForDestruction(window); });
     }
     if (Window* window = PeekWindow(handle)) {
-        LeaveDisabledOrHidden(window, true);
+        IfMemoryAllows([=] { LeaveDisabledOrHidden(window, true); });
     }
     if (PeekWindow(handle)) {
         SendDestroy(handle);
@@ -212,7 +241,7 @@ bool DestroyTree(HWND handle) {
 
 using namespace platform::user;
 
-BOOL WINAPI DestroyWindow(HWND handle) try {
+BOOL WINAPI DestroyWindow(HWND handle) {
     {
         const UserGuard guard(UserLock());
         const Window* window = FindWindowObject(handle);
@@ -225,7 +254,4 @@ BOOL WINAPI DestroyWindow(HWND handle) try {
         }
     }
     return DestroyTree(handle);
-} catch (const std::bad_alloc&) {
-    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-    return FALSE;
 }

@@ -195,11 +195,12 @@ LRESULT OnInput(ComboData& combo, UINT message, WPARAM wParam, LPARAM lParam) {
 LRESULT CALLBACK ComboBoxProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const auto data = ControlOf<ComboData>(window);
     if (!data)
-        return DefWindowProcA(window, message, wParam, lParam);
+        return AnswerWithoutData(window, message, wParam, lParam);
     ComboData& combo = *data;
+    // A procedure in front of this one may have kept WM_NCCREATE to itself.
+    combo.window = window;
     switch (message) {
         case WM_NCCREATE:
-            combo.window = window;
             TakeFrameStyles(combo);
             return DefWindowProcA(window, message, wParam, lParam);
         case WM_CREATE:

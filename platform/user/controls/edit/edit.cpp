@@ -307,7 +307,7 @@ LRESULT Handle(HWND edit, EditData& data, UINT message, WPARAM wParam, LPARAM lP
 LRESULT CALLBACK EditProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const auto data = ControlOf<EditData>(window);
     if (!data) {
-        return message == WM_NCCREATE ? FALSE : DefWindowProcA(window, message, wParam, lParam);
+        return AnswerWithoutData(window, message, wParam, lParam);
     }
     try {
         return Handle(window, *data, message, wParam, lParam);

@@ -1,5 +1,6 @@
 // Where the items of a list box lie, and how it scrolls.
 #include <algorithm>
+#include <cstdint>
 
 #include "user/controls/listbox/list.h"
 #include "user/painting/painting.h"
@@ -38,6 +39,16 @@ int LastTop(const ListData& list) {
     return std::max(0, count - RowsOf(list));
 }
 
+namespace {
+
+/// A distance of many items: no screen is as wide as this, and numbers do not overflow.
+LONG Distance(int count, int each) {
+    constexpr std::int64_t kFar = 1 << 30;
+    return static_cast<LONG>(std::clamp(std::int64_t{count} * each, -kFar, kFar));
+}
+
+}  // namespace
+
 RECT RectOf(const ListData& list, int index) {
     const RECT client = ListClient(list);
     if (list.Columns()) {
@@ -45,10 +56,10 @@ RECT RectOf(const ListData& list, int index) {
         const int from = index - list.top;
         const int column = from >= 0 ? from / rows : -((rows - 1 - from) / rows);
         const int row = from - column * rows;
-        const int left = column * list.columnWidth;
-        return {left, row * list.itemHeight, left + list.columnWidth, (row + 1) * list.itemHeight};
+        return {Distance(column, list.columnWidth), Distance(row, list.itemHeight),
+                Distance(column + 1, list.columnWidth), Distance(row + 1, list.itemHeight)};
     }
-    const int top = (index - list.top) * list.itemHeight;
+    const LONG top = Distance(index - list.top, list.itemHeight);
     return {0, top, client.right, top + list.itemHeight};
 }
 

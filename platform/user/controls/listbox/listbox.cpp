@@ -175,7 +175,8 @@ LRESULT OnInput(ListData& list, UINT message, WPARAM wParam, LPARAM lParam) {
             OnListMouseMove(list, MousePoint(lParam));
             return 0;
         case WM_MOUSEWHEEL:
-            return OnWheel(list, wParam) ? 0 : DefWindowProcA(list.window, message, wParam, lParam);
+            // A combo box hands the wheel on to its list, which must not hand it back.
+            return OnWheel(list, wParam) || list.combo ? 0 : DefWindowProcA(list.window, message, wParam, lParam);
         case WM_CAPTURECHANGED:
             if (list.tracking) {
                 EndTracking(list);
@@ -211,11 +212,12 @@ ListOwner OwnerOf(const ListData& list) {
 LRESULT CALLBACK ListBoxProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const auto data = ControlOf<ListData>(window);
     if (!data)
-        return DefWindowProcA(window, message, wParam, lParam);
+        return AnswerWithoutData(window, message, wParam, lParam);
     ListData& list = *data;
+    // A procedure in front of this one may have kept WM_NCCREATE to itself.
+    list.window = window;
     switch (message) {
         case WM_NCCREATE:
-            list.window = window;
             OnBeforeCreation(list, *reinterpret_cast<const CREATESTRUCTA*>(lParam));
             return DefWindowProcA(window, message, wParam, lParam);
         case WM_CREATE:

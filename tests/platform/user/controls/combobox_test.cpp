@@ -271,6 +271,17 @@ TEST_F(ComboBoxTest, ASimpleOneHasItsListInView) {
     EXPECT_EQ(1, std::count(notified.begin(), notified.end(), CBN_DBLCLK));
 }
 
+// Its list does not scroll, and hands nothing back.
+TEST_F(ComboBoxTest, TheWheelOverAShortSimpleOneComesToAnEnd) {
+    const HWND combo = Filled(CBS_SIMPLE);
+    const HWND list = FindWindowExA(combo, nullptr, "ComboLBox", nullptr);
+    ASSERT_NE(nullptr, list);
+    for (const HWND window : {combo, list}) {
+        Send(window, WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(-WHEEL_DELTA)), 0);
+    }
+    EXPECT_EQ(0, Send(list, LB_GETTOPINDEX));
+}
+
 TEST_F(ComboBoxTest, AnOwnerDrawsFieldAndItems) {
     const HWND combo = Make(CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS);
     EXPECT_NE(measured.end(), std::find(measured.begin(), measured.end(), UINT(-1))) << "the field";

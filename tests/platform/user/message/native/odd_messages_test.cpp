@@ -44,6 +44,21 @@ TEST_F(OddMessages, ListBoxes) {
     }
 }
 
+TEST_F(OddMessages, ItemsOfGreatWidthsLieSideBySide) {
+    const HWND list = Make("listbox", LBS_MULTICOLUMN | WS_HSCROLL);
+    for (int i = 0; i < 40; ++i) {
+        SendMessageA(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("item"));
+    }
+    Send(list, LB_SETCOLUMNWIDTH, INT_MAX, 0);
+    for (const int index : {0, 20, 39}) {
+        RECT item{};
+        Send(list, LB_GETITEMRECT, index, reinterpret_cast<LPARAM>(&item));
+        EXPECT_LE(item.left, item.right) << index;
+        EXPECT_LE(0, item.left) << index;
+    }
+    DestroyWindow(list);
+}
+
 TEST_F(OddMessages, ComboBoxes) {
     for (const DWORD style : {DWORD{CBS_SIMPLE}, DWORD{CBS_DROPDOWN}, DWORD{CBS_DROPDOWNLIST}}) {
         const HWND combo = Make("combobox", style);
