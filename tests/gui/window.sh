@@ -2,7 +2,7 @@
 # end with the script. `window` is what is looked at and clicked in: all of the desktop, unless a script names another.
 need Xvfb xdotool xwininfo xsetroot import convert compare
 
-unset CVUTIL32_DISPLAY WAYLAND_DISPLAY
+unset CVUTIL32_DISPLAY CVUTIL32_SCALE WAYLAND_DISPLAY
 program=
 server=
 cleanup() {
