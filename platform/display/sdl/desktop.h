@@ -4,8 +4,8 @@
 #pragma once
 
 #include "display/sdl/host_window.h"
-#include "display/sdl/keyboard.h"
-#include "display/sdl/mouse.h"
+#include "display/sdl/input/keyboard.h"
+#include "display/sdl/input/mouse.h"
 #include "display/sdl/stage.h"
 
 #include <map>

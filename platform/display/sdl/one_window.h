@@ -2,8 +2,8 @@
 /// The whole screen in one window, as large as fits; its title is that of the pane that gets the keys.
 #pragma once
 
-#include "display/sdl/keyboard.h"
-#include "display/sdl/mouse.h"
+#include "display/sdl/input/keyboard.h"
+#include "display/sdl/input/mouse.h"
 #include "display/sdl/stage.h"
 #include "display/sdl/view.h"
 

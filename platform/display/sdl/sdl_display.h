@@ -3,7 +3,7 @@
 #pragma once
 
 #include "display/display.h"
-#include "display/sdl/keyboard.h"
+#include "display/sdl/input/keyboard.h"
 #include "display/sdl/stage.h"
 
 #include <SDL.h>

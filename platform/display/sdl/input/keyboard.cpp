@@ -1,4 +1,4 @@
-#include "display/sdl/keyboard.h"
+#include "display/sdl/input/keyboard.h"
 
 #include <windows.h>
 

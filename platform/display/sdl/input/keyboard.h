@@ -3,7 +3,7 @@
 #pragma once
 
 #include "display/display.h"
-#include "display/sdl/keys.h"
+#include "display/sdl/input/keys.h"
 
 #include <array>
 

@@ -1,4 +1,4 @@
-#include "display/sdl/mouse.h"
+#include "display/sdl/input/mouse.h"
 
 #include <windows.h>
 

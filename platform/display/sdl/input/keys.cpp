@@ -1,4 +1,4 @@
-#include "display/sdl/keys.h"
+#include "display/sdl/input/keys.h"
 
 #include <windows.h>
 
