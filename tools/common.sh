@@ -8,7 +8,7 @@ cd "$root"
 # Windres compiles the resource scripts on every host.
 build_packages=(g++ cmake ninja-build pkg-config binutils-mingw-w64-x86-64 libsdl2-dev libicu-dev libfreetype-dev
     libfontconfig-dev libpixman-1-dev libsqlite3-dev xfonts-100dpi)
-test_packages=(googletest xvfb xauth xdotool x11-utils imagemagick)
+test_packages=(googletest xvfb xauth xdotool x11-utils x11-xserver-utils openbox wmctrl imagemagick)
 bench_packages=(libbenchmark-dev time)
 lint_packages=(clang-format clang-tidy)
 package_packages=(zip dpkg-dev file doxygen)

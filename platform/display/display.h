@@ -1,16 +1,79 @@
 /// @file display.h
 /// What shows the screen and brings real input. The user module fills in a Sink and a Source and asks Create for a
-/// display; it knows nothing else of this folder, and this folder knows nothing of windows or messages.
+/// display; it knows nothing else of this folder. This folder knows of windows only what a Scene tells: that parts of the
+/// screen, the panes, stand for themselves on the host's desktop.
 #pragma once
 
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace platform::display {
 
-/// Where input goes. Every function is called on the display's own thread, never while the picture is locked.
-/// Coordinates are screen pixels and may lie outside the screen while a button is held.
+struct Box {
+    int left = 0;
+    int top = 0;
+    int right = 0;
+    int bottom = 0;
+
+    int Width() const {
+        return right - left;
+    }
+    int Height() const {
+        return bottom - top;
+    }
+    bool Empty() const {
+        return left >= right || top >= bottom;
+    }
+    bool operator==(const Box&) const = default;
+};
+
+/// The host's desktop, in pixels of the screen: how large it is, and what panels and docks leave of the main monitor.
+struct Room {
+    int width = 0;
+    int height = 0;
+    Box work;
+    bool operator==(const Room&) const = default;
+};
+
+/// Names a pane; 0 is none.
+using PaneId = std::uintptr_t;
+
+/// A part of the screen that the host shows in a window of its own.
+struct Pane {
+    PaneId id = 0;
+    Box place;
+    PaneId owner = 0;        ///< the pane that it always lies above
+    bool popup = false;      ///< takes no focus, and no place in the task list
+    bool minimised = false;  ///< `place` is that of what stands for it on a host without a task list
+    bool minimises = false;  ///< the host may offer to
+    bool sizes = false;
+    bool topmost = false;  ///< lies above all that is not, also of other programs
+    bool painted = false;  ///< what it shows is complete
+    std::string title;     ///< UTF-8
+    std::uintptr_t icon = 0;
+
+    bool operator==(const Pane&) const = default;
+};
+
+/// What there is to show beside the picture.
+struct Scene {
+    std::vector<Pane> panes;  ///< the uppermost first
+    PaneId active = 0;        ///< gets the keys
+    unsigned overruled = 0;   ///< grows when the host's choice of the active pane was not taken
+    bool captured = false;    ///< the mouse belongs to the program, wherever it goes
+};
+
+struct IconImage {
+    int width = 0;
+    int height = 0;
+    std::vector<std::uint32_t> pixels;  ///< 0xAARRGGBB, the top row first
+};
+
+/// Where input goes, and what the host does to panes. Every function is called on the display's own thread, never while
+/// the picture is locked; none of them waits. Coordinates are screen pixels and may lie outside the screen while a button
+/// is held.
 struct Sink {
     void (*mouseMove)(int x, int y);
     void (*mouseButton)(int button, bool down);  ///< 0 left, 1 right, 2 middle
@@ -21,7 +84,11 @@ struct Sink {
     /// character that this press makes under the host's keyboard layout, 0 for none and for releases.
     void (*key)(unsigned virtualKey, unsigned scanCode, bool extended, bool down, unsigned unicode);
 
-    void (*closeRequested)();  ///< the person closed the host window
+    void (*closeRequested)(PaneId pane);  ///< the person closed a host window; 0: the one that shows the whole screen
+    void (*activated)(PaneId pane);       ///< the person chose it; 0: the focus went to another program
+    void (*minimised)(PaneId pane, bool is);
+    void (*placed)(PaneId pane, const Box& place);
+    void (*roomChanged)(const Room& room);
 };
 
 /// The screen's pixels, 0x00RRGGBB, top row first; `stride` is in pixels.
@@ -32,15 +99,17 @@ struct Picture {
     int stride;
 };
 
-/// Where the picture comes from.
+/// Where the picture comes from. Between lock and unlock nothing of it changes, and only there the others may be called.
 struct Source {
     void (*lock)();
     void (*unlock)();
-    Picture (*picture)();  ///< called between lock and unlock; valid until unlock
+    Picture (*picture)();  ///< valid until unlock
 
-    /// The bounding box of what changed since it was last taken, right and bottom excluded; false when nothing did.
-    /// Called between lock and unlock.
-    bool (*takeDirty)(int* left, int* top, int* right, int* bottom);
+    /// What changed since it was last taken, as boxes that may overlap.
+    void (*takeDirty)(std::vector<Box>* boxes);
+
+    void (*scene)(Scene* scene);
+    bool (*icon)(std::uintptr_t icon, IconImage* image);  ///< @returns false when there is no such icon any more
 };
 
 class Display {
@@ -66,11 +135,18 @@ class Display {
 
     /// @returns whether a person may be there to see the screen and to send input.
     virtual bool Interactive() const = 0;
+
+    /// @returns whether the host's desktop is the screen, and then what it was like at the start.
+    virtual bool FirstRoom(Room* room) const = 0;
 };
 
-/// @returns a window on the host's desktop when there is one (DISPLAY or WAYLAND_DISPLAY is set and CVUTIL32_DISPLAY is
-/// not "none") and it opens, else a display that shows nothing. Never null except when memory has run out. The sink and
-/// the source must outlive the result.
+/// @returns whether panes are to stand on the host's desktop, so that a display has to be made before the screen is. So it
+/// is on an X desktop unless CVUTIL32_DISPLAY says "none" or "screen".
+bool DesktopIsScreen();
+
+/// @returns a display on the host's desktop when there is one (DISPLAY or WAYLAND_DISPLAY is set and CVUTIL32_DISPLAY is
+/// not "none") and it opens, else one that shows nothing. Never null except when memory has run out. The sink and the source
+/// must outlive the result. width and height: of the screen, unless the display has a FirstRoom.
 std::unique_ptr<Display> Create(const Sink& sink, const Source& source, int width, int height);
 
 /// @returns whether the display that Create made last is interactive; false before.

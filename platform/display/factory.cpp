@@ -16,6 +16,7 @@ namespace {
 
 std::atomic<bool> interactive{false};
 
+constexpr char kChoice[] = "CVUTIL32_DISPLAY";
 constexpr char kSdlModule[] = "libcvdisplay_sdl.so";
 
 bool IsSet(const char* variable) {
@@ -23,12 +24,13 @@ bool IsSet(const char* variable) {
     return value != nullptr && *value != '\0';
 }
 
-bool DesktopWanted() {
-    const char* choice = std::getenv("CVUTIL32_DISPLAY");
-    if (choice != nullptr && std::strcmp(choice, "none") == 0) {
-        return false;
-    }
-    return IsSet("DISPLAY") || IsSet("WAYLAND_DISPLAY");
+bool Is(const char* variable, const char* value) {
+    const char* found = std::getenv(variable);
+    return found != nullptr && std::strcmp(found, value) == 0;
+}
+
+bool HostWanted() {
+    return !Is(kChoice, "none") && (IsSet("DISPLAY") || IsSet("WAYLAND_DISPLAY"));
 }
 
 void* OpenSdlModule() {
@@ -59,7 +61,7 @@ std::unique_ptr<Display> CreateSdl(const Sink& sink, const Source& source, int w
         return nullptr;
     }
     char reason[256] = "";
-    std::unique_ptr<Display> display(create(&sink, &source, width, height, reason, sizeof reason));
+    std::unique_ptr<Display> display(create(&sink, &source, width, height, DesktopIsScreen(), reason, sizeof reason));
     if (display == nullptr) {
         base::ReportOnce((std::string("no window on the desktop: ") + reason).c_str());
     }
@@ -68,6 +70,12 @@ std::unique_ptr<Display> CreateSdl(const Sink& sink, const Source& source, int w
 
 }  // namespace
 
+// Programs do not place their windows themselves on a Wayland desktop, nor hear where the pointer is: there, unless it has an
+// X server too, one window shows the whole screen.
+bool DesktopIsScreen() {
+    return HostWanted() && !Is(kChoice, "screen") && IsSet("DISPLAY") && !Is("SDL_VIDEODRIVER", "wayland");
+}
+
 bool IsInteractive() {
     return interactive;
 }
@@ -75,7 +83,7 @@ bool IsInteractive() {
 std::unique_ptr<Display> Create(const Sink& sink, const Source& source, int width, int height) {
     interactive = false;
     try {
-        if (DesktopWanted()) {
+        if (HostWanted()) {
             if (auto display = CreateSdl(sink, source, width, height)) {
                 interactive = display->Interactive();
                 return display;

@@ -21,6 +21,9 @@ class HeadlessDisplay final : public Display {
     bool Interactive() const override {
         return false;
     }
+    bool FirstRoom(Room*) const override {
+        return false;
+    }
 };
 
 }  // namespace

@@ -17,8 +17,7 @@ caption() {
 }
 
 page_is_shown() {
-    window=$(xdotool search --onlyvisible --name '^CVUTIL32$' 2>/dev/null | head -1 || true)
-    [ -n "$window" ] && page=$(caption) && [ -n "$page" ]
+    gallery_stands && page=$(caption) && [ -n "$page" ]
 }
 page_is_active() {
     [ "$(caption)" = "$page" ]

@@ -15,8 +15,7 @@ start_gallery() { # <page>
 # What is shown in the end may come in pieces: it counts when it is of the right size, or stays as it is.
 page_is_shown() {
     local former=$size
-    window=$(xdotool search --onlyvisible --name '^CVUTIL32$' 2>/dev/null | head -1 || true)
-    [ -n "$window" ] && shoot start || return 1
+    gallery_stands && shoot start || return 1
     read -r size left top <<<"$(convert "$work/start.png" -trim -format '%wx%h %X %Y' info: 2>/dev/null)"
     [ "$size" = 497x379 ] || { sleep 2 && [ -n "$size" ] && [ "$size" = "$former" ]; }
 }

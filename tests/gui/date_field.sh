@@ -13,8 +13,7 @@ start_gallery() {
     crop start "$strip" without
 }
 fields_are_shown() {
-    window=$(xdotool search --onlyvisible --name '^CVUTIL32$' 2>/dev/null | head -1 || true)
-    [ -n "$window" ] && shoot start && [ "$(find_fields "$work/start.png" | wc -l)" = 2 ] || return 1
+    gallery_stands && shoot start && [ "$(find_fields "$work/start.png" | wc -l)" = 2 ] || return 1
     read -r x y w h <<<"$(find_fields "$work/start.png")"
 }
 

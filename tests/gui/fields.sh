@@ -15,8 +15,7 @@ start_gallery() { # <page> <number of fields>
     crop start "$(strip $time)" time-without
 }
 fields_are_shown() { # <number>
-    window=$(xdotool search --onlyvisible --name '^CVUTIL32$' 2>/dev/null | head -1 || true)
-    [ -n "$window" ] && shoot start || return 1
+    gallery_stands && shoot start || return 1
     # Pieces of the list of pages are wider or lower than a field.
     mapfile -t fields < <(find_fields "$work/start.png" | awk '$3 < 95 && $4 > 15' | sort -n -k2,2 -k1,1)
     [ "${#fields[@]}" = "$1" ]

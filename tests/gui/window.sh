@@ -1,6 +1,6 @@
-# What the scripts share that run the gallery in a real window; sourced after common.sh. The X server and the program in `program`
-# end with the script.
-need Xvfb xdotool import convert compare
+# What the scripts share that run the gallery on a real desktop; sourced after common.sh. The X server and the program in `program`
+# end with the script. `window` is what is looked at and clicked in: all of the desktop, unless a script names another.
+need Xvfb xdotool xwininfo xsetroot import convert compare
 
 unset CVUTIL32_DISPLAY WAYLAND_DISPLAY
 program=
@@ -23,6 +23,14 @@ wait_for() {
         [ "$SECONDS" -lt "$end" ] || fail "$what: waited for in vain (see $work/now.png)"
         sleep 0.05
     done
+}
+
+# Prints the window of this title, if it can be seen.
+window_of() { # <title>
+    xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | head -1 || true
+}
+gallery_stands() {
+    [ -n "$(window_of 'CVUTIL32 Gallery')" ]
 }
 
 shoot() { # [<name>]
@@ -55,10 +63,12 @@ display_is_there() {
     [ -s "$work/display" ]
 }
 # The server goes on between two programs; one that ends with its last client is not back in time for the next.
-start_server() {
-    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset 3>"$work/display" 2>"$work/server.log" &
+start_server() { # [<width>x<height>]
+    Xvfb -displayfd 3 -screen 0 "${1:-1280x1024}x24" -nolisten tcp -noreset 3>"$work/display" 2>"$work/server.log" &
     server=$!
     wait_for "a display" display_is_there
     DISPLAY=:$(<"$work/display")
     export DISPLAY
+    xsetroot -solid '#008080'
+    window=$(xwininfo -root | sed -nE 's/.*Window id: (0x[0-9a-f]+) .*/\1/p')
 }

@@ -10,10 +10,10 @@
 using namespace platform::display;
 
 extern "C" __attribute__((visibility("default"))) Display* cvdisplay_sdl_create(const Sink* sink, const Source* source,
-                                                                                int width, int height, char* reason,
-                                                                                std::size_t reasonSize) {
+                                                                                int width, int height, bool panes,
+                                                                                char* reason, std::size_t reasonSize) {
     try {
-        auto display = std::make_unique<SdlDisplay>(*sink, *source, width, height);
+        auto display = std::make_unique<SdlDisplay>(*sink, *source, width, height, panes);
         const std::string error = display->Start();
         if (error.empty()) {
             return display.release();

@@ -50,6 +50,42 @@ Box Cut(const Box& a, const Box& b) {
     return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right), std::min(a.bottom, b.bottom)};
 }
 
+Box Around(const Box& a, const Box& b) {
+    return {std::min(a.left, b.left), std::min(a.top, b.top), std::max(a.right, b.right), std::max(a.bottom, b.bottom)};
+}
+
+void CutOut(std::vector<Box>& boxes, const Box& hole) {
+    std::vector<Box> rest;
+    for (const Box& box : boxes) {
+        const Box common = Cut(box, hole);
+        if (common.Empty()) {
+            rest.push_back(box);
+            continue;
+        }
+        for (const Box& part :
+             {Box{box.left, box.top, box.right, common.top}, Box{box.left, common.bottom, box.right, box.bottom},
+              Box{box.left, common.top, common.left, common.bottom},
+              Box{common.right, common.top, box.right, common.bottom}}) {
+            if (!part.Empty()) {
+                rest.push_back(part);
+            }
+        }
+    }
+    boxes.swap(rest);
+}
+
+int ScaleOf(int density, const Box& desktop) {
+    constexpr int kUsual = 96;
+    constexpr int kLeastWidth = 800;
+    constexpr int kLeastHeight = 600;
+    const int room = std::min(desktop.Width() / kLeastWidth, desktop.Height() / kLeastHeight);
+    return std::clamp(std::min((density + kUsual / 4) / kUsual, room), 1, kMostScale);
+}
+
+int RoundDown(int at, int scale) {
+    return Unscaled(at, scale, 1);
+}
+
 Placement::Placement(int width, int height, int windowWidth, int windowHeight) : width_(width), height_(height) {
     int shownWidth = windowWidth;
     int shownHeight = Scaled(height, width, windowWidth);

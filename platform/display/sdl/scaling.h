@@ -2,28 +2,29 @@
 /// Where the picture lies in a window of another size, and what it looks like there. Needs no window.
 #pragma once
 
+#include "display/display.h"
+
 #include <cstdint>
+#include <vector>
 
 namespace platform::display {
 
-struct Box {
-    int left = 0;
-    int top = 0;
-    int right = 0;
-    int bottom = 0;
-
-    int Width() const {
-        return right - left;
-    }
-    int Height() const {
-        return bottom - top;
-    }
-    bool Empty() const {
-        return left >= right || top >= bottom;
-    }
-};
-
+/// @returns what two boxes have in common.
 Box Cut(const Box& a, const Box& b);
+/// @returns the smallest box around two.
+Box Around(const Box& a, const Box& b);
+
+/// Takes a box out of others.
+void CutOut(std::vector<Box>& boxes, const Box& hole);
+
+constexpr int kMostScale = 8;
+
+/// @returns how many pixels of a desktop, along each side, make one of the screen where it has so many dots per inch. Half a
+/// step up to the next whole factor things stay small rather than become large, and a screen of 800 by 600 is left.
+int ScaleOf(int density, const Box& desktop);
+
+/// @returns a quotient, rounded down also below zero.
+int RoundDown(int at, int scale);
 
 /// A picture in the middle of a window, as large as fits without changing its shape.
 class Placement {

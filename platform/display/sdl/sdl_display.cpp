@@ -9,7 +9,10 @@
 #include <memory>
 #include <utility>
 
+#include "display/sdl/desktop.h"
 #include "display/sdl/help_cursor.h"
+#include "display/sdl/one_window.h"
+#include "display/sdl/x11.h"
 
 namespace platform::display {
 namespace {
@@ -18,7 +21,6 @@ constexpr unsigned kArrow = 32512;  // IDC_ARROW as a number
 constexpr unsigned kHelp = 32651;   // IDC_HELP
 constexpr int kFrameMilliseconds = 8;
 constexpr int kRetryMilliseconds = 1000;
-constexpr int kForEver = -1;
 constexpr std::chrono::milliseconds kClipboardWait{2000};
 
 SDL_SystemCursor SystemCursor(unsigned idc) {
@@ -50,16 +52,6 @@ SDL_SystemCursor SystemCursor(unsigned idc) {
     }
 }
 
-// The largest size of the screen's shape that the desktop has room for, never more than the screen itself.
-SDL_Point FittingSize(int width, int height) {
-    SDL_Rect room{};
-    if (SDL_GetDisplayUsableBounds(0, &room) != 0 || room.w <= 0 || room.h <= 0) {
-        return {width, height};
-    }
-    const double scale = std::min({1.0, double(room.w) / width, double(room.h) / height});
-    return {std::max(1, int(width * scale)), std::max(1, int(height * scale))};
-}
-
 bool IsSet(const char* variable) {
     const char* value = std::getenv(variable);
     return value != nullptr && *value != '\0';
@@ -75,13 +67,13 @@ void ChooseDriver() {
 
 }  // namespace
 
-SdlDisplay::SdlDisplay(const Sink& sink, const Source& source, int width, int height)
+SdlDisplay::SdlDisplay(const Sink& sink, const Source& source, int width, int height, bool panes)
     : sink(sink),
       source(source),
       width(width),
       height(height),
+      panes(panes),
       wantedCursor(kArrow),
-      view(this->source, width, height),
       shownCursor(kArrow),
       keyboard(this->sink) {}
 
@@ -90,6 +82,7 @@ SdlDisplay::~SdlDisplay() {
     if (thread.get_id() == std::this_thread::get_id()) {
         // The desktop is gone, and the host's library ends the program from within the loop.
         thread.detach();
+        static_cast<void>(stage.release());  // its windows have gone with the desktop, which cannot be asked any more
         return;
     }
     if (thread.joinable()) {
@@ -132,21 +125,30 @@ bool SdlDisplay::Open(std::string& error) {
     SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
     SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
     ChooseDriver();
+    X11::PassOverErrors();
     if (SDL_Init(SDL_INIT_VIDEO) == 0) {
         wakeEvent = SDL_RegisterEvents(1);
-        const SDL_Point size = FittingSize(width, height);
-        window = SDL_CreateWindow("CVUTIL32", SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, size.x, size.y,
-                                  SDL_WINDOW_RESIZABLE);
+        const bool x11 = SDL_strcmp(SDL_GetCurrentVideoDriver(), "x11") == 0;
+        if (x11) {
+            // X takes parts of a picture straight from memory. SDL would put a graphics processor in between, which copies
+            // the whole window for each blink of a caret and makes the start slow.
+            SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
+        }
+        if (x11 && panes) {
+            stage = std::make_unique<Desktop>(sink, source, keyboard);
+        } else {
+            stage = std::make_unique<OneWindow>(sink, source, keyboard, width, height);
+        }
     }
-    if (window == nullptr || !view.Attach(window)) {
+    if (stage == nullptr || !stage->Open()) {
         error = SDL_GetError();
         if (error.empty()) {
             error = "SDL gives no reason";
         }
         return false;
     }
+    hasRoom = stage->FirstRoom(&firstRoom);
     SDL_StartTextInput();
-    changed = true;
     return true;
 }
 
@@ -156,52 +158,37 @@ void SdlDisplay::Close() {
         SDL_FreeCursor(cursor);
     }
     cursors.clear();
-    view.Detach();
-    if (window != nullptr) {
-        SDL_DestroyWindow(window);
-    }
+    stage.reset();
     SDL_Quit();
 }
 
 void SdlDisplay::Loop() {
     std::uint32_t nextFrame = SDL_GetTicks();
     while (running) {
-        const bool due = changed || stale;
-        const int rest = static_cast<int>(nextFrame - SDL_GetTicks());
-        const int wait = !due ? kForEver : std::max(rest, 0);
+        const int rest = std::max(static_cast<int>(nextFrame - SDL_GetTicks()), 0);
+        int wait = Due() ? rest : Stage::kNever;
+        if (const int patience = stage->Patience(); patience != Stage::kNever) {
+            wait = wait == Stage::kNever ? patience : std::min(wait, patience);
+        }
         SDL_Event event;
         if (SDL_WaitEventTimeout(&event, wait) != 0) {
             do {
                 Handle(event);
             } while (running && SDL_PollEvent(&event) != 0);
         }
+        stage->Settle();
         ApplyCursor();
         RunTasks();
-        if ((changed || stale) && static_cast<int>(nextFrame - SDL_GetTicks()) <= 0) {
-            const bool whole = stale;
+        if (Due() && static_cast<int>(nextFrame - SDL_GetTicks()) <= 0) {
+            awake = true;
             changed = false;
-            // Where the window cannot be drawn in, it may be later.
-            stale = !view.Present(whole);
-            nextFrame = SDL_GetTicks() + (stale ? kRetryMilliseconds : kFrameMilliseconds);
+            nextFrame = SDL_GetTicks() + (stage->Present() ? kFrameMilliseconds : kRetryMilliseconds);
         }
     }
 }
 
 void SdlDisplay::Handle(const SDL_Event& event) {
     switch (event.type) {
-        case SDL_WINDOWEVENT:
-            HandleWindow(event.window);
-            break;
-        case SDL_MOUSEMOTION:
-            MoveMouse(event.motion.x, event.motion.y);
-            break;
-        case SDL_MOUSEBUTTONDOWN:
-        case SDL_MOUSEBUTTONUP:
-            HandleButton(event.button);
-            break;
-        case SDL_MOUSEWHEEL:
-            HandleWheel(event.wheel);
-            break;
         case SDL_KEYDOWN:
             HandleKeyDown(event.key);
             break;
@@ -211,69 +198,13 @@ void SdlDisplay::Handle(const SDL_Event& event) {
         case SDL_TEXTINPUT:
             keyboard.Text(event.text.text);
             break;
-        case SDL_QUIT:
-            sink.closeRequested();
-            break;
         default:
             if (event.type == wakeEvent) {
                 posted = false;
+            } else {
+                stage->Handle(event);
             }
             break;
-    }
-}
-
-void SdlDisplay::HandleWindow(const SDL_WindowEvent& event) {
-    switch (event.event) {
-        case SDL_WINDOWEVENT_EXPOSED:
-        case SDL_WINDOWEVENT_SIZE_CHANGED:
-        case SDL_WINDOWEVENT_RESTORED:
-            stale = true;
-            break;
-        case SDL_WINDOWEVENT_FOCUS_LOST:
-            keyboard.ReleaseAll();
-            ReleaseButtons();
-            break;
-        case SDL_WINDOWEVENT_CLOSE:
-            sink.closeRequested();
-            break;
-        default:
-            break;
-    }
-}
-
-void SdlDisplay::HandleButton(const SDL_MouseButtonEvent& event) {
-    static constexpr Uint8 kButtons[] = {SDL_BUTTON_LEFT, SDL_BUTTON_RIGHT, SDL_BUTTON_MIDDLE};
-    const auto found = std::find(std::begin(kButtons), std::end(kButtons), event.button);
-    if (found == std::end(kButtons)) {
-        return;
-    }
-    const int button = static_cast<int>(found - std::begin(kButtons));
-    const bool down = event.type == SDL_MOUSEBUTTONDOWN;
-    const unsigned bit = 1U << button;
-    if (down == ((heldButtons & bit) != 0)) {
-        return;  // released for it when the focus went away, or pressed while another window had it
-    }
-    heldButtons ^= bit;
-    SDL_CaptureMouse(heldButtons != 0 ? SDL_TRUE : SDL_FALSE);
-    MoveMouse(event.x, event.y);
-    sink.mouseButton(button, down);
-}
-
-void SdlDisplay::ReleaseButtons() {
-    for (int button = 0; heldButtons != 0; ++button) {
-        const unsigned bit = 1U << button;
-        if ((heldButtons & bit) != 0) {
-            heldButtons &= ~bit;
-            sink.mouseButton(button, false);
-        }
-    }
-    SDL_CaptureMouse(SDL_FALSE);
-}
-
-void SdlDisplay::HandleWheel(const SDL_MouseWheelEvent& event) {
-    const int notches = event.direction == SDL_MOUSEWHEEL_FLIPPED ? -event.y : event.y;
-    if (notches != 0) {
-        sink.mouseWheel(notches * WHEEL_DELTA);
     }
 }
 
@@ -284,11 +215,6 @@ void SdlDisplay::HandleKeyDown(const SDL_KeyboardEvent& event) {
                          next.type == SDL_TEXTINPUT &&
                          SDL_PeepEvents(&next, 1, SDL_GETEVENT, SDL_TEXTINPUT, SDL_TEXTINPUT) == 1;
     keyboard.Down(event.keysym, hasText ? next.text.text : nullptr);
-}
-
-void SdlDisplay::MoveMouse(int x, int y) {
-    const SDL_Point point = view.ToPicture(x, y);
-    sink.mouseMove(point.x, point.y);
 }
 
 void SdlDisplay::ApplyCursor() {

@@ -1,10 +1,10 @@
 /// @file sdl_display.h
-/// The screen as one window on the host's desktop. All calls to SDL but SDL_PushEvent are made on its own thread.
+/// The display on the host's desktop, a thread of its own: all calls to SDL but SDL_PushEvent are made on it.
 #pragma once
 
 #include "display/display.h"
 #include "display/sdl/keyboard.h"
-#include "display/sdl/view.h"
+#include "display/sdl/stage.h"
 
 #include <SDL.h>
 
@@ -12,6 +12,7 @@
 #include <condition_variable>
 #include <functional>
 #include <map>
+#include <memory>
 #include <mutex>
 #include <string>
 #include <thread>
@@ -21,7 +22,7 @@ namespace platform::display {
 
 class SdlDisplay final : public Display {
   public:
-    SdlDisplay(const Sink& sink, const Source& source, int width, int height);
+    SdlDisplay(const Sink& sink, const Source& source, int width, int height, bool panes);
     ~SdlDisplay() override;
 
     /// Opens the window. @returns why that could not be done, empty on success.
@@ -36,19 +37,21 @@ class SdlDisplay final : public Display {
     bool Interactive() const override {
         return true;
     }
+    bool FirstRoom(Room* room) const override {
+        *room = firstRoom;
+        return hasRoom;
+    }
 
   private:
     void Run();
     bool Open(std::string& error);
     void Close();
     void Loop();
+    bool Due() const {
+        return changed || (awake && stage->Stale());
+    }
     void Handle(const SDL_Event& event);
-    void HandleWindow(const SDL_WindowEvent& event);
-    void HandleButton(const SDL_MouseButtonEvent& event);
-    void HandleWheel(const SDL_MouseWheelEvent& event);
     void HandleKeyDown(const SDL_KeyboardEvent& event);
-    void ReleaseButtons();
-    void MoveMouse(int x, int y);
     void ApplyCursor();
     void Post();
     bool RunOnLoop(std::function<void()> task);
@@ -59,11 +62,14 @@ class SdlDisplay final : public Display {
     const Source source;
     const int width;
     const int height;
+    const bool panes;
 
     std::mutex mutex;
     std::condition_variable started;
     bool isStarted = false;
     std::string startError;
+    Room firstRoom;
+    bool hasRoom = false;
     std::thread thread;
 
     std::uint32_t wakeEvent = 0;
@@ -76,13 +82,11 @@ class SdlDisplay final : public Display {
     std::vector<std::function<void()>> tasks;  // for the loop, from other threads
 
     // The display's thread alone:
-    SDL_Window* window = nullptr;
-    View view;
+    std::unique_ptr<Stage> stage;
+    bool awake = false;  // has been woken once: before, there may be no picture
     std::map<unsigned, SDL_Cursor*> cursors;
     unsigned shownCursor;
     Keyboard keyboard;
-    unsigned heldButtons = 0;
-    bool stale = true;  // the window has to be drawn anew, whatever has changed
 };
 
 }  // namespace platform::display

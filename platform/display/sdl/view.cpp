@@ -5,11 +5,6 @@
 namespace platform::display {
 
 bool View::Attach(SDL_Window* target) {
-    // X takes parts of a picture straight from memory. SDL would put a graphics processor in between, which copies the
-    // whole window for each blink of a caret and makes the start slow.
-    if (SDL_strcmp(SDL_GetCurrentVideoDriver(), "x11") == 0) {
-        SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
-    }
     window = target;
     return window != nullptr && SDL_GetWindowSurface(window) != nullptr;
 }
@@ -66,8 +61,11 @@ bool View::Present(bool whole) {
     Box part;
     source.lock();
     const Picture picture = source.picture();
-    const bool changed = source.takeDirty(&part.left, &part.top, &part.right, &part.bottom);
-    part = whole ? all : changed ? Cut(part, all) : Box{};
+    source.takeDirty(&dirty);
+    for (const Box& box : dirty) {
+        part = part.Empty() ? box : Around(part, box);
+    }
+    part = whole ? all : Cut(part, all);
     const bool drawn =
         picture.width >= width && picture.height >= height && (part.Empty() || Draw(picture, shown, placement, part));
     source.unlock();

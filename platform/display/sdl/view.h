@@ -34,6 +34,7 @@ class View {
     const int width;
     const int height;
     SDL_Window* window = nullptr;
+    std::vector<Box> dirty;
     SDL_Surface* scaled = nullptr;  // as large as the window, where that is not as large as the picture
 };
 

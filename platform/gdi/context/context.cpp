@@ -60,18 +60,22 @@ void UseBitmap(DeviceContext& context) {
     context.ClipChanged();
 }
 
-void UseScreen(DeviceContext& context, POINT origin, const Region& visible) {
+void TakeScreen(DeviceContext& context) {
     const ScreenView view = Screen();
-    context.screen = true;
     context.surface.bits = reinterpret_cast<std::byte*>(view.pixels);
     context.surface.width = view.width;
     context.surface.height = view.height;
     context.surface.stride = static_cast<std::ptrdiff_t>(view.stride) * 4;
     context.surface.bitsPerPixel = 32;
-    context.origin = origin;
-    context.visible = visible;
     context.visible.Intersect(context.surface.Bounds());
     context.ClipChanged();
+}
+
+void UseScreen(DeviceContext& context, POINT origin, const Region& visible) {
+    context.screen = true;
+    context.origin = origin;
+    context.visible = visible;
+    TakeScreen(context);
 }
 
 HDC FileContext(std::unique_ptr<DeviceContext> context) {
@@ -111,6 +115,12 @@ HGDIOBJ Replace(Kind*& slot, Kind* object) {
 }
 
 }  // namespace
+
+void FollowScreen(DeviceContext& context) {
+    if (context.surface.bits != reinterpret_cast<std::byte*>(Screen().pixels)) {
+        TakeScreen(context);
+    }
+}
 
 const Region& DeviceContext::Drawable() {
     if (drawableStale) {

@@ -68,6 +68,9 @@ struct DeviceContext {
     void Drawn(const RECT& rect) const;
 };
 
+/// The screen may have been given other pixels since the context was made. Its lock is held.
+void FollowScreen(DeviceContext& context);
+
 /// Finds a context, and holds the screen's lock while it draws there. Test it before use; a bad handle has set the
 /// error.
 class Drawing {
@@ -75,6 +78,7 @@ class Drawing {
     explicit Drawing(HDC context) : context_(FindObject<DeviceContext>(context)) {
         if (context_ && context_->screen) {
             lock_.emplace(ScreenLock());
+            FollowScreen(*context_);
         }
     }
     explicit operator bool() const {

@@ -2,15 +2,19 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <new>
 
 #include "gdi/surface/copy_order.h"
 
 namespace platform::gdi {
 
 namespace {
+
+constexpr int kMostPixels = 16384;  // along a side
 
 // What was drawn, as a short list: drawing marks something at every call, and exactness is worth less than speed.
 struct Dirty {
@@ -29,23 +33,38 @@ bool Covers(const RECT& outer, const RECT& inner) {
            outer.bottom >= inner.bottom;
 }
 
-ScreenView MakeScreen() {
-    int width = 1024;
-    int height = 768;
+SIZE UsualSize() {
     if (const char* text = std::getenv("CVUTIL32_SCREEN")) {
         int w = 0;
         int h = 0;
-        if (std::sscanf(text, "%dx%d", &w, &h) == 2 && w >= 64 && h >= 64 && w <= 16384 && h <= 16384) {
-            width = w;
-            height = h;
+        if (std::sscanf(text, "%dx%d", &w, &h) == 2 && w >= 64 && h >= 64 && w <= kMostPixels && h <= kMostPixels) {
+            return {w, h};
         }
     }
+    return {1024, 768};
+}
+
+ScreenView MakeView(SIZE size) {
+    const int width = std::clamp<int>(size.cx, 1, kMostPixels);
+    const int height = std::clamp<int>(size.cy, 1, kMostPixels);
     // Untouched pages of a fresh block cost nothing.
     void* pixels = std::calloc(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), 4);
     if (!pixels) {
         return {nullptr, 0, 0, 0};
     }
     return {static_cast<std::uint32_t*>(pixels), width, height, width};
+}
+
+// Views that were current once are kept: someone may be reading one without the lock.
+struct KeptView {
+    ScreenView view;
+    const KeptView* former;
+};
+
+std::atomic<const KeptView*>& CurrentView() {
+    static const KeptView first{MakeView(chooseScreenSize ? chooseScreenSize(UsualSize()) : UsualSize()), nullptr};
+    static std::atomic<const KeptView*> current{&first};
+    return current;
 }
 
 }  // namespace
@@ -55,9 +74,29 @@ std::recursive_mutex& ScreenLock() {
     return lock;
 }
 
+SIZE (*chooseScreenSize)(SIZE usual) = nullptr;
+
 ScreenView Screen() {
-    static const ScreenView view = MakeScreen();
-    return view;
+    return CurrentView().load(std::memory_order_acquire)->view;
+}
+
+bool ResizeScreen(SIZE size) {
+    const ScreenGuard guard(ScreenLock());
+    const ScreenView old = Screen();
+    const ScreenView view = MakeView(size);
+    const auto* next = view.pixels ? new (std::nothrow) KeptView{view, CurrentView().load()} : nullptr;
+    if (!next) {
+        std::free(view.pixels);
+        return false;
+    }
+    const auto bytes = static_cast<std::size_t>(std::min(old.width, view.width)) * 4;
+    for (int y = 0; y < std::min(old.height, view.height); ++y) {
+        std::memcpy(view.pixels + static_cast<std::ptrdiff_t>(y) * view.stride,
+                    old.pixels + static_cast<std::ptrdiff_t>(y) * old.stride, bytes);
+    }
+    CurrentView().store(next, std::memory_order_release);
+    std::free(old.pixels);
+    return true;
 }
 
 RECT ScreenRect() {

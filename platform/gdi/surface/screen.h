@@ -23,9 +23,16 @@ struct ScreenView {
 std::recursive_mutex& ScreenLock();
 using ScreenGuard = std::lock_guard<std::recursive_mutex>;
 
-/// The screen, made on first use: 1024 by 768, or what the environment variable CVUTIL32_SCREEN says (WIDTHxHEIGHT).
-/// Without memory for it, a view of 0 by 0 pixels.
+/// Asked once, before the screen is made: how large it is to be. usual: 1024 by 768, or what the environment variable
+/// CVUTIL32_SCREEN says (WIDTHxHEIGHT). Null: as usual.
+extern SIZE (*chooseScreenSize)(SIZE usual);
+
+/// The screen, made on first use. Without memory for it, a view of 0 by 0 pixels. Its pixels are good until it is resized.
 ScreenView Screen();
+
+/// Gives the screen another size. What it shows stays, from the top left corner; what is new is not drawn yet. The lock of
+/// the screen is held, and whoever kept a view takes a new one. @returns false without memory: it is as it was.
+bool ResizeScreen(SIZE size);
 
 /// @returns the screen's rectangle, from (0, 0).
 RECT ScreenRect();

@@ -4,9 +4,12 @@
 #include <atomic>
 #include <cstdlib>
 #include <memory>
+#include <vector>
 
 #include "gdi/surface/screen.h"
 #include "user/desktop/clipboard.h"
+#include "user/desktop/panes.h"
+#include "user/desktop/room.h"
 #include "user/input/above.h"
 #include "user/input/input.h"
 #include "user/message/above.h"
@@ -23,8 +26,12 @@ void WakePresenter() {
     }
 }
 
-// The frame's close box on the host: as if the person had closed the window in front.
-void CloseRequested() {
+// The close box of the window that shows the whole screen: as if the person had closed the window in front.
+void CloseRequested(display::PaneId pane) {
+    if (pane != 0) {
+        CloseFromHost(pane);
+        return;
+    }
     HWND window = GetForegroundWindow();
     if (window == nullptr) {
         UserGuard guard(UserLock());
@@ -39,12 +46,15 @@ void CloseRequested() {
     }
 }
 
+// Windows must not move while what they show is taken.
 void LockPicture() {
+    UserLock().lock();
     gdi::ScreenLock().lock();
 }
 
 void UnlockPicture() {
     gdi::ScreenLock().unlock();
+    UserLock().unlock();
 }
 
 display::Picture ThePicture() {
@@ -52,21 +62,18 @@ display::Picture ThePicture() {
     return {screen.pixels, screen.width, screen.height, screen.stride};
 }
 
-bool TakeDirtyBox(int* left, int* top, int* right, int* bottom) {
+void TakeDirtyBoxes(std::vector<display::Box>* boxes) {
     const gdi::Region dirty = gdi::TakeDirty();
-    if (dirty.Empty()) {
-        return false;
+    boxes->clear();
+    for (const RECT& rect : dirty.Rects()) {
+        boxes->push_back({rect.left, rect.top, rect.right, rect.bottom});
     }
-    const RECT box = dirty.Bounds();
-    *left = box.left;
-    *top = box.top;
-    *right = box.right;
-    *bottom = box.bottom;
-    return true;
 }
 
-constexpr display::Sink kSink = {InjectMouseMove, InjectMouseButton, InjectMouseWheel, InjectKey, CloseRequested};
-constexpr display::Source kSource = {LockPicture, UnlockPicture, ThePicture, TakeDirtyBox};
+constexpr display::Sink kSink = {InjectMouseMove,  InjectMouseButton, InjectMouseWheel, InjectKey, CloseRequested,
+                                 ActivateFromHost, MinimiseFromHost,  PlaceFromHost,    ChangeRoom};
+constexpr display::Source kSource = {LockPicture,    UnlockPicture, ThePicture,
+                                     TakeDirtyBoxes, DescribeScene, DescribeIcon};
 
 // The display has a thread of its own, which must be gone before the process tears down what it uses.
 void EndDisplay() {
@@ -74,7 +81,7 @@ void EndDisplay() {
     const std::unique_ptr<display::Display> last(presenter.exchange(nullptr));
 }
 
-// A program that never shows a window needs no display.
+// A program that never shows a window needs no display, unless for the size of its screen.
 bool AnythingShown() {
     UserGuard guard(UserLock());
     for (const Window* window = Desktop()->firstChild; window != nullptr; window = window->next) {
@@ -85,28 +92,61 @@ bool AnythingShown() {
     return false;
 }
 
-void StartDisplay() {
+// @returns the display, once.
+display::Display* StartDisplay(SIZE size) {
     static std::atomic<bool> started{false};
-    if (started.load(std::memory_order_relaxed) || !AnythingShown() || started.exchange(true)) {
-        return;
+    if (started.exchange(true)) {
+        return nullptr;
     }
-    const RECT screen = gdi::ScreenRect();
-    display::Display* shown = display::Create(kSink, kSource, screen.right, screen.bottom).release();
+    display::Display* shown = display::Create(kSink, kSource, size.cx, size.cy).release();
     if (shown == nullptr) {
-        return;
+        return nullptr;
     }
     presenter.store(shown, std::memory_order_release);
-    gdi::SetDirtyHook(WakePresenter);
     std::atexit(EndDisplay);
     shown->SetCursorShape(shape.load());
-    shown->Wake();
+    return shown;
 }
+
+// The screen is about to be made: on a host whose desktop it is, it is as large as that.
+SIZE ChooseScreenSize(SIZE usual) {
+    display::Room room;
+    const display::Display* shown = display::DesktopIsScreen() ? StartDisplay(usual) : nullptr;
+    if (shown == nullptr || !shown->FirstRoom(&room)) {
+        return usual;
+    }
+    SetFirstRoom(room);
+    return {room.width, room.height};
+}
+
+const bool choosing = [] {
+    gdi::chooseScreenSize = ChooseScreenSize;
+    return true;
+}();
 
 }  // namespace
 
 void OpenDisplay() {
-    if (presenter.load(std::memory_order_relaxed) == nullptr) {
-        StartDisplay();
+    static std::atomic<bool> awake{false};
+    display::Display* shown = presenter.load(std::memory_order_acquire);
+    if (awake.load(std::memory_order_relaxed)) {
+        if (shown != nullptr && shown->Interactive() && SceneChanged()) {
+            shown->Wake();
+        }
+        return;
+    }
+    // A display that was made for the screen's size sleeps until there is something to show: it asks for windows, which are
+    // not there before the screen is.
+    if (!AnythingShown()) {
+        return;
+    }
+    if (shown == nullptr) {
+        const RECT screen = gdi::ScreenRect();
+        shown = StartDisplay({screen.right, screen.bottom});
+    }
+    if (shown != nullptr && !awake.exchange(true)) {
+        gdi::SetDirtyHook(WakePresenter);
+        shown->Wake();
     }
 }
 

@@ -6,12 +6,25 @@
 #include "gdi/context/device_context.h"
 #include "gdi/context/syscolors.h"
 #include "gdi/surface/screen.h"
+#include "user/desktop/room.h"
 #include "user/message/queue.h"
 #include "user/model/window.h"
 #include "user/painting/painting.h"
 #include "user/resource/icons.h"
 
 using namespace platform::user;
+
+namespace {
+
+int Width(const RECT& rect) {
+    return rect.right - rect.left;
+}
+
+int Height(const RECT& rect) {
+    return rect.bottom - rect.top;
+}
+
+}  // namespace
 
 int WINAPI GetSystemMetrics(int index) {
     switch (index) {
@@ -20,9 +33,9 @@ int WINAPI GetSystemMetrics(int index) {
         case SM_CYSCREEN:
             return platform::gdi::Screen().height;
         case SM_CXMAXIMIZED:
-            return platform::gdi::Screen().width + 2 * GetSystemMetrics(SM_CXSIZEFRAME);
+            return Width(WorkArea()) + 2 * GetSystemMetrics(SM_CXSIZEFRAME);
         case SM_CYMAXIMIZED:
-            return platform::gdi::Screen().height + 2 * GetSystemMetrics(SM_CYSIZEFRAME);
+            return Height(WorkArea()) + 2 * GetSystemMetrics(SM_CYSIZEFRAME);
         case SM_CXMAXTRACK:
             return platform::gdi::Screen().width + 12;
         case SM_CYMAXTRACK:
@@ -115,7 +128,7 @@ BOOL WINAPI SystemParametersInfoA(UINT action, UINT, PVOID data, UINT) {
             *static_cast<UINT*>(data) = 3;
             return TRUE;
         case SPI_GETWORKAREA:
-            *static_cast<RECT*>(data) = {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+            *static_cast<RECT*>(data) = WorkArea();
             return TRUE;
         case SPI_GETICONTITLELOGFONT:
             *static_cast<LOGFONTA*>(data) = DialogFont(FW_NORMAL);

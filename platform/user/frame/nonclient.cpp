@@ -2,6 +2,7 @@
 #include "user/frame/nonclient.h"
 
 #include "user/frame/scrollbar/bar.h"
+#include "user/input/input.h"
 #include "user/resource/icons.h"
 #include "user/window/above.h"
 
@@ -199,7 +200,11 @@ UINT SizingCursor(int hitCode) {
     }
 }
 
-bool SetHitCursor(HWND hit, int hitCode, UINT) {
+bool SetHitCursor(HWND hit, int hitCode, UINT mouseMessage) {
+    if (hitCode == HTERROR && IsPress(mouseMessage)) {
+        // A press on a disabled window is meant for the box that stands before it.
+        SetForegroundWindow(WindowToActivate(hit));
+    }
     if (hitCode == HTCLIENT) {
         HCURSOR cursor = nullptr;
         {
@@ -223,8 +228,13 @@ MINMAXINFO QueryMinMax(HWND handle) {
         const UserGuard guard(UserLock());
         const Window* window = PeekWindow(handle);
         const int frame = window ? FrameWidth(window->style, window->exStyle) : 0;
-        // A maximised child fills its parent's client area, other windows the screen.
-        const RECT ground = window && window->parent ? window->parent->clientRect : Desktop()->clientRect;
+        // A maximised child fills its parent's client area, other windows the work area.
+        RECT ground{};
+        if (window && window->parent && window->parent != Desktop()) {
+            ground = window->parent->clientRect;
+        } else {
+            SystemParametersInfoA(SPI_GETWORKAREA, 0, &ground, 0);
+        }
         limits.ptMaxSize = {ground.right - ground.left + 2 * frame, ground.bottom - ground.top + 2 * frame};
         limits.ptMaxPosition = {-frame, -frame};
         // The least size has room for a caption with its buttons; a mere frame needs its own edges only.
@@ -265,7 +275,9 @@ LRESULT DefaultNonClient(Window* window, UINT message, WPARAM wParam, LPARAM lPa
             PressFrame(handle, static_cast<int>(wParam), point);
             return 0;
         case WM_NCLBUTTONDBLCLK:
-            if (wParam == HTCAPTION && (window->style & WS_MAXIMIZEBOX)) {
+            if (wParam == HTCAPTION && (window->style & WS_MINIMIZE)) {
+                SendMessageA(handle, WM_SYSCOMMAND, SC_RESTORE, lParam);
+            } else if (wParam == HTCAPTION && (window->style & WS_MAXIMIZEBOX)) {
                 SendMessageA(handle, WM_SYSCOMMAND,
                              static_cast<WPARAM>(window->style & WS_MAXIMIZE ? SC_RESTORE : SC_MAXIMIZE), lParam);
             } else if (wParam == HTSYSMENU) {

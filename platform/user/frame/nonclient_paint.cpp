@@ -127,7 +127,8 @@ void DrawCaption(HDC context, const Picture& picture, int pressed) {
     DrawButton(memory, parts.close, DFCS_CAPTIONCLOSE, pressed == HTCLOSE, !picture.closes);
     DrawButton(memory, parts.maximize, maximized ? DFCS_CAPTIONRESTORE : DFCS_CAPTIONMAX, pressed == HTMAXBUTTON,
                !(picture.style & WS_MAXIMIZEBOX));
-    DrawButton(memory, parts.minimize, DFCS_CAPTIONMIN, pressed == HTMINBUTTON, !(picture.style & WS_MINIMIZEBOX));
+    DrawButton(memory, parts.minimize, picture.style & WS_MINIMIZE ? DFCS_CAPTIONRESTORE : DFCS_CAPTIONMIN,
+               pressed == HTMINBUTTON, !(picture.style & WS_MINIMIZEBOX));
     DrawButton(memory, parts.help, DFCS_CAPTIONHELP, pressed == HTHELP, false);
     RECT text = parts.bar;
     if (!IsRectEmpty(&parts.icon)) {
@@ -161,7 +162,7 @@ void PaintFrame(HWND handle, int pressed) {
     }
     const bool bare = FrameWidth(picture.style, picture.exStyle) == 0 && !(picture.exStyle & WS_EX_CLIENTEDGE) &&
                       picture.caption.height == 0 && !(picture.style & (WS_HSCROLL | WS_VSCROLL));
-    if (bare || (picture.style & WS_MINIMIZE)) {
+    if (bare) {
         return;
     }
     HDC context = GetWindowDC(handle);
@@ -174,10 +175,10 @@ void PaintFrame(HWND handle, int pressed) {
         DrawCaption(context, picture, pressed);
         rect.top += picture.caption.height;
     }
-    if (picture.exStyle & WS_EX_CLIENTEDGE) {
+    if ((picture.exStyle & WS_EX_CLIENTEDGE) && !(picture.style & WS_MINIMIZE)) {
         DrawEdge(context, &rect, EDGE_SUNKEN, BF_RECT);
     }
-    if (picture.style & (WS_HSCROLL | WS_VSCROLL)) {
+    if ((picture.style & (WS_HSCROLL | WS_VSCROLL)) && !(picture.style & WS_MINIMIZE)) {
         DrawWindowBars(handle, context);
     }
     ReleaseDC(handle, context);

@@ -341,7 +341,8 @@ void PressFrame(HWND handle, int hitCode, POINT point) {
             break;
         case HTMINBUTTON:
             if (TrackButton(handle, hitCode)) {
-                SendMessageA(handle, WM_SYSCOMMAND, SC_MINIMIZE, where);
+                SendMessageA(handle, WM_SYSCOMMAND,
+                             static_cast<WPARAM>(LiveStyle(handle) & WS_MINIMIZE ? SC_RESTORE : SC_MINIMIZE), where);
             }
             break;
         case HTMAXBUTTON:

@@ -252,6 +252,27 @@ bool ActivateWindow(HWND window, bool byMouse) {
     return owner != nullptr && ActivateElsewhere(self, owner, window, byMouse);
 }
 
+HWND WindowToActivate(HWND handle) {
+    const auto rootOf = [](const Window* window) {
+        while (window->owner != nullptr) {
+            window = window->owner;
+        }
+        return window;
+    };
+    UserGuard guard(UserLock());
+    Window* window = PeekWindow(handle);
+    const Window* top = window != nullptr ? TopLevel(window) : nullptr;
+    if (top == nullptr || (top->style & WS_DISABLED) == 0) {
+        return top != nullptr ? top->handle : handle;
+    }
+    for (const Window* each = Desktop()->firstChild; each != nullptr; each = each->next) {
+        if (rootOf(each) == rootOf(top) && (each->style & (WS_VISIBLE | WS_DISABLED)) == WS_VISIBLE) {
+            return each->handle;
+        }
+    }
+    return top->handle;
+}
+
 }  // namespace platform::user
 
 using namespace platform::user;

@@ -25,7 +25,9 @@ void Combine(const ThreadState* thread) {
     const auto& caret = thread->caret;
     gdi::ScreenGuard guard(gdi::ScreenLock());
     const gdi::ScreenView screen = gdi::Screen();
-    for (const RECT& rect : caret.drawnArea.Rects()) {
+    for (const RECT& drawn : caret.drawnArea.Rects()) {
+        // The screen may have become smaller since.
+        const RECT rect = gdi::Cut(drawn, gdi::ScreenRect());
         for (LONG y = rect.top; y < rect.bottom; ++y) {
             const std::size_t row = static_cast<std::size_t>(y - caret.drawnOrigin.y) * caret.width;
             for (LONG x = rect.left; x < rect.right; ++x) {

@@ -74,6 +74,10 @@ void LeaveDisabledOrHidden(Window* window, bool hidden);
 /// window refused or cannot be activated (disabled, hidden, a child).
 bool ActivateWindow(HWND window, bool byMouse);
 
+/// @returns the top-level window that can be activated for this one: its own, or while that is disabled the highest that its
+/// owners have and that takes input, which is the box that stands before it; its own again when there is none. Lock not held.
+HWND WindowToActivate(HWND window);
+
 void ForgetCaret(Window* window);
 
 }  // namespace platform::user

@@ -3,7 +3,6 @@
 #include <new>
 #include <vector>
 
-#include "gdi/surface/screen.h"
 #include "user/input/input.h"
 #include "user/model/thread.h"
 #include "user/painting/painting.h"
@@ -49,9 +48,14 @@ Plan PlanOf(int show) {
     }
 }
 
-/// The area that a maximised window fills and minimised ones line up in: the screen, or the parent's client area.
+/// The area that a maximised window fills and minimised ones line up in: the work area, or the parent's client area.
 RECT Ground(const Window* window) {
-    return window->parent == nullptr || window->parent == Desktop() ? gdi::ScreenRect() : window->parent->clientRect;
+    if (window->parent != nullptr && window->parent != Desktop()) {
+        return window->parent->clientRect;
+    }
+    RECT area{};
+    SystemParametersInfoA(SPI_GETWORKAREA, 0, &area, 0);
+    return area;
 }
 
 /// The first free place of a row along the lower edge.
@@ -214,6 +218,7 @@ BOOL WINAPI ShowWindow(HWND handle, int show) {
     bool child = false;
     bool parentShown = true;
     bool active = false;
+    bool iconic = false;
     {
         UserGuard guard(UserLock());
         Window* window = FindWindowObject(handle);
@@ -230,6 +235,7 @@ BOOL WINAPI ShowWindow(HWND handle, int show) {
             plan.keepState = false;
         }
         const DWORD state = window->style & (WS_MINIMIZE | WS_MAXIMIZE);
+        iconic = (state & WS_MINIMIZE) != 0;
         // Where only showing was asked for, a window that is shown already is not even activated.
         if (wasVisible == plan.show && PendingState(window) == 0 &&
             (plan.keepState || (state == plan.state && (!plan.activate || child || active)))) {
@@ -285,6 +291,10 @@ BOOL WINAPI ShowWindow(HWND handle, int show) {
     }
     if (moved && plan.state != WS_MINIMIZE && !child) {
         ShowOwned(handle, true);
+        // Minimised, a window can be active but takes no focus.
+        if (iconic && GetActiveWindow() == handle && GetFocus() == nullptr) {
+            SetFocus(handle);
+        }
     }
     return wasVisible;
 }

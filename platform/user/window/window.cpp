@@ -38,14 +38,17 @@ HWND Refuse(DWORD error) {
 void PlaceByDefault(Request& request) {
     static int turn = 0;
     CREATESTRUCTA& given = request.given;
-    const RECT screen = Desktop()->windowRect;
+    RECT area{};
+    SystemParametersInfoA(SPI_GETWORKAREA, 0, &area, 0);
     if (given.x == CW_USEDEFAULT) {
         request.showCommand = given.y == CW_USEDEFAULT ? SW_SHOW : given.y;
-        given.x = given.y = (turn++ % 8) * (GetSystemMetrics(SM_CYCAPTION) + GetSystemMetrics(SM_CYSIZEFRAME));
+        const int step = (turn++ % 8) * (GetSystemMetrics(SM_CYCAPTION) + GetSystemMetrics(SM_CYSIZEFRAME));
+        given.x = area.left + step;
+        given.y = area.top + step;
     }
     if (given.cx == CW_USEDEFAULT) {
-        given.cx = (screen.right - screen.left) * 3 / 4;
-        given.cy = (screen.bottom - screen.top) * 3 / 4;
+        given.cx = (area.right - area.left) * 3 / 4;
+        given.cy = (area.bottom - area.top) * 3 / 4;
     }
 }
 

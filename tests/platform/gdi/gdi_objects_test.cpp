@@ -109,13 +109,15 @@ TEST(GdiObjects, SavedStatesNest) {
     SetTextColor(canvas, RGB(3, 3, 3));
     EXPECT_TRUE(RestoreDC(canvas, -1));
     EXPECT_EQ(RGB(2, 2, 2), GetTextColor(canvas));
-    EXPECT_EQ(COLORREF{CLR_INVALID}, GetPixel(canvas, 5, 5)) << "clipped still";
+    SetPixel(canvas, 5, 5, RGB(9, 9, 9));
     EXPECT_EQ(2, SaveDC(canvas));
     EXPECT_FALSE(RestoreDC(canvas, 5));
     EXPECT_TRUE(RestoreDC(canvas, outer));
     EXPECT_EQ(RGB(1, 1, 1), GetTextColor(canvas));
     EXPECT_EQ(GetStockObject(BLACK_PEN), SelectObject(canvas, GetStockObject(WHITE_PEN)));
-    EXPECT_EQ(RGB(255, 255, 255), GetPixel(canvas, 63, 47)) << "nothing is clipped any more";
+    EXPECT_EQ(RGB(255, 255, 255), GetPixel(canvas, 5, 5)) << "it was clipped still";
+    SetPixel(canvas, 5, 5, RGB(9, 9, 9));
+    EXPECT_EQ(RGB(9, 9, 9), GetPixel(canvas, 5, 5)) << "nothing is clipped any more";
     EXPECT_FALSE(RestoreDC(canvas, -1));
 }
 

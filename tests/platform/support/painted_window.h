@@ -116,11 +116,14 @@ class PaintedWindows : public ::testing::Test {
 
     /// The colour that is seen at a point of a window's client area.
     static COLORREF PixelAt(HWND window, int x, int y) {
+        HWND top = GetAncestor(window, GA_ROOT);
+        RECT place{};
+        GetWindowRect(top, &place);
         POINT point{x, y};
         ClientToScreen(window, &point);
-        HDC screen = GetDC(nullptr);
-        const COLORREF colour = GetPixel(screen, point.x, point.y);
-        ReleaseDC(nullptr, screen);
+        HDC context = GetWindowDC(top);
+        const COLORREF colour = GetPixel(context, point.x - place.left, point.y - place.top);
+        ReleaseDC(top, context);
         return colour;
     }
 

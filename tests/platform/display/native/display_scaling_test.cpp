@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <vector>
 
@@ -77,6 +78,45 @@ TEST(DisplayScaling, ColoursAreMixedAndNotMadeUp) {
     for (int y = placement.Area().top; y < placement.Area().bottom; ++y) {
         for (int x = 0; x < 33; ++x) {
             ASSERT_EQ(0xFFFFFFU, shown[static_cast<std::size_t>(y) * 33 + x]);
+        }
+    }
+}
+
+TEST(DisplayScaling, WholeFactorOfADenseDesktop) {
+    const Box small{0, 0, 800, 600};
+    const Box large{0, 0, 3840, 2160};
+    EXPECT_EQ(1, ScaleOf(0, large));
+    EXPECT_EQ(1, ScaleOf(96, large));
+    EXPECT_EQ(1, ScaleOf(144, large));
+    EXPECT_EQ(2, ScaleOf(168, large));
+    EXPECT_EQ(2, ScaleOf(192, large));
+    EXPECT_EQ(3, ScaleOf(288, large));
+    EXPECT_EQ(3, ScaleOf(960, large));
+    EXPECT_EQ(1, ScaleOf(192, small));
+    EXPECT_EQ(1, ScaleOf(192, Box{0, 0, 1599, 1200}));
+    EXPECT_EQ(2, ScaleOf(192, Box{0, 0, 1600, 1200}));
+}
+
+TEST(DisplayScaling, PlacesOutsideTheDesktop) {
+    EXPECT_EQ(-1, RoundDown(-1, 2));
+    EXPECT_EQ(-1, RoundDown(-2, 2));
+    EXPECT_EQ(-2, RoundDown(-3, 2));
+    EXPECT_EQ(1, RoundDown(3, 2));
+}
+
+TEST(DisplayScaling, WhatLiesUnderABoxIsCutOut) {
+    for (const Box hole :
+         {Box{2, 2, 5, 5}, Box{-1, 3, 20, 4}, Box{0, 0, 10, 10}, Box{8, 8, 12, 12}, Box{20, 0, 30, 9}}) {
+        std::vector<Box> boxes{{0, 0, 10, 10}, {4, 4, 12, 6}};
+        CutOut(boxes, hole);
+        for (int y = -1; y < 13; ++y) {
+            for (int x = -1; x < 13; ++x) {
+                const Box pixel{x, y, x + 1, y + 1};
+                const auto in = [&](const Box& box) { return !Cut(box, pixel).Empty(); };
+                const auto covering = std::count_if(boxes.begin(), boxes.end(), in);
+                const int wanted = in(hole) ? 0 : in(Box{0, 0, 10, 10}) + in(Box{4, 4, 12, 6});
+                EXPECT_EQ(wanted, covering) << x << ' ' << y;
+            }
         }
     }
 }

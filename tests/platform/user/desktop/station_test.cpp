@@ -9,8 +9,11 @@ TEST(Station, FlagsFitTheirRecord) {
     DWORD needed = 0;
     EXPECT_TRUE(GetUserObjectInformationA(GetProcessWindowStation(), UOI_FLAGS, &flags, sizeof flags, &needed));
     EXPECT_EQ(DWORD{sizeof flags}, needed);
+}
 
-    needed = 0;
+TEST(Station, ARecordTooSmallIsRefused) {
+    USEROBJECTFLAGS flags;
+    DWORD needed = 0;
     SetLastError(0);
     EXPECT_FALSE(GetUserObjectInformationA(GetProcessWindowStation(), UOI_FLAGS, &flags, 2, &needed));
     EXPECT_EQ(DWORD{ERROR_INSUFFICIENT_BUFFER}, GetLastError());
