@@ -54,16 +54,48 @@ constexpr const char* kQueries[] = {
 };
 static_assert(std::size(kQueries) == static_cast<std::size_t>(Query::Count));
 
+/// What shows that others are at work: each write of theirs changes the log.
+struct Log {
+    off_t size = 0;
+    timespec written{};
+
+    explicit Log(sqlite3* connection) {
+        const char* path = sqlite3_db_filename(connection, "main");
+        struct stat status {};
+        if (path && stat((std::string(path) + "-wal").c_str(), &status) == 0) {
+            size = status.st_size;
+            written = status.st_mtim;
+        }
+    }
+    bool operator==(const Log& other) const {
+        return size == other.size && written.tv_sec == other.written.tv_sec && written.tv_nsec == other.written.tv_nsec;
+    }
+};
+
 // Does something again for as long as another process is in its way, which is over in microseconds unless that process
-// stands still. All waiting is done here and SQLite is told of none, as it does not wait for everything: switching a
-// database to write-ahead mode fails at once while another process so much as looks at it.
+// stands still; with hundreds of them at work it may take a while until it is this one's turn. All waiting is done here and
+// SQLite is told of none, as it does not wait for everything: switching a database to write-ahead mode fails at once while
+// another process so much as looks at it.
 template <class Run>
-int Patiently(Run run) {
+int Patiently(sqlite3* connection, Run run) {
     using Clock = std::chrono::steady_clock;
     int code = run();
-    const auto start = code == SQLITE_BUSY ? Clock::now() : Clock::time_point();
-    for (int tries = 0; code == SQLITE_BUSY && Clock::now() - start < kPatience; ++tries) {
-        std::this_thread::sleep_for(std::chrono::microseconds(tries < 10 ? 20 : 500));
+    if (code != SQLITE_BUSY) {
+        return code;
+    }
+    Log log(connection);
+    auto start = Clock::now();
+    for (int tries = 0; code == SQLITE_BUSY; ++tries) {
+        if (Clock::now() - start >= kPatience) {
+            const Log now(connection);
+            if (now == log) {
+                break;
+            }
+            log = now;
+            start = Clock::now();
+        }
+        // The more there are who wait, the less often each of them asks.
+        std::this_thread::sleep_for(std::chrono::microseconds(tries < 10 ? 20 : std::min(tries * 50, 5000)));
         code = run();
     }
     return code;
@@ -73,18 +105,18 @@ int Patiently(Run run) {
 
 int Statement::StepPatiently() {
     begun_ = true;
-    return Patiently([this] {
+    return Patiently(sqlite3_db_handle(statement_), [this] {
         sqlite3_reset(statement_);
         return sqlite3_step(statement_);
     });
 }
 
 int Database::Execute(const char* text) {
-    return Patiently([&] { return sqlite3_exec(connection_, text, nullptr, nullptr, nullptr); });
+    return Patiently(connection_, [&] { return sqlite3_exec(connection_, text, nullptr, nullptr, nullptr); });
 }
 
 int Database::ReadNumber(const char* pragma, int* number) {
-    return Patiently([&] {
+    return Patiently(connection_, [&] {
         sqlite3_stmt* statement = nullptr;
         int code = sqlite3_prepare_v2(connection_, pragma, -1, &statement, nullptr);
         if (code == SQLITE_OK) {
@@ -268,7 +300,7 @@ Statement Database::Use(Query query) {
     const auto index = static_cast<std::size_t>(query);
     int code = SQLITE_OK;
     if (!statements_[index]) {
-        code = Patiently([&] {
+        code = Patiently(connection_, [&] {
             return sqlite3_prepare_v3(connection_, kQueries[index], -1, SQLITE_PREPARE_PERSISTENT, &statements_[index],
                                       nullptr);
         });
