@@ -5,9 +5,11 @@
 #include <array>
 #include <cstring>
 #include <iterator>
+#include <new>
 #include <set>
 #include <utility>
 
+#include "kernel/guarded.h"
 #include "kernel/text/codepage.h"
 #include "kernel/text/weights.h"
 
@@ -243,7 +245,12 @@ int CompareOrdered(LPCSTR first, LPCSTR second, DWORD flags) {
     if (!first || !second) {
         return first ? 1 : second ? -1 : 0;
     }
-    return CompareTexts(MakeText(first, -1), MakeText(second, -1), flags) - CSTR_EQUAL;
+    try {
+        return CompareTexts(MakeText(first, -1), MakeText(second, -1), flags) - CSTR_EQUAL;
+    } catch (const std::bad_alloc&) {
+        // These calls have no way to fail: without memory for weights, texts come in the order of their bytes.
+        return std::strcmp(first, second);
+    }
 }
 
 }  // namespace
@@ -259,7 +266,8 @@ int WINAPI CompareStringA(LCID locale, DWORD flags, LPCSTR first, int firstSize,
         SetLastError(ERROR_INVALID_PARAMETER);
         return 0;
     }
-    return CompareTexts(MakeText(first, firstSize), MakeText(second, secondSize), flags);
+    return platform::kernel::Guarded(
+        0, [&] { return CompareTexts(MakeText(first, firstSize), MakeText(second, secondSize), flags); });
 }
 
 int WINAPI lstrcmpA(LPCSTR first, LPCSTR second) {
