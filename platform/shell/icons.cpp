@@ -4,6 +4,7 @@
 #include <cstring>
 #include <mutex>
 
+#include "base/immortal.h"
 #include "comctl/imagelist.h"
 #include "gdi/bitmap/bitmaps.h"
 
@@ -244,9 +245,9 @@ Picture PictureOf(const Place& place, bool open) {
 }
 
 HIMAGELIST SmallIcons() {
-    static std::mutex& lock = *new std::mutex;
+    static platform::base::Immortal<std::mutex> lock;
     static HIMAGELIST list = nullptr;
-    const std::lock_guard guard(lock);
+    const std::lock_guard guard(*lock);
     if (!list) {
         list = Make();
     }

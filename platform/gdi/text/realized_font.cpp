@@ -4,6 +4,7 @@
 #include <map>
 #include <mutex>
 
+#include "base/immortal.h"
 #include "gdi/text/font.h"
 
 namespace platform::gdi {
@@ -19,7 +20,7 @@ std::recursive_mutex& FontLock() {
 using Store = std::map<std::string, std::unique_ptr<RealizedFont>>;
 
 Store& Fonts() {
-    static Store* fonts = new Store;  // text may be drawn until the very end of the process
+    static base::Immortal<Store> fonts;  // text may be drawn until the very end of the process
     return *fonts;
 }
 

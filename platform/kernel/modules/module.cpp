@@ -27,8 +27,8 @@ using base::HandleKind;
 using ModuleList = std::vector<std::unique_ptr<Module>>;
 
 ModuleList& Modules() {
-    static auto& modules = *new ModuleList;
-    return modules;
+    static platform::base::Immortal<ModuleList> modules;
+    return *modules;
 }
 
 // What LoadLibraryA learns from the start-up object that runs inside the host's loader.

@@ -6,6 +6,7 @@
 #include <new>
 #include <optional>
 
+#include "base/immortal.h"
 #include "kernel/text/encoding.h"
 #include "user/controls/above.h"
 #include "user/input/above.h"
@@ -25,8 +26,8 @@ struct Clipboard {
 };
 
 Clipboard& Board() {
-    static auto& board = *new Clipboard;
-    return board;
+    static base::Immortal<Clipboard> board;
+    return *board;
 }
 
 void Clear() {

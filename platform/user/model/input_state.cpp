@@ -1,9 +1,11 @@
 #include "user/model/input_state.h"
 
+#include "base/immortal.h"
+
 namespace platform::user {
 
 InputState& Input() {
-    static auto* input = new InputState;
+    static base::Immortal<InputState> input;
     return *input;
 }
 

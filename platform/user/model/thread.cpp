@@ -8,6 +8,7 @@
 #include <new>
 #include <vector>
 
+#include "base/immortal.h"
 #include "base/clock.h"
 #include "base/report.h"
 #include "user/model/above.h"
@@ -19,7 +20,7 @@ namespace {
 
 // Never freed: threads may end after static objects are gone.
 std::map<DWORD, ThreadState*>& Threads() {
-    static auto* threads = new std::map<DWORD, ThreadState*>;
+    static base::Immortal<std::map<DWORD, ThreadState*>> threads;
     return *threads;
 }
 

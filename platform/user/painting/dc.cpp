@@ -4,6 +4,7 @@
 #include <new>
 #include <vector>
 
+#include "base/immortal.h"
 #include "base/handle.h"
 #include "gdi/context/device_context.h"
 #include "user/painting/painting.h"
@@ -28,7 +29,7 @@ using Slots = std::vector<std::unique_ptr<Slot>>;
 
 // Never freed: applications may release contexts while static objects go away.
 Slots& AllSlots() {
-    static auto* slots = new Slots;
+    static base::Immortal<Slots> slots;
     return *slots;
 }
 

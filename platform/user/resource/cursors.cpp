@@ -5,6 +5,7 @@
 #include <mutex>
 #include <new>
 
+#include "base/immortal.h"
 #include "base/handle.h"
 #include "kernel/modules/resource.h"
 #include "user/model/window.h"
@@ -50,8 +51,8 @@ struct LoadedIcons {
 };
 
 LoadedIcons& Shared() {
-    static auto& shared = *new LoadedIcons;
-    return shared;
+    static base::Immortal<LoadedIcons> shared;
+    return *shared;
 }
 
 std::unique_ptr<Icon> MakeSystem(unsigned number, bool cursor) {
