@@ -152,7 +152,12 @@ void RunDialog(bool modal) {
     g_ending = false;
     g_beats = 0;
     ByTheRules() = {.hooks = Die().OneIn(5)};
-    UINT_PTR const timer = SetTimer(nullptr, 0, kBeat, Beat);
+    UINT_PTR timer = 0;
+    {
+        // Without its beat there is no storm.
+        Plenty const plenty;
+        timer = SetTimer(nullptr, 0, kBeat, Beat);
+    }
     OpenDialog(modal);
     MSG message;
     while (Dialog() && GetMessageA(&message, nullptr, 0, 0) > 0) {

@@ -81,13 +81,11 @@ struct ThreadEnd {
 thread_local ThreadEnd threadEnd;
 
 ThreadState* MakeThread() {
-    auto* thread = new (std::nothrow) ThreadState;
-    if (thread == nullptr) {
-        return nullptr;
-    }
-    thread->id = GetCurrentThreadId();
     UserGuard guard(UserLock());
+    ThreadState* thread = nullptr;
     try {
+        thread = new ThreadState;
+        thread->id = GetCurrentThreadId();
         Threads()[thread->id] = thread;
     } catch (const std::bad_alloc&) {
         delete thread;
