@@ -67,6 +67,16 @@ Match Linear(const Items& items, LONG offset, const Key& compare) {
     return {nullptr, items.count};
 }
 
+std::uint32_t IndexOf(const Items& items, const char* item) {
+    const auto bytes = static_cast<std::size_t>(item - items.first);
+    if (items.size == 0) {
+        return 0;
+    }
+    // The short division is much the faster one, and nearly always enough.
+    return bytes <= 0xFFFFFFFF ? static_cast<std::uint32_t>(bytes) / items.size
+                               : static_cast<std::uint32_t>(bytes / items.size);
+}
+
 // Halves the places from low on, the middle one being (low + high) / 2 throughout, which decides among equal keys.
 template <class Key>
 Match Binary(const Items& items, LONG offset, const Key& compare) {
@@ -88,35 +98,28 @@ Match Binary(const Items& items, LONG offset, const Key& compare) {
 // the end behind a match. Both next steps are worked out while the number is fetched.
 template <class Number>
 Match Binary(const Items& items, LONG offset, const NumberKey<Number>& compare) {
-    constexpr std::uint32_t kNone = 0xFFFFFFFF;
     const Number key = compare.key;
     const std::size_t size = items.size;
-    const char* field = items.first + offset;  // of the item at `low`
-    std::uint32_t low = 0;
-    std::uint32_t match = kNone;
-    std::uint32_t left = items.end;
+    const char* field = items.first + offset;
+    const char* match = nullptr;
+    std::size_t left = items.end;
     std::size_t step = left / 2 * size;
     while (left) {
         const char* const middle = field + step;
         Number value;
         std::memcpy(&value, middle, sizeof value);
-        const std::uint32_t below = left / 2;
-        const std::uint32_t above = left - below - 1;
+        const std::size_t below = left / 2;
+        const std::size_t above = left - below - 1;
         const std::size_t stepBelow = below / 2 * size;
         const std::size_t stepAbove = above / 2 * size;
-        // All bits, or none.
-        const std::size_t isAbove = std::size_t{0} - static_cast<std::size_t>(key > value);
-        const bool isFirst = (value == key) & (match == kNone);
-        match ^= (match ^ (low + below)) & (0u - static_cast<std::uint32_t>(isFirst));
-        field += (step + size) & isAbove;
-        low += (below + 1) & static_cast<std::uint32_t>(isAbove);
-        left = below ^ ((below ^ above) & static_cast<std::uint32_t>(isAbove));
-        step = stepBelow ^ ((stepBelow ^ stepAbove) & isAbove);
+        const bool isAbove = __builtin_expect_with_probability(key > value, 1, 0.5);
+        match = value == key && !match ? middle : match;
+        field = isAbove ? middle + size : field;
+        left = isAbove ? above : below;
+        step = isAbove ? stepAbove : stepBelow;
     }
-    if (match == kNone) {
-        return {nullptr, low};
-    }
-    return {const_cast<char*>(items.first) + match * size, match};
+    const char* const item = (match ? match : field) - offset;
+    return {match ? const_cast<char*>(item) : nullptr, IndexOf(items, item)};
 }
 
 // Texts take a null key, which comes before all others; a number must be there to be read.

@@ -9,7 +9,6 @@
 #include <set>
 #include <utility>
 
-#include "kernel/guarded.h"
 #include "kernel/text/codepage.h"
 #include "kernel/text/weights.h"
 
@@ -266,8 +265,12 @@ int WINAPI CompareStringA(LCID locale, DWORD flags, LPCSTR first, int firstSize,
         SetLastError(ERROR_INVALID_PARAMETER);
         return 0;
     }
-    return platform::kernel::Guarded(
-        0, [&] { return CompareTexts(MakeText(first, firstSize), MakeText(second, secondSize), flags); });
+    try {
+        return CompareTexts(MakeText(first, firstSize), MakeText(second, secondSize), flags);
+    } catch (const std::bad_alloc&) {
+        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+        return 0;
+    }
 }
 
 int WINAPI lstrcmpA(LPCSTR first, LPCSTR second) {
