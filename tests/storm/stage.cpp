@@ -174,6 +174,15 @@ INT_PTR Answer(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
     }
 }
 
+// What a control tells may be answered by ending something. @returns whether the dialog has gone by it.
+bool VanishedInAnswer(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (!IsNotification(message)) {
+        return false;
+    }
+    MaybeVanish(dialog, Sender(dialog, message, wParam, lParam));
+    return !IsWindow(dialog);
+}
+
 INT_PTR CALLBACK PageProcedure(HWND page, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
     if (message == WM_INITDIALOG) {
         g_page = page;
@@ -221,11 +230,8 @@ INT_PTR CALLBACK DialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPARA
         FillTree(GetDlgItem(dialog, 143));
         return TRUE;
     }
-    if (IsNotification(message)) {
-        MaybeVanish(dialog, Sender(dialog, message, wParam, lParam));
-        if (!IsWindow(dialog)) {
-            return TRUE;
-        }
+    if (VanishedInAnswer(dialog, message, wParam, lParam)) {
+        return TRUE;
     }
     // The dialog is not given up too easily: that is what the end of a round is for.
     if (message == WM_COMMAND && (LOWORD(wParam) == IDOK || LOWORD(wParam) == IDCANCEL)) {
@@ -247,11 +253,8 @@ INT_PTR CALLBACK NestedProcedure(HWND dialog, UINT message, WPARAM wParam, LPARA
         FillList(GetDlgItem(dialog, 1202), LB_ADDSTRING);
         return TRUE;
     }
-    if (IsNotification(message)) {
-        MaybeVanish(dialog, Sender(dialog, message, wParam, lParam));
-        if (!IsWindow(dialog)) {
-            return TRUE;
-        }
+    if (VanishedInAnswer(dialog, message, wParam, lParam)) {
+        return TRUE;
     }
     if (message == WM_COMMAND && (LOWORD(wParam) == IDOK || LOWORD(wParam) == IDCANCEL)) {
         EndDialog(dialog, LOWORD(wParam));
