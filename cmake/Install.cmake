@@ -27,6 +27,11 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/cvutil32Config.cmake ${CMAKE_CURRENT_B
               cmake/Modules.cmake DESTINATION ${package})
 
 if(WIN32)
+    # Where the presets put the two widths into one folder.
+    if(CMAKE_INSTALL_LIBDIR MATCHES "^lib(64)?$")
+        install(FILES cmake/either_width.cmake DESTINATION cmake RENAME cvutil32Config.cmake)
+        install(FILES cmake/either_width.cmake DESTINATION cmake RENAME cvutil32ConfigVersion.cmake)
+    endif()
     install(FILES gallery/help/gallery.txt DESTINATION ${CMAKE_INSTALL_BINDIR})
     return()
 endif()
@@ -43,7 +48,9 @@ install(FILES gallery/help/gallery.txt DESTINATION ${CMAKE_INSTALL_DATADIR}/cvut
 install(FILES gallery/desktop/cvutil32-gallery.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES gallery/desktop/cvutil32-gallery.png DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/48x48/apps)
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME copyright)
+# The manual and the examples, where the README's links find them.
 install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY docs examples DESTINATION ${CMAKE_INSTALL_DOCDIR} PATTERN Doxyfile EXCLUDE)
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME cvutil32)

@@ -83,12 +83,12 @@ configure() {
 
 # build_examples <preset> <prefix>: in build/<preset>/examples, against the package that was installed there.
 build_examples() {
-    local toolchain libraries
+    local toolchain
     toolchain=$(sed -nE 's/^CMAKE_TOOLCHAIN_FILE:[A-Z]+=//p' "build/$1/CMakeCache.txt")
-    libraries=$(sed -nE 's/^CMAKE_INSTALL_LIBDIR:[A-Z]+=//p' "build/$1/CMakeCache.txt")
+    # Found as the manual tells, and not where it was the last time.
     cmake -S examples -B "build/$1/examples" -G Ninja -DCMAKE_BUILD_TYPE=Release ${toolchain:+-DCMAKE_TOOLCHAIN_FILE="$toolchain"} \
         -DCMAKE_C_FLAGS="-Wall -Wextra -Werror" -DCMAKE_CXX_FLAGS="-Wall -Wextra -Werror" \
-        -DCMAKE_FIND_ROOT_PATH_MODE_PACKAGE=BOTH -Dcvutil32_DIR="$2/$libraries/cmake/cvutil32" >/dev/null
+        -Ucvutil32_DIR -DCMAKE_PREFIX_PATH="$2" >/dev/null
     cmake --build "build/$1/examples"
 }
 

@@ -26,6 +26,7 @@ find . -name '*.h' | sed 's#^\./##' | LC_ALL=C sort | while read -r header; do
         /^\/\/\/ / { remark = remark (remark == "" ? "" : " ") substr($0, 5); next }
         /^(WIN[A-Z]*API|STDAPI|SHSTDAPI|SHELLAPI) / {
             line = $0
+            gsub(/__attribute__\(\([a-z_]+\)\)/, "", line)
             while (line !~ /\(/ && (getline more) > 0) line = line " " more
             if (match(line, /[A-Za-z_0-9]+\(/)) {
                 name = substr(line, RSTART, RLENGTH - 1)

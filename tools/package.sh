@@ -51,9 +51,6 @@ package_windows() {
     for preset in lib lib64; do
         [ -f "$folder/$preset/CVUTIL32.lib" ] || die "no $preset/CVUTIL32.lib was made"
     done
-    # Finds the package of the width that is asked for.
-    mkdir -p "$folder/cmake"
-    cp cmake/either_width.cmake "$folder/cmake/cvutil32Config.cmake"
     check_imports "$folder"/bin/*.dll "$folder"/bin/*.exe "$folder"/bin64/*.dll "$folder"/bin64/*.exe
     mkdir -p "$folder/examples"
     cp examples/* "$folder/examples"/
