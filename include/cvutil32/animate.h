@@ -7,11 +7,11 @@
 ///     CONTROL "", IDC_BUSY, "Calverin_AnimateControl", WS_CHILD | WS_VISIBLE, 7, 7, 24, 22
 ///
 ///     HWND busy = GetDlgItem(dialog, IDC_BUSY);
-///     ANIMATE_Initialize(busy, instance, MAKEINTRESOURCE(IDB_BUSY), 32, RGB(255, 0, 255));
+///     ANIMATE_Initialize(busy, instance, MAKEINTRESOURCEA(IDB_BUSY), 32, RGB(255, 0, 255));
 ///     ANIMATE_Start(busy);
 ///     ...
 ///     ANIMATE_Stop(busy);
-///     SendMessage(busy, WM_CLOSE, 0, 0);
+///     SendMessageA(busy, WM_CLOSE, 0, 0);
 ///
 /// The control has no styles of its own, sends no notifications and does not paint: what it shows is what was drawn at
 /// the last picture, and a window that covers it leaves a hole until the next. While it plays, the thread that owns it
@@ -46,13 +46,14 @@ CVAPI(BOOL) ANIMATE_RegisterClass(HINSTANCE instance);
 /// are not released.
 /// @param control  an animation control.
 /// @param module   the module that has the resource.
-/// @param bitmap   name or MAKEINTRESOURCE() of the bitmap.
+/// @param bitmap   name or MAKEINTRESOURCEA() of the bitmap, of any depth.
 /// @param width    of a picture, in pixels; columns that are left over are not used. The height is the bitmap's.
-/// @param mask     the colour of the background; CLR_DEFAULT for that of the first pixel, CLR_NONE for no background.
+/// @param mask     the colour of the background; CLR_DEFAULT for that of the first pixel, CLR_NONE for no background (both of
+///                 <commctrl.h>).
 /// @return TRUE if the pictures were loaded; else the control is as it was.
 CVAPI(BOOL) ANIMATE_Initialize(HWND control, HINSTANCE module, LPCSTR bitmap, int width, COLORREF mask);
 
-/// Starts the animation at its first picture; one that runs starts anew.
+/// Starts the animation at its first picture, which comes 200 milliseconds later; one that runs starts anew.
 /// @param control  an animation control.
 /// @return FALSE if the control has no pictures or there is no timer for it; it stands still then.
 CVAPI(BOOL) ANIMATE_Start(HWND control);

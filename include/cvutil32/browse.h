@@ -21,6 +21,9 @@
 /// | `BROWSE_NOTIFY` | the parent gets the two notifications |
 /// | `BROWSE_NOACTION` | a click is no more than a click: the application acts on it |
 ///
+/// The button's text is not shown, but an "&" in it marks the letter that presses the button with Alt. The open-file dialog
+/// lists all files: for a filter take `BROWSE_NOACTION` and call GetOpenFileNameA() at the click.
+///
 /// A click. The parent gets the click as it does from any button. Then, unless there is no buddy, the buddy's text becomes
 /// the button's file specs, and tells where the open-file dialog begins: an existing file is proposed in its folder, an
 /// existing folder is shown. The folder dialog always opens at the top, whatever the buddy holds. If the user accepts, the buddy gets the new text and the parent a `WM_COMMAND` from the buddy as if

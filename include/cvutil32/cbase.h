@@ -14,7 +14,7 @@
 /// `std::string` does inside, is kept in a list of pointers only. vCopy() casts without a look: what it is given must be
 /// of the very class.
 ///
-/// A class that joins the family:
+/// A class that joins the family (the `new` in a given place comes from `<new>`):
 ///
 ///     class POINT3 : public CBASE
 ///     {

@@ -8,12 +8,13 @@
 ///     CONTROL "", IDC_PARTS, "Calverin_CheckList1", WS_CHILD | WS_VISIBLE | WS_BORDER | WS_VSCROLL | WS_TABSTOP |
 ///             LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | LBS_MULTIPLESEL | LBS_NOTIFY, 7, 7, 100, 80
 ///
-///     SendDlgItemMessage(dialog, IDC_PARTS, LB_ADDSTRING, 0, (LPARAM)"Engine");
-///     SendDlgItemMessage(dialog, IDC_PARTS, LB_SETSEL, TRUE, 0);                       // ticked
+///     SendDlgItemMessageA(dialog, IDC_PARTS, LB_ADDSTRING, 0, (LPARAM)"Engine");
+///     SendDlgItemMessageA(dialog, IDC_PARTS, LB_SETSEL, TRUE, 0);                       // item 0 is ticked
 ///     ...
-///     if (SendDlgItemMessage(dialog, IDC_PARTS, LB_GETSEL, 0, 0) > 0) FitEngine();
+///     if (SendDlgItemMessageA(dialog, IDC_PARTS, LB_GETSEL, 0, 0) > 0) FitEngine();
 ///
-/// A click or the space bar toggles an item; two quick clicks toggle it twice, there is no double click.
+/// A click or the space bar toggles an item; two quick clicks toggle it twice, there is no double click. `LBN_SELCHANGE`
+/// comes then, and when a key moves the focus: LB_GETCARETINDEX tells the item that has it.
 ///
 /// Drawing and measuring. The parent is subclassed when its first check list is created, and answers `WM_DRAWITEM` for
 /// check lists and `WM_MEASUREITEM` for everything by itself:

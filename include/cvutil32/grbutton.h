@@ -2,12 +2,13 @@
 /// `GRBUTTON_`: the graphic button, window class "Calverin_GraphicButton".
 ///
 /// A push button that shows a bitmap instead of text. It is a superclass of the system's "button" and does what a push
-/// button does: mouse, Space, focus, `WM_COMMAND` with `BN_CLICKED`. A dialog template creates it by its class name, and
+/// button does: mouse, Space, focus, `WM_COMMAND` with `BN_CLICKED`. Its text is not shown, but an "&" in it marks the letter
+/// that presses the button with Alt. A dialog template creates it by its class name, and
 /// the application gives it its picture when the dialog starts:
 ///
-///     CONTROL "", IDC_OPEN, "Calverin_GraphicButton", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 7, 7, 16, 14
+///     CONTROL "&Open", IDC_OPEN, "Calverin_GraphicButton", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 7, 7, 16, 14
 ///
-///     GRBUTTON_SetBitmaps(GetDlgItem(dialog, IDC_OPEN), instance, MAKEINTRESOURCE(IDB_OPEN), NULL);
+///     GRBUTTON_SetBitmaps(GetDlgItem(dialog, IDC_OPEN), instance, MAKEINTRESOURCEA(IDB_OPEN), NULL);
 ///
 /// Styles. Every graphic button is owner-drawn: the low word of its style becomes `BS_OWNERDRAW` when it is created,
 /// whatever kind of button the template asks for. The window styles in the high word stay.
@@ -52,7 +53,7 @@ CVAPI(BOOL) GRBUTTON_RegisterClass(HINSTANCE instance);
 /// Gives a button its picture out of bitmap resources. The window is not repainted.
 /// @param button    a graphic button.
 /// @param instance  the module that has the resources.
-/// @param image     name or MAKEINTRESOURCE() of the picture.
+/// @param image     name or MAKEINTRESOURCEA() of the picture, of any depth.
 /// @param mask      the same for the mask; null for none, which leaves a mask that is there.
 /// @return TRUE if the picture was loaded, with the mask or without; FALSE also for a null argument or another window.
 CVAPI(BOOL) GRBUTTON_SetBitmaps(HWND button, HINSTANCE instance, LPCSTR image, LPCSTR mask);

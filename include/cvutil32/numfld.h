@@ -31,7 +31,9 @@
 /// Stepping reads the value as an unsigned number: a negative one, which only NUMFLD_SetValue() and pasting bring, is a
 /// very large one to it.
 ///
-/// Notifications: those of the edit class, EN_UPDATE and EN_CHANGE for steps too.
+/// A bar steps a disabled field, and one with ES_READONLY, like any other: disable the bar with it.
+///
+/// Notifications: those of the edit class, EN_UPDATE and EN_CHANGE for steps and NUMFLD_SetValue() too.
 ///
 /// The first field of a parent window subclasses it, until it is destroyed; the subclass does no more than pass on. A
 /// field's data lives from its WM_NCCREATE to its WM_NCDESTROY. A field that found no memory for it still takes digits,

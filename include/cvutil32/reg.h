@@ -28,6 +28,8 @@
 /// is why they are meant for settings that are stored now and then, when a dialog closes or the program ends. For many
 /// writes open the section once with Reg_OpenBaseUserKey() and write into it with the system's own calls.
 ///
+/// There is nothing for whole sections: CSTRING::RegEnumKeyA() lists those below a key, RegDeleteKeyA() deletes one.
+///
 /// Texts are stored without their NUL, as many bytes as they are long; Reg_GetProfileString() puts one behind them, the
 /// system's RegQueryValueExA does not. A text that does not fit whole counts as missing: the buffer then holds the default.
 /// Numbers are unsigned: cast the result where negative ones are stored.

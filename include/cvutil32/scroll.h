@@ -18,7 +18,8 @@
 ///
 /// Line messages. The associate gets `WM_VSCROLL` or `WM_HSCROLL` with the bar's handle as lParam and as wParam 0 for
 /// the upper arrow, 1 for the lower one; in the horizontal layout 1 for the left arrow and 0 for the right one. The
-/// focus is moved to the associate first.
+/// focus is moved to the associate first. The bar asks nothing of its associate: one that is disabled or read-only is stepped
+/// all the same. Disable the bar with it.
 ///
 /// The mouse. Pressing an arrow captures the mouse and draws the arrow pressed; nothing is sent yet. Held for 400
 /// milliseconds the arrow sends a first message, and from then on one every 50 milliseconds, as long as the pointer is

@@ -9,7 +9,8 @@
 ///     CONTROL "", IDC_START_BAR, "KVS_MicroScrollbar",   WS_CHILD | WS_VISIBLE | SCROLL_STANDARD, 0, 0, 0, 0
 ///
 /// It has no styles of its own and always takes part in tabbing: WS_TABSTOP is added when it is created. It is empty
-/// until it gets a time, and an empty field paints nothing but its background. It sends its parent no notifications:
+/// until it gets a time, and an empty field paints nothing but its background; it is never empty again. A disabled field looks
+/// like an enabled one, and its bar still steps it: disable the bar too. It sends its parent no notifications:
 /// set the value when the dialog starts and read it when the user is done.
 ///
 ///     SYSTEMTIME start;

@@ -8,7 +8,8 @@
 ///     CONTROL "", IDC_FOLDERS, "Calverin_TreeListControl", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 7, 17, 210, 124
 ///
 /// It has no styles of its own. It is a plain window that one tree view fills, the common control "SysTreeView32" with
-/// identifier 850, whose size is that of the control when it is created; the focus goes on to the tree view.
+/// identifier 850, whose size is that of the control when it is created, and which brings a sunken edge; the focus goes on to
+/// the tree view. No function selects a folder by its path.
 ///
 /// What is shown. The top level is read when the control is created; its first item, the computer, is opened and
 /// selected. The children of any other folder are read when it is opened for the first time, and sorted; a folder that
