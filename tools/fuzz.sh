@@ -6,7 +6,7 @@ source "$(dirname "$0")/common.sh"
 
 seconds=${1:-60}
 shift || true
-install_packages "${build_packages[@]}" "${test_packages[@]}" "${fuzz_packages[@]}"
+install_packages "${build_packages[@]}" "${test_packages[@]}" "${sanitize_packages[@]}"
 [ -f build/fuzz/build.ninja ] || cmake -G Ninja -B build/fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_C_COMPILER=clang \
     -DCMAKE_CXX_COMPILER=clang++ -DCVUTIL32_TESTS=ON -DCVUTIL32_FUZZ=ON
 

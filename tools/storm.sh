@@ -3,7 +3,7 @@
 # every control gets so many random events (20,000 unless told), which follow from the seed. tests/storm/README.md tells more.
 source "$(dirname "$0")/common.sh"
 
-install_packages "${build_packages[@]}" "${test_packages[@]}"
+install_packages "${build_packages[@]}" "${test_packages[@]}" "${sanitize_packages[@]}"
 configure sanitize -DCVUTIL32_TESTS=ON
 cmake --build build/sanitize --target storm
 exec build/sanitize/bin/storm "$@"

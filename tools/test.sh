@@ -3,7 +3,9 @@
 source "$(dirname "$0")/common.sh"
 
 preset=${CVUTIL32_PRESET:-native}
-install_packages "${build_packages[@]}" "${test_packages[@]}"
+packages=("${build_packages[@]}" "${test_packages[@]}")
+[ "$preset" != sanitize ] || packages+=("${sanitize_packages[@]}")
+install_packages "${packages[@]}"
 configure "$preset" -DCVUTIL32_TESTS=ON
 cmake --build "build/$preset"
 

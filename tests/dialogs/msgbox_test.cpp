@@ -225,19 +225,19 @@ TEST_F(MessageBoxUse, WhateverEndsATaskModalBoxGivesTheOthersBackOnce) {
         {"the owner's end", false, [](HWND, TestWindow& owner) { owner.Destroy(); }},
         {"the program's end", false, [](HWND, TestWindow&) { PostQuitMessage(3); }},
     };
-    for (auto const& [name, ends, end] : ways) {
-        SCOPED_TRACE(name);
+    for (auto const& way : ways) {
+        SCOPED_TRACE(way.name);
         TestWindow owner;
         KVMB_MESSAGEBOX box = BoxOf(owner);
         box.flags = KVMB_TASKMODAL;
         other.Forget();
         Ask(box, [&](HWND dialog) {
             EXPECT_FALSE(IsWindowEnabled(other));
-            end(dialog, owner);
+            way.end(dialog, owner);
         });
         EXPECT_TRUE(IsWindowEnabled(other));
         EXPECT_TRUE(IsWindowEnabled(owner_));
-        EXPECT_TRUE(!ends || IsWindowEnabled(owner));
+        EXPECT_TRUE(!way.ends || IsWindowEnabled(owner));
         EXPECT_EQ(2u, other.Received(WM_ENABLE).size()) << "disabled once, enabled once";
         MSG quit = {};
         PeekMessageA(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);

@@ -175,12 +175,12 @@ bool Endure(Subject const& subject, int times) {
     std::fflush(stdout);
     char const* const name = subject.name.c_str();
     auto const count = [](std::size_t amount) { return static_cast<long>(amount); };
-    bool const counts = Compare(name, "windows", count(before.windows), count(after.windows), 0) &
-                        Compare(name, "GDI objects", count(before.gdi), count(after.gdi), 0) &
-                        Compare(name, "handles", count(before.handles), count(after.handles), 0) &
-                        Compare(name, "global blocks", count(before.blocks), count(after.blocks), count(g_hooked));
+    bool counts = Compare(name, "windows", count(before.windows), count(after.windows), 0);
+    counts &= Compare(name, "GDI objects", count(before.gdi), count(after.gdi), 0);
+    counts &= Compare(name, "handles", count(before.handles), count(after.handles), 0);
+    counts &= Compare(name, "global blocks", count(before.blocks), count(after.blocks), count(g_hooked));
     // The sanitizer keeps what was released for a while.
-#ifdef __SANITIZE_ADDRESS__
+#ifdef CVUTIL32_SANITIZE
     return counts;
 #else
     return Compare(name, "memory", before.memory, after.memory, kMostGrowth) & counts;

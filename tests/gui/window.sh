@@ -64,7 +64,7 @@ display_is_there() {
 }
 # The server goes on between two programs; one that ends with its last client is not back in time for the next.
 start_server() { # [<width>x<height>]
-    Xvfb -displayfd 3 -screen 0 "${1:-1280x1024}x24" -nolisten tcp -noreset 3>"$work/display" 2>"$work/server.log" &
+    Xvfb -displayfd 3 -screen 0 "${1:-800x600}x24" -nolisten tcp -noreset 3>"$work/display" 2>"$work/server.log" &
     server=$!
     wait_for "a display" display_is_there
     DISPLAY=:$(<"$work/display")

@@ -391,8 +391,8 @@ char const* AnyText() {
         "  blanks  ",
         "zebra",
         "Alpha beta gamma delta epsilon zeta eta theta iota kappa lambda mu nu xi omicron",
-        "a-word-without-any-blank-that-is-longer-than-any-field-of-the-dialog-is-wide-"
-        "and-then-some-more-of-it-until-it-is-really-too-long-for-everything-there-is"};
+        ("a-word-without-any-blank-that-is-longer-than-any-field-of-the-dialog-is-wide-"
+         "and-then-some-more-of-it-until-it-is-really-too-long-for-everything-there-is")};
     return Die().Of(texts);
 }
 

@@ -18,7 +18,7 @@ namespace platform::user {
 namespace {
 
 std::atomic<display::Display*> presenter{nullptr};
-std::atomic<unsigned> shape{reinterpret_cast<std::uintptr_t>(IDC_ARROW) & 0xFFFF};
+std::atomic<unsigned> shape{static_cast<unsigned>(reinterpret_cast<std::uintptr_t>(IDC_ARROW) & 0xFFFF)};
 
 void WakePresenter() {
     if (display::Display* shown = presenter.load(std::memory_order_acquire)) {
