@@ -9,7 +9,7 @@ namespace platform::kernel {
 
 struct PageRun {
     std::uintptr_t begin = 0;
-    std::uintptr_t end = 0;
+    std::uintptr_t size = 0;
     unsigned age = 0;  ///< of the knowledge, see g_pagesAge
 };
 

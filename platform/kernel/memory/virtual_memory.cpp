@@ -76,7 +76,7 @@ PageRun WritablePages(std::uintptr_t address) {
     if (found == Areas().end() || !found->second.writable) {
         return {};
     }
-    return {found->first, found->first + found->second.size, g_pagesAge.load()};
+    return {found->first, found->second.size, g_pagesAge.load()};
 }
 
 }  // namespace platform::kernel

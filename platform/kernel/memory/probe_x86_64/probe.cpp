@@ -54,20 +54,21 @@ bad:
 constexpr std::uintptr_t kPage = 4096;
 
 struct Range {
-    std::uintptr_t begin;
-    std::uintptr_t end;
+    std::uintptr_t begin = 0;
+    std::uintptr_t end = 0;
 
     bool Holds(std::uintptr_t address) const {
         return address >= begin && address < end;
     }
 };
 
-// The stack of a thread; the end is 0 until it is asked for.
-__attribute__((tls_model("initial-exec"))) thread_local Range t_stack;
-
-// The pages of VirtualAlloc that this thread asked about last.
-__attribute__((tls_model("initial-exec"))) thread_local platform::kernel::PageRun t_pages;
-__attribute__((tls_model("initial-exec"))) thread_local unsigned t_touches = 0;
+// What a thread knows of memory that can be written, in one place: each thing known is a compare, and no more.
+struct Known {
+    platform::kernel::PageRun pages;  ///< of VirtualAlloc, those that were asked about last
+    Range stack;                      ///< the end is 0 until it is asked for
+    unsigned touches = 0;
+};
+constinit __attribute__((tls_model("initial-exec"))) thread_local Known t_known;
 
 // The program's own variables.
 Range g_data;
@@ -75,24 +76,29 @@ std::uintptr_t g_heapBegin = ~std::uintptr_t{0};
 
 // The C library's note of where the heap ends, which goes up and down; not every C library has one.
 extern "C" __attribute__((weak)) char* __curbrk;
+char* g_dataEnd = nullptr;
+char* const* g_heapEnd = &g_dataEnd;
 
 // Whether an address lies in the frames of the callers: from the frame of the probe up to the stack's end. A thread may
 // also run on a stack of somebody else's making (a signal's, a coroutine's), of which nothing is known.
 inline __attribute__((always_inline)) bool IsOnStack(std::uintptr_t address) {
-    const auto frame = reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
-    return address < t_stack.end && address >= frame && frame >= t_stack.begin;
+    std::uintptr_t frame;
+    asm("mov %%rsp, %0" : "=r"(frame));
+    return address < t_known.stack.end && address >= frame && frame >= t_known.stack.begin;
 }
 
-inline __attribute__((always_inline)) bool IsInHeap(std::uintptr_t address) {
-    return address >= g_heapBegin && address < reinterpret_cast<std::uintptr_t>(__curbrk);
+// Variables and the heap that grows by brk lie lowest in a process; what is mapped and the stacks lie above them.
+inline __attribute__((always_inline)) bool IsBelowHeapEnd(std::uintptr_t address) {
+    return address < reinterpret_cast<std::uintptr_t>(*g_heapEnd);
 }
 
 inline __attribute__((always_inline)) bool IsInKnownPages(std::uintptr_t address) {
-    return address >= t_pages.begin && address < t_pages.end && t_pages.age == platform::kernel::g_pagesAge.load();
+    const auto& pages = t_known.pages;
+    return address - pages.begin < pages.size && pages.age == platform::kernel::g_pagesAge.load();
 }
 
 __attribute__((noinline)) void LearnStack() {
-    t_stack = {~std::uintptr_t{0}, 1};  // if it cannot be had, it is not asked for again
+    t_known.stack = {~std::uintptr_t{0}, 1};  // if it cannot be had, it is not asked for again
     pthread_attr_t attributes;
     if (pthread_getattr_np(pthread_self(), &attributes) != 0) {
         return;
@@ -101,7 +107,7 @@ __attribute__((noinline)) void LearnStack() {
     std::size_t size = 0;
     if (pthread_attr_getstack(&attributes, &begin, &size) == 0) {
         const auto first = reinterpret_cast<std::uintptr_t>(begin);
-        t_stack = {first, first + size};
+        t_known.stack = {first, first + size};
     }
     pthread_attr_destroy(&attributes);
 }
@@ -126,10 +132,12 @@ int LearnData(dl_phdr_info* program, std::size_t, void*) {
 // What malloc gives out early lies near the heap's beginning, unless the heap is of another kind.
 __attribute__((constructor)) void LearnMemory() {
     dl_iterate_phdr(LearnData, nullptr);
+    g_dataEnd = reinterpret_cast<char*>(g_data.end);
     void* const block = std::malloc(1);
     const auto first = reinterpret_cast<std::uintptr_t>(block);
     if (block && &__curbrk && first > g_data.end && first < reinterpret_cast<std::uintptr_t>(__curbrk)) {
         g_heapBegin = first;
+        g_heapEnd = &__curbrk;
     }
     std::free(block);
 }
@@ -163,14 +171,14 @@ bool WriteTouch(std::uintptr_t address) {
 // in a while.
 __attribute__((noinline)) bool TouchAndLearn(std::uintptr_t address) {
     constexpr unsigned kOnceInTouches = 32;
-    if (!t_stack.end) {
+    if (!t_known.stack.end) {
         LearnStack();
     }
     if (!CanWrite(address)) {
         return false;
     }
-    if (t_touches++ % kOnceInTouches == 0) {
-        t_pages = platform::kernel::WritablePages(address);
+    if (t_known.touches++ % kOnceInTouches == 0) {
+        t_known.pages = platform::kernel::WritablePages(address);
     }
     return true;
 }
@@ -226,8 +234,9 @@ __attribute__((constructor)) void InstallFaultHandler() {
 BOOL WINAPI IsBadWritePtr(LPVOID address, UINT_PTR bytes) {
     const auto first = reinterpret_cast<std::uintptr_t>(address);
     // By far most ranges lie within one page.
-    if (bytes - 1 < kPage && (first ^ (first + bytes - 1)) < kPage) [[likely]] {
-        if (IsOnStack(first) || IsInHeap(first) || g_data.Holds(first) || IsInKnownPages(first)) [[likely]] {
+    if (((bytes - 1) | (first % kPage + bytes - 1)) < kPage) [[likely]] {
+        if (IsBelowHeapEnd(first) ? first >= g_heapBegin || g_data.Holds(first)
+                                  : IsInKnownPages(first) || IsOnStack(first)) [[likely]] {
             return FALSE;
         }
         return !TouchAndLearn(first);
