@@ -60,7 +60,7 @@ class BuiltInFace : public Face {
     const FontMetrics& Metrics() const override {
         return metrics_;
     }
-    bool Load(char32_t character, Glyph& glyph) override {
+    bool Load(char32_t character, Glyph& glyph, bool /*evenLarge*/) override {
         if (character < 0x20 || character > 0x7E) {
             return false;
         }

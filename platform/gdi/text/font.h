@@ -22,6 +22,7 @@ struct Glyph {
     int width = 0;
     int height = 0;
     std::vector<std::uint8_t> coverage;  ///< a byte a pixel; 255 is full
+    bool large = false;                  ///< too large to be kept: the picture is made for each drawing
 };
 
 struct FontMetrics {
@@ -44,8 +45,9 @@ class Face {
   public:
     virtual ~Face() = default;
     virtual const FontMetrics& Metrics() const = 0;
-    /// @returns whether the face has the character; fills in its glyph then.
-    virtual bool Load(char32_t character, Glyph& glyph) = 0;
+    /// @returns whether the face has the character; fills in its glyph then, without the picture where that is large and
+    /// not asked for.
+    virtual bool Load(char32_t character, Glyph& glyph, bool evenLarge = false) = 0;
 };
 
 /// A face with the styles that it lacks put on, and a store of its glyphs. Glyphs never move or change once they are
@@ -65,6 +67,8 @@ class RealizedFont {
         const Glyph* glyph = page ? (*page)[character & 0xFF].load(std::memory_order_acquire) : nullptr;
         return glyph ? *glyph : Make(character);
     }
+    /// The picture of a large glyph, which is not kept.
+    Glyph GetLarge(char16_t character);
     bool Underlined() const {
         return underlined_;
     }
@@ -75,9 +79,10 @@ class RealizedFont {
   private:
     using Page = std::array<std::atomic<const Glyph*>, 256>;
     const Glyph& Make(char16_t character);
+    Glyph Load(char16_t character, bool evenLarge);
     void Embolden(Glyph& glyph) const;
     void Slant(Glyph& glyph) const;
-    bool LoadElsewhere(char32_t character, Glyph& glyph);
+    bool LoadElsewhere(char32_t character, Glyph& glyph, bool evenLarge);
 
     std::unique_ptr<Face> face_;
     std::vector<std::unique_ptr<Face>> substitutes_;  ///< faces for characters that the face lacks

@@ -37,14 +37,22 @@ class FreetypeFace : public Face {
     const FontMetrics& Metrics() const override {
         return metrics_;
     }
-    bool Load(char32_t character, Glyph& glyph) override {
+    bool Load(char32_t character, Glyph& glyph, bool evenLarge) override {
+        constexpr FT_Pos kLarge = 1 << 16;
         const FT_UInt index = FT_Get_Char_Index(face_, character);
-        if (index == 0 || FT_Load_Glyph(face_, index, flags_ | FT_LOAD_RENDER)) {
+        if (index == 0 || FT_Load_Glyph(face_, index, flags_)) {
             return false;
         }
         const FT_GlyphSlot slot = face_->glyph;
-        const FT_Bitmap& bitmap = slot->bitmap;
         glyph.advance = static_cast<int>((slot->advance.x + 32) >> 6);
+        glyph.large = (slot->metrics.width >> 6) * (slot->metrics.height >> 6) > kLarge;
+        if (glyph.large && !evenLarge) {
+            return true;
+        }
+        if (FT_Render_Glyph(slot, FT_LOAD_TARGET_MODE(flags_))) {
+            return false;
+        }
+        const FT_Bitmap& bitmap = slot->bitmap;
         glyph.left = slot->bitmap_left;
         glyph.top = slot->bitmap_top;
         glyph.width = static_cast<int>(bitmap.width);
@@ -61,7 +69,7 @@ class FreetypeFace : public Face {
     }
     void Measure() {
         Glyph glyph;
-        metrics_.averageWidth = Load('x', glyph) ? glyph.advance : metrics_.ascent / 2;
+        metrics_.averageWidth = Load('x', glyph, false) ? glyph.advance : metrics_.ascent / 2;
         metrics_.maximumWidth = metrics_.averageWidth;
         metrics_.fixedPitch = FT_IS_FIXED_WIDTH(face_);
         for (char32_t c = 0x20; c <= 0xFF && !metrics_.fixedPitch; ++c) {

@@ -27,6 +27,8 @@ Store& Fonts() {
 /// What two logical fonts must share to share glyphs.
 std::string KeyOf(const LOGFONTA& logical) {
     LOGFONTA plain = logical;
+    // Beyond this all heights are the largest that there is.
+    plain.lfHeight = std::clamp<LONG>(plain.lfHeight, -4000, 4000);
     plain.lfEscapement = plain.lfOrientation = 0;
     plain.lfOutPrecision = plain.lfClipPrecision = 0;
     std::memset(plain.lfFaceName, 0, sizeof(plain.lfFaceName));
@@ -101,12 +103,12 @@ void RealizedFont::Slant(Glyph& glyph) const {
     glyph.left += least;
 }
 
-bool RealizedFont::LoadElsewhere(char32_t character, Glyph& glyph) {
+bool RealizedFont::LoadElsewhere(char32_t character, Glyph& glyph, bool evenLarge) {
     if (character < 0x80) {
         return false;
     }
     for (const auto& face : substitutes_) {
-        if (face->Load(character, glyph)) {
+        if (face->Load(character, glyph, evenLarge)) {
             return true;
         }
     }
@@ -114,11 +116,31 @@ bool RealizedFont::LoadElsewhere(char32_t character, Glyph& glyph) {
     sized.lfHeight = -(metrics_.ascent + metrics_.descent - metrics_.internalLeading);
     sized.lfFaceName[0] = 0;
     auto face = OpenOutlineFace(sized, character);
-    if (!face || !face->Load(character, glyph)) {
+    if (!face || !face->Load(character, glyph, evenLarge)) {
         return false;
     }
     substitutes_.push_back(std::move(face));
     return true;
+}
+
+Glyph RealizedFont::Load(char16_t character, bool evenLarge) {
+    Glyph glyph;
+    bool found = face_->Load(character, glyph, evenLarge);
+    if (!found && (character < 0x20 || (character >= 0x7F && character < 0xA0))) {
+        // Control characters show as the default character does.
+        found = face_->Load(0x20, glyph);
+    }
+    found = found || LoadElsewhere(character, glyph, evenLarge) || face_->Load('?', glyph, evenLarge);
+    if (!found) {
+        glyph.advance = metrics_.averageWidth;
+    }
+    if (bold_) {
+        Embolden(glyph);
+    }
+    if (slant_) {
+        Slant(glyph);
+    }
+    return glyph;
 }
 
 const Glyph& RealizedFont::Make(char16_t character) {
@@ -131,24 +153,14 @@ const Glyph& RealizedFont::Make(char16_t character) {
     if (const Glyph* made = place.load(std::memory_order_relaxed)) {
         return *made;
     }
-    auto glyph = std::make_unique<Glyph>();
-    bool found = face_->Load(character, *glyph);
-    if (!found && (character < 0x20 || (character >= 0x7F && character < 0xA0))) {
-        // Control characters show as the default character does.
-        found = face_->Load(0x20, *glyph);
-    }
-    found = found || LoadElsewhere(character, *glyph) || face_->Load('?', *glyph);
-    if (!found) {
-        glyph->advance = metrics_.averageWidth;
-    }
-    if (bold_) {
-        Embolden(*glyph);
-    }
-    if (slant_) {
-        Slant(*glyph);
-    }
+    auto glyph = std::make_unique<Glyph>(Load(character, false));
     place.store(glyph.get(), std::memory_order_release);
     return *glyph.release();
+}
+
+Glyph RealizedFont::GetLarge(char16_t character) {
+    const std::lock_guard guard(FontLock());
+    return Load(character, true);
 }
 
 RealizedFont& Realize(Font& font) {

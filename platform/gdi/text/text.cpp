@@ -33,16 +33,17 @@ namespace {
 struct Placed {
     const Glyph* glyph;
     int x;
+    char16_t character;
 };
 
 /// Glyphs with their places; short texts need no memory of their own.
 class Line {
   public:
-    void Add(const Glyph* glyph, int x) {
+    void Add(const Placed& placed) {
         if (count_ < few_.size()) {
-            few_[count_++] = {glyph, x};
+            few_[count_++] = placed;
         } else {
-            many_.push_back({glyph, x});
+            many_.push_back(placed);
         }
     }
     template <class Visit>
@@ -109,7 +110,8 @@ void DrawLine(DeviceContext& context, const Line& line, RealizedFont& font, cons
         }
         RECT touched{INT32_MAX, INT32_MAX, INT32_MIN, INT32_MIN};
         line.ForEach([&](const Placed& placed) {
-            const Glyph& glyph = *placed.glyph;
+            const Glyph large = placed.glyph->large ? font.GetLarge(placed.character) : Glyph{};
+            const Glyph& glyph = placed.glyph->large ? large : *placed.glyph;
             const int x = cell.left + placed.x + glyph.left;
             const int y = baseline - glyph.top;
             if (glyph.width == 0 || x >= clip.right || x + glyph.width <= clip.left) {
@@ -174,7 +176,7 @@ BOOL WINAPI ExtTextOutA(HDC handle, int x, int y, UINT options, const RECT* rect
         int width = 0;
         ForEachCharacter(text, static_cast<int>(length), [&](int index, int bytes, char16_t character) {
             const Glyph& glyph = font.Get(character);
-            line.Add(&glyph, width);
+            line.Add({&glyph, width, character});
             if (widths) {
                 width += widths[index] + (bytes == 2 ? widths[index + 1] : 0);
             } else {
