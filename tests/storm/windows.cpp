@@ -149,7 +149,7 @@ Making const kMakings[] = {
     {"listbox", WS_TABSTOP | LBS_NOTIFY | WS_VSCROLL},
     {"button", WS_TABSTOP | BS_AUTOCHECKBOX},
     {"button", WS_TABSTOP | BS_DEFPUSHBUTTON},
-    {"static", SS_LEFT | SS_NOTIFY},
+    {"static", SS_LEFT},
     {"scrollbar", SBS_VERT},
 };
 

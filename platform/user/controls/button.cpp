@@ -79,9 +79,8 @@ LRESULT OnSetCheck(HWND button, ButtonData& data, WPARAM wParam) {
     const bool radio = IsRadioKind(kind);
     if (!radio && !IsCheckKind(kind))
         return 0;
-    const bool threeStates = kind == BS_3STATE || kind == BS_AUTO3STATE;
-    const UINT check =
-        wParam == 0 ? BST_UNCHECKED : (wParam >= BST_INDETERMINATE && threeStates ? BST_INDETERMINATE : BST_CHECKED);
+    const bool third = wParam >= BST_INDETERMINATE && kind == BS_AUTO3STATE;
+    const UINT check = wParam == 0 ? BST_UNCHECKED : (third ? BST_INDETERMINATE : BST_CHECKED);
     if (radio) {
         // Tab stops at the checked button of a group.
         const DWORD wanted = check ? style | WS_TABSTOP : style & ~DWORD{WS_TABSTOP};
@@ -150,10 +149,9 @@ void OnKeyUp(HWND button, ButtonData& data, WPARAM key) {
         EndPress(button, data, key == VK_SPACE);
 }
 
-/// '+', '=' and '-' set the two kinds of check boxes that are no more than checked or not.
+/// '+', '=' and '-' set the check boxes that are no more than checked or not.
 bool IsCheckKey(DWORD kind, WPARAM character) {
-    return (kind == BS_CHECKBOX || kind == BS_AUTOCHECKBOX) &&
-           (character == '+' || character == '=' || character == '-');
+    return kind == BS_AUTOCHECKBOX && (character == '+' || character == '=' || character == '-');
 }
 
 void OnCharacter(HWND button, const ButtonData& data, WPARAM character) {
@@ -163,8 +161,7 @@ void OnCharacter(HWND button, const ButtonData& data, WPARAM character) {
     const UINT wanted = character == '-' ? BST_UNCHECKED : BST_CHECKED;
     if ((data.state & 3) == wanted)
         return;
-    if (kind == BS_AUTOCHECKBOX)
-        SendMessageA(button, BM_SETCHECK, wanted, 0);
+    SendMessageA(button, BM_SETCHECK, wanted, 0);
     NotifyParent(button, BN_CLICKED);
 }
 
@@ -187,7 +184,6 @@ LRESULT ButtonDialogCode(HWND button, LPARAM lParam) {
             return DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON;
         case BS_DEFPUSHBUTTON:
             return DLGC_BUTTON | DLGC_DEFPUSHBUTTON;
-        case BS_RADIOBUTTON:
         case BS_AUTORADIOBUTTON:
             return DLGC_BUTTON | DLGC_RADIOBUTTON;
         case BS_GROUPBOX:

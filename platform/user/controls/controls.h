@@ -68,6 +68,5 @@ std::string ControlText(HWND control);
 void DrawDisabledText(HDC context, const std::string& text, RECT rect, UINT format);
 
 /// Draws a bitmap in its own size, centred in a rectangle.
-void DrawCentredBitmap(HDC context, HBITMAP bitmap, const RECT& rect);
 
 }  // namespace platform::user

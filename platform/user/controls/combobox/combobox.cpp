@@ -57,8 +57,6 @@ void OnPaint(const ComboData& combo, HDC given) {
 // --- what the parts tell
 
 void OnEditNotification(ComboData& combo, UINT code) {
-    if (code == EN_ERRSPACE)
-        NotifyCombo(combo, CBN_ERRSPACE);
     if (combo.quiet || (code != EN_CHANGE && code != EN_UPDATE))
         return;
     if (code == EN_UPDATE) {
@@ -96,9 +94,6 @@ void OnListNotification(ComboData& combo, int code) {
         }
         case LBN_DBLCLK:
             NotifyCombo(combo, CBN_DBLCLK);
-            break;
-        case static_cast<short>(LBN_ERRSPACE):
-            NotifyCombo(combo, CBN_ERRSPACE);
             break;
         default:
             break;
@@ -257,7 +252,7 @@ LRESULT CALLBACK ComboBoxProcedure(HWND window, UINT message, WPARAM wParam, LPA
             InvalidateRect(window, nullptr, TRUE);
             return 0;
         default:
-            if (message >= CB_GETEDITSEL && message <= CB_SETDROPPEDWIDTH)
+            if (message >= CB_LIMITTEXT && message <= CB_FINDSTRINGEXACT)
                 return OnComboMessage(combo, message, wParam, lParam);
             return OnInput(combo, message, wParam, lParam);
     }

@@ -16,14 +16,12 @@ RECT ListRect(const ComboData& combo) {
     int height = combo.dropHeight;
     if (list) {
         const int item = std::max(1, list->itemHeight);
-        if (!(combo.Style() & CBS_NOINTEGRALHEIGHT)) {
-            const int wanted = std::clamp(list->items.Count(), 1, 0x7FFF) * item + kListFrame;
-            height = std::min(height, wanted);
-            height -= (height - kListFrame) % item;
-        }
+        const int wanted = std::clamp(list->items.Count(), 1, 0x7FFF) * item + kListFrame;
+        height = std::min(height, wanted);
+        height -= (height - kListFrame) % item;
         height = std::max(height, item + kListFrame);
     }
-    const int width = std::max<int>(field.right - field.left, combo.dropWidth);
+    const int width = field.right - field.left;
     const int screen = GetSystemMetrics(SM_CYSCREEN);
     const bool above = field.bottom + height > screen && field.top - height >= 0;
     const int top = above ? field.top - height : field.bottom;

@@ -81,11 +81,8 @@ bool MakeEdit(ComboData& combo, const CREATESTRUCTA& create) {
 DWORD ListStyle(const ComboData& combo) {
     const DWORD style = combo.Style();
     DWORD list = LBS_NOTIFY | combo.scrollStyle;
-    const std::pair<DWORD, DWORD> same[] = {{CBS_SORT, LBS_SORT},
-                                            {CBS_HASSTRINGS, LBS_HASSTRINGS},
-                                            {CBS_OWNERDRAWFIXED, LBS_OWNERDRAWFIXED},
-                                            {CBS_NOINTEGRALHEIGHT, LBS_NOINTEGRALHEIGHT},
-                                            {WS_DISABLED, WS_DISABLED}};
+    const std::pair<DWORD, DWORD> same[] = {
+        {CBS_HASSTRINGS, LBS_HASSTRINGS}, {CBS_OWNERDRAWFIXED, LBS_OWNERDRAWFIXED}, {WS_DISABLED, WS_DISABLED}};
     for (const auto& [own, lists] : same)
         list |= style & own ? lists : 0;
     return list;

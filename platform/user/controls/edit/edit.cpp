@@ -16,7 +16,7 @@ LRESULT OnCreate(HWND edit, EditData& data, const CREATESTRUCTA* create) {
     if ((ControlStyle(edit) & (ES_PASSWORD | ES_MULTILINE)) == ES_PASSWORD) {
         data.password = kPasswordCharacter;
     }
-    data.text = InStyleCase(edit, create && create->lpszName ? create->lpszName : "");
+    data.text = create && create->lpszName ? create->lpszName : "";
     LayOut(edit, data);
     return 0;
 }
@@ -150,9 +150,6 @@ LRESULT OnTextMessage(HWND edit, EditData& data, UINT message, WPARAM wParam, LP
             SetEditText(edit, data, text);
             return TRUE;
         }
-        case EM_REPLACESEL:
-            InsertText(edit, data, lParam ? reinterpret_cast<LPCSTR>(lParam) : "", wParam != 0);
-            return 0;
         case WM_COPY:
             CopySelection(edit, data);
             return 0;
@@ -171,8 +168,7 @@ LRESULT OnTextMessage(HWND edit, EditData& data, UINT message, WPARAM wParam, LP
                 RemoveText(edit, data, data.SelectionStart(), data.SelectionEnd());
             }
             return 0;
-        case WM_UNDO:
-        case EM_UNDO: {
+        case WM_UNDO: {
             const bool undone = !readOnly && UndoEdit(edit, data);
             return undone || !IsMultiLine(edit);
         }

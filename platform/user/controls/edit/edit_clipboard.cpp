@@ -79,7 +79,7 @@ void CutSelection(HWND edit, EditData& data) {
 void PasteText(HWND edit, EditData& data) {
     const std::string text = Fitting(edit, TextOnClipboard(edit));
     if (!text.empty()) {
-        InsertText(edit, data, text, true);
+        InsertText(edit, data, text);
     }
 }
 
@@ -107,7 +107,7 @@ void OnEditMiddlePress(HWND edit, EditData& data, LPARAM point) {
     }
     if (IsWindow(edit)) {
         MoveEditCaret(edit, data, PositionAt(edit, data, MousePoint(point)), false);
-        InsertText(edit, data, text, true);
+        InsertText(edit, data, text);
     }
 }
 

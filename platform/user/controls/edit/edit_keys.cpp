@@ -101,7 +101,7 @@ void Backspace(HWND edit, EditData& data) {
 
 void TypeText(HWND edit, EditData& data, std::string_view text) {
     if (MayChange(edit)) {
-        InsertText(edit, data, text, true);
+        InsertText(edit, data, text);
     }
 }
 

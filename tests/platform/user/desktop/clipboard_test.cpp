@@ -66,7 +66,7 @@ TEST_F(Clipboard, FieldsCutCopyAndPaste) {
     Send(edit, WM_CUT);
     EXPECT_EQ("one ", Taken());
     EXPECT_EQ("|two three", Marked(edit));
-    Send(edit, EM_UNDO);
+    Send(edit, WM_UNDO);
     EXPECT_EQ("one two three", Text(edit));
     Select(edit, 13, 13);
     Send(edit, WM_PASTE);
