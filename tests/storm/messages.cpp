@@ -73,19 +73,17 @@ Kind const kEdit[] = {
 };
 
 Kind const kList[] = {
-    KIND(LB_ADDSTRING, Zero, Text),        KIND(LB_INSERTSTRING, Number, Text),   KIND(LB_DELETESTRING, Code, Zero),
-    KIND(LB_RESETCONTENT, Zero, Zero),     KIND(LB_SETSEL, Bool, Number),         KIND(LB_SETCURSEL, Number, Zero),
-    KIND(LB_GETSEL, Number, Zero),         KIND(LB_GETTEXT, Code, Buffer),        KIND(LB_GETTEXTLEN, Number, Zero),
-    KIND(LB_FINDSTRING, Number, Text),     KIND(LB_GETSELCOUNT, Zero, Zero),      KIND(LB_GETSELITEMS, Code, Numbers),
-    KIND(LB_SETCOLUMNWIDTH, Number, Zero), KIND(LB_SETTOPINDEX, Number, Zero),    KIND(LB_GETITEMRECT, Number, Rect),
-    KIND(LB_SELITEMRANGE, Bool, Pair),     KIND(LB_SETANCHORINDEX, Number, Zero), KIND(LB_SETCARETINDEX, Number, Bool),
-    KIND(LB_GETITEMHEIGHT, Code, Zero),
+    KIND(LB_ADDSTRING, Zero, Text),        KIND(LB_INSERTSTRING, Number, Text),  KIND(LB_RESETCONTENT, Zero, Zero),
+    KIND(LB_SETSEL, Bool, Number),         KIND(LB_SETCURSEL, Number, Zero),     KIND(LB_GETSEL, Number, Zero),
+    KIND(LB_GETTEXT, Code, Buffer),        KIND(LB_GETTEXTLEN, Number, Zero),    KIND(LB_FINDSTRING, Number, Text),
+    KIND(LB_GETSELCOUNT, Zero, Zero),      KIND(LB_GETSELITEMS, Code, Numbers),  KIND(LB_SETCOLUMNWIDTH, Number, Zero),
+    KIND(LB_SETTOPINDEX, Number, Zero),    KIND(LB_GETITEMRECT, Number, Rect),   KIND(LB_SELITEMRANGE, Bool, Pair),
+    KIND(LB_SETANCHORINDEX, Number, Zero), KIND(LB_SETCARETINDEX, Number, Bool), KIND(LB_GETITEMHEIGHT, Code, Zero),
 };
 
 Kind const kCombo[] = {
     KIND(CB_ADDSTRING, Zero, Text),   KIND(CB_INSERTSTRING, Number, Text), KIND(CB_RESETCONTENT, Zero, Zero),
-    KIND(CB_SETCURSEL, Number, Zero), KIND(CB_SHOWDROPDOWN, Bool, Zero),   KIND(CB_GETDROPPEDCONTROLRECT, Zero, Rect),
-    KIND(CB_LIMITTEXT, Number, Zero),
+    KIND(CB_SETCURSEL, Number, Zero), KIND(WM_KEYDOWN, Key, Code),         KIND(CB_GETDROPPEDCONTROLRECT, Zero, Rect),
 };
 
 Kind const kButton[] = {

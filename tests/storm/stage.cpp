@@ -103,8 +103,6 @@ HWND Sender(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_DRAWITEM:
             return reinterpret_cast<DRAWITEMSTRUCT const*>(lParam)->hwndItem;
         case WM_MEASUREITEM:
-        case WM_DELETEITEM:
-        case WM_PARENTNOTIFY:
         case WM_SETCURSOR:
         case WM_MOUSEACTIVATE:
         case WM_HELP:
@@ -131,8 +129,6 @@ bool IsNotification(UINT message) {
         case WM_VKEYTOITEM:
         case WM_DRAWITEM:
         case WM_MEASUREITEM:
-        case WM_DELETEITEM:
-        case WM_PARENTNOTIFY:
         case WM_SETCURSOR:
         case WM_MOUSEACTIVATE:
         case WM_HELP:
@@ -154,11 +150,6 @@ INT_PTR Answer(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
             reinterpret_cast<MEASUREITEMSTRUCT*>(lParam)->itemHeight =
                 8 + reinterpret_cast<MEASUREITEMSTRUCT const*>(lParam)->itemID % 16;
             return TRUE;
-        case WM_PARENTNOTIFY:
-            if (LOWORD(wParam) == WM_DESTROY) {
-                ReleasePictures(reinterpret_cast<HWND>(lParam), 0);
-            }
-            return FALSE;
         case WM_DESTROY:
             EnumChildWindows(dialog, ReleasePictures, 0);
             return FALSE;

@@ -8,8 +8,8 @@
 /// everything as it was. F4 and Alt with an arrow drop the list and close it. Arrow keys, Page Up, Page Down and letters go to
 /// other items.
 ///
-/// The parent hears through WM_COMMAND, in this order: CBN_DROPDOWN; CBN_SELENDOK or CBN_SELENDCANCEL, CBN_CLOSEUP;
-/// CBN_SELCHANGE, at which the edit control still holds the former text. Messages do not notify. Owner drawing is that of the
+/// The parent hears through WM_COMMAND: CBN_DROPDOWN before the list drops, CBN_SELCHANGE, at which the edit control still holds
+/// the former text. Messages do not notify. Owner drawing is that of the
 /// list box, with ODT_COMBOBOX and the combo box as its control; the field is measured as item -1 and drawn with
 /// ODS_COMBOBOXEDIT.
 #pragma once
@@ -28,15 +28,9 @@
 // --- notifications (WM_COMMAND)
 
 #define CBN_SELCHANGE 1
-#define CBN_DBLCLK 2
-#define CBN_SETFOCUS 3
 #define CBN_KILLFOCUS 4
 #define CBN_EDITCHANGE 5
-#define CBN_EDITUPDATE 6
 #define CBN_DROPDOWN 7
-#define CBN_CLOSEUP 8
-#define CBN_SELENDOK 9
-#define CBN_SELENDCANCEL 10
 
 // --- results
 
@@ -45,13 +39,10 @@
 
 // --- messages
 
-#define CB_LIMITTEXT 0x0141
 #define CB_ADDSTRING 0x0143
 #define CB_GETCURSEL 0x0147
 #define CB_INSERTSTRING 0x014A
 #define CB_RESETCONTENT 0x014B
 #define CB_SETCURSEL 0x014E
-#define CB_SHOWDROPDOWN 0x014F
 #define CB_GETDROPPEDCONTROLRECT 0x0152
-#define CB_GETDROPPEDSTATE 0x0157
 #define CB_FINDSTRINGEXACT 0x0158

@@ -15,14 +15,12 @@
 #define BS_OWNERDRAW 0x0000000BL
 #define BS_TYPEMASK 0x0000000FL
 #define BS_LEFTTEXT 0x00000020L
-#define BS_NOTIFY 0x00004000L
 
 // --- "button": notifications (WM_COMMAND) and messages
 
 #define BN_CLICKED 0
 #define BN_DOUBLECLICKED 5
 #define BN_SETFOCUS 6
-#define BN_KILLFOCUS 7
 
 #define BM_GETCHECK 0x00F0
 #define BM_SETCHECK 0x00F1
@@ -60,7 +58,7 @@
 #define IMAGE_ICON 1
 #define IMAGE_CURSOR 2
 
-// --- owner drawing (WM_DRAWITEM, WM_MEASUREITEM, WM_DELETEITEM)
+// --- owner drawing (WM_DRAWITEM, WM_MEASUREITEM)
 
 #define ODT_MENU 1
 #define ODT_LISTBOX 2
@@ -98,20 +96,10 @@ typedef struct tagMEASUREITEMSTRUCT {
     ULONG_PTR itemData;
 } MEASUREITEMSTRUCT, *PMEASUREITEMSTRUCT, *LPMEASUREITEMSTRUCT;
 
-typedef struct tagDELETEITEMSTRUCT {
-    UINT CtlType;
-    UINT CtlID;
-    UINT itemID;
-    HWND hwndItem;
-    ULONG_PTR itemData;
-} DELETEITEMSTRUCT, *PDELETEITEMSTRUCT, *LPDELETEITEMSTRUCT;
-
 // --- "edit": styles that templates and superclasses name
 
 #define ES_MULTILINE 0x0004L
-#define ES_PASSWORD 0x0020L
 #define ES_AUTOVSCROLL 0x0040L
 #define ES_AUTOHSCROLL 0x0080L
-#define ES_READONLY 0x0800L
 #define ES_WANTRETURN 0x1000L
 #define ES_NUMBER 0x2000L

@@ -8,13 +8,8 @@
 
 // --- notifications (WM_COMMAND to the parent)
 
-#define EN_SETFOCUS 0x0100
-#define EN_KILLFOCUS 0x0200
 #define EN_CHANGE 0x0300
 #define EN_UPDATE 0x0400
-#define EN_ERRSPACE 0x0500
-#define EN_MAXTEXT 0x0501
-#define EN_VSCROLL 0x0602
 
 // --- messages
 

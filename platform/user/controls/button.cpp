@@ -128,9 +128,8 @@ void OnMouseMove(HWND button, const ButtonData& data, LPARAM lParam) {
 }
 
 void OnDoubleClick(HWND button, ButtonData& data) {
-    const DWORD style = ControlStyle(button);
-    const DWORD kind = ButtonKind(style);
-    if ((style & BS_NOTIFY) || kind == BS_OWNERDRAW || IsRadioKind(kind))
+    const DWORD kind = ButtonKind(ControlStyle(button));
+    if (kind == BS_OWNERDRAW || IsRadioKind(kind))
         NotifyParent(button, BN_DOUBLECLICKED);
     else
         OnButtonDown(button, data);
@@ -170,8 +169,6 @@ void OnFocus(HWND button, ButtonData& data, bool has) {
     if (!has && data.press != Press::None)
         EndPress(button, data, false);
     Redraw(button, data, ODA_FOCUS);
-    if (ControlStyle(button) & BS_NOTIFY)
-        NotifyParent(button, has ? BN_SETFOCUS : BN_KILLFOCUS);
 }
 
 // --- the rest

@@ -9,7 +9,7 @@ namespace platform::user {
 struct ButtonData : ControlData {
     enum class Press { None, Mouse, Key };
 
-    UINT state = 0;             ///< BST_ bits, as BM_GETSTATE gives them
+    UINT state = 0;             ///< BST_ bits
     Press press = Press::None;  ///< what holds the button down (with the capture)
     HFONT font = nullptr;
 };

@@ -44,13 +44,13 @@ void DrawDisabledText(HDC context, const std::string& text, RECT rect, UINT form
 }
 
 void RegisterDialogClasses() {
-    RegisterSystemClass("#32770", DialogProcedure, CS_SAVEBITS | CS_DBLCLKS, DLGWINDOWEXTRA, IDC_ARROW, nullptr);
+    RegisterSystemClass("#32770", DialogProcedure, CS_DBLCLKS, DLGWINDOWEXTRA, IDC_ARROW, nullptr);
     RegisterSystemClass("Button", ButtonProcedure, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 0, IDC_ARROW, nullptr);
     RegisterSystemClass("Edit", EditProcedure, CS_DBLCLKS, 0, IDC_IBEAM, nullptr);
     RegisterSystemClass("Static", StaticProcedure, CS_DBLCLKS, 0, IDC_ARROW, nullptr);
     RegisterSystemClass("ListBox", ListBoxProcedure, CS_DBLCLKS, 0, IDC_ARROW, nullptr);
     RegisterSystemClass("ComboBox", ComboBoxProcedure, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 0, IDC_ARROW, nullptr);
-    RegisterSystemClass("ComboLBox", ListBoxProcedure, CS_DBLCLKS | CS_SAVEBITS, 0, IDC_ARROW, nullptr);
+    RegisterSystemClass("ComboLBox", ListBoxProcedure, CS_DBLCLKS, 0, IDC_ARROW, nullptr);
     RegisterSystemClass("ScrollBar", ScrollBarProcedure, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 0, IDC_ARROW, nullptr);
 }
 

@@ -18,21 +18,6 @@ void Translate(const MSG& message) {
     DispatchMessageA(&message);
 }
 
-/// A dialog is asked to move the focus, and may have its own way; a plain window knows of no such message.
-void GoNext(HWND dialog, bool previous) {
-    if (FindDialogState(dialog))
-        SendMessageA(dialog, WM_NEXTDLGCTL, previous, 0);
-    else
-        FocusNext(dialog, previous);
-}
-
-void GoTo(HWND dialog, HWND control) {
-    if (FindDialogState(dialog))
-        SendMessageA(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
-    else
-        FocusControl(dialog, control);
-}
-
 // --- arrows
 
 void MoveInGroup(HWND dialog, HWND from, bool previous) {
@@ -70,13 +55,7 @@ void PressDefault(HWND dialog, HWND focus) {
         return;
     }
     const LRESULT answer = SendMessageA(dialog, DM_GETDEFID, 0, 0);
-    const bool named = HIWORD(answer) == DC_HASDEFID;
-    // A plain window has no answer; its default button is the one that looks so.
-    if (const HWND outlined = named || FindDialogState(dialog) ? nullptr : OutlinedButton(dialog)) {
-        SendCommand(GetParent(outlined), GetDlgCtrlID(outlined), outlined);
-        return;
-    }
-    const int id = named ? LOWORD(answer) : IDOK;
+    const int id = HIWORD(answer) == DC_HASDEFID ? LOWORD(answer) : IDOK;
     SendCommand(dialog, id, GetDlgItem(dialog, id));
 }
 
@@ -162,10 +141,10 @@ bool FollowMnemonic(HWND dialog, HWND focus, char character) {
     if (code & DLGC_STATIC) {
         const HWND next = GetNextDlgTabItem(dialog, found, FALSE);
         if (next && next != found)
-            GoTo(dialog, next);
+            SendMessageA(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(next), TRUE);
         return true;
     }
-    GoTo(dialog, found);
+    SendMessageA(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(found), TRUE);
     if (matches == 1 && IsWindow(found) && (code & (DLGC_BUTTON | DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)))
         SendMessageA(found, BM_CLICK, 0, 0);
     return true;
@@ -179,9 +158,7 @@ bool OnKeyDown(HWND dialog, const MSG& message) {
         return false;
     switch (message.wParam) {
         case VK_TAB:
-            if (code & DLGC_WANTTAB)
-                return false;
-            GoNext(dialog, GetKeyState(VK_SHIFT) < 0);
+            SendMessageA(dialog, WM_NEXTDLGCTL, GetKeyState(VK_SHIFT) < 0, 0);
             return true;
         case VK_LEFT:
         case VK_UP:
@@ -192,11 +169,9 @@ bool OnKeyDown(HWND dialog, const MSG& message) {
             MoveInGroup(dialog, message.hwnd, message.wParam == VK_LEFT || message.wParam == VK_UP);
             return true;
         case VK_ESCAPE:
-        case VK_CANCEL:
             SendCommand(dialog, IDCANCEL, GetDlgItem(dialog, IDCANCEL));
             return true;
         case VK_RETURN:
-        case VK_EXECUTE:
             PressDefault(dialog, message.hwnd);
             return true;
         default:

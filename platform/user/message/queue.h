@@ -39,22 +39,16 @@ void Tell(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 /// @returns whether a message may only be sent, with ERROR_MESSAGE_SYNC_ONLY set, because its parameters point to data.
 bool MustBeSynchronous(UINT message);
 
-/// @returns all top-level windows. Throws bad_alloc.
-std::vector<HWND> BroadcastTargets();
-
 /// Calls a window's procedure directly (same thread).
 LRESULT CallProcedure(WNDPROC procedure, HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-
-/// Sends a message to all top-level windows of all threads (WM_SYSCOLORCHANGE, WM_WININICHANGE); bounded wait.
-void BroadcastSetting(UINT message, WPARAM wParam, LPARAM lParam);
 
 // --- timers (timer.cpp). Lock held.
 
 /// Marks the timers whose time has come, and sets QS_TIMER for new ones. @returns when the next one is due, else
 /// UINT64_MAX.
 std::uint64_t CheckTimers(ThreadState* self);
-/// Takes the WM_TIMER of a ready timer, of one window or of any.
-bool TakeTimer(ThreadState* self, HWND window, bool any, bool remove, MSG* message);
+/// Takes the WM_TIMER of a ready timer.
+bool TakeTimer(ThreadState* self, bool remove, MSG* message);
 /// @returns whether the thread has set this timer with this procedure.
 bool OwnsTimerProcedure(const ThreadState* self, HWND window, UINT_PTR id, LPARAM procedure);
 void ForgetTimers(Window* window);

@@ -35,14 +35,11 @@ struct WindowClass {
     HICON icon = nullptr;
     HCURSOR cursor = nullptr;
     HBRUSH background = nullptr;
-    std::string menuName;
-    LPCSTR menuId = nullptr;  ///< when the menu was given by number
-    int classExtra = 0;       ///< as GetClassInfoA tells; nobody can reach the bytes
-    int windows = 0;          ///< windows of the class that are alive
+    int windows = 0;  ///< windows of the class that are alive
 };
 
 struct WindowProperty {
-    std::string name;  ///< as it was first given, or "#number"; compared without regard to case
+    std::string name;  ///< as it was first given; compared without regard to case
     HANDLE data = nullptr;
 };
 
@@ -73,10 +70,9 @@ struct Window {
     gdi::Region update;
     bool eraseNeeded = false;                 ///< WM_ERASEBKGND is due with the next BeginPaint
     bool frameNeeded = false;                 ///< WM_NCPAINT is due
-    bool internalPaint = false;               ///< RDW_INTERNALPAINT
     bool paintRuns = false;                   ///< its WM_PAINT is being handled and has not come to BeginPaint
     struct PaintState* paintState = nullptr;  ///< the painting module's own: cached visible regions
-    bool sizeSent = false;                    ///< WM_SIZE and WM_MOVE were sent; else the first ShowWindow sends them
+    bool sizeSent = false;                    ///< WM_SIZE was sent; else the first ShowWindow sends it
     bool hiddenByOwner = false;               ///< hidden because its owner was minimised
 
     RECT restoredRect{};  ///< normal position while minimised or maximised
@@ -86,8 +82,6 @@ struct Window {
     bool created = false;           ///< WM_CREATE has returned
     bool captionActive = false;     ///< how the caption was drawn last (WM_NCACTIVATE)
     bool restoreMaximised = false;  ///< minimised while it was maximised
-    HICON bigIcon = nullptr;        ///< WM_SETICON
-    HICON smallIcon = nullptr;
 
     // Dialogs and controls: shared, so that a handler that is running outlives its window.
     std::shared_ptr<DialogState> dialog;      ///< made when the dialog procedure first sees the window

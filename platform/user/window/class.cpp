@@ -17,7 +17,7 @@ namespace platform::user {
 namespace {
 
 constexpr int kMostExtra = 0x10000;
-constexpr UINT kKnownStyles = CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS | CS_NOCLOSE | CS_SAVEBITS | CS_GLOBALCLASS;
+constexpr UINT kKnownStyles = CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS | CS_GLOBALCLASS;
 
 std::vector<std::unique_ptr<WindowClass>>& Classes() {
     static std::vector<std::unique_ptr<WindowClass>> classes;
@@ -67,12 +67,6 @@ ATOM Register(const WNDCLASSA& given) {
     made->icon = given.hIcon;
     made->cursor = given.hCursor;
     made->background = given.hbrBackground;
-    if (IS_INTRESOURCE(given.lpszMenuName)) {
-        made->menuId = given.lpszMenuName;
-    } else {
-        made->menuName = given.lpszMenuName;
-    }
-    made->classExtra = given.cbClsExtra;
     Classes().push_back(std::move(made));
     return atom;
 }
@@ -215,13 +209,13 @@ BOOL WINAPI GetClassInfoA(HINSTANCE instance, LPCSTR name, LPWNDCLASSA windowCla
     }
     *windowClass = {found->style,
                     found->procedure,
-                    found->classExtra,
+                    0,
                     found->windowExtra,
                     found->system ? nullptr : instance,
                     found->icon,
                     found->cursor,
                     found->background,
-                    found->menuId || found->menuName.empty() ? found->menuId : found->menuName.c_str(),
+                    nullptr,
                     name};
     return found->atom;
 }

@@ -19,7 +19,6 @@ struct ComboData : ControlData {
     int dropHeight = 0;        ///< greatest height of the dropped list
     DWORD scrollStyle = 0;     ///< WS_VSCROLL and WS_HSCROLL, which are the list's
     bool dropped = false;
-    bool closing = false;
     bool pressed = false;    ///< the arrow is held
     bool scrolling = false;  ///< the list's scroll bar has the mouse
     bool focused = false;

@@ -29,26 +29,6 @@ LRESULT OnSetCurrent(ComboData& combo, WPARAM index) {
     return result;
 }
 
-LRESULT OnStateMessage(ComboData& combo, UINT message, WPARAM wParam, LPARAM lParam) {
-    switch (message) {
-        case CB_SHOWDROPDOWN:
-            if (wParam)
-                DropDown(combo);
-            else
-                CloseUp(combo, false);
-            return TRUE;
-        case CB_GETDROPPEDSTATE:
-            return combo.dropped || !combo.Drops();
-        case CB_GETDROPPEDCONTROLRECT:
-            if (!lParam)
-                return FALSE;
-            *reinterpret_cast<RECT*>(lParam) = DroppedRect(combo);
-            return TRUE;
-        default:
-            return CB_ERR;
-    }
-}
-
 }  // namespace
 
 int Current(const ComboData& combo) {
@@ -59,7 +39,7 @@ std::string ItemText(const ComboData& combo, int index) try {
     if (index < 0)
         return combo.edit ? TextOf(combo.edit) : std::string();
     const auto list = ControlOf<ListData>(combo.list);
-    return list && list->HasTexts() && list->items.Has(index) ? list->items[index].text : std::string();
+    return list && list->items.Has(index) ? list->items[index].text : std::string();
 } catch (const std::bad_alloc&) {
     return {};
 }
@@ -80,10 +60,6 @@ void ShowSelection(ComboData& combo) {
 
 LRESULT OnComboMessage(ComboData& combo, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-        case CB_LIMITTEXT:
-            if (combo.edit)
-                SendMessageA(combo.edit, EM_LIMITTEXT, wParam, 0);
-            return TRUE;
         case CB_ADDSTRING:
             return ToList(combo, LB_ADDSTRING, 0, lParam);
         case CB_INSERTSTRING:
@@ -99,8 +75,13 @@ LRESULT OnComboMessage(ComboData& combo, UINT message, WPARAM wParam, LPARAM lPa
             return OnSetCurrent(combo, wParam);
         case CB_FINDSTRINGEXACT:
             return ToList(combo, LB_FINDSTRINGEXACT, wParam, lParam);
+        case CB_GETDROPPEDCONTROLRECT:
+            if (!lParam)
+                return FALSE;
+            *reinterpret_cast<RECT*>(lParam) = DroppedRect(combo);
+            return TRUE;
         default:
-            return OnStateMessage(combo, message, wParam, lParam);
+            return CB_ERR;
     }
 }
 

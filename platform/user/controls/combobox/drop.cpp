@@ -101,13 +101,11 @@ void DropDown(ComboData& combo) {
 }
 
 void CloseUp(ComboData& combo, bool taken) {
-    if (!combo.dropped || combo.closing)
+    if (!combo.dropped)
         return;
-    combo.closing = true;
+    combo.dropped = combo.pressed = false;
     if (!taken)
         SendMessageA(combo.list, LB_SETCURSEL, static_cast<WPARAM>(combo.settled), 0);
-    NotifyCombo(combo, taken ? CBN_SELENDOK : CBN_SELENDCANCEL);
-    combo.closing = combo.dropped = combo.pressed = false;
     if (const auto list = ControlOf<ListData>(combo.list)) {
         list->following = false;
         EndTracking(*list);
@@ -116,7 +114,6 @@ void CloseUp(ComboData& combo, bool taken) {
     if (GetCapture() == combo.list)
         ReleaseCapture();
     RedrawCombo(combo);
-    NotifyCombo(combo, CBN_CLOSEUP);
 }
 
 bool OnDroppedListInput(ListData& list, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -10,12 +10,7 @@
 namespace platform::user {
 namespace {
 
-constexpr char kPasswordCharacter = '*';
-
 LRESULT OnCreate(HWND edit, EditData& data, const CREATESTRUCTA* create) {
-    if ((ControlStyle(edit) & (ES_PASSWORD | ES_MULTILINE)) == ES_PASSWORD) {
-        data.password = kPasswordCharacter;
-    }
     data.text = create && create->lpszName ? create->lpszName : "";
     LayOut(edit, data);
     return 0;
@@ -31,19 +26,16 @@ LRESULT GetText(const EditData& data, WPARAM size, char* buffer) {
     return static_cast<LRESULT>(length);
 }
 
-/// With several lines the control wants all keys. Only Tab, and Enter unless the style keeps it, go to the dialog; with Ctrl
-/// these two are text.
+/// With several lines the control wants all keys. Only Tab goes to the dialog; with Ctrl it is text.
 LRESULT EditDialogCode(HWND edit, EditData& data, LPARAM lParam) {
     constexpr LRESULT kCode = DLGC_WANTCHARS | DLGC_HASSETSEL | DLGC_WANTARROWS;
-    const DWORD style = ControlStyle(edit);
-    if (!(style & ES_MULTILINE)) {
+    if (!IsMultiLine(edit)) {
         return kCode;
     }
     data.inDialog = true;
     const auto* message = reinterpret_cast<const MSG*>(lParam);
-    const WPARAM key = message && message->message == WM_KEYDOWN ? message->wParam : 0;
-    const bool dialogs = key == VK_TAB || (key == VK_RETURN && !(style & ES_WANTRETURN));
-    return dialogs && GetKeyState(VK_CONTROL) >= 0 ? kCode : kCode | DLGC_WANTALLKEYS;
+    const bool tab = message && message->message == WM_KEYDOWN && message->wParam == VK_TAB;
+    return tab && GetKeyState(VK_CONTROL) >= 0 ? kCode : kCode | DLGC_WANTALLKEYS;
 }
 
 void OnSetFont(HWND edit, EditData& data, WPARAM font, bool redraw) {
@@ -69,7 +61,6 @@ void OnSetFocus(HWND edit, EditData& data) {
     if (data.HasSelection()) {
         RedrawEdit(edit);
     }
-    NotifyParent(edit, EN_SETFOCUS);
 }
 
 void OnKillFocus(HWND edit, EditData& data) {
@@ -80,7 +71,6 @@ void OnKillFocus(HWND edit, EditData& data) {
     if (data.HasSelection()) {
         RedrawEdit(edit);
     }
-    NotifyParent(edit, EN_KILLFOCUS);
 }
 
 void OnPaint(HWND edit, const EditData& data, HDC given) {
@@ -139,7 +129,6 @@ LRESULT OnWheel(HWND edit, EditData& data, WPARAM wParam, LPARAM lParam) {
 
 /// Messages that change or move the text.
 LRESULT OnTextMessage(HWND edit, EditData& data, UINT message, WPARAM wParam, LPARAM lParam) {
-    const bool readOnly = (ControlStyle(edit) & ES_READONLY) != 0;
     switch (message) {
         case WM_SETTEXT: {
             const auto* text = reinterpret_cast<const char*>(lParam);
@@ -154,24 +143,16 @@ LRESULT OnTextMessage(HWND edit, EditData& data, UINT message, WPARAM wParam, LP
             CopySelection(edit, data);
             return 0;
         case WM_CUT:
-            if (!readOnly) {
-                CutSelection(edit, data);
-            }
+            CutSelection(edit, data);
             return 0;
         case WM_PASTE:
-            if (!readOnly) {
-                PasteText(edit, data);
-            }
+            PasteText(edit, data);
             return 0;
         case WM_CLEAR:
-            if (!readOnly) {
-                RemoveText(edit, data, data.SelectionStart(), data.SelectionEnd());
-            }
+            RemoveText(edit, data, data.SelectionStart(), data.SelectionEnd());
             return 0;
-        case WM_UNDO: {
-            const bool undone = !readOnly && UndoEdit(edit, data);
-            return undone || !IsMultiLine(edit);
-        }
+        case WM_UNDO:
+            return UndoEdit(edit, data) || !IsMultiLine(edit);
         default:
             return OnEditQuery(edit, data, message, wParam, lParam);
     }
@@ -308,7 +289,6 @@ LRESULT CALLBACK EditProcedure(HWND window, UINT message, WPARAM wParam, LPARAM 
     try {
         return Handle(window, *data, message, wParam, lParam);
     } catch (const std::bad_alloc&) {
-        NotifyParent(window, EN_ERRSPACE);
         return 0;
     }
 }

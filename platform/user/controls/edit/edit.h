@@ -39,8 +39,7 @@ struct EditData : ControlData {
     std::size_t caret = 0;
     std::size_t limit = 32767;  ///< of what the user may enter
     EditUndo undo;
-    char password = 0;  ///< shown in place of every character; 0: the text itself is shown
-    char lead = 0;      ///< first byte of a double-byte character whose second one has yet to be typed
+    char lead = 0;  ///< first byte of a double-byte character whose second one has yet to be typed
 
     HFONT font = nullptr;
     int margin = 0;  ///< left and right of the text
@@ -80,12 +79,12 @@ std::size_t NextPosition(const std::string& text, std::size_t position);
 std::size_t PreviousPosition(const std::string& text, std::size_t position);
 
 /// Start of the word to the left, or of the next one to the right.
-std::size_t WordLeft(const EditData& data, std::size_t position);
-std::size_t WordRight(const EditData& data, std::size_t position);
+std::size_t WordLeft(const std::string& text, std::size_t position);
+std::size_t WordRight(const std::string& text, std::size_t position);
 
 // --- changes (edit_text.cpp). All tell the parent and draw; the control may be gone when they return.
 
-/// Replaces the selection as the user does it: within the limit, with EN_MAXTEXT when it does not fit.
+/// Replaces the selection as the user does it, within the limit.
 void InsertText(HWND edit, EditData& data, std::string_view text);
 /// Removes a range, which becomes one step of undo, or grows the last one when it continues it.
 void RemoveText(HWND edit, EditData& data, std::size_t start, std::size_t end);
@@ -149,7 +148,7 @@ class EditMeasure {
     HGDIOBJ former_ = nullptr;
 };
 
-/// What is shown of a range: the text, or as many password characters.
+/// What is shown of a range.
 std::string Shown(const EditData& data, std::size_t start, std::size_t count);
 
 // --- picture (edit_paint.cpp)

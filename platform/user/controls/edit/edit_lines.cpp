@@ -39,10 +39,6 @@ void Wrap(const EditMeasure& measure, EditData& data, EditLine paragraph) {
     data.lines.push_back(paragraph);
 }
 
-bool Wraps(HWND edit) {
-    return !(ControlStyle(edit) & ES_AUTOHSCROLL);
-}
-
 RECT FormatOf(HWND edit, const EditData& data) {
     RECT rect{};
     GetClientRect(edit, &rect);
@@ -105,7 +101,7 @@ void BreakLines(HWND edit, EditData& data) {
         return;
     }
     const EditMeasure measure(edit, data);
-    const bool wraps = Wraps(edit) && FormatWidth(data) > 0;
+    const bool wraps = FormatWidth(data) > 0;
     for (std::size_t start = 0;;) {
         const std::size_t end = std::min(data.text.find("\r\n", start), data.text.size());
         if (wraps) {
@@ -196,14 +192,14 @@ void MoveEditCaret(HWND edit, EditData& data, std::size_t position, bool extend)
 }
 
 bool ScrollToCaret(HWND edit, EditData& data) {
-    const EditMeasure measure(edit, data);
-    const bool multi = IsMultiLine(edit);
-    const bool sideways = (!multi || !Wraps(edit)) && ScrollSideways(measure, data);
-    const bool upright = multi && ScrollUpright(data);
-    if (upright) {
+    if (!IsMultiLine(edit)) {
+        return ScrollSideways(EditMeasure(edit, data), data);
+    }
+    const bool scrolled = ScrollUpright(data);
+    if (scrolled) {
         ShowEditBar(edit, data);
     }
-    return sideways || upright;
+    return scrolled;
 }
 
 void ScrollLines(HWND edit, EditData& data, int lines) {
@@ -215,11 +211,8 @@ void ScrollLines(HWND edit, EditData& data, int lines) {
     }
     data.firstLine = static_cast<std::size_t>(wanted);
     ShowEditBar(edit, data);
-    NotifyParent(edit, EN_VSCROLL);
-    if (IsWindow(edit)) {
-        RedrawEdit(edit);
-        PlaceEditCaret(edit, data);
-    }
+    RedrawEdit(edit);
+    PlaceEditCaret(edit, data);
 }
 
 }  // namespace platform::user

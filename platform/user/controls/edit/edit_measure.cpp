@@ -23,8 +23,7 @@ EditMeasure::~EditMeasure() {
 
 std::string Shown(const EditData& data, std::size_t start, std::size_t count) {
     // Lines may be behind the text where memory has run out between the two.
-    return data.password ? std::string(count, data.password)
-                         : data.text.substr(std::min(start, data.text.size()), count);
+    return data.text.substr(std::min(start, data.text.size()), count);
 }
 
 int EditMeasure::Width(std::size_t start, std::size_t count) const {

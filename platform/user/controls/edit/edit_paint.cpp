@@ -62,20 +62,19 @@ void DrawLine(const EditMeasure& measure, const EditData& data, HDC context, con
 }  // namespace
 
 void PaintEdit(HWND edit, const EditData& data, HDC context) {
-    const DWORD style = ControlStyle(edit);
     const int saved = SaveDC(context);
     RECT client{};
     GetClientRect(edit, &client);
     // What cannot be typed into has the colours of a label.
-    const bool label = (style & (ES_READONLY | WS_DISABLED)) != 0;
-    FillRect(context, &client, ControlBrush(edit, context, label ? WM_CTLCOLORSTATIC : WM_CTLCOLOREDIT));
+    const bool disabled = (ControlStyle(edit) & WS_DISABLED) != 0;
+    FillRect(context, &client, ControlBrush(edit, context, disabled ? WM_CTLCOLORSTATIC : WM_CTLCOLOREDIT));
     if (data.font) {
         SelectObject(context, data.font);
     }
     SetBkMode(context, TRANSPARENT);
     IntersectClipRect(context, data.format.left, data.format.top, data.format.right, data.format.bottom);
-    const Colours colours{style & WS_DISABLED ? GetSysColor(COLOR_GRAYTEXT) : GetTextColor(context),
-                          GetSysColor(COLOR_HIGHLIGHT), GetSysColor(COLOR_HIGHLIGHTTEXT)};
+    const Colours colours{disabled ? GetSysColor(COLOR_GRAYTEXT) : GetTextColor(context), GetSysColor(COLOR_HIGHLIGHT),
+                          GetSysColor(COLOR_HIGHLIGHTTEXT)};
     const EditMeasure measure(edit, data);
     int y = data.format.top;
     for (std::size_t index = data.firstLine; index < data.lines.size() && y < data.format.bottom; ++index) {

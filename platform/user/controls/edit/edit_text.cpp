@@ -64,19 +64,10 @@ void Announce(HWND edit, EditData& data) {
     NotifyParent(edit, EN_CHANGE);
 }
 
-/// Without automatic scrolling the text must stay within the format rectangle.
+/// Without automatic scrolling a single line must stay within the format rectangle.
 bool FitsRectangle(HWND edit, EditData& data) {
-    const DWORD style = ControlStyle(edit);
-    if (!(style & ES_MULTILINE)) {
-        return (style & ES_AUTOHSCROLL) ||
-               EditMeasure(edit, data).Width(0, data.text.size()) <= data.format.right - data.format.left;
-    }
-    if (style & ES_AUTOVSCROLL) {
-        return true;
-    }
-    BreakLines(edit, data);
-    return static_cast<int>(data.lines.size()) * data.lineHeight <=
-           std::max<LONG>(data.format.bottom - data.format.top, data.lineHeight);
+    return (ControlStyle(edit) & (ES_MULTILINE | ES_AUTOHSCROLL)) ||
+           EditMeasure(edit, data).Width(0, data.text.size()) <= data.format.right - data.format.left;
 }
 
 }  // namespace
@@ -103,28 +94,21 @@ std::size_t PreviousPosition(const std::string& text, std::size_t position) {
     return static_cast<std::size_t>(CharPrevA(start, start + position) - start);
 }
 
-// A password is one word: its inner spaces are as secret as the rest.
-std::size_t WordLeft(const EditData& data, std::size_t position) {
-    if (data.password) {
-        return 0;
-    }
-    while (position > 0 && IsBlank(data.text[position - 1])) {
+std::size_t WordLeft(const std::string& text, std::size_t position) {
+    while (position > 0 && IsBlank(text[position - 1])) {
         --position;
     }
-    while (position > 0 && !IsBlank(data.text[position - 1])) {
+    while (position > 0 && !IsBlank(text[position - 1])) {
         --position;
     }
     return position;
 }
 
-std::size_t WordRight(const EditData& data, std::size_t position) {
-    if (data.password) {
-        return data.text.size();
-    }
-    while (position < data.text.size() && !IsBlank(data.text[position])) {
+std::size_t WordRight(const std::string& text, std::size_t position) {
+    while (position < text.size() && !IsBlank(text[position])) {
         ++position;
     }
-    while (position < data.text.size() && IsBlank(data.text[position])) {
+    while (position < text.size() && IsBlank(text[position])) {
         ++position;
     }
     return position;
@@ -143,13 +127,6 @@ void InsertText(HWND edit, EditData& data, std::string_view text) {
     }
     if (!removed.empty() || !taken.empty()) {
         Remember(data, start, removed, taken.size());
-    }
-    // Told before the change itself is, with the text and its lines as they are now.
-    BreakLines(edit, data);
-    if (taken.size() < text.size()) {
-        NotifyParent(edit, EN_MAXTEXT);
-    }
-    if ((!removed.empty() || !taken.empty()) && IsWindow(edit)) {
         Announce(edit, data);
     }
 }

@@ -80,11 +80,8 @@ void OnFocus(ListData& list, bool has) {
     if (list.items.Count() == 0 && list.redraw)
         InvalidateRect(list.window, nullptr, TRUE);
     RedrawItem(list, list.caret, ODA_FOCUS);
-    if (!has && list.tracking) {
+    if (!has && list.tracking)
         EndTracking(list);
-        NotifyList(list, LBN_SELCANCEL);
-    }
-    NotifyList(list, has ? LBN_SETFOCUS : LBN_KILLFOCUS);
 }
 
 void OnSetRedraw(ListData& list, bool on) {
@@ -133,7 +130,6 @@ LRESULT OnListMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lParam
     switch (message) {
         case LB_ADDSTRING:
         case LB_INSERTSTRING:
-        case LB_DELETESTRING:
         case LB_RESETCONTENT:
         case LB_GETTEXT:
         case LB_GETTEXTLEN:
@@ -166,7 +162,7 @@ LRESULT OnInput(ListData& list, UINT message, WPARAM wParam, LPARAM lParam) {
             OnListButtonDown(list, MousePoint(lParam), wParam, message == WM_LBUTTONDBLCLK);
             return 0;
         case WM_LBUTTONUP:
-            OnListButtonUp(list, MousePoint(lParam));
+            OnListButtonUp(list);
             return 0;
         case WM_MOUSEMOVE:
             OnListMouseMove(list, MousePoint(lParam));
@@ -219,9 +215,6 @@ LRESULT CALLBACK ListBoxProcedure(HWND window, UINT message, WPARAM wParam, LPAR
             return DefWindowProcA(window, message, wParam, lParam);
         case WM_CREATE:
             return OnCreate(list);
-        case WM_DESTROY:
-            RemoveAll(list);
-            return 0;
         case WM_MOUSEACTIVATE:
             return list.combo ? MA_NOACTIVATE : DefWindowProcA(window, message, wParam, lParam);
         case WM_GETDLGCODE:

@@ -148,18 +148,6 @@ TEST_F(ButtonTest, ARadioButtonUnchecksItsGroupOnly) {
     EXPECT_EQ(BST_UNCHECKED, Send(second, BM_GETCHECK));
 }
 
-TEST_F(ButtonTest, NotifyStyle) {
-    const HWND quiet = Make(BS_PUSHBUTTON);
-    SetFocus(quiet);
-    SetFocus(parent_);
-    EXPECT_TRUE(notified.empty());
-    const HWND button = Make(BS_PUSHBUTTON | BS_NOTIFY);
-    SetFocus(button);
-    SetFocus(parent_);
-    Send(button, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 5));
-    EXPECT_EQ((std::vector<UINT>{BN_SETFOCUS, BN_KILLFOCUS, BN_DOUBLECLICKED}), notified);
-}
-
 TEST_F(ButtonTest, AGroupBoxLetsTheMouseThrough) {
     const HWND group = Make(BS_GROUPBOX);
     RECT rect;
@@ -190,7 +178,7 @@ TEST_F(ButtonTest, OwnerDrawing) {
 }
 
 TEST_F(ButtonTest, StyleChangesKeepTheOtherStyles) {
-    const HWND button = Make(BS_PUSHBUTTON | BS_NOTIFY | WS_TABSTOP);
+    const HWND button = Make(BS_PUSHBUTTON | WS_TABSTOP);
     const LONG before = GetWindowLongA(button, GWL_STYLE);
     Send(button, BM_SETSTYLE, BS_DEFPUSHBUTTON, TRUE);
     EXPECT_EQ(before | BS_DEFPUSHBUTTON, GetWindowLongA(button, GWL_STYLE));

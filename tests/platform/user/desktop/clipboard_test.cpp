@@ -97,15 +97,4 @@ TEST_F(Clipboard, PastedTextKeepsToTheLimitAndToOneLine) {
     EXPECT_EQ("1x", Text(number)) << "typing alone is filtered";
 }
 
-TEST_F(Clipboard, ReadOnlyFieldsOnlyGive) {
-    Put("before");
-    const HWND fixed = Make(ES_AUTOHSCROLL | ES_READONLY, "fixed");
-    Select(fixed, 0, 3);
-    Send(fixed, WM_CUT);
-    Send(fixed, WM_PASTE);
-    EXPECT_EQ("fixed", Text(fixed));
-    Send(fixed, WM_COPY);
-    EXPECT_EQ("fix", Taken());
-}
-
 }  // namespace
