@@ -201,17 +201,6 @@ void OnSetStyle(HWND button, const ButtonData& data, WPARAM wParam, LPARAM lPara
         RedrawAll(button, data);
 }
 
-void OnPaint(HWND button, const ButtonData& data, HDC given) {
-    if (given) {
-        PaintButton(button, data, given, ODA_DRAWENTIRE);
-        return;
-    }
-    PAINTSTRUCT paint{};
-    if (const HDC context = BeginPaint(button, &paint))
-        PaintButton(button, data, context, ODA_DRAWENTIRE);
-    EndPaint(button, &paint);
-}
-
 LRESULT OnButtonMessage(HWND button, ButtonData& data, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case BM_GETCHECK:
@@ -289,8 +278,8 @@ LRESULT CALLBACK ButtonProcedure(HWND window, UINT message, WPARAM wParam, LPARA
         case WM_ERASEBKGND:
             return TRUE;
         case WM_PAINT:
-            OnPaint(window, *data, reinterpret_cast<HDC>(wParam));
-            return 0;
+            return PaintWith(window,
+                             [&](HDC context, const RECT&) { PaintButton(window, *data, context, ODA_DRAWENTIRE); });
         case WM_ENABLE:
             RedrawAll(window, *data);
             return 0;

@@ -41,16 +41,6 @@ void ShowFocus(HWND window) {
     ShowCaret(window);
 }
 
-// --- painting
-
-void OnPaint(HWND window) {
-    PAINTSTRUCT paint{};
-    const HDC context = BeginPaint(window, &paint);
-    if (context)
-        DrawBarControl(window, context);
-    EndPaint(window, &paint);
-}
-
 void Repaint(HWND window) {
     const bool focused = GetFocus() == window;
     if (focused)
@@ -148,8 +138,7 @@ LRESULT CALLBACK ScrollBarProcedure(HWND window, UINT message, WPARAM wParam, LP
         case WM_ERASEBKGND:
             return TRUE;
         case WM_PAINT:
-            OnPaint(window);
-            return 0;
+            return PaintWith(window, [&](HDC context, const RECT&) { DrawBarControl(window, context); });
         case WM_ENABLE:
             data->bar->disabled = !wParam;
             Repaint(window);

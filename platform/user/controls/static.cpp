@@ -10,17 +10,6 @@ void RedrawStatic(HWND control) {
 
 namespace {
 
-void OnPaint(HWND control, const StaticData& data, HDC given) {
-    if (given) {
-        PaintStatic(control, data, given);
-        return;
-    }
-    PAINTSTRUCT paint{};
-    if (const HDC context = BeginPaint(control, &paint))
-        PaintStatic(control, data, context);
-    EndPaint(control, &paint);
-}
-
 LRESULT OnCreate(HWND control, StaticData& data, const CREATESTRUCTA* create) {
     if (create)
         LoadStaticIcon(control, data, create->hInstance, create->lpszName);
@@ -57,8 +46,7 @@ LRESULT CALLBACK StaticProcedure(HWND window, UINT message, WPARAM wParam, LPARA
         case WM_ERASEBKGND:
             return TRUE;
         case WM_PAINT:
-            OnPaint(window, *data, reinterpret_cast<HDC>(wParam));
-            return 0;
+            return PaintWith(window, [&](HDC context, const RECT&) { PaintStatic(window, *data, context); });
         case WM_ENABLE:
             InvalidateRect(window, nullptr, TRUE);
             return 0;

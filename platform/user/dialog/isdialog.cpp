@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "user/dialog/dialog.h"
+#include "user/frame/mnemonic.h"
 
 namespace platform::user {
 namespace {
@@ -61,32 +62,11 @@ void PressDefault(HWND dialog, HWND focus) {
 
 // --- mnemonics
 
-char UpperCase(char character) {
-    char text[2] = {character, '\0'};
-    CharUpperA(text);
-    return text[0];
-}
-
 std::string CaptionOf(HWND window) {
     const int length = GetWindowTextLengthA(window);
     std::string text(static_cast<size_t>(length > 0 ? length : 0) + 1, '\0');
     text.resize(static_cast<size_t>(GetWindowTextA(window, text.data(), static_cast<int>(text.size()))));
     return text;
-}
-
-/// @returns the letter behind a single '&', as capital; 0 for none. The last one counts, as it is the one underlined.
-char MnemonicOf(const std::string& text) {
-    char mnemonic = 0;
-    for (size_t index = 0; index + 1 < text.size(); ++index) {
-        if (IsDBCSLeadByte(static_cast<BYTE>(text[index]))) {
-            ++index;
-        } else if (text[index] == '&') {
-            ++index;
-            if (text[index] != '&')
-                mnemonic = text[index];
-        }
-    }
-    return mnemonic ? UpperCase(mnemonic) : '\0';
 }
 
 bool HasMnemonic(HWND control, char wanted) {
@@ -116,7 +96,7 @@ void CollectReachable(HWND parent, std::vector<HWND>& controls) {
 
 /// Focuses the next control with this mnemonic after the focus, and clicks it when it is a button that has no rival.
 bool FollowMnemonic(HWND dialog, HWND focus, char character) {
-    const char wanted = UpperCase(character);
+    const char wanted = Capital(character);
     std::vector<HWND> controls;
     CollectReachable(dialog, controls);
     const size_t count = controls.size();

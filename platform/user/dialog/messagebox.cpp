@@ -40,7 +40,6 @@ constexpr UINT kSetCount = sizeof kSets / sizeof kSets[0];
 
 /// What the dialog procedure needs to know of its box.
 struct Box {
-    UINT type;
     int defaultId;
     bool closable;
     HICON icon;
@@ -74,7 +73,6 @@ INT_PTR CALLBACK BoxProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM l
         case WM_INITDIALOG: {
             const auto* box = reinterpret_cast<const Box*>(lParam);
             SetWindowLongPtrA(dialog, DWLP_USER, lParam);
-            MessageBeep(box->type & MB_ICONMASK);
             if (box->icon)
                 SendDlgItemMessageA(dialog, kIconId, STM_SETICON, reinterpret_cast<WPARAM>(box->icon), 0);
             const HWND button = GetDlgItem(dialog, box->defaultId);
@@ -179,7 +177,7 @@ int ShowBox(HWND owner, LPCSTR text, LPCSTR caption, UINT type) {
         return 0;
     }
     const ButtonSet& set = kSets[kind];
-    const Box box{type, set.buttons[0].id, HasCancel(set), IconOf(type)};
+    const Box box{set.buttons[0].id, HasCancel(set), IconOf(type)};
     const DialogTemplate layout = LayOut(text ? text : "", caption, set, box.icon != nullptr);
     const INT_PTR result = RunDialog(nullptr, layout, owner, BoxProcedure, reinterpret_cast<LPARAM>(&box));
     return result > 0 ? static_cast<int>(result) : 0;

@@ -153,12 +153,24 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
             return TRUE;
         }
         case WM_NCHITTEST:
+            return HitTest(handle, MousePoint(lParam));
         case WM_NCPAINT:
+            PaintFrame(handle);
+            return 0;
         case WM_NCACTIVATE:
+            window->captionActive = wParam != 0;
+            if (window->style & WS_VISIBLE) {
+                PaintFrame(handle);
+            }
+            return TRUE;
         case WM_NCLBUTTONDOWN:
+            PressFrame(handle, static_cast<int>(wParam), MousePoint(lParam));
+            return 0;
         case WM_NCLBUTTONDBLCLK:
+            OnFrameDoubleClick(window, static_cast<int>(wParam), lParam);
+            return 0;
         case WM_SYSCOMMAND:
-            return DefaultNonClient(window, message, wParam, lParam);
+            return SystemCommand(handle, wParam, MousePoint(lParam));
         case WM_SETTEXT:
             return SetText(handle, reinterpret_cast<LPCSTR>(lParam));
         case WM_GETTEXT:

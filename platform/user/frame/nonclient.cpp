@@ -215,41 +215,17 @@ SizeLimits LimitsOf(const Window* window) {
             {GetSystemMetrics(SM_CXSCREEN) + 12, GetSystemMetrics(SM_CYSCREEN) + 12}};
 }
 
-LRESULT DefaultNonClient(Window* window, UINT message, WPARAM wParam, LPARAM lParam) {
+void OnFrameDoubleClick(const Window* window, int hitCode, LPARAM where) {
     const HWND handle = window->handle;
-    const POINT point = MousePoint(lParam);
-    switch (message) {
-        case WM_NCHITTEST:
-            return HitTest(handle, point);
-        case WM_NCPAINT:
-            PaintFrame(handle);
-            return 0;
-        case WM_NCACTIVATE: {
-            window->captionActive = wParam != 0;
-            if (window->style & WS_VISIBLE) {
-                PaintFrame(handle);
-            }
-            return TRUE;
-        }
-        case WM_NCLBUTTONDOWN:
-            PressFrame(handle, static_cast<int>(wParam), point);
-            return 0;
-        case WM_NCLBUTTONDBLCLK:
-            if (wParam == HTCAPTION && (window->style & WS_MINIMIZE)) {
-                SendMessageA(handle, WM_SYSCOMMAND, SC_RESTORE, lParam);
-            } else if (wParam == HTCAPTION && (window->style & WS_MAXIMIZEBOX)) {
-                SendMessageA(handle, WM_SYSCOMMAND,
-                             static_cast<WPARAM>(window->style & WS_MAXIMIZE ? SC_RESTORE : SC_MAXIMIZE), lParam);
-            } else if (wParam == HTSYSMENU) {
-                SendMessageA(handle, WM_SYSCOMMAND, SC_CLOSE, lParam);
-            } else {
-                PressFrame(handle, static_cast<int>(wParam), point);
-            }
-            return 0;
-        case WM_SYSCOMMAND:
-            return SystemCommand(handle, wParam, point);
-        default:
-            return 0;
+    const DWORD style = window->style;
+    if (hitCode == HTCAPTION && (style & WS_MINIMIZE)) {
+        SendMessageA(handle, WM_SYSCOMMAND, SC_RESTORE, where);
+    } else if (hitCode == HTCAPTION && (style & WS_MAXIMIZEBOX)) {
+        SendMessageA(handle, WM_SYSCOMMAND, static_cast<WPARAM>(style & WS_MAXIMIZE ? SC_RESTORE : SC_MAXIMIZE), where);
+    } else if (hitCode == HTSYSMENU) {
+        SendMessageA(handle, WM_SYSCOMMAND, SC_CLOSE, where);
+    } else {
+        PressFrame(handle, hitCode, MousePoint(where));
     }
 }
 

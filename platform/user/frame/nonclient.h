@@ -6,8 +6,8 @@
 
 namespace platform::user {
 
-/// WM_NCPAINT, WM_NCHITTEST, WM_NCLBUTTONDOWN, WM_SYSCOMMAND, ... as DefWindowProcA answers them.
-LRESULT DefaultNonClient(Window* window, UINT message, WPARAM wParam, LPARAM lParam);
+/// WM_NCLBUTTONDBLCLK.
+void OnFrameDoubleClick(const Window* window, int hitCode, LPARAM where);
 
 /// WM_SYSKEYDOWN: Alt+F4 closes, Shift+F10 asks for the context menu, as the menu key does when it is let go (WM_KEYUP).
 LRESULT OnSystemKey(HWND window, WPARAM key, LPARAM bits);

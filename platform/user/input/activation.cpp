@@ -1,6 +1,5 @@
 // Activation: one top-level window of a thread is active, and the thread in the foreground has the keyboard.
 #include <algorithm>
-#include <new>
 
 #include "user/input/input.h"
 #include "user/message/queue.h"
@@ -71,19 +70,11 @@ bool ActivateElsewhere(ThreadState* self, ThreadState* other, HWND window, bool 
     ThreadState* loser = input.foreground;
     input.foreground = other;
     TakeOverKeys(other);
-    auto* errand = new (std::nothrow) SentMessage;
-    if (errand == nullptr) {
+    if (!EnqueueErrand(other, RunActivation, window, byMouse)) {
         return false;
     }
-    errand->errand = RunActivation;
-    errand->window = window;
-    errand->wParam = byMouse ? 1 : 0;
     other->lastActive = window;
     other->comingForward = true;
-    if (!Enqueue(other, errand)) {
-        delete errand;
-        return false;
-    }
     hold.unlock();
     if (loser == self) {
         DeactivateOwn(self);

@@ -227,7 +227,6 @@ BOOL WINAPI CreateCaret(HWND window, HBITMAP bitmap, int width, int height) {
         Discard(self);
         auto& caret = self->caret;
         caret.window = window;
-        caret.bitmap = bitmap;
         caret.width = width;
         caret.height = height;
         caret.pattern = std::move(pattern);

@@ -107,6 +107,22 @@ bool Enqueue(ThreadState* receiver, SentMessage* sent) {
     return true;
 }
 
+bool EnqueueErrand(ThreadState* receiver, Errand errand, HWND window, WPARAM wParam, LPARAM lParam) {
+    auto* sent = new (std::nothrow) SentMessage;
+    if (sent == nullptr) {
+        return false;
+    }
+    sent->errand = errand;
+    sent->window = window;
+    sent->wParam = wParam;
+    sent->lParam = lParam;
+    if (!Enqueue(receiver, sent)) {
+        delete sent;
+        return false;
+    }
+    return true;
+}
+
 void ServeSent(ThreadState* self, UserHold& hold) {
     while (!self->sent.empty()) {
         SentMessage* sent = self->sent.front();

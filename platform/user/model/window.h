@@ -13,6 +13,7 @@
 #include <memory>
 #include <mutex>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/handle.h"
@@ -25,7 +26,7 @@ struct DialogState;
 struct ControlData;
 
 struct WindowClass {
-    ATOM atom = 0;
+    ATOM atom = 0;  ///< stands for the name
     std::string name;
     bool system = false;           ///< defined by the layer itself (button, static, #32770 ...), seen by every module
     HINSTANCE instance = nullptr;  ///< the module that registered it
@@ -79,7 +80,6 @@ struct Window {
     bool destroying = false;
     bool goesAlong = false;         ///< is to be told of the end of its owner or parent, which is its own too
     bool ending = false;            ///< its children are gone, or going: no new ones are made
-    bool created = false;           ///< WM_CREATE has returned
     bool captionActive = false;     ///< how the caption was drawn last (WM_NCACTIVATE)
     bool restoreMaximised = false;  ///< minimised while it was maximised
 
@@ -115,6 +115,12 @@ Window* Orphanage();
 
 /// @returns the handle by which applications may know a window; null for none and for the parent of message-only windows.
 HWND HandleOf(const Window* window);
+
+/// Compares names of classes and properties: ASCII letters match in either case.
+bool SameName(std::string_view a, std::string_view b) noexcept;
+
+/// @returns whether a name, or an atom in its place, is that of a class.
+bool IsNamed(const WindowClass& windowClass, LPCSTR name);
 
 /// @returns whether the style is that of a child window: WS_CHILD without WS_POPUP.
 inline bool IsChildStyle(DWORD style) {

@@ -27,7 +27,6 @@ void Remove(Window* window) {
     }
     base::RemoveHandle(base::ToNumber(window->handle), base::HandleKind::Window);
     --window->windowClass->windows;
-    --window->thread->windowCount;
     GiveBackWindow()(window);
 }
 
@@ -114,15 +113,7 @@ void HandOver(Window* window) {
     window->parent = Orphanage();
     window->style &= ~static_cast<DWORD>(WS_VISIBLE);
     LinkWindow(window, HWND_TOP);
-    auto* errand = new (std::nothrow) SentMessage;
-    if (!errand) {
-        return;
-    }
-    errand->errand = RunDestruction;
-    errand->window = window->handle;
-    if (!Enqueue(window->thread, errand)) {
-        delete errand;
-    }
+    EnqueueErrand(window->thread, RunDestruction, window->handle);
 }
 
 }  // namespace

@@ -4,8 +4,6 @@
 #include <algorithm>
 #include <new>
 
-#include "user/model/atoms.h"
-
 namespace platform::user {
 
 namespace {

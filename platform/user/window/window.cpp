@@ -111,7 +111,6 @@ Window* Make(const Request& request) {
     made->handle = base::ToHandle<HWND>(handle);
     Window* window = made.release();
     ++window->windowClass->windows;
-    ++window->thread->windowCount;
     // A new child goes below its siblings, so that the order of creation is the order of tabbing; other windows on top.
     const Window* last = IsChildStyle(window->style) ? window->parent->firstChild : nullptr;
     while (last && last->next) {
@@ -154,7 +153,6 @@ bool Introduce(HWND handle, CREATESTRUCTA* given) {
         DestroyTree(handle);
         return false;
     }
-    window->created = true;
     // Overlapped windows hear of their size when they are shown for the first time.
     if (!window->sizeSent && (window->style & (WS_CHILD | WS_POPUP))) {
         window->sizeSent = true;

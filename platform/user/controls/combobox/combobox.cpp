@@ -43,17 +43,6 @@ void OnEnable(ComboData& combo, bool enabled) {
     InvalidateRect(combo.window, nullptr, TRUE);
 }
 
-void OnPaint(const ComboData& combo, HDC given) {
-    if (given) {
-        PaintCombo(combo, given);
-        return;
-    }
-    PAINTSTRUCT paint{};
-    if (const HDC context = BeginPaint(combo.window, &paint))
-        PaintCombo(combo, context);
-    EndPaint(combo.window, &paint);
-}
-
 // --- what the parts tell
 
 void OnEditNotification(ComboData& combo, UINT code) {
@@ -190,8 +179,7 @@ LRESULT CALLBACK ComboBoxProcedure(HWND window, UINT message, WPARAM wParam, LPA
         case WM_ERASEBKGND:
             return TRUE;
         case WM_PAINT:
-            OnPaint(combo, reinterpret_cast<HDC>(wParam));
-            return 0;
+            return PaintWith(window, [&](HDC context, const RECT&) { PaintCombo(combo, context); });
         case WM_ENABLE:
             OnEnable(combo, wParam != 0);
             return 0;

@@ -73,18 +73,6 @@ void OnKillFocus(HWND edit, EditData& data) {
     }
 }
 
-void OnPaint(HWND edit, const EditData& data, HDC given) {
-    if (given) {
-        PaintEdit(edit, data, given);
-        return;
-    }
-    PAINTSTRUCT paint{};
-    if (const HDC context = BeginPaint(edit, &paint)) {
-        PaintEdit(edit, data, context);
-    }
-    EndPaint(edit, &paint);
-}
-
 void OnScroll(HWND edit, EditData& data, WPARAM wParam) {
     if (!IsMultiLine(edit)) {
         return;
@@ -127,35 +115,13 @@ LRESULT OnWheel(HWND edit, EditData& data, WPARAM wParam, LPARAM lParam) {
     return 0;
 }
 
-/// Messages that change or move the text.
-LRESULT OnTextMessage(HWND edit, EditData& data, UINT message, WPARAM wParam, LPARAM lParam) {
-    switch (message) {
-        case WM_SETTEXT: {
-            const auto* text = reinterpret_cast<const char*>(lParam);
-            if (text && kernel::ProbeLength(text) == kernel::kBadText) {
-                SetLastError(ERROR_NOACCESS);
-                return FALSE;
-            }
-            SetEditText(edit, data, text);
-            return TRUE;
-        }
-        case WM_COPY:
-            CopySelection(edit, data);
-            return 0;
-        case WM_CUT:
-            CutSelection(edit, data);
-            return 0;
-        case WM_PASTE:
-            PasteText(edit, data);
-            return 0;
-        case WM_CLEAR:
-            RemoveText(edit, data, data.SelectionStart(), data.SelectionEnd());
-            return 0;
-        case WM_UNDO:
-            return UndoEdit(edit, data) || !IsMultiLine(edit);
-        default:
-            return OnEditQuery(edit, data, message, wParam, lParam);
+LRESULT OnSetText(HWND edit, EditData& data, LPCSTR text) {
+    if (text && kernel::ProbeLength(text) == kernel::kBadText) {
+        SetLastError(ERROR_NOACCESS);
+        return FALSE;
     }
+    SetEditText(edit, data, text);
+    return TRUE;
 }
 
 /// Keys may select; what the application selects itself is not the user's choice.
@@ -250,8 +216,7 @@ LRESULT Handle(HWND edit, EditData& data, UINT message, WPARAM wParam, LPARAM lP
         case WM_ERASEBKGND:
             return TRUE;
         case WM_PAINT:
-            OnPaint(edit, data, reinterpret_cast<HDC>(wParam));
-            return 0;
+            return PaintWith(edit, [&](HDC context, const RECT&) { PaintEdit(edit, data, context); });
         case WM_ENABLE:
             RedrawEdit(edit);
             return 0;
@@ -265,15 +230,24 @@ LRESULT Handle(HWND edit, EditData& data, UINT message, WPARAM wParam, LPARAM lP
             InvalidateRect(edit, nullptr, FALSE);
             return 0;
         case WM_SETTEXT:
+            return OnSetText(edit, data, reinterpret_cast<LPCSTR>(lParam));
         case WM_COPY:
+            CopySelection(edit, data);
+            return 0;
         case WM_CUT:
+            CutSelection(edit, data);
+            return 0;
         case WM_PASTE:
+            PasteText(edit, data);
+            return 0;
         case WM_CLEAR:
+            RemoveText(edit, data, data.SelectionStart(), data.SelectionEnd());
+            return 0;
         case WM_UNDO:
-            return OnTextMessage(edit, data, message, wParam, lParam);
+            return UndoEdit(edit, data) || !IsMultiLine(edit);
         default:
             if (message >= EM_GETSEL && message <= EM_GETLIMITTEXT) {
-                return OnTextMessage(edit, data, message, wParam, lParam);
+                return OnEditQuery(edit, data, message, wParam, lParam);
             }
             return OnInput(edit, data, message, wParam, lParam);
     }

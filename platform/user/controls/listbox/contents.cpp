@@ -125,7 +125,7 @@ LRESULT OnContentsMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lP
         case LB_FINDSTRINGEXACT:
             return FindItem(list, index, text, message == LB_FINDSTRINGEXACT);
         default:
-            return LB_ERR;
+            return OnSelectionMessage(list, message, wParam, lParam);
     }
 }
 

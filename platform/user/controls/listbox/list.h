@@ -131,11 +131,12 @@ void SelectItem(ListData& list, int index, bool selected);
 void SelectRange(ListData& list, int from, int to);
 void SelectOnly(ListData& list, int index);
 void MoveCaret(ListData& list, int index);
-/// Brings a key's or a click's selection about at an item. @returns whether the parent has to hear of it.
 LRESULT OnSelectionMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lParam);
+LRESULT OnLayoutMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lParam);
 
 // --- contents.cpp
 
+/// The messages of a list. Each file that answers some of them hands the others on: contents, selection, layout.
 LRESULT OnContentsMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lParam);
 /// @returns the first item after `start` that begins with a text (exact: is that text), going round; LB_ERR for none.
 int FindItem(const ListData& list, int start, const char* wanted, bool exact);
