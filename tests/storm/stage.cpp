@@ -141,7 +141,7 @@ bool IsNotification(UINT message) {
 }
 
 /// What the dialog and its page have in common. @return whether the message was answered.
-INT_PTR Answer(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+INT_PTR Answer(HWND dialog, UINT message, LPARAM lParam) {
     switch (message) {
         case WM_DRAWITEM:
             Draw(*reinterpret_cast<DRAWITEMSTRUCT const*>(lParam));
@@ -193,7 +193,7 @@ INT_PTR CALLBACK PageProcedure(HWND page, UINT message, WPARAM wParam, LPARAM lP
             return TRUE;
         }
     }
-    return Answer(page, message, wParam, lParam);
+    return Answer(page, message, lParam);
 }
 
 void Close(HWND dialog, bool modal, INT_PTR result) {
@@ -234,7 +234,7 @@ INT_PTR CALLBACK DialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPARA
     if (message == WM_NCDESTROY) {
         g_dialog = nullptr;
     }
-    return Answer(dialog, message, wParam, lParam);
+    return Answer(dialog, message, lParam);
 }
 
 }  // namespace

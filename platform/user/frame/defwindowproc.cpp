@@ -1,6 +1,5 @@
 // DefWindowProcA: what a window does with a message that it has no use for itself.
 #include <algorithm>
-#include <cstring>
 #include <new>
 
 #include "gdi/context/device_context.h"
@@ -37,18 +36,6 @@ LRESULT SetText(HWND handle, LPCSTR text) {
         PaintFrame(handle);
     }
     return TRUE;
-}
-
-LRESULT GetText(HWND handle, WPARAM size, LPSTR buffer) {
-    const UserGuard guard(UserLock());
-    const Window* window = PeekWindow(handle);
-    if (!window || !buffer || size == 0) {
-        return 0;
-    }
-    const std::size_t length = std::min<std::size_t>(window->text.size(), size - 1);
-    std::memcpy(buffer, window->text.data(), length);
-    buffer[length] = '\0';
-    return static_cast<LRESULT>(length);
 }
 
 LRESULT EraseBackground(HWND handle, HDC context) {
@@ -174,7 +161,7 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
         case WM_SETTEXT:
             return SetText(handle, reinterpret_cast<LPCSTR>(lParam));
         case WM_GETTEXT:
-            return GetText(handle, wParam, reinterpret_cast<LPSTR>(lParam));
+            return CopyText(window->text, wParam, reinterpret_cast<LPSTR>(lParam));
         case WM_GETTEXTLENGTH:
             return static_cast<LRESULT>(window->text.size());
         case WM_PAINT: {

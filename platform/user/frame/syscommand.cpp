@@ -269,6 +269,20 @@ bool TrackButton(HWND handle, int button) {
     return inside && released && PeekWindow(handle);
 }
 
+/// What a button of the caption is for.
+WPARAM CommandOf(int button, DWORD style) {
+    switch (button) {
+        case HTCLOSE:
+            return SC_CLOSE;
+        case HTHELP:
+            return SC_CONTEXTHELP;
+        case HTMINBUTTON:
+            return style & WS_MINIMIZE ? SC_RESTORE : SC_MINIMIZE;
+        default:
+            return style & WS_MAXIMIZE ? SC_RESTORE : SC_MAXIMIZE;
+    }
+}
+
 }  // namespace
 
 bool NextMessage(HWND handle, MSG* message) {
@@ -307,25 +321,11 @@ void PressFrame(HWND handle, int hitCode, POINT point) {
             SendMessageA(handle, WM_SYSCOMMAND, SC_MOUSEMENU | HTSYSMENU, where);
             break;
         case HTCLOSE:
-            if (TrackButton(handle, hitCode)) {
-                SendMessageA(handle, WM_SYSCOMMAND, SC_CLOSE, where);
-            }
-            break;
         case HTHELP:
-            if (TrackButton(handle, hitCode)) {
-                SendMessageA(handle, WM_SYSCOMMAND, SC_CONTEXTHELP, where);
-            }
-            break;
         case HTMINBUTTON:
-            if (TrackButton(handle, hitCode)) {
-                SendMessageA(handle, WM_SYSCOMMAND,
-                             static_cast<WPARAM>(LiveStyle(handle) & WS_MINIMIZE ? SC_RESTORE : SC_MINIMIZE), where);
-            }
-            break;
         case HTMAXBUTTON:
             if (TrackButton(handle, hitCode)) {
-                SendMessageA(handle, WM_SYSCOMMAND,
-                             static_cast<WPARAM>(LiveStyle(handle) & WS_MAXIMIZE ? SC_RESTORE : SC_MAXIMIZE), where);
+                SendMessageA(handle, WM_SYSCOMMAND, CommandOf(hitCode, LiveStyle(handle)), where);
             }
             break;
         case HTVSCROLL:

@@ -61,6 +61,15 @@ Window* Orphanage() {
     return root;
 }
 
+int CopyText(std::string_view text, std::size_t size, char* buffer) {
+    if (!buffer || size == 0) {
+        return 0;
+    }
+    const std::size_t length = text.copy(buffer, size - 1);
+    buffer[length] = '\0';
+    return static_cast<int>(length);
+}
+
 bool SameName(std::string_view a, std::string_view b) noexcept {
     const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
     return std::equal(a.begin(), a.end(), b.begin(), b.end(),

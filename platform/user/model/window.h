@@ -116,6 +116,9 @@ Window* Orphanage();
 /// @returns the handle by which applications may know a window; null for none and for the parent of message-only windows.
 HWND HandleOf(const Window* window);
 
+/// Puts as much of a text into a buffer as fits, with a final NUL. @returns how much that is.
+int CopyText(std::string_view text, std::size_t size, char* buffer);
+
 /// Compares names of classes and properties: ASCII letters match in either case.
 bool SameName(std::string_view a, std::string_view b) noexcept;
 

@@ -242,9 +242,5 @@ int WINAPI GetClassNameA(HWND window, LPSTR name, int size) {
         SetLastError(ERROR_INSUFFICIENT_BUFFER);
         return 0;
     }
-    const std::string& text = object->windowClass->name;
-    const std::size_t length = std::min(text.size(), static_cast<std::size_t>(size - 1));
-    std::memcpy(name, text.data(), length);
-    name[length] = '\0';
-    return static_cast<int>(length);
+    return CopyText(object->windowClass->name, static_cast<std::size_t>(size), name);
 }

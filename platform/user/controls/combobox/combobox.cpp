@@ -119,12 +119,7 @@ LRESULT OnText(ComboData& combo, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_GETTEXTLENGTH)
         return static_cast<LRESULT>(text.size());
     auto* buffer = reinterpret_cast<char*>(lParam);
-    if (message != WM_GETTEXT || !buffer || wParam == 0)
-        return CB_ERR;
-    const std::size_t length = std::min<std::size_t>(text.size(), wParam - 1);
-    std::copy_n(text.data(), length, buffer);
-    buffer[length] = '\0';
-    return static_cast<LRESULT>(length);
+    return message == WM_GETTEXT && buffer && wParam ? CopyText(text, wParam, buffer) : CB_ERR;
 }
 
 LRESULT OnInput(ComboData& combo, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -1,8 +1,6 @@
 // The "edit" class: its window procedure.
 #include "user/controls/edit/edit.h"
 
-#include <algorithm>
-#include <cstring>
 #include <utility>
 
 #include "kernel/memory/probe.h"
@@ -14,16 +12,6 @@ LRESULT OnCreate(HWND edit, EditData& data, const CREATESTRUCTA* create) {
     data.text = create && create->lpszName ? create->lpszName : "";
     LayOut(edit, data);
     return 0;
-}
-
-LRESULT GetText(const EditData& data, WPARAM size, char* buffer) {
-    if (!buffer || size == 0) {
-        return 0;
-    }
-    const std::size_t length = std::min<std::size_t>(data.text.size(), size - 1);
-    std::memcpy(buffer, data.text.data(), length);
-    buffer[length] = '\0';
-    return static_cast<LRESULT>(length);
 }
 
 /// With several lines the control wants all keys. Only Tab goes to the dialog; with Ctrl it is text.
@@ -198,7 +186,7 @@ LRESULT Handle(HWND edit, EditData& data, UINT message, WPARAM wParam, LPARAM lP
         case WM_CREATE:
             return OnCreate(edit, data, reinterpret_cast<const CREATESTRUCTA*>(lParam));
         case WM_GETTEXT:
-            return GetText(data, wParam, reinterpret_cast<char*>(lParam));
+            return CopyText(data.text, wParam, reinterpret_cast<char*>(lParam));
         case WM_GETTEXTLENGTH:
             return static_cast<LRESULT>(data.text.size());
         case WM_GETDLGCODE:
