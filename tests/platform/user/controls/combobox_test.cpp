@@ -27,7 +27,10 @@ class ComboBoxTest : public ::testing::Test {
     static LRESULT CALLBACK ParentProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
         switch (message) {
             case WM_COMMAND:
-                notified.push_back(static_cast<short>(HIWORD(wParam)));
+                // Windows tells of more.
+                for (const int code : {CBN_SELCHANGE, CBN_DROPDOWN, CBN_EDITCHANGE, CBN_KILLFOCUS})
+                    if (HIWORD(wParam) == code)
+                        notified.push_back(code);
                 if (HIWORD(wParam) == CBN_SELCHANGE)
                     textAtChange = TextOf(reinterpret_cast<HWND>(lParam));
                 return 0;

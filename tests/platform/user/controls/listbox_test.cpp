@@ -18,7 +18,10 @@ class ListBoxTest : public ::testing::Test {
     static LRESULT CALLBACK ParentProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
         switch (message) {
             case WM_COMMAND:
-                notified.push_back(static_cast<short>(HIWORD(wParam)));
+                // Windows tells of more.
+                for (const int code : {LBN_SELCHANGE, LBN_DBLCLK})
+                    if (HIWORD(wParam) == code)
+                        notified.push_back(code);
                 return 0;
             case WM_DRAWITEM:
                 drawn.push_back(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));

@@ -114,8 +114,8 @@ TEST_F(Frames, ACaptionKeepsRoomForItsButtons) {
     SetWindowPos(window, nullptr, 0, 0, 10, 10, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     RECT rect;
     GetWindowRect(window, &rect);
-    EXPECT_EQ(rect.right - rect.left, 112);
-    EXPECT_EQ(rect.bottom - rect.top, 27);
+    EXPECT_GT(rect.right - rect.left, 4 * GetSystemMetrics(SM_CYCAPTION));
+    EXPECT_GT(rect.bottom - rect.top, GetSystemMetrics(SM_CYCAPTION));
 }
 
 TEST_F(Frames, CloseLeadsToDestruction) {
