@@ -71,9 +71,7 @@ typedef struct tagDIBSECTION {
 } DIBSECTION, *LPDIBSECTION, *PDIBSECTION;
 
 #define BI_RGB 0
-#define BI_BITFIELDS 3
 #define DIB_RGB_COLORS 0
-#define DIB_PAL_COLORS 1
 
 // --- objects
 
@@ -101,12 +99,7 @@ typedef struct tagLOGPEN {
 } LOGPEN, *PLOGPEN, *NPLOGPEN, *LPLOGPEN;
 
 #define PS_SOLID 0
-#define PS_DASH 1
-#define PS_DOT 2
-#define PS_DASHDOT 3
-#define PS_DASHDOTDOT 4
 #define PS_NULL 5
-#define PS_INSIDEFRAME 6
 
 typedef struct tagLOGBRUSH {
     UINT lbStyle;
@@ -128,34 +121,12 @@ WINGDIAPI HBRUSH WINAPI CreateSolidBrush(COLORREF colour);
 
 // --- device contexts
 
-#define DRIVERVERSION 0
-#define TECHNOLOGY 2
-#define HORZSIZE 4
-#define VERTSIZE 6
 #define HORZRES 8
 #define VERTRES 10
 #define BITSPIXEL 12
 #define PLANES 14
-#define NUMBRUSHES 16
-#define NUMPENS 18
-#define NUMCOLORS 24
-#define CLIPCAPS 36
-#define RASTERCAPS 38
-#define ASPECTX 40
-#define ASPECTY 42
-#define ASPECTXY 44
 #define LOGPIXELSX 88
 #define LOGPIXELSY 90
-#define DESKTOPVERTRES 117
-#define DESKTOPHORZRES 118
-#define DT_RASDISPLAY 1
-#define RC_BITBLT 1
-#define RC_DI_BITMAP 0x0080
-#define RC_DIBTODEV 0x0200
-#define RC_STRETCHBLT 0x0800
-#define RC_STRETCHDIB 0x2000
-#define CP_RECTANGLE 1
-#define CP_REGION 2
 
 WINGDIAPI HDC WINAPI CreateCompatibleDC(HDC context);
 WINGDIAPI BOOL WINAPI DeleteDC(HDC context);
@@ -167,9 +138,7 @@ WINGDIAPI BOOL WINAPI GdiFlush(void);
 #define TRANSPARENT 1
 #define OPAQUE 2
 #define BLACKONWHITE 1
-#define WHITEONBLACK 2
 #define COLORONCOLOR 3
-#define HALFTONE 4
 
 WINGDIAPI COLORREF WINAPI SetBkColor(HDC context, COLORREF colour);
 WINGDIAPI COLORREF WINAPI GetBkColor(HDC context);

@@ -1,4 +1,4 @@
-// Bitmaps, icons and cursors: any bytes as a picture of a module, loaded in every way there is and drawn.
+// Bitmaps and icons: any bytes as a picture of a module, loaded in every way there is and drawn.
 #include "tests/fuzz/input.h"
 #include "tests/fuzz/module.h"
 
@@ -7,10 +7,8 @@
 namespace {
 
 // As resource scripts number their types.
-constexpr WORD kCursor = 1;
 constexpr WORD kBitmap = 2;
 constexpr WORD kIcon = 3;
-constexpr WORD kGroupCursor = 12;
 constexpr WORD kGroupIcon = 14;
 
 /// A place to draw on that is somewhat larger than a picture.
@@ -63,9 +61,6 @@ void LoadIcons(HINSTANCE instance) {
     if (HICON const icon = LoadIconA(instance, MAKEINTRESOURCEA(1))) {
         DrawIcon(canvas, 3, 3, icon);
     }
-    if (HCURSOR const cursor = LoadCursorA(instance, MAKEINTRESOURCEA(1))) {
-        DrawIcon(canvas, -3, 3, cursor);
-    }
 }
 
 }  // namespace
@@ -83,9 +78,8 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
         file.Add(kBitmap, 1, data, size);
     } else {
         std::size_t const group = std::min<std::size_t>(*data++, --size);
-        bool const cursor = how & 2;
-        file.Add(cursor ? kGroupCursor : kGroupIcon, 1, data, group);
-        file.Add(cursor ? kCursor : kIcon, 1, data + group, size - group);
+        file.Add(kGroupIcon, 1, data, group);
+        file.Add(kIcon, 1, data + group, size - group);
     }
     DWORD const objects = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
     {

@@ -67,34 +67,23 @@ Kind const kAny[] = {
 };
 
 Kind const kEdit[] = {
-    KIND(WM_CUT, Zero, Zero),          KIND(WM_COPY, Zero, Zero),           KIND(WM_PASTE, Zero, Zero),
-    KIND(WM_CLEAR, Zero, Zero),        KIND(WM_UNDO, Zero, Zero),           KIND(EM_GETSEL, Zero, Zero),
-    KIND(EM_SETSEL, Number, Number),   KIND(EM_LINESCROLL, Number, Number), KIND(EM_SCROLLCARET, Zero, Zero),
-    KIND(EM_GETLINECOUNT, Zero, Zero), KIND(EM_LINEINDEX, Number, Zero),    KIND(EM_LINELENGTH, Number, Zero),
-    KIND(EM_REPLACESEL, Bool, Text),   KIND(EM_GETLINE, Code, Buffer),      KIND(EM_LIMITTEXT, Number, Zero),
-    KIND(EM_UNDO, Zero, Zero),         KIND(EM_LINEFROMCHAR, Number, Zero), KIND(EM_SETPASSWORDCHAR, Character, Zero),
-    KIND(EM_SETREADONLY, Bool, Zero),  KIND(WM_CHAR, Character, Code),
+    KIND(WM_CUT, Zero, Zero),        KIND(WM_COPY, Zero, Zero),        KIND(WM_PASTE, Zero, Zero),
+    KIND(WM_CLEAR, Zero, Zero),      KIND(WM_UNDO, Zero, Zero),        KIND(EM_GETSEL, Zero, Zero),
+    KIND(EM_SETSEL, Number, Number), KIND(EM_LIMITTEXT, Number, Zero), KIND(WM_CHAR, Character, Code),
 };
 
 Kind const kList[] = {
-    KIND(LB_ADDSTRING, Zero, Text),        KIND(LB_INSERTSTRING, Number, Text),   KIND(LB_DELETESTRING, Code, Zero),
-    KIND(LB_RESETCONTENT, Zero, Zero),     KIND(LB_SETSEL, Bool, Number),         KIND(LB_SETCURSEL, Number, Zero),
-    KIND(LB_GETSEL, Number, Zero),         KIND(LB_GETTEXT, Code, Buffer),        KIND(LB_GETTEXTLEN, Number, Zero),
-    KIND(LB_SELECTSTRING, Number, Text),   KIND(LB_FINDSTRING, Number, Text),     KIND(LB_GETSELCOUNT, Zero, Zero),
-    KIND(LB_GETSELITEMS, Code, Numbers),   KIND(LB_SETCOLUMNWIDTH, Number, Zero), KIND(LB_SETTOPINDEX, Number, Zero),
-    KIND(LB_GETITEMRECT, Number, Rect),    KIND(LB_SETITEMDATA, Number, Number),  KIND(LB_SELITEMRANGE, Bool, Pair),
-    KIND(LB_SETANCHORINDEX, Number, Zero), KIND(LB_SETCARETINDEX, Number, Bool),  KIND(LB_GETITEMHEIGHT, Code, Zero),
+    KIND(LB_ADDSTRING, Zero, Text),        KIND(LB_INSERTSTRING, Number, Text),  KIND(LB_RESETCONTENT, Zero, Zero),
+    KIND(LB_SETSEL, Bool, Number),         KIND(LB_SETCURSEL, Number, Zero),     KIND(LB_GETSEL, Number, Zero),
+    KIND(LB_GETTEXT, Code, Buffer),        KIND(LB_GETTEXTLEN, Number, Zero),    KIND(LB_FINDSTRING, Number, Text),
+    KIND(LB_GETSELCOUNT, Zero, Zero),      KIND(LB_GETSELITEMS, Code, Numbers),  KIND(LB_SETCOLUMNWIDTH, Number, Zero),
+    KIND(LB_SETTOPINDEX, Number, Zero),    KIND(LB_GETITEMRECT, Number, Rect),   KIND(LB_SELITEMRANGE, Bool, Pair),
+    KIND(LB_SETANCHORINDEX, Number, Zero), KIND(LB_SETCARETINDEX, Number, Bool), KIND(LB_GETITEMHEIGHT, Code, Zero),
 };
 
 Kind const kCombo[] = {
-    KIND(CB_ADDSTRING, Zero, Text),         KIND(CB_INSERTSTRING, Number, Text),
-    KIND(CB_DELETESTRING, Code, Zero),      KIND(CB_RESETCONTENT, Zero, Zero),
-    KIND(CB_SETCURSEL, Number, Zero),       KIND(CB_GETLBTEXT, Code, Buffer),
-    KIND(CB_FINDSTRING, Number, Text),      KIND(CB_SELECTSTRING, Number, Text),
-    KIND(CB_SHOWDROPDOWN, Bool, Zero),      KIND(CB_GETDROPPEDCONTROLRECT, Zero, Rect),
-    KIND(CB_GETEDITSEL, Zero, Zero),        KIND(CB_SETEDITSEL, Zero, Pair),
-    KIND(CB_LIMITTEXT, Number, Zero),       KIND(CB_SETITEMDATA, Number, Number),
-    KIND(CB_SETDROPPEDWIDTH, Number, Zero),
+    KIND(CB_ADDSTRING, Zero, Text),   KIND(CB_INSERTSTRING, Number, Text), KIND(CB_RESETCONTENT, Zero, Zero),
+    KIND(CB_SETCURSEL, Number, Zero), KIND(WM_KEYDOWN, Key, Code),         KIND(CB_GETDROPPEDCONTROLRECT, Zero, Rect),
 };
 
 Kind const kButton[] = {
@@ -151,8 +140,6 @@ LPARAM Value(Arg arg, HWND window, HDC dc) {
         case Arg::Size:
             return Die().OneIn(3) ? Die().Below(9) : kBuffer;
         case Arg::Buffer:
-            // EM_GETLINE reads there how much room there is.
-            *reinterpret_cast<WORD*>(g_buffer) = static_cast<WORD>(Die().Below(0x8000));
             return reinterpret_cast<LPARAM>(g_buffer);
         case Arg::Rect:
             g_rect = {Die().From(-9, 40), Die().From(-9, 40), Die().From(0, 200), Die().From(0, 200)};

@@ -103,8 +103,6 @@ HWND Sender(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_DRAWITEM:
             return reinterpret_cast<DRAWITEMSTRUCT const*>(lParam)->hwndItem;
         case WM_MEASUREITEM:
-        case WM_DELETEITEM:
-        case WM_PARENTNOTIFY:
         case WM_SETCURSOR:
         case WM_MOUSEACTIVATE:
         case WM_HELP:
@@ -131,8 +129,6 @@ bool IsNotification(UINT message) {
         case WM_VKEYTOITEM:
         case WM_DRAWITEM:
         case WM_MEASUREITEM:
-        case WM_DELETEITEM:
-        case WM_PARENTNOTIFY:
         case WM_SETCURSOR:
         case WM_MOUSEACTIVATE:
         case WM_HELP:
@@ -145,7 +141,7 @@ bool IsNotification(UINT message) {
 }
 
 /// What the dialog and its page have in common. @return whether the message was answered.
-INT_PTR Answer(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+INT_PTR Answer(HWND dialog, UINT message, LPARAM lParam) {
     switch (message) {
         case WM_DRAWITEM:
             Draw(*reinterpret_cast<DRAWITEMSTRUCT const*>(lParam));
@@ -154,11 +150,6 @@ INT_PTR Answer(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
             reinterpret_cast<MEASUREITEMSTRUCT*>(lParam)->itemHeight =
                 8 + reinterpret_cast<MEASUREITEMSTRUCT const*>(lParam)->itemID % 16;
             return TRUE;
-        case WM_PARENTNOTIFY:
-            if (LOWORD(wParam) == WM_DESTROY) {
-                ReleasePictures(reinterpret_cast<HWND>(lParam), 0);
-            }
-            return FALSE;
         case WM_DESTROY:
             EnumChildWindows(dialog, ReleasePictures, 0);
             return FALSE;
@@ -202,7 +193,7 @@ INT_PTR CALLBACK PageProcedure(HWND page, UINT message, WPARAM wParam, LPARAM lP
             return TRUE;
         }
     }
-    return Answer(page, message, wParam, lParam);
+    return Answer(page, message, lParam);
 }
 
 void Close(HWND dialog, bool modal, INT_PTR result) {
@@ -243,7 +234,7 @@ INT_PTR CALLBACK DialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPARA
     if (message == WM_NCDESTROY) {
         g_dialog = nullptr;
     }
-    return Answer(dialog, message, wParam, lParam);
+    return Answer(dialog, message, lParam);
 }
 
 }  // namespace

@@ -25,7 +25,7 @@ void Place() {
     static UINT const flags[] = {SWP_NOMOVE,       SWP_NOSIZE,     SWP_NOZORDER,   SWP_NOACTIVATE,
                                  SWP_FRAMECHANGED, SWP_SHOWWINDOW, SWP_HIDEWINDOW, SWP_NOREDRAW};
     HWND const window = AnyWindow();
-    HWND const after = Die().OneIn(2) ? HWND_TOP : Die().OneIn(2) ? HWND_BOTTOM : AnyWindow();
+    HWND const after = Die().OneIn(2) ? HWND_TOP : AnyWindow();
     Describe(window);
     UINT some = 0;
     for (int i = 0; i < 3; ++i) {
@@ -149,7 +149,7 @@ Making const kMakings[] = {
     {"listbox", WS_TABSTOP | LBS_NOTIFY | WS_VSCROLL},
     {"button", WS_TABSTOP | BS_AUTOCHECKBOX},
     {"button", WS_TABSTOP | BS_DEFPUSHBUTTON},
-    {"static", SS_LEFT | SS_NOTIFY},
+    {"static", SS_LEFT},
     {"scrollbar", SBS_VERT},
 };
 

@@ -13,7 +13,6 @@ bool IsDepth(int bitsPerPixel) {
         case 1:
         case 4:
         case 8:
-        case 16:
         case 24:
         case 32:
             return true;
@@ -108,7 +107,6 @@ HBITMAP WINAPI CreateCompatibleBitmap(HDC handle, int width, int height) {
     if (context->state.bitmap && context->state.bitmap->section) {
         const Bitmap& model = *context->state.bitmap;
         bitmap->section = true;
-        bitmap->sixGreen = model.sixGreen;
         if (model.palette) {
             const auto size = static_cast<std::size_t>(model.paletteSize);
             bitmap->palette.reset(new (std::nothrow) std::uint32_t[size]);

@@ -23,10 +23,8 @@ struct DibLayout {
     int height = 0;
     bool topDown = false;
     int bitsPerPixel = 0;
-    bool masks = false;  ///< three colour masks follow the header
-    bool sixGreen = false;
     std::size_t rowBytes = 0;
-    std::size_t headerBytes = 0;   ///< header and masks
+    std::size_t headerBytes = 0;
     std::size_t paletteBytes = 0;  ///< the colours that follow
     std::array<std::uint32_t, 256> palette{};
     int paletteSize = 0;

@@ -99,7 +99,7 @@ std::vector<Slice> Slices(int sourceFrom, int sourceSize, int targetFrom, int ta
 /// Several source pixels made one.
 class Mixture {
   public:
-    Mixture(int mode, bool colours) : mode_(mode == HALFTONE && !colours ? COLORONCOLOR : mode) {}
+    explicit Mixture(int mode) : mode_(mode) {}
     bool UsesFirstOnly() const {
         return mode_ == COLORONCOLOR;
     }
@@ -108,30 +108,16 @@ class Mixture {
             bits_ = value;
         } else if (mode_ == BLACKONWHITE) {
             bits_ &= value;
-        } else if (mode_ == WHITEONBLACK) {
-            bits_ |= value;
         }
-        red_ += value >> 16 & 0xFF;
-        green_ += value >> 8 & 0xFF;
-        blue_ += value & 0xFF;
     }
-    std::uint32_t Take() {
-        std::uint32_t value = bits_;
-        if (mode_ == HALFTONE && count_ > 1) {
-            const std::uint32_t half = count_ / 2;
-            value = (red_ + half) / count_ << 16 | (green_ + half) / count_ << 8 | (blue_ + half) / count_;
-        }
-        count_ = red_ = green_ = blue_ = 0;
-        return value;
+    std::uint32_t Take() const {
+        return bits_;
     }
 
   private:
     int mode_;
     std::uint32_t count_ = 0;
     std::uint32_t bits_ = 0;
-    std::uint32_t red_ = 0;
-    std::uint32_t green_ = 0;
-    std::uint32_t blue_ = 0;
 };
 
 }  // namespace
@@ -146,7 +132,7 @@ std::vector<std::uint32_t> Stretched(const Surface& from, const RECT& source, co
     Converter converter(from, to, colours);
     std::vector<std::uint32_t> values(columns.size() * rows.size());
     std::vector<std::uint32_t> line(static_cast<std::size_t>(from.width));
-    Mixture mixture(mode, !from.Indexed());
+    const Mixture mixture(mode);
     const int firstColumn = std::min(columns.front().first, columns.back().first);
     const int lastColumn = std::max(columns.front().last, columns.back().last);
     std::vector<Mixture> sums;

@@ -19,12 +19,11 @@ Surface DibLayout::View(const void* bits, int lines) const {
     surface.stride = topDown ? stride : -stride;
     surface.palette = palette.data();
     surface.paletteSize = 1 << std::min(bitsPerPixel, 8);
-    surface.sixGreen = sixGreen;
     return surface;
 }
 
 std::optional<DibLayout> ReadLayout(const void* info, UINT usage, bool colours, std::size_t room) {
-    if (!info || usage > DIB_PAL_COLORS || (room && room < sizeof(BITMAPCOREHEADER))) {
+    if (!info || usage != DIB_RGB_COLORS || (room && room < sizeof(BITMAPCOREHEADER))) {
         return std::nullopt;
     }
     constexpr DWORD kLargestHeader = 124;  // the fifth version
@@ -54,23 +53,8 @@ std::optional<DibLayout> ReadLayout(const void* info, UINT usage, bool colours, 
         layout.bitsPerPixel = header.biBitCount;
         planes = header.biPlanes;
         used = header.biClrUsed;
-        layout.masks = header.biCompression == BI_BITFIELDS && size == sizeof(BITMAPINFOHEADER);
-        const bool fields =
-            header.biCompression == BI_BITFIELDS && (header.biBitCount == 16 || header.biBitCount == 32);
-        if (header.biCompression != BI_RGB && !fields) {
+        if (header.biCompression != BI_RGB) {
             return std::nullopt;
-        }
-        if (fields) {
-            // Only the orders of colours that bitmaps here have.
-            std::array<DWORD, 3> order{};
-            if (room && room < sizeof(header) + sizeof(order)) {
-                return std::nullopt;
-            }
-            std::memcpy(order.data(), static_cast<const std::byte*>(info) + sizeof(header), sizeof(order));
-            layout.sixGreen = header.biBitCount == 16 && order == Masks(16, true);
-            if (order != Masks(header.biBitCount, layout.sixGreen)) {
-                return std::nullopt;
-            }
         }
     } else {
         return std::nullopt;
@@ -81,12 +65,9 @@ std::optional<DibLayout> ReadLayout(const void* info, UINT usage, bool colours, 
         return std::nullopt;
     }
     layout.rowBytes = static_cast<std::size_t>(DwordRowBytes(layout.width, bits));
-    layout.headerBytes = size + (layout.masks ? 3 * sizeof(DWORD) : 0);
+    layout.headerBytes = size;
     const int most = bits <= 8 ? 1 << bits : 0;
     layout.paletteSize = used && used < static_cast<DWORD>(most) ? static_cast<int>(used) : most;
-    if (usage == DIB_PAL_COLORS) {
-        entry = sizeof(WORD);
-    }
     // A bitmap of true colours may list colours too, for those who want to make a palette.
     const std::size_t listed = bits <= 8 ? static_cast<std::size_t>(layout.paletteSize) : used <= 256 ? used : 0;
     layout.paletteBytes = listed * entry;
@@ -98,7 +79,7 @@ std::optional<DibLayout> ReadLayout(const void* info, UINT usage, bool colours, 
     }
     std::copy_n(DefaultPalette(bits), most, layout.palette.begin());
     const auto* at = static_cast<const BYTE*>(info) + layout.headerBytes;
-    if (colours && usage == DIB_RGB_COLORS) {
+    if (colours) {
         layout.palette.fill(0);
         for (std::size_t i = 0; i < static_cast<std::size_t>(layout.paletteSize); ++i, at += entry) {
             layout.palette[i] = static_cast<std::uint32_t>(at[0] | at[1] << 8 | at[2] << 16);
@@ -145,7 +126,7 @@ Surface ColourView(const Bitmap& bitmap) {
     return surface;
 }
 
-void WritePalette(BITMAPINFO* info, const DibLayout& layout, const Surface& from, UINT usage) {
+void WritePalette(BITMAPINFO* info, const DibLayout& layout, const Surface& from) {
     if (layout.bitsPerPixel > 8) {
         return;
     }
@@ -155,12 +136,6 @@ void WritePalette(BITMAPINFO* info, const DibLayout& layout, const Surface& from
     const int count = own ? from.paletteSize : 1 << layout.bitsPerPixel;
     const bool core = info->bmiHeader.biSize == sizeof(BITMAPCOREHEADER);
     for (int i = 0; i < 1 << layout.bitsPerPixel; ++i) {
-        if (usage == DIB_PAL_COLORS) {
-            const WORD index = static_cast<WORD>(i);
-            std::memcpy(at, &index, sizeof(index));
-            at += sizeof(index);
-            continue;
-        }
         const std::uint32_t pixel = i < count ? colours[i] : 0;
         at[0] = static_cast<BYTE>(pixel);
         at[1] = static_cast<BYTE>(pixel >> 8);
@@ -192,7 +167,6 @@ HBITMAP WINAPI CreateDIBSection(HDC, const BITMAPINFO* info, UINT usage, void** 
     }
     bitmap->section = true;
     bitmap->topDown = layout->topDown;
-    bitmap->sixGreen = layout->sixGreen;
     if (layout->bitsPerPixel <= 8) {
         const std::size_t size = std::size_t{1} << layout->bitsPerPixel;
         bitmap->palette.reset(new (std::nothrow) std::uint32_t[size]);
@@ -228,17 +202,11 @@ int WINAPI GetDIBits(HDC context, HBITMAP handle, UINT start, UINT lines, LPVOID
         header.biHeight = bitmap->section && bitmap->topDown ? -bitmap->height : bitmap->height;
         header.biPlanes = 1;
         header.biBitCount = static_cast<WORD>(bitmap->bitsPerPixel);
-        header.biCompression = bitmap->bitsPerPixel == 16 ? BI_BITFIELDS : BI_RGB;
+        header.biCompression = BI_RGB;
         header.biSizeImage = static_cast<DWORD>(bitmap->Bytes());
         header.biXPelsPerMeter = header.biYPelsPerMeter = 0;
         header.biClrUsed = header.biClrImportant = 0;
         return TRUE;
-    }
-    if (!core && header.biSize >= sizeof(header) && header.biCompression == BI_BITFIELDS &&
-        (header.biBitCount == 16 || header.biBitCount == 32)) {
-        // Which bits are which colour's is told, not asked.
-        const auto masks = Masks(header.biBitCount, bitmap->sixGreen && header.biBitCount == 16);
-        std::memcpy(reinterpret_cast<std::byte*>(info) + sizeof(header), masks.data(), sizeof(masks));
     }
     const auto layout = Checked(info, usage, false);
     if (!layout) {
@@ -249,7 +217,7 @@ int WINAPI GetDIBits(HDC context, HBITMAP handle, UINT start, UINT lines, LPVOID
         header.biSizeImage = static_cast<DWORD>(layout->Bytes());
         header.biClrUsed = 0;
     }
-    WritePalette(info, *layout, from, usage);
+    WritePalette(info, *layout, from);
     if (!bits) {
         return bitmap->height;
     }

@@ -42,10 +42,6 @@ HBITMAP MakeBitmap(const DibLayout& source, const std::byte* bits, int width, in
     header.header.biPlanes = 1;
     header.header.biBitCount = static_cast<WORD>(source.bitsPerPixel);
     std::transform(source.palette.begin(), source.palette.end(), header.colours.begin(), Quad);
-    if (source.sixGreen) {
-        header.header.biCompression = BI_BITFIELDS;
-        std::memcpy(header.colours.data(), Masks(16, true).data(), 3 * sizeof(DWORD));
-    }
     const HDC memory = CreateCompatibleDC(nullptr);
     HBITMAP bitmap = nullptr;
     if (flags & LR_CREATEDIBSECTION) {

@@ -58,7 +58,7 @@ COLORREF WINAPI GetTextColor(HDC context) {
 }
 
 int WINAPI SetStretchBltMode(HDC context, int mode) {
-    return ExchangeMode(context, &DrawState::stretchMode, mode, BLACKONWHITE, HALFTONE);
+    return ExchangeMode(context, &DrawState::stretchMode, mode, BLACKONWHITE, COLORONCOLOR);
 }
 
 BOOL WINAPI GdiFlush(void) {
@@ -71,39 +71,15 @@ int WINAPI GetDeviceCaps(HDC handle, int index) {
     }
     constexpr int kDotsPerInch = 96;
     const RECT screen = ScreenRect();
-    const auto millimetres = [](LONG pixels) { return static_cast<int>((pixels * 254 + 480) / (kDotsPerInch * 10)); };
     switch (index) {
-        case DRIVERVERSION:
-            return 0x4000;
-        case TECHNOLOGY:
-            return DT_RASDISPLAY;
-        case HORZSIZE:
-            return millimetres(screen.right);
-        case VERTSIZE:
-            return millimetres(screen.bottom);
         case HORZRES:
-        case DESKTOPHORZRES:
             return screen.right;
         case VERTRES:
-        case DESKTOPVERTRES:
             return screen.bottom;
         case BITSPIXEL:
             return 32;
         case PLANES:
             return 1;
-        case NUMBRUSHES:
-        case NUMPENS:
-        case NUMCOLORS:
-            return -1;
-        case CLIPCAPS:
-            return CP_RECTANGLE | CP_REGION;
-        case RASTERCAPS:
-            return RC_BITBLT | RC_DI_BITMAP | RC_DIBTODEV | RC_STRETCHBLT | RC_STRETCHDIB;
-        case ASPECTX:
-        case ASPECTY:
-            return 36;
-        case ASPECTXY:
-            return 51;
         case LOGPIXELSX:
         case LOGPIXELSY:
             return kDotsPerInch;

@@ -22,7 +22,6 @@ Surface Bitmap::View() const {
     surface.height = height;
     surface.bitsPerPixel = bitsPerPixel;
     surface.monochrome = bitsPerPixel == 1 && !section;
-    surface.sixGreen = sixGreen;
     if (bitsPerPixel <= 8) {
         surface.palette = palette ? palette.get() : DefaultPalette(bitsPerPixel);
         surface.paletteSize = palette ? paletteSize : 1 << bitsPerPixel;
@@ -159,10 +158,6 @@ int DescribeBitmap(const Bitmap& bitmap, int room, LPVOID buffer) {
     section.dsBmih.biBitCount = plain.bmBitsPixel;
     section.dsBmih.biSizeImage = static_cast<DWORD>(bitmap.Bytes());
     section.dsBmih.biClrUsed = static_cast<DWORD>(bitmap.palette ? bitmap.paletteSize : 0);
-    if (bitmap.bitsPerPixel == 16) {
-        section.dsBmih.biCompression = BI_BITFIELDS;
-        std::copy_n(Masks(16, bitmap.sixGreen).begin(), 3, section.dsBitfields);
-    }
     return CopyOut(&section, sizeof(section), room, buffer);
 }
 

@@ -49,14 +49,6 @@ struct Font : Object {
     std::atomic<RealizedFont*> realized{nullptr};  ///< found on first use; lives as long as the process
 };
 
-/// @returns which bits of a pixel are red's, green's and blue's: of 32, or of 16, six or five of them green's.
-constexpr std::array<DWORD, 3> Masks(int bitsPerPixel, bool sixGreen) {
-    if (bitsPerPixel == 32) {
-        return {0xFF0000, 0x00FF00, 0x0000FF};
-    }
-    return sixGreen ? std::array<DWORD, 3>{0xF800, 0x07E0, 0x001F} : std::array<DWORD, 3>{0x7C00, 0x03E0, 0x001F};
-}
-
 struct Bitmap : Object {
     static constexpr base::HandleKind kKind = base::HandleKind::Bitmap;
     ~Bitmap();
@@ -65,7 +57,6 @@ struct Bitmap : Object {
     int bitsPerPixel = 0;
     bool section = false;  ///< a device-independent bitmap whose bits the application sees
     bool topDown = true;
-    bool sixGreen = false;    ///< of 16 bits six are green's
     bool sharedBits = false;  ///< the bits belong to somebody else
     std::size_t rowBytes = 0;
     std::byte* bits = nullptr;  ///< the first row in memory

@@ -41,7 +41,7 @@ using namespace platform::gdi;
 HPEN WINAPI CreatePen(int style, int width, COLORREF colour) {
     auto pen = NewObject<Pen>();
     if (pen) {
-        pen->style = style < PS_SOLID || style > PS_INSIDEFRAME ? UINT{PS_SOLID} : static_cast<UINT>(style);
+        pen->style = style == PS_NULL ? UINT{PS_NULL} : UINT{PS_SOLID};
         pen->width = width < 0 ? -width : width;
         pen->colour = colour & 0x00FFFFFF;
     }

@@ -13,9 +13,6 @@ struct Bevel {
 };
 
 Bevel OuterBevel(UINT edge, UINT flags) {
-    if (flags & BF_MONO) {
-        return {COLOR_WINDOWFRAME, COLOR_WINDOWFRAME};
-    }
     if (flags & BF_FLAT) {
         return {COLOR_BTNSHADOW, COLOR_BTNSHADOW};
     }
@@ -26,9 +23,6 @@ Bevel OuterBevel(UINT edge, UINT flags) {
 }
 
 Bevel InnerBevel(UINT edge, UINT flags) {
-    if (flags & BF_MONO) {
-        return {COLOR_WINDOW, COLOR_WINDOW};
-    }
     if (flags & BF_FLAT) {
         return {COLOR_BTNFACE, COLOR_BTNFACE};
     }
@@ -82,7 +76,7 @@ bool PaintEdge(SystemPainter& painter, RECT& rect, UINT edge, UINT flags) {
         Layer(painter, inside, InnerBevel(edge, flags), flags);
     }
     if (flags & BF_MIDDLE) {
-        painter.Fill(inside, flags & BF_MONO ? COLOR_WINDOW : COLOR_BTNFACE);
+        painter.Fill(inside, COLOR_BTNFACE);
     }
     if (flags & BF_ADJUST) {
         rect = inside;

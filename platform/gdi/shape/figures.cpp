@@ -14,14 +14,14 @@ RECT Ordered(const RECT& rect) {
             std::max(rect.top, rect.bottom)};
 }
 
-/// Where the outer edge of a figure's border runs: a wide pen straddles the edge unless it keeps inside the frame, and
-/// without a pen the figure is a pixel smaller.
+/// Where the outer edge of a figure's border runs: a wide pen straddles the edge, and without a
+/// pen the figure is a pixel smaller.
 RECT OuterEdge(const DeviceContext& context, const Stroke& stroke, const RECT& logical) {
     RECT rect = context.ToSurface(Ordered(logical));
     if (stroke.None()) {
         --rect.right;
         --rect.bottom;
-    } else if (stroke.Width() > 1 && context.state.pen->style != PS_INSIDEFRAME) {
+    } else if (stroke.Width() > 1) {
         const int before = stroke.Width() / 2;
         const int after = (stroke.Width() - 1) / 2;
         rect = {rect.left - before, rect.top - before, rect.right + after, rect.bottom + after};
@@ -55,30 +55,16 @@ BOOL WINAPI Rectangle(HDC handle, int left, int top, int right, int bottom) {
         if (rect.left >= rect.right || rect.top >= rect.bottom) {
             return TRUE;
         }
-        if (!stroke.Dashed()) {
-            const int width = stroke.None() ? 0 : stroke.Width();
-            const RECT inner{rect.left + width, rect.top + width, rect.right - width, rect.bottom - width};
-            Region border(rect);
-            border.Subtract(inner);
-            const Ink brush = InkOf(*drawing, *drawing->state.brush);
-            if (!brush.none) {
-                Combine(*drawing, inner, kCopyPattern, &brush);
-            }
-            if (width > 0) {
-                Combine(*drawing, border, kCopyPattern, &stroke.PenInk());
-            }
-            return TRUE;
-        }
+        const int width = stroke.None() ? 0 : stroke.Width();
+        const RECT inner{rect.left + width, rect.top + width, rect.right - width, rect.bottom - width};
+        Region border(rect);
+        border.Subtract(inner);
         const Ink brush = InkOf(*drawing, *drawing->state.brush);
         if (!brush.none) {
-            Combine(*drawing, RECT{rect.left + 1, rect.top + 1, rect.right - 1, rect.bottom - 1}, kCopyPattern, &brush);
+            Combine(*drawing, inner, kCopyPattern, &brush);
         }
-        const POINT corners[4] = {{rect.right - 1, rect.top},
-                                  {rect.left, rect.top},
-                                  {rect.left, rect.bottom - 1},
-                                  {rect.right - 1, rect.bottom - 1}};
-        for (int i = 0; i < 4; ++i) {
-            stroke.Line(corners[i], corners[(i + 1) % 4]);
+        if (width > 0) {
+            Combine(*drawing, border, kCopyPattern, &stroke.PenInk());
         }
         return TRUE;
     });

@@ -60,7 +60,7 @@ void DrawInked(UINT state, Draw&& draw) {
 }
 
 UINT StyleFlags(UINT state) {
-    return (state & DFCS_FLAT ? BF_FLAT : 0u) | (state & DFCS_MONO ? BF_MONO : 0u);
+    return state & DFCS_FLAT ? BF_FLAT : 0u;
 }
 
 RECT PushFrame(SystemPainter& painter, const RECT& rect, UINT state) {
@@ -192,10 +192,6 @@ void Radio(SystemPainter& painter, const RECT& rect, UINT state) {
     const int side = static_cast<int>(kRadio.size());
     const int size = square.right - square.left;
     const int back = state & (DFCS_PUSHED | DFCS_INACTIVE) ? COLOR_BTNFACE : COLOR_WINDOW;
-    const bool mask = (state & DFCS_BUTTONRADIOMASK) != 0;
-    if (mask) {
-        painter.Fill(square, COLOR_BTNHIGHLIGHT);
-    }
     // Sizes between the multiples of the picture lie centred in what is left.
     const int scale = std::max(1, size / side);
     const int x = square.left + std::max(0, (size - side * scale) / 2);
@@ -222,11 +218,10 @@ void Radio(SystemPainter& painter, const RECT& rect, UINT state) {
                 default:
                     continue;
             }
-            painter.Fill(x + column * scale, y + row * scale, x + (column + 1) * scale, y + (row + 1) * scale,
-                         mask ? COLOR_WINDOWFRAME : colour);
+            painter.Fill(x + column * scale, y + row * scale, x + (column + 1) * scale, y + (row + 1) * scale, colour);
         }
     }
-    if (state & DFCS_CHECKED && !mask) {
+    if (state & DFCS_CHECKED) {
         DrawPicture(painter, kDot, x + 4 * scale, y + 4 * scale, scale,
                     state & DFCS_INACTIVE ? COLOR_BTNSHADOW : COLOR_WINDOWTEXT);
     }
@@ -234,45 +229,15 @@ void Radio(SystemPainter& painter, const RECT& rect, UINT state) {
 
 bool Button(SystemPainter& painter, RECT& rect, UINT state) {
     if (state & DFCS_BUTTONPUSH) {
-        const RECT inside = PushFrame(painter, rect, state);
-        if (state & DFCS_ADJUSTRECT) {
-            rect = inside;
-        }
+        PushFrame(painter, rect, state);
         return true;
     }
-    if (state & (DFCS_BUTTONRADIO | DFCS_BUTTONRADIOIMAGE | DFCS_BUTTONRADIOMASK)) {
+    if (state & DFCS_BUTTONRADIO) {
         Radio(painter, rect, state);
     } else {
         CheckBox(painter, rect, state);
     }
     return true;
-}
-
-bool Menu(SystemPainter& painter, RECT& rect, UINT state) {
-    painter.Fill(rect, COLOR_WINDOW);
-    const RECT square = CentredSquare(rect);
-    const int size = square.right - square.left;
-    switch (state & 0x00FF) {
-        case DFCS_MENUCHECK: {
-            const int scale = std::max(1, size / 13);
-            const int inset = (size - 7 * scale) / 2;
-            DrawPicture(painter, kCheck, square.left + inset, square.top + inset, scale, COLOR_MENUTEXT);
-            return true;
-        }
-        case DFCS_MENUBULLET: {
-            const int scale = std::max(1, size / 12);
-            const int inset = (size - 4 * scale) / 2;
-            DrawPicture(painter, kDot, square.left + inset, square.top + inset, scale, COLOR_MENUTEXT);
-            return true;
-        }
-        case DFCS_MENUARROW:
-        case DFCS_MENUARROWRIGHT:
-            DrawTriangle(painter, square, state & DFCS_MENUARROWRIGHT ? DFCS_SCROLLLEFT : DFCS_SCROLLRIGHT, 0,
-                         COLOR_MENUTEXT);
-            return true;
-        default:
-            return false;
-    }
 }
 
 }  // namespace
@@ -291,8 +256,6 @@ BOOL WINAPI DrawFrameControl(HDC handle, LPRECT rect, UINT type, UINT state) {
         switch (type) {
             case DFC_CAPTION:
                 return Caption(painter, *rect, state) ? TRUE : FALSE;
-            case DFC_MENU:
-                return Menu(painter, *rect, state) ? TRUE : FALSE;
             case DFC_SCROLL:
                 return Scroll(painter, *rect, state) ? TRUE : FALSE;
             case DFC_BUTTON:

@@ -1,6 +1,5 @@
 // Lines and single pixels.
 #include <algorithm>
-#include <array>
 #include <cstdlib>
 
 #include "gdi/shape/lines.h"
@@ -9,47 +8,11 @@
 
 namespace platform::gdi {
 
-namespace {
-
-struct Dashes {
-    std::array<std::uint8_t, 6> lengths;  ///< drawn, gap, drawn, gap ...
-    int count;
-};
-
-Dashes DashesOf(UINT style) {
-    switch (style) {
-        case PS_DASH:
-            return {{18, 6}, 2};
-        case PS_DOT:
-            return {{3, 3}, 2};
-        case PS_DASHDOT:
-            return {{9, 6, 3, 6}, 4};
-        default:
-            return {{9, 3, 3, 3, 3, 3}, 6};
-    }
-}
-
-}  // namespace
-
 Stroke::Stroke(DeviceContext& context) : context_(context) {
     const Pen& pen = *context.state.pen;
     none_ = pen.style == PS_NULL;
     width_ = std::max(pen.width, 1);
     ink_ = PlainInk(context, pen.colour);
-    // A dashed pen is one pixel wide, or it is solid.
-    if (width_ == 1 && pen.style >= PS_DASH && pen.style <= PS_DASHDOTDOT) {
-        const Dashes dashes = DashesOf(pen.style);
-        dashed_ = true;
-        gaps_ = context.state.backMode == OPAQUE;
-        gapInk_ = PlainInk(context, context.state.backColour);
-        int at = 0;
-        for (int i = 0; i < dashes.count; ++i) {
-            for (int n = 0; n < dashes.lengths[static_cast<std::size_t>(i)]; ++n) {
-                pattern_[static_cast<std::size_t>(at++)] = i % 2 == 0;
-            }
-        }
-        period_ = at;
-    }
 }
 
 void Stroke::Line(POINT from, POINT to) {
@@ -58,7 +21,7 @@ void Stroke::Line(POINT from, POINT to) {
     }
     if (width_ > 1) {
         Combine(context_, StrokeArea(from, to, width_), kCopyPattern, &ink_);
-    } else if (!dashed_ && (from.x == to.x || from.y == to.y)) {
+    } else if (from.x == to.x || from.y == to.y) {
         // The end point stays out, whichever end it is.
         RECT rect{std::min(from.x, to.x), std::min(from.y, to.y), std::max(from.x, to.x), std::max(from.y, to.y)};
         if (from.y == to.y) {
@@ -100,17 +63,10 @@ void Stroke::Thin(POINT from, POINT to) {
     POINT at = from;
     (flat ? at.x : at.y) += static_cast<LONG>(first * (flat ? stepX : stepY));
     (flat ? at.y : at.x) += static_cast<LONG>(aside * (flat ? stepY : stepX));
-    if (dashed_) {
-        phase_ = static_cast<int>((phase_ + first) % period_);
-    }
     for (std::int64_t i = first; i < last; ++i) {
         const bool inside = at.x >= bounds.left && at.x < bounds.right && at.y >= bounds.top && at.y < bounds.bottom;
-        const bool drawn = !dashed_ || pattern_[static_cast<std::size_t>(phase_)];
-        if (inside && (drawn || gaps_) && (simple || drawable.Contains(at))) {
-            WritePixel(context_.surface, at.x, at.y, drawn ? ink_.colour : gapInk_.colour);
-        }
-        if (dashed_ && ++phase_ == period_) {
-            phase_ = 0;
+        if (inside && (simple || drawable.Contains(at))) {
+            WritePixel(context_.surface, at.x, at.y, ink_.colour);
         }
         error -= minor;
         const bool both = error < 0;
@@ -124,9 +80,6 @@ void Stroke::Thin(POINT from, POINT to) {
             at.y += stepY;
             at.x += both ? stepX : 0;
         }
-    }
-    if (dashed_) {
-        phase_ = static_cast<int>((phase_ + major - last) % period_);
     }
     const RECT around{std::min(from.x, to.x), std::min(from.y, to.y), std::max(from.x, to.x) + 1,
                       std::max(from.y, to.y) + 1};

@@ -2,14 +2,11 @@
 /// Strokes with a context's pen.
 #pragma once
 
-#include <array>
-
 #include "gdi/context/raster.h"
 
 namespace platform::gdi {
 
-/// Draws connected lines with the pen and background of a context; dashes run on from line to line. A line
-/// excludes its end point.
+/// Draws lines with the pen of a context. A line excludes its end point.
 class Stroke {
   public:
     explicit Stroke(DeviceContext& context);
@@ -21,9 +18,6 @@ class Stroke {
     int Width() const {
         return width_;
     }
-    bool Dashed() const {
-        return dashed_;
-    }
     const Ink& PenInk() const {
         return ink_;
     }
@@ -33,14 +27,8 @@ class Stroke {
 
     DeviceContext& context_;
     Ink ink_;
-    Ink gapInk_;
     int width_ = 1;
     bool none_ = false;
-    bool dashed_ = false;
-    bool gaps_ = false;
-    std::array<bool, 32> pattern_{};
-    int period_ = 0;
-    int phase_ = 0;
 };
 
 }  // namespace platform::gdi

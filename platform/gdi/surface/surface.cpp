@@ -5,23 +5,6 @@
 
 namespace platform::gdi {
 
-namespace {
-
-/// A pixel of 16 bits as a colour: its bits are repeated, so that the largest value is the brightest.
-std::uint32_t ColourOf16(std::uint16_t value, bool sixGreen) {
-    const auto five = [](std::uint32_t bits) { return (bits & 31) << 3 | (bits & 31) >> 2; };
-    const std::uint32_t green = sixGreen ? (value >> 5 & 63u) << 2 | (value >> 5 & 63u) >> 4 : five(value >> 5);
-    return five(value >> (sixGreen ? 11 : 10)) << 16 | green << 8 | five(value);
-}
-
-std::uint16_t PixelOf16(std::uint32_t colour, bool sixGreen) {
-    const std::uint32_t high =
-        sixGreen ? (colour >> 8 & 0xF800) | (colour >> 5 & 0x07E0) : (colour >> 9 & 0x7C00) | (colour >> 6 & 0x03E0);
-    return static_cast<std::uint16_t>(high | (colour >> 3 & 0x001F));
-}
-
-}  // namespace
-
 std::uint32_t ReadPixel(const Surface& surface, int x, int y) {
     std::uint32_t value = 0;
     ReadRow(surface, x, y, 1, &value);
@@ -46,12 +29,6 @@ void ReadRow(const Surface& surface, int x, int y, int count, std::uint32_t* out
             row += static_cast<std::ptrdiff_t>(x) * 3;
             for (int i = 0; i < count; ++i, row += 3) {
                 out[i] = static_cast<std::uint32_t>(row[0] | row[1] << 8 | row[2] << 16);
-            }
-            break;
-        case 16:
-            row += static_cast<std::ptrdiff_t>(x) * 2;
-            for (int i = 0; i < count; ++i, row += 2) {
-                out[i] = ColourOf16(static_cast<std::uint16_t>(row[0] | row[1] << 8), surface.sixGreen);
             }
             break;
         case 8:
@@ -88,14 +65,6 @@ void WriteRow(const Surface& surface, int x, int y, int count, const std::uint32
                 row[0] = static_cast<unsigned char>(values[i]);
                 row[1] = static_cast<unsigned char>(values[i] >> 8);
                 row[2] = static_cast<unsigned char>(values[i] >> 16);
-            }
-            break;
-        case 16:
-            row += static_cast<std::ptrdiff_t>(x) * 2;
-            for (int i = 0; i < count; ++i, row += 2) {
-                const std::uint16_t value = PixelOf16(values[i], surface.sixGreen);
-                row[0] = static_cast<unsigned char>(value);
-                row[1] = static_cast<unsigned char>(value >> 8);
             }
             break;
         case 8:
@@ -146,9 +115,6 @@ int NearestIndex(const std::uint32_t* palette, int size, std::uint32_t pixel) {
 
 std::uint32_t NativeColour(const Surface& surface, std::uint32_t pixel) {
     pixel &= 0x00FFFFFF;
-    if (surface.bitsPerPixel == 16) {
-        return ColourOf16(PixelOf16(pixel, surface.sixGreen), surface.sixGreen);
-    }
     if (!surface.Indexed()) {
         return pixel;
     }

@@ -19,7 +19,6 @@ struct Surface {
     const std::uint32_t* palette = nullptr;  ///< colours of the indices
     int paletteSize = 0;
     bool monochrome = false;  ///< a device-dependent bitmap of one bit, which takes its colours from contexts
-    bool sixGreen = false;    ///< of 16 bits six are green's, else five of 15 are each colour's
 
     bool Indexed() const {
         return bitsPerPixel <= 8;

@@ -19,13 +19,13 @@ struct TextLine {
 
 class Layout {
   public:
-    Layout(HDC handle, DeviceContext& context, UINT format, int tabCharacters)
+    Layout(HDC handle, DeviceContext& context, UINT format)
         : handle_(handle), context_(context), font_(Realize(*context.state.font)), format_(format) {
-        tab_ = std::max(1, tabCharacters * font_.Metrics().averageWidth);
-        lineHeight_ = font_.Height() + (format & DT_EXTERNALLEADING ? font_.Metrics().externalLeading : 0);
+        constexpr int kTabCharacters = 8;
+        tab_ = std::max(1, kTabCharacters * font_.Metrics().averageWidth);
     }
     int LineHeight() const {
-        return lineHeight_;
+        return font_.Height();
     }
 
     /// Takes the next line off the text: up to a line break, or to the last blank before `limit` where words wrap.
@@ -101,53 +101,40 @@ class Layout {
 
     /// Cuts a line that is too long, and says so with dots.
     void Shorten(TextLine& line, int limit) const {
-        if (line.width <= limit || !(format_ & (DT_END_ELLIPSIS | DT_PATH_ELLIPSIS | DT_WORD_ELLIPSIS))) {
+        if (line.width <= limit || !(format_ & DT_END_ELLIPSIS)) {
             return;
         }
         static constexpr char kDots[] = "...";
-        const int dots = TextWidth(context_, kDots, 3);
-        const std::size_t slash = format_ & DT_PATH_ELLIPSIS ? line.text.rfind('\\') : std::string::npos;
-        if (slash != std::string::npos) {
-            const std::string tail = line.text.substr(slash);
-            const int room = limit - dots - Width(tail);
-            line.text = line.text.substr(0, room > 0 ? Fitting(line.text.substr(0, slash), room) : 0) + kDots + tail;
-            line.width = Width(line.text);
-        }
-        if (line.width > limit && format_ & (DT_END_ELLIPSIS | DT_WORD_ELLIPSIS)) {
-            // At least one character stays.
-            const std::size_t fitting = Fitting(line.text, limit - dots);
-            const std::size_t least =
-                std::min(line.text.size(),
-                         static_cast<std::size_t>(Bytes(line.text.data(), line.text.data() + line.text.size())));
-            line.text = line.text.substr(0, std::max(fitting, least)) + kDots;
-            line.width = Width(line.text);
-        }
+        // At least one character stays.
+        const std::size_t fitting = Fitting(line.text, limit - TextWidth(context_, kDots, 3));
+        const std::size_t least = std::min(
+            line.text.size(), static_cast<std::size_t>(Bytes(line.text.data(), line.text.data() + line.text.size())));
+        line.text = line.text.substr(0, std::max(fitting, least)) + kDots;
+        line.width = Width(line.text);
         if (line.underline >= static_cast<int>(line.text.size())) {
             line.underline = -1;
         }
     }
 
     void Draw(const TextLine& line, int x, int y, const RECT* clip) const {
-        if (!(format_ & DT_PREFIXONLY)) {
-            const char* at = line.text.data();
-            const char* end = at + line.text.size();
-            int offset = 0;
-            while (at < end) {
-                const char* stop = format_ & DT_EXPANDTABS ? std::find(at, end, '\t') : end;
-                if (stop > at) {
-                    const int length = static_cast<int>(stop - at);
-                    ExtTextOutA(handle_, x + offset, y, clip ? ETO_CLIPPED : 0, clip, at, static_cast<UINT>(length),
-                                nullptr);
-                    offset += TextWidth(context_, at, length);
-                }
-                at = stop;
-                if (at < end) {
-                    offset = (offset / tab_ + 1) * tab_;
-                    ++at;
-                }
+        const char* at = line.text.data();
+        const char* end = at + line.text.size();
+        int offset = 0;
+        while (at < end) {
+            const char* stop = format_ & DT_EXPANDTABS ? std::find(at, end, '\t') : end;
+            if (stop > at) {
+                const int length = static_cast<int>(stop - at);
+                ExtTextOutA(handle_, x + offset, y, clip ? ETO_CLIPPED : 0, clip, at, static_cast<UINT>(length),
+                            nullptr);
+                offset += TextWidth(context_, at, length);
+            }
+            at = stop;
+            if (at < end) {
+                offset = (offset / tab_ + 1) * tab_;
+                ++at;
             }
         }
-        if (line.underline >= 0 && !(format_ & DT_HIDEPREFIX)) {
+        if (line.underline >= 0) {
             Underline(line, x, y, clip);
         }
     }
@@ -210,12 +197,11 @@ class Layout {
     RealizedFont& font_;
     UINT format_;
     int tab_;
-    int lineHeight_;
 };
 
 /// @returns the height of what was drawn.
-int Run(HDC handle, DeviceContext& context, const char* text, int length, RECT& rect, UINT format, int tabCharacters) {
-    const Layout layout(handle, context, format, tabCharacters);
+int Run(HDC handle, DeviceContext& context, const char* text, int length, RECT& rect, UINT format) {
+    const Layout layout(handle, context, format);
     const bool measuring = format & DT_CALCRECT;
     const bool single = format & DT_SINGLELINE;
     const bool unclipped = (format & DT_NOCLIP) || measuring;
@@ -223,9 +209,7 @@ int Run(HDC handle, DeviceContext& context, const char* text, int length, RECT& 
     const char* at = text;
     const char* end = text + length;
     int y = rect.top;
-    if (single && !measuring && format & DT_BOTTOM) {
-        y = rect.bottom - layout.LineHeight();
-    } else if (single && !measuring && format & DT_VCENTER) {
+    if (single && !measuring && format & DT_VCENTER) {
         y = rect.top + (rect.bottom - rect.top - layout.LineHeight()) / 2;
     }
     const int first = y;
@@ -234,7 +218,7 @@ int Run(HDC handle, DeviceContext& context, const char* text, int length, RECT& 
         TextLine line = layout.Next(at, end, std::max(limit, 0));
         const bool last = line.next >= end;
         at = line.next;
-        if (last || format & DT_WORD_ELLIPSIS) {
+        if (last) {
             layout.Shorten(line, limit);
         }
         widest = std::max(widest, line.width);
@@ -260,7 +244,7 @@ int Run(HDC handle, DeviceContext& context, const char* text, int length, RECT& 
     if (measuring) {
         rect.right = rect.left + widest;
         rect.bottom = rect.top + y - first;
-    } else if (single && format & (DT_VCENTER | DT_BOTTOM)) {
+    } else if (single && format & DT_VCENTER) {
         return y - rect.top;
     }
     return y - first;
@@ -276,21 +260,15 @@ int WINAPI DrawTextA(HDC handle, LPCSTR text, int length, LPRECT rect, UINT form
     if (length == -1) {
         length = static_cast<int>(std::strlen(text));
     }
-    int tabCharacters = 8;
-    if (format & DT_TABSTOP) {
-        // The tab width travels in the second byte of the format, in the place of other flags.
-        tabCharacters = static_cast<int>(format >> 8 & 0xFF);
-        format &= ~0x0000FF00u;
-    }
     return Guarded(0, [&] {
         if (length == 0) {
-            const Layout layout(handle, *drawing, format, tabCharacters);
+            const Layout layout(handle, *drawing, format);
             if (format & DT_CALCRECT) {
                 rect->right = rect->left;
                 rect->bottom = rect->top + (format & DT_SINGLELINE ? layout.LineHeight() : 0);
             }
             return layout.LineHeight();
         }
-        return Run(handle, *drawing, text, length, *rect, format, tabCharacters);
+        return Run(handle, *drawing, text, length, *rect, format);
     });
 }

@@ -38,8 +38,6 @@ typedef struct tagWNDCLASSA {
 #define CS_VREDRAW 0x0001
 #define CS_HREDRAW 0x0002
 #define CS_DBLCLKS 0x0008
-#define CS_NOCLOSE 0x0200
-#define CS_SAVEBITS 0x0800
 #define CS_GLOBALCLASS 0x4000
 
 #define WC_DIALOG ((LPSTR)(ULONG_PTR)(WORD)(0x8002))

@@ -29,8 +29,6 @@
 #define VK_UP 0x26
 #define VK_RIGHT 0x27
 #define VK_DOWN 0x28
-#define VK_PRINT 0x2A
-#define VK_EXECUTE 0x2B
 #define VK_SNAPSHOT 0x2C
 #define VK_INSERT 0x2D
 #define VK_DELETE 0x2E
@@ -86,8 +84,6 @@
 #define VK_OEM_102 0xE2
 #define VK_PACKET 0xE7
 
-// High word of a key message's lParam
-
 // --- synthesised input
 
 typedef struct tagMOUSEINPUT {
@@ -118,12 +114,8 @@ typedef struct tagINPUT {
 #define INPUT_MOUSE 0
 #define INPUT_KEYBOARD 1
 
-#define KEYEVENTF_EXTENDEDKEY 0x0001
 #define KEYEVENTF_KEYUP 0x0002
-#define KEYEVENTF_UNICODE 0x0004
-#define KEYEVENTF_SCANCODE 0x0008
 
-#define MOUSEEVENTF_MOVE 0x0001
 #define MOUSEEVENTF_LEFTDOWN 0x0002
 #define MOUSEEVENTF_LEFTUP 0x0004
 #define MOUSEEVENTF_RIGHTDOWN 0x0008
@@ -131,16 +123,12 @@ typedef struct tagINPUT {
 #define MOUSEEVENTF_MIDDLEDOWN 0x0020
 #define MOUSEEVENTF_MIDDLEUP 0x0040
 #define MOUSEEVENTF_WHEEL 0x0800
-#define MOUSEEVENTF_ABSOLUTE 0x8000
 
 WINUSERAPI UINT WINAPI SendInput(UINT count, LPINPUT inputs, int size);
 
 // --- keyboard
 
 #define MAPVK_VK_TO_VSC 0
-#define MAPVK_VSC_TO_VK 1
-#define MAPVK_VK_TO_CHAR 2
-#define MAPVK_VSC_TO_VK_EX 3
 
 WINUSERAPI SHORT WINAPI GetKeyState(int key);
 WINUSERAPI SHORT WINAPI GetAsyncKeyState(int key);

@@ -1,10 +1,8 @@
 /// @file winuser/listbox.h
 /// The "listbox" class: a column (LBS_MULTICOLUMN: columns) of items, of which one or several can be selected.
 ///
-/// Items are texts, or with an owner-drawn style and without LBS_HASSTRINGS values that only the application understands: then
-/// LB_ADDSTRING and the searches take such a value where they otherwise take a text, and nothing is sorted. An owner-drawn list
-/// asks its parent for the height of its items (WM_MEASUREITEM, once while it is created) and to draw them (WM_DRAWITEM).
-/// WM_DELETEITEM tells of each item that goes.
+/// Items are texts: a list with an owner-drawn style has LBS_HASSTRINGS as well. It asks its parent for the height of its items
+/// (WM_MEASUREITEM, once while it is created) and to draw them (WM_DRAWITEM).
 ///
 /// Without a style of selection a click selects one item. LBS_MULTIPLESEL: a click or the space bar turns one item over.
 /// LBS_EXTENDEDSEL: a click selects one item, with Shift the range from the item clicked before, with Ctrl it turns one over;
@@ -28,16 +26,11 @@
 #define LBS_MULTICOLUMN 0x0200L
 #define LBS_WANTKEYBOARDINPUT 0x0400L
 #define LBS_EXTENDEDSEL 0x0800L
-#define LBS_STANDARD (LBS_NOTIFY | LBS_SORT | WS_VSCROLL | WS_BORDER)
 
 // --- notifications (WM_COMMAND)
 
-#define LBN_ERRSPACE (-2)
 #define LBN_SELCHANGE 1
 #define LBN_DBLCLK 2
-#define LBN_SELCANCEL 3
-#define LBN_SETFOCUS 4
-#define LBN_KILLFOCUS 5
 
 // --- results
 
@@ -49,7 +42,6 @@
 
 #define LB_ADDSTRING 0x0180
 #define LB_INSERTSTRING 0x0181
-#define LB_DELETESTRING 0x0182
 #define LB_RESETCONTENT 0x0184
 #define LB_SETSEL 0x0185
 #define LB_SETCURSEL 0x0186
@@ -58,7 +50,6 @@
 #define LB_GETTEXT 0x0189
 #define LB_GETTEXTLEN 0x018A
 #define LB_GETCOUNT 0x018B
-#define LB_SELECTSTRING 0x018C
 #define LB_GETTOPINDEX 0x018E
 #define LB_FINDSTRING 0x018F
 #define LB_GETSELCOUNT 0x0190
@@ -66,8 +57,6 @@
 #define LB_SETCOLUMNWIDTH 0x0195
 #define LB_SETTOPINDEX 0x0197
 #define LB_GETITEMRECT 0x0198
-#define LB_GETITEMDATA 0x0199
-#define LB_SETITEMDATA 0x019A
 #define LB_SELITEMRANGE 0x019B
 #define LB_SETANCHORINDEX 0x019C
 #define LB_SETCARETINDEX 0x019E

@@ -26,17 +26,10 @@ WINUSERAPI BOOL WINAPI GetUpdateRect(HWND window, LPRECT rect, BOOL erase);
 WINUSERAPI BOOL WINAPI UpdateWindow(HWND window);
 
 #define RDW_INVALIDATE 0x0001
-#define RDW_INTERNALPAINT 0x0002
 #define RDW_ERASE 0x0004
-#define RDW_VALIDATE 0x0008
-#define RDW_NOINTERNALPAINT 0x0010
-#define RDW_NOERASE 0x0020
-#define RDW_NOCHILDREN 0x0040
 #define RDW_ALLCHILDREN 0x0080
 #define RDW_UPDATENOW 0x0100
-#define RDW_ERASENOW 0x0200
 #define RDW_FRAME 0x0400
-#define RDW_NOFRAME 0x0800
 
 /// There are no region objects: `region` is null.
 WINUSERAPI BOOL WINAPI RedrawWindow(HWND window, const RECT* rect, HRGN region, UINT flags);

@@ -24,12 +24,10 @@ WINUSERAPI int WINAPI wvsprintfA(LPSTR target, LPCSTR format, va_list arguments)
 
 // --- resources
 
-#define RT_CURSOR MAKEINTRESOURCEA(1)
 #define RT_BITMAP MAKEINTRESOURCEA(2)
 #define RT_ICON MAKEINTRESOURCEA(3)
 #define RT_DIALOG MAKEINTRESOURCEA(5)
 #define RT_STRING MAKEINTRESOURCEA(6)
-#define RT_GROUP_CURSOR MAKEINTRESOURCEA(12)
 #define RT_GROUP_ICON MAKEINTRESOURCEA(14)
 
 /// Returns the length without the NUL, or 0 when there is no such string; size 0 gives 0.

@@ -79,9 +79,8 @@ LRESULT OnSetCheck(HWND button, ButtonData& data, WPARAM wParam) {
     const bool radio = IsRadioKind(kind);
     if (!radio && !IsCheckKind(kind))
         return 0;
-    const bool threeStates = kind == BS_3STATE || kind == BS_AUTO3STATE;
-    const UINT check =
-        wParam == 0 ? BST_UNCHECKED : (wParam >= BST_INDETERMINATE && threeStates ? BST_INDETERMINATE : BST_CHECKED);
+    const bool third = wParam >= BST_INDETERMINATE && kind == BS_AUTO3STATE;
+    const UINT check = wParam == 0 ? BST_UNCHECKED : (third ? BST_INDETERMINATE : BST_CHECKED);
     if (radio) {
         // Tab stops at the checked button of a group.
         const DWORD wanted = check ? style | WS_TABSTOP : style & ~DWORD{WS_TABSTOP};
@@ -129,9 +128,8 @@ void OnMouseMove(HWND button, const ButtonData& data, LPARAM lParam) {
 }
 
 void OnDoubleClick(HWND button, ButtonData& data) {
-    const DWORD style = ControlStyle(button);
-    const DWORD kind = ButtonKind(style);
-    if ((style & BS_NOTIFY) || kind == BS_OWNERDRAW || IsRadioKind(kind))
+    const DWORD kind = ButtonKind(ControlStyle(button));
+    if (kind == BS_OWNERDRAW || IsRadioKind(kind))
         NotifyParent(button, BN_DOUBLECLICKED);
     else
         OnButtonDown(button, data);
@@ -150,10 +148,9 @@ void OnKeyUp(HWND button, ButtonData& data, WPARAM key) {
         EndPress(button, data, key == VK_SPACE);
 }
 
-/// '+', '=' and '-' set the two kinds of check boxes that are no more than checked or not.
+/// '+', '=' and '-' set the check boxes that are no more than checked or not.
 bool IsCheckKey(DWORD kind, WPARAM character) {
-    return (kind == BS_CHECKBOX || kind == BS_AUTOCHECKBOX) &&
-           (character == '+' || character == '=' || character == '-');
+    return kind == BS_AUTOCHECKBOX && (character == '+' || character == '=' || character == '-');
 }
 
 void OnCharacter(HWND button, const ButtonData& data, WPARAM character) {
@@ -163,8 +160,7 @@ void OnCharacter(HWND button, const ButtonData& data, WPARAM character) {
     const UINT wanted = character == '-' ? BST_UNCHECKED : BST_CHECKED;
     if ((data.state & 3) == wanted)
         return;
-    if (kind == BS_AUTOCHECKBOX)
-        SendMessageA(button, BM_SETCHECK, wanted, 0);
+    SendMessageA(button, BM_SETCHECK, wanted, 0);
     NotifyParent(button, BN_CLICKED);
 }
 
@@ -173,8 +169,6 @@ void OnFocus(HWND button, ButtonData& data, bool has) {
     if (!has && data.press != Press::None)
         EndPress(button, data, false);
     Redraw(button, data, ODA_FOCUS);
-    if (ControlStyle(button) & BS_NOTIFY)
-        NotifyParent(button, has ? BN_SETFOCUS : BN_KILLFOCUS);
 }
 
 // --- the rest
@@ -187,7 +181,6 @@ LRESULT ButtonDialogCode(HWND button, LPARAM lParam) {
             return DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON;
         case BS_DEFPUSHBUTTON:
             return DLGC_BUTTON | DLGC_DEFPUSHBUTTON;
-        case BS_RADIOBUTTON:
         case BS_AUTORADIOBUTTON:
             return DLGC_BUTTON | DLGC_RADIOBUTTON;
         case BS_GROUPBOX:
@@ -206,17 +199,6 @@ void OnSetStyle(HWND button, const ButtonData& data, WPARAM wParam, LPARAM lPara
         SetWindowLongA(button, GWL_STYLE, static_cast<LONG>(wanted));
     if (LOWORD(lParam))
         RedrawAll(button, data);
-}
-
-void OnPaint(HWND button, const ButtonData& data, HDC given) {
-    if (given) {
-        PaintButton(button, data, given, ODA_DRAWENTIRE);
-        return;
-    }
-    PAINTSTRUCT paint{};
-    if (const HDC context = BeginPaint(button, &paint))
-        PaintButton(button, data, context, ODA_DRAWENTIRE);
-    EndPaint(button, &paint);
 }
 
 LRESULT OnButtonMessage(HWND button, ButtonData& data, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -296,8 +278,8 @@ LRESULT CALLBACK ButtonProcedure(HWND window, UINT message, WPARAM wParam, LPARA
         case WM_ERASEBKGND:
             return TRUE;
         case WM_PAINT:
-            OnPaint(window, *data, reinterpret_cast<HDC>(wParam));
-            return 0;
+            return PaintWith(window,
+                             [&](HDC context, const RECT&) { PaintButton(window, *data, context, ODA_DRAWENTIRE); });
         case WM_ENABLE:
             RedrawAll(window, *data);
             return 0;

@@ -9,7 +9,7 @@ namespace platform::user {
 struct ButtonData : ControlData {
     enum class Press { None, Mouse, Key };
 
-    UINT state = 0;             ///< BST_ bits, as BM_GETSTATE gives them
+    UINT state = 0;             ///< BST_ bits
     Press press = Press::None;  ///< what holds the button down (with the capture)
     HFONT font = nullptr;
 };
@@ -19,11 +19,11 @@ inline DWORD ButtonKind(DWORD style) {
 }
 
 inline bool IsCheckKind(DWORD kind) {
-    return kind == BS_CHECKBOX || kind == BS_AUTOCHECKBOX || kind == BS_3STATE || kind == BS_AUTO3STATE;
+    return kind == BS_AUTOCHECKBOX || kind == BS_AUTO3STATE;
 }
 
 inline bool IsRadioKind(DWORD kind) {
-    return kind == BS_RADIOBUTTON || kind == BS_AUTORADIOBUTTON;
+    return kind == BS_AUTORADIOBUTTON;
 }
 
 /// Draws the whole button; `action` is what an owner-drawn one's parent is told (ODA_).

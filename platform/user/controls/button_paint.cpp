@@ -39,20 +39,10 @@ struct ButtonPainter {
 };
 
 UINT TextFormat(const ButtonPainter& painter) {
-    UINT format = painter.style & BS_MULTILINE ? DT_WORDBREAK : DT_SINGLELINE;
-    switch (painter.style & BS_CENTER) {
-        case BS_LEFT:
-            return format | DT_LEFT;
-        case BS_RIGHT:
-            return format | DT_RIGHT;
-        case BS_CENTER:
-            return format | DT_CENTER;
-        default:
-            return format | (painter.LooksPush() ? DT_CENTER : DT_LEFT);
-    }
+    return DT_SINGLELINE | (painter.LooksPush() ? DT_CENTER : DT_LEFT);
 }
 
-/// @returns the rectangle that the text fills within an area, by the button's alignment.
+/// @returns the rectangle that the text fills within an area.
 RECT PlaceText(const ButtonPainter& painter, const RECT& area, UINT format) {
     RECT measured = area;
     DrawTextA(painter.context, painter.text.c_str(), static_cast<int>(painter.text.size()), &measured,
@@ -62,20 +52,9 @@ RECT PlaceText(const ButtonPainter& painter, const RECT& area, UINT format) {
     RECT place = area;
     if (format & DT_CENTER)
         place.left = area.left + std::max<int>(0, (area.right - area.left - width) / 2);
-    else if (format & DT_RIGHT)
-        place.left = std::max<int>(area.left, area.right - width);
     place.right = std::min<int>(area.right, place.left + width);
-    switch (painter.style & BS_VCENTER) {
-        case BS_TOP:
-            break;
-        case BS_BOTTOM:
-            place.top = area.bottom - height;
-            break;
-        default:
-            // Text that is too tall loses its last pixels, not its first.
-            place.top = area.top + (area.bottom - area.top - height) / 2;
-            break;
-    }
+    // Text that is too tall loses its last pixels, not its first.
+    place.top = area.top + (area.bottom - area.top - height) / 2;
     place.bottom = place.top + height;
     return place;
 }
@@ -149,22 +128,14 @@ UINT BoxState(const ButtonPainter& painter) {
 void PaintBox(const ButtonPainter& painter) {
     const HBRUSH brush = ControlBrush(painter.button, painter.context, WM_CTLCOLORSTATIC);
     FillRect(painter.context, &painter.client, brush);
-    const bool boxAtRight = painter.style & BS_LEFTTEXT;
     RECT area = painter.client;
-    if (boxAtRight)
-        area.right -= kBoxSize + kBoxGap;
-    else
-        area.left += kBoxSize + kBoxGap;
+    area.left += kBoxSize + kBoxGap;
     const UINT format = TextFormat(painter);
     RECT place = PlaceText(painter, area, format);
 
     RECT box = painter.client;
-    if (boxAtRight)
-        box.left = box.right - kBoxSize;
     box.right = box.left + kBoxSize;
-    const DWORD vertical = painter.style & BS_VCENTER;
-    const int height = painter.client.bottom - painter.client.top;
-    box.top += vertical == BS_TOP ? 0 : (vertical == BS_BOTTOM ? height - kBoxSize : (height - kBoxSize) / 2);
+    box.top += (painter.client.bottom - painter.client.top - kBoxSize) / 2;
     box.bottom = box.top + kBoxSize;
     DrawFrameControl(painter.context, &box, DFC_BUTTON, BoxState(painter));
 
@@ -196,11 +167,6 @@ void PaintGroup(const ButtonPainter& painter) {
     DrawTextA(painter.context, painter.text.c_str(), static_cast<int>(painter.text.size()), &measured,
               format | DT_CALCRECT);
     const int width = std::max<int>(0, std::min(measured.right - measured.left, area.right - area.left));
-    const DWORD alignment = painter.style & BS_CENTER;
-    if (alignment == BS_CENTER)
-        area.left = (area.left + area.right - width) / 2;
-    else if (alignment == BS_RIGHT)
-        area.left = area.right - width;
     area.right = area.left + width;
     area.bottom = area.top + metrics.tmHeight;
     RECT behind{area.left - kCaptionGap, area.top, area.right + kCaptionGap, area.bottom};

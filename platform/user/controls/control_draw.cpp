@@ -43,27 +43,14 @@ void DrawDisabledText(HDC context, const std::string& text, RECT rect, UINT form
     SetBkMode(context, mode);
 }
 
-void DrawCentredBitmap(HDC context, HBITMAP bitmap, const RECT& rect) {
-    BITMAP info{};
-    const HDC memory = bitmap && GetObjectA(bitmap, sizeof info, &info) ? CreateCompatibleDC(context) : nullptr;
-    if (!memory)
-        return;
-    const HGDIOBJ previous = SelectObject(memory, bitmap);
-    const int x = (rect.left + rect.right - info.bmWidth) / 2;
-    const int y = (rect.top + rect.bottom - info.bmHeight) / 2;
-    BitBlt(context, x, y, info.bmWidth, info.bmHeight, memory, 0, 0, SRCCOPY);
-    SelectObject(memory, previous);
-    DeleteDC(memory);
-}
-
 void RegisterDialogClasses() {
-    RegisterSystemClass("#32770", DialogProcedure, CS_SAVEBITS | CS_DBLCLKS, DLGWINDOWEXTRA, IDC_ARROW, nullptr);
+    RegisterSystemClass("#32770", DialogProcedure, CS_DBLCLKS, DLGWINDOWEXTRA, IDC_ARROW, nullptr);
     RegisterSystemClass("Button", ButtonProcedure, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 0, IDC_ARROW, nullptr);
     RegisterSystemClass("Edit", EditProcedure, CS_DBLCLKS, 0, IDC_IBEAM, nullptr);
     RegisterSystemClass("Static", StaticProcedure, CS_DBLCLKS, 0, IDC_ARROW, nullptr);
     RegisterSystemClass("ListBox", ListBoxProcedure, CS_DBLCLKS, 0, IDC_ARROW, nullptr);
     RegisterSystemClass("ComboBox", ComboBoxProcedure, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 0, IDC_ARROW, nullptr);
-    RegisterSystemClass("ComboLBox", ListBoxProcedure, CS_DBLCLKS | CS_SAVEBITS, 0, IDC_ARROW, nullptr);
+    RegisterSystemClass("ComboLBox", ListBoxProcedure, CS_DBLCLKS, 0, IDC_ARROW, nullptr);
     RegisterSystemClass("ScrollBar", ScrollBarProcedure, CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW, 0, IDC_ARROW, nullptr);
 }
 

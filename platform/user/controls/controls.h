@@ -55,6 +55,16 @@ inline DWORD ControlStyle(HWND control) {
     return static_cast<DWORD>(GetWindowLongA(control, GWL_STYLE));
 }
 
+/// WM_PAINT: `draw` gets the context, and what of the control is due.
+template <class Draw>
+LRESULT PaintWith(HWND control, const Draw& draw) {
+    PAINTSTRUCT paint{};
+    if (const HDC context = BeginPaint(control, &paint))
+        draw(context, paint.rcPaint);
+    EndPaint(control, &paint);
+    return 0;
+}
+
 /// WM_COMMAND to the parent.
 LRESULT NotifyParent(HWND control, UINT code);
 
@@ -66,8 +76,5 @@ std::string ControlText(HWND control);
 
 /// Text that is disabled looks embossed: a highlight one pixel below and to the right of the shadow.
 void DrawDisabledText(HDC context, const std::string& text, RECT rect, UINT format);
-
-/// Draws a bitmap in its own size, centred in a rectangle.
-void DrawCentredBitmap(HDC context, HBITMAP bitmap, const RECT& rect);
 
 }  // namespace platform::user

@@ -9,7 +9,6 @@ namespace {
 struct ScrollBarData : ControlData {
     std::shared_ptr<BarState> bar = std::make_shared<BarState>();
     bool keyHeld = false;
-    bool idle = false;  ///< disabled by SIF_DISABLENOSCROLL, until there is something to scroll
 
     ScrollBarData() {
         bar->high = 0;
@@ -40,16 +39,6 @@ void ShowFocus(HWND window) {
     CreateCaret(window, reinterpret_cast<HBITMAP>(1), place.right - place.left, place.bottom - place.top);
     SetCaretPos(place.left, place.top);
     ShowCaret(window);
-}
-
-// --- painting
-
-void OnPaint(HWND window) {
-    PAINTSTRUCT paint{};
-    const HDC context = BeginPaint(window, &paint);
-    if (context)
-        DrawBarControl(window, context);
-    EndPaint(window, &paint);
 }
 
 void Repaint(HWND window) {
@@ -105,16 +94,6 @@ void OnKey(HWND window, ScrollBarData& data, WPARAM key, bool down) {
 LRESULT Change(HWND window, ScrollBarData& data, const SCROLLINFO& info, bool redraw) {
     ApplyInfo(*data.bar, info);
     const int position = data.bar->position;
-    // What the application has disabled itself comes to life only where it says so.
-    const bool asked = (info.fMask & SIF_DISABLENOSCROLL) != 0;
-    if (asked || data.idle) {
-        const bool alive = CanScroll(*data.bar);
-        data.idle = !alive;
-        if (alive || asked) {
-            data.bar->disabled = !alive;
-            EnableWindow(window, alive);
-        }
-    }
     if (redraw)
         Repaint(window);
     return position;
@@ -159,10 +138,8 @@ LRESULT CALLBACK ScrollBarProcedure(HWND window, UINT message, WPARAM wParam, LP
         case WM_ERASEBKGND:
             return TRUE;
         case WM_PAINT:
-            OnPaint(window);
-            return 0;
+            return PaintWith(window, [&](HDC context, const RECT&) { DrawBarControl(window, context); });
         case WM_ENABLE:
-            data->idle = data->idle && !wParam;
             data->bar->disabled = !wParam;
             Repaint(window);
             return 0;

@@ -1,4 +1,4 @@
-// The "static" class: labels, rectangles, frames, etched lines and pictures.
+// The "static" class: labels and icons.
 #include "user/controls/static.h"
 
 namespace platform::user {
@@ -10,20 +10,9 @@ void RedrawStatic(HWND control) {
 
 namespace {
 
-void OnPaint(HWND control, const StaticData& data, HDC given) {
-    if (given) {
-        PaintStatic(control, data, given);
-        return;
-    }
-    PAINTSTRUCT paint{};
-    if (const HDC context = BeginPaint(control, &paint))
-        PaintStatic(control, data, context);
-    EndPaint(control, &paint);
-}
-
 LRESULT OnCreate(HWND control, StaticData& data, const CREATESTRUCTA* create) {
     if (create)
-        LoadStaticImage(control, data, create->hInstance, create->lpszName);
+        LoadStaticIcon(control, data, create->hInstance, create->lpszName);
     return 0;
 }
 
@@ -36,11 +25,6 @@ LRESULT OnSetText(HWND control, WPARAM wParam, LPARAM lParam) {
 void SinkEdge(HWND control) {
     if (ControlStyle(control) & SS_SUNKEN)
         SetWindowLongA(control, GWL_EXSTYLE, GetWindowLongA(control, GWL_EXSTYLE) | WS_EX_STATICEDGE);
-}
-
-void Notify(HWND control, UINT code) {
-    if (ControlStyle(control) & SS_NOTIFY)
-        NotifyParent(control, code);
 }
 
 }  // namespace
@@ -58,14 +42,12 @@ LRESULT CALLBACK StaticProcedure(HWND window, UINT message, WPARAM wParam, LPARA
         case WM_GETDLGCODE:
             return DLGC_STATIC;
         case WM_NCHITTEST:
-            return ControlStyle(window) & SS_NOTIFY ? HTCLIENT : HTTRANSPARENT;
+            return HTTRANSPARENT;
         case WM_ERASEBKGND:
             return TRUE;
         case WM_PAINT:
-            OnPaint(window, *data, reinterpret_cast<HDC>(wParam));
-            return 0;
+            return PaintWith(window, [&](HDC context, const RECT&) { PaintStatic(window, *data, context); });
         case WM_ENABLE:
-            Notify(window, wParam ? STN_ENABLE : STN_DISABLE);
             InvalidateRect(window, nullptr, TRUE);
             return 0;
         case WM_SETTEXT:
@@ -77,20 +59,10 @@ LRESULT CALLBACK StaticProcedure(HWND window, UINT message, WPARAM wParam, LPARA
             return 0;
         case WM_GETFONT:
             return reinterpret_cast<LRESULT>(data->font);
-        case WM_LBUTTONDOWN:
-            Notify(window, STN_CLICKED);
-            return 0;
-        case WM_LBUTTONDBLCLK:
-            Notify(window, STN_DBLCLK);
-            return 0;
-        case STM_SETIMAGE:
-            return SetStaticImage(window, *data, wParam, reinterpret_cast<HANDLE>(lParam));
-        case STM_GETIMAGE:
-            return GetStaticImage(window, *data, wParam);
         case STM_SETICON:
-            return SetStaticImage(window, *data, IMAGE_ICON, reinterpret_cast<HANDLE>(wParam));
+            return SetStaticIcon(window, *data, reinterpret_cast<HICON>(wParam));
         case STM_GETICON:
-            return GetStaticImage(window, *data, IMAGE_ICON);
+            return reinterpret_cast<LRESULT>(StaticKind(ControlStyle(window)) == SS_ICON ? data->icon : nullptr);
         case WM_SYSCOLORCHANGE:
             InvalidateRect(window, nullptr, TRUE);
             return 0;

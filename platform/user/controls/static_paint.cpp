@@ -1,4 +1,4 @@
-// How static controls look: text, filled and framed rectangles, etched lines, pictures.
+// How static controls look: text and icons.
 #include "user/controls/static.h"
 #include "user/resource/icons.h"
 
@@ -13,9 +13,6 @@ UINT TextFormat(DWORD style) {
             break;
         case SS_RIGHT:
             format |= DT_RIGHT | DT_EXPANDTABS | DT_WORDBREAK;
-            break;
-        case SS_SIMPLE:
-            format |= DT_SINGLELINE;
             break;
         case SS_LEFTNOWORDWRAP:
             format |= DT_EXPANDTABS;
@@ -55,15 +52,6 @@ struct StaticPainter {
             DrawTextA(context, text.c_str(), static_cast<int>(text.size()), &place, format);
     }
 
-    void Bitmap() const {
-        Erase();
-        BITMAP info{};
-        if (!data.bitmap || !GetObjectA(data.bitmap, sizeof info, &info))
-            return;
-        const RECT whole{0, 0, info.bmWidth, info.bmHeight};
-        DrawCentredBitmap(context, data.bitmap, style & SS_CENTERIMAGE ? client : whole);
-    }
-
     void Icon() const {
         Erase();
         const SIZE size = IconSize(data.icon);
@@ -91,45 +79,10 @@ struct StaticPainter {
         SendMessageA(parent, WM_DRAWITEM, item.CtlID, reinterpret_cast<LPARAM>(&item));
     }
 
-    void Edges(UINT sides) const {
-        RECT place = client;
-        DrawEdge(context, &place, EDGE_ETCHED, sides);
-    }
-
     void Paint() const {
         switch (StaticKind(style)) {
-            case SS_BLACKRECT:
-                FillRect(context, &client, GetSysColorBrush(COLOR_3DDKSHADOW));
-                break;
-            case SS_GRAYRECT:
-                FillRect(context, &client, GetSysColorBrush(COLOR_3DSHADOW));
-                break;
-            case SS_WHITERECT:
-                FillRect(context, &client, GetSysColorBrush(COLOR_3DHIGHLIGHT));
-                break;
-            case SS_BLACKFRAME:
-                FrameRect(context, &client, GetSysColorBrush(COLOR_3DDKSHADOW));
-                break;
-            case SS_GRAYFRAME:
-                FrameRect(context, &client, GetSysColorBrush(COLOR_3DSHADOW));
-                break;
-            case SS_WHITEFRAME:
-                FrameRect(context, &client, GetSysColorBrush(COLOR_3DHIGHLIGHT));
-                break;
-            case SS_ETCHEDHORZ:
-                Edges(BF_TOP | BF_BOTTOM);
-                break;
-            case SS_ETCHEDVERT:
-                Edges(BF_LEFT | BF_RIGHT);
-                break;
-            case SS_ETCHEDFRAME:
-                Edges(BF_RECT);
-                break;
             case SS_OWNERDRAW:
                 AskOwner();
-                break;
-            case SS_BITMAP:
-                Bitmap();
                 break;
             case SS_ICON:
                 Icon();

@@ -4,10 +4,9 @@
 
 #include <windows.h>
 
-namespace platform::user {
+#include "user/message/queue.h"
 
-struct SentMessage;
-using Errand = void (*)(const SentMessage& sent);
+namespace platform::user {
 
 /// Hands an errand to the thread of a window, which gets the window and the two values; the window may be gone when it is run. Any
 /// thread; does not wait.

@@ -14,32 +14,12 @@
 
 using namespace platform::user;
 
-namespace {
-
-int Width(const RECT& rect) {
-    return rect.right - rect.left;
-}
-
-int Height(const RECT& rect) {
-    return rect.bottom - rect.top;
-}
-
-}  // namespace
-
 int WINAPI GetSystemMetrics(int index) {
     switch (index) {
         case SM_CXSCREEN:
             return platform::gdi::Screen().width;
         case SM_CYSCREEN:
             return platform::gdi::Screen().height;
-        case SM_CXMAXIMIZED:
-            return Width(WorkArea()) + 2 * GetSystemMetrics(SM_CXSIZEFRAME);
-        case SM_CYMAXIMIZED:
-            return Height(WorkArea()) + 2 * GetSystemMetrics(SM_CYSIZEFRAME);
-        case SM_CXMAXTRACK:
-            return platform::gdi::Screen().width + 12;
-        case SM_CYMAXTRACK:
-            return platform::gdi::Screen().height + 12;
         case SM_CXBORDER:
         case SM_CYBORDER:
             return 1;
@@ -57,9 +37,6 @@ int WINAPI GetSystemMetrics(int index) {
         case SM_CYCAPTION:
         case SM_CYMENU:
             return 19;  // one pixel more than the bar itself: the line below it
-        case SM_CXMENUSIZE:
-        case SM_CYMENUSIZE:
-            return 18;
         case SM_CYSMCAPTION:
             return 16;
         case SM_CXVSCROLL:
@@ -71,20 +48,7 @@ int WINAPI GetSystemMetrics(int index) {
             return 16;
         case SM_CXICON:
         case SM_CYICON:
-        case SM_CXCURSOR:
-        case SM_CYCURSOR:
             return 32;
-        case SM_CXMINTRACK:
-            return 112;
-        case SM_CYMINTRACK:
-            return 27;
-        case SM_CXMENUCHECK:
-        case SM_CYMENUCHECK:
-            return 13;
-        case SM_CXMINIMIZED:
-            return 160;
-        case SM_CYMINIMIZED:
-            return 24;
         default:
             return 0;
     }
@@ -124,14 +88,8 @@ BOOL WINAPI SystemParametersInfoA(UINT action, UINT, PVOID data, UINT) {
         return FALSE;
     }
     switch (action) {
-        case SPI_GETWHEELSCROLLLINES:
-            *static_cast<UINT*>(data) = 3;
-            return TRUE;
         case SPI_GETWORKAREA:
             *static_cast<RECT*>(data) = WorkArea();
-            return TRUE;
-        case SPI_GETICONTITLELOGFONT:
-            *static_cast<LOGFONTA*>(data) = DialogFont(FW_NORMAL);
             return TRUE;
         case SPI_GETNONCLIENTMETRICS:
             return NonClientMetrics(static_cast<NONCLIENTMETRICSA*>(data));
@@ -145,7 +103,7 @@ namespace {
 
 /// New system colours: every top-level window hears of it, and everything is drawn anew.
 void OnColoursChanged() {
-    BroadcastSetting(WM_SYSCOLORCHANGE, 0, 0);
+    SendMessageTimeoutA(HWND_BROADCAST, WM_SYSCOLORCHANGE, 0, 0, SMTO_ABORTIFHUNG, 1000, nullptr);
     RedrawWindow(nullptr, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 

@@ -68,16 +68,6 @@ bool Unpainted(const Window* window) {
     return false;
 }
 
-HICON IconOf(const Window* window) {
-    const WindowClass& kind = *window->windowClass;
-    for (HICON icon : {window->bigIcon, kind.icon, window->smallIcon}) {
-        if (icon != nullptr) {
-            return icon;
-        }
-    }
-    return nullptr;
-}
-
 display::Pane Describe(const Window* window) {
     const RECT& rect = window->windowRect;
     display::Pane pane;
@@ -94,7 +84,7 @@ display::Pane Describe(const Window* window) {
     pane.painted = window->thread == nullptr || window->thread->paintWindows == 0 || !Unpainted(window);
     if (!pane.popup) {
         pane.title = kernel::Utf8FromAnsi(window->text);
-        pane.icon = reinterpret_cast<std::uintptr_t>(IconOf(window));
+        pane.icon = reinterpret_cast<std::uintptr_t>(window->windowClass->icon);
     }
     return pane;
 }

@@ -6,7 +6,7 @@
 #include "user/desktop/errand.h"
 #include "user/message/queue.h"
 #include "user/painting/painting.h"
-#include "user/window/above.h"
+#include "user/window/position.h"
 
 namespace platform::user {
 namespace {
@@ -58,7 +58,7 @@ void FollowRoom(const SentMessage& sent) {
     SendMessageA(handle, WM_DISPLAYCHANGE, 32, MAKELPARAM(screen.right, screen.bottom));
     SendMessageA(handle, WM_SETTINGCHANGE, SPI_SETWORKAREA, 0);
     RECT rect{};
-    bool zoomed = false;
+    RECT zoomed{};
     bool lost = false;
     {
         UserGuard guard(UserLock());
@@ -67,20 +67,20 @@ void FollowRoom(const SentMessage& sent) {
             return;
         }
         const bool iconic = (window->style & WS_MINIMIZE) != 0;
-        zoomed = (window->style & WS_MAXIMIZE) != 0 && (window->style & WS_VISIBLE) != 0;
+        if ((window->style & WS_MAXIMIZE) != 0 && (window->style & WS_VISIBLE) != 0) {
+            zoomed = MaximisedPlace(window);
+        }
         rect = window->windowRect;
         lost = !InReach(rect, screen) && !IsRectEmpty(&rect);
-        if ((iconic || zoomed) && !InReach(window->restoredRect, screen)) {
+        if ((iconic || gdi::Holds(zoomed)) && !InReach(window->restoredRect, screen)) {
             window->restoredRect = BroughtInto(window->restoredRect, WorkArea());
         }
     }
-    const RECT work = WorkArea();
-    if (zoomed) {
-        const MINMAXINFO limits = QueryMinMax(handle);
-        SetWindowPos(handle, nullptr, work.left + limits.ptMaxPosition.x, work.top + limits.ptMaxPosition.y,
-                     limits.ptMaxSize.x, limits.ptMaxSize.y, SWP_NOZORDER | SWP_NOACTIVATE);
+    if (gdi::Holds(zoomed)) {
+        SetWindowPos(handle, nullptr, zoomed.left, zoomed.top, zoomed.right - zoomed.left, zoomed.bottom - zoomed.top,
+                     SWP_NOZORDER | SWP_NOACTIVATE);
     } else if (lost) {
-        rect = BroughtInto(rect, work);
+        rect = BroughtInto(rect, WorkArea());
         SetWindowPos(handle, nullptr, rect.left, rect.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     }
 }

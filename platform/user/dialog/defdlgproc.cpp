@@ -86,23 +86,6 @@ void NextControl(HWND dialog, WPARAM wParam, LPARAM lParam) {
         FocusNext(dialog, wParam != 0);
 }
 
-/// Brings a dialog back into the work area.
-void Reposition(HWND dialog) {
-    RECT area{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
-    SystemParametersInfoA(SPI_GETWORKAREA, 0, &area, 0);
-    RECT rect{};
-    if ((GetWindowLongA(dialog, GWL_STYLE) & WS_CHILD) || !GetWindowRect(dialog, &rect))
-        return;
-    const int width = rect.right - rect.left;
-    const int height = rect.bottom - rect.top;
-    int x = rect.left + width > area.right ? area.right - width : rect.left;
-    int y = rect.top + height > area.bottom ? area.bottom - height : rect.top;
-    x = x < area.left ? area.left : x;
-    y = y < area.top ? area.top : y;
-    if (x != rect.left || y != rect.top)
-        SetWindowPos(dialog, nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
 void Close(HWND dialog) {
     const HWND cancel = GetDlgItem(dialog, IDCANCEL);
     if (cancel && !IsWindowEnabled(cancel))
@@ -132,9 +115,6 @@ LRESULT DefaultAnswer(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam, D
         case DM_GETDEFID:
             return state.hasDefault ? static_cast<LRESULT>(static_cast<DWORD>(MAKELONG(state.defaultId, DC_HASDEFID)))
                                     : 0;
-        case DM_REPOSITION:
-            Reposition(dialog);
-            return 0;
         case WM_NEXTDLGCTL:
             NextControl(dialog, wParam, lParam);
             return 0;

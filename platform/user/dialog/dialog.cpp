@@ -16,12 +16,10 @@ DialogState::~DialogState() {
 std::shared_ptr<DialogState> FindDialogState(HWND dialog) {
     const UserGuard guard(UserLock());
     const Window* window = FindWindowObject(dialog);
-    return window && window->dialog && !window->dialog->keysOnly ? window->dialog : nullptr;
+    return window ? window->dialog : nullptr;
 }
 
-namespace {
-
-std::shared_ptr<DialogState> NeedState(HWND handle, bool keysOnly) {
+std::shared_ptr<DialogState> NeedDialogState(HWND handle) {
     const UserGuard guard(UserLock());
     Window* window = FindWindowObject(handle);
     if (!window)
@@ -29,15 +27,14 @@ std::shared_ptr<DialogState> NeedState(HWND handle, bool keysOnly) {
     if (!window->dialog && !window->destroying) {
         try {
             window->dialog = std::make_shared<DialogState>();
-            window->dialog->keysOnly = keysOnly;
         } catch (const std::bad_alloc&) {
             SetLastError(ERROR_NOT_ENOUGH_MEMORY);
         }
     }
-    if (window->dialog && !keysOnly)
-        window->dialog->keysOnly = false;
     return window->dialog;
 }
+
+namespace {
 
 /// The owner is enabled before the dialog goes, so that activation falls to it and not to another application's window.
 void ReleaseOwner(DialogState& state) {
@@ -130,19 +127,8 @@ HWND TopLevelOf(HWND owner) {
 
 }  // namespace
 
-std::shared_ptr<DialogState> NeedDialogState(HWND dialog) {
-    return NeedState(dialog, false);
-}
-
-std::shared_ptr<DialogState> NeedKeyState(HWND window) {
-    return NeedState(window, true);
-}
-
 void ShowDialog(HWND dialog) {
-    const bool toForeground = (GetWindowLongA(dialog, GWL_STYLE) & DS_SETFOREGROUND) != 0;
     ShowWindow(dialog, SW_SHOWNORMAL);
-    if (toForeground)
-        SetForegroundWindow(dialog);
     if (IsWindow(dialog))
         UpdateWindow(dialog);
 }
@@ -184,79 +170,60 @@ using namespace platform::user;
 
 namespace {
 
-/// Memory that ran out: nothing is left behind, the caller gets the neutral result.
-template <class Action, class Result>
-Result Guarded(const Action& action, Result neutral) {
-    try {
-        return action();
-    } catch (const std::bad_alloc&) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+/// Reads a template of a module, or one in memory where there is one, and goes on with it. Where memory runs out nothing is left
+/// behind, and the caller gets the neutral result.
+template <class Result, class Action>
+Result WithTemplate(HINSTANCE instance, LPCSTR name, LPCDLGTEMPLATEA memory, Result neutral, const Action& action) try {
+    DialogTemplate parsed;
+    if (name) {
+        return LoadDialogTemplate(instance, name, parsed) ? action(parsed) : neutral;
+    }
+    if (!ParseDialogTemplate(memory, kLargestTemplate, parsed)) {
+        SetLastError(ERROR_INVALID_PARAMETER);
         return neutral;
     }
+    return action(parsed);
+} catch (const std::bad_alloc&) {
+    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+    return neutral;
 }
 
-bool ReadTemplateInMemory(LPCDLGTEMPLATEA memory, DialogTemplate& parsed) {
-    if (ParseDialogTemplate(memory, kLargestTemplate, parsed))
-        return true;
-    SetLastError(ERROR_INVALID_PARAMETER);
-    return false;
+HWND Create(HINSTANCE instance, LPCSTR name, LPCDLGTEMPLATEA memory, HWND owner, DLGPROC procedure, LPARAM initParam) {
+    if (owner && !IsWindow(owner)) {
+        SetLastError(ERROR_INVALID_WINDOW_HANDLE);
+        return nullptr;
+    }
+    return WithTemplate(instance, name, memory, HWND{}, [&](const DialogTemplate& parsed) {
+        return CreateDialogFromTemplate(instance, parsed, owner, procedure, initParam, false, nullptr);
+    });
 }
 
-bool CheckOwner(HWND owner) {
-    if (!owner || IsWindow(owner))
-        return true;
-    SetLastError(ERROR_INVALID_WINDOW_HANDLE);
-    return false;
+INT_PTR Run(HINSTANCE instance, LPCSTR name, LPCDLGTEMPLATEA memory, HWND owner, DLGPROC procedure, LPARAM initParam) {
+    return WithTemplate(instance, name, memory, INT_PTR{-1}, [&](const DialogTemplate& parsed) {
+        return RunDialog(instance, parsed, owner, procedure, initParam);
+    });
 }
 
 }  // namespace
 
 WINUSERAPI HWND WINAPI CreateDialogParamA(HINSTANCE instance, LPCSTR templateName, HWND owner, DLGPROC procedure,
                                           LPARAM initParam) {
-    return Guarded(
-        [&]() -> HWND {
-            DialogTemplate parsed;
-            if (!CheckOwner(owner) || !LoadDialogTemplate(instance, templateName, parsed))
-                return nullptr;
-            return CreateDialogFromTemplate(instance, parsed, owner, procedure, initParam, false, nullptr);
-        },
-        HWND{});
+    return Create(instance, templateName, nullptr, owner, procedure, initParam);
 }
 
 WINUSERAPI HWND WINAPI CreateDialogIndirectParamA(HINSTANCE instance, LPCDLGTEMPLATEA dialogTemplate, HWND owner,
                                                   DLGPROC procedure, LPARAM initParam) {
-    return Guarded(
-        [&]() -> HWND {
-            DialogTemplate parsed;
-            if (!CheckOwner(owner) || !ReadTemplateInMemory(dialogTemplate, parsed))
-                return nullptr;
-            return CreateDialogFromTemplate(instance, parsed, owner, procedure, initParam, false, nullptr);
-        },
-        HWND{});
+    return Create(instance, nullptr, dialogTemplate, owner, procedure, initParam);
 }
 
 WINUSERAPI INT_PTR WINAPI DialogBoxParamA(HINSTANCE instance, LPCSTR templateName, HWND owner, DLGPROC procedure,
                                           LPARAM initParam) {
-    return Guarded(
-        [&]() -> INT_PTR {
-            DialogTemplate parsed;
-            if (!LoadDialogTemplate(instance, templateName, parsed))
-                return -1;
-            return RunDialog(instance, parsed, owner, procedure, initParam);
-        },
-        INT_PTR{-1});
+    return Run(instance, templateName, nullptr, owner, procedure, initParam);
 }
 
 WINUSERAPI INT_PTR WINAPI DialogBoxIndirectParamA(HINSTANCE instance, LPCDLGTEMPLATEA dialogTemplate, HWND owner,
                                                   DLGPROC procedure, LPARAM initParam) {
-    return Guarded(
-        [&]() -> INT_PTR {
-            DialogTemplate parsed;
-            if (!ReadTemplateInMemory(dialogTemplate, parsed))
-                return -1;
-            return RunDialog(instance, parsed, owner, procedure, initParam);
-        },
-        INT_PTR{-1});
+    return Run(instance, nullptr, dialogTemplate, owner, procedure, initParam);
 }
 
 WINUSERAPI BOOL WINAPI EndDialog(HWND dialog, INT_PTR result) {

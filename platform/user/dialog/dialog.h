@@ -21,15 +21,12 @@ struct DialogItem {
     int id = 0;
     std::string className;
     std::string text;
-    std::vector<BYTE> creationData;  ///< as WM_CREATE's lpCreateParams gets it; empty for none
 };
 
 struct DialogTemplate {
     DWORD style = 0;
     DWORD exStyle = 0;
     short x = 0, y = 0, width = 0, height = 0;
-    std::string className;  ///< empty: the dialog class
-    ATOM classAtom = 0;     ///< when the class is given by number
     std::string title;
     bool hasFont = false;
     int pointSize = 0;
@@ -64,9 +61,6 @@ struct DialogState {
     INT_PTR result = 0;
     HWND disabledOwner = nullptr;  ///< to be enabled again when the dialog ends
 
-    bool keysOnly = false;        ///< of a plain window, which has a state only because IsDialogMessageA serves it
-    HWND firstDefault = nullptr;  ///< of a plain window: the button that wore the default outline first
-
     DialogState() = default;
     DialogState(const DialogState&) = delete;
     DialogState& operator=(const DialogState&) = delete;
@@ -77,8 +71,6 @@ struct DialogState {
 std::shared_ptr<DialogState> FindDialogState(HWND dialog);
 /// The same, made when missing; null when the window is dead or memory has run out.
 std::shared_ptr<DialogState> NeedDialogState(HWND dialog);
-/// The state of a dialog, or of a plain window that is treated as one; made when missing.
-std::shared_ptr<DialogState> NeedKeyState(HWND window);
 
 /// Shows a dialog that is done with WM_INITDIALOG. It may be gone afterwards.
 void ShowDialog(HWND dialog);
@@ -108,9 +100,6 @@ void FocusNext(HWND dialog, bool previous);
 /// The focus goes from one control to another: the push button with the focus, else the dialog's own default button,
 /// wears the default outline.
 void MoveDefaultButton(HWND dialog, HWND newFocus);
-
-/// @returns the button that wears the default outline, null for none.
-HWND OutlinedButton(HWND dialog);
 
 /// DM_SETDEFID: files the new default button and moves the outline to it.
 void SetDefaultId(HWND dialog, int id);

@@ -41,15 +41,9 @@ DWORD WindowExStyle(const DialogTemplate& dialogTemplate) {
         exStyle |= WS_EX_DLGMODALFRAME;
     if (dialogTemplate.style & DS_CONTROL)
         exStyle |= WS_EX_CONTROLPARENT;
-    if (dialogTemplate.style & DS_SYSMODAL)
-        exStyle |= WS_EX_TOPMOST;
     if (dialogTemplate.style & DS_CONTEXTHELP)
         exStyle |= WS_EX_CONTEXTHELP;
     return exStyle;
-}
-
-POINT CentreOn(POINT centre, int width, int height) {
-    return {centre.x - width / 2, centre.y - height / 2};
 }
 
 /// Where the dialog's window goes. Top-level dialogs are kept within the work area as far as they fit.
@@ -59,12 +53,8 @@ POINT PlaceDialog(const DialogTemplate& dialogTemplate, HWND owner, DWORD style,
     POINT place{MulDiv(dialogTemplate.x, baseX, 4), MulDiv(dialogTemplate.y, baseY, 8)};
     const bool child = (style & WS_CHILD) != 0;
     if (dialogTemplate.style & DS_CENTER) {
-        place = CentreOn({(area.left + area.right) / 2, (area.top + area.bottom) / 2}, width, height);
-    } else if (dialogTemplate.style & DS_CENTERMOUSE) {
-        POINT cursor{};
-        GetCursorPos(&cursor);
-        place = CentreOn(cursor, width, height);
-    } else if (owner && !child && !(dialogTemplate.style & DS_ABSALIGN)) {
+        place = {(area.left + area.right) / 2 - width / 2, (area.top + area.bottom) / 2 - height / 2};
+    } else if (owner && !child) {
         ClientToScreen(owner, &place);
     }
     if (child)
@@ -76,7 +66,7 @@ POINT PlaceDialog(const DialogTemplate& dialogTemplate, HWND owner, DWORD style,
 
 HWND CreateItem(HWND dialog, HINSTANCE instance, const DialogItem& item, int baseX, int baseY) {
     DWORD style = (item.style & ~DWORD{WS_POPUP}) | WS_CHILD;
-    DWORD exStyle = item.exStyle | WS_EX_NOPARENTNOTIFY;
+    DWORD exStyle = item.exStyle;
     // Dialogs look three-dimensional: a control's border is a sunken edge.
     if ((style & WS_CAPTION) == WS_BORDER) {
         style &= ~DWORD{WS_BORDER};
@@ -84,22 +74,16 @@ HWND CreateItem(HWND dialog, HINSTANCE instance, const DialogItem& item, int bas
     }
     return CreateWindowExA(exStyle, item.className.c_str(), item.text.c_str(), style, MulDiv(item.x, baseX, 4),
                            MulDiv(item.y, baseY, 8), MulDiv(item.width, baseX, 4), MulDiv(item.height, baseY, 8),
-                           dialog, reinterpret_cast<HMENU>(static_cast<LONG_PTR>(item.id)), instance,
-                           item.creationData.empty() ? nullptr : const_cast<BYTE*>(item.creationData.data()));
+                           dialog, reinterpret_cast<HMENU>(static_cast<LONG_PTR>(item.id)), instance, nullptr);
 }
 
-/// @returns false when a control could not be made and the template does not put up with that.
+/// @returns false when a control could not be made.
 bool CreateItems(HWND dialog, HINSTANCE instance, const DialogTemplate& dialogTemplate, DialogState& state) {
     HWND defaultButton = nullptr;
     for (const DialogItem& item : dialogTemplate.items) {
         const HWND control = CreateItem(dialog, instance, item, state.baseX, state.baseY);
-        if (!IsWindow(dialog))
+        if (!control || !IsWindow(dialog))
             return false;
-        if (!control) {
-            if (dialogTemplate.style & DS_NOFAILCREATE)
-                continue;
-            return false;
-        }
         if (state.ownFont)
             SendMessageA(control, WM_SETFONT, reinterpret_cast<WPARAM>(state.ownFont), FALSE);
         if (DialogCode(control) & DLGC_DEFPUSHBUTTON) {
@@ -120,16 +104,8 @@ HWND CreateFrame(HINSTANCE instance, const DialogTemplate& dialogTemplate, HWND 
     AdjustWindowRectEx(&rect, style, FALSE, exStyle);
     const int width = rect.right - rect.left;
     const int height = rect.bottom - rect.top;
-    POINT place = PlaceDialog(dialogTemplate, owner, style, baseX, baseY, width, height);
-    if (dialogTemplate.x == static_cast<short>(0x8000) && !(dialogTemplate.style & (DS_CENTER | DS_CENTERMOUSE)))
-        place = {CW_USEDEFAULT, 0};
-
-    LPCSTR className = WC_DIALOG;
-    if (dialogTemplate.classAtom)
-        className = MAKEINTATOM(dialogTemplate.classAtom);
-    else if (!dialogTemplate.className.empty())
-        className = dialogTemplate.className.c_str();
-    return CreateWindowExA(exStyle, className, dialogTemplate.title.c_str(), style, place.x, place.y, width, height,
+    const POINT place = PlaceDialog(dialogTemplate, owner, style, baseX, baseY, width, height);
+    return CreateWindowExA(exStyle, WC_DIALOG, dialogTemplate.title.c_str(), style, place.x, place.y, width, height,
                            owner, nullptr, instance, nullptr);
 }
 

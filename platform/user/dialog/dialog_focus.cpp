@@ -39,27 +39,13 @@ UINT DialogCode(HWND control) {
     return static_cast<UINT>(SendMessageA(control, WM_GETDLGCODE, 0, 0));
 }
 
-HWND OutlinedButton(HWND dialog) {
-    HWND found = nullptr;
-    ForEachControl(dialog, [&](HWND control) {
-        if (!found && (DialogCode(control) & DLGC_DEFPUSHBUTTON))
-            found = control;
-    });
-    return found;
-}
-
 void MoveDefaultButton(HWND dialog, HWND newFocus) {
-    const auto state = NeedKeyState(dialog);
+    const auto state = FindDialogState(dialog);
     if (!state)
         return;
-    // A plain window has no DM_SETDEFID: the button that it was made with is its own.
-    if (state->keysOnly && !state->firstDefault)
-        state->firstDefault = OutlinedButton(dialog);
     HWND target = nullptr;
     if (newFocus && newFocus != dialog && (DialogCode(newFocus) & kPushButton))
         target = newFocus;
-    else if (state->keysOnly)
-        target = IsChild(dialog, state->firstDefault) ? state->firstDefault : nullptr;
     else if (state->hasDefault)
         target = FindControl(dialog, state->defaultId);
 

@@ -10,6 +10,10 @@ namespace {
 struct Stop {
     HWND window;
     bool eligible;
+
+    bool operator==(HWND other) const {
+        return window == other;
+    }
 };
 
 DWORD StyleOfItem(HWND window) {
@@ -36,13 +40,13 @@ void CollectStops(HWND parent, std::vector<Stop>& stops) {
 
 constexpr size_t kNowhere = static_cast<size_t>(-1);
 
-/// Where a control stands among the stops; a part of a control (the edit field of a combo box) stands where it does.
-size_t PlaceOf(HWND dialog, HWND control, const std::vector<Stop>& stops) {
+/// Where a control stands in a list of them; a part of a control (the edit field of a combo box) stands where it does.
+template <class List>
+size_t PlaceOf(HWND dialog, HWND control, const List& list) {
     for (; control && control != dialog; control = GetParent(control)) {
-        for (size_t index = 0; index < stops.size(); ++index) {
-            if (stops[index].window == control)
-                return index;
-        }
+        const auto found = std::find(list.begin(), list.end(), control);
+        if (found != list.end())
+            return static_cast<size_t>(found - list.begin());
     }
     return kNowhere;
 }
@@ -72,16 +76,6 @@ void CollectMembers(HWND parent, std::vector<HWND>& members) {
     }
 }
 
-/// Where a control, or the control that it is a part of, stands among the members.
-size_t MemberAt(HWND dialog, HWND control, const std::vector<HWND>& members) {
-    for (; control && control != dialog; control = GetParent(control)) {
-        const auto found = std::find(members.begin(), members.end(), control);
-        if (found != members.end())
-            return static_cast<size_t>(found - members.begin());
-    }
-    return kNowhere;
-}
-
 HWND NextInGroup(HWND dialog, HWND control, bool previous) {
     std::vector<HWND> members;
     CollectMembers(dialog, members);
@@ -89,7 +83,7 @@ HWND NextInGroup(HWND dialog, HWND control, bool previous) {
     if (size == 0)
         return nullptr;
     const bool given = control && control != dialog;
-    const size_t place = given ? MemberAt(dialog, control, members) : (previous ? size - 1 : 0);
+    const size_t place = given ? PlaceOf(dialog, control, members) : (previous ? size - 1 : 0);
     if (place == kNowhere)
         return control;
     if (!given && IsReachable(members[place]))

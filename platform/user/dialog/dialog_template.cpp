@@ -43,14 +43,11 @@ class Reader {
         return value;
     }
 
-    bool TakeBytes(std::vector<BYTE>& bytes, size_t count) {
-        if (failed_ || count > size_ - position_) {
+    void Skip(size_t count) {
+        if (failed_ || count > size_ - position_)
             failed_ = true;
-            return false;
-        }
-        bytes.insert(bytes.end(), data_ + position_, data_ + position_ + count);
-        position_ += count;
-        return true;
+        else
+            position_ += count;
     }
 
     void AlignToDword() {
@@ -125,17 +122,6 @@ std::string TakeItemText(Reader& reader) {
     return reader.TakeText();
 }
 
-void TakeCreationData(Reader& reader, bool extended, std::vector<BYTE>& data) {
-    const WORD size = reader.Take<WORD>();
-    if (size == 0)
-        return;
-    // The length word comes along: lpCreateParams points at it. Without EX it counts itself.
-    data.push_back(LOBYTE(size));
-    data.push_back(HIBYTE(size));
-    const size_t following = extended ? size : (size > sizeof(WORD) ? size - sizeof(WORD) : 0);
-    reader.TakeBytes(data, following);
-}
-
 DialogItem TakeItem(Reader& reader, bool extended) {
     DialogItem item;
     reader.AlignToDword();
@@ -153,7 +139,9 @@ DialogItem TakeItem(Reader& reader, bool extended) {
     }
     item.className = TakeItemClass(reader);
     item.text = TakeItemText(reader);
-    TakeCreationData(reader, extended, item.creationData);
+    // Nobody here makes controls of creation data. Its length does not count itself with EX alone.
+    const WORD data = reader.Take<WORD>();
+    reader.Skip(extended || data < sizeof data ? data : data - sizeof data);
     return item;
 }
 
@@ -179,8 +167,10 @@ bool ParseDialogTemplate(const void* data, size_t size, DialogTemplate& result) 
     WORD menu = 0;
     if (!reader.TakeOrdinal(menu))
         reader.TakeText();
-    if (!reader.TakeOrdinal(result.classAtom))
-        result.className = reader.TakeText();
+    // Dialogs have no other class than the usual one.
+    WORD atom = 0;
+    if (reader.TakeOrdinal(atom) || !reader.TakeText().empty())
+        return false;
     result.title = reader.TakeText();
     if (result.style & DS_SETFONT) {
         result.hasFont = true;

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "user/dialog/dialog.h"
+#include "user/frame/mnemonic.h"
 
 namespace platform::user {
 namespace {
@@ -16,21 +17,6 @@ UINT CodeFor(const MSG& message) {
 void Translate(const MSG& message) {
     TranslateMessage(&message);
     DispatchMessageA(&message);
-}
-
-/// A dialog is asked to move the focus, and may have its own way; a plain window knows of no such message.
-void GoNext(HWND dialog, bool previous) {
-    if (FindDialogState(dialog))
-        SendMessageA(dialog, WM_NEXTDLGCTL, previous, 0);
-    else
-        FocusNext(dialog, previous);
-}
-
-void GoTo(HWND dialog, HWND control) {
-    if (FindDialogState(dialog))
-        SendMessageA(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
-    else
-        FocusControl(dialog, control);
 }
 
 // --- arrows
@@ -70,44 +56,17 @@ void PressDefault(HWND dialog, HWND focus) {
         return;
     }
     const LRESULT answer = SendMessageA(dialog, DM_GETDEFID, 0, 0);
-    const bool named = HIWORD(answer) == DC_HASDEFID;
-    // A plain window has no answer; its default button is the one that looks so.
-    if (const HWND outlined = named || FindDialogState(dialog) ? nullptr : OutlinedButton(dialog)) {
-        SendCommand(GetParent(outlined), GetDlgCtrlID(outlined), outlined);
-        return;
-    }
-    const int id = named ? LOWORD(answer) : IDOK;
+    const int id = HIWORD(answer) == DC_HASDEFID ? LOWORD(answer) : IDOK;
     SendCommand(dialog, id, GetDlgItem(dialog, id));
 }
 
 // --- mnemonics
-
-char UpperCase(char character) {
-    char text[2] = {character, '\0'};
-    CharUpperA(text);
-    return text[0];
-}
 
 std::string CaptionOf(HWND window) {
     const int length = GetWindowTextLengthA(window);
     std::string text(static_cast<size_t>(length > 0 ? length : 0) + 1, '\0');
     text.resize(static_cast<size_t>(GetWindowTextA(window, text.data(), static_cast<int>(text.size()))));
     return text;
-}
-
-/// @returns the letter behind a single '&', as capital; 0 for none. The last one counts, as it is the one underlined.
-char MnemonicOf(const std::string& text) {
-    char mnemonic = 0;
-    for (size_t index = 0; index + 1 < text.size(); ++index) {
-        if (IsDBCSLeadByte(static_cast<BYTE>(text[index]))) {
-            ++index;
-        } else if (text[index] == '&') {
-            ++index;
-            if (text[index] != '&')
-                mnemonic = text[index];
-        }
-    }
-    return mnemonic ? UpperCase(mnemonic) : '\0';
 }
 
 bool HasMnemonic(HWND control, char wanted) {
@@ -137,7 +96,7 @@ void CollectReachable(HWND parent, std::vector<HWND>& controls) {
 
 /// Focuses the next control with this mnemonic after the focus, and clicks it when it is a button that has no rival.
 bool FollowMnemonic(HWND dialog, HWND focus, char character) {
-    const char wanted = UpperCase(character);
+    const char wanted = Capital(character);
     std::vector<HWND> controls;
     CollectReachable(dialog, controls);
     const size_t count = controls.size();
@@ -162,10 +121,10 @@ bool FollowMnemonic(HWND dialog, HWND focus, char character) {
     if (code & DLGC_STATIC) {
         const HWND next = GetNextDlgTabItem(dialog, found, FALSE);
         if (next && next != found)
-            GoTo(dialog, next);
+            SendMessageA(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(next), TRUE);
         return true;
     }
-    GoTo(dialog, found);
+    SendMessageA(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(found), TRUE);
     if (matches == 1 && IsWindow(found) && (code & (DLGC_BUTTON | DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)))
         SendMessageA(found, BM_CLICK, 0, 0);
     return true;
@@ -179,9 +138,7 @@ bool OnKeyDown(HWND dialog, const MSG& message) {
         return false;
     switch (message.wParam) {
         case VK_TAB:
-            if (code & DLGC_WANTTAB)
-                return false;
-            GoNext(dialog, GetKeyState(VK_SHIFT) < 0);
+            SendMessageA(dialog, WM_NEXTDLGCTL, GetKeyState(VK_SHIFT) < 0, 0);
             return true;
         case VK_LEFT:
         case VK_UP:
@@ -192,11 +149,9 @@ bool OnKeyDown(HWND dialog, const MSG& message) {
             MoveInGroup(dialog, message.hwnd, message.wParam == VK_LEFT || message.wParam == VK_UP);
             return true;
         case VK_ESCAPE:
-        case VK_CANCEL:
             SendCommand(dialog, IDCANCEL, GetDlgItem(dialog, IDCANCEL));
             return true;
         case VK_RETURN:
-        case VK_EXECUTE:
             PressDefault(dialog, message.hwnd);
             return true;
         default:

@@ -40,7 +40,6 @@ constexpr UINT kSetCount = sizeof kSets / sizeof kSets[0];
 
 /// What the dialog procedure needs to know of its box.
 struct Box {
-    UINT type;
     int defaultId;
     bool closable;
     HICON icon;
@@ -74,13 +73,10 @@ INT_PTR CALLBACK BoxProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM l
         case WM_INITDIALOG: {
             const auto* box = reinterpret_cast<const Box*>(lParam);
             SetWindowLongPtrA(dialog, DWLP_USER, lParam);
-            MessageBeep(box->type & MB_ICONMASK);
             if (box->icon)
                 SendDlgItemMessageA(dialog, kIconId, STM_SETICON, reinterpret_cast<WPARAM>(box->icon), 0);
             const HWND button = GetDlgItem(dialog, box->defaultId);
             SendMessageA(dialog, DM_SETDEFID, static_cast<WPARAM>(box->defaultId), 0);
-            if (box->type & MB_NOFOCUS)
-                return FALSE;
             SendMessageA(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(button), TRUE);
             return FALSE;
         }
@@ -128,15 +124,11 @@ DialogItem MakeItem(const char* className, const char* text, DWORD style, int id
     return item;
 }
 
-DialogTemplate LayOut(LPCSTR text, LPCSTR caption, UINT type, const ButtonSet& set, bool hasIcon) {
+DialogTemplate LayOut(LPCSTR text, LPCSTR caption, const ButtonSet& set, bool hasIcon) {
     DialogTemplate box;
     box.style = WS_POPUP | WS_CAPTION | DS_MODALFRAME | DS_SETFONT | DS_NOIDLEMSG | DS_CENTER;
     if (HasCancel(set))
         box.style |= WS_SYSMENU;
-    if (type & MB_SETFOREGROUND)
-        box.style |= DS_SETFOREGROUND;
-    if ((type & MB_TOPMOST) || (type & MB_MODEMASK) == MB_SYSTEMMODAL)
-        box.exStyle |= WS_EX_TOPMOST;
     box.title = caption ? caption : "Error";
     box.hasFont = true;
     box.pointSize = 8;
@@ -164,10 +156,9 @@ DialogTemplate LayOut(LPCSTR text, LPCSTR caption, UINT type, const ButtonSet& s
     const auto buttonTop = static_cast<short>(kMargin + areaHeight + kTextGap);
     box.height = static_cast<short>(buttonTop + kButtonHeight + kMargin);
 
-    const DWORD alignment = type & MB_RIGHT ? SS_RIGHT : SS_LEFT;
     if (hasIcon)
         box.items.push_back(MakeItem("static", "", SS_ICON, kIconId, kMargin, kMargin, iconWidth, iconWidth));
-    box.items.push_back(MakeItem("static", text, SS_NOPREFIX | alignment, kTextId, textLeft, textTop,
+    box.items.push_back(MakeItem("static", text, SS_NOPREFIX, kTextId, textLeft, textTop,
                                  static_cast<short>(box.width - textLeft - kMargin), textHeight));
     auto x = static_cast<short>((box.width - buttons) / 2);
     for (int index = 0; index < set.count; ++index) {
@@ -179,42 +170,6 @@ DialogTemplate LayOut(LPCSTR text, LPCSTR caption, UINT type, const ButtonSet& s
     return box;
 }
 
-/// MB_TASKMODAL without an owner: the thread's other top-level windows are disabled while the box is up.
-class DisabledTask {
-  public:
-    DisabledTask() : active_(GetActiveWindow()) {
-        EnumThreadWindows(GetCurrentThreadId(), Disable, reinterpret_cast<LPARAM>(this));
-    }
-    ~DisabledTask() {
-        for (const HWND window : windows_) {
-            if (IsWindow(window))
-                EnableWindow(window, TRUE);
-        }
-        // While the box went away there was no enabled window to activate.
-        if (active_ && IsWindow(active_))
-            SetActiveWindow(active_);
-    }
-    DisabledTask(const DisabledTask&) = delete;
-    DisabledTask& operator=(const DisabledTask&) = delete;
-
-  private:
-    static BOOL CALLBACK Disable(HWND window, LPARAM parameter) {
-        auto* self = reinterpret_cast<DisabledTask*>(parameter);
-        if (!IsWindowVisible(window) || !IsWindowEnabled(window))
-            return TRUE;
-        try {
-            self->windows_.push_back(window);
-        } catch (const std::bad_alloc&) {
-            return FALSE;
-        }
-        EnableWindow(window, FALSE);
-        return TRUE;
-    }
-
-    HWND active_;
-    std::vector<HWND> windows_;
-};
-
 int ShowBox(HWND owner, LPCSTR text, LPCSTR caption, UINT type) {
     const UINT kind = type & MB_TYPEMASK;
     if (kind >= kSetCount) {
@@ -222,17 +177,9 @@ int ShowBox(HWND owner, LPCSTR text, LPCSTR caption, UINT type) {
         return 0;
     }
     const ButtonSet& set = kSets[kind];
-    const int chosen = static_cast<int>((type & MB_DEFMASK) >> 8);
-    const Box box{type, set.buttons[chosen < set.count ? chosen : 0].id, HasCancel(set), IconOf(type)};
-    const DialogTemplate layout = LayOut(text ? text : "", caption, type, set, box.icon != nullptr);
-    const auto parameter = reinterpret_cast<LPARAM>(&box);
-    INT_PTR result;
-    if (!owner && (type & MB_MODEMASK) == MB_TASKMODAL) {
-        const DisabledTask disabled;
-        result = RunDialog(nullptr, layout, nullptr, BoxProcedure, parameter);
-    } else {
-        result = RunDialog(nullptr, layout, owner, BoxProcedure, parameter);
-    }
+    const Box box{set.buttons[0].id, HasCancel(set), IconOf(type)};
+    const DialogTemplate layout = LayOut(text ? text : "", caption, set, box.icon != nullptr);
+    const INT_PTR result = RunDialog(nullptr, layout, owner, BoxProcedure, reinterpret_cast<LPARAM>(&box));
     return result > 0 ? static_cast<int>(result) : 0;
 }
 

@@ -1,8 +1,6 @@
 // DefWindowProcA: what a window does with a message that it has no use for itself.
 #include <algorithm>
-#include <cstring>
 #include <new>
-#include <utility>
 
 #include "gdi/context/device_context.h"
 #include "gdi/context/objects.h"
@@ -11,6 +9,7 @@
 #include "user/model/window.h"
 #include "user/painting/painting.h"
 #include "user/window/above.h"
+#include "user/window/position.h"
 
 namespace platform::user {
 namespace {
@@ -39,18 +38,6 @@ LRESULT SetText(HWND handle, LPCSTR text) {
     return TRUE;
 }
 
-LRESULT GetText(HWND handle, WPARAM size, LPSTR buffer) {
-    const UserGuard guard(UserLock());
-    const Window* window = PeekWindow(handle);
-    if (!window || !buffer || size == 0) {
-        return 0;
-    }
-    const std::size_t length = std::min<std::size_t>(window->text.size(), size - 1);
-    std::memcpy(buffer, window->text.data(), length);
-    buffer[length] = '\0';
-    return static_cast<LRESULT>(length);
-}
-
 LRESULT EraseBackground(HWND handle, HDC context) {
     HBRUSH brush = nullptr;
     {
@@ -66,45 +53,15 @@ LRESULT EraseBackground(HWND handle, HDC context) {
     return 1;
 }
 
-/// WM_WINDOWPOSCHANGED tells of size and place in messages of their own.
-void TellPlace(HWND handle, const WINDOWPOS& position) {
-    RECT client{};
-    POINT origin{};
-    UINT kind = SIZE_RESTORED;
-    {
-        const UserGuard guard(UserLock());
-        const Window* window = PeekWindow(handle);
-        if (!window) {
-            return;
-        }
-        client = window->clientRect;
-        if (IsChildStyle(window->style) && window->parent) {
-            origin = {window->parent->clientRect.left, window->parent->clientRect.top};
-        }
-        kind = window->style & WS_MINIMIZE   ? SIZE_MINIMIZED
-               : window->style & WS_MAXIMIZE ? SIZE_MAXIMIZED
-                                             : SIZE_RESTORED;
-    }
-    constexpr UINT noClientSize = 0x0800;
-    constexpr UINT noClientMove = 0x1000;
-    if (!(position.flags & noClientMove)) {
-        SendMessageA(handle, WM_MOVE, 0, MAKELPARAM(client.left - origin.x, client.top - origin.y));
-    }
-    if (!(position.flags & noClientSize)) {
-        SendMessageA(handle, WM_SIZE, kind, MAKELPARAM(client.right - client.left, client.bottom - client.top));
-    }
-}
-
 /// Limits a top-level window with a sizing border to what it says of its smallest and largest size.
-void LimitSize(HWND handle, DWORD style, WINDOWPOS* position) {
+void LimitSize(const Window* window, WINDOWPOS* position) {
+    const DWORD style = window->style;
     if ((position->flags & SWP_NOSIZE) || !(style & WS_THICKFRAME) || (style & WS_MINIMIZE) || IsChildStyle(style)) {
         return;
     }
-    const MINMAXINFO limits = QueryMinMax(handle);
-    position->cx = std::clamp<int>(position->cx, limits.ptMinTrackSize.x,
-                                   std::max(limits.ptMinTrackSize.x, limits.ptMaxTrackSize.x));
-    position->cy = std::clamp<int>(position->cy, limits.ptMinTrackSize.y,
-                                   std::max(limits.ptMinTrackSize.y, limits.ptMaxTrackSize.y));
+    const SizeLimits limits = LimitsOf(window);
+    position->cx = std::clamp<int>(position->cx, limits.least.x, limits.most.x);
+    position->cy = std::clamp<int>(position->cy, limits.least.y, limits.most.y);
 }
 
 /// Takes the text colour and the background colour in turns.
@@ -166,37 +123,6 @@ LRESULT ActivateByMouse(HWND handle, WPARAM wParam, LPARAM lParam) {
     return MA_ACTIVATE;
 }
 
-void SetRedraw(HWND handle, bool redraw) {
-    UserHold hold(UserLock());
-    Window* window = PeekWindow(handle);
-    if (!window) {
-        return;
-    }
-    if (redraw) {
-        window->style |= WS_VISIBLE;
-        WindowsChanged();
-        return;
-    }
-    window->style &= ~static_cast<DWORD>(WS_VISIBLE);
-    window->update = gdi::Region();
-    WindowsChanged();
-}
-
-LRESULT SetIcon(HWND handle, bool big, HICON icon) {
-    UserHold hold(UserLock());
-    Window* window = PeekWindow(handle);
-    if (!window) {
-        return 0;
-    }
-    const HICON before = std::exchange(big ? window->bigIcon : window->smallIcon, icon);
-    const bool hasCaption = CaptionHeight(window->style, window->exStyle) && IsShown(window);
-    hold.unlock();
-    if (hasCaption) {
-        PaintFrame(handle);
-    }
-    return reinterpret_cast<LRESULT>(before);
-}
-
 }  // namespace
 }  // namespace platform::user
 
@@ -213,23 +139,31 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
             SetText(handle, given ? given->lpszName : nullptr);
             return TRUE;
         }
-        case WM_NCCALCSIZE:
         case WM_NCHITTEST:
+            return HitTest(handle, MousePoint(lParam));
         case WM_NCPAINT:
+            PaintFrame(handle);
+            return 0;
         case WM_NCACTIVATE:
+            window->captionActive = wParam != 0;
+            if (window->style & WS_VISIBLE) {
+                PaintFrame(handle);
+            }
+            return TRUE;
         case WM_NCLBUTTONDOWN:
+            PressFrame(handle, static_cast<int>(wParam), MousePoint(lParam));
+            return 0;
         case WM_NCLBUTTONDBLCLK:
+            OnFrameDoubleClick(window, static_cast<int>(wParam), lParam);
+            return 0;
         case WM_SYSCOMMAND:
-            return DefaultNonClient(window, message, wParam, lParam);
+            return SystemCommand(handle, wParam, MousePoint(lParam));
         case WM_SETTEXT:
             return SetText(handle, reinterpret_cast<LPCSTR>(lParam));
         case WM_GETTEXT:
-            return GetText(handle, wParam, reinterpret_cast<LPSTR>(lParam));
+            return CopyText(window->text, wParam, reinterpret_cast<LPSTR>(lParam));
         case WM_GETTEXTLENGTH:
             return static_cast<LRESULT>(window->text.size());
-        case WM_SETREDRAW:
-            SetRedraw(handle, wParam != 0);
-            return 0;
         case WM_PAINT: {
             PAINTSTRUCT paint;
             if (BeginPaint(handle, &paint)) {
@@ -247,17 +181,16 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
         case WM_CTLCOLORSTATIC:
             return ControlColour(message, reinterpret_cast<HDC>(wParam));
         case WM_WINDOWPOSCHANGING:
-            LimitSize(handle, window->style, reinterpret_cast<WINDOWPOS*>(lParam));
+            LimitSize(window, reinterpret_cast<WINDOWPOS*>(lParam));
             return 0;
         case WM_WINDOWPOSCHANGED:
-            TellPlace(handle, *reinterpret_cast<const WINDOWPOS*>(lParam));
+            if (!(reinterpret_cast<const WINDOWPOS*>(lParam)->flags & kNoClientSize)) {
+                SendSize(handle);
+            }
             return 0;
         case WM_CLOSE:
             DestroyWindow(handle);
             return 0;
-        case WM_QUERYOPEN:
-        case WM_QUERYENDSESSION:
-            return TRUE;
         case WM_ACTIVATE:
             if (LOWORD(wParam) != WA_INACTIVE && !(window->style & WS_MINIMIZE)) {
                 SetFocus(handle);
@@ -296,16 +229,6 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
             return 0;
         case WM_VKEYTOITEM:
             return -1;
-        case WM_GETICON:
-            return reinterpret_cast<LRESULT>(wParam == ICON_BIG ? window->bigIcon : window->smallIcon);
-        case WM_SETICON:
-            return SetIcon(handle, wParam == ICON_BIG, reinterpret_cast<HICON>(lParam));
-        case WM_SHOWWINDOW:
-            // Owned windows come and go with their owner.
-            if (lParam && window->owner) {
-                ShowWindow(handle, wParam ? SW_SHOWNA : SW_HIDE);
-            }
-            return 0;
         case WM_CANCELMODE:
             LeaveModes(handle);
             return 0;

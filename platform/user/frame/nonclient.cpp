@@ -72,12 +72,7 @@ HICON CaptionIcon(const Window* window) {
     if (!(window->style & WS_SYSMENU) || (window->exStyle & (WS_EX_TOOLWINDOW | WS_EX_DLGMODALFRAME))) {
         return nullptr;
     }
-    for (HICON icon : {window->smallIcon, window->bigIcon, window->windowClass->icon}) {
-        if (icon) {
-            return icon;
-        }
-    }
-    return nullptr;
+    return window->windowClass->icon;
 }
 
 CaptionParts LayOutCaption(const Window* window, RECT windowRect) {
@@ -148,7 +143,7 @@ LRESULT HitTest(HWND handle, POINT point) {
             return HTSYSMENU;
         }
         if (PtInRect(&parts.close, point)) {
-            return window->windowClass->style & CS_NOCLOSE ? HTCAPTION : HTCLOSE;
+            return HTCLOSE;
         }
         if (PtInRect(&parts.maximize, point)) {
             return window->style & WS_MAXIMIZEBOX ? HTMAXBUTTON : HTCAPTION;
@@ -166,37 +161,25 @@ LRESULT HitTest(HWND handle, POINT point) {
     if (PtInRect(&across, point)) {
         return HTHSCROLL;
     }
-    const RECT corner{down.left, across.top, down.right, across.bottom};
-    return !IsRectEmpty(&down) && !IsRectEmpty(&across) && PtInRect(&corner, point) ? HTGROWBOX : HTBORDER;
+    return HTBORDER;
 }
 
-namespace {
-
-void CalculateClient(HWND handle, RECT* rect) {
-    const UserGuard guard(UserLock());
-    if (const Window* window = FindWindowObject(handle)) {
-        *rect = ClientFromWindow(window, *rect);
-    }
-}
-
-}  // namespace
-
-UINT SizingCursor(int hitCode) {
+LPCSTR SizingCursor(int hitCode) {
     switch (hitCode) {
         case HTLEFT:
         case HTRIGHT:
-            return 32644;
+            return IDC_SIZEWE;
         case HTTOP:
         case HTBOTTOM:
-            return 32645;
+            return IDC_SIZENS;
         case HTTOPLEFT:
         case HTBOTTOMRIGHT:
-            return 32642;
+            return IDC_SIZENWSE;
         case HTTOPRIGHT:
         case HTBOTTOMLEFT:
-            return 32643;
+            return IDC_SIZENESW;
         default:
-            return 32512;
+            return IDC_ARROW;
     }
 }
 
@@ -218,78 +201,31 @@ bool SetHitCursor(HWND hit, int hitCode, UINT mouseMessage) {
         SetCursor(cursor);
         return true;
     }
-    SetCursor(LoadCursorA(nullptr, MAKEINTRESOURCEA(SizingCursor(hitCode))));
+    SetCursor(LoadCursorA(nullptr, SizingCursor(hitCode)));
     return true;
 }
 
-MINMAXINFO QueryMinMax(HWND handle) {
-    MINMAXINFO limits{};
-    {
-        const UserGuard guard(UserLock());
-        const Window* window = PeekWindow(handle);
-        const int frame = window ? FrameWidth(window->style, window->exStyle) : 0;
-        // A maximised child fills its parent's client area, other windows the work area.
-        RECT ground{};
-        if (window && window->parent && window->parent != Desktop()) {
-            ground = window->parent->clientRect;
-        } else {
-            SystemParametersInfoA(SPI_GETWORKAREA, 0, &ground, 0);
-        }
-        limits.ptMaxSize = {ground.right - ground.left + 2 * frame, ground.bottom - ground.top + 2 * frame};
-        limits.ptMaxPosition = {-frame, -frame};
-        // The least size has room for a caption with its buttons; a mere frame needs its own edges only.
-        const bool plain = window && !(window->style & (WS_BORDER | WS_DLGFRAME));
-        limits.ptMinTrackSize = plain ? POINT{2 * frame, 2 * frame}
-                                      : POINT{GetSystemMetrics(SM_CXMINTRACK), GetSystemMetrics(SM_CYMINTRACK)};
-    }
-    limits.ptMaxTrackSize = {GetSystemMetrics(SM_CXMAXTRACK), GetSystemMetrics(SM_CYMAXTRACK)};
-    SendMessageA(handle, WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
-    return limits;
+constexpr POINT kLeastCaptioned{112, 27};
+
+SizeLimits LimitsOf(const Window* window) {
+    const int frame = FrameWidth(window->style, window->exStyle);
+    // The least size has room for a caption with its buttons; a mere frame needs its own edges only.
+    const bool plain = !(window->style & (WS_BORDER | WS_DLGFRAME));
+    return {plain ? POINT{2 * frame, 2 * frame} : kLeastCaptioned,
+            {GetSystemMetrics(SM_CXSCREEN) + 12, GetSystemMetrics(SM_CYSCREEN) + 12}};
 }
 
-LRESULT DefaultNonClient(Window* window, UINT message, WPARAM wParam, LPARAM lParam) {
+void OnFrameDoubleClick(const Window* window, int hitCode, LPARAM where) {
     const HWND handle = window->handle;
-    const POINT point = MousePoint(lParam);
-    switch (message) {
-        case WM_NCCALCSIZE: {
-            const UINT classStyle = window->windowClass->style;
-            // The rectangle is the first of the three where all three are given.
-            CalculateClient(handle, reinterpret_cast<RECT*>(lParam));
-            return wParam
-                       ? ((classStyle & CS_HREDRAW) ? WVR_HREDRAW : 0) | ((classStyle & CS_VREDRAW) ? WVR_VREDRAW : 0)
-                       : 0;
-        }
-        case WM_NCHITTEST:
-            return HitTest(handle, point);
-        case WM_NCPAINT:
-            PaintFrame(handle);
-            return 0;
-        case WM_NCACTIVATE: {
-            window->captionActive = wParam != 0;
-            if (window->style & WS_VISIBLE) {
-                PaintFrame(handle);
-            }
-            return TRUE;
-        }
-        case WM_NCLBUTTONDOWN:
-            PressFrame(handle, static_cast<int>(wParam), point);
-            return 0;
-        case WM_NCLBUTTONDBLCLK:
-            if (wParam == HTCAPTION && (window->style & WS_MINIMIZE)) {
-                SendMessageA(handle, WM_SYSCOMMAND, SC_RESTORE, lParam);
-            } else if (wParam == HTCAPTION && (window->style & WS_MAXIMIZEBOX)) {
-                SendMessageA(handle, WM_SYSCOMMAND,
-                             static_cast<WPARAM>(window->style & WS_MAXIMIZE ? SC_RESTORE : SC_MAXIMIZE), lParam);
-            } else if (wParam == HTSYSMENU) {
-                SendMessageA(handle, WM_SYSCOMMAND, SC_CLOSE, lParam);
-            } else {
-                PressFrame(handle, static_cast<int>(wParam), point);
-            }
-            return 0;
-        case WM_SYSCOMMAND:
-            return SystemCommand(handle, wParam, point);
-        default:
-            return 0;
+    const DWORD style = window->style;
+    if (hitCode == HTCAPTION && (style & WS_MINIMIZE)) {
+        SendMessageA(handle, WM_SYSCOMMAND, SC_RESTORE, where);
+    } else if (hitCode == HTCAPTION && (style & WS_MAXIMIZEBOX)) {
+        SendMessageA(handle, WM_SYSCOMMAND, static_cast<WPARAM>(style & WS_MAXIMIZE ? SC_RESTORE : SC_MAXIMIZE), where);
+    } else if (hitCode == HTSYSMENU) {
+        SendMessageA(handle, WM_SYSCOMMAND, SC_CLOSE, where);
+    } else {
+        PressFrame(handle, hitCode, MousePoint(where));
     }
 }
 

@@ -6,10 +6,8 @@
 
 namespace platform::user {
 
-/// The insets that style and extended style give a window: client rectangle of a window rectangle.
-RECT ClientFromWindow(const Window* window, const RECT& windowRect);
-/// WM_NCPAINT, WM_NCHITTEST, WM_NCCALCSIZE, WM_NCLBUTTONDOWN, WM_SYSCOMMAND, ... as DefWindowProcA answers them.
-LRESULT DefaultNonClient(Window* window, UINT message, WPARAM wParam, LPARAM lParam);
+/// WM_NCLBUTTONDBLCLK.
+void OnFrameDoubleClick(const Window* window, int hitCode, LPARAM where);
 
 /// WM_SYSKEYDOWN: Alt+F4 closes, Shift+F10 asks for the context menu, as the menu key does when it is let go (WM_KEYUP).
 LRESULT OnSystemKey(HWND window, WPARAM key, LPARAM bits);
@@ -24,11 +22,8 @@ void LeaveModes(HWND window);
 /// WM_SETCURSOR's default, once the parents have been asked. @returns whether a cursor was set.
 bool SetHitCursor(HWND hit, int hitCode, UINT mouseMessage);
 
-/// @returns the IDC_ number of the pointer over a part of the frame.
-UINT SizingCursor(int hitCode);
-
-/// @returns how many pixels wide the frame is on each side, the sunken client edge left out.
-int FrameWidth(DWORD style, DWORD exStyle);
+/// @returns the name of the pointer over a part of the frame.
+LPCSTR SizingCursor(int hitCode);
 
 /// @returns the caption's height with the line below it; 0 without a caption.
 int CaptionHeight(DWORD style, DWORD exStyle);

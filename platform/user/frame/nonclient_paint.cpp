@@ -6,6 +6,7 @@
 #include "user/frame/nonclient.h"
 #include "user/frame/scrollbar/bar.h"
 #include "user/resource/icons.h"
+#include "user/window/above.h"
 
 namespace platform::user {
 namespace {
@@ -18,7 +19,6 @@ struct Picture {
     CaptionParts caption;
     std::string text;
     bool active;
-    bool closes;  ///< the close box works
     HICON icon;
 };
 
@@ -36,7 +36,6 @@ bool Describe(HWND handle, Picture* picture) try {
     picture->text = window->text;
     picture->active = window->captionActive;
     picture->icon = CaptionIcon(window);
-    picture->closes = !(window->windowClass->style & CS_NOCLOSE);
     return true;
 } catch (const std::bad_alloc&) {
     return false;
@@ -124,7 +123,7 @@ void DrawCaption(HDC context, const Picture& picture, int pressed) {
     const RECT line{parts.bar.left, parts.bar.bottom, parts.bar.right, parts.bar.bottom + 1};
     FillRect(memory, &line, GetSysColorBrush(COLOR_3DFACE));
     const bool maximized = (picture.style & WS_MAXIMIZE) != 0;
-    DrawButton(memory, parts.close, DFCS_CAPTIONCLOSE, pressed == HTCLOSE, !picture.closes);
+    DrawButton(memory, parts.close, DFCS_CAPTIONCLOSE, pressed == HTCLOSE, false);
     DrawButton(memory, parts.maximize, maximized ? DFCS_CAPTIONRESTORE : DFCS_CAPTIONMAX, pressed == HTMAXBUTTON,
                !(picture.style & WS_MAXIMIZEBOX));
     DrawButton(memory, parts.minimize, picture.style & WS_MINIMIZE ? DFCS_CAPTIONRESTORE : DFCS_CAPTIONMIN,

@@ -77,14 +77,13 @@ POINT InSight(HWND handle, POINT point) {
 }
 
 /// The rectangle after its edge, or all of it, followed the pointer by an offset.
-RECT Follow(const RECT& start, int part, int dx, int dy, const MINMAXINFO& limits) {
+RECT Follow(const RECT& start, int part, int dx, int dy, const SizeLimits& limits) {
     RECT rect = start;
     if (part == HTCAPTION) {
         OffsetRect(&rect, dx, dy);
         return rect;
     }
-    const POINT least = limits.ptMinTrackSize;
-    const POINT most{std::max(least.x, limits.ptMaxTrackSize.x), std::max(least.y, limits.ptMaxTrackSize.y)};
+    const auto& [least, most] = limits;
     if (Touches(part, {HTLEFT, HTTOPLEFT, HTBOTTOMLEFT})) {
         rect.left = std::clamp(rect.left + dx, rect.right - most.x, rect.right - least.x);
     }
@@ -98,27 +97,6 @@ RECT Follow(const RECT& start, int part, int dx, int dy, const MINMAXINFO& limit
         rect.bottom = std::clamp(rect.bottom + dy, rect.top + least.y, rect.top + most.y);
     }
     return rect;
-}
-
-WPARAM SizingEdge(int part) {
-    switch (part) {
-        case HTLEFT:
-            return WMSZ_LEFT;
-        case HTRIGHT:
-            return WMSZ_RIGHT;
-        case HTTOP:
-            return WMSZ_TOP;
-        case HTTOPLEFT:
-            return WMSZ_TOPLEFT;
-        case HTTOPRIGHT:
-            return WMSZ_TOPRIGHT;
-        case HTBOTTOM:
-            return WMSZ_BOTTOM;
-        case HTBOTTOMLEFT:
-            return WMSZ_BOTTOMLEFT;
-        default:
-            return WMSZ_BOTTOMRIGHT;
-    }
 }
 
 /// Which way an arrow key moves, or false for another key.
@@ -149,8 +127,8 @@ int Grasp(int part, int dx, int dy) {
 
 /// The pointer that shows what is being moved by the keyboard.
 void ShowHold(int part) {
-    const UINT shape = part == HTCAPTION || part == HTNOWHERE ? 32646 : SizingCursor(part);  // IDC_SIZEALL
-    SetCursor(LoadCursorA(nullptr, MAKEINTRESOURCEA(shape)));
+    const LPCSTR shape = part == HTCAPTION || part == HTNOWHERE ? IDC_SIZEALL : SizingCursor(part);
+    SetCursor(LoadCursorA(nullptr, shape));
 }
 
 /// One round of moving or sizing: where the window was, what of it follows, and how far by now.
@@ -158,18 +136,15 @@ struct MoveDrag {
     HWND window;
     int part;
     RECT start{};
-    MINMAXINFO limits{};
+    SizeLimits limits{};
     int dx = 0;
     int dy = 0;
 
     void Apply() const {
         RECT rect = Follow(start, part, dx, dy, limits);
-        const bool moving = part == HTCAPTION;
-        if (moving) {
+        if (part == HTCAPTION) {
             KeepInReach(window, &rect);
         }
-        SendMessageA(window, moving ? WM_MOVING : WM_SIZING, moving ? 0 : SizingEdge(part),
-                     reinterpret_cast<LPARAM>(&rect));
         Place(window, rect);
     }
 
@@ -221,8 +196,11 @@ WPARAM KeyOf(const MSG& message) {
 void MoveOrSize(HWND handle, int part, bool byMouse, POINT from) {
     MoveDrag drag{handle, part};
     GetWindowRect(handle, &drag.start);
-    if (part != HTCAPTION) {
-        drag.limits = QueryMinMax(handle);
+    {
+        const UserGuard guard(UserLock());
+        if (const Window* window = PeekWindow(handle)) {
+            drag.limits = LimitsOf(window);
+        }
     }
     HCURSOR cursor = nullptr;
     if (!byMouse) {
@@ -231,7 +209,6 @@ void MoveOrSize(HWND handle, int part, bool byMouse, POINT from) {
         ShowHold(part);
     }
     SetCapture(handle);
-    SendMessageA(handle, WM_ENTERSIZEMOVE, 0, 0);
     for (MSG message; NextMessage(handle, &message);) {
         int stepX = 0;
         int stepY = 0;
@@ -292,6 +269,20 @@ bool TrackButton(HWND handle, int button) {
     return inside && released && PeekWindow(handle);
 }
 
+/// What a button of the caption is for.
+WPARAM CommandOf(int button, DWORD style) {
+    switch (button) {
+        case HTCLOSE:
+            return SC_CLOSE;
+        case HTHELP:
+            return SC_CONTEXTHELP;
+        case HTMINBUTTON:
+            return style & WS_MINIMIZE ? SC_RESTORE : SC_MINIMIZE;
+        default:
+            return style & WS_MAXIMIZE ? SC_RESTORE : SC_MAXIMIZE;
+    }
+}
+
 }  // namespace
 
 bool NextMessage(HWND handle, MSG* message) {
@@ -330,25 +321,11 @@ void PressFrame(HWND handle, int hitCode, POINT point) {
             SendMessageA(handle, WM_SYSCOMMAND, SC_MOUSEMENU | HTSYSMENU, where);
             break;
         case HTCLOSE:
-            if (TrackButton(handle, hitCode)) {
-                SendMessageA(handle, WM_SYSCOMMAND, SC_CLOSE, where);
-            }
-            break;
         case HTHELP:
-            if (TrackButton(handle, hitCode)) {
-                SendMessageA(handle, WM_SYSCOMMAND, SC_CONTEXTHELP, where);
-            }
-            break;
         case HTMINBUTTON:
-            if (TrackButton(handle, hitCode)) {
-                SendMessageA(handle, WM_SYSCOMMAND,
-                             static_cast<WPARAM>(LiveStyle(handle) & WS_MINIMIZE ? SC_RESTORE : SC_MINIMIZE), where);
-            }
-            break;
         case HTMAXBUTTON:
             if (TrackButton(handle, hitCode)) {
-                SendMessageA(handle, WM_SYSCOMMAND,
-                             static_cast<WPARAM>(LiveStyle(handle) & WS_MAXIMIZE ? SC_RESTORE : SC_MAXIMIZE), where);
+                SendMessageA(handle, WM_SYSCOMMAND, CommandOf(hitCode, LiveStyle(handle)), where);
             }
             break;
         case HTVSCROLL:
@@ -395,9 +372,6 @@ LRESULT SystemCommand(HWND handle, WPARAM command, POINT point) {
             TrackBar({handle, SB_HORZ}, point);
             break;
         case SC_CLOSE:
-            if (const Window* window = PeekWindow(handle); window && (window->windowClass->style & CS_NOCLOSE)) {
-                break;
-            }
             SendMessageA(handle, WM_CLOSE, 0, 0);
             break;
         case SC_CONTEXTHELP:

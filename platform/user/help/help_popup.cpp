@@ -201,7 +201,6 @@ void RegisterPopup() {
     WNDCLASSA record = {};
     if (!GetClassInfoA(GetModuleHandleA(nullptr), kClass, &record)) {
         record = {};
-        record.style = CS_SAVEBITS;
         record.lpfnWndProc = PopupProcedure;
         record.hInstance = GetModuleHandleA(nullptr);
         record.hCursor = LoadCursorA(nullptr, IDC_ARROW);

@@ -1,7 +1,5 @@
 // Activation: one top-level window of a thread is active, and the thread in the foreground has the keyboard.
 #include <algorithm>
-#include <new>
-#include <vector>
 
 #include "user/input/input.h"
 #include "user/message/queue.h"
@@ -22,28 +20,6 @@ WPARAM ActivationState(UINT state, HWND window) {
     return MAKEWPARAM(state, IsIconic(window) ? 1 : 0);
 }
 
-std::vector<HWND> TopLevelsOf(const ThreadState* thread) {
-    std::vector<HWND> windows;
-    UserGuard guard(UserLock());
-    for (const Window* window = Desktop()->firstChild; window != nullptr; window = window->next) {
-        if (window->thread == thread) {
-            windows.push_back(window->handle);
-        }
-    }
-    return windows;
-}
-
-void TellApplication(const ThreadState* thread, bool active, const ThreadState* other) {
-    try {
-        for (HWND window : TopLevelsOf(thread)) {
-            Tell(window, WM_ACTIVATEAPP, active, other != nullptr ? other->id : 0);
-        }
-    } catch (const std::bad_alloc&) {
-        // Without memory nobody hears of it; activation itself goes on.
-        return;
-    }
-}
-
 // An open menu belongs to the window in front.
 void PutMenuAway(const ThreadState* thread) {
     if (const HWND menu = Shared(thread->menu.window)) {
@@ -52,7 +28,7 @@ void PutMenuAway(const ThreadState* thread) {
 }
 
 // Tells a thread that another one has taken the foreground. Nothing waits for its windows.
-void LeaveForeground(ThreadState* loser, ThreadState* winner, HWND to) {
+void LeaveForeground(ThreadState* loser, HWND to) {
     HWND active = nullptr;
     HWND focus = nullptr;
     {
@@ -68,25 +44,18 @@ void LeaveForeground(ThreadState* loser, ThreadState* winner, HWND to) {
         Tell(active, WM_NCACTIVATE, FALSE, reinterpret_cast<LPARAM>(to));
         Tell(active, WM_ACTIVATE, ActivationState(WA_INACTIVE, active), reinterpret_cast<LPARAM>(to));
     }
-    TellApplication(loser, false, winner);
     if (focus != nullptr) {
         Tell(focus, WM_KILLFOCUS, 0, 0);
     }
 }
 
-// @returns false when the active window does not give way; one that goes away itself has no say.
-bool Deactivate(HWND active, HWND to, bool forced) {
-    if (active == nullptr || PeekWindow(active) == nullptr) {
-        return true;
-    }
-    const LRESULT agrees = SendMessageA(active, WM_NCACTIVATE, FALSE, reinterpret_cast<LPARAM>(to));
-    if (agrees == 0 && !forced) {
-        return false;
+void Deactivate(HWND active, HWND to) {
+    if (PeekWindow(active) != nullptr) {
+        SendMessageA(active, WM_NCACTIVATE, FALSE, reinterpret_cast<LPARAM>(to));
     }
     if (PeekWindow(active) != nullptr) {
         SendMessageA(active, WM_ACTIVATE, ActivationState(WA_INACTIVE, active), reinterpret_cast<LPARAM>(to));
     }
-    return true;
 }
 
 void RunActivation(const SentMessage& sent) {
@@ -101,24 +70,16 @@ bool ActivateElsewhere(ThreadState* self, ThreadState* other, HWND window, bool 
     ThreadState* loser = input.foreground;
     input.foreground = other;
     TakeOverKeys(other);
-    auto* errand = new (std::nothrow) SentMessage;
-    if (errand == nullptr) {
+    if (!EnqueueErrand(other, RunActivation, window, byMouse)) {
         return false;
     }
-    errand->errand = RunActivation;
-    errand->window = window;
-    errand->wParam = byMouse ? 1 : 0;
     other->lastActive = window;
     other->comingForward = true;
-    if (!Enqueue(other, errand)) {
-        delete errand;
-        return false;
-    }
     hold.unlock();
     if (loser == self) {
         DeactivateOwn(self);
     } else if (loser != nullptr && loser != other) {
-        LeaveForeground(loser, other, window);
+        LeaveForeground(loser, window);
     }
     return true;
 }
@@ -156,11 +117,7 @@ bool ActivateOwn(ThreadState* self, HWND window, bool byMouse, bool foreground) 
     hold.unlock();
     if (previous != window) {
         PutMenuAway(self);
-        const Window* leaving = PeekWindow(previous);
-        const bool forced = leaving == nullptr || leaving->destroying || (leaving->style & WS_VISIBLE) == 0;
-        if (!Deactivate(previous, window, forced)) {
-            return false;
-        }
+        Deactivate(previous, window);
     }
     hold.lock();
     Window* target = PeekWindow(window);
@@ -177,10 +134,7 @@ bool ActivateOwn(ThreadState* self, HWND window, bool byMouse, bool foreground) 
     }
     hold.unlock();
     if (loser != nullptr) {
-        LeaveForeground(loser, self, window);
-    }
-    if (takes) {
-        TellApplication(self, true, loser);
+        LeaveForeground(loser, window);
     }
     SetWindowPos(window, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     if (Shared(self->active) != window) {
@@ -203,8 +157,7 @@ bool ActivateOwn(ThreadState* self, HWND window, bool byMouse, bool foreground) 
 void DeactivateOwn(ThreadState* self) {
     const HWND active = Shared(self->active);
     PutMenuAway(self);
-    Deactivate(active, nullptr, true);
-    bool left = false;
+    Deactivate(active, nullptr);
     {
         UserGuard guard(UserLock());
         if (self->active != active) {
@@ -214,11 +167,7 @@ void DeactivateOwn(ThreadState* self) {
         self->active = nullptr;
         if (Input().foreground == self) {
             Input().foreground = nullptr;
-            left = true;
         }
-    }
-    if (left || active != nullptr) {
-        TellApplication(self, false, nullptr);
     }
     MoveFocus(self, nullptr);
 }

@@ -60,7 +60,7 @@ void Draw(ThreadState* thread) {
         return;
     }
     const POINT origin{window->clientRect.left + caret.position.x, window->clientRect.top + caret.position.y};
-    gdi::Region area = VisibleRegion(window, true, true);
+    gdi::Region area = Visible(window, StyleFlags(window) | kVisibleClipChildren);
     area.Intersect(RECT{origin.x, origin.y, origin.x + caret.width, origin.y + caret.height});
     area.Intersect(gdi::ScreenRect());
     if (area.Empty()) {
@@ -227,7 +227,6 @@ BOOL WINAPI CreateCaret(HWND window, HBITMAP bitmap, int width, int height) {
         Discard(self);
         auto& caret = self->caret;
         caret.window = window;
-        caret.bitmap = bitmap;
         caret.width = width;
         caret.height = height;
         caret.pattern = std::move(pattern);

@@ -34,7 +34,7 @@ BOOL WINAPI GetCursorPos(LPPOINT position) {
 }
 
 BOOL WINAPI SetCursorPos(int x, int y) {
-    MoveCursor({x, y});
+    InjectMouseMove(x, y);
     return TRUE;
 }
 

@@ -135,10 +135,6 @@ void Inject(InputEvent event) {
     }
     if (event.kind == InputKind::Button || event.kind == InputKind::Key) {
         ApplyKey(input.keys, event.code, event.down);
-        if (event.down) {
-            input.pressedSince[event.code] = true;
-            input.pressedSince[GenericKey(event.code)] = true;
-        }
     }
     if (event.kind == InputKind::Button && !AnyButton(input)) {
         input.buttonThread = nullptr;
@@ -151,14 +147,10 @@ void Inject(InputEvent event) {
     }
 }
 
-void MoveCursor(POINT point) {
-    InputEvent event;
-    event.point = point;
-    Inject(event);
-}
-
 void InjectMouseMove(int x, int y) {
-    MoveCursor({x, y});
+    InputEvent event;
+    event.point = {x, y};
+    Inject(event);
 }
 
 void InjectMouseButton(int button, bool down) {

@@ -31,20 +31,10 @@ WPARAM MouseFlags(const BYTE (&keys)[256]);
 /// @returns the deepest visible window at a point, whoever owns it; null over the desktop. Lock held.
 Window* WindowAt(POINT point);
 
-// --- cursor (cursor.cpp)
-
-void MoveCursor(POINT point);
-
-// --- keyboard layout (layout.cpp, layout_text.cpp)
+// --- keyboard layout (layout_text.cpp)
 
 /// @returns the character that a key makes with these modifiers, -1 for none.
 int CharacterOf(UINT key, bool shift, bool control, bool alt, bool capital);
-
-/// @returns 0 for a scan code without a key. With `sides` modifiers come as their left and right keys.
-UINT KeyOfScan(UINT scan, bool extended, bool sides);
-UINT ScanOfKey(UINT key);
-/// @returns the key of the keypad that a scan code means while Num Lock is on, 0 for other codes.
-UINT KeypadNumber(UINT scan);
 
 // --- activation, focus and capture
 
@@ -70,7 +60,7 @@ void ForgetInput(Window* window);
 /// A window was hidden or, else, disabled: gives up capture, moves focus and, when hidden, activation away as documented.
 void LeaveDisabledOrHidden(Window* window, bool hidden);
 
-/// Activates a top-level window (WM_NCACTIVATE, WM_ACTIVATE, WM_ACTIVATEAPP, focus, z-order). @returns false when the
+/// Activates a top-level window (WM_NCACTIVATE, WM_ACTIVATE, focus, z-order). @returns false when the
 /// window refused or cannot be activated (disabled, hidden, a child).
 bool ActivateWindow(HWND window, bool byMouse);
 

@@ -38,7 +38,7 @@ using namespace platform::user;
 BOOL WINAPI TranslateMessage(const MSG* message) {
     ThreadState* self = CurrentThread();
     if (self == nullptr || message == nullptr || message->message < WM_KEYDOWN || message->message > WM_SYSKEYUP ||
-        message->message == WM_CHAR || message->message == WM_DEADCHAR) {
+        message->message == WM_CHAR) {
         return FALSE;
     }
     if (message->message != WM_KEYDOWN && message->message != WM_SYSKEYDOWN) {
@@ -73,10 +73,6 @@ SHORT WINAPI GetAsyncKeyState(int key) {
     if (key < 0 || key > 0xFF) {
         return 0;
     }
-    UserGuard guard(UserLock());
-    InputState& input = Input();
-    const bool down = (input.keys[key] & 0x80) != 0;
-    const bool pressed = input.pressedSince[key];
-    input.pressedSince[key] = false;
-    return static_cast<SHORT>((down ? 0x8000 : 0) | (pressed ? 1 : 0));
+    const UserGuard guard(UserLock());
+    return static_cast<SHORT>((Input().keys[key] & 0x80) != 0 ? 0x8000 : 0);
 }

@@ -1,7 +1,6 @@
 // Cooking keyboard input: the message that a key makes depends on Alt, on what has the focus and on what was down
 // before.
 #include <algorithm>
-#include <new>
 
 #include "user/input/above.h"
 #include "user/input/input.h"
@@ -22,19 +21,6 @@ void RunHelpKey(const SentMessage& errand) {
     GetCursorPos(&pointer);
     if (PeekWindow(errand.window) != nullptr) {
         AskForHelp(errand.window, pointer);
-    }
-}
-
-// The F1 key asks for help whatever the window does with the key itself, and after it has heard of the key.
-void NoteHelpKey(ThreadState* self, HWND window) {
-    auto* errand = new (std::nothrow) SentMessage;
-    if (errand == nullptr) {
-        return;
-    }
-    errand->errand = RunHelpKey;
-    errand->window = window;
-    if (!Enqueue(self, errand)) {
-        delete errand;
     }
 }
 
@@ -101,7 +87,8 @@ Cooked CookKey(ThreadState* self, const InputEvent& event, bool (*wanted)(const 
     }
     if (remove && deliver && event.down && !wasDown && key == VK_F1 && !IsDown(keys, VK_MENU) && !control &&
         !IsDown(keys, VK_SHIFT)) {
-        NoteHelpKey(self, window);
+        // The key asks for help whatever the window does with it, and after it has heard of it.
+        EnqueueErrand(self, RunHelpKey, window);
     }
     return deliver ? Cooked::Message : Cooked::Dropped;
 }

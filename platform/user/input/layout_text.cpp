@@ -1,61 +1,21 @@
 // The characters of the US keyboard.
+#include <iterator>
+
 #include "user/input/input.h"
 
 namespace platform::user {
 namespace {
 
-struct KeyText {
-    BYTE key;
-    char plain;
-    char shifted;
-};
-
-constexpr KeyText kText[] = {
-    {'1', '1', '!'},
-    {'2', '2', '@'},
-    {'3', '3', '#'},
-    {'4', '4', '$'},
-    {'5', '5', '%'},
-    {'6', '6', '^'},
-    {'7', '7', '&'},
-    {'8', '8', '*'},
-    {'9', '9', '('},
-    {'0', '0', ')'},
-    {VK_OEM_MINUS, '-', '_'},
-    {VK_OEM_PLUS, '=', '+'},
-    {VK_OEM_4, '[', '{'},
-    {VK_OEM_6, ']', '}'},
-    {VK_OEM_1, ';', ':'},
-    {VK_OEM_7, '\'', '"'},
-    {VK_OEM_3, '`', '~'},
-    {VK_OEM_5, '\\', '|'},
-    {VK_OEM_COMMA, ',', '<'},
-    {VK_OEM_PERIOD, '.', '>'},
-    {VK_OEM_2, '/', '?'},
-    {VK_SPACE, ' ', ' '},
-    {VK_BACK, '\b', '\b'},
-    {VK_TAB, '\t', '\t'},
-    {VK_RETURN, '\r', '\r'},
-    {VK_ESCAPE, '\x1B', '\x1B'},
-    {VK_CANCEL, '\x03', '\x03'},
-    // After the main keys, where a character is looked up.
-    {VK_OEM_102, '\\', '|'},
-    {VK_ADD, '+', '+'},
-    {VK_SUBTRACT, '-', '-'},
-    {VK_MULTIPLY, '*', '*'},
-    {VK_DIVIDE, '/', '/'},
-    {VK_DECIMAL, '.', '.'},
-    {VK_NUMPAD0, '0', '0'},
-    {VK_NUMPAD1, '1', '1'},
-    {VK_NUMPAD2, '2', '2'},
-    {VK_NUMPAD3, '3', '3'},
-    {VK_NUMPAD4, '4', '4'},
-    {VK_NUMPAD5, '5', '5'},
-    {VK_NUMPAD6, '6', '6'},
-    {VK_NUMPAD7, '7', '7'},
-    {VK_NUMPAD8, '8', '8'},
-    {VK_NUMPAD9, '9', '9'},
-};
+// The keys that make a character, and below it what it is without Shift and with it.
+constexpr BYTE kTextKeys[] = {
+    '1',          '2',           '3',         '4',         '5',        '6',        '7',        '8',        '9',
+    '0',          VK_OEM_MINUS,  VK_OEM_PLUS, VK_OEM_4,    VK_OEM_6,   VK_OEM_1,   VK_OEM_7,   VK_OEM_3,   VK_OEM_5,
+    VK_OEM_COMMA, VK_OEM_PERIOD, VK_OEM_2,    VK_SPACE,    VK_BACK,    VK_TAB,     VK_RETURN,  VK_ESCAPE,  VK_CANCEL,
+    VK_OEM_102,   VK_ADD,        VK_SUBTRACT, VK_MULTIPLY, VK_DIVIDE,  VK_DECIMAL, VK_NUMPAD0, VK_NUMPAD1, VK_NUMPAD2,
+    VK_NUMPAD3,   VK_NUMPAD4,    VK_NUMPAD5,  VK_NUMPAD6,  VK_NUMPAD7, VK_NUMPAD8, VK_NUMPAD9};
+constexpr char kUnshifted[] = "1234567890-=[];'`\\,./ \b\t\r\x1B\x03\\+-*/.0123456789";
+constexpr char kShifted[] = "!@#$%^&*()_+{}:\"~|<>? \b\t\r\x1B\x03|+-*/.0123456789";
+static_assert(sizeof kUnshifted == sizeof kTextKeys + 1 && sizeof kShifted == sizeof kUnshifted);
 
 struct KeyName {
     BYTE key;
@@ -90,9 +50,9 @@ int CharacterOf(UINT key, bool shift, bool control, bool alt, bool capital) {
     if (key >= 'A' && key <= 'Z') {
         return static_cast<int>(shift != capital ? key : key - 'A' + 'a');
     }
-    for (const KeyText& each : kText) {
-        if (each.key == key) {
-            return static_cast<unsigned char>(shift ? each.shifted : each.plain);
+    for (std::size_t index = 0; index < std::size(kTextKeys); ++index) {
+        if (kTextKeys[index] == key) {
+            return static_cast<unsigned char>(shift ? kShifted[index] : kUnshifted[index]);
         }
     }
     return -1;

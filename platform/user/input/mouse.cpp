@@ -107,23 +107,7 @@ LPARAM PointIn(const Window* window, POINT point) {
     return MAKELPARAM(point.x - window->clientRect.left, point.y - window->clientRect.top);
 }
 
-// Ancestors hear of presses in their descendants.
-void TellParentsOfPress(UserHold& hold, HWND window, UINT message, POINT point) {
-    for (;;) {
-        const Window* child = PeekWindow(window);
-        if (child == nullptr || (child->style & WS_CHILD) == 0 || (child->exStyle & WS_EX_NOPARENTNOTIFY) != 0 ||
-            child->parent == nullptr || child->parent == Desktop()) {
-            return;
-        }
-        window = child->parent->handle;
-        const LPARAM where = PointIn(child->parent, point);
-        hold.unlock();
-        SendMessageA(window, WM_PARENTNOTIFY, MAKEWPARAM(message, 0), where);
-        hold.lock();
-    }
-}
-
-// @returns false when the press only served to activate the window.
+// @returns false when the window that was pressed cannot be activated.
 bool AskForActivation(ThreadState* self, UserHold& hold, const Target& target, UINT message) {
     Window* window = PeekWindow(target.window);
     const Window* top = window != nullptr ? TopLevel(window) : nullptr;
@@ -134,15 +118,10 @@ bool AskForActivation(ThreadState* self, UserHold& hold, const Target& target, U
     hold.unlock();
     const LRESULT answer = SendMessageA(target.window, WM_MOUSEACTIVATE, reinterpret_cast<WPARAM>(topHandle),
                                         MAKELPARAM(target.hit, message));
-    bool wanted = answer != MA_ACTIVATEANDEAT && answer != MA_NOACTIVATEANDEAT;
-    if (answer == MA_ACTIVATE || answer == MA_ACTIVATEANDEAT) {
-        const bool already = topHandle == self->active && GetForegroundWindow() == topHandle;
-        if (!already && !ActivateWindow(topHandle, true)) {
-            wanted = false;
-        }
-    }
+    const bool already = topHandle == self->active && GetForegroundWindow() == topHandle;
+    const bool goesOn = answer != MA_ACTIVATE || already || ActivateWindow(topHandle, true);
     hold.lock();
-    return wanted;
+    return goesOn;
 }
 
 // What a press or a move brings with it when the mouse is not captured. @returns whether the message still goes out.
@@ -158,7 +137,6 @@ bool Accompany(ThreadState* self, UserHold& hold, const InputEvent& event, const
         return false;
     }
     if (press) {
-        TellParentsOfPress(hold, target.window, ButtonMessage(event), event.point);
         if (!AskForActivation(self, hold, target, message)) {
             return false;
         }

@@ -1,33 +1,12 @@
 // Input made by programs; it goes the way of real input.
-#include "gdi/surface/screen.h"
-
 #include "user/input/input.h"
-#include "user/model/input_state.h"
-#include "user/model/thread.h"
 
 namespace platform::user {
 namespace {
 
-// Absolute positions run from 0 to 65535 across the screen.
-POINT Destination(const MOUSEINPUT& mouse) {
-    if ((mouse.dwFlags & MOUSEEVENTF_ABSOLUTE) != 0) {
-        const RECT screen = gdi::ScreenRect();
-        const auto scale = [](LONG value, LONG size) {
-            return static_cast<LONG>(static_cast<LONGLONG>(value) * size / 65536);
-        };
-        return {scale(mouse.dx, screen.right), scale(mouse.dy, screen.bottom)};
-    }
-    UserGuard guard(UserLock());
-    return {Input().cursor.x + mouse.dx, Input().cursor.y + mouse.dy};
-}
-
 void InjectMouse(const MOUSEINPUT& mouse) {
     InputEvent event;
     event.time = mouse.time;
-    if ((mouse.dwFlags & MOUSEEVENTF_MOVE) != 0) {
-        event.point = Destination(mouse);
-        Inject(event);
-    }
     constexpr struct {
         DWORD flag;
         BYTE button;
@@ -54,23 +33,18 @@ void InjectMouse(const MOUSEINPUT& mouse) {
     }
 }
 
-// Programs name a modifier without its side: the scan code or the extended flag tells which one it is.
-BYTE SideOf(BYTE key, WORD scan, bool extended) {
+/// Programs name a modifier without its side.
+BYTE LeftOf(WORD key) {
     switch (key) {
         case VK_SHIFT:
-            return scan == ScanOfKey(VK_RSHIFT) ? VK_RSHIFT : VK_LSHIFT;
+            return VK_LSHIFT;
         case VK_CONTROL:
-            return extended ? VK_RCONTROL : VK_LCONTROL;
+            return VK_LCONTROL;
         case VK_MENU:
-            return extended ? VK_RMENU : VK_LMENU;
+            return VK_LMENU;
         default:
-            return key;
+            return static_cast<BYTE>(key);
     }
-}
-
-bool NumLockOn() {
-    UserGuard guard(UserLock());
-    return (Input().keys[VK_NUMLOCK] & 1) != 0;
 }
 
 bool InjectKeyboard(const KEYBDINPUT& keyboard) {
@@ -78,19 +52,8 @@ bool InjectKeyboard(const KEYBDINPUT& keyboard) {
     event.time = keyboard.time;
     event.kind = InputKind::Key;
     event.down = (keyboard.dwFlags & KEYEVENTF_KEYUP) == 0;
-    event.extended = (keyboard.dwFlags & KEYEVENTF_EXTENDEDKEY) != 0;
     event.scan = keyboard.wScan;
-    if ((keyboard.dwFlags & KEYEVENTF_UNICODE) != 0) {
-        event.code = VK_PACKET;
-        event.unicode = event.down ? keyboard.wScan : 0;
-        event.scan = 0;
-    } else if ((keyboard.dwFlags & KEYEVENTF_SCANCODE) != 0) {
-        const UINT number = !event.extended && NumLockOn() ? KeypadNumber(keyboard.wScan) : 0;
-        event.code = static_cast<BYTE>(number != 0 ? number : KeyOfScan(keyboard.wScan, event.extended, true));
-    } else {
-        event.code = SideOf(static_cast<BYTE>(keyboard.wVk), keyboard.wScan, event.extended);
-        event.extended = event.extended || event.code == VK_RCONTROL || event.code == VK_RMENU;
-    }
+    event.code = LeftOf(keyboard.wVk);
     if (event.code == 0) {
         return false;
     }

@@ -1,6 +1,7 @@
 // What a person does with a menu: presses, drags and lets go, or goes through it with the keys.
 #include "user/menu/menu.h"
 
+#include "user/frame/mnemonic.h"
 #include "user/frame/nonclient.h"
 #include "user/menu/menu_window.h"
 #include "user/model/thread.h"
@@ -10,21 +11,6 @@ namespace {
 
 bool IsKey(UINT message) {
     return message >= WM_KEYFIRST && message <= WM_KEYLAST;
-}
-
-char Capital(char character) {
-    char text[2] = {character, '\0'};
-    CharUpperA(text);
-    return text[0];
-}
-
-char MnemonicOf(const char* text) {
-    for (; *text; ++text) {
-        if (*text == '&' && *++text != '&') {
-            return Capital(*text);
-        }
-    }
-    return '\0';
 }
 
 /// @returns whether a key message is the key's first one, not a repetition.

@@ -187,7 +187,7 @@ LRESULT CALLBACK MenuProcedure(HWND window, UINT message, WPARAM wParam, LPARAM 
 }  // namespace
 
 void RegisterMenuClass() {
-    RegisterSystemClass(kMenuClass, MenuProcedure, CS_SAVEBITS, 0, IDC_ARROW, nullptr);
+    RegisterSystemClass(kMenuClass, MenuProcedure, 0, 0, IDC_ARROW, nullptr);
 }
 
 bool ShowMenu(OpenMenu& menu, HWND owner, const MenuPlace& place) {

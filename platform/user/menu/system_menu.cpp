@@ -10,7 +10,6 @@ namespace {
 
 struct Subject {
     DWORD style;
-    bool closes;
     MenuPlace place;
 };
 
@@ -21,7 +20,6 @@ bool Describe(HWND handle, const POINT* at, bool keyboard, Subject* subject) {
         return false;
     }
     subject->style = window->style;
-    subject->closes = !(window->windowClass->style & CS_NOCLOSE);
     subject->place.firstChosen = keyboard;
     if (at) {
         subject->place.at = *at;
@@ -41,7 +39,7 @@ std::vector<MenuItem> ItemsFor(const Subject& subject) {
     const bool maximized = !minimized && (subject.style & WS_MAXIMIZE);
     const bool plain = !minimized && !maximized;
     const MenuItem move{SC_MOVE, "&Move", plain};
-    const MenuItem close{SC_CLOSE, "&Close\tAlt+F4", subject.closes};
+    const MenuItem close{SC_CLOSE, "&Close\tAlt+F4", true};
     if (!(subject.style & (WS_THICKFRAME | WS_MINIMIZEBOX | WS_MAXIMIZEBOX))) {
         return {move, close};
     }

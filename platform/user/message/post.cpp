@@ -33,16 +33,6 @@ bool Post(ThreadState* thread, HWND window, UINT message, WPARAM wParam, LPARAM 
     return true;
 }
 
-bool PostToWindow(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    UserGuard guard(UserLock());
-    const Window* target = FindWindowObject(window);
-    if (target == nullptr) {
-        return false;
-    }
-    // The desktop window has no queue: what is posted to it concerns nobody.
-    return target->thread == nullptr || Post(target->thread, window, message, wParam, lParam);
-}
-
 }  // namespace
 }  // namespace platform::user
 
@@ -55,18 +45,13 @@ BOOL WINAPI PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam
     if (window == nullptr) {
         return PostThreadMessageA(GetCurrentThreadId(), message, wParam, lParam);
     }
-    if (window != HWND_BROADCAST) {
-        return PostToWindow(window, message, wParam, lParam);
-    }
-    try {
-        for (HWND each : BroadcastTargets()) {
-            PostToWindow(each, message, wParam, lParam);
-        }
-        return TRUE;
-    } catch (const std::bad_alloc&) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+    UserGuard guard(UserLock());
+    const Window* target = FindWindowObject(window);
+    if (target == nullptr) {
         return FALSE;
     }
+    // The desktop window has no queue: what is posted to it concerns nobody.
+    return target->thread == nullptr || Post(target->thread, window, message, wParam, lParam);
 }
 
 BOOL WINAPI PostThreadMessageA(DWORD thread, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -27,8 +27,12 @@ struct SentMessage {
     int holders = 1;
 };
 
-/// Gives a sent message or errand to a thread and takes over one hold on it. Lock held. @returns false without memory.
+/// Gives a sent message to a thread and takes over one hold on it. Lock held. @returns false without memory.
 bool Enqueue(ThreadState* receiver, SentMessage* sent);
+
+/// Gives a thread something to do about a window, which may be gone by then. Lock held. @returns false without memory.
+using Errand = void (*)(const SentMessage& sent);
+bool EnqueueErrand(ThreadState* receiver, Errand errand, HWND window, WPARAM wParam = 0, LPARAM lParam = 0);
 
 /// Answers the messages that other threads have sent to this one. The lock is released meanwhile.
 void ServeSent(ThreadState* self, UserHold& hold);
@@ -39,22 +43,16 @@ void Tell(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 /// @returns whether a message may only be sent, with ERROR_MESSAGE_SYNC_ONLY set, because its parameters point to data.
 bool MustBeSynchronous(UINT message);
 
-/// @returns all top-level windows. Throws bad_alloc.
-std::vector<HWND> BroadcastTargets();
-
 /// Calls a window's procedure directly (same thread).
 LRESULT CallProcedure(WNDPROC procedure, HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-
-/// Sends a message to all top-level windows of all threads (WM_SYSCOLORCHANGE, WM_WININICHANGE); bounded wait.
-void BroadcastSetting(UINT message, WPARAM wParam, LPARAM lParam);
 
 // --- timers (timer.cpp). Lock held.
 
 /// Marks the timers whose time has come, and sets QS_TIMER for new ones. @returns when the next one is due, else
 /// UINT64_MAX.
 std::uint64_t CheckTimers(ThreadState* self);
-/// Takes the WM_TIMER of a ready timer, of one window or of any.
-bool TakeTimer(ThreadState* self, HWND window, bool any, bool remove, MSG* message);
+/// Takes the WM_TIMER of a ready timer.
+bool TakeTimer(ThreadState* self, bool remove, MSG* message);
 /// @returns whether the thread has set this timer with this procedure.
 bool OwnsTimerProcedure(const ThreadState* self, HWND window, UINT_PTR id, LPARAM procedure);
 void ForgetTimers(Window* window);

@@ -34,7 +34,7 @@ enum class Sending { Done, TimedOut, NoWindow };
 
 // Lock held once; the target belongs to another thread.
 Sending SendAcross(ThreadState* self, UserHold& hold, Window* target, UINT message, WPARAM wParam, LPARAM lParam,
-                   UINT flags, std::uint64_t deadline, LRESULT* result) {
+                   std::uint64_t deadline, LRESULT* result) {
     auto* sent = new (std::nothrow) SentMessage;
     if (sent == nullptr) {
         SetLastError(ERROR_NOT_ENOUGH_MEMORY);
@@ -52,7 +52,7 @@ Sending SendAcross(ThreadState* self, UserHold& hold, Window* target, UINT messa
         return Sending::NoWindow;
     }
     while (!sent->replied) {
-        if ((flags & SMTO_BLOCK) == 0 && !self->sent.empty()) {
+        if (!self->sent.empty()) {
             ServeSent(self, hold);
             continue;
         }
@@ -75,19 +75,12 @@ bool CarriesPointer(UINT message) {
         case WM_NCCREATE:
         case WM_SETTEXT:
         case WM_GETTEXT:
-        case WM_GETMINMAXINFO:
         case WM_DRAWITEM:
         case WM_MEASUREITEM:
-        case WM_DELETEITEM:
         case WM_WINDOWPOSCHANGING:
         case WM_WINDOWPOSCHANGED:
         case WM_NOTIFY:
         case WM_HELP:
-        case WM_STYLECHANGING:
-        case WM_STYLECHANGED:
-        case WM_NCCALCSIZE:
-        case WM_SIZING:
-        case WM_MOVING:
             return true;
         default:
             return false;
@@ -104,15 +97,6 @@ bool MustBeSynchronous(UINT message) {
     return false;
 }
 
-std::vector<HWND> BroadcastTargets() {
-    std::vector<HWND> targets;
-    UserGuard guard(UserLock());
-    for (const Window* window = Desktop()->firstChild; window != nullptr; window = window->next) {
-        targets.push_back(window->handle);
-    }
-    return targets;
-}
-
 bool Enqueue(ThreadState* receiver, SentMessage* sent) {
     try {
         receiver->sent.push_back(sent);
@@ -120,6 +104,22 @@ bool Enqueue(ThreadState* receiver, SentMessage* sent) {
         return false;
     }
     WakeThread(receiver, QS_SENDMESSAGE);
+    return true;
+}
+
+bool EnqueueErrand(ThreadState* receiver, Errand errand, HWND window, WPARAM wParam, LPARAM lParam) {
+    auto* sent = new (std::nothrow) SentMessage;
+    if (sent == nullptr) {
+        return false;
+    }
+    sent->errand = errand;
+    sent->window = window;
+    sent->wParam = wParam;
+    sent->lParam = lParam;
+    if (!Enqueue(receiver, sent)) {
+        delete sent;
+        return false;
+    }
     return true;
 }
 
@@ -163,17 +163,6 @@ LRESULT CallProcedure(WNDPROC procedure, HWND window, UINT message, WPARAM wPara
     return procedure != nullptr ? procedure(window, message, wParam, lParam) : 0;
 }
 
-void BroadcastSetting(UINT message, WPARAM wParam, LPARAM lParam) {
-    constexpr UINT kPatience = 1000;
-    try {
-        for (HWND window : BroadcastTargets()) {
-            SendMessageTimeoutA(window, message, wParam, lParam, SMTO_ABORTIFHUNG, kPatience, nullptr);
-        }
-    } catch (const std::bad_alloc&) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-    }
-}
-
 // Within a thread the procedure is called at once.
 void Tell(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     ThreadState* self = CurrentThread();
@@ -206,26 +195,7 @@ void Tell(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
 using namespace platform::user;
 namespace base = platform::base;
 
-namespace {
-
-LRESULT SendToAll(UINT message, WPARAM wParam, LPARAM lParam) {
-    try {
-        for (HWND window : BroadcastTargets()) {
-            SendMessageA(window, message, wParam, lParam);
-        }
-    } catch (const std::bad_alloc&) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return 0;
-    }
-    return 1;
-}
-
-}  // namespace
-
 LRESULT WINAPI SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (window == HWND_BROADCAST) {
-        return SendToAll(message, wParam, lParam);
-    }
     ThreadState* self = CurrentThread();
     UserHold hold(UserLock());
     Window* target = FindWindowObject(window);
@@ -238,22 +208,36 @@ LRESULT WINAPI SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lPa
         return CallProcedure(procedure, window, message, wParam, lParam);
     }
     LRESULT result = 0;
-    SendAcross(self, hold, target, message, wParam, lParam, SMTO_NORMAL, UINT64_MAX, &result);
+    SendAcross(self, hold, target, message, wParam, lParam, UINT64_MAX, &result);
     return result;
 }
+
+namespace {
+
+/// Sends a message to all top-level windows of all threads.
+LRESULT SendToAll(UINT message, WPARAM wParam, LPARAM lParam, UINT flags, UINT timeout, DWORD_PTR* result) {
+    std::vector<HWND> targets;
+    try {
+        const UserGuard guard(UserLock());
+        for (const Window* window = Desktop()->firstChild; window != nullptr; window = window->next) {
+            targets.push_back(window->handle);
+        }
+    } catch (const std::bad_alloc&) {
+        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+        return 0;
+    }
+    for (HWND each : targets) {
+        SendMessageTimeoutA(each, message, wParam, lParam, flags, timeout, result);
+    }
+    return 1;
+}
+
+}  // namespace
 
 LRESULT WINAPI SendMessageTimeoutA(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT flags, UINT timeout,
                                    DWORD_PTR* result) {
     if (window == HWND_BROADCAST) {
-        try {
-            for (HWND each : BroadcastTargets()) {
-                SendMessageTimeoutA(each, message, wParam, lParam, flags, timeout, result);
-            }
-            return 1;
-        } catch (const std::bad_alloc&) {
-            SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-            return 0;
-        }
+        return SendToAll(message, wParam, lParam, flags, timeout, result);
     }
     ThreadState* self = CurrentThread();
     UserHold hold(UserLock());
@@ -268,7 +252,7 @@ LRESULT WINAPI SendMessageTimeoutA(HWND window, UINT message, WPARAM wParam, LPA
         answer = CallProcedure(procedure, window, message, wParam, lParam);
     } else {
         const std::uint64_t deadline = base::TickCount64() + timeout;
-        const Sending sending = SendAcross(self, hold, target, message, wParam, lParam, flags, deadline, &answer);
+        const Sending sending = SendAcross(self, hold, target, message, wParam, lParam, deadline, &answer);
         if (sending == Sending::TimedOut) {
             SetLastError(ERROR_TIMEOUT);
         }

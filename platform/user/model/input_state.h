@@ -13,8 +13,7 @@ namespace platform::user {
 /// Guarded by UserLock.
 struct InputState {
     POINT cursor{};
-    BYTE keys[256] = {};          ///< 0x80 down, 0x01 toggled
-    bool pressedSince[256] = {};  ///< went down since GetAsyncKeyState last asked
+    BYTE keys[256] = {};  ///< 0x80 down, 0x01 toggled
     ThreadState* foreground = nullptr;
     ThreadState* buttonThread = nullptr;  ///< took the first button that is down
     std::uint64_t lastNumber = 0;

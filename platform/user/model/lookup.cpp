@@ -1,4 +1,6 @@
 // Finding windows, and walking the tree that they make.
+#include <algorithm>
+
 #include "base/immortal.h"
 #include "user/model/window.h"
 
@@ -34,7 +36,6 @@ Window* MakeRoot(const char* className, const RECT& area) {
     root->procedure = DefWindowProcA;
     root->style = WS_VISIBLE | WS_CLIPCHILDREN | WS_CLIPSIBLINGS | WS_POPUP;
     root->windowRect = root->clientRect = area;
-    root->created = true;
     root->handle = base::ToHandle<HWND>(base::InsertHandle(base::HandleKind::Window, root));
     return root;
 }
@@ -58,6 +59,25 @@ Window* Desktop() {
 Window* Orphanage() {
     static Window* const root = MakeRoot("Orphanage", RECT{0, 0, 100, 100});
     return root;
+}
+
+int CopyText(std::string_view text, std::size_t size, char* buffer) {
+    if (!buffer || size == 0) {
+        return 0;
+    }
+    const std::size_t length = text.copy(buffer, size - 1);
+    buffer[length] = '\0';
+    return static_cast<int>(length);
+}
+
+bool SameName(std::string_view a, std::string_view b) noexcept {
+    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [lower](char x, char y) { return x == y || lower(x) == lower(y); });
+}
+
+bool IsNamed(const WindowClass& windowClass, LPCSTR name) {
+    return IS_INTRESOURCE(name) ? windowClass.atom == LOWORD(name) : SameName(windowClass.name, name);
 }
 
 bool IsShown(const Window* window) {

@@ -52,7 +52,6 @@ struct ThreadState {
     int quitCode = 0;
     DWORD wakeBits = 0;    ///< QS_ bits that came since the queue was last looked at
     int paintWindows = 0;  ///< hint: more than 0 when some window of this thread may need WM_PAINT
-    int windowCount = 0;
     HWND active = nullptr;
     HWND focus = nullptr;
     HWND capture = nullptr;
@@ -61,7 +60,6 @@ struct ThreadState {
     DWORD messagePosition = 0;
     struct {
         HWND window = nullptr;
-        HBITMAP bitmap = nullptr;
         int width = 0, height = 0;
         POINT position{};
         int hideCount = 1;

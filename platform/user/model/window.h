@@ -13,6 +13,7 @@
 #include <memory>
 #include <mutex>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/handle.h"
@@ -25,7 +26,7 @@ struct DialogState;
 struct ControlData;
 
 struct WindowClass {
-    ATOM atom = 0;
+    ATOM atom = 0;  ///< stands for the name
     std::string name;
     bool system = false;           ///< defined by the layer itself (button, static, #32770 ...), seen by every module
     HINSTANCE instance = nullptr;  ///< the module that registered it
@@ -35,14 +36,11 @@ struct WindowClass {
     HICON icon = nullptr;
     HCURSOR cursor = nullptr;
     HBRUSH background = nullptr;
-    std::string menuName;
-    LPCSTR menuId = nullptr;  ///< when the menu was given by number
-    int classExtra = 0;       ///< as GetClassInfoA tells; nobody can reach the bytes
-    int windows = 0;          ///< windows of the class that are alive
+    int windows = 0;  ///< windows of the class that are alive
 };
 
 struct WindowProperty {
-    std::string name;  ///< as it was first given, or "#number"; compared without regard to case
+    std::string name;  ///< as it was first given; compared without regard to case
     HANDLE data = nullptr;
 };
 
@@ -73,21 +71,17 @@ struct Window {
     gdi::Region update;
     bool eraseNeeded = false;                 ///< WM_ERASEBKGND is due with the next BeginPaint
     bool frameNeeded = false;                 ///< WM_NCPAINT is due
-    bool internalPaint = false;               ///< RDW_INTERNALPAINT
     bool paintRuns = false;                   ///< its WM_PAINT is being handled and has not come to BeginPaint
     struct PaintState* paintState = nullptr;  ///< the painting module's own: cached visible regions
-    bool sizeSent = false;                    ///< WM_SIZE and WM_MOVE were sent; else the first ShowWindow sends them
+    bool sizeSent = false;                    ///< WM_SIZE was sent; else the first ShowWindow sends it
     bool hiddenByOwner = false;               ///< hidden because its owner was minimised
 
     RECT restoredRect{};  ///< normal position while minimised or maximised
     bool destroying = false;
     bool goesAlong = false;         ///< is to be told of the end of its owner or parent, which is its own too
     bool ending = false;            ///< its children are gone, or going: no new ones are made
-    bool created = false;           ///< WM_CREATE has returned
     bool captionActive = false;     ///< how the caption was drawn last (WM_NCACTIVATE)
     bool restoreMaximised = false;  ///< minimised while it was maximised
-    HICON bigIcon = nullptr;        ///< WM_SETICON
-    HICON smallIcon = nullptr;
 
     // Dialogs and controls: shared, so that a handler that is running outlives its window.
     std::shared_ptr<DialogState> dialog;      ///< made when the dialog procedure first sees the window
@@ -121,6 +115,15 @@ Window* Orphanage();
 
 /// @returns the handle by which applications may know a window; null for none and for the parent of message-only windows.
 HWND HandleOf(const Window* window);
+
+/// Puts as much of a text into a buffer as fits, with a final NUL. @returns how much that is.
+int CopyText(std::string_view text, std::size_t size, char* buffer);
+
+/// Compares names of classes and properties: ASCII letters match in either case.
+bool SameName(std::string_view a, std::string_view b) noexcept;
+
+/// @returns whether a name, or an atom in its place, is that of a class.
+bool IsNamed(const WindowClass& windowClass, LPCSTR name);
 
 /// @returns whether the style is that of a child window: WS_CHILD without WS_POPUP.
 inline bool IsChildStyle(DWORD style) {

@@ -192,7 +192,7 @@ void ForgetPainting(Window* window) {
         ++i;
     }
     window->update.Clear();
-    window->eraseNeeded = window->frameNeeded = window->internalPaint = false;
+    window->eraseNeeded = window->frameNeeded = false;
     delete window->paintState;
     window->paintState = nullptr;
 }

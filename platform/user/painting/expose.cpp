@@ -51,9 +51,7 @@ void ExposeScreen(const gdi::Region& area) {
             continue;
         }
         InvalidateTree(window, bare);
-        if ((window->exStyle & WS_EX_TRANSPARENT) == 0) {
-            bare.Subtract(window->windowRect);
-        }
+        bare.Subtract(window->windowRect);
     }
     if (!bare.Empty()) {
         PaintDesktop(bare);

@@ -1,7 +1,7 @@
 // The steps of a paint: WM_NCPAINT where the frame is due, WM_ERASEBKGND where the background is, WM_PAINT.
-#include "user/painting/paint_list.h"
-
+#include <new>
 #include <utility>
+#include <vector>
 
 #include "base/handle.h"
 #include "user/message/above.h"
@@ -37,15 +37,15 @@ bool SubtreeNeedsPaint(const Window* window) {
     return false;
 }
 
-/// Lists the children that have something to paint; those that show what is beneath them come last.
-void ListChildren(const Window* window, PaintList& list) {
-    for (const bool transparent : {false, true}) {
-        for (const Window* child = window->firstChild; child != nullptr; child = child->next) {
-            if (((child->exStyle & WS_EX_TRANSPARENT) != 0) == transparent && SubtreeNeedsPaint(child)) {
-                list.Add(child->handle);
-            }
+/// Lists the children that have something to paint. What is left out for want of memory gets its WM_PAINT from the queue.
+void ListChildren(const Window* window, std::vector<HWND>& list) try {
+    for (const Window* child = window->firstChild; child != nullptr; child = child->next) {
+        if (SubtreeNeedsPaint(child)) {
+            list.push_back(child->handle);
         }
     }
+} catch (const std::bad_alloc&) {
+    return;
 }
 
 }  // namespace
@@ -130,7 +130,7 @@ LRESULT CallPaint(HWND handle, WPARAM wParam, LPARAM lParam) {
     return result;
 }
 
-void UpdateTree(HWND handle, UINT children, bool eraseOnly) {
+void UpdateTree(HWND handle, bool allChildren, bool eraseOnly) {
     bool due = false;
     bool own = false;
     {
@@ -140,10 +140,7 @@ void UpdateTree(HWND handle, UINT children, bool eraseOnly) {
             return;
         }
         due = NeedsPaint(window) && PruneUpdate(window);
-        if (due && !eraseOnly) {
-            TakePaintRequest(window);
-            own = window->thread == CurrentThread();
-        }
+        own = window->thread == CurrentThread();
     }
     if (due) {
         if (eraseOnly) {
@@ -155,21 +152,18 @@ void UpdateTree(HWND handle, UINT children, bool eraseOnly) {
             SendMessageA(handle, WM_PAINT, 0, 0);
         }
     }
-    PaintList list;
+    std::vector<HWND> list;
     {
         UserGuard guard(UserLock());
         const Window* window = PeekWindow(handle);
-        if (window == nullptr || window->firstChild == nullptr || (children & RDW_NOCHILDREN) != 0 ||
-            (window->style & WS_MINIMIZE) != 0) {
-            return;
-        }
-        if ((children & RDW_ALLCHILDREN) == 0 && (window->style & WS_CLIPCHILDREN) != 0) {
+        if (window == nullptr || (window->style & WS_MINIMIZE) != 0 ||
+            (!allChildren && (window->style & WS_CLIPCHILDREN) != 0)) {
             return;
         }
         ListChildren(window, list);
     }
     for (HWND child : list) {
-        UpdateTree(child, children, eraseOnly);
+        UpdateTree(child, allChildren, eraseOnly);
     }
 }
 
@@ -213,7 +207,6 @@ HDC WINAPI BeginPaint(HWND handle, LPPAINTSTRUCT paint) {
         region.Offset(window->windowRect.left, window->windowRect.top);
         region.Intersect(Visible(window, StyleFlags(window)));
         InvalidateOverpainted(window, region);
-        TakePaintRequest(window);
         erase = window->eraseNeeded && !region.Empty();
         window->eraseNeeded = false;
         context = AcquireContext(window, false, &region, true);

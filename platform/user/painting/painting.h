@@ -53,23 +53,18 @@ void InvalidateTree(Window* window, const gdi::Region& area);
 /// Invalidates what lies under an area within a parent's client area: the parent itself and its children.
 void ExposeWithin(Window* parent, const gdi::Region& area);
 
-/// The part of the screen, in screen coordinates, that drawing to the window (or only its client area) reaches: cut by
-/// ancestors, by siblings above it where WS_CLIPSIBLINGS is set (top-level windows always cut each other) and by its own
-/// children where WS_CLIPCHILDREN is set or clipChildren is asked. Lock held.
-gdi::Region VisibleRegion(Window* window, bool clientOnly, bool clipChildren);
-
 /// Invalidates whatever lies in an area of the screen that nobody has drawn: windows from the top of the z-order, and the
 /// desktop's background. Area in screen coordinates.
 void ExposeScreen(const gdi::Region& area);
 
-/// @returns whether the window has something to paint (update region or internal paint). Lock held.
+/// @returns whether the window has something to paint : its update region holds something. Lock held.
 bool NeedsPaint(const Window* window);
 
 /// Forgets device contexts and regions of a window that is going away.
 void ForgetPainting(Window* window);
 
-/// Called after any change of the tree, of a rectangle, of WS_VISIBLE, WS_CLIPCHILDREN, WS_CLIPSIBLINGS, WS_MINIMIZE or
-/// WS_EX_TRANSPARENT: visible regions are worked out anew when they are next asked for. Cheap. Lock held.
+/// Called after any change of the tree, of a rectangle, of WS_VISIBLE, WS_CLIPCHILDREN, WS_CLIPSIBLINGS or
+/// WS_MINIMIZE: visible regions are worked out anew when they are next asked for. Cheap. Lock held.
 void WindowsChanged();
 
 // --- contexts (dc.cpp)
@@ -94,8 +89,8 @@ void SendFramePaint(HWND handle);
 void SendErase(HWND handle);
 
 /// Sends WM_PAINT to a window and its descendants where it is due, each once, parents first.
-/// children: 0 as WS_CLIPCHILDREN says, RDW_ALLCHILDREN or RDW_NOCHILDREN. erase: only frames and backgrounds.
-void UpdateTree(HWND handle, UINT children, bool eraseOnly);
+/// allChildren: even those of windows with WS_CLIPCHILDREN. eraseOnly: only frames and backgrounds.
+void UpdateTree(HWND handle, bool allChildren, bool eraseOnly);
 
 /// Moves the pixels of a client area that nobody else draws to; what comes into view has to be painted. Takes the lock itself.
 /// @param erase  whether its background is due as well.

@@ -10,7 +10,7 @@ namespace platform::user {
 namespace {
 
 bool AffectsChildren(const Window* window, UINT flags) {
-    return (flags & RDW_ALLCHILDREN) != 0 || ((flags & RDW_NOCHILDREN) == 0 && (window->style & WS_CLIPCHILDREN) == 0);
+    return (flags & RDW_ALLCHILDREN) != 0 || (window->style & WS_CLIPCHILDREN) == 0;
 }
 
 void InvalidateWalk(Window* window, const gdi::Region& area, UINT flags) {
@@ -35,10 +35,7 @@ void InvalidateWalk(Window* window, const gdi::Region& area, UINT flags) {
     }
 }
 
-void ValidateWalk(Window* window, const gdi::Region& area, UINT flags) {
-    if ((flags & RDW_NOFRAME) != 0) {
-        window->frameNeeded = false;
-    }
+void ValidateWalk(Window* window, const gdi::Region& area) {
     if (!window->update.Empty()) {
         gdi::Region valid = area;
         if (window->frameNeeded) {
@@ -47,20 +44,18 @@ void ValidateWalk(Window* window, const gdi::Region& area, UINT flags) {
         valid.Offset(-window->windowRect.left, -window->windowRect.top);
         window->update.Subtract(valid);
     }
-    if ((flags & RDW_NOERASE) != 0 || window->update.Empty()) {
-        window->eraseNeeded = false;
-    }
     if (window->update.Empty()) {
+        window->eraseNeeded = false;
         window->paintRuns = false;
     }
-    if (!AffectsChildren(window, flags)) {
+    if (!AffectsChildren(window, 0)) {
         return;
     }
     gdi::Region inside = area;
     inside.Intersect(window->clientRect);
     for (Window* child = window->firstChild; child != nullptr; child = child->next) {
         if (inside.Touches(child->windowRect)) {
-            ValidateWalk(child, inside, flags);
+            ValidateWalk(child, inside);
         }
     }
 }
@@ -94,7 +89,7 @@ void RedrawScreen(const RECT* rect) {
         }
     }
     for (HWND window : windows) {
-        UpdateTree(window, RDW_ALLCHILDREN, true);
+        UpdateTree(window, true, true);
     }
 }
 
@@ -141,26 +136,12 @@ BOOL WINAPI RedrawWindow(HWND handle, const RECT* rect, HRGN region, UINT flags)
         if (window == nullptr) {
             return FALSE;
         }
-        const gdi::Region area = AreaOf(window, rect, (flags & (RDW_FRAME | RDW_VALIDATE)) != 0);
-        if ((flags & RDW_INVALIDATE) != 0) {
-            if (IsShown(window)) {
-                InvalidateWalk(window, area, flags);
-            }
-        } else if ((flags & RDW_VALIDATE) != 0) {
-            ValidateWalk(window, area, flags);
-        }
-        if ((flags & RDW_INTERNALPAINT) != 0) {
-            window->internalPaint = true;
-            if (window->thread != nullptr) {
-                window->thread->paintWindows = 1;
-                WakeThread(window->thread, QS_PAINT);
-            }
-        } else if ((flags & RDW_NOINTERNALPAINT) != 0) {
-            window->internalPaint = false;
+        if ((flags & RDW_INVALIDATE) != 0 && IsShown(window)) {
+            InvalidateWalk(window, AreaOf(window, rect, (flags & RDW_FRAME) != 0), flags);
         }
     }
-    if ((flags & (RDW_UPDATENOW | RDW_ERASENOW)) != 0) {
-        UpdateTree(handle, flags & (RDW_ALLCHILDREN | RDW_NOCHILDREN), (flags & RDW_UPDATENOW) == 0);
+    if ((flags & RDW_UPDATENOW) != 0) {
+        UpdateTree(handle, (flags & RDW_ALLCHILDREN) != 0, false);
     }
     return TRUE;
 }
@@ -174,8 +155,13 @@ BOOL WINAPI ValidateRect(HWND handle, const RECT* rect) {
         // Documented so: without a window everything is invalidated.
         return RedrawWindow(nullptr, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
     }
-    if (!RedrawWindow(handle, rect, nullptr, RDW_VALIDATE)) {
-        return FALSE;
+    {
+        const UserGuard guard(UserLock());
+        Window* window = FindWindowObject(handle);
+        if (window == nullptr) {
+            return FALSE;
+        }
+        ValidateWalk(window, AreaOf(window, rect, true));
     }
     FinishFrame(handle);
     return TRUE;
@@ -188,6 +174,6 @@ BOOL WINAPI UpdateWindow(HWND handle) {
             return FALSE;
         }
     }
-    UpdateTree(handle, RDW_ALLCHILDREN, false);
+    UpdateTree(handle, true, false);
     return TRUE;
 }

@@ -21,18 +21,12 @@ Window* Search(Window* window, const ThreadState* thread) {
 }
 
 Window* SearchChildren(Window* parent, const ThreadState* thread) {
-    Window* transparent = nullptr;
     for (Window* child = parent->firstChild; child != nullptr; child = child->next) {
-        if ((child->exStyle & WS_EX_TRANSPARENT) != 0) {
-            // It shows what the siblings beneath it have painted, so they come first.
-            if (transparent == nullptr) {
-                transparent = Search(child, thread);
-            }
-        } else if (Window* found = Search(child, thread); found != nullptr) {
+        if (Window* found = Search(child, thread); found != nullptr) {
             return found;
         }
     }
-    return transparent;
+    return nullptr;
 }
 
 }  // namespace
@@ -91,19 +85,12 @@ void MarkInvalid(Window* window, gdi::Region area, bool erase, bool frame) {
 }
 
 bool NeedsPaint(const Window* window) {
-    return window->internalPaint || !window->update.Empty();
+    return !window->update.Empty();
 }
 
-void TakePaintRequest(Window* window) {
-    window->internalPaint = false;
-}
-
-Window* NextPaintWindow(ThreadState* thread, Window* within) {
-    if (thread == nullptr || thread->paintWindows == 0) {
+Window* NextPaintWindow(ThreadState* thread) {
+    if (thread->paintWindows == 0) {
         return nullptr;
-    }
-    if (within != nullptr) {
-        return IsShown(within) ? Search(within, thread) : nullptr;
     }
     Window* found = SearchChildren(Desktop(), thread);
     if (found == nullptr) {

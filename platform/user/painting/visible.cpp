@@ -16,15 +16,10 @@ bool Overlap(const RECT& a, const RECT& b) {
            std::max(a.top, b.top) < std::min(a.bottom, b.bottom);
 }
 
-/// Whether a window hides what lies below it.
-bool Covers(const Window* window) {
-    return (window->style & WS_VISIBLE) != 0 && (window->exStyle & WS_EX_TRANSPARENT) == 0;
-}
-
 void CutSiblings(gdi::Region& region, const Window* window) {
     const RECT bounds = region.Bounds();
     for (const Window* above = window->previous; above != nullptr; above = above->previous) {
-        if (Covers(above) && Overlap(bounds, above->windowRect)) {
+        if ((above->style & WS_VISIBLE) != 0 && Overlap(bounds, above->windowRect)) {
             region.Subtract(above->windowRect);
         }
     }
@@ -57,7 +52,7 @@ void CutSurroundings(gdi::Region& region, const Window* window, bool ownSiblings
 
 void CutChildren(gdi::Region& region, const Window* window) {
     for (const Window* child = window->firstChild; child != nullptr; child = child->next) {
-        if (!Covers(child) || !Overlap(child->windowRect, window->clientRect)) {
+        if ((child->style & WS_VISIBLE) == 0 || !Overlap(child->windowRect, window->clientRect)) {
             continue;
         }
         // A child does not reach into its parent's frame, whatever its rectangle says.
@@ -116,11 +111,6 @@ const gdi::Region& Visible(Window* window, unsigned flags) {
 unsigned StyleFlags(const Window* window) {
     return ((window->style & WS_CLIPCHILDREN) != 0 ? kVisibleClipChildren : 0U) |
            ((window->style & WS_CLIPSIBLINGS) != 0 ? kVisibleClipSiblings : 0U);
-}
-
-gdi::Region VisibleRegion(Window* window, bool clientOnly, bool clipChildren) {
-    return Visible(window,
-                   StyleFlags(window) | (clientOnly ? 0U : kVisibleWhole) | (clipChildren ? kVisibleClipChildren : 0U));
 }
 
 }  // namespace platform::user

@@ -1,4 +1,4 @@
-// Cursors and icons as objects: the system's own, known by number, and those of modules, known by name.
+// Cursors and icons as objects: the system's own, known by number, and icons of modules, known by name.
 #include <algorithm>
 #include <iterator>
 #include <memory>
@@ -20,28 +20,13 @@ constexpr unsigned kCursors[] = {32512, 32513, 32514, 32515, 32516, 32640, 32641
                                  32643, 32644, 32645, 32646, 32648, 32649, 32650, 32651};
 constexpr unsigned kFirstIcon = 32512;
 constexpr unsigned kLastIcon = 32517;
-constexpr unsigned kArrow = 32512;
-
-HandleKind KindOf(bool cursor) {
-    return cursor ? HandleKind::Cursor : HandleKind::Icon;
-}
-
-/// Files an icon. Throws bad_alloc.
-std::uint32_t File(std::unique_ptr<Icon> icon) {
-    const std::uint32_t handle = base::InsertHandle(KindOf(icon->cursor), icon.get());
-    if (!handle) {
-        throw std::bad_alloc();
-    }
-    icon.release();
-    return handle;
-}
 
 /// What was loaded before, as a second call gives the same handle.
 struct Loaded {
+    HandleKind kind;
     HINSTANCE instance;
     const void* group;  ///< null for the system's own
     unsigned number;
-    bool cursor;
     std::uint32_t handle;
 };
 
@@ -55,39 +40,8 @@ LoadedIcons& Shared() {
     return *shared;
 }
 
-std::unique_ptr<Icon> MakeSystem(unsigned number, bool cursor) {
-    const bool known = cursor ? std::find(std::begin(kCursors), std::end(kCursors), number) != std::end(kCursors)
-                              : number >= kFirstIcon && number <= kLastIcon;
-    if (!known) {
-        SetLastError(ERROR_RESOURCE_NAME_NOT_FOUND);
-        return nullptr;
-    }
-    auto icon = std::make_unique<Icon>();
-    icon->number = number;
-    if (!cursor) {
-        icon->picture = DrawSystemIcon(number);
-    }
-    return icon;
-}
-
-std::unique_ptr<Icon> MakeFromResource(HINSTANCE instance, LPCSTR name, bool cursor) {
-    auto picture = ReadIconResource(instance, name, cursor);
-    if (!picture) {
-        return nullptr;
-    }
-    auto icon = std::make_unique<Icon>();
-    icon->number = cursor ? kArrow : 0;  // displays show the system's shapes only
-    icon->picture = std::move(*picture);
-    return icon;
-}
-
-HANDLE Load(HINSTANCE instance, LPCSTR name, bool cursor) try {
-    if (!instance && !IS_INTRESOURCE(name)) {
-        SetLastError(ERROR_RESOURCE_NAME_NOT_FOUND);
-        return nullptr;
-    }
-    const void* group =
-        instance ? kernel::FindResourceBytes(instance, name, cursor ? RT_GROUP_CURSOR : RT_GROUP_ICON).data() : nullptr;
+HANDLE Load(HandleKind kind, HINSTANCE instance, LPCSTR name) try {
+    const void* group = instance ? kernel::FindResourceBytes(instance, name, RT_GROUP_ICON).data() : nullptr;
     if (instance && !group) {
         return nullptr;
     }
@@ -95,18 +49,26 @@ HANDLE Load(HINSTANCE instance, LPCSTR name, bool cursor) try {
     LoadedIcons& shared = Shared();
     const std::lock_guard guard(shared.lock);
     for (const Loaded& each : shared.all) {
-        if (each.instance == instance && each.group == group && each.number == number && each.cursor == cursor) {
+        if (each.kind == kind && each.instance == instance && each.group == group && each.number == number) {
             return base::ToHandle<HANDLE>(each.handle);
         }
     }
-    auto icon = instance ? MakeFromResource(instance, name, cursor) : MakeSystem(number, cursor);
-    if (!icon) {
-        return nullptr;
+    auto icon = std::make_unique<Icon>();
+    icon->number = number;
+    if (kind == HandleKind::Icon) {
+        auto picture = instance ? ReadIconResource(instance, name) : DrawSystemIcon(number);
+        if (!picture) {
+            return nullptr;
+        }
+        icon->picture = std::move(*picture);
     }
-    icon->cursor = cursor;
     shared.all.reserve(shared.all.size() + 1);
-    const std::uint32_t handle = File(std::move(icon));
-    shared.all.push_back({instance, group, number, cursor, handle});
+    const std::uint32_t handle = base::InsertHandle(kind, icon.get());
+    if (!handle) {
+        throw std::bad_alloc();
+    }
+    icon.release();
+    shared.all.push_back({kind, instance, group, number, handle});
     return base::ToHandle<HANDLE>(handle);
 } catch (const std::bad_alloc&) {
     SetLastError(ERROR_NOT_ENOUGH_MEMORY);
@@ -122,15 +84,7 @@ unsigned CursorShape(HCURSOR cursor) {
 
 SIZE IconSize(HICON handle) {
     const Icon* icon = base::Find<Icon>(handle, HandleKind::Icon);
-    if (!icon) {
-        icon = base::Find<Icon>(handle, HandleKind::Cursor);
-    }
-    if (!icon) {
-        return {0, 0};
-    }
-    const IconPicture& picture = icon->picture;
-    return {picture.width ? picture.width : GetSystemMetrics(SM_CXICON),
-            picture.height ? picture.height : GetSystemMetrics(SM_CYICON)};
+    return icon ? SIZE{icon->picture.width, icon->picture.height} : SIZE{0, 0};
 }
 
 }  // namespace platform::user
@@ -139,11 +93,21 @@ using namespace platform::user;
 using platform::base::HandleKind;
 
 HCURSOR WINAPI LoadCursorA(HINSTANCE instance, LPCSTR name) {
-    return static_cast<HCURSOR>(Load(instance, name, true));
+    const bool known = !instance && IS_INTRESOURCE(name) &&
+                       std::find(std::begin(kCursors), std::end(kCursors), LOWORD(name)) != std::end(kCursors);
+    if (!known) {
+        SetLastError(ERROR_RESOURCE_NAME_NOT_FOUND);
+        return nullptr;
+    }
+    return static_cast<HCURSOR>(Load(HandleKind::Cursor, nullptr, name));
 }
 
 HICON WINAPI LoadIconA(HINSTANCE instance, LPCSTR name) {
-    return static_cast<HICON>(Load(instance, name, false));
+    if (!instance && !(IS_INTRESOURCE(name) && LOWORD(name) >= kFirstIcon && LOWORD(name) <= kLastIcon)) {
+        SetLastError(ERROR_RESOURCE_NAME_NOT_FOUND);
+        return nullptr;
+    }
+    return static_cast<HICON>(Load(HandleKind::Icon, instance, name));
 }
 
 BOOL WINAPI DestroyIcon(HICON icon) {

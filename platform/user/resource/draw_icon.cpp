@@ -10,17 +10,6 @@
 namespace platform::user {
 namespace {
 
-const Icon* FindIcon(HICON handle) {
-    const Icon* icon = base::Find<Icon>(handle, base::HandleKind::Icon);
-    if (!icon) {
-        icon = base::Find<Icon>(handle, base::HandleKind::Cursor);
-    }
-    if (!icon) {
-        SetLastError(ERROR_INVALID_ICON_HANDLE);
-    }
-    return icon;
-}
-
 BITMAPINFO HeaderOf(const IconPicture& picture) {
     BITMAPINFO info{};
     info.bmiHeader.biSize = sizeof info.bmiHeader;
@@ -59,13 +48,14 @@ bool Put(HDC context, const RECT& place, const IconPicture& picture, const std::
 }  // namespace
 
 bool DrawIconIn(HDC context, const RECT& place, HICON handle) try {
-    const Icon* icon = FindIcon(handle);
+    const Icon* icon = base::Find<Icon>(handle, base::HandleKind::Icon);
     if (!icon) {
+        SetLastError(ERROR_INVALID_ICON_HANDLE);
         return false;
     }
     const IconPicture& picture = icon->picture;
-    return picture.pixels.empty() || (Put(context, place, picture, MaskOf(picture), SRCAND) &&
-                                      Put(context, place, picture, ColoursOf(picture), SRCINVERT));
+    return Put(context, place, picture, MaskOf(picture), SRCAND) &&
+           Put(context, place, picture, ColoursOf(picture), SRCINVERT);
 } catch (const std::bad_alloc&) {
     SetLastError(ERROR_NOT_ENOUGH_MEMORY);
     return false;

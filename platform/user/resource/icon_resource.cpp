@@ -1,4 +1,4 @@
-// Icons and cursors in a module's resources: a group that names pictures of several sizes, and the pictures themselves,
+// Icons in a module's resources: a group that names pictures of several sizes, and the pictures themselves,
 // device-independent bitmaps with a second, monochrome half that tells where the background shows.
 #include "user/resource/icons.h"
 
@@ -53,19 +53,19 @@ std::uint32_t PixelAt(const Bytes& bytes, std::size_t row, int x, int bits, std:
     }
 }
 
-std::optional<IconPicture> ReadPicture(const Bytes& bytes, std::size_t at) {
-    const auto headerSize = bytes.Read<std::uint32_t>(at);
-    const int width = bytes.Read<std::int32_t>(at + 4);
-    const int height = bytes.Read<std::int32_t>(at + 8) / 2;
-    const int bits = bytes.Read<std::uint16_t>(at + 14);
-    const auto used = bytes.Read<std::uint32_t>(at + 32);
+std::optional<IconPicture> ReadPicture(const Bytes& bytes) {
+    const auto headerSize = bytes.Read<std::uint32_t>(0);
+    const int width = bytes.Read<std::int32_t>(4);
+    const int height = bytes.Read<std::int32_t>(8) / 2;
+    const int bits = bytes.Read<std::uint16_t>(14);
+    const auto used = bytes.Read<std::uint32_t>(32);
     const bool known = bits == 1 || bits == 4 || bits == 8 || bits == 24 || bits == 32;
     if (headerSize != 40 || width < 1 || width > kLargest || height < 1 || height > kLargest || !known || used > 256 ||
-        bytes.Read<std::uint32_t>(at + 16) != BI_RGB) {
+        bytes.Read<std::uint32_t>(16) != BI_RGB) {
         return std::nullopt;
     }
     const std::size_t colours = bits > 8 ? used : used ? used : std::size_t{1} << bits;
-    const std::size_t palette = at + headerSize;
+    const std::size_t palette = headerSize;
     const std::size_t image = palette + 4 * colours;
     const std::size_t stride = (static_cast<std::size_t>(width * bits) + 31) / 32 * 4;
     const std::size_t maskStride = (static_cast<std::size_t>(width) + 31) / 32 * 4;
@@ -76,7 +76,6 @@ std::optional<IconPicture> ReadPicture(const Bytes& bytes, std::size_t at) {
     IconPicture picture;
     picture.width = width;
     picture.height = height;
-    picture.hotspot = {width / 2, height / 2};
     picture.pixels.reserve(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
     for (int y = height - 1; y >= 0; --y) {
         for (int x = 0; x < width; ++x) {
@@ -92,9 +91,9 @@ std::optional<IconPicture> ReadPicture(const Bytes& bytes, std::size_t at) {
 
 }  // namespace
 
-std::optional<IconPicture> ReadIconResource(HINSTANCE instance, LPCSTR name, bool cursor) {
+std::optional<IconPicture> ReadIconResource(HINSTANCE instance, LPCSTR name) {
     constexpr std::size_t entrySize = 14;
-    const Bytes group(instance, name, cursor ? RT_GROUP_CURSOR : RT_GROUP_ICON);
+    const Bytes group(instance, name, RT_GROUP_ICON);
     std::optional<IconPicture> best;
     int bestDistance = 0;
     unsigned bestBits = 0;
@@ -102,14 +101,10 @@ std::optional<IconPicture> ReadIconResource(HINSTANCE instance, LPCSTR name, boo
     for (std::size_t i = 0; i < count && group.Has(6 + i * entrySize, entrySize); ++i) {
         const std::size_t entry = 6 + i * entrySize;
         const unsigned bits = group.Read<std::uint16_t>(entry + 6);
-        const Bytes one(instance, MAKEINTRESOURCEA(group.Read<std::uint16_t>(entry + 12)),
-                        cursor ? RT_CURSOR : RT_ICON);
-        auto picture = ReadPicture(one, cursor ? 4 : 0);
+        const Bytes one(instance, MAKEINTRESOURCEA(group.Read<std::uint16_t>(entry + 12)), RT_ICON);
+        auto picture = ReadPicture(one);
         if (!picture) {
             continue;
-        }
-        if (cursor) {
-            picture->hotspot = {one.Read<std::uint16_t>(0), one.Read<std::uint16_t>(2)};
         }
         const int distance = std::abs(picture->width - GetSystemMetrics(SM_CXICON));
         if (!best || distance < bestDistance || (distance == bestDistance && bits > bestBits)) {

@@ -18,28 +18,26 @@ constexpr std::uint32_t kTransparent = 0xFF000000;
 struct IconPicture {
     int width = 0;
     int height = 0;
-    POINT hotspot{};
     std::vector<std::uint32_t> pixels;  ///< the top row first
 };
 
 /// What an icon's or a cursor's handle leads to.
 struct Icon {
-    unsigned number = 0;  ///< of the system's own: IDI_ or IDC_ as a number; the shape that stands for a cursor
-    bool cursor = false;
-    IconPicture picture;
+    unsigned number = 0;  ///< of the system's own: IDI_ or IDC_ as a number
+    IconPicture picture;  ///< cursors have none: the display knows their shapes
 };
 
-/// @returns the picture of one of the system's icons. Throws bad_alloc.
-IconPicture DrawSystemIcon(unsigned number);
+/// @returns the picture of one of the system's icons, always. Throws bad_alloc.
+std::optional<IconPicture> DrawSystemIcon(unsigned number);
 
-/// Reads an icon or a cursor from a module's resources, in the size nearest to the usual one. Throws bad_alloc.
+/// Reads an icon from a module's resources, in the size nearest to the usual one. Throws bad_alloc.
 /// @returns nothing, with the error code set, when it is missing or damaged.
-std::optional<IconPicture> ReadIconResource(HINSTANCE instance, LPCSTR name, bool cursor);
+std::optional<IconPicture> ReadIconResource(HINSTANCE instance, LPCSTR name);
 
-/// Draws an icon or a cursor, stretched to the place. @returns false, with the error set, when it could not be drawn.
+/// Draws an icon, stretched to the place. @returns false, with the error set, when it could not be drawn.
 bool DrawIconIn(HDC context, const RECT& place, HICON icon);
 
-/// @returns an icon's or a cursor's width and height; zeros, and no error code, for anything else.
+/// @returns an icon's width and height; zeros, and no error code, for anything else.
 SIZE IconSize(HICON icon);
 
 /// @returns the icon that stands in a window's caption, null for none. Lock held.

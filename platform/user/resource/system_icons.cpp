@@ -21,7 +21,6 @@ class Canvas {
   public:
     Canvas() {
         picture.width = picture.height = kSize;
-        picture.hotspot = {kSize / 2, kSize / 2};
         picture.pixels.assign(kSize * kSize, kTransparent);
     }
 
@@ -140,7 +139,7 @@ void DrawApplication(Canvas& canvas) {
 
 }  // namespace
 
-IconPicture DrawSystemIcon(unsigned number) {
+std::optional<IconPicture> DrawSystemIcon(unsigned number) {
     Canvas canvas;
     switch (number) {
         case 32513:

@@ -4,10 +4,22 @@
 
 #include <windows.h>
 
+#include "user/model/window.h"
+
 namespace platform::user {
 
-/// frame: the size and tracking limits of a window as WM_GETMINMAXINFO leaves them. Sends; no lock held.
-MINMAXINFO QueryMinMax(HWND window);
+/// frame: the client area that a window's frame leaves of a window rectangle. Lock held.
+RECT ClientFromWindow(const Window* window, const RECT& windowRect);
+
+/// frame: how wide a window is, and how high, at the least and at the most when a person sizes it. Lock held.
+struct SizeLimits {
+    POINT least;
+    POINT most;
+};
+SizeLimits LimitsOf(const Window* window);
+
+/// frame: how many pixels wide the frame is on each side, the sunken client edge left out.
+int FrameWidth(DWORD style, DWORD exStyle);
 
 /// menu: registers the class of menus.
 void RegisterMenuClass();

@@ -2,13 +2,13 @@
 #include "user/window/class.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <mutex>
 #include <new>
 
 #include "kernel/modules/module.h"
-#include "user/model/atoms.h"
 #include "user/model/window.h"
 #include "user/window/above.h"
 
@@ -17,7 +17,9 @@ namespace platform::user {
 namespace {
 
 constexpr int kMostExtra = 0x10000;
-constexpr UINT kKnownStyles = CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS | CS_NOCLOSE | CS_SAVEBITS | CS_GLOBALCLASS;
+constexpr UINT kKnownStyles = CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS | CS_GLOBALCLASS;
+
+constexpr std::size_t kLongestName = 255;
 
 std::vector<std::unique_ptr<WindowClass>>& Classes() {
     static std::vector<std::unique_ptr<WindowClass>> classes;
@@ -36,30 +38,42 @@ bool IsRealBrush(HBRUSH brush) {
     return reinterpret_cast<std::uintptr_t>(brush) >= 0x10000;
 }
 
+/// @returns an atom that no class has yet, 0 when all are taken. Lock held.
+ATOM FreeAtom() {
+    ATOM atom = 0xC000;
+    while (atom &&
+           std::any_of(Classes().begin(), Classes().end(), [=](const auto& one) { return one->atom == atom; })) {
+        ++atom;
+    }
+    return atom;
+}
+
 ATOM Register(const WNDCLASSA& given) {
-    if (!given.lpszClassName || !given.lpfnWndProc || given.cbClsExtra < 0 || given.cbWndExtra < 0 ||
-        given.cbClsExtra > kMostExtra || given.cbWndExtra > kMostExtra || (given.style & ~kKnownStyles)) {
+    if (IS_INTRESOURCE(given.lpszClassName) || !*given.lpszClassName ||
+        std::strlen(given.lpszClassName) > kLongestName || !given.lpfnWndProc || given.cbClsExtra < 0 ||
+        given.cbWndExtra < 0 || given.cbClsExtra > kMostExtra || given.cbWndExtra > kMostExtra ||
+        (given.style & ~kKnownStyles)) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return 0;
     }
     InitialiseClasses();
-    const ATOM atom = ClassAtoms().Add(given.lpszClassName);
-    if (!atom) {
-        return 0;
-    }
     const HINSTANCE instance = OrProgram(given.hInstance);
     const UserGuard guard(UserLock());
     for (const auto& other : Classes()) {
-        if (other->atom == atom && !other->system &&
+        if (IsNamed(*other, given.lpszClassName) && !other->system &&
             (given.style & CS_GLOBALCLASS ? IsGlobal(*other) : !IsGlobal(*other) && other->instance == instance)) {
-            ClassAtoms().Delete(atom);
             SetLastError(ERROR_CLASS_ALREADY_EXISTS);
             return 0;
         }
     }
+    const ATOM atom = FreeAtom();
+    if (!atom) {
+        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+        return 0;
+    }
     auto made = std::make_unique<WindowClass>();
     made->atom = atom;
-    made->name = ClassAtoms().Name(atom);
+    made->name = given.lpszClassName;
     made->instance = instance;
     made->style = given.style;
     made->procedure = given.lpfnWndProc;
@@ -67,12 +81,6 @@ ATOM Register(const WNDCLASSA& given) {
     made->icon = given.hIcon;
     made->cursor = given.hCursor;
     made->background = given.hbrBackground;
-    if (IS_INTRESOURCE(given.lpszMenuName)) {
-        made->menuId = given.lpszMenuName;
-    } else {
-        made->menuName = given.lpszMenuName;
-    }
-    made->classExtra = given.cbClsExtra;
     Classes().push_back(std::move(made));
     return atom;
 }
@@ -93,7 +101,6 @@ bool ForgetOne(HINSTANCE module, HBRUSH& background) {
         background = nullptr;
     } else {
         background = (*found)->background;
-        ClassAtoms().Delete((*found)->atom);
         classes.erase(found);
     }
     return true;
@@ -111,15 +118,11 @@ void ForgetClasses(HINSTANCE module) {
 }  // namespace
 
 WindowClass* FindClass(HINSTANCE instance, LPCSTR name) {
-    const ATOM atom = name ? ClassAtoms().FindQuietly(name) : ATOM{0};
-    if (!atom) {
-        return nullptr;
-    }
     const HINSTANCE module = OrProgram(instance);
     WindowClass* global = nullptr;
     WindowClass* system = nullptr;
     for (const auto& one : Classes()) {
-        if (one->atom != atom) {
+        if (!IsNamed(*one, name)) {
             continue;
         }
         if (one->system) {
@@ -136,8 +139,7 @@ WindowClass* FindClass(HINSTANCE instance, LPCSTR name) {
 void RegisterSystemClass(const char* name, WNDPROC procedure, UINT style, int windowExtra, LPCSTR cursor,
                          HBRUSH background) {
     auto made = std::make_unique<WindowClass>();
-    made->atom = ClassAtoms().Add(name);
-    made->name = ClassAtoms().Name(made->atom);
+    made->name = name;
     made->system = true;
     made->style = style;
     made->procedure = procedure;
@@ -145,7 +147,13 @@ void RegisterSystemClass(const char* name, WNDPROC procedure, UINT style, int wi
     made->cursor = cursor ? LoadCursorA(nullptr, cursor) : nullptr;
     made->background = background;
     const UserGuard guard(UserLock());
+    // "#32770" is a number already.
+    made->atom = *name == '#' ? static_cast<ATOM>(std::atoi(name + 1)) : FreeAtom();
     Classes().push_back(std::move(made));
+}
+
+bool IsClassName(LPCSTR name) {
+    return std::any_of(Classes().begin(), Classes().end(), [=](const auto& one) { return IsNamed(*one, name); });
 }
 
 void InitialiseClasses() {
@@ -176,13 +184,12 @@ BOOL WINAPI UnregisterClassA(LPCSTR name, HINSTANCE instance) {
     HBRUSH background = nullptr;
     {
         const UserGuard guard(UserLock());
-        const ATOM atom = name ? ClassAtoms().FindQuietly(name) : ATOM{0};
         const HINSTANCE module = OrProgram(instance);
         auto& classes = Classes();
         const auto found = std::find_if(classes.begin(), classes.end(), [=](const auto& one) {
-            return one->atom == atom && !one->system && one->instance == module;
+            return IsNamed(*one, name) && !one->system && one->instance == module;
         });
-        if (!atom || found == classes.end()) {
+        if (found == classes.end()) {
             SetLastError(ERROR_CLASS_DOES_NOT_EXIST);
             return FALSE;
         }
@@ -192,7 +199,6 @@ BOOL WINAPI UnregisterClassA(LPCSTR name, HINSTANCE instance) {
         }
         background = (*found)->background;
         classes.erase(found);
-        ClassAtoms().Delete(atom);
     }
     // The system owns a class's brush from its registration on.
     if (IsRealBrush(background)) {
@@ -215,13 +221,13 @@ BOOL WINAPI GetClassInfoA(HINSTANCE instance, LPCSTR name, LPWNDCLASSA windowCla
     }
     *windowClass = {found->style,
                     found->procedure,
-                    found->classExtra,
+                    0,
                     found->windowExtra,
                     found->system ? nullptr : instance,
                     found->icon,
                     found->cursor,
                     found->background,
-                    found->menuId || found->menuName.empty() ? found->menuId : found->menuName.c_str(),
+                    nullptr,
                     name};
     return found->atom;
 }
@@ -236,9 +242,5 @@ int WINAPI GetClassNameA(HWND window, LPSTR name, int size) {
         SetLastError(ERROR_INSUFFICIENT_BUFFER);
         return 0;
     }
-    const std::string& text = object->windowClass->name;
-    const std::size_t length = std::min(text.size(), static_cast<std::size_t>(size - 1));
-    std::memcpy(name, text.data(), length);
-    name[length] = '\0';
-    return static_cast<int>(length);
+    return CopyText(object->windowClass->name, static_cast<std::size_t>(size), name);
 }

@@ -14,6 +14,9 @@ void RegisterSystemClass(const char* name, WNDPROC procedure, UINT style, int wi
 /// Registers all system classes once; called before the first class look-up.
 void InitialiseClasses();
 
+/// @returns whether any class has this name. Lock held.
+bool IsClassName(LPCSTR name);
+
 /// @returns the class that a module sees under a name or atom (its own, then global ones, then the system's), else null.
 /// Lock held.
 WindowClass* FindClass(HINSTANCE instance, LPCSTR name);

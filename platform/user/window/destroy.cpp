@@ -27,7 +27,6 @@ void Remove(Window* window) {
     }
     base::RemoveHandle(base::ToNumber(window->handle), base::HandleKind::Window);
     --window->windowClass->windows;
-    --window->thread->windowCount;
     GiveBackWindow()(window);
 }
 
@@ -114,15 +113,7 @@ void HandOver(Window* window) {
     window->parent = Orphanage();
     window->style &= ~static_cast<DWORD>(WS_VISIBLE);
     LinkWindow(window, HWND_TOP);
-    auto* errand = new (std::nothrow) SentMessage;
-    if (!errand) {
-        return;
-    }
-    errand->errand = RunDestruction;
-    errand->window = window->handle;
-    if (!Enqueue(window->thread, errand)) {
-        delete errand;
-    }
+    EnqueueErrand(window->thread, RunDestruction, window->handle);
 }
 
 }  // namespace
@@ -143,31 +134,6 @@ WindowHold NewWindow() noexcept {
         window = new (std::nothrow) Window;
     }
     return WindowHold(window);
-}
-
-void NotifyParents(HWND handle, UINT event) {
-    WPARAM what = event;
-    for (HWND child = handle;;) {
-        HWND parent = nullptr;
-        {
-            const UserGuard guard(UserLock());
-            const Window* window = PeekWindow(child);
-            if (!window || !IsChildStyle(window->style) || (window->exStyle & WS_EX_NOPARENTNOTIFY) ||
-                !window->parent || window->parent == Desktop() || window->parent == Orphanage()) {
-                return;
-            }
-            // A thread that ends waits for no other, which may be waiting for its end.
-            if (window->thread && window->thread->ending && window->parent->thread != window->thread) {
-                return;
-            }
-            if (child == handle) {
-                what = MAKEWPARAM(event, window->id);
-            }
-            parent = window->parent->handle;
-        }
-        SendMessageA(parent, WM_PARENTNOTIFY, what, reinterpret_cast<LPARAM>(handle));
-        child = parent;
-    }
 }
 
 void EndWindow(HWND handle) {
@@ -209,7 +175,6 @@ bool DestroyTree(HWND handle) {
         MarkOwned(window);
         window->destroying = true;
     }
-    NotifyParents(handle, WM_DESTROY);
     while (HWND owned = TakeOwned(handle)) {
         {
             const UserGuard guard(UserLock());

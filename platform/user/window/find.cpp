@@ -2,9 +2,9 @@
 #include <new>
 #include <vector>
 
-#include "user/model/atoms.h"
 #include "user/model/thread.h"
 #include "user/model/window.h"
+#include "user/window/class.h"
 
 using namespace platform::user;
 
@@ -46,8 +46,9 @@ BOOL EnumerateCollected(WNDENUMPROC procedure, LPARAM parameter, Collect collect
     return Enumerate(list, procedure, parameter);
 }
 
-bool Matches(const Window* window, ATOM atom, LPCSTR text) {
-    return (!atom || window->windowClass->atom == atom) && (!text || lstrcmpiA(window->text.c_str(), text) == 0);
+bool Matches(const Window* window, LPCSTR className, LPCSTR text) {
+    return (!className || IsNamed(*window->windowClass, className)) &&
+           (!text || lstrcmpiA(window->text.c_str(), text) == 0);
 }
 
 }  // namespace
@@ -58,8 +59,7 @@ HWND WINAPI FindWindowExA(HWND parentHandle, HWND afterHandle, LPCSTR className,
     if (!parent) {
         return nullptr;
     }
-    const ATOM atom = className ? ClassAtoms().FindQuietly(className) : ATOM{0};
-    if (className && !atom) {
+    if (className && !IsClassName(className)) {
         SetLastError(ERROR_CANNOT_FIND_WND_CLASS);
         return nullptr;
     }
@@ -72,7 +72,7 @@ HWND WINAPI FindWindowExA(HWND parentHandle, HWND afterHandle, LPCSTR className,
         }
         window = after->next;
     }
-    while (window && !Matches(window, atom, text)) {
+    while (window && !Matches(window, className, text)) {
         window = window->next;
     }
     return window ? window->handle : nullptr;

@@ -5,7 +5,6 @@
 #include "user/model/thread.h"
 #include "user/model/window.h"
 #include "user/painting/painting.h"
-#include "user/window/tree.h"
 
 using namespace platform::user;
 
@@ -39,32 +38,18 @@ Number WriteExtra(std::vector<std::byte>& extra, int index, Number value) {
     return old;
 }
 
-/// Styles change between two messages, and the window may change its mind in the first.
 LONG_PTR ChangeStyle(HWND handle, int index, DWORD value) {
-    UserHold hold(UserLock());
+    const UserGuard guard(UserLock());
     Window* window = FindWindowObject(handle);
     if (!window) {
         return 0;
     }
-    DWORD Window::*member = index == GWL_STYLE ? &Window::style : &Window::exStyle;
-    STYLESTRUCT change{window->*member, value};
-    hold.unlock();
-    SendMessageA(handle, WM_STYLECHANGING, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&change));
-    hold.lock();
-    window = PeekWindow(handle);
-    if (!window) {
-        return 0;
-    }
-    change.styleOld = window->*member;
     if (index == GWL_EXSTYLE) {
         // Only SetWindowPos changes the z-order.
-        change.styleNew = (change.styleNew & ~static_cast<DWORD>(WS_EX_TOPMOST)) | (window->exStyle & WS_EX_TOPMOST);
+        value = (value & ~static_cast<DWORD>(WS_EX_TOPMOST)) | (window->exStyle & WS_EX_TOPMOST);
     }
-    window->*member = change.styleNew;
     WindowsChanged();
-    hold.unlock();
-    SendMessageA(handle, WM_STYLECHANGED, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&change));
-    return static_cast<LONG_PTR>(static_cast<LONG>(change.styleOld));
+    return static_cast<LONG>(std::exchange(index == GWL_STYLE ? window->style : window->exStyle, value));
 }
 
 /// A window whose longs may be set: the desktop belongs to nobody.
@@ -79,8 +64,7 @@ Window* FindChangeable(HWND handle) {
 
 /// Where pointers are wider than a LONG, those longs that hold one have no narrow form.
 bool TooWide(int index, bool wide) {
-    return !wide && sizeof(LONG_PTR) > sizeof(LONG) &&
-           (index == GWLP_WNDPROC || index == GWLP_HINSTANCE || index == GWLP_HWNDPARENT);
+    return !wide && sizeof(LONG_PTR) > sizeof(LONG) && (index == GWLP_WNDPROC || index == GWLP_HINSTANCE);
 }
 
 LONG_PTR Get(HWND handle, int index, bool wide) {
@@ -110,33 +94,9 @@ LONG_PTR Get(HWND handle, int index, bool wide) {
             return reinterpret_cast<LONG_PTR>(window->procedure.load());
         case GWLP_HINSTANCE:
             return reinterpret_cast<LONG_PTR>(window->instance);
-        case GWLP_HWNDPARENT:
-            return reinterpret_cast<LONG_PTR>(IsChildStyle(window->style) ? GetParent(handle)
-                                                                          : GetWindow(handle, GW_OWNER));
         default:
             return wide ? ReadExtra<LONG_PTR>(window->extra, index) : ReadExtra<LONG>(window->extra, index);
     }
-}
-
-LONG_PTR SetOwner(HWND handle, HWND value) {
-    {
-        const UserGuard guard(UserLock());
-        Window* window = PeekWindow(handle);
-        Window* owner = value ? FindWindowObject(value) : nullptr;
-        if (!window || (value && !owner)) {
-            return 0;
-        }
-        if (!IsChildStyle(window->style)) {
-            if (LeadsTo(owner, window)) {
-                SetLastError(ERROR_INVALID_PARAMETER);
-                return 0;
-            }
-            const HWND old = window->owner ? window->owner->handle : nullptr;
-            window->owner = TopLevel(owner);
-            return reinterpret_cast<LONG_PTR>(old);
-        }
-    }
-    return reinterpret_cast<LONG_PTR>(SetParent(handle, value));
 }
 
 LONG_PTR Set(HWND handle, int index, LONG_PTR value, bool wide) {
@@ -150,9 +110,6 @@ LONG_PTR Set(HWND handle, int index, LONG_PTR value, bool wide) {
     }
     if (index == GWL_STYLE || index == GWL_EXSTYLE) {
         return ChangeStyle(handle, index, static_cast<DWORD>(value));
-    }
-    if (index == GWLP_HWNDPARENT) {
-        return SetOwner(handle, reinterpret_cast<HWND>(value));
     }
     const UserGuard guard(UserLock());
     if (!(window = FindChangeable(handle))) {

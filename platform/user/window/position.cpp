@@ -1,4 +1,4 @@
-// Changing a window's place, size, order and visibility, in the documented steps: WM_WINDOWPOSCHANGING, WM_NCCALCSIZE,
+// Changing a window's place, size, order and visibility, in the documented steps: WM_WINDOWPOSCHANGING, the new client area,
 // the change itself with the pixels that stay good, what was uncovered and what is new, WM_WINDOWPOSCHANGED.
 #include "user/window/position.h"
 
@@ -9,6 +9,7 @@
 #include "user/model/thread.h"
 #include "user/painting/above.h"
 #include "user/painting/painting.h"
+#include "user/window/above.h"
 
 namespace platform::user {
 namespace {
@@ -56,9 +57,7 @@ void Reduce(const Window* window, WINDOWPOS& position) {
     if (topLevel && appears && (flags & SWP_NOACTIVATE) == 0 && (window->style & WS_DISABLED) == 0 &&
         (window->thread == nullptr || window->thread->active != window->handle)) {
         // A window that is activated comes to the top of its kind.
-        if ((flags & SWP_NOZORDER) != 0 || (after != HWND_TOPMOST && after != HWND_NOTOPMOST)) {
-            after = HWND_TOP;
-        }
+        after = HWND_TOP;
         flags &= ~static_cast<UINT>(SWP_NOZORDER);
     }
     if ((flags & SWP_NOZORDER) == 0 && InPlace(window, after)) {
@@ -93,10 +92,8 @@ bool Announce(Step& step) {
             position.cy = window->windowRect.bottom - window->windowRect.top;
         }
     }
-    if ((position.flags & SWP_NOSENDCHANGING) == 0) {
-        SendMessageA(handle, WM_WINDOWPOSCHANGING, 0, reinterpret_cast<LPARAM>(&position));
-        position.hwnd = handle;
-    }
+    SendMessageA(handle, WM_WINDOWPOSCHANGING, 0, reinterpret_cast<LPARAM>(&position));
+    position.hwnd = handle;
     UserGuard guard(UserLock());
     const Window* window = FindWindowObject(handle);
     if (window == nullptr) {
@@ -114,65 +111,34 @@ bool Announce(Step& step) {
     return true;
 }
 
-/// WM_NCCALCSIZE: the new client area, and which of the old pixels stay good.
+/// The new client area, and which of the old pixels stay good: those at its upper left corner, unless the class wants to be
+/// drawn anew.
 void CalculateClient(Step& step) {
-    WINDOWPOS& position = step.position;
-    const bool sized = (position.flags & SWP_NOSIZE) == 0;
+    const UINT flags = step.position.flags;
     step.keep = Keep::Window;
-    if (!sized && (position.flags & SWP_FRAMECHANGED) == 0) {
+    UserGuard guard(UserLock());
+    const Window* window = PeekWindow(step.position.hwnd);
+    if (window == nullptr || ((flags & SWP_NOSIZE) != 0 && (flags & SWP_FRAMECHANGED) == 0)) {
         return;
     }
-    POINT origin{};
-    UINT classStyle = 0;
-    {
-        UserGuard guard(UserLock());
-        const Window* window = PeekWindow(position.hwnd);
-        if (window == nullptr) {
-            return;
-        }
-        origin = ParentOrigin(window);
-        classStyle = window->windowClass->style;
-    }
-    NCCALCSIZE_PARAMS parameters{};
-    WINDOWPOS copy = position;
-    parameters.rgrc[0] = Moved(step.newWindow, -origin.x, -origin.y);
-    parameters.rgrc[1] = Moved(step.oldWindow, -origin.x, -origin.y);
-    parameters.rgrc[2] = Moved(step.oldClient, -origin.x, -origin.y);
-    parameters.lppos = &copy;
-    const auto answer =
-        static_cast<UINT>(SendMessageA(position.hwnd, WM_NCCALCSIZE, TRUE, reinterpret_cast<LPARAM>(&parameters)));
-
-    RECT client = Moved(parameters.rgrc[0], origin.x, origin.y);
-    client.right = std::max(client.left, client.right);
-    client.bottom = std::max(client.top, client.bottom);
-    step.newClient = client;
-    step.keep = Keep::Client;
-    if ((answer & WVR_VALIDRECTS) != 0) {
-        step.validTarget = Moved(parameters.rgrc[1], origin.x, origin.y);
-        step.validSource = Moved(parameters.rgrc[2], origin.x, origin.y);
-        return;
-    }
-    const LONG oldWidth = step.oldClient.right - step.oldClient.left;
-    const LONG oldHeight = step.oldClient.bottom - step.oldClient.top;
-    const LONG newWidth = client.right - client.left;
-    const LONG newHeight = client.bottom - client.top;
-    const bool redrawX = (classStyle & CS_HREDRAW) != 0 || (answer & WVR_HREDRAW) != 0;
-    const bool redrawY = (classStyle & CS_VREDRAW) != 0 || (answer & WVR_VREDRAW) != 0;
-    if ((redrawX && oldWidth != newWidth) || (redrawY && oldHeight != newHeight)) {
+    step.newClient = ClientFromWindow(window, step.newWindow);
+    const RECT& before = step.oldClient;
+    const RECT& after = step.newClient;
+    const LONG oldWidth = before.right - before.left;
+    const LONG oldHeight = before.bottom - before.top;
+    const LONG newWidth = after.right - after.left;
+    const LONG newHeight = after.bottom - after.top;
+    const UINT classStyle = window->windowClass->style;
+    if (((classStyle & CS_HREDRAW) != 0 && oldWidth != newWidth) ||
+        ((classStyle & CS_VREDRAW) != 0 && oldHeight != newHeight)) {
         step.keep = Keep::Nothing;
         return;
     }
+    step.keep = Keep::Client;
     const LONG width = std::min(oldWidth, newWidth);
     const LONG height = std::min(oldHeight, newHeight);
-    const LONG right = (answer & WVR_ALIGNRIGHT) != 0 ? 1 : 0;
-    const LONG bottom = (answer & WVR_ALIGNBOTTOM) != 0 ? 1 : 0;
-    const auto corner = [&](const RECT& rect, LONG fullWidth, LONG fullHeight) {
-        const LONG left = rect.left + right * (fullWidth - width);
-        const LONG top = rect.top + bottom * (fullHeight - height);
-        return RECT{left, top, left + width, top + height};
-    };
-    step.validSource = corner(step.oldClient, oldWidth, oldHeight);
-    step.validTarget = corner(client, newWidth, newHeight);
+    step.validSource = {before.left, before.top, before.left + width, before.top + height};
+    step.validTarget = {after.left, after.top, after.left + width, after.top + height};
 }
 
 /// WM_WINDOWPOSCHANGED and what goes with it, once the change has been made.
@@ -185,29 +151,20 @@ void Report(Step& step) {
     if (SameSize(before, after)) {
         flags |= kNoClientSize;
     }
-    if (before.left == after.left && before.top == after.top) {
-        flags |= kNoClientMove;
-    }
     if ((flags & SWP_HIDEWINDOW) != 0) {
         if (Window* window = PeekWindow(handle); window != nullptr) {
             LeaveDisabledOrHidden(window, true);
         }
     }
     if ((flags & (SWP_NOACTIVATE | SWP_HIDEWINDOW)) == 0) {
-        bool child = false;
         bool shown = false;
         {
             UserGuard guard(UserLock());
             const Window* window = PeekWindow(handle);
-            if (window == nullptr) {
-                return;
-            }
-            child = (window->style & WS_CHILD) != 0;
-            shown = window->parent == Desktop() && IsShown(window);
+            shown =
+                window != nullptr && (window->style & WS_CHILD) == 0 && window->parent == Desktop() && IsShown(window);
         }
-        if (child) {
-            SendMessageA(handle, WM_CHILDACTIVATE, 0, 0);
-        } else if (shown) {
+        if (shown) {
             ActivateWindow(handle, false);
         }
     }
@@ -251,7 +208,7 @@ BOOL WINAPI SetWindowPos(HWND handle, HWND after, int x, int y, int width, int h
             SetLastError(ERROR_ACCESS_DENIED);
             return FALSE;
         }
-        if ((flags & SWP_NOZORDER) == 0 && !IsInsertAfter(after)) {
+        if ((flags & SWP_NOZORDER) == 0 && after != HWND_TOP) {
             const Window* sibling = FindWindowObject(after);
             if (sibling == nullptr) {
                 return FALSE;

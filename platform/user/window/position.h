@@ -18,10 +18,14 @@ void ChangeOrder(Window* window, HWND after, UINT flags);
 /// Hides a window that is about to be destroyed and exposes what lay under it, without asking it (no WM_WINDOWPOSCHANGING).
 void HideForDestruction(Window* window);
 
-/// What WM_WINDOWPOSCHANGED says of the client area beyond the public flags; DefWindowProcA decides on WM_SIZE and
-/// WM_MOVE by them.
+/// What WM_WINDOWPOSCHANGED says of the client area beyond the public flags; DefWindowProcA decides on WM_SIZE by it.
 constexpr UINT kNoClientSize = 0x0800;
-constexpr UINT kNoClientMove = 0x1000;
+
+/// Sends WM_SIZE with what the window has come to.
+void SendSize(HWND handle);
+
+/// @returns where a window lies when it is maximised. Lock held.
+RECT MaximisedPlace(const Window* window);
 
 /// Which pixels of a window stay good over a change.
 enum class Keep { Window, Client, Nothing };
@@ -37,11 +41,6 @@ struct Step {
 
 /// Makes the change in the window tree and brings the screen's pixels and the update regions in line. Takes the lock.
 void Apply(Step& step);
-
-/// @returns whether a value names a place in the z-order other than a sibling.
-inline bool IsInsertAfter(HWND after) {
-    return after == HWND_TOP || after == HWND_BOTTOM || after == HWND_TOPMOST || after == HWND_NOTOPMOST;
-}
 
 /// @returns whether a window lies in the z-order where it is to go.
 bool InPlace(const Window* window, HWND after);

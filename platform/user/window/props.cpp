@@ -1,43 +1,17 @@
-// Window properties: handles kept with a window under a name or an atom.
+// Window properties: handles kept with a window under a name.
 #include "user/model/window.h"
 
 #include <algorithm>
 #include <new>
 
-#include "user/model/atoms.h"
-
 namespace platform::user {
 
 namespace {
 
-/// The name that a property is kept under; a number is a name too.
-class PropertyName {
-  public:
-    explicit PropertyName(LPCSTR name) {
-        if (!IS_INTRESOURCE(name)) {
-            view_ = name;
-        } else if (LOWORD(name)) {
-            owned_ = '#' + std::to_string(LOWORD(name));
-            view_ = owned_;
-        } else {
-            SetLastError(ERROR_INVALID_PARAMETER);
-        }
-    }
-    bool Valid() const {
-        return !view_.empty();
-    }
-    std::string_view View() const {
-        return view_;
-    }
-
-  private:
-    std::string owned_;
-    std::string_view view_;
-};
-
-auto Locate(Window* window, std::string_view name) {
-    return std::find_if(window->properties.begin(), window->properties.end(),
-                        [name](const WindowProperty& one) { return SameName(one.name, name); });
+auto Locate(Window* window, LPCSTR name) {
+    return std::find_if(window->properties.begin(), window->properties.end(), [name](const WindowProperty& one) {
+        return !IS_INTRESOURCE(name) && SameName(one.name, name);
+    });
 }
 
 }  // namespace
@@ -52,15 +26,15 @@ BOOL WINAPI SetPropA(HWND window, LPCSTR name, HANDLE data) try {
     if (!object) {
         return FALSE;
     }
-    const PropertyName key(name);
-    if (!key.Valid()) {
+    if (IS_INTRESOURCE(name) || !*name) {
+        SetLastError(ERROR_INVALID_PARAMETER);
         return FALSE;
     }
-    const auto found = Locate(object, key.View());
+    const auto found = Locate(object, name);
     if (found != object->properties.end()) {
         found->data = data;
     } else {
-        object->properties.push_back({std::string(key.View()), data});
+        object->properties.push_back({name, data});
     }
     return TRUE;
 } catch (const std::bad_alloc&) {
@@ -68,33 +42,27 @@ BOOL WINAPI SetPropA(HWND window, LPCSTR name, HANDLE data) try {
     return FALSE;
 }
 
-HANDLE WINAPI GetPropA(HWND window, LPCSTR name) try {
+HANDLE WINAPI GetPropA(HWND window, LPCSTR name) {
     const UserGuard guard(UserLock());
     Window* object = FindWindowObject(window);
     if (!object || object->properties.empty()) {
         return nullptr;
     }
-    const auto found = Locate(object, PropertyName(name).View());
+    const auto found = Locate(object, name);
     return found == object->properties.end() ? nullptr : found->data;
-} catch (const std::bad_alloc&) {
-    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-    return nullptr;
 }
 
-HANDLE WINAPI RemovePropA(HWND window, LPCSTR name) try {
+HANDLE WINAPI RemovePropA(HWND window, LPCSTR name) {
     const UserGuard guard(UserLock());
     Window* object = FindWindowObject(window);
     if (!object) {
         return nullptr;
     }
-    const auto found = Locate(object, PropertyName(name).View());
+    const auto found = Locate(object, name);
     if (found == object->properties.end()) {
         return nullptr;
     }
     const HANDLE data = found->data;
     object->properties.erase(found);
     return data;
-} catch (const std::bad_alloc&) {
-    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-    return nullptr;
 }

@@ -1,12 +1,14 @@
 // Showing and hiding, minimising, maximising and restoring.
 #include <algorithm>
 #include <new>
+#include <utility>
 #include <vector>
 
 #include "user/input/input.h"
 #include "user/model/thread.h"
 #include "user/painting/painting.h"
 #include "user/window/above.h"
+#include "user/window/position.h"
 #include "user/window/tree.h"
 
 namespace platform::user {
@@ -31,10 +33,7 @@ Plan PlanOf(int show) {
         case SW_SHOWMINIMIZED:
             return {.state = WS_MINIMIZE};
         case SW_MINIMIZE:
-        case SW_FORCEMINIMIZE:
             return {.state = WS_MINIMIZE, .activate = false, .activateNext = true};
-        case SW_SHOWMINNOACTIVE:
-            return {.state = WS_MINIMIZE, .activate = false};
         case SW_SHOWMAXIMIZED:
             return {.state = WS_MAXIMIZE};
         case SW_SHOWNOACTIVATE:
@@ -78,20 +77,6 @@ RECT MinimisedPlace(const Window* window) {
     }
 }
 
-/// Where a maximised window lies, after WM_GETMINMAXINFO has had its say.
-RECT MaximisedPlace(HWND handle) {
-    const MINMAXINFO limits = QueryMinMax(handle);
-    UserGuard guard(UserLock());
-    const Window* window = PeekWindow(handle);
-    if (window == nullptr) {
-        return RECT{};
-    }
-    const RECT ground = Ground(window);
-    const LONG left = ground.left + limits.ptMaxPosition.x;
-    const LONG top = ground.top + limits.ptMaxPosition.y;
-    return RECT{left, top, left + limits.ptMaxSize.x, top + limits.ptMaxSize.y};
-}
-
 /// The state that a window was created in and has not been given its place for.
 DWORD PendingState(const Window* window) {
     return IsRectEmpty(&window->restoredRect) ? window->style & (WS_MINIMIZE | WS_MAXIMIZE) : 0;
@@ -99,37 +84,25 @@ DWORD PendingState(const Window* window) {
 
 /// Puts a window into another state. @returns whether it changed, with the new place in screen coordinates.
 bool ChangeState(HWND handle, DWORD wanted, bool toNormal, RECT* place) {
-    DWORD old = 0;
-    bool backToMaximised = false;
-    {
-        UserGuard guard(UserLock());
-        const Window* window = PeekWindow(handle);
-        if (window == nullptr) {
-            return false;
-        }
-        old = PendingState(window) != 0 ? 0 : window->style & (WS_MINIMIZE | WS_MAXIMIZE);
-        backToMaximised = toNormal && (old & WS_MINIMIZE) != 0 && window->restoreMaximised;
-    }
-    if (backToMaximised) {
-        wanted = WS_MAXIMIZE;
-    }
-    if (old == wanted) {
-        return false;
-    }
-    if (old == WS_MINIMIZE && SendMessageA(handle, WM_QUERYOPEN, 0, 0) == 0) {
-        return false;
-    }
-    const RECT maximised = wanted == WS_MAXIMIZE ? MaximisedPlace(handle) : RECT{};
     UserGuard guard(UserLock());
     Window* window = PeekWindow(handle);
     if (window == nullptr) {
+        return false;
+    }
+    const DWORD old = PendingState(window) != 0 ? 0 : window->style & (WS_MINIMIZE | WS_MAXIMIZE);
+    if (toNormal && (old & WS_MINIMIZE) != 0 && window->restoreMaximised) {
+        wanted = WS_MAXIMIZE;
+    }
+    if (old == wanted) {
         return false;
     }
     if (old == 0) {
         window->restoredRect = window->windowRect;
     }
     window->restoreMaximised = wanted == WS_MINIMIZE && old == WS_MAXIMIZE;
-    *place = wanted == WS_MAXIMIZE ? maximised : wanted == WS_MINIMIZE ? MinimisedPlace(window) : window->restoredRect;
+    *place = wanted == WS_MAXIMIZE   ? MaximisedPlace(window)
+             : wanted == WS_MINIMIZE ? MinimisedPlace(window)
+                                     : window->restoredRect;
     window->style = (window->style & ~static_cast<DWORD>(WS_MINIMIZE | WS_MAXIMIZE)) | wanted;
     WindowsChanged();
     return true;
@@ -137,25 +110,8 @@ bool ChangeState(HWND handle, DWORD wanted, bool toNormal, RECT* place) {
 
 /// A window that was made hidden has not heard of its size yet.
 void SendFirstSize(HWND handle) {
-    RECT client{};
-    POINT origin{};
-    WPARAM kind = SIZE_RESTORED;
-    {
-        UserGuard guard(UserLock());
-        Window* window = PeekWindow(handle);
-        if (window == nullptr || window->sizeSent) {
-            return;
-        }
-        window->sizeSent = true;
-        client = window->clientRect;
-        origin = ParentOrigin(window);
-        kind = (window->style & WS_MAXIMIZE) != 0   ? SIZE_MAXIMIZED
-               : (window->style & WS_MINIMIZE) != 0 ? SIZE_MINIMIZED
-                                                    : SIZE_RESTORED;
-    }
-    SendMessageA(handle, WM_SIZE, kind, MAKELPARAM(client.right - client.left, client.bottom - client.top));
-    if (PeekWindow(handle) != nullptr) {
-        SendMessageA(handle, WM_MOVE, 0, MAKELPARAM(client.left - origin.x, client.top - origin.y));
+    if (Window* window = PeekWindow(handle); window != nullptr && !std::exchange(window->sizeSent, true)) {
+        SendSize(handle);
     }
 }
 
@@ -189,13 +145,10 @@ void ShowOwned(HWND owner, bool show) {
         if (!FollowsOwner(popup, show)) {
             continue;
         }
-        SendMessageA(popup, WM_SHOWWINDOW, show, show ? SW_PARENTOPENING : SW_PARENTCLOSING);
-        // Most windows leave the rest to DefWindowProcA; others are taken along all the same.
-        if (PeekWindow(popup) != nullptr && IsVisibleItself(PeekWindow(popup)) != show) {
-            SetWindowPos(
-                popup, nullptr, 0, 0, 0, 0,
-                SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | (show ? SWP_SHOWWINDOW : SWP_HIDEWINDOW));
-        }
+        SendMessageA(popup, WM_SHOWWINDOW, show, 0);
+        SetWindowPos(
+            popup, nullptr, 0, 0, 0, 0,
+            SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | (show ? SWP_SHOWWINDOW : SWP_HIDEWINDOW));
         UserGuard guard(UserLock());
         if (Window* window = PeekWindow(popup); window != nullptr) {
             window->hiddenByOwner = !show && !IsVisibleItself(window);
@@ -204,12 +157,37 @@ void ShowOwned(HWND owner, bool show) {
 }
 
 }  // namespace
+
+RECT MaximisedPlace(const Window* window) {
+    RECT place = Ground(window);
+    const int frame = FrameWidth(window->style, window->exStyle);
+    InflateRect(&place, frame, frame);
+    return place;
+}
+
+void SendSize(HWND handle) {
+    RECT client{};
+    WPARAM kind = SIZE_RESTORED;
+    {
+        UserGuard guard(UserLock());
+        const Window* window = PeekWindow(handle);
+        if (window == nullptr) {
+            return;
+        }
+        client = window->clientRect;
+        kind = (window->style & WS_MINIMIZE) != 0   ? SIZE_MINIMIZED
+               : (window->style & WS_MAXIMIZE) != 0 ? SIZE_MAXIMIZED
+                                                    : SIZE_RESTORED;
+    }
+    SendMessageA(handle, WM_SIZE, kind, MAKELPARAM(client.right - client.left, client.bottom - client.top));
+}
+
 }  // namespace platform::user
 
 using namespace platform::user;
 
 BOOL WINAPI ShowWindow(HWND handle, int show) {
-    if (show < SW_HIDE || show > SW_MAX) {
+    if (show < SW_HIDE || show > SW_SHOWDEFAULT) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return FALSE;
     }

@@ -30,8 +30,8 @@ void LinkBefore(Window* window, Window* before) {
     }
 }
 
-Window* FirstThatIsNot(Window* window, bool topmost) {
-    while (window && IsTopmost(window) == topmost) {
+Window* FirstPlain(Window* window) {
+    while (window && IsTopmost(window)) {
         window = window->next;
     }
     return window;
@@ -45,26 +45,15 @@ void LinkWindow(Window* window, HWND after) {
         return;
     }
     const bool topLevel = parent == Desktop();
-    if (after == HWND_TOPMOST && topLevel) {
-        window->exStyle |= WS_EX_TOPMOST;
-    } else if (after == HWND_NOTOPMOST || (after == HWND_BOTTOM && topLevel)) {
-        window->exStyle &= ~static_cast<DWORD>(WS_EX_TOPMOST);
-    }
-    Window* firstPlain = topLevel ? FirstThatIsNot(parent->firstChild, true) : parent->firstChild;
-    if (after == HWND_BOTTOM) {
-        LinkBefore(window, nullptr);
-    } else if (after == HWND_TOP || after == HWND_TOPMOST || after == HWND_NOTOPMOST) {
+    Window* firstPlain = topLevel ? FirstPlain(parent->firstChild) : parent->firstChild;
+    const Window* sibling = PeekWindow(after);
+    if (!sibling || sibling->parent != parent) {
         LinkBefore(window, topLevel && !IsTopmost(window) ? firstPlain : parent->firstChild);
+    } else if (topLevel && IsTopmost(window) != IsTopmost(sibling)) {
+        // Topmost windows stay above the others, whatever sibling is named.
+        LinkBefore(window, firstPlain);
     } else {
-        Window* sibling = base::Find<Window>(after, base::HandleKind::Window);
-        if (!sibling || sibling->parent != parent) {
-            LinkBefore(window, topLevel && !IsTopmost(window) ? firstPlain : parent->firstChild);
-        } else if (topLevel && IsTopmost(window) != IsTopmost(sibling)) {
-            // Topmost windows stay above the others, whatever sibling is named.
-            LinkBefore(window, firstPlain);
-        } else {
-            LinkBefore(window, sibling->next);
-        }
+        LinkBefore(window, sibling->next);
     }
     WindowsChanged();
 }
@@ -138,19 +127,7 @@ HWND WINAPI GetAncestor(HWND handle, UINT flags) {
     if (!window || window == Desktop()) {
         return nullptr;
     }
-    switch (flags) {
-        case GA_PARENT:
-            return HandleOf(window->parent);
-        case GA_ROOT:
-            return HandleOf(RootOf(window));
-        case GA_ROOTOWNER:
-            for (window = RootOf(window); window->owner;) {
-                window = RootOf(window->owner);
-            }
-            return HandleOf(window);
-        default:
-            return nullptr;
-    }
+    return flags == GA_ROOT ? HandleOf(RootOf(window)) : nullptr;
 }
 
 HWND WINAPI GetWindow(HWND handle, UINT relation) {
@@ -168,20 +145,6 @@ HWND WINAPI GetWindow(HWND handle, UINT relation) {
             return HandleOf(window->owner);
         case GW_CHILD:
             return HandleOf(window->firstChild);
-        case GW_ENABLEDPOPUP:
-            for (const Window* popup = Desktop()->firstChild; popup; popup = popup->next) {
-                if (popup->owner == window && (popup->style & (WS_VISIBLE | WS_DISABLED)) == WS_VISIBLE) {
-                    return popup->handle;
-                }
-            }
-            return handle;
-        case GW_HWNDFIRST:
-            return window->parent ? HandleOf(window->parent->firstChild) : nullptr;
-        case GW_HWNDLAST:
-            while (window->next) {
-                window = window->next;
-            }
-            return window->parent ? HandleOf(window) : nullptr;
         default:
             SetLastError(ERROR_INVALID_PARAMETER);
             return nullptr;

@@ -12,6 +12,7 @@
 #include "user/window/above.h"
 #include "user/window/class.h"
 #include "user/window/lifetime.h"
+#include "user/window/position.h"
 #include "user/window/tree.h"
 
 namespace platform::user {
@@ -24,32 +25,12 @@ struct Request {
     Window* parent = nullptr;
     Window* owner = nullptr;
     WindowClass* windowClass = nullptr;
-    int showCommand = SW_SHOW;
     bool show = false;
 };
 
 HWND Refuse(DWORD error) {
     SetLastError(error);
     return nullptr;
-}
-
-/// CW_USEDEFAULT for overlapped windows: each one a little below and to the right of the one before. With the default
-/// place, y may say how to show the window.
-void PlaceByDefault(Request& request) {
-    static int turn = 0;
-    CREATESTRUCTA& given = request.given;
-    RECT area{};
-    SystemParametersInfoA(SPI_GETWORKAREA, 0, &area, 0);
-    if (given.x == CW_USEDEFAULT) {
-        request.showCommand = given.y == CW_USEDEFAULT ? SW_SHOW : given.y;
-        const int step = (turn++ % 8) * (GetSystemMetrics(SM_CYCAPTION) + GetSystemMetrics(SM_CYSIZEFRAME));
-        given.x = area.left + step;
-        given.y = area.top + step;
-    }
-    if (given.cx == CW_USEDEFAULT) {
-        given.cx = (area.right - area.left) * 3 / 4;
-        given.cy = (area.bottom - area.top) * 3 / 4;
-    }
 }
 
 /// Fills in what the styles imply. @returns 0 or an error code. Lock held.
@@ -78,26 +59,10 @@ DWORD Complete(Request& request) {
         request.parent = Desktop();
     }
     if (!(style & (WS_CHILD | WS_POPUP))) {
-        style |= WS_CAPTION | WS_CLIPSIBLINGS;
-        given.dwExStyle |= WS_EX_WINDOWEDGE;
-        PlaceByDefault(request);
-    } else {
-        if (given.x == CW_USEDEFAULT) {
-            given.x = given.y = 0;
-        }
-        if (given.cx == CW_USEDEFAULT) {
-            given.cx = given.cy = 0;
-        }
-        if (style & WS_POPUP) {
-            style |= WS_CLIPSIBLINGS;
-        }
+        style |= WS_CAPTION;
     }
-    // A dialog frame and a sizing border are raised at their edge.
-    if ((given.dwExStyle & WS_EX_DLGMODALFRAME) ||
-        (!(given.dwExStyle & WS_EX_STATICEDGE) && (style & (WS_DLGFRAME | WS_THICKFRAME)))) {
-        given.dwExStyle |= WS_EX_WINDOWEDGE;
-    } else {
-        given.dwExStyle &= ~static_cast<DWORD>(WS_EX_WINDOWEDGE);
+    if (!child) {
+        style |= WS_CLIPSIBLINGS;
     }
     given.cx = std::max(given.cx, 0);
     given.cy = std::max(given.cy, 0);
@@ -146,39 +111,26 @@ Window* Make(const Request& request) {
     made->handle = base::ToHandle<HWND>(handle);
     Window* window = made.release();
     ++window->windowClass->windows;
-    ++window->thread->windowCount;
     // A new child goes below its siblings, so that the order of creation is the order of tabbing; other windows on top.
-    LinkWindow(window, IsChildStyle(window->style)       ? HWND_BOTTOM
-                       : window->exStyle & WS_EX_TOPMOST ? HWND_TOPMOST
-                                                         : HWND_TOP);
+    const Window* last = IsChildStyle(window->style) ? window->parent->firstChild : nullptr;
+    while (last && last->next) {
+        last = last->next;
+    }
+    LinkWindow(window, last ? last->handle : HWND_TOP);
     return window;
-}
-
-/// Keeps a new window within the sizes that it lets a person give it. Lock held.
-void Limit(Window* window, const MINMAXINFO& limits) {
-    RECT& rect = window->windowRect;
-    const auto within = [](LONG size, LONG least, LONG most) { return std::max(std::min(size, most), least); };
-    rect.right = rect.left + within(rect.right - rect.left, limits.ptMinTrackSize.x, limits.ptMaxTrackSize.x);
-    rect.bottom = rect.top + within(rect.bottom - rect.top, limits.ptMinTrackSize.y, limits.ptMaxTrackSize.y);
-    window->clientRect = rect;
 }
 
 /// The messages that a new window gets. @returns false when it refused, or is gone.
 bool Introduce(HWND handle, CREATESTRUCTA* given) {
     Window* window = PeekWindow(handle);
-    const bool overlapped = !(window->style & (WS_CHILD | WS_POPUP));
-    if (overlapped || (window->style & WS_THICKFRAME)) {
-        const MINMAXINFO limits = QueryMinMax(handle);
+    if ((window->style & WS_THICKFRAME) && !IsChildStyle(window->style)) {
+        // It is kept within the sizes that a person can give it.
         const UserGuard guard(UserLock());
-        window = PeekWindow(handle);
-        if (!window) {
-            return false;
-        }
-        if ((window->style & WS_THICKFRAME) && !IsChildStyle(window->style)) {
-            Limit(window, limits);
-            given->cx = window->windowRect.right - window->windowRect.left;
-            given->cy = window->windowRect.bottom - window->windowRect.top;
-        }
+        const SizeLimits limits = LimitsOf(window);
+        given->cx = std::clamp<int>(given->cx, limits.least.x, limits.most.x);
+        given->cy = std::clamp<int>(given->cy, limits.least.y, limits.most.y);
+        window->windowRect.right = window->windowRect.left + given->cx;
+        window->windowRect.bottom = window->windowRect.top + given->cy;
     }
     if (!SendMessageA(handle, WM_NCCREATE, 0, reinterpret_cast<LPARAM>(given))) {
         // Such a window never was: it hears WM_NCDESTROY and nothing else.
@@ -191,16 +143,7 @@ bool Introduce(HWND handle, CREATESTRUCTA* given) {
     if (!window) {
         return false;
     }
-    RECT client = window->windowRect;
-    const POINT origin = ParentOrigin(window);
-    OffsetRect(&client, -origin.x, -origin.y);
-    SendMessageA(handle, WM_NCCALCSIZE, FALSE, reinterpret_cast<LPARAM>(&client));
-    window = PeekWindow(handle);
-    if (!window) {
-        return false;
-    }
-    OffsetRect(&client, origin.x, origin.y);
-    window->clientRect = client;
+    window->clientRect = ClientFromWindow(window, window->windowRect);
     const bool created = SendMessageA(handle, WM_CREATE, 0, reinterpret_cast<LPARAM>(given)) != -1;
     window = PeekWindow(handle);
     if (!window) {
@@ -210,14 +153,10 @@ bool Introduce(HWND handle, CREATESTRUCTA* given) {
         DestroyTree(handle);
         return false;
     }
-    window->created = true;
     // Overlapped windows hear of their size when they are shown for the first time.
     if (!window->sizeSent && (window->style & (WS_CHILD | WS_POPUP))) {
         window->sizeSent = true;
-        const RECT now = window->clientRect;
-        const POINT from = ParentOrigin(window);
-        SendMessageA(handle, WM_SIZE, SIZE_RESTORED, MAKELPARAM(now.right - now.left, now.bottom - now.top));
-        SendMessageA(handle, WM_MOVE, 0, MAKELPARAM(now.left - from.x, now.top - from.y));
+        SendSize(handle);
     }
     return PeekWindow(handle) != nullptr;
 }
@@ -239,12 +178,9 @@ HWND Create(Request& request) {
     if (!Introduce(handle, &given)) {
         return nullptr;
     }
-    NotifyParents(handle, WM_CREATE);
-    if (request.show && PeekWindow(handle)) {
+    if (request.show) {
         const DWORD style = static_cast<DWORD>(given.style);
-        ShowWindow(handle, style & WS_MAXIMIZE   ? SW_SHOWMAXIMIZED
-                           : style & WS_MINIMIZE ? SW_SHOWMINIMIZED
-                                                 : request.showCommand);
+        ShowWindow(handle, style & WS_MAXIMIZE ? SW_SHOWMAXIMIZED : style & WS_MINIMIZE ? SW_SHOWMINIMIZED : SW_SHOW);
     }
     return PeekWindow(handle) ? handle : nullptr;
 }

@@ -43,14 +43,6 @@ std::vector<Window*> OwnedWindows(const Window* owner) {
     return owned;
 }
 
-void SetTopmost(Window* window, bool topmost) {
-    if (topmost) {
-        window->exStyle |= WS_EX_TOPMOST;
-    } else {
-        window->exStyle &= ~static_cast<DWORD>(WS_EX_TOPMOST);
-    }
-}
-
 void Relink(Window* window, HWND after) {
     UnlinkWindow(window);
     LinkWindow(window, after);
@@ -94,9 +86,6 @@ void RaiseOwners(const Window* window) {
 }  // namespace
 
 bool InPlace(const Window* window, HWND after) {
-    if (window->parent != Desktop() && (after == HWND_TOPMOST || after == HWND_NOTOPMOST)) {
-        after = HWND_TOP;
-    }
     if (after == HWND_TOP) {
         const Window* above = window->previous;
         // What a window owns lies above it wherever it goes.
@@ -104,15 +93,6 @@ bool InPlace(const Window* window, HWND after) {
             above = above->previous;
         }
         return above == nullptr || (Topmost(above) && !Topmost(window));
-    }
-    if (after == HWND_BOTTOM) {
-        return window->next == nullptr && !Topmost(window);
-    }
-    if (after == HWND_TOPMOST) {
-        return Topmost(window) && window->previous == nullptr;
-    }
-    if (after == HWND_NOTOPMOST) {
-        return !Topmost(window);
     }
     return after == window->handle || (window->previous != nullptr && window->previous->handle == after);
 }
@@ -128,46 +108,26 @@ void CollectGroup(Window* window, std::vector<Window*>& group) {
 
 void ChangeOrder(Window* window, HWND after, UINT flags) {
     if (window->parent != Desktop()) {
-        if (after == HWND_TOPMOST || after == HWND_NOTOPMOST) {
-            after = HWND_TOP;
-        }
         Relink(window, after);
-        WindowsChanged();
         return;
     }
     try {
         const std::vector<Window*> owned = OwnedWindows(window);
-        const bool raise = after == HWND_TOP || after == HWND_TOPMOST || after == HWND_NOTOPMOST;
-        if (after == HWND_TOPMOST || after == HWND_NOTOPMOST || after == HWND_BOTTOM) {
-            SetTopmost(window, after == HWND_TOPMOST);
-            for (Window* other : owned) {
-                SetTopmost(other, after == HWND_TOPMOST);
-            }
-            if (after == HWND_NOTOPMOST) {
-                for (Window* owner = window->owner; owner != nullptr; owner = owner->owner) {
-                    SetTopmost(owner, false);
-                }
-            }
-            if (after != HWND_BOTTOM) {
-                after = HWND_TOP;
-            }
-        }
         Relink(window, after);
         for (Window* other : owned) {
             if (Topmost(other) == Topmost(window)) {
                 PlaceAbove(other, window);
             }
         }
-        if (raise && (flags & SWP_NOOWNERZORDER) == 0) {
+        if (after == HWND_TOP && (flags & SWP_NOOWNERZORDER) == 0) {
             RaiseOwners(window);
         }
         if (window->owner != nullptr && LiesBelow(window, window->owner)) {
             PlaceAbove(window, window->owner);
         }
     } catch (const std::bad_alloc&) {
-        Relink(window, after == HWND_BOTTOM ? HWND_BOTTOM : HWND_TOP);
+        Relink(window, HWND_TOP);
     }
-    WindowsChanged();
 }
 
 }  // namespace platform::user

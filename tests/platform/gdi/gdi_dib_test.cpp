@@ -7,7 +7,7 @@
 namespace {
 
 TEST(GdiDib, SectionsOfEveryDepthKeepColours) {
-    for (const int bits : {1, 4, 8, 16, 24, 32}) {
+    for (const int bits : {1, 4, 8, 24, 32}) {
         SCOPED_TRACE(bits);
         DibHeader header(5, 3, bits);
         header.colours[0] = {0, 0, 0, 0};
@@ -43,9 +43,6 @@ TEST(GdiDib, SectionsOfEveryDepthKeepColours) {
             case 8:
                 EXPECT_EQ(1, middle[3]);
                 break;
-            case 16:
-                EXPECT_EQ(0x7FFF, middle[6] | middle[7] << 8);
-                break;
             case 24:
                 EXPECT_EQ(255, middle[9]);
                 break;
@@ -59,72 +56,9 @@ TEST(GdiDib, SectionsOfEveryDepthKeepColours) {
     }
 }
 
-/// A row of pixels of 16 bits as colours, by way of a bitmap of this layout.
-std::vector<DWORD> Colours(const std::vector<WORD>& pixels, const DWORD* masks) {
-    const int width = static_cast<int>(pixels.size());
-    DibHeader header(width, -1, 16);
-    if (masks != nullptr) {
-        header.header.biCompression = BI_BITFIELDS;
-        std::memcpy(header.colours, masks, 3 * sizeof(DWORD));
-    }
-    void* memory = nullptr;
-    const HDC dc = CreateCompatibleDC(nullptr);
-    const HBITMAP bitmap = CreateDIBSection(dc, header.Info(), DIB_RGB_COLORS, &memory, nullptr, 0);
-    std::vector<DWORD> colours(pixels.size());
-    if (bitmap == nullptr) {
-        ADD_FAILURE() << "no bitmap";
-        return colours;
-    }
-    std::memcpy(memory, pixels.data(), pixels.size() * sizeof(WORD));
-    DIBSECTION section{};
-    EXPECT_EQ(int{sizeof(section)}, GetObjectA(bitmap, sizeof(section), &section));
-    EXPECT_EQ(masks != nullptr ? masks[1] : DWORD{0x03E0}, section.dsBitfields[1]);
-    DibHeader wanted(width, -1, 32);
-    EXPECT_EQ(1, GetDIBits(dc, bitmap, 0, 1, colours.data(), wanted.Info(), DIB_RGB_COLORS));
-    // What comes back of that in its own form is what went in, and its masks are told.
-    DibHeader own(width, -1, 16);
-    own.header.biCompression = BI_BITFIELDS;
-    std::vector<WORD> back(pixels.size());
-    EXPECT_EQ(1, GetDIBits(dc, bitmap, 0, 1, back.data(), own.Info(), DIB_RGB_COLORS));
-    EXPECT_EQ(pixels, back);
-    EXPECT_EQ(0, std::memcmp(own.colours, section.dsBitfields, sizeof(section.dsBitfields)));
-    DeleteDC(dc);
-    DeleteObject(bitmap);
-    for (DWORD& colour : colours) {
-        colour &= 0xFFFFFF;
-    }
-    return colours;
-}
-
-TEST(GdiDib, SixteenBitsAreColoursOfFiveBitsOrGreenOfSix) {
-    const std::vector<WORD> pixels{0x7FFF, 0x001F, 0x7C00, 0x03E0, 0x0421, 0};
-    const DWORD five[3] = {0x7C00, 0x03E0, 0x001F};
-    const DWORD six[3] = {0xF800, 0x07E0, 0x001F};
-    const std::vector<DWORD> plain{0xFFFFFF, 0x0000FF, 0xFF0000, 0x00FF00, 0x080808, 0};
-    EXPECT_EQ(plain, Colours(pixels, nullptr));
-    EXPECT_EQ(plain, Colours(pixels, five));
-    EXPECT_EQ((std::vector<DWORD>{0x7BFFFF, 0x0000FF, 0x7B8200, 0x007D00, 0x008608, 0}), Colours(pixels, six));
-}
-
-TEST(GdiDib, BitmapsOfSixteenBits) {
-    const WORD pixels[] = {0x7C00, 0x03E0, 0x001F, 0x7FFF};
-    const HBITMAP bitmap = CreateBitmap(3, 1, 1, 16, pixels);
-    ASSERT_NE(nullptr, bitmap);
+TEST(GdiDib, OddDepthsBecomeTheNextThereIs) {
     BITMAP shape{};
-    GetObjectA(bitmap, sizeof(shape), &shape);
-    EXPECT_EQ(16, shape.bmBitsPixel);
-    EXPECT_EQ(6, shape.bmWidthBytes);
-    const HDC dc = CreateCompatibleDC(nullptr);
-    DibHeader header(3, -1, 24);
-    BYTE bytes[12] = {};
-    EXPECT_EQ(1, GetDIBits(dc, bitmap, 0, 1, bytes, header.Info(), DIB_RGB_COLORS));
-    EXPECT_EQ(255, bytes[2]);
-    EXPECT_EQ(255, bytes[4]);
-    EXPECT_EQ(255, bytes[6]);
-    DeleteDC(dc);
-    DeleteObject(bitmap);
-    // Other numbers of bits become the next one that there is.
-    const int depths[][2] = {{2, 4}, {5, 8}, {15, 16}, {17, 24}, {25, 32}};
+    const int depths[][2] = {{2, 4}, {5, 8}, {17, 24}, {25, 32}};
     for (const auto& depth : depths) {
         const HBITMAP rounded = CreateBitmap(2, 2, 1, static_cast<UINT>(depth[0]), nullptr);
         GetObjectA(rounded, sizeof(shape), &shape);

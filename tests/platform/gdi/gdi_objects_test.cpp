@@ -28,10 +28,10 @@ TEST(GdiObjects, StaleContextsAreRefused) {
 }
 
 TEST(GdiObjects, DescribeThemselves) {
-    const HPEN pen = CreatePen(PS_DASH, 1, RGB(10, 20, 30));
+    const HPEN pen = CreatePen(PS_SOLID, 1, RGB(10, 20, 30));
     LOGPEN logicalPen{};
     EXPECT_EQ(int{sizeof(logicalPen)}, GetObjectA(pen, sizeof(logicalPen), &logicalPen));
-    EXPECT_EQ(UINT{PS_DASH}, logicalPen.lopnStyle);
+    EXPECT_EQ(UINT{PS_SOLID}, logicalPen.lopnStyle);
     EXPECT_EQ(RGB(10, 20, 30), logicalPen.lopnColor);
     DeleteObject(pen);
 

@@ -53,18 +53,6 @@ TEST(GdiShapes, AHollowBrushLeavesTheInside) {
     EXPECT_EQ(0, canvas.Count(canvas.All(), Canvas::kWhite));
 }
 
-TEST(GdiShapes, WidePensKeepInsideTheFrame) {
-    Canvas canvas;
-    const HPEN pen = CreatePen(PS_INSIDEFRAME, 3, RGB(0, 0, 0));
-    const HGDIOBJ previous = SelectObject(canvas, pen);
-    Rectangle(canvas, 5, 5, 25, 25);
-    ExpectRect(canvas.Inked(), 5, 5, 25, 25);
-    EXPECT_EQ(Canvas::kBlack, canvas.At(7, 15));
-    EXPECT_EQ(Canvas::kWhite, canvas.At(8, 15));
-    SelectObject(canvas, previous);
-    DeleteObject(pen);
-}
-
 TEST(GdiShapes, EllipsesFillTheirBox) {
     Canvas canvas;
     SelectObject(canvas, GetStockObject(BLACK_BRUSH));

@@ -30,9 +30,6 @@ class EditControl : public ::testing::Test {
     static LRESULT Send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
         return SendMessageA(window, message, wParam, lParam);
     }
-    static LRESULT Replace(HWND edit, const char* text, bool undo = true) {
-        return Send(edit, EM_REPLACESEL, undo, reinterpret_cast<LPARAM>(text));
-    }
     static void Type(HWND edit, const char* text) {
         for (; *text; ++text)
             Send(edit, WM_CHAR, static_cast<unsigned char>(*text), 1);

@@ -23,7 +23,6 @@ struct Painted {
     std::vector<BOOL> eraseLeft;
     WINDOWPOS lastPosition{};
     LPARAM lastSize = 0;
-    UINT calcAnswer = 0;  ///< or-ed to what WM_NCCALCSIZE answers
 
     int Count(UINT message) const {
         return static_cast<int>(std::count(heard.begin(), heard.end(), message));
@@ -192,8 +191,6 @@ class PaintedWindows : public ::testing::Test {
             case WM_SIZE:
                 record.lastSize = lParam;
                 break;
-            case WM_NCCALCSIZE:
-                return DefWindowProcA(window, message, wParam, lParam) | (wParam ? record.calcAnswer : 0);
             default:
                 break;
         }

@@ -17,10 +17,8 @@ struct ComboData : ControlData {
     int fieldHeight = 0;       ///< of the text's place, without the edge around it
     bool heightGiven = false;  ///< by the owner, so that the font leaves it alone
     int dropHeight = 0;        ///< greatest height of the dropped list
-    int dropWidth = 0;         ///< least width of the dropped list
     DWORD scrollStyle = 0;     ///< WS_VSCROLL and WS_HSCROLL, which are the list's
     bool dropped = false;
-    bool closing = false;
     bool pressed = false;    ///< the arrow is held
     bool scrolling = false;  ///< the list's scroll bar has the mouse
     bool focused = false;

@@ -43,28 +43,11 @@ void OnEnable(ComboData& combo, bool enabled) {
     InvalidateRect(combo.window, nullptr, TRUE);
 }
 
-void OnPaint(const ComboData& combo, HDC given) {
-    if (given) {
-        PaintCombo(combo, given);
-        return;
-    }
-    PAINTSTRUCT paint{};
-    if (const HDC context = BeginPaint(combo.window, &paint))
-        PaintCombo(combo, context);
-    EndPaint(combo.window, &paint);
-}
-
 // --- what the parts tell
 
 void OnEditNotification(ComboData& combo, UINT code) {
-    if (code == EN_ERRSPACE)
-        NotifyCombo(combo, CBN_ERRSPACE);
-    if (combo.quiet || (code != EN_CHANGE && code != EN_UPDATE))
+    if (combo.quiet || code != EN_CHANGE)
         return;
-    if (code == EN_UPDATE) {
-        NotifyCombo(combo, CBN_EDITUPDATE);
-        return;
-    }
     // What is typed is no item of the list, which at most shows where it would be.
     SendMessageA(combo.list, LB_SETCURSEL, static_cast<WPARAM>(-1), 0);
     const std::string text = ItemText(combo, -1);
@@ -76,41 +59,24 @@ void OnEditNotification(ComboData& combo, UINT code) {
     NotifyCombo(combo, CBN_EDITCHANGE);
 }
 
-void OnListNotification(ComboData& combo, int code) {
-    switch (code) {
-        case LBN_SELCHANGE: {
-            if (combo.dropped && !combo.byKey)
-                CloseUp(combo, true);
-            else if (!combo.dropped)
-                NotifyCombo(combo, CBN_SELENDOK);
-            if (!IsWindow(combo.window))
-                return;
-            combo.settled = Current(combo);
-            if (!combo.edit)
-                RedrawCombo(combo);
-            NotifyCombo(combo, CBN_SELCHANGE);
-            // The parent may look at the former text until here.
-            if (combo.edit && IsWindow(combo.edit))
-                ShowSelection(combo);
-            break;
-        }
-        case LBN_DBLCLK:
-            NotifyCombo(combo, CBN_DBLCLK);
-            break;
-        case static_cast<short>(LBN_ERRSPACE):
-            NotifyCombo(combo, CBN_ERRSPACE);
-            break;
-        default:
-            break;
-    }
+void OnSelectionChange(ComboData& combo) {
+    if (combo.dropped && !combo.byKey)
+        CloseUp(combo, true);
+    combo.settled = Current(combo);
+    if (!combo.edit)
+        RedrawCombo(combo);
+    NotifyCombo(combo, CBN_SELCHANGE);
+    // The parent may look at the former text until here.
+    if (combo.edit && IsWindow(combo.edit))
+        ShowSelection(combo);
 }
 
 void OnCommand(ComboData& combo, WPARAM wParam, LPARAM lParam) {
     const auto from = reinterpret_cast<HWND>(lParam);
     if (from && from == combo.edit)
         OnEditNotification(combo, HIWORD(wParam));
-    else if (from && from == combo.list)
-        OnListNotification(combo, static_cast<short>(HIWORD(wParam)));
+    else if (from && from == combo.list && HIWORD(wParam) == LBN_SELCHANGE)
+        OnSelectionChange(combo);
 }
 
 // --- input
@@ -153,12 +119,7 @@ LRESULT OnText(ComboData& combo, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_GETTEXTLENGTH)
         return static_cast<LRESULT>(text.size());
     auto* buffer = reinterpret_cast<char*>(lParam);
-    if (message != WM_GETTEXT || !buffer || wParam == 0)
-        return CB_ERR;
-    const std::size_t length = std::min<std::size_t>(text.size(), wParam - 1);
-    std::copy_n(text.data(), length, buffer);
-    buffer[length] = '\0';
-    return static_cast<LRESULT>(length);
+    return message == WM_GETTEXT && buffer && wParam ? CopyText(text, wParam, buffer) : CB_ERR;
 }
 
 LRESULT OnInput(ComboData& combo, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -179,12 +140,6 @@ LRESULT OnInput(ComboData& combo, UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_CANCELMODE:
             CloseUp(combo, false);
             return DefWindowProcA(combo.window, message, wParam, lParam);
-        case WM_CUT:
-        case WM_COPY:
-        case WM_PASTE:
-        case WM_CLEAR:
-        case WM_UNDO:
-            return combo.edit ? SendMessageA(combo.edit, message, wParam, lParam) : 0;
         default:
             return DefWindowProcA(combo.window, message, wParam, lParam);
     }
@@ -219,8 +174,7 @@ LRESULT CALLBACK ComboBoxProcedure(HWND window, UINT message, WPARAM wParam, LPA
         case WM_ERASEBKGND:
             return TRUE;
         case WM_PAINT:
-            OnPaint(combo, reinterpret_cast<HDC>(wParam));
-            return 0;
+            return PaintWith(window, [&](HDC context, const RECT&) { PaintCombo(combo, context); });
         case WM_ENABLE:
             OnEnable(combo, wParam != 0);
             return 0;
@@ -257,7 +211,7 @@ LRESULT CALLBACK ComboBoxProcedure(HWND window, UINT message, WPARAM wParam, LPA
             InvalidateRect(window, nullptr, TRUE);
             return 0;
         default:
-            if (message >= CB_GETEDITSEL && message <= CB_SETDROPPEDWIDTH)
+            if (message >= CB_ADDSTRING && message <= CB_FINDSTRINGEXACT)
                 return OnComboMessage(combo, message, wParam, lParam);
             return OnInput(combo, message, wParam, lParam);
     }

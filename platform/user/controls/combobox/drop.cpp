@@ -16,14 +16,12 @@ RECT ListRect(const ComboData& combo) {
     int height = combo.dropHeight;
     if (list) {
         const int item = std::max(1, list->itemHeight);
-        if (!(combo.Style() & CBS_NOINTEGRALHEIGHT)) {
-            const int wanted = std::clamp(list->items.Count(), 1, 0x7FFF) * item + kListFrame;
-            height = std::min(height, wanted);
-            height -= (height - kListFrame) % item;
-        }
+        const int wanted = std::clamp(list->items.Count(), 1, 0x7FFF) * item + kListFrame;
+        height = std::min(height, wanted);
+        height -= (height - kListFrame) % item;
         height = std::max(height, item + kListFrame);
     }
-    const int width = std::max<int>(field.right - field.left, combo.dropWidth);
+    const int width = field.right - field.left;
     const int screen = GetSystemMetrics(SM_CYSCREEN);
     const bool above = field.bottom + height > screen && field.top - height >= 0;
     const int top = above ? field.top - height : field.bottom;
@@ -103,13 +101,11 @@ void DropDown(ComboData& combo) {
 }
 
 void CloseUp(ComboData& combo, bool taken) {
-    if (!combo.dropped || combo.closing)
+    if (!combo.dropped)
         return;
-    combo.closing = true;
+    combo.dropped = combo.pressed = false;
     if (!taken)
         SendMessageA(combo.list, LB_SETCURSEL, static_cast<WPARAM>(combo.settled), 0);
-    NotifyCombo(combo, taken ? CBN_SELENDOK : CBN_SELENDCANCEL);
-    combo.closing = combo.dropped = combo.pressed = false;
     if (const auto list = ControlOf<ListData>(combo.list)) {
         list->following = false;
         EndTracking(*list);
@@ -118,7 +114,6 @@ void CloseUp(ComboData& combo, bool taken) {
     if (GetCapture() == combo.list)
         ReleaseCapture();
     RedrawCombo(combo);
-    NotifyCombo(combo, CBN_CLOSEUP);
 }
 
 bool OnDroppedListInput(ListData& list, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -1,8 +1,6 @@
 // The "edit" class: its window procedure.
 #include "user/controls/edit/edit.h"
 
-#include <algorithm>
-#include <cstring>
 #include <utility>
 
 #include "kernel/memory/probe.h"
@@ -10,40 +8,22 @@
 namespace platform::user {
 namespace {
 
-constexpr char kPasswordCharacter = '*';
-
 LRESULT OnCreate(HWND edit, EditData& data, const CREATESTRUCTA* create) {
-    if ((ControlStyle(edit) & (ES_PASSWORD | ES_MULTILINE)) == ES_PASSWORD) {
-        data.password = kPasswordCharacter;
-    }
-    data.text = InStyleCase(edit, create && create->lpszName ? create->lpszName : "");
+    data.text = create && create->lpszName ? create->lpszName : "";
     LayOut(edit, data);
     return 0;
 }
 
-LRESULT GetText(const EditData& data, WPARAM size, char* buffer) {
-    if (!buffer || size == 0) {
-        return 0;
-    }
-    const std::size_t length = std::min<std::size_t>(data.text.size(), size - 1);
-    std::memcpy(buffer, data.text.data(), length);
-    buffer[length] = '\0';
-    return static_cast<LRESULT>(length);
-}
-
-/// With several lines the control wants all keys. Only Tab, and Enter unless the style keeps it, go to the dialog; with Ctrl
-/// these two are text.
+/// With several lines the control wants all keys. Only Tab goes to the dialog; with Ctrl it is text.
 LRESULT EditDialogCode(HWND edit, EditData& data, LPARAM lParam) {
     constexpr LRESULT kCode = DLGC_WANTCHARS | DLGC_HASSETSEL | DLGC_WANTARROWS;
-    const DWORD style = ControlStyle(edit);
-    if (!(style & ES_MULTILINE)) {
+    if (!IsMultiLine(edit)) {
         return kCode;
     }
     data.inDialog = true;
     const auto* message = reinterpret_cast<const MSG*>(lParam);
-    const WPARAM key = message && message->message == WM_KEYDOWN ? message->wParam : 0;
-    const bool dialogs = key == VK_TAB || (key == VK_RETURN && !(style & ES_WANTRETURN));
-    return dialogs && GetKeyState(VK_CONTROL) >= 0 ? kCode : kCode | DLGC_WANTALLKEYS;
+    const bool tab = message && message->message == WM_KEYDOWN && message->wParam == VK_TAB;
+    return tab && GetKeyState(VK_CONTROL) >= 0 ? kCode : kCode | DLGC_WANTALLKEYS;
 }
 
 void OnSetFont(HWND edit, EditData& data, WPARAM font, bool redraw) {
@@ -69,7 +49,6 @@ void OnSetFocus(HWND edit, EditData& data) {
     if (data.HasSelection()) {
         RedrawEdit(edit);
     }
-    NotifyParent(edit, EN_SETFOCUS);
 }
 
 void OnKillFocus(HWND edit, EditData& data) {
@@ -80,19 +59,6 @@ void OnKillFocus(HWND edit, EditData& data) {
     if (data.HasSelection()) {
         RedrawEdit(edit);
     }
-    NotifyParent(edit, EN_KILLFOCUS);
-}
-
-void OnPaint(HWND edit, const EditData& data, HDC given) {
-    if (given) {
-        PaintEdit(edit, data, given);
-        return;
-    }
-    PAINTSTRUCT paint{};
-    if (const HDC context = BeginPaint(edit, &paint)) {
-        PaintEdit(edit, data, context);
-    }
-    EndPaint(edit, &paint);
 }
 
 void OnScroll(HWND edit, EditData& data, WPARAM wParam) {
@@ -137,48 +103,13 @@ LRESULT OnWheel(HWND edit, EditData& data, WPARAM wParam, LPARAM lParam) {
     return 0;
 }
 
-/// Messages that change or move the text.
-LRESULT OnTextMessage(HWND edit, EditData& data, UINT message, WPARAM wParam, LPARAM lParam) {
-    const bool readOnly = (ControlStyle(edit) & ES_READONLY) != 0;
-    switch (message) {
-        case WM_SETTEXT: {
-            const auto* text = reinterpret_cast<const char*>(lParam);
-            if (text && kernel::ProbeLength(text) == kernel::kBadText) {
-                SetLastError(ERROR_NOACCESS);
-                return FALSE;
-            }
-            SetEditText(edit, data, text);
-            return TRUE;
-        }
-        case EM_REPLACESEL:
-            InsertText(edit, data, lParam ? reinterpret_cast<LPCSTR>(lParam) : "", wParam != 0);
-            return 0;
-        case WM_COPY:
-            CopySelection(edit, data);
-            return 0;
-        case WM_CUT:
-            if (!readOnly) {
-                CutSelection(edit, data);
-            }
-            return 0;
-        case WM_PASTE:
-            if (!readOnly) {
-                PasteText(edit, data);
-            }
-            return 0;
-        case WM_CLEAR:
-            if (!readOnly) {
-                RemoveText(edit, data, data.SelectionStart(), data.SelectionEnd());
-            }
-            return 0;
-        case WM_UNDO:
-        case EM_UNDO: {
-            const bool undone = !readOnly && UndoEdit(edit, data);
-            return undone || !IsMultiLine(edit);
-        }
-        default:
-            return OnEditQuery(edit, data, message, wParam, lParam);
+LRESULT OnSetText(HWND edit, EditData& data, LPCSTR text) {
+    if (text && kernel::ProbeLength(text) == kernel::kBadText) {
+        SetLastError(ERROR_NOACCESS);
+        return FALSE;
     }
+    SetEditText(edit, data, text);
+    return TRUE;
 }
 
 /// Keys may select; what the application selects itself is not the user's choice.
@@ -255,7 +186,7 @@ LRESULT Handle(HWND edit, EditData& data, UINT message, WPARAM wParam, LPARAM lP
         case WM_CREATE:
             return OnCreate(edit, data, reinterpret_cast<const CREATESTRUCTA*>(lParam));
         case WM_GETTEXT:
-            return GetText(data, wParam, reinterpret_cast<char*>(lParam));
+            return CopyText(data.text, wParam, reinterpret_cast<char*>(lParam));
         case WM_GETTEXTLENGTH:
             return static_cast<LRESULT>(data.text.size());
         case WM_GETDLGCODE:
@@ -273,8 +204,7 @@ LRESULT Handle(HWND edit, EditData& data, UINT message, WPARAM wParam, LPARAM lP
         case WM_ERASEBKGND:
             return TRUE;
         case WM_PAINT:
-            OnPaint(edit, data, reinterpret_cast<HDC>(wParam));
-            return 0;
+            return PaintWith(edit, [&](HDC context, const RECT&) { PaintEdit(edit, data, context); });
         case WM_ENABLE:
             RedrawEdit(edit);
             return 0;
@@ -288,15 +218,24 @@ LRESULT Handle(HWND edit, EditData& data, UINT message, WPARAM wParam, LPARAM lP
             InvalidateRect(edit, nullptr, FALSE);
             return 0;
         case WM_SETTEXT:
+            return OnSetText(edit, data, reinterpret_cast<LPCSTR>(lParam));
         case WM_COPY:
+            CopySelection(edit, data);
+            return 0;
         case WM_CUT:
+            CutSelection(edit, data);
+            return 0;
         case WM_PASTE:
+            PasteText(edit, data);
+            return 0;
         case WM_CLEAR:
+            RemoveText(edit, data, data.SelectionStart(), data.SelectionEnd());
+            return 0;
         case WM_UNDO:
-            return OnTextMessage(edit, data, message, wParam, lParam);
+            return UndoEdit(edit, data) || !IsMultiLine(edit);
         default:
             if (message >= EM_GETSEL && message <= EM_GETLIMITTEXT) {
-                return OnTextMessage(edit, data, message, wParam, lParam);
+                return OnEditQuery(edit, data, message, wParam, lParam);
             }
             return OnInput(edit, data, message, wParam, lParam);
     }
@@ -312,7 +251,6 @@ LRESULT CALLBACK EditProcedure(HWND window, UINT message, WPARAM wParam, LPARAM 
     try {
         return Handle(window, *data, message, wParam, lParam);
     } catch (const std::bad_alloc&) {
-        NotifyParent(window, EN_ERRSPACE);
         return 0;
     }
 }

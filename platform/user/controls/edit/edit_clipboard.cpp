@@ -9,9 +9,8 @@
 namespace platform::user {
 namespace {
 
-/// Passwords do not leave the control.
-bool MayCopy(const EditData& data) {
-    return data.HasSelection() && !data.password;
+std::string Selected(const EditData& data) {
+    return data.text.substr(data.SelectionStart(), data.SelectionEnd() - data.SelectionStart());
 }
 
 bool PutOnClipboard(HWND edit, std::string_view text) {
@@ -59,19 +58,14 @@ std::string TextOnClipboard(HWND edit) {
 }  // namespace
 
 void CopySelection(HWND edit, const EditData& data) {
-    if (MayCopy(data)) {
-        PutOnClipboard(edit, std::string_view(data.text).substr(data.SelectionStart(),
-                                                                data.SelectionEnd() - data.SelectionStart()));
+    if (data.HasSelection()) {
+        PutOnClipboard(edit, Selected(data));
     }
 }
 
 void CutSelection(HWND edit, EditData& data) {
-    if (!MayCopy(data)) {
-        return;
-    }
-    const std::string text = data.text.substr(data.SelectionStart(), data.SelectionEnd() - data.SelectionStart());
     // What could not be put away is not taken from the text.
-    if (PutOnClipboard(edit, text)) {
+    if (data.HasSelection() && PutOnClipboard(edit, Selected(data))) {
         RemoveText(edit, data, data.SelectionStart(), data.SelectionEnd());
     }
 }
@@ -79,7 +73,7 @@ void CutSelection(HWND edit, EditData& data) {
 void PasteText(HWND edit, EditData& data) {
     const std::string text = Fitting(edit, TextOnClipboard(edit));
     if (!text.empty()) {
-        InsertText(edit, data, text, true);
+        InsertText(edit, data, text);
     }
 }
 
@@ -88,14 +82,14 @@ bool CanPaste(HWND edit) {
 }
 
 void OfferSelection(const EditData& data) {
-    if (MayCopy(data)) {
-        OfferPrimarySelection(data.text.substr(data.SelectionStart(), data.SelectionEnd() - data.SelectionStart()));
+    if (data.HasSelection()) {
+        OfferPrimarySelection(Selected(data));
     }
 }
 
 void OnEditMiddlePress(HWND edit, EditData& data, LPARAM point) {
     std::string text;
-    if ((ControlStyle(edit) & ES_READONLY) || !ReadPrimarySelection(&text)) {
+    if (!ReadPrimarySelection(&text)) {
         return;
     }
     text = Fitting(edit, std::move(text));
@@ -107,7 +101,7 @@ void OnEditMiddlePress(HWND edit, EditData& data, LPARAM point) {
     }
     if (IsWindow(edit)) {
         MoveEditCaret(edit, data, PositionAt(edit, data, MousePoint(point)), false);
-        InsertText(edit, data, text, true);
+        InsertText(edit, data, text);
     }
 }
 

@@ -15,10 +15,6 @@ bool IsHeld(int key) {
     return GetKeyState(key) < 0;
 }
 
-bool MayChange(HWND edit) {
-    return !(ControlStyle(edit) & ES_READONLY);
-}
-
 std::size_t LineStart(const EditData& data) {
     return data.lines[LineOf(data, data.caret)].start;
 }
@@ -35,7 +31,7 @@ std::size_t LineEnd(const EditData& data) {
 void StepSideways(HWND edit, EditData& data, bool left, bool shift, bool control) {
     std::size_t position = data.caret;
     if (control) {
-        position = left ? WordLeft(data, position) : WordRight(data, position);
+        position = left ? WordLeft(data.text, position) : WordRight(data.text, position);
     } else if (data.HasSelection() && !shift) {
         position = left ? data.SelectionStart() : data.SelectionEnd();
     } else {
@@ -69,9 +65,6 @@ void StepPage(HWND edit, EditData& data, int direction, bool shift) {
 
 /// Shift+Delete cuts, Ctrl+Delete removes the rest of the line.
 void Delete(HWND edit, EditData& data, bool shift, bool control) {
-    if (!MayChange(edit)) {
-        return;
-    }
     if (data.HasSelection()) {
         if (shift) {
             CutSelection(edit, data);
@@ -89,19 +82,10 @@ void Delete(HWND edit, EditData& data, bool shift, bool control) {
 }
 
 void Backspace(HWND edit, EditData& data) {
-    if (!MayChange(edit)) {
-        return;
-    }
     if (data.HasSelection()) {
         RemoveText(edit, data, data.SelectionStart(), data.SelectionEnd());
     } else {
         RemoveText(edit, data, PreviousPosition(data.text, data.caret), data.caret);
-    }
-}
-
-void TypeText(HWND edit, EditData& data, std::string_view text) {
-    if (MayChange(edit)) {
-        InsertText(edit, data, text, true);
     }
 }
 
@@ -112,11 +96,11 @@ void TypeByte(HWND edit, EditData& data, char character) {
     }
     if (data.lead) {
         const char pair[] = {std::exchange(data.lead, '\0'), character};
-        TypeText(edit, data, {pair, sizeof pair});
+        InsertText(edit, data, {pair, sizeof pair});
     } else if (IsDBCSLeadByte(static_cast<BYTE>(character))) {
         data.lead = character;
     } else {
-        TypeText(edit, data, {&character, 1});
+        InsertText(edit, data, {&character, 1});
     }
 }
 
@@ -151,13 +135,13 @@ void OnEditKey(HWND edit, EditData& data, WPARAM key) {
         case VK_INSERT:
             if (control && !shift) {
                 CopySelection(edit, data);
-            } else if (shift && !control && MayChange(edit)) {
+            } else if (shift && !control) {
                 PasteText(edit, data);
             }
             return;
         case VK_TAB:
             if (multi && data.inDialog && control) {
-                TypeText(edit, data, "\t");
+                InsertText(edit, data, "\t");
             }
             return;
         case VK_ESCAPE:
@@ -181,29 +165,21 @@ void OnEditCharacter(HWND edit, EditData& data, WPARAM character) {
         case ControlCharacter('C'):
             return CopySelection(edit, data);
         case ControlCharacter('X'):
-            if (MayChange(edit)) {
-                CutSelection(edit, data);
-            }
-            return;
+            return CutSelection(edit, data);
         case ControlCharacter('V'):
-            if (MayChange(edit)) {
-                PasteText(edit, data);
-            }
-            return;
+            return PasteText(edit, data);
         case ControlCharacter('Z'):
-            if (MayChange(edit)) {
-                UndoEdit(edit, data);
-            }
+            UndoEdit(edit, data);
             return;
         case VK_RETURN:
         case ControlCharacter('J'):  // Ctrl+Enter
             if (style & ES_MULTILINE) {
-                TypeText(edit, data, "\r\n");
+                InsertText(edit, data, "\r\n");
             }
             return;
         case VK_TAB:
             if (style & ES_MULTILINE) {
-                TypeText(edit, data, "\t");
+                InsertText(edit, data, "\t");
             }
             return;
         default:

@@ -39,11 +39,6 @@ void Wrap(const EditMeasure& measure, EditData& data, EditLine paragraph) {
     data.lines.push_back(paragraph);
 }
 
-bool Wraps(HWND edit) {
-    const DWORD style = ControlStyle(edit);
-    return !(style & ES_AUTOHSCROLL) || (style & (ES_CENTER | ES_RIGHT));
-}
-
 RECT FormatOf(HWND edit, const EditData& data) {
     RECT rect{};
     GetClientRect(edit, &rect);
@@ -106,7 +101,7 @@ void BreakLines(HWND edit, EditData& data) {
         return;
     }
     const EditMeasure measure(edit, data);
-    const bool wraps = Wraps(edit) && FormatWidth(data) > 0;
+    const bool wraps = FormatWidth(data) > 0;
     for (std::size_t start = 0;;) {
         const std::size_t end = std::min(data.text.find("\r\n", start), data.text.size());
         if (wraps) {
@@ -151,7 +146,7 @@ POINT PointOf(HWND edit, const EditData& data, std::size_t position) {
     const EditLine& line = data.lines[index];
     const std::size_t count = std::min(position, line.End()) - line.start;
     const auto row = static_cast<int>(index) - static_cast<int>(data.firstLine);
-    return {data.format.left + measure.Indent(line) + measure.Width(line.start, count) - data.scrollX,
+    return {data.format.left + measure.Width(line.start, count) - data.scrollX,
             data.format.top + row * data.lineHeight};
 }
 
@@ -163,7 +158,7 @@ std::size_t PositionAt(HWND edit, const EditData& data, POINT point) {
     const LONG wanted = static_cast<LONG>(data.firstLine) + row;
     const auto index = static_cast<std::size_t>(std::clamp<LONG>(wanted, 0, static_cast<LONG>(data.lines.size()) - 1));
     const EditLine& line = data.lines[index];
-    const int distance = point.x - data.format.left - measure.Indent(line) + data.scrollX;
+    const int distance = point.x - data.format.left + data.scrollX;
     std::size_t position = line.start + measure.Fit(line, std::max(distance, 0), true);
     // The end of a wrapped line is the beginning of the next one; the caret stays on the line that was meant.
     if (index + 1 < data.lines.size() && position == data.lines[index + 1].start && line.length > 0) {
@@ -197,14 +192,14 @@ void MoveEditCaret(HWND edit, EditData& data, std::size_t position, bool extend)
 }
 
 bool ScrollToCaret(HWND edit, EditData& data) {
-    const EditMeasure measure(edit, data);
-    const bool multi = IsMultiLine(edit);
-    const bool sideways = (!multi || !Wraps(edit)) && ScrollSideways(measure, data);
-    const bool upright = multi && ScrollUpright(data);
-    if (upright) {
+    if (!IsMultiLine(edit)) {
+        return ScrollSideways(EditMeasure(edit, data), data);
+    }
+    const bool scrolled = ScrollUpright(data);
+    if (scrolled) {
         ShowEditBar(edit, data);
     }
-    return sideways || upright;
+    return scrolled;
 }
 
 void ScrollLines(HWND edit, EditData& data, int lines) {
@@ -216,11 +211,8 @@ void ScrollLines(HWND edit, EditData& data, int lines) {
     }
     data.firstLine = static_cast<std::size_t>(wanted);
     ShowEditBar(edit, data);
-    NotifyParent(edit, EN_VSCROLL);
-    if (IsWindow(edit)) {
-        RedrawEdit(edit);
-        PlaceEditCaret(edit, data);
-    }
+    RedrawEdit(edit);
+    PlaceEditCaret(edit, data);
 }
 
 }  // namespace platform::user

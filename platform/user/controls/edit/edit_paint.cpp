@@ -37,7 +37,7 @@ EditLine VisiblePart(const EditMeasure& measure, const EditData& data, const Edi
 void DrawLine(const EditMeasure& measure, const EditData& data, HDC context, const EditLine& line, int y,
               const Colours& colours, bool highlight) {
     const EditLine part = VisiblePart(measure, data, line);
-    const int left = data.format.left + measure.Indent(line) - data.scrollX;
+    const int left = data.format.left - data.scrollX;
     const int x = left + measure.Width(line.start, part.start - line.start);
     const std::string text = Shown(data, part.start, part.length);
     SetTextColor(context, colours.text);
@@ -62,25 +62,23 @@ void DrawLine(const EditMeasure& measure, const EditData& data, HDC context, con
 }  // namespace
 
 void PaintEdit(HWND edit, const EditData& data, HDC context) {
-    const DWORD style = ControlStyle(edit);
     const int saved = SaveDC(context);
     RECT client{};
     GetClientRect(edit, &client);
     // What cannot be typed into has the colours of a label.
-    const bool label = (style & (ES_READONLY | WS_DISABLED)) != 0;
-    FillRect(context, &client, ControlBrush(edit, context, label ? WM_CTLCOLORSTATIC : WM_CTLCOLOREDIT));
+    const bool disabled = (ControlStyle(edit) & WS_DISABLED) != 0;
+    FillRect(context, &client, ControlBrush(edit, context, disabled ? WM_CTLCOLORSTATIC : WM_CTLCOLOREDIT));
     if (data.font) {
         SelectObject(context, data.font);
     }
     SetBkMode(context, TRANSPARENT);
     IntersectClipRect(context, data.format.left, data.format.top, data.format.right, data.format.bottom);
-    const Colours colours{style & WS_DISABLED ? GetSysColor(COLOR_GRAYTEXT) : GetTextColor(context),
-                          GetSysColor(COLOR_HIGHLIGHT), GetSysColor(COLOR_HIGHLIGHTTEXT)};
-    const bool highlight = data.focused || (style & ES_NOHIDESEL);
+    const Colours colours{disabled ? GetSysColor(COLOR_GRAYTEXT) : GetTextColor(context), GetSysColor(COLOR_HIGHLIGHT),
+                          GetSysColor(COLOR_HIGHLIGHTTEXT)};
     const EditMeasure measure(edit, data);
     int y = data.format.top;
     for (std::size_t index = data.firstLine; index < data.lines.size() && y < data.format.bottom; ++index) {
-        DrawLine(measure, data, context, data.lines[index], y, colours, highlight);
+        DrawLine(measure, data, context, data.lines[index], y, colours, data.focused);
         y += data.lineHeight;
     }
     RestoreDC(context, saved);

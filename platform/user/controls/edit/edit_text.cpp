@@ -53,7 +53,6 @@ void Exchange(EditData& data, std::size_t start, std::size_t end, std::string_vi
 
 /// After a change by the user: the layout, the parent's two notifications, and the picture between them.
 void Announce(HWND edit, EditData& data) {
-    data.modified = true;
     BreakLines(edit, data);
     ScrollToCaret(edit, data);
     NotifyParent(edit, EN_UPDATE);
@@ -65,19 +64,10 @@ void Announce(HWND edit, EditData& data) {
     NotifyParent(edit, EN_CHANGE);
 }
 
-/// Without automatic scrolling the text must stay within the format rectangle.
+/// Without automatic scrolling a single line must stay within the format rectangle.
 bool FitsRectangle(HWND edit, EditData& data) {
-    const DWORD style = ControlStyle(edit);
-    if (!(style & ES_MULTILINE)) {
-        return (style & ES_AUTOHSCROLL) ||
-               EditMeasure(edit, data).Width(0, data.text.size()) <= data.format.right - data.format.left;
-    }
-    if (style & ES_AUTOVSCROLL) {
-        return true;
-    }
-    BreakLines(edit, data);
-    return static_cast<int>(data.lines.size()) * data.lineHeight <=
-           std::max<LONG>(data.format.bottom - data.format.top, data.lineHeight);
+    return (ControlStyle(edit) & (ES_MULTILINE | ES_AUTOHSCROLL)) ||
+           EditMeasure(edit, data).Width(0, data.text.size()) <= data.format.right - data.format.left;
 }
 
 }  // namespace
@@ -104,67 +94,39 @@ std::size_t PreviousPosition(const std::string& text, std::size_t position) {
     return static_cast<std::size_t>(CharPrevA(start, start + position) - start);
 }
 
-// A password is one word: its inner spaces are as secret as the rest.
-std::size_t WordLeft(const EditData& data, std::size_t position) {
-    if (data.password) {
-        return 0;
-    }
-    while (position > 0 && IsBlank(data.text[position - 1])) {
+std::size_t WordLeft(const std::string& text, std::size_t position) {
+    while (position > 0 && IsBlank(text[position - 1])) {
         --position;
     }
-    while (position > 0 && !IsBlank(data.text[position - 1])) {
+    while (position > 0 && !IsBlank(text[position - 1])) {
         --position;
     }
     return position;
 }
 
-std::size_t WordRight(const EditData& data, std::size_t position) {
-    if (data.password) {
-        return data.text.size();
-    }
-    while (position < data.text.size() && !IsBlank(data.text[position])) {
+std::size_t WordRight(const std::string& text, std::size_t position) {
+    while (position < text.size() && !IsBlank(text[position])) {
         ++position;
     }
-    while (position < data.text.size() && IsBlank(data.text[position])) {
+    while (position < text.size() && IsBlank(text[position])) {
         ++position;
     }
     return position;
 }
 
-std::string InStyleCase(HWND edit, std::string_view text) {
-    std::string result(text);
-    const DWORD style = ControlStyle(edit);
-    if (style & ES_UPPERCASE) {
-        CharUpperBuffA(result.data(), static_cast<DWORD>(result.size()));
-    } else if (style & ES_LOWERCASE) {
-        CharLowerBuffA(result.data(), static_cast<DWORD>(result.size()));
-    }
-    return result;
-}
-
-void InsertText(HWND edit, EditData& data, std::string_view text, bool mayUndo) {
-    const std::string wanted = InStyleCase(edit, text);
+void InsertText(HWND edit, EditData& data, std::string_view text) {
     const std::size_t start = data.SelectionStart();
     const std::string removed = data.text.substr(start, data.SelectionEnd() - start);
     const std::size_t kept = data.text.size() - removed.size();
-    std::string_view taken = Beginning(wanted, data.limit > kept ? data.limit - kept : 0);
+    std::string_view taken = Beginning(text, data.limit > kept ? data.limit - kept : 0);
     Exchange(data, start, start + removed.size(), taken);
     while (!taken.empty() && !FitsRectangle(edit, data)) {
         const std::size_t length = taken.size();
         taken = Beginning(taken, length - 1);
         Exchange(data, start, start + length, taken);
     }
-    if (!mayUndo) {
-        data.undo = {};
-    } else if (!removed.empty() || !taken.empty()) {
+    if (!removed.empty() || !taken.empty()) {
         Remember(data, start, removed, taken.size());
-    }
-    // Told before the change itself is, with the text and its lines as they are now.
-    BreakLines(edit, data);
-    if (taken.size() < wanted.size()) {
-        NotifyParent(edit, EN_MAXTEXT);
-    }
-    if ((!removed.empty() || !taken.empty()) && IsWindow(edit)) {
         Announce(edit, data);
     }
 }
@@ -180,10 +142,9 @@ void RemoveText(HWND edit, EditData& data, std::size_t start, std::size_t end) {
 }
 
 void SetEditText(HWND edit, EditData& data, LPCSTR text) {
-    data.text = InStyleCase(edit, text ? text : "");
+    data.text = text ? text : "";
     data.anchor = data.caret = 0;
     data.undo = {};
-    data.modified = false;
     data.lead = 0;
     data.scrollX = 0;
     data.firstLine = 0;

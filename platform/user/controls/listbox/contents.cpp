@@ -29,16 +29,9 @@ int SortedPlace(const ListData& list, const char* text) {
     return low;
 }
 
-LRESULT NoSpace(const ListData& list) {
-    NotifyList(list, LBN_ERRSPACE);
-    return LB_ERRSPACE;
-}
-
-LRESULT InsertAt(ListData& list, int index, LPARAM what) {
-    const bool texts = list.HasTexts();
-    const char* text = texts ? reinterpret_cast<const char*>(what) : nullptr;
-    if (!list.items.Insert(index, text, texts ? 0 : static_cast<ULONG_PTR>(what)))
-        return NoSpace(list);
+LRESULT InsertAt(ListData& list, int index, const char* text) {
+    if (!list.items.Insert(index, text))
+        return LB_ERRSPACE;
     if (list.chosen >= index)
         ++list.chosen;
     if (list.caret >= index && list.items.Count() > 1)
@@ -50,122 +43,48 @@ LRESULT InsertAt(ListData& list, int index, LPARAM what) {
     return index;
 }
 
-LRESULT OnAdd(ListData& list, LPARAM what) {
-    if (list.HasTexts() && !what)
-        what = reinterpret_cast<LPARAM>("");
-    // Without texts there is no order.
-    const bool sorted = (list.Style() & LBS_SORT) && list.HasTexts();
-    return InsertAt(list, sorted ? SortedPlace(list, reinterpret_cast<const char*>(what)) : list.items.Count(), what);
+LRESULT OnAdd(ListData& list, const char* text) {
+    return InsertAt(list, list.Style() & LBS_SORT ? SortedPlace(list, text) : list.items.Count(), text);
 }
 
-LRESULT OnInsert(ListData& list, int index, LPARAM what) {
+LRESULT OnInsert(ListData& list, int index, const char* text) {
     if (index == -1)
         index = list.items.Count();
     if (index < 0 || index > list.items.Count())
         return LB_ERR;
-    return InsertAt(list, index, what);
-}
-
-/// Tells the owner of an item that goes. Items without a value mean nothing to the owner of a list that draws itself.
-void TellDeleted(const ListData& list, int index) {
-    const ULONG_PTR data = list.items[index].data;
-    const ListOwner owner = OwnerOf(list);
-    if ((!list.OwnerDrawn() && !data) || !owner.parent)
-        return;
-    DELETEITEMSTRUCT item{owner.kind, owner.id, static_cast<UINT>(index), owner.control, data};
-    SendMessageA(owner.parent, WM_DELETEITEM, owner.id, reinterpret_cast<LPARAM>(&item));
-}
-
-void Forget(int& place, int index) {
-    if (place > index)
-        --place;
-}
-
-LRESULT OnDelete(ListData& list, int index) {
-    if (!list.items.Has(index))
-        return LB_ERR;
-    TellDeleted(list, index);
-    if (!list.items.Has(index))
-        return LB_ERR;
-    // What is removed may be out of view at the top.
-    InvalidateFrom(list, index);
-    list.items.Remove(index);
-    if (list.chosen == index)
-        list.chosen = -1;
-    for (int* place : {&list.chosen, &list.caret, &list.anchor})
-        Forget(*place, index);
-    list.caret = std::min(list.caret, std::max(0, list.items.Count() - 1));
-    list.anchor = std::min(list.anchor, list.items.Count() - 1);
-    UpdateBars(list);
-    InvalidateFrom(list, std::min(index, list.items.Count()));
-    return list.items.Count();
+    return InsertAt(list, index, text);
 }
 
 LRESULT OnGetText(const ListData& list, int index, char* buffer) {
     if (!list.items.Has(index))
         return LB_ERR;
-    const ListItem& item = list.items[index];
-    if (!list.HasTexts()) {
-        if (buffer)
-            std::memcpy(buffer, &item.data, sizeof item.data);
-        return sizeof item.data;
-    }
+    const std::string& text = list.items[index].text;
     if (buffer)
-        std::memcpy(buffer, item.text.c_str(), item.text.size() + 1);
-    return static_cast<LRESULT>(item.text.size());
+        std::memcpy(buffer, text.c_str(), text.size() + 1);
+    return static_cast<LRESULT>(text.size());
 }
 
-/// The index -1 means all items.
-LRESULT OnSetItemData(ListData& list, int index, ULONG_PTR data) {
-    if (index != -1 && !list.items.Has(index))
-        return LB_ERR;
-    const int end = index == -1 ? list.items.Count() : index + 1;
-    for (int i = std::max(index, 0); i < end; ++i)
-        list.items[i].data = data;
-    return TRUE;
-}
-
-bool Matches(const ListData& list, int index, LPARAM wanted, bool exact) {
-    const ListItem& item = list.items[index];
-    if (!list.HasTexts())
-        return item.data == static_cast<ULONG_PTR>(wanted);
-    const auto* text = reinterpret_cast<const char*>(wanted);
-    const std::size_t length = std::strlen(text);
-    if (exact ? item.text.size() != length : item.text.size() < length)
+bool Matches(const std::string& text, const char* wanted, bool exact) {
+    const std::size_t length = std::strlen(wanted);
+    if (exact ? text.size() != length : text.size() < length)
         return false;
-    return CompareTexts(text, length, item.text.c_str(), length) == 0;
+    return CompareTexts(wanted, length, text.c_str(), length) == 0;
 }
 
 }  // namespace
 
-int FindItem(const ListData& list, int start, LPARAM wanted, bool exact) {
-    if (list.HasTexts() && !wanted)
+int FindItem(const ListData& list, int start, const char* wanted, bool exact) {
+    if (!wanted)
         return LB_ERR;
     const int count = list.items.Count();
     if (start < -1 || start >= count)
         start = -1;
     for (int step = 1; step <= count; ++step) {
         const int index = (start + step) % count;
-        if (list.items.Has(index) && Matches(list, index, wanted, exact))
+        if (Matches(list.items[index].text, wanted, exact))
             return index;
     }
     return LB_ERR;
-}
-
-void RemoveAll(ListData& list) {
-    // The owner hears of each item and may ask for the same again.
-    if (list.emptying)
-        return;
-    list.emptying = true;
-    while (list.items.Count() > 0) {
-        const int last = list.items.Count() - 1;
-        TellDeleted(list, last);
-        if (list.items.Has(last))
-            list.items.Remove(last);
-    }
-    list.emptying = false;
-    list.chosen = list.anchor = -1;
-    list.caret = list.top = 0;
 }
 
 int MeasureItem(const ListData& list) {
@@ -183,15 +102,16 @@ int MeasureItem(const ListData& list) {
 
 LRESULT OnContentsMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lParam) {
     const int index = static_cast<int>(wParam);
+    const auto* text = reinterpret_cast<const char*>(lParam);
     switch (message) {
         case LB_ADDSTRING:
-            return OnAdd(list, lParam);
+            return OnAdd(list, text ? text : "");
         case LB_INSERTSTRING:
-            return OnInsert(list, index, lParam);
-        case LB_DELETESTRING:
-            return OnDelete(list, index);
+            return OnInsert(list, index, text ? text : "");
         case LB_RESETCONTENT:
-            RemoveAll(list);
+            list.items.Clear();
+            list.chosen = list.anchor = -1;
+            list.caret = list.top = 0;
             UpdateBars(list);
             InvalidateFrom(list, 0);
             return LB_OKAY;
@@ -201,19 +121,11 @@ LRESULT OnContentsMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lP
             return OnGetText(list, index, reinterpret_cast<char*>(lParam));
         case LB_GETTEXTLEN:
             return OnGetText(list, index, nullptr);
-        case LB_GETITEMDATA:
-            return list.items.Has(index) ? static_cast<LRESULT>(list.items[index].data) : LB_ERR;
-        case LB_SETITEMDATA:
-            return OnSetItemData(list, index, static_cast<ULONG_PTR>(lParam));
         case LB_FINDSTRING:
         case LB_FINDSTRINGEXACT:
-            return FindItem(list, index, lParam, message == LB_FINDSTRINGEXACT);
-        case LB_SELECTSTRING: {
-            const int found = list.Multiple() ? LB_ERR : FindItem(list, index, lParam, false);
-            return found < 0 ? found : SendMessageA(list.window, LB_SETCURSEL, static_cast<WPARAM>(found), 0);
-        }
+            return FindItem(list, index, text, message == LB_FINDSTRINGEXACT);
         default:
-            return LB_ERR;
+            return OnSelectionMessage(list, message, wParam, lParam);
     }
 }
 

@@ -137,7 +137,7 @@ void OnListTimer(ListData& list) {
     Follow(list, point);
 }
 
-void OnListButtonUp(ListData& list, POINT) {
+void OnListButtonUp(ListData& list) {
     if (!list.tracking)
         return;
     EndTracking(list);
@@ -254,10 +254,10 @@ void OnListKey(ListData& list, WPARAM key) {
 
 void OnListCharacter(ListData& list, WPARAM character) {
     // The space bar selects; control characters are no text.
-    if (!list.HasTexts() || character <= ' ')
+    if (character <= ' ')
         return;
     const char text[2] = {static_cast<char>(character), '\0'};
-    GoTo(list, FindItem(list, list.Multiple() ? list.caret : list.chosen, reinterpret_cast<LPARAM>(text), false));
+    GoTo(list, FindItem(list, list.Multiple() ? list.caret : list.chosen, text, false));
 }
 
 }  // namespace platform::user

@@ -2,16 +2,9 @@
 
 namespace platform::user {
 
-ListItems::~ListItems() {
-    for (ListItem* item : items_)
-        delete item;
-}
-
-bool ListItems::Insert(int index, const char* text, ULONG_PTR data) try {
+bool ListItems::Insert(int index, const char* text) try {
     auto made = std::make_unique<ListItem>();
-    if (text)
-        made->text = text;
-    made->data = data;
+    made->text = text;
     items_.insert(items_.begin() + index, made.get());
     made.release();
     return true;
@@ -19,9 +12,10 @@ bool ListItems::Insert(int index, const char* text, ULONG_PTR data) try {
     return false;
 }
 
-void ListItems::Remove(int index) {
-    delete items_[static_cast<std::size_t>(index)];
-    items_.erase(items_.begin() + index);
+void ListItems::Clear() {
+    for (ListItem* item : items_)
+        delete item;
+    items_.clear();
 }
 
 }  // namespace platform::user

@@ -15,8 +15,7 @@
 namespace platform::user {
 
 struct ListItem {
-    std::string text;    ///< empty without texts
-    ULONG_PTR data = 0;  ///< the application's value
+    std::string text;
     bool selected = false;
 };
 
@@ -26,7 +25,9 @@ class ListItems {
     ListItems() = default;
     ListItems(const ListItems&) = delete;
     ListItems& operator=(const ListItems&) = delete;
-    ~ListItems();
+    ~ListItems() {
+        Clear();
+    }
 
     int Count() const {
         return static_cast<int>(items_.size());
@@ -41,8 +42,8 @@ class ListItems {
         return *items_[static_cast<std::size_t>(index)];
     }
     /// @returns false without memory.
-    bool Insert(int index, const char* text, ULONG_PTR data);
-    void Remove(int index);
+    bool Insert(int index, const char* text);
+    void Clear();
 
   private:
     std::vector<ListItem*> items_;
@@ -60,7 +61,6 @@ struct ListData : ControlData {
     bool vertical = false;
     bool horizontal = false;  ///< made with a scroll bar, which comes and goes
     bool redraw = true;       ///< WM_SETREDRAW
-    bool emptying = false;    ///< all items are going
     bool fitting = false;     ///< is giving itself a height
 
     int chosen = -1;  ///< the selected item of a list with single selection
@@ -77,9 +77,6 @@ struct ListData : ControlData {
     }
     bool OwnerDrawn() const {
         return (Style() & LBS_OWNERDRAWFIXED) != 0;
-    }
-    bool HasTexts() const {
-        return !OwnerDrawn() || (Style() & LBS_HASSTRINGS);
     }
     bool Multiple() const {
         return (Style() & (LBS_MULTIPLESEL | LBS_EXTENDEDSEL)) != 0;
@@ -134,16 +131,15 @@ void SelectItem(ListData& list, int index, bool selected);
 void SelectRange(ListData& list, int from, int to);
 void SelectOnly(ListData& list, int index);
 void MoveCaret(ListData& list, int index);
-/// Brings a key's or a click's selection about at an item. @returns whether the parent has to hear of it.
 LRESULT OnSelectionMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lParam);
+LRESULT OnLayoutMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lParam);
 
 // --- contents.cpp
 
+/// The messages of a list. Each file that answers some of them hands the others on: contents, selection, layout.
 LRESULT OnContentsMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lParam);
 /// @returns the first item after `start` that begins with a text (exact: is that text), going round; LB_ERR for none.
-int FindItem(const ListData& list, int start, LPARAM wanted, bool exact);
-/// Removes all items, with WM_DELETEITEM for each.
-void RemoveAll(ListData& list);
+int FindItem(const ListData& list, int start, const char* wanted, bool exact);
 /// Asks for the height of owner-drawn items.
 int MeasureItem(const ListData& list);
 
@@ -151,7 +147,7 @@ int MeasureItem(const ListData& list);
 
 void OnListButtonDown(ListData& list, POINT point, WPARAM keys, bool second);
 void OnListMouseMove(ListData& list, POINT point);
-void OnListButtonUp(ListData& list, POINT point);
+void OnListButtonUp(ListData& list);
 void OnListTimer(ListData& list);
 void EndTracking(ListData& list);
 void OnListKey(ListData& list, WPARAM key);

@@ -62,29 +62,13 @@ void OnSize(ListData& list) {
     Renew(list);
 }
 
-void OnPaint(ListData& list, HDC given) {
-    if (given) {
-        PaintItems(list, given, ListClient(list));
-        return;
-    }
-    PAINTSTRUCT paint{};
-    const HDC context = BeginPaint(list.window, &paint);
-    // What is not drawn now is marked again when drawing is switched on.
-    if (context && list.redraw)
-        PaintItems(list, context, paint.rcPaint);
-    EndPaint(list.window, &paint);
-}
-
 void OnFocus(ListData& list, bool has) {
     list.focused = has;
     if (list.items.Count() == 0 && list.redraw)
         InvalidateRect(list.window, nullptr, TRUE);
     RedrawItem(list, list.caret, ODA_FOCUS);
-    if (!has && list.tracking) {
+    if (!has && list.tracking)
         EndTracking(list);
-        NotifyList(list, LBN_SELCANCEL);
-    }
-    NotifyList(list, has ? LBN_SETFOCUS : LBN_KILLFOCUS);
 }
 
 void OnSetRedraw(ListData& list, bool on) {
@@ -103,63 +87,6 @@ bool OnWheel(ListData& list, WPARAM wParam) {
     return true;
 }
 
-LRESULT OnLayoutMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lParam) {
-    const int index = static_cast<int>(wParam);
-    switch (message) {
-        case LB_GETTOPINDEX:
-            return list.top;
-        case LB_SETTOPINDEX:
-            if (!list.items.Has(index))
-                return LB_ERR;
-            ScrollTo(list, index);
-            return LB_OKAY;
-        case LB_GETITEMRECT:
-            if (!list.items.Has(index) || !lParam)
-                return LB_ERR;
-            *reinterpret_cast<RECT*>(lParam) = RectOf(list, index);
-            return LB_OKAY;
-        case LB_GETITEMHEIGHT:
-            return list.itemHeight;
-        case LB_SETCOLUMNWIDTH:
-            list.columnWidth = std::max(1, index);
-            Renew(list);
-            return LB_OKAY;
-        default:
-            return LB_ERR;
-    }
-}
-
-LRESULT OnListMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lParam) {
-    switch (message) {
-        case LB_ADDSTRING:
-        case LB_INSERTSTRING:
-        case LB_DELETESTRING:
-        case LB_RESETCONTENT:
-        case LB_GETTEXT:
-        case LB_GETTEXTLEN:
-        case LB_GETCOUNT:
-        case LB_SELECTSTRING:
-        case LB_FINDSTRING:
-        case LB_FINDSTRINGEXACT:
-        case LB_GETITEMDATA:
-        case LB_SETITEMDATA:
-            return OnContentsMessage(list, message, wParam, lParam);
-        case LB_SETSEL:
-        case LB_SETCURSEL:
-        case LB_GETSEL:
-        case LB_GETCURSEL:
-        case LB_GETSELCOUNT:
-        case LB_GETSELITEMS:
-        case LB_SELITEMRANGE:
-        case LB_SETANCHORINDEX:
-        case LB_SETCARETINDEX:
-        case LB_GETCARETINDEX:
-            return OnSelectionMessage(list, message, wParam, lParam);
-        default:
-            return OnLayoutMessage(list, message, wParam, lParam);
-    }
-}
-
 LRESULT OnInput(ListData& list, UINT message, WPARAM wParam, LPARAM lParam) {
     if (list.combo && OnDroppedListInput(list, message, wParam, lParam))
         return 0;
@@ -169,7 +96,7 @@ LRESULT OnInput(ListData& list, UINT message, WPARAM wParam, LPARAM lParam) {
             OnListButtonDown(list, MousePoint(lParam), wParam, message == WM_LBUTTONDBLCLK);
             return 0;
         case WM_LBUTTONUP:
-            OnListButtonUp(list, MousePoint(lParam));
+            OnListButtonUp(list);
             return 0;
         case WM_MOUSEMOVE:
             OnListMouseMove(list, MousePoint(lParam));
@@ -209,6 +136,32 @@ ListOwner OwnerOf(const ListData& list) {
             static_cast<UINT>(GetDlgCtrlID(control))};
 }
 
+LRESULT OnLayoutMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lParam) {
+    const int index = static_cast<int>(wParam);
+    switch (message) {
+        case LB_GETTOPINDEX:
+            return list.top;
+        case LB_SETTOPINDEX:
+            if (!list.items.Has(index))
+                return LB_ERR;
+            ScrollTo(list, index);
+            return LB_OKAY;
+        case LB_GETITEMRECT:
+            if (!list.items.Has(index) || !lParam)
+                return LB_ERR;
+            *reinterpret_cast<RECT*>(lParam) = RectOf(list, index);
+            return LB_OKAY;
+        case LB_GETITEMHEIGHT:
+            return list.itemHeight;
+        case LB_SETCOLUMNWIDTH:
+            list.columnWidth = std::max(1, index);
+            Renew(list);
+            return LB_OKAY;
+        default:
+            return LB_ERR;
+    }
+}
+
 LRESULT CALLBACK ListBoxProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const auto data = ControlOf<ListData>(window);
     if (!data)
@@ -222,9 +175,6 @@ LRESULT CALLBACK ListBoxProcedure(HWND window, UINT message, WPARAM wParam, LPAR
             return DefWindowProcA(window, message, wParam, lParam);
         case WM_CREATE:
             return OnCreate(list);
-        case WM_DESTROY:
-            RemoveAll(list);
-            return 0;
         case WM_MOUSEACTIVATE:
             return list.combo ? MA_NOACTIVATE : DefWindowProcA(window, message, wParam, lParam);
         case WM_GETDLGCODE:
@@ -232,8 +182,11 @@ LRESULT CALLBACK ListBoxProcedure(HWND window, UINT message, WPARAM wParam, LPAR
         case WM_ERASEBKGND:
             return TRUE;
         case WM_PAINT:
-            OnPaint(list, reinterpret_cast<HDC>(wParam));
-            return 0;
+            return PaintWith(window, [&](HDC context, const RECT& due) {
+                // What is not drawn now is marked again when drawing is switched on.
+                if (list.redraw)
+                    PaintItems(list, context, due);
+            });
         case WM_SIZE:
             OnSize(list);
             return 0;
@@ -258,7 +211,7 @@ LRESULT CALLBACK ListBoxProcedure(HWND window, UINT message, WPARAM wParam, LPAR
             return 0;
         default:
             if (message >= LB_ADDSTRING && message <= LB_FINDSTRINGEXACT)
-                return OnListMessage(list, message, wParam, lParam);
+                return OnContentsMessage(list, message, wParam, lParam);
             return OnInput(list, message, wParam, lParam);
     }
 }

@@ -143,7 +143,7 @@ LRESULT OnSelectionMessage(ListData& list, UINT message, WPARAM wParam, LPARAM l
         case LB_GETCARETINDEX:
             return list.caret;
         default:
-            return LB_ERR;
+            return OnLayoutMessage(list, message, wParam, lParam);
     }
 }
 

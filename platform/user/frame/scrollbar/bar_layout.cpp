@@ -129,9 +129,7 @@ void ApplyInfo(BarState& state, const SCROLLINFO& info) {
 }
 
 bool FillInfo(const BarState& state, SCROLLINFO* info) {
-    // The structure without its last member is an older form of it.
-    if (!info || (info->cbSize != sizeof *info && info->cbSize != sizeof *info - sizeof info->nTrackPos) ||
-        !(info->fMask & SIF_ALL)) {
+    if (!info || info->cbSize != sizeof *info || !(info->fMask & SIF_ALL)) {
         return false;
     }
     if (info->fMask & SIF_RANGE) {
@@ -144,7 +142,7 @@ bool FillInfo(const BarState& state, SCROLLINFO* info) {
     if (info->fMask & SIF_POS) {
         info->nPos = state.position;
     }
-    if ((info->fMask & SIF_TRACKPOS) && info->cbSize == sizeof *info) {
+    if (info->fMask & SIF_TRACKPOS) {
         info->nTrackPos = state.dragging ? state.track : state.position;
     }
     return true;

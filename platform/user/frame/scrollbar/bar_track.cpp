@@ -53,7 +53,7 @@ class Hold {
         SetCapture(bar_.window);
         Begin();
         MSG message;
-        while (GetCapture() == bar_.window && Next(&message)) {
+        while (GetCapture() == bar_.window && NextMessage(bar_.window, &message)) {
             const bool released = message.message == WM_LBUTTONUP;
             if (message.message == WM_MOUSEMOVE || released) {
                 pointer_ = message.pt;
@@ -72,22 +72,6 @@ class Hold {
     }
 
   private:
-    static bool IsInput(UINT message) {
-        return (message >= WM_KEYFIRST && message <= WM_KEYLAST) ||
-               (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST);
-    }
-
-    bool Next(MSG* message) const {
-        if (!PeekWindow(bar_.window)) {
-            return false;
-        }
-        const BOOL got = GetMessageA(message, nullptr, 0, 0);
-        if (got == 0) {
-            PostQuitMessage(static_cast<int>(message->wParam));
-        }
-        return got > 0;
-    }
-
     int Pointer() const {
         return layout_.vertical ? pointer_.y : pointer_.x;
     }

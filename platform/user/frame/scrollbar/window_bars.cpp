@@ -207,7 +207,7 @@ int WINAPI SetScrollInfo(HWND window, int bar, LPCSCROLLINFO info, BOOL redraw) 
     if (!FindWindowObject(window)) {
         return 0;
     }
-    if (!Knows(bar) || !info || info->cbSize < sizeof *info - sizeof info->nTrackPos) {
+    if (!Knows(bar) || !info || info->cbSize != sizeof *info) {
         SetLastError(ERROR_INVALID_PARAMETER);
         return 0;
     }

@@ -120,22 +120,6 @@ TEST_F(ScrollBarTest, ABarOnItsOwn) {
     EXPECT_EQ(reinterpret_cast<LPARAM>(bar), Recorder::Get().Find(WM_VSCROLL)->lParam);
 }
 
-TEST_F(ScrollBarTest, ABarOnItsOwnIsDisabledWhenAskedTo) {
-    const HWND bar = MakeBar(SBS_VERT);
-    const auto set = [&](UINT mask, int high, UINT page) {
-        const SCROLLINFO info{sizeof info, mask, 0, high, page, 0, 0};
-        SetScrollInfo(bar, SB_CTL, &info, TRUE);
-        EXPECT_TRUE(IsWindowVisible(bar));
-        return IsWindowEnabled(bar) != FALSE;
-    };
-    constexpr UINT kKeep = SIF_DISABLENOSCROLL;
-    EXPECT_TRUE(set(SIF_RANGE | SIF_PAGE, 10, 20)) << "nobody asked for it";
-    EXPECT_FALSE(set(SIF_RANGE | SIF_PAGE | kKeep, 10, 20));
-    EXPECT_TRUE(set(SIF_RANGE | SIF_PAGE | kKeep, 100, 20));
-    EXPECT_FALSE(set(SIF_PAGE | kKeep, 0, 200));
-    EXPECT_TRUE(set(SIF_RANGE | SIF_PAGE, 100, 20)) << "there is something to scroll again";
-}
-
 TEST_F(ScrollBarTest, PressingAnArrowAndTheShaft) {
     RECT rect{};
     GetWindowRect(window_, &rect);

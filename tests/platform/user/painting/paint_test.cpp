@@ -62,11 +62,11 @@ TEST_F(Painting, WindowThatNeverValidatesIsAskedAgain) {
     InvalidateRect(window, nullptr, FALSE);
     MSG message;
     for (int i = 0; i < 3; ++i) {
-        ASSERT_TRUE(PeekMessageA(&message, window, WM_PAINT, WM_PAINT, PM_REMOVE));
+        ASSERT_TRUE(PeekMessageA(&message, nullptr, WM_PAINT, WM_PAINT, PM_REMOVE));
         EXPECT_EQ(message.hwnd, window);
     }
     ValidateRect(window, nullptr);
-    EXPECT_FALSE(PeekMessageA(&message, window, WM_PAINT, WM_PAINT, PM_REMOVE));
+    EXPECT_FALSE(PeekMessageA(&message, nullptr, WM_PAINT, WM_PAINT, PM_REMOVE));
 }
 
 TEST_F(Painting, DrawingIsHeldToTheUpdateRegion) {
@@ -84,33 +84,6 @@ TEST_F(Painting, DrawingIsHeldToTheUpdateRegion) {
     EXPECT_EQ(PixelAt(window, 15, 15), RGB(0, 0, 0));
     EXPECT_EQ(PixelAt(window, 40, 15), kRed);
     EXPECT_FALSE(GetUpdateRect(window, nullptr, FALSE));
-}
-
-TEST_F(Painting, RedrawFlags) {
-    HWND window = Make(kPlain | WS_CAPTION, 10, 10, 100, 80, ground, kRed);
-    Settle();
-    RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ERASENOW);
-    EXPECT_EQ(Of(window).Count(WM_NCPAINT), 1);
-    EXPECT_EQ(Of(window).Count(WM_ERASEBKGND), 1);
-    EXPECT_EQ(Of(window).Count(WM_PAINT), 0);
-    RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW);
-    EXPECT_EQ(Of(window).Count(WM_PAINT), 1);
-    EXPECT_EQ(Of(window).Count(WM_ERASEBKGND), 1);
-    Settle();
-
-    RedrawWindow(window, nullptr, nullptr, RDW_INTERNALPAINT);
-    EXPECT_FALSE(GetUpdateRect(window, nullptr, FALSE));
-    MSG message;
-    EXPECT_TRUE(PeekMessageA(&message, window, WM_PAINT, WM_PAINT, PM_REMOVE));
-    EXPECT_FALSE(PeekMessageA(&message, window, WM_PAINT, WM_PAINT, PM_REMOVE));
-    RedrawWindow(window, nullptr, nullptr, RDW_INTERNALPAINT);
-    RedrawWindow(window, nullptr, nullptr, RDW_NOINTERNALPAINT);
-    EXPECT_FALSE(PeekMessageA(&message, window, WM_PAINT, WM_PAINT, PM_REMOVE));
-
-    InvalidateRect(window, nullptr, TRUE);
-    RedrawWindow(window, nullptr, nullptr, RDW_VALIDATE | RDW_NOERASE | RDW_NOFRAME);
-    Settle();
-    EXPECT_EQ(Of(window).Count(WM_PAINT), 0);
 }
 
 TEST_F(Painting, ContextsOfAWindowAreClippedToWhatIsSeenOfIt) {

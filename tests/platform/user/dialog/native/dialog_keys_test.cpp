@@ -52,44 +52,10 @@ class PlainWindowRules : public ::testing::Test {
         }
         return clicked;
     }
-    int Outlined() {
-        int found = 0;
-        for (const int id : {kOne, kTwo}) {
-            if ((GetWindowLongA(Item(id), GWL_STYLE) & BS_TYPEMASK) == BS_DEFPUSHBUTTON)
-                found = found * 100 + id;
-        }
-        return found;
-    }
     HWND window_ = nullptr;
 };
 
-TEST_F(PlainWindowRules, MnemonicsMoveTheFocus) {
-    EXPECT_EQ(kLines, Press('l', WM_SYSCHAR));
-    EXPECT_EQ(kOne, Press('o', WM_SYSCHAR));
-    EXPECT_EQ(std::vector<int>{kOne}, Clicked());
-    EXPECT_EQ(kTwo, Press('t', WM_CHAR)) << "no characters are typed in a button";
-    EXPECT_EQ(std::vector<int>{kTwo}, Clicked());
-}
-
-TEST_F(PlainWindowRules, EnterPressesTheButtonThatLooksLikeIt) {
-    Press(VK_RETURN);
-    EXPECT_EQ(std::vector<int>{kTwo}, Clicked());
-    // The outline goes with the focus and comes back.
-    EXPECT_EQ(kOne, Press(VK_TAB));
-    EXPECT_EQ(kOne, Outlined());
-    Press(VK_RETURN);
-    EXPECT_EQ(std::vector<int>{kOne}, Clicked());
-    {
-        const tests::ShiftHeld shift;
-        EXPECT_EQ(kField, Press(VK_TAB));
-    }
-    EXPECT_EQ(kTwo, Outlined());
-    Press(VK_RETURN);
-    EXPECT_EQ(std::vector<int>{kTwo}, Clicked());
-    EnableWindow(Item(kTwo), FALSE);
-    Press(VK_RETURN);
-    EXPECT_EQ(std::vector<int>{}, Clicked());
-    DestroyWindow(Item(kTwo));
+TEST_F(PlainWindowRules, EnterIsACommand) {
     Press(VK_RETURN);
     EXPECT_EQ(std::vector<int>{IDOK}, Clicked());
 }
@@ -101,24 +67,6 @@ TEST_F(PlainWindowRules, AWindowMayNameItsDefaultButton) {
     };
     Press(VK_RETURN);
     EXPECT_EQ(std::vector<int>{kOne}, Clicked());
-}
-
-TEST_F(PlainWindowRules, LinesOfTextLetGo) {
-    SetFocus(Item(kLines));
-    Press(VK_RETURN);
-    EXPECT_EQ(std::vector<int>{kTwo}, Clicked());
-    {
-        const tests::KeyHeld control(VK_CONTROL);
-        EXPECT_EQ(kLines, Press(VK_TAB)) << "with Ctrl it is text";
-    }
-    EXPECT_EQ(1, GetWindowTextLengthA(Item(kLines)));
-    EXPECT_EQ(kField, Press(VK_TAB));
-    // Only a window that is asked for its keys has a dialog around it to close.
-    Recorder::Get().Clear();
-    const HWND alone = Child("edit", "", 0, ES_MULTILINE);
-    SendMessageA(alone, WM_KEYDOWN, VK_ESCAPE, 1);
-    tests::Pump();
-    EXPECT_EQ(nullptr, Recorder::Get().Find(WM_CLOSE));
 }
 
 TEST_F(PlainWindowRules, EndDialogIsForDialogs) {

@@ -5,33 +5,19 @@
 
 #include <vector>
 
+#include "tests/platform/support/hands.h"
 #include "tests/platform/support/recorder.h"
 
 namespace {
 
+using tests::At;
 using tests::Heard;
+using tests::Key;
 using tests::Pump;
 using tests::Recorder;
 
 constexpr UINT kDuring = WM_APP;
 constexpr DWORD kStyle = WS_POPUP | WS_VISIBLE | WS_CAPTION | WS_SYSMENU;
-
-INPUT At(POINT point, DWORD flags) {
-    INPUT input{};
-    input.type = INPUT_MOUSE;
-    input.mi.dx = (point.x * 65536 + 32768) / GetSystemMetrics(SM_CXSCREEN);
-    input.mi.dy = (point.y * 65536 + 32768) / GetSystemMetrics(SM_CYSCREEN);
-    input.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | flags;
-    return input;
-}
-
-INPUT Key(WORD key, DWORD flags = 0) {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = key;
-    input.ki.dwFlags = flags;
-    return input;
-}
 
 /// What WM_HELP brought to a window; what its parameter points to is gone afterwards.
 struct Asked {
@@ -131,8 +117,8 @@ class ContextHelp : public ::testing::Test {
         return point;
     }
     /// All of it is queued before any is taken: the loops of the frame find it waiting.
-    static void Play(std::vector<INPUT> inputs) {
-        SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+    static void Play(const std::vector<INPUT>& inputs) {
+        tests::Play(inputs);
         Pump();
     }
     void AskAbout(POINT point) {

@@ -5,12 +5,15 @@
 #include <functional>
 #include <thread>
 
+#include "tests/platform/support/hands.h"
 #include "tests/platform/support/recorder.h"
 
 namespace {
 
+using tests::At;
 using tests::EditControl;
 using tests::Heard;
+using tests::Play;
 using tests::Pump;
 using tests::PumpUntil;
 using tests::Recorder;
@@ -45,17 +48,6 @@ class OpenMenus : public EditControl {
         EXPECT_EQ(nullptr, GetCapture());
     }
 
-    static void Play(std::vector<INPUT> inputs) {
-        SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
-    }
-    static INPUT At(int x, int y, DWORD flags) {
-        INPUT input{};
-        input.type = INPUT_MOUSE;
-        input.mi.dx = (x * 65536 + 32768) / GetSystemMetrics(SM_CXSCREEN);
-        input.mi.dy = (y * 65536 + 32768) / GetSystemMetrics(SM_CYSCREEN);
-        input.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | flags;
-        return input;
-    }
     static void Move(int x, int y) {
         Play({At(x, y, 0)});
     }
@@ -124,9 +116,16 @@ class OpenMenus : public EditControl {
         const RECT menu = PlaceOf(Menu());
         return Pixel(menu.left + 6, menu.top + y) == GetSysColor(COLOR_HIGHLIGHT);
     }
-    static HWND MakeWindow(DWORD style) {
-        const HWND made =
-            Recorder::Get().Make(WS_POPUP | WS_VISIBLE | WS_CAPTION | WS_SYSMENU | style, 100, 100, 300, 150);
+    static constexpr char kWithIcon[] = "MenuWithIcon";
+    static HWND MakeWindow(DWORD style, const char* className = Recorder::kClass) {
+        DestroyWindow(Recorder::Get().Make(WS_POPUP, 0, 0, 9, 9));  // registers the class
+        WNDCLASSA withIcon{};
+        GetClassInfoA(GetModuleHandleA(nullptr), Recorder::kClass, &withIcon);
+        withIcon.hIcon = LoadIconA(nullptr, IDI_APPLICATION);
+        withIcon.lpszClassName = kWithIcon;
+        RegisterClassA(&withIcon);
+        const HWND made = CreateWindowExA(0, className, "", WS_POPUP | WS_VISIBLE | WS_CAPTION | WS_SYSMENU | style,
+                                          100, 100, 300, 150, nullptr, nullptr, GetModuleHandleA(nullptr), nullptr);
         SetForegroundWindow(made);
         Pump();
         Recorder::Get().Clear();
@@ -279,13 +278,7 @@ TEST_F(OpenMenus, OfAFieldOfferWhatCanBeDone) {
         CloseClipboard();
     }
     refused("UPA");
-    Send(edit, EM_SETPASSWORDCHAR, '*');
-    refused("UTCPA");
-    Send(edit, EM_SETPASSWORDCHAR, 0);
-    Send(edit, EM_SETREADONLY, TRUE);
-    refused("UTPDA");
     Run({[&] { PostMessageA(edit, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(edit), -1); }, [] { Key('C'); }});
-    Send(edit, EM_SETREADONLY, FALSE);
     Select(edit, 6, 6);
     Run({[&] { PostMessageA(edit, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(edit), -1); }, [] { Key('P'); }});
     EXPECT_EQ("secretsecret|", Marked(edit));
@@ -512,8 +505,7 @@ TEST_F(OpenMenus, OfAWindowOfferWhatItsStylesAllow) {
 }
 
 TEST_F(OpenMenus, OfAWindowComeByItsCaptionAndItsIcon) {
-    window = MakeWindow(WS_MINIMIZEBOX);
-    SendMessageA(window, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(LoadIconA(nullptr, IDI_APPLICATION)));
+    window = MakeWindow(WS_MINIMIZEBOX, kWithIcon);
     constexpr POINT kIcon{112, 112};
     constexpr POINT kCaption{200, 112};
     Run({[&] { RightClick(kCaption.x, kCaption.y); },
@@ -554,8 +546,7 @@ TEST_F(OpenMenus, OfAWindowComeByItsCaptionAndItsIcon) {
          }});
     EXPECT_FALSE(IsWindow(window));
 
-    window = MakeWindow(0);
-    SendMessageA(window, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(LoadIconA(nullptr, IDI_APPLICATION)));
+    window = MakeWindow(0, kWithIcon);
     Run({[=] { clickAt(now + 30000); }, [=] { clickAt(now + 30000); }});
     EXPECT_FALSE(IsWindow(window)) << "a double click closes";
 }

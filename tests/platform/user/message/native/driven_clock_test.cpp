@@ -23,8 +23,8 @@ class DrivenClock : public testing::Test {
     /// So long before the tick counter begins anew.
     void Begin(DWORD before) {
         CvPlatformDriveClock(kWrap - before);
-        window_ = CreateWindowExA(0, "static", "", WS_POPUP | WS_VISIBLE | SS_NOTIFY, 100, 100, 80, 40, nullptr,
-                                  nullptr, nullptr, nullptr);
+        window_ = CreateWindowExA(0, "#32770", "", WS_POPUP | WS_VISIBLE, 100, 100, 80, 40, nullptr, nullptr, nullptr,
+                                  nullptr);
         SetForegroundWindow(window_);
         Drain();
     }

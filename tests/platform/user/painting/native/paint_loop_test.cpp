@@ -131,13 +131,13 @@ TEST_F(PaintLoop, WhoDoesNotPaintIsAskedAgain) {
     InvalidateRect(window_, nullptr, FALSE);
     Pump();
     EXPECT_EQ(3, paints_);
-    // A request without an area, made while the procedure ran, is not lost.
+    // A request that was made while the procedure ran is not lost.
     int asked = 0;
     Recorder::Get().answer = [&](const Heard& heard, LRESULT*) {
         if (heard.message == WM_PAINT && heard.window == window_ && ++asked == 1) {
             Pump();
             ValidateRect(window_, nullptr);
-            RedrawWindow(window_, nullptr, nullptr, RDW_INTERNALPAINT);
+            RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE);
             return true;
         }
         return false;
