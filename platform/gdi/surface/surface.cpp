@@ -63,9 +63,10 @@ void WriteRow(const Surface& surface, int x, int y, int count, const std::uint32
 
 std::uint32_t NativeColour(const Surface& surface, std::uint32_t pixel) {
     pixel &= 0x00FFFFFF;
-    return !surface.monochrome                                                             ? pixel
-           : (pixel >> 16) + (pixel >> 8 & 0xFF) + (pixel & 0xFF) > std::uint32_t{3 * 127} ? 1
-                                                                                           : 0;
+    if (!surface.monochrome) {
+        return pixel;
+    }
+    return (pixel >> 16) + (pixel >> 8 & 0xFF) + (pixel & 0xFF) > 3 * 127 ? 1 : 0;
 }
 
 std::uint32_t ShownColour(const Surface& surface, std::uint32_t value) {
