@@ -66,7 +66,6 @@ void CopyMemoryRows(benchmark::State& state) {
 void StretchTwice(benchmark::State& state) {
     Picture const from;
     Picture const to;
-    SetStretchBltMode(to.context, COLORONCOLOR);
     for (auto _ : state) {
         StretchBlt(to.context, 0, 0, kWidth, kHeight, from.context, 0, 0, kWidth / 2, kHeight / 2, SRCCOPY);
         GdiFlush();

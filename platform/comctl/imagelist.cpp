@@ -1,5 +1,6 @@
 // Image lists: making them, and what they hold.
 #include "comctl/imagelist.h"
+#include "base/fail.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -64,8 +65,7 @@ HIMAGELIST MakeImageList(int cx, HBITMAP image, HBITMAP mask, COLORREF ground) {
     }
     std::unique_ptr<ImageList> list(new (std::nothrow) ImageList);
     if (!list) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return nullptr;
+        return base::Fail(ERROR_NOT_ENOUGH_MEMORY, nullptr);
     }
     list->cx = cx;
     list->cy = size.bmHeight;
@@ -80,13 +80,11 @@ HIMAGELIST MakeImageList(int cx, HBITMAP image, HBITMAP mask, COLORREF ground) {
         return nullptr;
     }
     if (!WriteAll(*list, image, mask, ground)) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return nullptr;
+        return base::Fail(ERROR_INVALID_PARAMETER, nullptr);
     }
     const std::uint32_t handle = base::InsertHandle(base::HandleKind::ImageList, list.get());
     if (!handle) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return nullptr;
+        return base::Fail(ERROR_NOT_ENOUGH_MEMORY, nullptr);
     }
     static_cast<void>(list.release());
     return base::ToHandle<HIMAGELIST>(handle);
@@ -95,6 +93,7 @@ HIMAGELIST MakeImageList(int cx, HBITMAP image, HBITMAP mask, COLORREF ground) {
 }  // namespace platform::comctl
 
 using namespace platform::comctl;
+namespace base = platform::base;
 
 BOOL WINAPI ImageList_Destroy(HIMAGELIST handle) {
     const std::unique_ptr<ImageList> list(FindImageList(handle));
@@ -124,8 +123,7 @@ BOOL WINAPI ImageList_GetIconSize(HIMAGELIST handle, int* cx, int* cy) {
 HIMAGELIST WINAPI ImageList_LoadImageA(HINSTANCE instance, LPCSTR name, int cx, int, COLORREF mask, UINT type,
                                        UINT flags) {
     if (type != IMAGE_BITMAP || cx <= 0) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return nullptr;
+        return base::Fail(ERROR_INVALID_PARAMETER, nullptr);
     }
     const auto bitmap = static_cast<HBITMAP>(LoadImageA(instance, name, type, 0, 0, flags));
     if (!bitmap) {

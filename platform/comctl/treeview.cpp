@@ -24,15 +24,9 @@ LRESULT Result(Handle handle) {
     return reinterpret_cast<LRESULT>(handle);
 }
 
-void OnPaint(const TreePointer& tree, HDC given) {
+void OnPaint(const TreePointer& tree) {
     // The bars first: what they take away from the client area need not be painted.
     UpdateBars(tree);
-    if (given) {
-        RECT client{};
-        GetClientRect(tree->window, &client);
-        Paint(tree, given, client);
-        return;
-    }
     PAINTSTRUCT paint{};
     if (const HDC context = BeginPaint(tree->window, &paint)) {
         Paint(tree, context, paint.rcPaint);
@@ -66,11 +60,11 @@ LRESULT OnTreeMessage(const TreePointer& tree, UINT message, WPARAM wParam, LPAR
         case TVM_INSERTITEMA:
             return lParam ? Result(InsertItem(tree, *As<TVINSERTSTRUCTA*>(lParam))) : 0;
         case TVM_DELETEITEM:
-            if (!lParam || As<HTREEITEM>(lParam) == TVI_ROOT) {
-                DeleteAll(tree);
-                return TRUE;
+            if (lParam && As<HTREEITEM>(lParam) != TVI_ROOT) {
+                return FALSE;
             }
-            return DeleteItem(tree, As<HTREEITEM>(lParam));
+            DeleteAll(tree);
+            return TRUE;
         case TVM_EXPAND:
             return Expand(tree, As<HTREEITEM>(lParam), static_cast<UINT>(wParam), false);
         case TVM_GETITEMRECT:
@@ -131,7 +125,7 @@ LRESULT OnMessage(const TreePointer& tree, UINT message, WPARAM wParam, LPARAM l
         case WM_ERASEBKGND:
             return TRUE;
         case WM_PAINT:
-            OnPaint(tree, reinterpret_cast<HDC>(wParam));
+            OnPaint(tree);
             return 0;
         case WM_ENABLE:
         case WM_SYSCOLORCHANGE:

@@ -94,7 +94,6 @@ using TreePointer = std::shared_ptr<TreeView>;
 
 HTREEITEM InsertItem(const TreePointer& tree, const TVINSERTSTRUCTA& given);
 bool GetItem(const TreePointer& tree, TVITEMA& item);
-bool DeleteItem(const TreePointer& tree, HTREEITEM item);
 void DeleteAll(const TreePointer& tree);
 bool SortChildren(const TreePointer& tree, HTREEITEM parent);
 HTREEITEM NextItem(const TreePointer& tree, WPARAM code, HTREEITEM item);

@@ -37,27 +37,21 @@ void Across(const TreePointer& tree, bool right) {
 
 /// Control with a key scrolls and leaves the selection alone.
 bool ScrollByKey(const TreePointer& tree, WPARAM key) {
-    const HWND window = tree->window;
-    switch (key) {
-        case VK_UP:
-            return SendMessageA(window, WM_VSCROLL, SB_LINEUP, 0), true;
-        case VK_DOWN:
-            return SendMessageA(window, WM_VSCROLL, SB_LINEDOWN, 0), true;
-        case VK_PRIOR:
-            return SendMessageA(window, WM_VSCROLL, SB_PAGEUP, 0), true;
-        case VK_NEXT:
-            return SendMessageA(window, WM_VSCROLL, SB_PAGEDOWN, 0), true;
-        case VK_HOME:
-            return SendMessageA(window, WM_VSCROLL, SB_TOP, 0), true;
-        case VK_END:
-            return SendMessageA(window, WM_VSCROLL, SB_BOTTOM, 0), true;
-        case VK_LEFT:
-            return SendMessageA(window, WM_HSCROLL, SB_LINEUP, 0), true;
-        case VK_RIGHT:
-            return SendMessageA(window, WM_HSCROLL, SB_LINEDOWN, 0), true;
-        default:
-            return false;
+    struct Step {
+        WPARAM key;
+        UINT message;
+        WPARAM code;
+    };
+    static constexpr Step kSteps[] = {{VK_UP, WM_VSCROLL, SB_LINEUP},    {VK_DOWN, WM_VSCROLL, SB_LINEDOWN},
+                                      {VK_PRIOR, WM_VSCROLL, SB_PAGEUP}, {VK_NEXT, WM_VSCROLL, SB_PAGEDOWN},
+                                      {VK_HOME, WM_VSCROLL, SB_TOP},     {VK_END, WM_VSCROLL, SB_BOTTOM},
+                                      {VK_LEFT, WM_HSCROLL, SB_LINEUP},  {VK_RIGHT, WM_HSCROLL, SB_LINEDOWN}};
+    for (const Step& step : kSteps) {
+        if (step.key == key) {
+            return SendMessageA(tree->window, step.message, step.code, 0), true;
+        }
     }
+    return false;
 }
 
 void Reveal(const TreePointer& tree) {

@@ -1,4 +1,4 @@
-// Inserting, reading, changing, deleting and sorting items.
+// Inserting, reading, deleting and sorting items.
 #include <algorithm>
 #include <cstring>
 #include <new>
@@ -8,8 +8,6 @@
 
 namespace platform::comctl {
 namespace {
-
-constexpr UINT kKeptState = TVIS_SELECTED | TVIS_EXPANDED | TVIS_EXPANDEDONCE;
 
 bool IsRoot(HTREEITEM item) {
     return !item || item == TVI_ROOT;
@@ -39,9 +37,6 @@ void Assign(TreeItem* item, const TVITEMA& given) {
     }
     if (given.mask & TVIF_CHILDREN) {
         item->children = given.cChildren;
-    }
-    if (given.mask & TVIF_STATE) {
-        item->state = given.state & given.stateMask & kKeptState;
     }
 }
 
@@ -78,9 +73,9 @@ TreeItem* FirstLeaving(TreeItem* item) {
     return item;
 }
 
-/// Ends a marked item, or all that are marked (null): whatever is below another comes before it.
-void Discard(const TreePointer& tree, HTREEITEM top) {
-    while (TreeItem* item = top ? tree->Find(top) : FirstLeaving(tree->root.first)) {
+/// Ends all that are marked: whatever is below another comes before it.
+void Discard(const TreePointer& tree) {
+    while (TreeItem* item = FirstLeaving(tree->root.first)) {
         while (TreeItem* const below = FirstLeaving(item->first)) {
             item = below;
         }
@@ -91,13 +86,6 @@ void Discard(const TreePointer& tree, HTREEITEM top) {
             tree->Free(item);
         }
     }
-}
-
-bool IsWithin(const TreeItem* item, const TreeItem* ancestor) {
-    while (item && item != ancestor) {
-        item = item->parent;
-    }
-    return item != nullptr;
 }
 
 }  // namespace
@@ -152,38 +140,13 @@ bool GetItem(const TreePointer& tree, TVITEMA& given) {
     return true;
 }
 
-bool DeleteItem(const TreePointer& tree, HTREEITEM handle) {
-    TreeItem* item = tree->Find(handle);
-    if (!item) {
-        return false;
-    }
-    if (tree->caret && IsWithin(tree->caret, item)) {
-        const TreeItem* heir = item->next ? item->next : item->previous ? item->previous : item->parent;
-        Select(tree, heir ? heir->handle : nullptr, TVC_UNKNOWN);
-        item = tree->Find(handle);
-        if (!item) {
-            return true;
-        }
-    }
-    MarkLeaving(item);
-    const HTREEITEM above = item->parent ? item->parent->handle : nullptr;
-    Discard(tree, handle);
-    TreeItem* const parent = tree->Find(above);
-    if (parent && !parent->first) {
-        parent->children = 0;
-        parent->state &= ~static_cast<UINT>(TVIS_EXPANDED);
-    }
-    InvalidateRect(tree->window, nullptr, FALSE);
-    return true;
-}
-
 void DeleteAll(const TreePointer& tree) {
     for (TreeItem* item = tree->root.first; item; item = item->next) {
         MarkLeaving(item);
     }
     tree->caret = nullptr;
     tree->top = tree->left = 0;
-    Discard(tree, nullptr);
+    Discard(tree);
     if (!tree->ending) {
         InvalidateRect(tree->window, nullptr, FALSE);
     }

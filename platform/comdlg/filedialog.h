@@ -115,7 +115,7 @@ void TellRefusedByHook(const FileDialog& dialog, const std::vector<std::string>&
 void TellNotAccessible(const FileDialog& dialog, const std::string& folder, HRESULT why);
 
 /// @returns what speaks against giving a path back, of what is asked for.
-std::optional<Refusal> WhyRefused(const std::string& path, bool pathMustExist, bool fileMustExist);
+std::optional<Refusal> WhyRefused(const std::string& path, bool mustExist);
 bool Exists(const std::string& path);
 
 /// A path is split at its last backslash; a drive's root keeps it.

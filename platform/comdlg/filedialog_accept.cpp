@@ -15,7 +15,7 @@ std::string FolderPath(const FileDialog& dialog) {
 
 /// @returns whether a name may be given back; else the user has been told why not.
 bool MayGiveBack(const FileDialog& dialog, const std::string& path) {
-    const auto why = WhyRefused(path, dialog.Has(OFN_PATHMUSTEXIST), dialog.Has(OFN_FILEMUSTEXIST));
+    const auto why = WhyRefused(path, dialog.Has(OFN_FILEMUSTEXIST));
     if (why) {
         TellRefused(dialog, path, *why);
         return false;

@@ -77,17 +77,17 @@ Choice Split(const std::string& path) {
     return {path.substr(0, at == 2 ? 3 : at), {path.substr(at + 1)}};
 }
 
-std::optional<Refusal> WhyRefused(const std::string& path, bool pathMustExist, bool fileMustExist) {
+std::optional<Refusal> WhyRefused(const std::string& path, bool mustExist) {
     if (Exists(path)) {
         return std::nullopt;
     }
     if (HasForbidden(path)) {
         return Refusal::BadName;
     }
-    if ((pathMustExist || fileMustExist) && !Exists(Split(path).folder)) {
-        return Refusal::NoPath;
+    if (!mustExist) {
+        return std::nullopt;
     }
-    return fileMustExist ? std::optional(Refusal::NoFile) : std::nullopt;
+    return Exists(Split(path).folder) ? Refusal::NoFile : Refusal::NoPath;
 }
 
 void TellRefused(const FileDialog& dialog, const std::string& name, Refusal why) {
@@ -104,7 +104,7 @@ void TellRefusedByHook(const FileDialog& dialog, const std::vector<std::string>&
         return;
     }
     for (const std::string& path : paths) {
-        if (const auto why = WhyRefused(path, true, true)) {
+        if (const auto why = WhyRefused(path, true)) {
             TellRefused(dialog, path, *why);
             return;
         }

@@ -9,11 +9,6 @@
 namespace platform::comdlg {
 namespace {
 
-char Folded(char character) {
-    return static_cast<char>(
-        reinterpret_cast<ULONG_PTR>(CharUpperA(reinterpret_cast<LPSTR>(ULONG_PTR{static_cast<BYTE>(character)}))));
-}
-
 std::string Upper(std::string_view text) {
     std::string capitals(text);
     CharUpperBuffA(capitals.data(), static_cast<DWORD>(capitals.size()));
@@ -30,32 +25,11 @@ std::string_view Trimmed(std::string_view text) {
     return text;
 }
 
-std::size_t NameStart(std::string_view path) {
-    const std::size_t at = path.find_last_of("\\/:");
-    return at == path.npos ? 0 : at + 1;
-}
-
 std::string WithBackslash(std::string folder) {
     if (!folder.ends_with('\\')) {
         folder += '\\';
     }
     return folder;
-}
-
-void CopyText(char* to, std::size_t size, const std::string& text) {
-    if (to && size > 0) {
-        const std::size_t length = std::min(text.size(), size - 1);
-        std::memcpy(to, text.data(), length);
-        to[length] = '\0';
-    }
-}
-
-void SetOffsets(OPENFILENAMEA& record, const std::string& path) {
-    const std::size_t name = NameStart(path);
-    const std::string extension = ExtensionOf(path);
-    record.nFileOffset = static_cast<WORD>(name);
-    // Behind the dot; where there is none, at the end.
-    record.nFileExtension = static_cast<WORD>(path.size() - extension.size());
 }
 
 }  // namespace
@@ -130,7 +104,7 @@ std::string FullPath(const std::string& folder, std::string_view typed) {
         path = path.starts_with('\\') && folder.size() >= 2 ? folder.substr(0, 2) + path : WithBackslash(folder) + path;
     }
     std::string full = path.substr(0, 2);
-    full[0] = Folded(full[0]);
+    full[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(full[0])));
     for (std::size_t at = 2; at < path.size();) {
         const std::size_t begin = std::min(path.find_first_not_of('\\', at), path.size());
         const std::size_t end = std::min(path.find('\\', begin), path.size());
@@ -143,12 +117,6 @@ std::string FullPath(const std::string& folder, std::string_view typed) {
         at = end;
     }
     return full.size() == 2 ? full + '\\' : full;
-}
-
-std::string ExtensionOf(std::string_view path) {
-    const std::string_view name = path.substr(NameStart(path));
-    const std::size_t dot = name.rfind('.');
-    return dot == name.npos ? std::string() : std::string(name.substr(dot + 1));
 }
 
 std::size_t WriteChoice(OPENFILENAMEA& record, const Choice& choice) {
@@ -171,14 +139,6 @@ std::size_t WriteChoice(OPENFILENAMEA& record, const Choice& choice) {
         return text.size();
     }
     std::memcpy(record.lpstrFile, text.data(), text.size());
-    if (choice.names.size() == 1) {
-        SetOffsets(record, record.lpstrFile);
-    } else {
-        record.nFileOffset = static_cast<WORD>(choice.folder.size() + 1);
-        record.nFileExtension = 0;
-    }
-    CopyText(record.lpstrFileTitle, record.nMaxFileTitle,
-             choice.names.size() == 1 ? choice.names.front() : std::string());
     return 0;
 }
 

@@ -34,16 +34,13 @@ std::string JoinNames(const std::vector<std::string>& names);
 /// Makes a full path out of a typed one: relative ones lie in the folder, "." and ".." are resolved.
 std::string FullPath(const std::string& folder, std::string_view typed);
 
-/// @returns the extension without its dot; empty when the last part of the path has none.
-std::string ExtensionOf(std::string_view path);
-
 /// What the dialog gives back.
 struct Choice {
     std::string folder;              ///< ends without a backslash, but for a drive's root
     std::vector<std::string> names;  ///< within it
 };
 
-/// Writes a choice into the record's buffers, with its offsets. @returns 0, or the bytes that lpstrFile would need.
+/// Writes a choice into the record's buffer. @returns 0, or the bytes that lpstrFile would need.
 std::size_t WriteChoice(OPENFILENAMEA& record, const Choice& choice);
 
 }  // namespace platform::comdlg

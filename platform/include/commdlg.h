@@ -5,8 +5,8 @@
 /// hook is the dialog procedure of a child of the dialog: it gets WM_INITDIALOG with the OPENFILENAME record as lParam,
 /// WM_NOTIFY with an OFNOTIFY record, and when a name was chosen the registered message FILEOKSTRING with the record as lParam.
 /// It refuses a name, for CDN_FILEOK and for FILEOKSTRING, by a result other than 0 with DWL_MSGRESULT set to one other than 0.
-/// The dialog has no box for opening files to be read only (OFN_HIDEREADONLY or not) and adds no extension to a name
-/// (lpstrDefExt).
+/// The dialog has no box for opening files to be read only (OFN_HIDEREADONLY or not), adds no extension to a name (lpstrDefExt)
+/// and fills in neither the title nor the offsets (lpstrFileTitle, nFileOffset, nFileExtension).
 #pragma once
 
 #include "cderr.h"
@@ -16,7 +16,6 @@
 #define OFN_NOCHANGEDIR 0x00000008  ///< there is no current folder to change
 #define OFN_ENABLEHOOK 0x00000020
 #define OFN_ALLOWMULTISELECT 0x00000200
-#define OFN_PATHMUSTEXIST 0x00000800
 #define OFN_FILEMUSTEXIST 0x00001000
 #define OFN_EXPLORER 0x00080000
 #define OFN_LONGNAMES 0x00200000
@@ -73,11 +72,3 @@ typedef struct _OFNOTIFYA {
 WINUSERAPI BOOL WINAPI GetOpenFileNameA(LPOPENFILENAMEA record);
 /// @returns what made the last dialog of the thread fail; 0 when the user cancelled it.
 WINUSERAPI DWORD WINAPI CommDlgExtendedError(void);
-
-#ifndef CVPLATFORM_NO_GENERIC_NAMES
-#define OPENFILENAME OPENFILENAMEA
-#define LPOPENFILENAME LPOPENFILENAMEA
-#define OFNOTIFY OFNOTIFYA
-#define FILEOKSTRING FILEOKSTRINGA
-#define GetOpenFileName GetOpenFileNameA
-#endif

@@ -16,26 +16,14 @@ typedef struct _GUID {
 } GUID;
 
 typedef GUID IID;
-typedef GUID CLSID;
-typedef IID* LPIID;
 
 #ifdef __cplusplus
-#define REFGUID const GUID&
 #define REFIID const IID&
-#define REFCLSID const IID&
 
-inline bool operator==(REFGUID a, REFGUID b) {
-    return memcmp(&a, &b, sizeof(GUID)) == 0;
+inline bool operator==(REFIID a, REFIID b) {
+    return memcmp(&a, &b, sizeof(IID)) == 0;
 }
-inline bool operator!=(REFGUID a, REFGUID b) {
+inline bool operator!=(REFIID a, REFIID b) {
     return !(a == b);
 }
-inline int IsEqualGUID(REFGUID a, REFGUID b) {
-    return a == b;
-}
-#else
-#define REFGUID const GUID*
-#define REFIID const IID*
-#define REFCLSID const IID*
-#define IsEqualGUID(a, b) (!memcmp((a), (b), sizeof(GUID)))
 #endif

@@ -16,25 +16,16 @@
 #define PURE = 0
 
 struct IUnknown {
-    STDMETHOD(QueryInterface)(REFIID interfaceId, void** object) PURE;
     STDMETHOD_(ULONG, AddRef)() PURE;
     STDMETHOD_(ULONG, Release)() PURE;
 };
 
 struct IMalloc : IUnknown {
     STDMETHOD_(void*, Alloc)(SIZE_T size) PURE;
-    STDMETHOD_(void*, Realloc)(void* block, SIZE_T size) PURE;
     STDMETHOD_(void, Free)(void* block) PURE;
-    STDMETHOD_(SIZE_T, GetSize)(void* block) PURE;
-    /// @returns 1 if the block is one of this allocator's, 0 if it is not, -1 if that cannot be told.
-    STDMETHOD_(int, DidAlloc)(void* block) PURE;
-    STDMETHOD_(void, HeapMinimize)() PURE;
 };
 
 struct IBindCtx;
-
-WINBASEAPI const IID IID_IUnknown;
-WINBASEAPI const IID IID_IMalloc;
 
 #else
 typedef struct IUnknown IUnknown;
@@ -42,9 +33,7 @@ typedef struct IMalloc IMalloc;
 typedef struct IBindCtx IBindCtx;
 #endif
 
-typedef IUnknown* LPUNKNOWN;
 typedef IMalloc* LPMALLOC;
-typedef IBindCtx* LPBC;
 
 /// Starts the component library for the calling thread. @returns S_OK the first time, S_FALSE when it runs already; each
 /// success is undone by one CoUninitialize.

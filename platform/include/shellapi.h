@@ -5,7 +5,6 @@
 #include "windef.h"
 #include "winuser.h"
 
-#define SHGFI_ICON 0x000000100
 #define SHGFI_SYSICONINDEX 0x000004000
 #define SHGFI_SMALLICON 0x000000001
 #define SHGFI_OPENICON 0x000000002
@@ -23,8 +22,3 @@ typedef struct _SHFILEINFOA {
 /// @returns the image list with SHGFI_SYSICONINDEX, else nonzero; 0 when there is no such item.
 WINUSERAPI DWORD_PTR WINAPI SHGetFileInfoA(LPCSTR path, DWORD attributes, SHFILEINFOA* information, UINT size,
                                            UINT flags);
-
-#ifndef CVPLATFORM_NO_GENERIC_NAMES
-#define SHFILEINFO SHFILEINFOA
-#define SHGetFileInfo SHGetFileInfoA
-#endif

@@ -8,24 +8,17 @@
 
 typedef enum tagSHGDN {
     SHGDN_NORMAL = 0x0000,
-    SHGDN_INFOLDER = 0x0001,
-    SHGDN_FORADDRESSBAR = 0x4000,
     SHGDN_FORPARSING = 0x8000,
 } SHGNO;
 
 typedef enum tagSHCONTF {
     SHCONTF_FOLDERS = 0x0020,
     SHCONTF_NONFOLDERS = 0x0040,
-    SHCONTF_INCLUDEHIDDEN = 0x0080,
 } SHCONTF;
 
-#define SFGAO_CANLINK 0x00000004
-#define SFGAO_HIDDEN 0x00080000
-#define SFGAO_FILESYSANCESTOR 0x10000000
 #define SFGAO_FOLDER 0x20000000
 #define SFGAO_FILESYSTEM 0x40000000
 #define SFGAO_HASSUBFOLDER 0x80000000
-#define SFGAO_REMOVABLE 0x02000000
 
 typedef ULONG SFGAOF;
 typedef DWORD SHCONTFLAGS;
@@ -37,30 +30,20 @@ struct IEnumIDList : IUnknown {
     /// Hands out the next items, each a list of its own that the caller frees with the shell's allocator.
     /// @returns S_OK when all that were asked for came, S_FALSE when there were fewer.
     STDMETHOD(Next)(ULONG count, LPITEMIDLIST* items, ULONG* fetched) PURE;
-    STDMETHOD(Skip)(ULONG count) PURE;
-    STDMETHOD(Reset)() PURE;
-    STDMETHOD(Clone)(IEnumIDList** other) PURE;
 };
 
 struct IShellFolder : IUnknown {
+    /// @param eaten, attributes  null.
     STDMETHOD(ParseDisplayName)
     (HWND owner, IBindCtx* context, LPWSTR name, ULONG* eaten, LPITEMIDLIST* item, ULONG* attributes) PURE;
     STDMETHOD(EnumObjects)(HWND owner, SHCONTFLAGS flags, IEnumIDList** items) PURE;
     STDMETHOD(BindToObject)(LPCITEMIDLIST item, IBindCtx* context, REFIID interfaceId, void** object) PURE;
-    STDMETHOD(BindToStorage)(LPCITEMIDLIST item, IBindCtx* context, REFIID interfaceId, void** object) PURE;
-    /// @returns a code whose low word is negative, 0 or positive as the first item comes before, with or after the second.
-    STDMETHOD(CompareIDs)(LPARAM order, LPCITEMIDLIST first, LPCITEMIDLIST second) PURE;
-    STDMETHOD(CreateViewObject)(HWND owner, REFIID interfaceId, void** object) PURE;
     /// Leaves those of the attributes asked for that all items have.
     STDMETHOD(GetAttributesOf)(UINT count, LPCITEMIDLIST* items, SFGAOF* attributes) PURE;
-    STDMETHOD(GetUIObjectOf)
-    (HWND owner, UINT count, LPCITEMIDLIST* items, REFIID interfaceId, UINT* reserved, void** object) PURE;
     STDMETHOD(GetDisplayNameOf)(LPCITEMIDLIST item, SHGDNF form, LPSTRRET name) PURE;
-    STDMETHOD(SetNameOf)(HWND owner, LPCITEMIDLIST item, LPCWSTR name, SHGDNF form, LPITEMIDLIST* changed) PURE;
 };
 
 WINUSERAPI const IID IID_IShellFolder;
-WINUSERAPI const IID IID_IEnumIDList;
 
 #else
 typedef struct IShellFolder IShellFolder;
@@ -68,7 +51,6 @@ typedef struct IEnumIDList IEnumIDList;
 #endif
 
 typedef IShellFolder* LPSHELLFOLDER;
-typedef IEnumIDList* LPENUMIDLIST;
 
 WINUSERAPI HRESULT WINAPI SHGetMalloc(LPMALLOC* allocator);
 WINUSERAPI HRESULT WINAPI SHGetDesktopFolder(LPSHELLFOLDER* folder);
@@ -76,7 +58,3 @@ WINUSERAPI HRESULT WINAPI SHGetDesktopFolder(LPSHELLFOLDER* folder);
 /// @param path  receives at most MAX_PATH bytes.
 /// @returns FALSE, with an empty path, for an item that is not one of the file system.
 WINUSERAPI BOOL WINAPI SHGetPathFromIDListA(LPCITEMIDLIST item, LPSTR path);
-
-#ifndef CVPLATFORM_NO_GENERIC_NAMES
-#define SHGetPathFromIDList SHGetPathFromIDListA
-#endif

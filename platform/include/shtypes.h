@@ -10,8 +10,7 @@
 typedef struct _SHITEMID {
     USHORT cb;
     BYTE abID[1];
-} SHITEMID, *LPSHITEMID;
-typedef const SHITEMID* LPCSHITEMID;
+} SHITEMID;
 
 /// A chain of items, ended by a size of 0.
 typedef struct _ITEMIDLIST {

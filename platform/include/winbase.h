@@ -5,10 +5,7 @@
 #include "windef.h"
 #include "winnt.h"
 #include "winerror.h"
-
-#ifndef CVPLATFORM_NO_GENERIC_NAMES
 #include "winbase/generic_names.h"
-#endif
 
 // --- last error
 
@@ -20,9 +17,7 @@ WINBASEAPI void WINAPI SetLastError(DWORD code);
 #define GMEM_FIXED 0x0000
 #define GMEM_MOVEABLE 0x0002
 #define GMEM_ZEROINIT 0x0040
-#define GMEM_MODIFY 0x0080
 #define GMEM_VALID_FLAGS 0x7F72
-#define GPTR (GMEM_FIXED | GMEM_ZEROINIT)
 
 WINBASEAPI HGLOBAL WINAPI GlobalAlloc(UINT flags, SIZE_T size);
 WINBASEAPI HGLOBAL WINAPI GlobalReAlloc(HGLOBAL block, SIZE_T size, UINT flags);
@@ -77,6 +72,7 @@ WINBASEAPI void WINAPI Sleep(DWORD milliseconds);
 
 // --- profile files
 
+/// A null section or key has no value.
 WINBASEAPI UINT WINAPI GetProfileIntA(LPCSTR section, LPCSTR key, INT fallback);
 WINBASEAPI DWORD WINAPI GetProfileStringA(LPCSTR section, LPCSTR key, LPCSTR fallback, LPSTR buffer, DWORD size);
 WINBASEAPI BOOL WINAPI WriteProfileStringA(LPCSTR section, LPCSTR key, LPCSTR text);

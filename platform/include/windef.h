@@ -20,7 +20,6 @@
 
 #define WINAPI
 #define CALLBACK
-#define APIENTRY
 #define STDMETHODCALLTYPE
 // Words of the 16-bit days, which mean nothing any more: a variable of such a name fails here as it does on Windows.
 #define far
@@ -41,7 +40,6 @@ typedef unsigned int ULONG;
 typedef short SHORT;
 typedef unsigned short USHORT;
 typedef char CHAR;
-typedef unsigned char UCHAR;
 typedef char16_t WCHAR;
 typedef long long LONGLONG;
 typedef unsigned long long ULONGLONG;
@@ -55,13 +53,9 @@ typedef ULONG_PTR SIZE_T;
 
 typedef void *PVOID, *LPVOID;
 typedef const void* LPCVOID;
-typedef BOOL *PBOOL, *LPBOOL;
 typedef BYTE *PBYTE, *LPBYTE;
 typedef WORD *PWORD, *LPWORD;
 typedef DWORD *PDWORD, *LPDWORD;
-typedef LONG *PLONG, *LPLONG;
-typedef int *PINT, *LPINT;
-typedef UINT* PUINT;
 typedef CHAR *PCHAR, *PSTR, *LPSTR;
 typedef const CHAR *PCSTR, *LPCSTR;
 typedef WCHAR *PWCHAR, *PWSTR, *LPWSTR;
@@ -69,7 +63,6 @@ typedef const WCHAR *PCWSTR, *LPCWSTR;
 
 typedef WORD ATOM;
 typedef DWORD COLORREF;
-typedef COLORREF* LPCOLORREF;
 typedef DWORD LCID;
 typedef WORD LANGID;
 typedef DWORD LCTYPE;
@@ -79,7 +72,6 @@ typedef LONG_PTR LRESULT;
 typedef LONG HRESULT;
 
 typedef void* HANDLE;
-typedef HANDLE* PHANDLE;
 typedef HANDLE HGLOBAL;
 typedef void* HGDIOBJ;
 
@@ -132,7 +124,6 @@ typedef struct tagRECT {
     LONG right;
     LONG bottom;
 } RECT, *PRECT, *LPRECT;
-typedef const RECT* LPCRECT;
 
 #define MAKELONG(low, high) \
     ((LONG)(((WORD)((DWORD_PTR)(low)&0xffff)) | ((DWORD)((WORD)((DWORD_PTR)(high)&0xffff))) << 16))

@@ -19,12 +19,6 @@ typedef struct tagRGBQUAD {
     BYTE rgbReserved;
 } RGBQUAD, *LPRGBQUAD;
 
-typedef struct tagRGBTRIPLE {
-    BYTE rgbtBlue;
-    BYTE rgbtGreen;
-    BYTE rgbtRed;
-} RGBTRIPLE;
-
 typedef struct tagBITMAP {
     LONG bmType;
     LONG bmWidth;
@@ -34,14 +28,6 @@ typedef struct tagBITMAP {
     WORD bmBitsPixel;
     LPVOID bmBits;
 } BITMAP, *PBITMAP, *NPBITMAP, *LPBITMAP;
-
-typedef struct tagBITMAPCOREHEADER {
-    DWORD bcSize;
-    WORD bcWidth;
-    WORD bcHeight;
-    WORD bcPlanes;
-    WORD bcBitCount;
-} BITMAPCOREHEADER, *LPBITMAPCOREHEADER, *PBITMAPCOREHEADER;
 
 typedef struct tagBITMAPINFOHEADER {
     DWORD biSize;
@@ -62,50 +48,24 @@ typedef struct tagBITMAPINFO {
     RGBQUAD bmiColors[1];
 } BITMAPINFO, *LPBITMAPINFO, *PBITMAPINFO;
 
-typedef struct tagDIBSECTION {
-    BITMAP dsBm;
-    BITMAPINFOHEADER dsBmih;
-    DWORD dsBitfields[3];
-    HANDLE dshSection;
-    DWORD dsOffset;
-} DIBSECTION, *LPDIBSECTION, *PDIBSECTION;
-
 #define BI_RGB 0
 #define DIB_RGB_COLORS 0
 
 // --- objects
 
 #define WHITE_BRUSH 0
-#define LTGRAY_BRUSH 1
-#define GRAY_BRUSH 2
-#define DKGRAY_BRUSH 3
 #define BLACK_BRUSH 4
 #define NULL_BRUSH 5
 #define WHITE_PEN 6
 #define BLACK_PEN 7
 #define NULL_PEN 8
-#define OEM_FIXED_FONT 10
 #define ANSI_FIXED_FONT 11
 #define ANSI_VAR_FONT 12
 #define SYSTEM_FONT 13
-#define DEVICE_DEFAULT_FONT 14
-#define SYSTEM_FIXED_FONT 16
 #define DEFAULT_GUI_FONT 17
-
-typedef struct tagLOGPEN {
-    UINT lopnStyle;
-    POINT lopnWidth;
-    COLORREF lopnColor;
-} LOGPEN, *PLOGPEN, *NPLOGPEN, *LPLOGPEN;
 
 #define PS_SOLID 0
 #define PS_NULL 5
-
-typedef struct tagLOGBRUSH {
-    UINT lbStyle;
-    COLORREF lbColor;
-    ULONG_PTR lbHatch;
-} LOGBRUSH, *PLOGBRUSH, *NPLOGBRUSH, *LPLOGBRUSH;
 
 #define BS_SOLID 0
 #define BS_NULL 1
@@ -113,9 +73,11 @@ typedef struct tagLOGBRUSH {
 
 WINGDIAPI HGDIOBJ WINAPI GetStockObject(int index);
 WINGDIAPI BOOL WINAPI DeleteObject(HGDIOBJ object);
+/// Tells of fonts and bitmaps.
 WINGDIAPI int WINAPI GetObjectA(HANDLE object, int size, LPVOID buffer);
 WINGDIAPI HGDIOBJ WINAPI SelectObject(HDC context, HGDIOBJ object);
 
+/// Every pen is one pixel wide.
 WINGDIAPI HPEN WINAPI CreatePen(int style, int width, COLORREF colour);
 WINGDIAPI HBRUSH WINAPI CreateSolidBrush(COLORREF colour);
 
@@ -137,8 +99,6 @@ WINGDIAPI BOOL WINAPI GdiFlush(void);
 
 #define TRANSPARENT 1
 #define OPAQUE 2
-#define BLACKONWHITE 1
-#define COLORONCOLOR 3
 
 WINGDIAPI COLORREF WINAPI SetBkColor(HDC context, COLORREF colour);
 WINGDIAPI COLORREF WINAPI GetBkColor(HDC context);
@@ -146,7 +106,6 @@ WINGDIAPI int WINAPI SetBkMode(HDC context, int mode);
 WINGDIAPI int WINAPI GetBkMode(HDC context);
 WINGDIAPI COLORREF WINAPI SetTextColor(HDC context, COLORREF colour);
 WINGDIAPI COLORREF WINAPI GetTextColor(HDC context);
-WINGDIAPI int WINAPI SetStretchBltMode(HDC context, int mode);
 
 // --- clipping
 
@@ -172,21 +131,18 @@ WINGDIAPI COLORREF WINAPI SetPixel(HDC context, int x, int y, COLORREF colour);
 #define SRCPAINT 0x00EE0086
 #define SRCAND 0x008800C6
 #define SRCINVERT 0x00660046
-#define SRCERASE 0x00440328
-#define NOTSRCCOPY 0x00330008
-#define NOTSRCERASE 0x001100A6
 #define MERGECOPY 0x00C000CA
-#define MERGEPAINT 0x00BB0226
 #define PATCOPY 0x00F00021
-#define PATPAINT 0x00FB0A09
 #define PATINVERT 0x005A0049
 #define DSTINVERT 0x00550009
 #define BLACKNESS 0x00000042
 #define WHITENESS 0x00FF0062
 
+/// Bitmaps have one bit a pixel or 32. Blocks and parts of negative size hold nothing.
 WINGDIAPI HBITMAP WINAPI CreateBitmap(int width, int height, UINT planes, UINT bitsPerPixel, const void* bits);
 WINGDIAPI HBITMAP WINAPI CreateBitmapIndirect(const BITMAP* bitmap);
 WINGDIAPI HBITMAP WINAPI CreateCompatibleBitmap(HDC context, int width, int height);
+/// Device-independent bitmaps have 32 bits a pixel here; those in resources may have palettes.
 WINGDIAPI HBITMAP WINAPI CreateDIBSection(HDC context, const BITMAPINFO* info, UINT usage, void** bits, HANDLE section,
                                           DWORD offset);
 WINGDIAPI int WINAPI GetDIBits(HDC context, HBITMAP bitmap, UINT start, UINT lines, LPVOID bits, LPBITMAPINFO info,
@@ -194,6 +150,7 @@ WINGDIAPI int WINAPI GetDIBits(HDC context, HBITMAP bitmap, UINT start, UINT lin
 WINGDIAPI BOOL WINAPI PatBlt(HDC context, int x, int y, int width, int height, DWORD operation);
 WINGDIAPI BOOL WINAPI BitBlt(HDC context, int x, int y, int width, int height, HDC source, int sourceX, int sourceY,
                              DWORD operation);
+/// Where a picture shrinks, black overrules what is not.
 WINGDIAPI BOOL WINAPI StretchBlt(HDC context, int x, int y, int width, int height, HDC source, int sourceX, int sourceY,
                                  int sourceWidth, int sourceHeight, DWORD operation);
 
@@ -217,8 +174,6 @@ typedef struct tagLOGFONTA {
     BYTE lfPitchAndFamily;
     CHAR lfFaceName[LF_FACESIZE];
 } LOGFONTA, *PLOGFONTA, *NPLOGFONTA, *LPLOGFONTA;
-typedef LOGFONTA LOGFONT;
-typedef LPLOGFONTA LPLOGFONT;
 
 typedef struct tagTEXTMETRICA {
     LONG tmHeight;
@@ -242,8 +197,6 @@ typedef struct tagTEXTMETRICA {
     BYTE tmPitchAndFamily;
     BYTE tmCharSet;
 } TEXTMETRICA, *PTEXTMETRICA, *NPTEXTMETRICA, *LPTEXTMETRICA;
-typedef TEXTMETRICA TEXTMETRIC;
-typedef LPTEXTMETRICA LPTEXTMETRIC;
 
 #define FW_DONTCARE 0
 #define FW_NORMAL 400
@@ -253,13 +206,6 @@ typedef LPTEXTMETRICA LPTEXTMETRIC;
 #define ANSI_CHARSET 0
 #define DEFAULT_CHARSET 1
 
-#define OUT_DEFAULT_PRECIS 0
-#define CLIP_DEFAULT_PRECIS 0
-#define DEFAULT_QUALITY 0
-#define NONANTIALIASED_QUALITY 3
-#define ANTIALIASED_QUALITY 4
-#define CLEARTYPE_QUALITY 5
-#define DEFAULT_PITCH 0
 #define FIXED_PITCH 1
 #define VARIABLE_PITCH 2
 #define FF_DONTCARE (0 << 4)
@@ -273,6 +219,7 @@ typedef LPTEXTMETRICA LPTEXTMETRIC;
 #define ETO_OPAQUE 0x0002
 #define ETO_CLIPPED 0x0004
 
+/// Width, angles and quality say nothing here.
 WINGDIAPI HFONT WINAPI CreateFontA(int height, int width, int escapement, int orientation, int weight, DWORD italic,
                                    DWORD underline, DWORD strikeOut, DWORD charSet, DWORD outPrecision,
                                    DWORD clipPrecision, DWORD quality, DWORD pitchAndFamily, LPCSTR faceName);

@@ -4,10 +4,6 @@
 
 #include "windef.h"
 
-typedef BYTE BOOLEAN;
-typedef char TCHAR, *PTCHAR;
-typedef LPSTR LPTSTR, PTSTR;
-typedef LPCSTR LPCTSTR, PCTSTR;
 #define TEXT(quote) quote
 
 /// Before a declaration: another module has it.
@@ -17,15 +13,11 @@ typedef LPCSTR LPCTSTR, PCTSTR;
 
 #define DLL_PROCESS_DETACH 0
 #define DLL_PROCESS_ATTACH 1
-#define DLL_THREAD_ATTACH 2
-#define DLL_THREAD_DETACH 3
 
 // --- languages and locales
 
 #define LANG_NEUTRAL 0x00
 #define LANG_ENGLISH 0x09
-#define LANG_GERMAN 0x07
-#define SUBLANG_NEUTRAL 0x00
 #define SUBLANG_DEFAULT 0x01
 #define SUBLANG_ENGLISH_US 0x01
 #define SUBLANG_SYS_DEFAULT 0x02
@@ -33,12 +25,10 @@ typedef LPCSTR LPCTSTR, PCTSTR;
 
 #define MAKELANGID(primary, sub) ((((WORD)(sub)) << 10) | (WORD)(primary))
 #define MAKELCID(language, sort) ((DWORD)((((DWORD)((WORD)(sort))) << 16) | ((DWORD)((WORD)(language)))))
-#define LANGIDFROMLCID(locale) ((WORD)(locale))
 #define LANG_SYSTEM_DEFAULT (MAKELANGID(LANG_NEUTRAL, SUBLANG_SYS_DEFAULT))
 #define LANG_USER_DEFAULT (MAKELANGID(LANG_NEUTRAL, SUBLANG_DEFAULT))
 #define LOCALE_SYSTEM_DEFAULT (MAKELCID(LANG_SYSTEM_DEFAULT, SORT_DEFAULT))
 #define LOCALE_USER_DEFAULT (MAKELCID(LANG_USER_DEFAULT, SORT_DEFAULT))
-#define LOCALE_NEUTRAL (MAKELCID(MAKELANGID(LANG_NEUTRAL, SUBLANG_NEUTRAL), SORT_DEFAULT))
 
 // --- processors (SYSTEM_INFO)
 

@@ -5,7 +5,6 @@
 #include "winbase.h"
 
 typedef DWORD REGSAM;
-typedef LONG LSTATUS;
 typedef HKEY* PHKEY;
 
 /// The roots are always open and need not be closed.
@@ -44,13 +43,14 @@ typedef HKEY* PHKEY;
 // --- keys; every function returns ERROR_SUCCESS or an error code
 
 WINADVAPI LONG WINAPI RegCloseKey(HKEY key);
+/// @param className  null.
 WINADVAPI LONG WINAPI RegCreateKeyExA(HKEY key, LPCSTR subkey, DWORD reserved, LPSTR className, DWORD options,
                                       REGSAM access, LPSECURITY_ATTRIBUTES security, PHKEY result, LPDWORD disposition);
 WINADVAPI LONG WINAPI RegOpenKeyExA(HKEY key, LPCSTR subkey, DWORD options, REGSAM access, PHKEY result);
 /// A key that has subkeys is not deleted (ERROR_ACCESS_DENIED).
 WINADVAPI LONG WINAPI RegDeleteKeyA(HKEY key, LPCSTR subkey);
 WINADVAPI LONG WINAPI RegEnumKeyA(HKEY key, DWORD index, LPSTR name, DWORD size);
-/// The time of the last write is not kept: its members become 0.
+/// Classes and times of keys are not kept: className, classSize and lastWrite are null.
 WINADVAPI LONG WINAPI RegEnumKeyExA(HKEY key, DWORD index, LPSTR name, LPDWORD size, LPDWORD reserved, LPSTR className,
                                     LPDWORD classSize, FILETIME* lastWrite);
 
@@ -62,15 +62,3 @@ WINADVAPI LONG WINAPI RegSetValueExA(HKEY key, LPCSTR name, DWORD reserved, DWOR
 WINADVAPI LONG WINAPI RegDeleteValueA(HKEY key, LPCSTR name);
 WINADVAPI LONG WINAPI RegEnumValueA(HKEY key, DWORD index, LPSTR name, LPDWORD nameSize, LPDWORD reserved, LPDWORD type,
                                     LPBYTE data, LPDWORD dataSize);
-
-#ifndef CVPLATFORM_NO_GENERIC_NAMES
-#define RegCreateKeyEx RegCreateKeyExA
-#define RegDeleteKey RegDeleteKeyA
-#define RegDeleteValue RegDeleteValueA
-#define RegEnumKey RegEnumKeyA
-#define RegEnumKeyEx RegEnumKeyExA
-#define RegEnumValue RegEnumValueA
-#define RegOpenKeyEx RegOpenKeyExA
-#define RegQueryValueEx RegQueryValueExA
-#define RegSetValueEx RegSetValueExA
-#endif

@@ -38,10 +38,10 @@ constexpr const char* kSchema =
 constexpr const char* kQueries[] = {
     "SELECT id FROM keys WHERE parent = ?1 AND folded = ?2",
     "SELECT 1 FROM keys WHERE id = ?1",
-    "INSERT INTO keys(parent, folded, name, class) VALUES (?1, ?2, ?3, ?4)",
+    "INSERT INTO keys(parent, folded, name) VALUES (?1, ?2, ?3)",
     "DELETE FROM keys WHERE id = ?1",
     "DELETE FROM \"values\" WHERE key = ?1",
-    "SELECT name, class FROM keys WHERE parent = ?1 ORDER BY folded",
+    "SELECT name FROM keys WHERE parent = ?1 ORDER BY folded",
     "SELECT type, data FROM \"values\" WHERE key = ?1 AND folded = ?2",
     "INSERT INTO \"values\"(key, folded, name, type, data) SELECT ?1, ?2, ?3, ?4, ?5"
     " WHERE EXISTS (SELECT 1 FROM keys WHERE id = ?1)"

@@ -24,10 +24,10 @@ constexpr KeyId kClassesRoot = 4;
 enum class Query {
     FindKey,      ///< parent, folded -> id
     KeyExists,    ///< id
-    InsertKey,    ///< parent, folded, name, class
+    InsertKey,    ///< parent, folded, name
     DeleteKey,    ///< id
     DeleteAll,    ///< id: all values of the key
-    ListKeys,     ///< parent -> name, class; in the order of their names
+    ListKeys,     ///< parent -> name; in the order of their names
     FindValue,    ///< key, folded -> type, data
     WriteValue,   ///< key, folded, name, type, data; changes nothing when the key is gone
     DeleteValue,  ///< key, folded

@@ -29,15 +29,6 @@ inline LONG DeliverName(const std::string& name, LPSTR buffer, LPDWORD size) {
     return ERROR_SUCCESS;
 }
 
-/// Hands over a class, or without a buffer its length alone.
-inline LONG DeliverClass(const std::string& name, LPSTR buffer, LPDWORD size) {
-    if (buffer) {
-        return DeliverName(name, buffer, size);
-    }
-    *size = static_cast<DWORD>(name.size());
-    return ERROR_SUCCESS;
-}
-
 /// Hands over a value. Without a buffer only its size is told; a buffer that is too small gets nothing. A text that was
 /// stored without a NUL gets one where the buffer has room for it.
 inline LONG DeliverData(const Value& value, LPDWORD type, LPBYTE data, LPDWORD size) {

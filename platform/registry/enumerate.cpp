@@ -11,30 +11,19 @@ using namespace platform::registry;
 
 LONG WINAPI RegEnumKeyExA(HKEY key, DWORD index, LPSTR name, LPDWORD size, LPDWORD reserved, LPSTR className,
                           LPDWORD classSize, FILETIME* lastWrite) {
-    if (!name || !size || reserved || (className && !classSize)) {
+    if (!name || !size || reserved || className || classSize || lastWrite) {
         return ERROR_INVALID_PARAMETER;
     }
-    if (!AreGood(size, classSize, lastWrite)) {
+    if (!AreGood(size)) {
         return ERROR_NOACCESS;
     }
     return OnKey(key, KEY_ENUMERATE_SUB_KEYS, [&](Store& store, KeyId id) -> LONG {
-        const std::vector<ListedKey>* list = nullptr;
-        LONG error = store.ListKeys(id, &list);
+        const std::vector<std::string>* list = nullptr;
+        const LONG error = store.List(Query::ListKeys, id, &list);
         if (error != ERROR_SUCCESS) {
             return error;
         }
-        if (index >= list->size()) {
-            return ERROR_NO_MORE_ITEMS;
-        }
-        const ListedKey& found = (*list)[index];
-        error = DeliverName(found.name, name, size);
-        if (error == ERROR_SUCCESS && classSize) {
-            error = DeliverClass(found.className, className, classSize);
-        }
-        if (lastWrite) {
-            *lastWrite = FILETIME{};
-        }
-        return error;
+        return index < list->size() ? DeliverName((*list)[index], name, size) : ERROR_NO_MORE_ITEMS;
     });
 }
 
@@ -52,7 +41,7 @@ LONG WINAPI RegEnumValueA(HKEY key, DWORD index, LPSTR name, LPDWORD nameSize, L
     }
     return OnKey(key, KEY_QUERY_VALUE, [&](Store& store, KeyId id) -> LONG {
         const std::vector<std::string>* list = nullptr;
-        LONG error = store.ListValues(id, &list);
+        LONG error = store.List(Query::ListValues, id, &list);
         if (error != ERROR_SUCCESS) {
             return error;
         }

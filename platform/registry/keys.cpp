@@ -18,28 +18,21 @@ LONG WINAPI RegCreateKeyExA(HKEY key, LPCSTR subkey, DWORD reserved, LPSTR class
     if (!subkey) {
         return ERROR_BADKEY;
     }
-    if (!result || reserved || options != REG_OPTION_NON_VOLATILE) {
+    if (!result || reserved || className || options != REG_OPTION_NON_VOLATILE) {
         return ERROR_INVALID_PARAMETER;
     }
-    if (!IsGood(subkey) || !IsGood(className) || !AreGood(result, disposition)) {
+    if (!IsGood(subkey) || !AreGood(result, disposition)) {
         return ERROR_NOACCESS;
     }
-    return Answer([&]() -> LONG {
-        KeyId from = 0;
+    // Making a subkey needs the right to; opening one that exists does not.
+    return OnKey(key, 0, [&](Store& store, KeyId from) -> LONG {
         KeyId found = 0;
         bool created = false;
-        // Making a subkey needs the right to; opening one that exists does not.
-        LONG error = FindHandleKey(key, 0, &from);
-        if (error != ERROR_SUCCESS) {
-            return error;
-        }
-        if (Store::Use store{&error}) {
-            error = FindHandleKey(key, KEY_CREATE_SUB_KEY, &from) == ERROR_SUCCESS
-                        ? store->CreateKey(from, subkey, className ? className : "", &found, &created)
-                        : store->FindKey(from, subkey, &found);
-            if (error == ERROR_FILE_NOT_FOUND) {
-                error = ERROR_ACCESS_DENIED;
-            }
+        LONG error = FindHandleKey(key, KEY_CREATE_SUB_KEY, &from) == ERROR_SUCCESS
+                         ? store.CreateKey(from, subkey, &found, &created)
+                         : store.FindKey(from, subkey, &found);
+        if (error == ERROR_FILE_NOT_FOUND) {
+            error = ERROR_ACCESS_DENIED;
         }
         error = error == ERROR_SUCCESS ? OpenHandle(found, access, result) : error;
         if (error == ERROR_SUCCESS && disposition) {
@@ -57,16 +50,9 @@ LONG WINAPI RegOpenKeyExA(HKEY key, LPCSTR subkey, DWORD, REGSAM access, PHKEY r
         return ERROR_NOACCESS;
     }
     *result = nullptr;
-    return Answer([&]() -> LONG {
-        KeyId from = 0;
+    return OnKey(key, 0, [&](Store& store, KeyId from) -> LONG {
         KeyId found = 0;
-        LONG error = FindHandleKey(key, 0, &from);
-        if (error != ERROR_SUCCESS) {
-            return error;
-        }
-        if (Store::Use store{&error}) {
-            error = store->FindKey(from, subkey ? subkey : "", &found);
-        }
+        const LONG error = store.FindKey(from, subkey ? subkey : "", &found);
         return error == ERROR_SUCCESS ? OpenHandle(found, access, result) : error;
     });
 }
@@ -78,15 +64,5 @@ LONG WINAPI RegDeleteKeyA(HKEY key, LPCSTR subkey) {
     if (!IsGood(subkey)) {
         return ERROR_NOACCESS;
     }
-    return Answer([&]() -> LONG {
-        KeyId from = 0;
-        LONG error = FindHandleKey(key, 0, &from);
-        if (error != ERROR_SUCCESS) {
-            return error;
-        }
-        if (Store::Use store{&error}) {
-            error = store->DeleteKey(from, subkey);
-        }
-        return error;
-    });
+    return OnKey(key, 0, [&](Store& store, KeyId from) { return store.DeleteKey(from, subkey); });
 }

@@ -60,8 +60,7 @@ Store::Use::Use(LONG* error) : store_(Instance()), guard_(store_.lock_) {
 void Store::Forget() {
     keys_.clear();
     values_.clear();
-    keyLists_.clear();
-    valueLists_.clear();
+    lists_.clear();
     kept_ = 0;
 }
 
@@ -142,44 +141,40 @@ LONG Store::FindKey(KeyId from, std::string_view path, KeyId* found) {
     return error;
 }
 
-LONG Store::CreateKey(KeyId from, std::string_view path, std::string_view className, KeyId* found, bool* created) {
-    *created = false;
-    LONG error = FindKey(from, path, found);
-    if (error != ERROR_FILE_NOT_FOUND) {
-        return error;
-    }
+// Keys change all in one transaction or not at all, and rarely: what is kept is simply read again.
+template <class Steps>
+LONG Store::Together(Steps steps) {
     if (const int code = database_->Use(Query::Begin).Step(); code != SQLITE_DONE) {
         return database_->Failure(code);
     }
-    error = CreateMissing(from, path, className, found, created);
+    LONG error = steps();
     if (error == ERROR_SUCCESS) {
         error = database_->Failure(database_->Use(Query::Commit).Step());
     }
     if (error != ERROR_SUCCESS) {
         database_->Use(Query::Rollback).Step();
     }
-    // Keys are made rarely; what is kept is simply read again.
     current_ = false;
     return error;
 }
 
-LONG Store::CreateMissing(KeyId from, std::string_view path, std::string_view className, KeyId* found, bool* created) {
+LONG Store::CreateKey(KeyId from, std::string_view path, KeyId* found, bool* created) {
+    *created = false;
+    const LONG error = FindKey(from, path, found);
+    return error == ERROR_FILE_NOT_FOUND ? Together([&] { return CreateMissing(from, path, found, created); }) : error;
+}
+
+LONG Store::CreateMissing(KeyId from, std::string_view path, KeyId* found, bool* created) {
     std::vector<KeyName> names;
     SplitKeyPath(path, names);
     LONG error = CheckKey(from);
     *found = from;
-    const std::string lastClass = kernel::Utf8FromAnsi(className);
     for (std::size_t i = 0; i < names.size() && error == ERROR_SUCCESS; ++i) {
         const KeyId parent = *found;
         error = FindBelow(parent, names[i].folded, found);
         if (error == ERROR_FILE_NOT_FOUND) {
-            const std::string_view text = i + 1 == names.size() ? std::string_view(lastClass) : std::string_view();
-            const int code = database_->Use(Query::InsertKey)
-                                 .Bind(1, parent)
-                                 .Bind(2, names[i].folded)
-                                 .Bind(3, names[i].name)
-                                 .Bind(4, text)
-                                 .Step();
+            const int code =
+                database_->Use(Query::InsertKey).Bind(1, parent).Bind(2, names[i].folded).Bind(3, names[i].name).Step();
             error = database_->Failure(code);
             *found = database_->LastKey();
             *created = error == ERROR_SUCCESS;
@@ -190,25 +185,11 @@ LONG Store::CreateMissing(KeyId from, std::string_view path, std::string_view cl
 
 LONG Store::DeleteKey(KeyId from, std::string_view path) {
     KeyId key = 0;
-    LONG error = FindKey(from, path, &key);
+    const LONG error = FindKey(from, path, &key);
     if (error != ERROR_SUCCESS) {
         return error;
     }
-    if (key <= kClassesRoot) {
-        return ERROR_ACCESS_DENIED;
-    }
-    if (const int code = database_->Use(Query::Begin).Step(); code != SQLITE_DONE) {
-        return database_->Failure(code);
-    }
-    error = DeleteFound(key);
-    if (error == ERROR_SUCCESS) {
-        error = database_->Failure(database_->Use(Query::Commit).Step());
-    }
-    if (error != ERROR_SUCCESS) {
-        database_->Use(Query::Rollback).Step();
-    }
-    current_ = false;
-    return error;
+    return key <= kClassesRoot ? ERROR_ACCESS_DENIED : Together([&] { return DeleteFound(key); });
 }
 
 LONG Store::DeleteFound(KeyId key) {
@@ -277,7 +258,7 @@ LONG Store::WriteValue(KeyId key, std::string_view name, DWORD type, std::string
                          .BindBytes(5, data)
                          .Step();
     values_.erase(wanted_);
-    valueLists_.erase(key);
+    lists_.erase({Query::ListValues, key});
     const LONG error = Changed(code);
     return error == ERROR_SUCCESS && database_->Changes() == 0 ? ERROR_KEY_DELETED : error;
 }
@@ -287,40 +268,16 @@ LONG Store::DeleteValue(KeyId key, std::string_view name) {
     const std::string_view folded = std::string_view(wanted_).substr(sizeof key);
     const int code = database_->Use(Query::DeleteValue).Bind(1, key).Bind(2, folded).Step();
     values_.erase(wanted_);
-    valueLists_.erase(key);
+    lists_.erase({Query::ListValues, key});
     const LONG error = Changed(code);
     return error == ERROR_SUCCESS && database_->Changes() == 0 ? MissingValue(key, ERROR_FILE_NOT_FOUND) : error;
 }
 
-LONG Store::ListKeys(KeyId key, const std::vector<ListedKey>** list) {
-    auto kept = keyLists_.find(key);
-    if (kept == keyLists_.end()) {
-        std::vector<ListedKey> read;
-        Statement statement = database_->Use(Query::ListKeys);
-        statement.Bind(1, key);
-        int code = SQLITE_DONE;
-        while ((code = statement.Step()) == SQLITE_ROW) {
-            read.push_back({kernel::AnsiFromUtf8(statement.Bytes(0)), kernel::AnsiFromUtf8(statement.Bytes(1))});
-            Remember(read.back().name.size());
-        }
-        LONG error = database_->Failure(code);
-        if (error == ERROR_SUCCESS && read.empty()) {
-            error = CheckKey(key);
-        }
-        if (error != ERROR_SUCCESS) {
-            return error;
-        }
-        kept = keyLists_.emplace(key, std::move(read)).first;
-    }
-    *list = &kept->second;
-    return ERROR_SUCCESS;
-}
-
-LONG Store::ListValues(KeyId key, const std::vector<std::string>** list) {
-    auto kept = valueLists_.find(key);
-    if (kept == valueLists_.end()) {
+LONG Store::List(Query query, KeyId key, const std::vector<std::string>** list) {
+    auto kept = lists_.find({query, key});
+    if (kept == lists_.end()) {
         std::vector<std::string> read;
-        Statement statement = database_->Use(Query::ListValues);
+        Statement statement = database_->Use(query);
         statement.Bind(1, key);
         int code = SQLITE_DONE;
         while ((code = statement.Step()) == SQLITE_ROW) {
@@ -334,7 +291,7 @@ LONG Store::ListValues(KeyId key, const std::vector<std::string>** list) {
         if (error != ERROR_SUCCESS) {
             return error;
         }
-        kept = valueLists_.emplace(key, std::move(read)).first;
+        kept = lists_.emplace(std::pair{query, key}, std::move(read)).first;
     }
     *list = &kept->second;
     return ERROR_SUCCESS;

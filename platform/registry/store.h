@@ -7,12 +7,14 @@
 
 #include <windows.h>
 
+#include <map>
 #include <memory>
 #include <mutex>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "registry/database.h"
@@ -22,11 +24,6 @@ namespace platform::registry {
 struct Value {
     DWORD type = REG_NONE;
     std::string data;
-};
-
-struct ListedKey {
-    std::string name;  ///< of the code page in use, as all names here
-    std::string className;
 };
 
 /// All calls are made under the store's lock, and what they point to holds until the next one.
@@ -51,7 +48,7 @@ class Store {
 
     /// ERROR_FILE_NOT_FOUND when there is no such key.
     LONG FindKey(KeyId from, std::string_view path, KeyId* found);
-    LONG CreateKey(KeyId from, std::string_view path, std::string_view className, KeyId* found, bool* created);
+    LONG CreateKey(KeyId from, std::string_view path, KeyId* found, bool* created);
     /// ERROR_ACCESS_DENIED for a root and for a key that has subkeys.
     LONG DeleteKey(KeyId from, std::string_view path);
 
@@ -60,8 +57,8 @@ class Store {
     LONG WriteValue(KeyId key, std::string_view name, DWORD type, std::string_view data);
     LONG DeleteValue(KeyId key, std::string_view name);
 
-    LONG ListKeys(KeyId key, const std::vector<ListedKey>** list);
-    LONG ListValues(KeyId key, const std::vector<std::string>** list);
+    /// Names of the code page in use. query: ListKeys or ListValues.
+    LONG List(Query query, KeyId key, const std::vector<std::string>** list);
 
   private:
     static Store& Instance();
@@ -77,7 +74,9 @@ class Store {
     LONG CheckKey(KeyId key);
     LONG FindBelow(KeyId from, const std::string& folded, KeyId* found);
     LONG MissingValue(KeyId key, LONG otherwise);
-    LONG CreateMissing(KeyId from, std::string_view path, std::string_view className, KeyId* found, bool* created);
+    LONG CreateMissing(KeyId from, std::string_view path, KeyId* found, bool* created);
+    template <class Steps>
+    LONG Together(Steps steps);
     LONG DeleteFound(KeyId key);
 
     std::mutex lock_;
@@ -90,8 +89,7 @@ class Store {
     std::string wanted_;                           ///< the name being looked up; its memory is used again
     std::unordered_map<std::string, KeyId> keys_;  ///< by parent and path; 0 for none
     std::unordered_map<std::string, std::optional<Value>> values_;  ///< by key and folded name
-    std::unordered_map<KeyId, std::vector<ListedKey>> keyLists_;
-    std::unordered_map<KeyId, std::vector<std::string>> valueLists_;
+    std::map<std::pair<Query, KeyId>, std::vector<std::string>> lists_;
 };
 
 }  // namespace platform::registry

@@ -1,7 +1,5 @@
 #include "shell/directory.h"
 
-#include <windows.h>
-
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -9,9 +7,9 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <memory>
 
+#include "kernel/files/hostfile.h"
 #include "kernel/text/encoding.h"
 
 namespace platform::shell {
@@ -36,10 +34,6 @@ Directory Open(const std::string& path) {
     return Directory(directory);
 }
 
-bool IsDots(const char* name) {
-    return name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'));
-}
-
 bool IsFolder(const Directory& directory, const dirent& entry) {
     if (entry.d_type == DT_DIR) {
         return true;
@@ -51,11 +45,6 @@ bool IsFolder(const Directory& directory, const dirent& entry) {
     return fstatat(dirfd(directory.get()), entry.d_name, &facts, 0) == 0 && S_ISDIR(facts.st_mode);
 }
 
-bool SameText(const std::string& a, const std::string& b) {
-    return CompareStringA(LOCALE_USER_DEFAULT, NORM_IGNORECASE, a.c_str(), static_cast<int>(a.size()), b.c_str(),
-                          static_cast<int>(b.size())) == CSTR_EQUAL;
-}
-
 }  // namespace
 
 int ReadDirectory(const std::string& path, Wanted wanted, std::vector<Entry>& entries) {
@@ -64,13 +53,12 @@ int ReadDirectory(const std::string& path, Wanted wanted, std::vector<Entry>& en
         return errno;
     }
     while (const dirent* found = readdir(directory.get())) {
-        const bool hidden = found->d_name[0] == '.';
-        if (IsDots(found->d_name) || (hidden && !wanted.hidden)) {
-            continue;
+        if (found->d_name[0] == '.') {
+            continue;  // hidden
         }
         const bool folder = IsFolder(directory, *found);
         if (folder ? wanted.folders : wanted.files) {
-            entries.push_back({found->d_name, folder, hidden});
+            entries.push_back({found->d_name, folder});
         }
     }
     std::sort(entries.begin(), entries.end(),
@@ -109,15 +97,7 @@ std::string FindEntry(const std::string& path, const std::string& name) {
     if (Exists(path + '/' + exact, folder)) {
         return exact;
     }
-    const Directory directory = Open(path);
-    std::string found;
-    while (const dirent* entry = directory ? readdir(directory.get()) : nullptr) {
-        if (!IsDots(entry->d_name) && SameText(kernel::AnsiFromUtf8(entry->d_name), name) &&
-            (found.empty() || entry->d_name < found)) {
-            found = entry->d_name;
-        }
-    }
-    return found;
+    return kernel::FindInAnyCase(path, exact);
 }
 
 }  // namespace platform::shell

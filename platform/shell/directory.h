@@ -11,16 +11,14 @@ namespace platform::shell {
 struct Entry {
     std::string name;  ///< as the host writes it
     bool folder = false;
-    bool hidden = false;  ///< its name begins with a dot
 };
 
 struct Wanted {
     bool folders = true;
     bool files = true;
-    bool hidden = false;
 };
 
-/// Reads a directory, links followed. @returns the host's error number, 0 for none; entries come sorted by name, folders
+/// Reads a directory, links followed and hidden entries left out. @returns the host's error number, 0 for none; entries come sorted by name, folders
 /// first.
 int ReadDirectory(const std::string& path, Wanted wanted, std::vector<Entry>& entries);
 

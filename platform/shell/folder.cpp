@@ -10,46 +10,19 @@
 namespace platform::shell {
 namespace {
 
-/// Drives before folders before files, each kind by name.
-int Order(const Item& a, const Item& b) {
-    if (a.kind != b.kind) {
-        return a.kind < b.kind ? -1 : 1;
-    }
-    const std::string first = kernel::AnsiFromUtf8(a.name);
-    const std::string second = kernel::AnsiFromUtf8(b.name);
-    const int order = lstrcmpiA(first.c_str(), second.c_str());
-    return order ? order : a.name.compare(b.name);
-}
-
 class Folder final : public Counted<IShellFolder> {
   public:
     explicit Folder(Place place) : place_(std::move(place)) {}
 
-    STDMETHODIMP QueryInterface(REFIID asked, void** object) override {
-        return Answer(asked, IID_IShellFolder, object);
-    }
-
     STDMETHODIMP ParseDisplayName(HWND, IBindCtx*, LPWSTR name, ULONG* eaten, LPITEMIDLIST* item,
                                   ULONG* attributes) override {
-        if (!item || !name) {
+        if (!item || !name || eaten || attributes) {
             return E_INVALIDARG;
         }
         *item = nullptr;
         return Method([&]() -> HRESULT {
-            const std::u16string_view wide(name);
-            OwnedList list = ParseName(place_, kernel::AnsiFromWide(wide));
-            if (!list) {
-                return HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND);
-            }
-            if (eaten) {
-                *eaten = static_cast<ULONG>(wide.size());
-            }
-            if (attributes && *attributes) {
-                const auto place = Follow(place_, list.get());
-                *attributes = place ? Attributes(*place, *attributes) : 0;
-            }
-            *item = list.release();
-            return S_OK;
+            *item = ParseName(place_, kernel::AnsiFromWide(name)).release();
+            return *item ? S_OK : HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND);
         });
     }
 
@@ -80,38 +53,12 @@ class Folder final : public Counted<IShellFolder> {
             if (!place->IsFolder() || (onDisk && (!Exists(HostDirectory(*place), isFolder) || !isFolder))) {
                 return HRESULT_FROM_WIN32(ERROR_PATH_NOT_FOUND);
             }
-            IShellFolder* const folder = MakeFolder(std::move(*place));
-            const HRESULT result = folder->QueryInterface(asked, object);
-            folder->Release();
-            return result;
+            if (asked != IID_IShellFolder) {
+                return E_NOINTERFACE;
+            }
+            *object = MakeFolder(std::move(*place));
+            return S_OK;
         });
-    }
-
-    STDMETHODIMP BindToStorage(LPCITEMIDLIST, IBindCtx*, REFIID, void** object) override {
-        return None(object, E_NOTIMPL);
-    }
-
-    STDMETHODIMP CompareIDs(LPARAM, LPCITEMIDLIST first, LPCITEMIDLIST second) override {
-        return Method([&]() -> HRESULT {
-            if (!first || !second) {
-                return E_INVALIDARG;
-            }
-            int order = 0;
-            for (; order == 0 && !IsEnd(first) && !IsEnd(second); first = NextItem(first), second = NextItem(second)) {
-                order = Order(ReadItem(first), ReadItem(second));
-                if (order != 0) {
-                    break;
-                }
-            }
-            if (order == 0) {
-                order = int{!IsEnd(first)} - int{!IsEnd(second)};
-            }
-            return order < 0 ? 0xFFFF : order > 0 ? 1 : 0;
-        });
-    }
-
-    STDMETHODIMP CreateViewObject(HWND, REFIID, void** object) override {
-        return None(object, E_NOINTERFACE);
     }
 
     STDMETHODIMP GetAttributesOf(UINT count, LPCITEMIDLIST* items, SFGAOF* attributes) override {
@@ -132,10 +79,6 @@ class Folder final : public Counted<IShellFolder> {
         });
     }
 
-    STDMETHODIMP GetUIObjectOf(HWND, UINT, LPCITEMIDLIST*, REFIID, UINT*, void** object) override {
-        return None(object, E_NOINTERFACE);
-    }
-
     STDMETHODIMP GetDisplayNameOf(LPCITEMIDLIST item, SHGDNF form, LPSTRRET name) override {
         if (!name) {
             return E_INVALIDARG;
@@ -145,8 +88,7 @@ class Folder final : public Counted<IShellFolder> {
             if (!place) {
                 return E_INVALIDARG;
             }
-            const bool whole = (form & SHGDN_FORPARSING) && !(form & SHGDN_INFOLDER);
-            const std::string text = whole ? ParsingName(*place) : DisplayName(*place);
+            const std::string text = form & SHGDN_FORPARSING ? ParsingName(*place) : DisplayName(*place);
             if (text.size() >= sizeof name->cStr) {
                 return HRESULT_FROM_WIN32(ERROR_FILENAME_EXCED_RANGE);
             }
@@ -156,21 +98,7 @@ class Folder final : public Counted<IShellFolder> {
         });
     }
 
-    STDMETHODIMP SetNameOf(HWND, LPCITEMIDLIST, LPCWSTR, SHGDNF, LPITEMIDLIST* changed) override {
-        if (changed) {
-            *changed = nullptr;
-        }
-        return E_NOTIMPL;
-    }
-
   private:
-    static HRESULT None(void** object, HRESULT result) {
-        if (object) {
-            *object = nullptr;
-        }
-        return result;
-    }
-
     const Place place_;
 };
 

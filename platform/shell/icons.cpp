@@ -1,8 +1,9 @@
 #include "shell/icons.h"
 
 #include <cstdint>
-#include <cstring>
+#include <iterator>
 #include <mutex>
+#include <string_view>
 
 #include "base/immortal.h"
 #include "comctl/imagelist.h"
@@ -15,8 +16,8 @@ constexpr int kSize = 16;
 constexpr int kCount = static_cast<int>(Picture::Count);
 using Drawing = const char* [kSize];
 
-// One letter a pixel: k black, w white, s silver, g grey, y yellow, o olive, c cyan, t teal, b blue, n navy, d green,
-// r red; a dot lets the ground through.
+// One letter a pixel: k black, w white, s silver, g grey, y yellow, o olive, c cyan, t teal, b blue, n navy, d green;
+// a dot lets the ground through.
 constexpr Drawing kDrawings[kCount] = {
     {
         "................",
@@ -165,32 +166,11 @@ constexpr Drawing kDrawings[kCount] = {
 };
 
 std::uint32_t ColourOf(char letter) {
-    switch (letter) {
-        case 'w':
-            return 0xFFFFFF;
-        case 's':
-            return 0xC0C0C0;
-        case 'g':
-            return 0x808080;
-        case 'y':
-            return 0xFFFF80;
-        case 'o':
-            return 0x808000;
-        case 'c':
-            return 0x80FFFF;
-        case 't':
-            return 0x008080;
-        case 'b':
-            return 0x0000FF;
-        case 'n':
-            return 0x000080;
-        case 'd':
-            return 0x00C000;
-        case 'r':
-            return 0xFF0000;
-        default:
-            return 0x000000;
-    }
+    constexpr std::string_view kLetters = "kwsgyoctbnd";
+    constexpr std::uint32_t kColours[] = {0x000000, 0xFFFFFF, 0xC0C0C0, 0x808080, 0xFFFF80, 0x808000,
+                                          0x80FFFF, 0x008080, 0x0000FF, 0x000080, 0x00C000};
+    static_assert(kLetters.size() == std::size(kColours));
+    return kColours[kLetters.find(letter)];
 }
 
 /// All drawings side by side. mask: white where the ground shows, black elsewhere.
@@ -209,8 +189,9 @@ HBITMAP MakeStrip(HDC screen, bool mask) {
     info.bmiHeader = {sizeof info.bmiHeader, kCount * kSize, -kSize, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
     const HBITMAP bitmap = mask ? CreateBitmap(kCount * kSize, kSize, 1, 1, nullptr)
                                 : CreateCompatibleBitmap(screen, kCount * kSize, kSize);
-    if (bitmap) {
-        gdi::SetBits(bitmap, pixels, &info);
+    const comctl::Memory memory(bitmap);
+    if (memory) {
+        gdi::StretchBits(memory, {0, 0, kCount * kSize, kSize}, pixels, &info, SRCCOPY);
     }
     return bitmap;
 }

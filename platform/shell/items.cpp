@@ -7,11 +7,9 @@
 namespace platform::shell {
 namespace {
 
-// Behind the size: kind, flags, the name and its NUL. The size is rounded up to an even one.
+// Behind the size: kind, the name and its NUL. The size is rounded up to an even one.
 constexpr std::size_t kKindAt = 2;
-constexpr std::size_t kFlagsAt = 3;
-constexpr std::size_t kNameAt = 4;
-constexpr BYTE kHidden = 1;
+constexpr std::size_t kNameAt = 3;
 
 OwnedList Allocate(std::size_t size) {
     OwnedList list(static_cast<LPITEMIDLIST>(AllocateBlock(size)));
@@ -49,7 +47,7 @@ Item ReadItem(LPCITEMIDLIST list) {
     if (kind == ItemKind::Drive && (text.size() != 1 || text[0] < 'A' || text[0] > 'Z')) {
         return {};
     }
-    return {kind, (bytes[kFlagsAt] & kHidden) != 0, text};
+    return {kind, text};
 }
 
 LPCITEMIDLIST NextItem(LPCITEMIDLIST list) {
@@ -62,7 +60,6 @@ OwnedList MakeItem(const Item& item) {
     auto* bytes = reinterpret_cast<BYTE*>(list.get());
     list->mkid.cb = static_cast<USHORT>(size);
     bytes[kKindAt] = BYTE(item.kind);
-    bytes[kFlagsAt] = item.hidden ? kHidden : 0;
     std::copy(item.name.begin(), item.name.end(), bytes + kNameAt);
     return list;
 }

@@ -17,7 +17,6 @@ enum class ItemKind : BYTE { None = 0, Computer = 0x1F, Drive = 0x23, Folder = 0
 
 struct Item {
     ItemKind kind = ItemKind::None;
-    bool hidden = false;
     std::string_view name;  ///< Drive: its letter; Folder and File: the host's name
 };
 

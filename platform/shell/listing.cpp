@@ -22,15 +22,14 @@ HRESULT ResultOf(int error) {
 }
 
 HRESULT AddDirectory(const Place& place, SHCONTFLAGS flags, Listing& listing) {
-    const Wanted wanted{(flags & SHCONTF_FOLDERS) != 0, (flags & SHCONTF_NONFOLDERS) != 0,
-                        (flags & SHCONTF_INCLUDEHIDDEN) != 0};
+    const Wanted wanted{(flags & SHCONTF_FOLDERS) != 0, (flags & SHCONTF_NONFOLDERS) != 0};
     std::vector<Entry> entries;
     if (const int error = ReadDirectory(HostDirectory(place), wanted, entries)) {
         return ResultOf(error);
     }
     listing.reserve(listing.size() + entries.size());
     for (Entry& entry : entries) {
-        listing.push_back({entry.folder ? ItemKind::Folder : ItemKind::File, entry.hidden, std::move(entry.name)});
+        listing.push_back({entry.folder ? ItemKind::Folder : ItemKind::File, std::move(entry.name)});
     }
     return S_OK;
 }
@@ -41,14 +40,14 @@ HRESULT ListItems(const Place& place, SHCONTFLAGS flags, Listing& listing) {
     switch (place.kind) {
         case PlaceKind::Desktop:
             if (flags & SHCONTF_FOLDERS) {
-                listing.push_back({ItemKind::Computer, false, {}});
+                listing.push_back({ItemKind::Computer, {}});
             }
             // The desktop is there with or without files of its own.
             AddDirectory(place, flags, listing);
             return S_OK;
         case PlaceKind::Computer:
             for (const char letter : flags& SHCONTF_FOLDERS ? Drives() : std::vector<char>()) {
-                listing.push_back({ItemKind::Drive, false, std::string(1, letter)});
+                listing.push_back({ItemKind::Drive, std::string(1, letter)});
             }
             return S_OK;
         case PlaceKind::Drive:

@@ -11,11 +11,10 @@ namespace platform::shell {
 
 struct Listed {
     ItemKind kind;
-    bool hidden;
     std::string name;
 
     Item AsItem() const {
-        return {kind, hidden, name};
+        return {kind, name};
     }
 };
 using Listing = std::vector<Listed>;

@@ -43,21 +43,6 @@ class Counted : public Interface {
         return left;
     }
 
-  protected:
-    /// QueryInterface for an object that has IUnknown and one more interface.
-    HRESULT Answer(REFIID asked, REFIID own, void** object) {
-        if (!object) {
-            return E_POINTER;
-        }
-        if (asked != IID_IUnknown && asked != own) {
-            *object = nullptr;
-            return E_NOINTERFACE;
-        }
-        AddRef();
-        *object = static_cast<Interface*>(this);
-        return S_OK;
-    }
-
   private:
     std::atomic<ULONG> references_{1};
 };

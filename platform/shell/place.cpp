@@ -34,7 +34,7 @@ OwnedList ParsePath(Place folder, OwnedList list, std::string_view path) {
         if (name.empty() || !Exists(directory + '/' + name, isFolder)) {
             return nullptr;
         }
-        const Item item{isFolder ? ItemKind::Folder : ItemKind::File, name[0] == '.', name};
+        const Item item{isFolder ? ItemKind::Folder : ItemKind::File, name};
         list = JoinLists(list.get(), MakeItem(item).get());
         folder = *PlaceBelow(folder, item);
     }
@@ -53,12 +53,12 @@ OwnedList ParseDrive(const Place& computer, OwnedList list, std::string_view nam
     if (std::find(drives.begin(), drives.end(), letter) == drives.end()) {
         return nullptr;
     }
-    const Item item{ItemKind::Drive, false, std::string_view(&letter, 1)};
+    const Item item{ItemKind::Drive, std::string_view(&letter, 1)};
     return ParsePath(*PlaceBelow(computer, item), JoinLists(list.get(), MakeItem(item).get()), name.substr(2));
 }
 
 Place ComputerPlace() {
-    return {PlaceKind::Computer, {}, {}, false};
+    return {PlaceKind::Computer, {}, {}};
 }
 
 /// Where a drive lies, also one without a medium.
@@ -75,7 +75,7 @@ std::string HostDirectory(const Place& place) {
 }
 
 Place DesktopPlace() {
-    return {PlaceKind::Desktop, DriveHost('C') + "/WINDOWS/Desktop", "C:\\WINDOWS\\Desktop", false};
+    return {PlaceKind::Desktop, DriveHost('C') + "/WINDOWS/Desktop", "C:\\WINDOWS\\Desktop"};
 }
 
 std::optional<Place> PlaceBelow(const Place& folder, const Item& item) {
@@ -89,7 +89,7 @@ std::optional<Place> PlaceBelow(const Place& folder, const Item& item) {
             if (folder.kind != PlaceKind::Computer) {
                 return std::nullopt;
             }
-            return Place{PlaceKind::Drive, DriveHost(item.name[0]), std::string(item.name) + ":\\", false};
+            return Place{PlaceKind::Drive, DriveHost(item.name[0]), std::string(item.name) + ":\\"};
         }
         case ItemKind::Folder:
         case ItemKind::File:
@@ -98,7 +98,7 @@ std::optional<Place> PlaceBelow(const Place& folder, const Item& item) {
             }
             return Place{item.kind == ItemKind::Folder ? PlaceKind::Folder : PlaceKind::File,
                          folder.host + '/' + std::string(item.name),
-                         Joined(folder.path, kernel::AnsiFromUtf8(item.name)), item.hidden};
+                         Joined(folder.path, kernel::AnsiFromUtf8(item.name))};
         case ItemKind::None:
             break;
     }
@@ -119,7 +119,7 @@ OwnedList ParseName(const Place& folder, std::string_view name) {
         return IsDrivePath(name) ? ParseDrive(folder, std::move(none), name) : nullptr;
     }
     if (folder.kind == PlaceKind::Desktop) {
-        const Item computer{ItemKind::Computer, false, {}};
+        const Item computer{ItemKind::Computer, {}};
         if (name == kComputerClass) {
             return MakeItem(computer);
         }
@@ -153,28 +153,12 @@ std::string ParsingName(const Place& place) {
 }
 
 SFGAOF Attributes(const Place& place, SFGAOF asked) {
-    SFGAOF has = 0;
-    switch (place.kind) {
-        case PlaceKind::Desktop:
-        case PlaceKind::Computer:
-            return (SFGAO_FOLDER | SFGAO_FILESYSANCESTOR | SFGAO_HASSUBFOLDER | SFGAO_CANLINK) & asked;
-        case PlaceKind::Drive:
-            has = SFGAO_FOLDER | SFGAO_FILESYSTEM | SFGAO_FILESYSANCESTOR | SFGAO_CANLINK |
-                  (IsRemovable(place.path[0]) ? SFGAO_REMOVABLE : 0U);
-            break;
-        case PlaceKind::Folder:
-            has = SFGAO_FOLDER | SFGAO_FILESYSTEM | SFGAO_FILESYSANCESTOR | SFGAO_CANLINK;
-            break;
-        case PlaceKind::File:
-            has = SFGAO_FILESYSTEM | SFGAO_CANLINK;
-            break;
-    }
-    if (place.hidden) {
-        has |= SFGAO_HIDDEN;
-    }
+    const bool onDisk = place.kind != PlaceKind::Desktop && place.kind != PlaceKind::Computer;
     // Whether there is something in a removable drive is found out when it is opened.
+    const bool removable = place.kind == PlaceKind::Drive && IsRemovable(place.path[0]);
+    SFGAOF has = (place.IsFolder() ? SFGAO_FOLDER : 0U) | (onDisk ? SFGAO_FILESYSTEM : 0U);
     if ((asked & SFGAO_HASSUBFOLDER) && place.IsFolder() &&
-        ((has & SFGAO_REMOVABLE) || HasSubfolder(HostDirectory(place)))) {
+        (!onDisk || removable || HasSubfolder(HostDirectory(place)))) {
         has |= SFGAO_HASSUBFOLDER;
     }
     return has & asked;

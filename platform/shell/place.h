@@ -19,7 +19,6 @@ struct Place {
         host;  ///< no slash at its end, so that the host's root is empty; of the desktop the folder of its files
     std::string
         path;  ///< for programs, in the code page in use; drives end in a backslash. Empty: not of the file system
-    bool hidden = false;
 
     bool IsFolder() const {
         return kind != PlaceKind::File;

@@ -48,11 +48,12 @@ void Draw(Canvas const& canvas, HBITMAP bitmap) {
     DeleteObject(bitmap);
 }
 
-void LoadBitmaps(HINSTANCE instance, UINT flags) {
+void LoadBitmaps(HINSTANCE instance) {
     Canvas const canvas;
     Draw(canvas, LoadBitmapA(instance, MAKEINTRESOURCEA(1)));
     for (int const side : {0, 7}) {
-        Draw(canvas, static_cast<HBITMAP>(LoadImageA(instance, MAKEINTRESOURCEA(1), IMAGE_BITMAP, side, side, flags)));
+        Draw(canvas, static_cast<HBITMAP>(
+                         LoadImageA(instance, MAKEINTRESOURCEA(1), IMAGE_BITMAP, side, side, LR_DEFAULTCOLOR)));
     }
 }
 
@@ -85,8 +86,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     {
         fuzz::Module const module(file);
         if (bitmap) {
-            UINT const flags = how & 2 ? LR_CREATEDIBSECTION : LR_DEFAULTCOLOR;
-            LoadBitmaps(module.instance(), flags);
+            LoadBitmaps(module.instance());
         } else {
             LoadIcons(module.instance());
         }

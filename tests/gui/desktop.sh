@@ -259,6 +259,11 @@ xdotool key p
 wait_for "a popup" has_popup 300x200+600+300
 kill "$manager"
 wait "$manager" 2>/dev/null || true
+# The keyboard is nobody's then.
+read -r x y _ <<<"$(place_of Frame)"
+click $((x + 50)) $((y + 50))
+hears 'press 46 27'
+await_focus Frame
 xdotool key p
 wait_for "the end of the popup without the manager" has_no_popup 300x200+600+300
 

@@ -51,9 +51,6 @@ class HostWindow {
     bool IsFresh() const {
         return fresh;
     }
-    bool IsStale() const {
-        return exposed;
-    }
     const Pane& Shown() const {
         return pane;
     }

@@ -29,8 +29,6 @@ SDL_SystemCursor SystemCursor(unsigned idc) {
             return SDL_SYSTEM_CURSOR_IBEAM;
         case 32514:
             return SDL_SYSTEM_CURSOR_WAIT;
-        case 32515:
-            return SDL_SYSTEM_CURSOR_CROSSHAIR;
         case 32642:
             return SDL_SYSTEM_CURSOR_SIZENWSE;
         case 32643:
@@ -41,12 +39,6 @@ SDL_SystemCursor SystemCursor(unsigned idc) {
             return SDL_SYSTEM_CURSOR_SIZENS;
         case 32646:
             return SDL_SYSTEM_CURSOR_SIZEALL;
-        case 32648:
-            return SDL_SYSTEM_CURSOR_NO;
-        case 32649:
-            return SDL_SYSTEM_CURSOR_HAND;
-        case 32650:
-            return SDL_SYSTEM_CURSOR_WAITARROW;
         default:
             return SDL_SYSTEM_CURSOR_ARROW;
     }

@@ -8,23 +8,9 @@
 
 namespace platform::gdi {
 
-bool IsDepth(int bitsPerPixel) {
-    switch (bitsPerPixel) {
-        case 1:
-        case 4:
-        case 8:
-        case 24:
-        case 32:
-            return true;
-        default:
-            return false;
-    }
-}
-
 std::unique_ptr<Bitmap> NewBitmap(int width, int height, int bitsPerPixel) {
-    if (!IsDepth(bitsPerPixel) || width <= 0 || height <= 0) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return nullptr;
+    if (width <= 0 || height <= 0) {
+        return Fail(ERROR_INVALID_PARAMETER, nullptr);
     }
     const std::int64_t row = DwordRowBytes(width, bitsPerPixel);
     auto bitmap = FitsMemory(row, height) ? NewObject<Bitmap>() : nullptr;
@@ -64,16 +50,10 @@ HBITMAP WINAPI CreateBitmap(int width, int height, UINT planes, UINT bitsPerPixe
     if (width == 0 || height == 0) {
         return platform::base::ToHandle<HBITMAP>(Stock().defaultBitmap->handle);
     }
-    if (planes != 1 || bitsPerPixel == 0 || bitsPerPixel > 32 || height == INT32_MIN) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return nullptr;
+    if (planes != 1 || (bitsPerPixel != 1 && bitsPerPixel != 32) || height == INT32_MIN) {
+        return Fail(ERROR_INVALID_PARAMETER, nullptr);
     }
-    // A pixel takes what is needed for that many bits.
-    int depth = static_cast<int>(bitsPerPixel);
-    while (!IsDepth(depth)) {
-        ++depth;
-    }
-    auto bitmap = NewBitmap(width, std::abs(height), depth);
+    auto bitmap = NewBitmap(width, std::abs(height), static_cast<int>(bitsPerPixel));
     if (!bitmap) {
         return nullptr;
     }
@@ -85,8 +65,7 @@ HBITMAP WINAPI CreateBitmap(int width, int height, UINT planes, UINT bitsPerPixe
 
 HBITMAP WINAPI CreateBitmapIndirect(const BITMAP* bitmap) {
     if (!bitmap || bitmap->bmType != 0) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return nullptr;
+        return Fail(ERROR_INVALID_PARAMETER, nullptr);
     }
     return CreateBitmap(bitmap->bmWidth, bitmap->bmHeight, bitmap->bmPlanes, bitmap->bmBitsPixel, bitmap->bmBits);
 }
@@ -100,23 +79,5 @@ HBITMAP WINAPI CreateCompatibleBitmap(HDC handle, int width, int height) {
         return platform::base::ToHandle<HBITMAP>(Stock().defaultBitmap->handle);
     }
     auto bitmap = NewBitmap(width, height, context->surface.bitsPerPixel);
-    if (!bitmap) {
-        return nullptr;
-    }
-    // Like the section that is selected: the same format and colours.
-    if (context->state.bitmap && context->state.bitmap->section) {
-        const Bitmap& model = *context->state.bitmap;
-        bitmap->section = true;
-        if (model.palette) {
-            const auto size = static_cast<std::size_t>(model.paletteSize);
-            bitmap->palette.reset(new (std::nothrow) std::uint32_t[size]);
-            if (!bitmap->palette) {
-                SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-                return nullptr;
-            }
-            std::copy_n(model.palette.get(), size, bitmap->palette.get());
-            bitmap->paletteSize = model.paletteSize;
-        }
-    }
-    return FileObject<HBITMAP>(std::move(bitmap));
+    return bitmap ? FileObject<HBITMAP>(std::move(bitmap)) : nullptr;
 }

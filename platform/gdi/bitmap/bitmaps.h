@@ -10,11 +10,8 @@
 
 namespace platform::gdi {
 
-/// @returns whether there are bitmaps with so many bits a pixel.
-bool IsDepth(int bitsPerPixel);
-
-/// @returns a bitmap of zeroes with rows of multiples of four bytes; null, with the error set, for a bad size or
-/// format.
+/// @returns a bitmap of zeroes with rows of multiples of four bytes, and one bit a pixel or 32; null, with the error set,
+/// for a bad size.
 std::unique_ptr<Bitmap> NewBitmap(int width, int height, int bitsPerPixel);
 
 /// A device-independent bitmap's header, checked.
@@ -24,10 +21,8 @@ struct DibLayout {
     bool topDown = false;
     int bitsPerPixel = 0;
     std::size_t rowBytes = 0;
-    std::size_t headerBytes = 0;
-    std::size_t paletteBytes = 0;  ///< the colours that follow
+    std::size_t headerBytes = 0;  ///< with the colours that follow
     std::array<std::uint32_t, 256> palette{};
-    int paletteSize = 0;
 
     /// @returns a view of `lines` rows, which lie in memory as the header says.
     Surface View(const void* bits, int lines) const;
@@ -36,13 +31,11 @@ struct DibLayout {
     }
 };
 
-/// Reads a header (both kinds) and, where colours are asked for, the palette. @returns nothing for a format that is not
-/// supported. `room` is how many bytes may be read; 0 when the caller vouches for them.
-std::optional<DibLayout> ReadLayout(const void* info, UINT usage, bool colours, std::size_t room = 0);
+/// Reads a header and its palette. @returns nothing for a format that is not supported, and for a palette that ends beyond
+/// the bytes that may be read (`room`).
+std::optional<DibLayout> ReadLayout(const void* info, std::size_t room);
 
-/// Fills a bitmap with the pixels of a device-independent one.
-bool SetBits(HBITMAP bitmap, const void* bits, const BITMAPINFO* info);
-/// Draws the pixels of a device-independent bitmap, stretched to the place.
+/// Draws the pixels of a device-independent bitmap without a palette, stretched to the place.
 bool StretchBits(HDC context, const RECT& place, const void* bits, const BITMAPINFO* info, DWORD operation);
 
 }  // namespace platform::gdi

@@ -5,36 +5,17 @@
 
 namespace platform::gdi {
 
-namespace {
-
-bool SamePalette(const Surface& a, const Surface& b) {
-    return a.bitsPerPixel == b.bitsPerPixel && a.monochrome == b.monochrome &&
-           (a.monochrome || a.palette == b.palette ||
-            (a.paletteSize == b.paletteSize &&
-             std::memcmp(a.palette, b.palette, static_cast<std::size_t>(a.paletteSize) * sizeof(*a.palette)) == 0));
-}
-
-}  // namespace
-
-Converter::Converter(const Surface& from, const Surface& to, const MonoColours& colours) : to_(to) {
-    if (from.Indexed()) {
-        if (SamePalette(from, to)) {
-            return;
-        }
+Converter::Converter(const Surface& from, const Surface& to, const MonoColours& colours) {
+    const std::uint32_t match = PixelOf(colours.match);
+    if (!from.Indexed()) {
+        kind_ = to.monochrome ? Kind::Match : Kind::Same;
+        match_ = match;
+    } else if (!from.monochrome || !to.monochrome) {
         kind_ = Kind::Table;
-        const std::uint32_t match = PixelOf(colours.match);
         for (std::uint32_t i = 0; i < 1u << from.bitsPerPixel; ++i) {
-            std::uint32_t pixel = ShownColour(from, i);
-            if (from.monochrome) {
-                pixel = PixelOf(i ? colours.one : colours.zero);
-            }
-            table_[i] = to.monochrome ? pixel == match : NativeColour(to, pixel);
+            const std::uint32_t pixel = !from.monochrome ? from.palette[i] : PixelOf(i ? colours.one : colours.zero);
+            table_[i] = to.monochrome ? pixel == match : pixel;
         }
-    } else if (to.monochrome) {
-        kind_ = Kind::Match;
-        match_ = NativeColour(from, PixelOf(colours.match));
-    } else if (to.Indexed()) {
-        kind_ = Kind::Nearest;
     }
 }
 
@@ -52,16 +33,6 @@ void Converter::Convert(std::uint32_t* values, int count) {
                 values[i] = (values[i] & 0x00FFFFFF) == match_;
             }
             break;
-        case Kind::Nearest:
-            for (int i = 0; i < count; ++i) {
-                const std::uint32_t pixel = values[i] & 0x00FFFFFF;
-                if (pixel != lastPixel_) {
-                    lastPixel_ = pixel;
-                    lastIndex_ = NativeColour(to_, pixel);
-                }
-                values[i] = lastIndex_;
-            }
-            break;
     }
 }
 
@@ -73,84 +44,49 @@ void BufferRows::Read(int x, int y, int count, std::uint32_t* out) {
 
 namespace {
 
-/// The source pixels, from `first` to before `last`, that one target pixel stands for along an axis.
+/// The source pixels, from `first` to before `last`, that one target pixel is made of along an axis.
 struct Slice {
     int first;
     int last;
 };
 
 std::vector<Slice> Slices(int sourceFrom, int sourceSize, int targetFrom, int targetSize, int partFrom, int partTo,
-                          bool mirror, int limit) {
+                          Shrink shrink, int limit) {
     std::vector<Slice> slices;
     slices.reserve(static_cast<std::size_t>(partTo - partFrom));
     for (int i = partFrom; i < partTo; ++i) {
-        int at = i - targetFrom;
-        if (mirror) {
-            at = targetSize - 1 - at;
-        }
+        const int at = i - targetFrom;
         const auto begin = static_cast<int>(std::int64_t{at} * sourceSize / targetSize);
         const auto end = static_cast<int>((std::int64_t{at} + 1) * sourceSize / targetSize);
         const int first = std::clamp(sourceFrom + begin, 0, limit - 1);
-        slices.push_back({first, std::clamp(sourceFrom + std::max(end, begin + 1), first + 1, limit)});
+        const int last = std::clamp(sourceFrom + std::max(end, begin + 1), first + 1, limit);
+        slices.push_back({first, shrink == Shrink::TakeFirst ? first + 1 : last});
     }
     return slices;
 }
 
-/// Several source pixels made one.
-class Mixture {
-  public:
-    explicit Mixture(int mode) : mode_(mode) {}
-    bool UsesFirstOnly() const {
-        return mode_ == COLORONCOLOR;
-    }
-    void Add(std::uint32_t value) {
-        if (count_++ == 0) {
-            bits_ = value;
-        } else if (mode_ == BLACKONWHITE) {
-            bits_ &= value;
-        }
-    }
-    std::uint32_t Take() const {
-        return bits_;
-    }
-
-  private:
-    int mode_;
-    std::uint32_t count_ = 0;
-    std::uint32_t bits_ = 0;
-};
-
 }  // namespace
 
 std::vector<std::uint32_t> Stretched(const Surface& from, const RECT& source, const RECT& target, const RECT& part,
-                                     bool mirrorX, bool mirrorY, int mode, const Surface& to,
-                                     const MonoColours& colours) {
+                                     Shrink shrink, const Surface& to, const MonoColours& colours) {
     const auto columns = Slices(source.left, source.right - source.left, target.left, target.right - target.left,
-                                part.left, part.right, mirrorX, from.width);
+                                part.left, part.right, shrink, from.width);
     const auto rows = Slices(source.top, source.bottom - source.top, target.top, target.bottom - target.top, part.top,
-                             part.bottom, mirrorY, from.height);
+                             part.bottom, shrink, from.height);
     Converter converter(from, to, colours);
-    std::vector<std::uint32_t> values(columns.size() * rows.size());
-    std::vector<std::uint32_t> line(static_cast<std::size_t>(from.width));
-    const Mixture mixture(mode);
-    const int firstColumn = std::min(columns.front().first, columns.back().first);
-    const int lastColumn = std::max(columns.front().last, columns.back().last);
-    std::vector<Mixture> sums;
+    std::vector<std::uint32_t> values(columns.size() * rows.size(), ~std::uint32_t{0});
+    const int firstColumn = columns.front().first;
+    const int lastColumn = columns.back().last;
+    std::vector<std::uint32_t> line(static_cast<std::size_t>(lastColumn - firstColumn));
     std::uint32_t* out = values.data();
-    for (std::size_t y = 0; y < rows.size(); ++y) {
-        sums.assign(columns.size(), mixture);
-        const int last = mixture.UsesFirstOnly() ? rows[y].first + 1 : rows[y].last;
-        for (int row = rows[y].first; row < last; ++row) {
+    for (const Slice& each : rows) {
+        for (int row = each.first; row < each.last; ++row) {
             ReadRow(from, firstColumn, row, lastColumn - firstColumn, line.data());
             for (std::size_t x = 0; x < columns.size(); ++x) {
-                const int end = mixture.UsesFirstOnly() ? columns[x].first + 1 : columns[x].last;
-                for (int column = columns[x].first; column < end; ++column) {
-                    sums[x].Add(line[static_cast<std::size_t>(column - firstColumn)]);
+                for (int column = columns[x].first; column < columns[x].last; ++column) {
+                    out[x] &= line[static_cast<std::size_t>(column - firstColumn)];
                 }
             }
-        }
-        for (std::size_t x = 0; x < columns.size(); ++x) {
-            out[x] = sums[x].Take();
         }
         converter.Convert(out, static_cast<int>(columns.size()));
         out += columns.size();

@@ -28,13 +28,10 @@ class Converter {
     void Convert(std::uint32_t* values, int count);
 
   private:
-    enum class Kind { Same, Table, Match, Nearest };
+    enum class Kind { Same, Table, Match };
     Kind kind_ = Kind::Same;
     std::array<std::uint32_t, 256> table_;
     std::uint32_t match_ = 0;
-    Surface to_;
-    std::uint32_t lastPixel_ = 0xFFFFFFFF;
-    std::uint32_t lastIndex_ = 0;
 };
 
 /// Rows of a surface, moved by an offset.
@@ -68,15 +65,16 @@ class BufferRows : public RowSource {
     std::vector<std::uint32_t> values_;
 };
 
-/// Shrinks or grows part of a surface (sizes may be negative: mirrored) into the pixels of `part`, which lies inside
-/// `target`.
+/// What several source pixels become where a picture shrinks: those bits that all of them have, or the first of them.
+enum class Shrink { Mix, TakeFirst };
+
+/// Shrinks or grows part of a surface into the pixels of `part`, which lies inside `target`.
 /// @returns native values of `to`, row by row.
 std::vector<std::uint32_t> Stretched(const Surface& from, const RECT& source, const RECT& target, const RECT& part,
-                                     bool mirrorX, bool mirrorY, int mode, const Surface& to,
-                                     const MonoColours& colours);
+                                     Shrink shrink, const Surface& to, const MonoColours& colours);
 
 /// Draws part of a surface into a rectangle of a context (surface coordinates), stretched where the sizes differ.
-void DrawSurface(DeviceContext& context, const RECT& target, const Surface& from, const RECT& source, bool mirrorX,
-                 bool mirrorY, Operation operation, const MonoColours& colours);
+void DrawSurface(DeviceContext& context, const RECT& target, const Surface& from, const RECT& source, Shrink shrink,
+                 Operation operation, const MonoColours& colours);
 
 }  // namespace platform::gdi

@@ -17,14 +17,6 @@ Value Exchange(HDC handle, Value DrawState::*member, Value value, Value failure)
     return previous;
 }
 
-int ExchangeMode(HDC handle, int DrawState::*member, int value, int lowest, int highest) {
-    if (value < lowest || value > highest) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return 0;
-    }
-    return Exchange(handle, member, value, 0);
-}
-
 template <class Value>
 Value Get(HDC handle, Value DrawState::*member, Value failure) {
     const auto* context = FindObject<DeviceContext>(handle);
@@ -42,7 +34,10 @@ COLORREF WINAPI GetBkColor(HDC context) {
 }
 
 int WINAPI SetBkMode(HDC context, int mode) {
-    return ExchangeMode(context, &DrawState::backMode, mode, TRANSPARENT, OPAQUE);
+    if (mode != TRANSPARENT && mode != OPAQUE) {
+        return Fail(ERROR_INVALID_PARAMETER, 0);
+    }
+    return Exchange(context, &DrawState::backMode, mode, 0);
 }
 
 int WINAPI GetBkMode(HDC context) {
@@ -55,10 +50,6 @@ COLORREF WINAPI SetTextColor(HDC context, COLORREF colour) {
 
 COLORREF WINAPI GetTextColor(HDC context) {
     return Get(context, &DrawState::textColour, COLORREF{CLR_INVALID});
-}
-
-int WINAPI SetStretchBltMode(HDC context, int mode) {
-    return ExchangeMode(context, &DrawState::stretchMode, mode, BLACKONWHITE, COLORONCOLOR);
 }
 
 BOOL WINAPI GdiFlush(void) {

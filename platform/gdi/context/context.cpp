@@ -87,8 +87,7 @@ HDC FileContext(std::unique_ptr<DeviceContext> context) {
     context->handle = base::InsertHandle(DeviceContext::kKind, context.get());
     if (!context->handle) {
         DropAll(context->state);
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return nullptr;
+        return Fail(ERROR_NOT_ENOUGH_MEMORY, nullptr);
     }
     return base::ToHandle<HDC>(context.release()->handle);
 }
@@ -142,10 +141,9 @@ void DeviceContext::Drawn(const RECT& rect) const {
 }
 
 HDC CreateScreenContext(POINT origin, const Region& visible) {
-    auto context = std::unique_ptr<DeviceContext>(new (std::nothrow) DeviceContext);
+    auto context = NewObject<DeviceContext>();
     if (!context) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return nullptr;
+        return Fail(ERROR_NOT_ENOUGH_MEMORY, nullptr);
     }
     UseScreen(*context, origin, visible);
     context->windowContext = true;
@@ -218,12 +216,8 @@ HDC WINAPI CreateCompatibleDC(HDC context) {
     if (context && !FindObject<DeviceContext>(context)) {
         return nullptr;
     }
-    auto memory = std::unique_ptr<DeviceContext>(new (std::nothrow) DeviceContext);
-    if (!memory) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return nullptr;
-    }
-    return FileContext(std::move(memory));
+    auto memory = NewObject<DeviceContext>();
+    return memory ? FileContext(std::move(memory)) : Fail(ERROR_NOT_ENOUGH_MEMORY, HDC{});
 }
 
 BOOL WINAPI DeleteDC(HDC handle) {
@@ -257,10 +251,6 @@ HGDIOBJ WINAPI SelectObject(HDC handle, HGDIOBJ object) {
             if (context->screen || !bitmap || (bitmap->context && bitmap->context != context)) {
                 return nullptr;
             }
-            // Besides the screen's own format only monochrome: another one is no bitmap of this device.
-            if (!bitmap->section && bitmap->bitsPerPixel != 1 && bitmap->bitsPerPixel != 32) {
-                return nullptr;
-            }
             Bitmap* previous = context->state.bitmap;
             const HGDIOBJ result = Replace(context->state.bitmap, bitmap);
             if (previous->selected.load(std::memory_order_relaxed) <= 0) {
@@ -271,8 +261,7 @@ HGDIOBJ WINAPI SelectObject(HDC handle, HGDIOBJ object) {
             return result;
         }
         default:
-            SetLastError(ERROR_INVALID_HANDLE);
-            return nullptr;
+            return Fail(ERROR_INVALID_HANDLE, nullptr);
     }
 }
 
@@ -296,8 +285,7 @@ BOOL WINAPI RestoreDC(HDC handle, int saved) {
     const int depth = static_cast<int>(context->saved.size());
     const int level = saved < 0 ? depth + 1 + saved : saved;
     if (level < 1 || level > depth) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return FALSE;
+        return Fail(ERROR_INVALID_PARAMETER, FALSE);
     }
     DropAll(context->state);
     while (static_cast<int>(context->saved.size()) > level) {

@@ -32,7 +32,6 @@ struct DrawState {
     COLORREF textColour = RGB(0, 0, 0);
     COLORREF backColour = RGB(255, 255, 255);
     int backMode = OPAQUE;
-    int stretchMode = BLACKONWHITE;
     POINT position{};
     std::optional<Region> clip;  ///< device coordinates
 };

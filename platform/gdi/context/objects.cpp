@@ -21,11 +21,7 @@ Surface Bitmap::View() const {
     surface.width = width;
     surface.height = height;
     surface.bitsPerPixel = bitsPerPixel;
-    surface.monochrome = bitsPerPixel == 1 && !section;
-    if (bitsPerPixel <= 8) {
-        surface.palette = palette ? palette.get() : DefaultPalette(bitsPerPixel);
-        surface.paletteSize = palette ? paletteSize : 1 << bitsPerPixel;
-    }
+    surface.monochrome = bitsPerPixel == 1;
     const auto stride = static_cast<std::ptrdiff_t>(rowBytes);
     surface.bits = topDown || !bits ? bits : bits + stride * (height - 1);
     surface.stride = topDown ? stride : -stride;
@@ -75,20 +71,14 @@ struct StockTable {
 
     StockTable() {
         objects[WHITE_BRUSH] = MakeStock<Brush>(FillBrush<BS_SOLID, 0xFFFFFF>);
-        objects[LTGRAY_BRUSH] = MakeStock<Brush>(FillBrush<BS_SOLID, 0xC0C0C0>);
-        objects[GRAY_BRUSH] = MakeStock<Brush>(FillBrush<BS_SOLID, 0x808080>);
-        objects[DKGRAY_BRUSH] = MakeStock<Brush>(FillBrush<BS_SOLID, 0x404040>);
         objects[BLACK_BRUSH] = MakeStock<Brush>(FillBrush<BS_SOLID, 0x000000>);
         objects[NULL_BRUSH] = MakeStock<Brush>(FillBrush<BS_NULL, 0>);
         objects[WHITE_PEN] = MakeStock<Pen>(FillPen<PS_SOLID, 0xFFFFFF>);
         objects[BLACK_PEN] = MakeStock<Pen>(FillPen<PS_SOLID, 0x000000>);
         objects[NULL_PEN] = MakeStock<Pen>(FillPen<PS_NULL, 0>);
-        objects[OEM_FIXED_FONT] = StockFont("Terminal", 12, FW_NORMAL, FIXED_PITCH | FF_MODERN);
         objects[ANSI_FIXED_FONT] = StockFont("Courier", 12, FW_NORMAL, FIXED_PITCH | FF_MODERN);
         objects[ANSI_VAR_FONT] = StockFont("MS Sans Serif", 12, FW_NORMAL, VARIABLE_PITCH | FF_SWISS);
         objects[SYSTEM_FONT] = StockFont("System", 16, FW_BOLD, VARIABLE_PITCH | FF_SWISS);
-        objects[DEVICE_DEFAULT_FONT] = StockFont("System", 16, FW_BOLD, VARIABLE_PITCH | FF_SWISS);
-        objects[SYSTEM_FIXED_FONT] = StockFont("Fixedsys", 16, FW_NORMAL, FIXED_PITCH | FF_MODERN);
         objects[DEFAULT_GUI_FONT] = StockFont("MS Shell Dlg", -11, FW_NORMAL, VARIABLE_PITCH | FF_SWISS);
         static std::uint32_t onePixel = 0;
         inside.defaultBitmap = MakeStock<Bitmap>([](Bitmap& bitmap) {
@@ -125,40 +115,21 @@ BOOL DeleteKind(HGDIOBJ handle) {
     return TRUE;
 }
 
-/// GetObjectA's habit: without a buffer the size that is needed, else as much as fits or nothing.
-int CopyOut(const void* data, std::size_t size, int room, LPVOID buffer) {
-    if (!buffer) {
-        return static_cast<int>(size);
-    }
-    if (room < static_cast<int>(size)) {
-        return 0;
-    }
-    std::memcpy(buffer, data, size);
-    return static_cast<int>(size);
-}
-
 int DescribeBitmap(const Bitmap& bitmap, int room, LPVOID buffer) {
     BITMAP plain{};
     plain.bmWidth = bitmap.width;
     plain.bmHeight = bitmap.height;
-    plain.bmWidthBytes = static_cast<LONG>(bitmap.section ? DwordRowBytes(bitmap.width, bitmap.bitsPerPixel)
-                                                          : WordRowBytes(bitmap.width, bitmap.bitsPerPixel));
+    plain.bmWidthBytes = static_cast<LONG>(WordRowBytes(bitmap.width, bitmap.bitsPerPixel));
     plain.bmPlanes = 1;
     plain.bmBitsPixel = static_cast<WORD>(bitmap.bitsPerPixel);
-    plain.bmBits = bitmap.section ? bitmap.bits : nullptr;
-    if (!bitmap.section || !buffer || room < static_cast<int>(sizeof(DIBSECTION))) {
-        return CopyOut(&plain, sizeof(plain), room, buffer);
+    // Without a buffer only the size that it needs is told.
+    if (buffer && room < static_cast<int>(sizeof plain)) {
+        return 0;
     }
-    DIBSECTION section{};
-    section.dsBm = plain;
-    section.dsBmih.biSize = sizeof(BITMAPINFOHEADER);
-    section.dsBmih.biWidth = bitmap.width;
-    section.dsBmih.biHeight = bitmap.topDown ? -bitmap.height : bitmap.height;
-    section.dsBmih.biPlanes = 1;
-    section.dsBmih.biBitCount = plain.bmBitsPixel;
-    section.dsBmih.biSizeImage = static_cast<DWORD>(bitmap.Bytes());
-    section.dsBmih.biClrUsed = static_cast<DWORD>(bitmap.palette ? bitmap.paletteSize : 0);
-    return CopyOut(&section, sizeof(section), room, buffer);
+    if (buffer) {
+        std::memcpy(buffer, &plain, sizeof plain);
+    }
+    return sizeof plain;
 }
 
 }  // namespace
@@ -221,51 +192,26 @@ BOOL WINAPI DeleteObject(HGDIOBJ handle) {
         case HandleKind::DeviceContext:
             return DeleteDC(static_cast<HDC>(handle));
         default:
-            SetLastError(ERROR_INVALID_HANDLE);
-            return FALSE;
+            return Fail(ERROR_INVALID_HANDLE, FALSE);
     }
 }
 
 int WINAPI GetObjectA(HANDLE handle, int size, LPVOID buffer) {
     switch (platform::base::KindOfHandle(platform::base::ToNumber(handle))) {
-        case HandleKind::Pen: {
-            const auto* pen = FindObject<Pen>(handle);
-            if (!pen) {
-                return 0;
-            }
-            const LOGPEN logical{pen->style, {pen->width, 0}, pen->colour};
-            return CopyOut(&logical, sizeof(logical), size, buffer);
-        }
-        case HandleKind::Brush: {
-            const auto* brush = FindObject<Brush>(handle);
-            if (!brush) {
-                return 0;
-            }
-            const LOGBRUSH logical{brush->style, brush->colour, 0};
-            return CopyOut(&logical, sizeof(logical), size, buffer);
-        }
         case HandleKind::Font: {
-            const auto* font = FindObject<Font>(handle);
-            if (!font) {
-                return 0;
-            }
-            if (!buffer) {
-                return sizeof(LOGFONTA);
-            }
             // Callers may ask for the leading part only.
-            const int part = size < static_cast<int>(sizeof(LOGFONTA)) ? size : static_cast<int>(sizeof(LOGFONTA));
-            if (part <= 0) {
-                return 0;
+            const auto* font = FindObject<Font>(handle);
+            const int part = buffer ? std::clamp(size, 0, static_cast<int>(sizeof(LOGFONTA))) : sizeof(LOGFONTA);
+            if (font && buffer) {
+                std::memcpy(buffer, &font->logical, static_cast<std::size_t>(part));
             }
-            std::memcpy(buffer, &font->logical, static_cast<std::size_t>(part));
-            return part;
+            return font ? part : 0;
         }
         case HandleKind::Bitmap: {
             const auto* bitmap = FindObject<Bitmap>(handle);
             return bitmap ? DescribeBitmap(*bitmap, size, buffer) : 0;
         }
         default:
-            SetLastError(ERROR_INVALID_HANDLE);
-            return 0;
+            return Fail(ERROR_INVALID_HANDLE, 0);
     }
 }

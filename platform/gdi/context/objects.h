@@ -10,11 +10,16 @@
 #include <memory>
 #include <new>
 
+#include "base/fail.h"
 #include "base/handle.h"
 #include "gdi/surface/region.h"
 #include "gdi/surface/surface.h"
+#include "kernel/guarded.h"
 
 namespace platform::gdi {
+
+using base::Fail;
+using kernel::Guarded;
 
 class RealizedFont;
 struct DeviceContext;
@@ -28,7 +33,6 @@ struct Object {
 struct Pen : Object {
     static constexpr base::HandleKind kKind = base::HandleKind::Pen;
     UINT style = PS_SOLID;
-    int width = 1;
     COLORREF colour = 0;
 };
 
@@ -55,19 +59,13 @@ struct Bitmap : Object {
     int width = 0;
     int height = 0;
     int bitsPerPixel = 0;
-    bool section = false;  ///< a device-independent bitmap whose bits the application sees
     bool topDown = true;
     bool sharedBits = false;  ///< the bits belong to somebody else
     std::size_t rowBytes = 0;
-    std::byte* bits = nullptr;  ///< the first row in memory
-    std::unique_ptr<std::uint32_t[]> palette;
-    int paletteSize = 0;
+    std::byte* bits = nullptr;         ///< the first row in memory
     DeviceContext* context = nullptr;  ///< the one context that it is selected into
 
     Surface View() const;
-    std::size_t Bytes() const {
-        return rowBytes * static_cast<std::size_t>(height);
-    }
 };
 
 /// @returns the object of a handle; null, with ERROR_INVALID_HANDLE set, when it is stale or of another kind.
@@ -89,8 +87,7 @@ Handle FileObject(std::unique_ptr<Kind> object) {
             return base::ToHandle<Handle>(object.release()->handle);
         }
     }
-    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-    return nullptr;
+    return Fail(ERROR_NOT_ENOUGH_MEMORY, nullptr);
 }
 
 template <class Kind>
@@ -116,16 +113,5 @@ void RecolourBrush(HBRUSH brush, COLORREF colour);
 /// Counts one more stock object of a kind.
 void NoteStock(Object* object);
 std::size_t StockCount();
-
-/// A call that the allocator may fail: nothing is thrown, the documented neutral result comes back.
-template <class Result, class Work>
-Result Guarded(Result failure, Work&& work) noexcept {
-    try {
-        return work();
-    } catch (const std::bad_alloc&) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return failure;
-    }
-}
 
 }  // namespace platform::gdi

@@ -38,11 +38,10 @@ HBRUSH MakePatternBrush(HBITMAP pattern) {
 
 using namespace platform::gdi;
 
-HPEN WINAPI CreatePen(int style, int width, COLORREF colour) {
+HPEN WINAPI CreatePen(int style, int, COLORREF colour) {
     auto pen = NewObject<Pen>();
     if (pen) {
         pen->style = style == PS_NULL ? UINT{PS_NULL} : UINT{PS_SOLID};
-        pen->width = width < 0 ? -width : width;
         pen->colour = colour & 0x00FFFFFF;
     }
     return FileObject<HPEN>(std::move(pen));

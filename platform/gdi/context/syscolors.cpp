@@ -63,8 +63,7 @@ HBRUSH WINAPI GetSysColorBrush(int index) {
 
 BOOL WINAPI SetSysColors(int count, const INT* elements, const COLORREF* colours) {
     if (count < 0 || (count > 0 && (!elements || !colours))) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return FALSE;
+        return Fail(ERROR_INVALID_PARAMETER, FALSE);
     }
     {
         const ScreenGuard guard(ScreenLock());

@@ -1,83 +1,88 @@
 // Filled figures: the interior with the brush, the border with the pen.
 #include <algorithm>
+#include <cmath>
+#include <vector>
 
 #include "gdi/shape/lines.h"
 #include "gdi/context/raster.h"
-#include "gdi/shape/shapes.h"
 
 using namespace platform::gdi;
 
 namespace {
 
-RECT Ordered(const RECT& rect) {
-    return {std::min(rect.left, rect.right), std::min(rect.top, rect.bottom), std::max(rect.left, rect.right),
-            std::max(rect.top, rect.bottom)};
+// Half the width of an ellipse's row, in pixels from the middle; `row` counts from the top of a box `height` high.
+double HalfWidth(double width, double height, int row) {
+    const double y = (row + 0.5 - height / 2) / (height / 2);
+    const double rest = 1 - y * y;
+    return rest <= 0 ? 0 : width / 2 * std::sqrt(rest);
 }
 
-/// Where the outer edge of a figure's border runs: a wide pen straddles the edge, and without a
-/// pen the figure is a pixel smaller.
-RECT OuterEdge(const DeviceContext& context, const Stroke& stroke, const RECT& logical) {
-    RECT rect = context.ToSurface(Ordered(logical));
-    if (stroke.None()) {
-        --rect.right;
-        --rect.bottom;
-    } else if (stroke.Width() > 1) {
-        const int before = stroke.Width() / 2;
-        const int after = (stroke.Width() - 1) / 2;
-        rect = {rect.left - before, rect.top - before, rect.right + after, rect.bottom + after};
+/// The ellipse that touches the sides of a rectangle (right and bottom excluded). A pixel belongs to it when its centre
+/// does.
+Region EllipseArea(const RECT& rect) {
+    const int width = rect.right - rect.left;
+    const int height = rect.bottom - rect.top;
+    if (width < 2 || height < 2) {
+        return Region(rect);
     }
-    return rect;
-}
-
-void PaintFigure(DeviceContext& context, const Stroke& stroke, const Region& outer) {
-    const Ink brush = InkOf(context, *context.state.brush);
-    const Region inner = stroke.None() ? outer : Eroded(outer, stroke.Width());
-    if (!brush.none) {
-        Combine(context, inner, kCopyPattern, &brush);
-    }
-    if (!stroke.None()) {
-        Region border(outer);
-        border.Subtract(inner);
-        Combine(context, border, kCopyPattern, &stroke.PenInk());
-    }
-}
-
-}  // namespace
-
-BOOL WINAPI Rectangle(HDC handle, int left, int top, int right, int bottom) {
-    const Drawing drawing(handle);
-    if (!drawing) {
-        return FALSE;
-    }
-    return Guarded(FALSE, [&] {
-        Stroke stroke(*drawing);
-        const RECT rect = OuterEdge(*drawing, stroke, {left, top, right, bottom});
-        if (rect.left >= rect.right || rect.top >= rect.bottom) {
-            return TRUE;
+    std::vector<RECT> rows;
+    for (int y = 0; y < height; ++y) {
+        // The lower half mirrors the upper one.
+        const int row = std::min(y, height - 1 - y);
+        const bool middle = 2 * row + 1 == height;
+        const int inset = middle ? 0 : static_cast<int>(std::lround(width / 2.0 - HalfWidth(width, height, row)));
+        if (2 * inset < width) {
+            rows.push_back({rect.left + inset, rect.top + y, rect.right - inset, rect.top + y + 1});
         }
-        const int width = stroke.None() ? 0 : stroke.Width();
-        const RECT inner{rect.left + width, rect.top + width, rect.right - width, rect.bottom - width};
-        Region border(rect);
-        border.Subtract(inner);
-        const Ink brush = InkOf(*drawing, *drawing->state.brush);
-        if (!brush.none) {
-            Combine(*drawing, inner, kCopyPattern, &brush);
-        }
-        if (width > 0) {
-            Combine(*drawing, border, kCopyPattern, &stroke.PenInk());
-        }
-        return TRUE;
-    });
+    }
+    return Region(std::span<const RECT>(rows));
 }
 
-BOOL WINAPI Ellipse(HDC handle, int left, int top, int right, int bottom) {
+/// What is left of an area without the pixels that have a neighbour outside of it (left, right, above or below).
+Region Inside(const Region& area) {
+    Region rest(area);
+    for (const POINT& shift : {POINT{1, 0}, POINT{-1, 0}, POINT{0, 1}, POINT{0, -1}}) {
+        Region moved(area);
+        moved.Offset(shift.x, shift.y);
+        rest.Intersect(moved);
+    }
+    return rest;
+}
+
+/// areaIn makes the figure's area out of the rectangle that it fills.
+BOOL Draw(HDC handle, const RECT& given, Region (*areaIn)(const RECT& rect)) {
     const Drawing drawing(handle);
     if (!drawing) {
         return FALSE;
     }
     return Guarded(FALSE, [&] {
         const Stroke stroke(*drawing);
-        PaintFigure(*drawing, stroke, EllipseArea(OuterEdge(*drawing, stroke, {left, top, right, bottom})));
+        RECT rect = drawing->ToSurface(RECT{std::min(given.left, given.right), std::min(given.top, given.bottom),
+                                            std::max(given.left, given.right), std::max(given.top, given.bottom)});
+        // Without a pen the figure is a pixel smaller.
+        rect.right -= stroke.None();
+        rect.bottom -= stroke.None();
+        const Region outer = areaIn(rect);
+        const Region inner = stroke.None() ? outer : Inside(outer);
+        const Ink brush = InkOf(*drawing, *drawing->state.brush);
+        if (!brush.none) {
+            Combine(*drawing, inner, kCopyPattern, &brush);
+        }
+        if (!stroke.None()) {
+            Region border(outer);
+            border.Subtract(inner);
+            Combine(*drawing, border, kCopyPattern, &stroke.PenInk());
+        }
         return TRUE;
     });
+}
+
+}  // namespace
+
+BOOL WINAPI Rectangle(HDC handle, int left, int top, int right, int bottom) {
+    return Draw(handle, {left, top, right, bottom}, [](const RECT& rect) { return Region(rect); });
+}
+
+BOOL WINAPI Ellipse(HDC handle, int left, int top, int right, int bottom) {
+    return Draw(handle, {left, top, right, bottom}, EllipseArea);
 }

@@ -59,21 +59,11 @@ void DrawInked(UINT state, Draw&& draw) {
     }
 }
 
-UINT StyleFlags(UINT state) {
-    return state & DFCS_FLAT ? BF_FLAT : 0u;
+void PushFrame(SystemPainter& painter, RECT rect, UINT state) {
+    PaintEdge(painter, rect, state & DFCS_PUSHED ? EDGE_SUNKEN : EDGE_RAISED, BF_RECT | BF_SOFT | BF_MIDDLE);
 }
 
-RECT PushFrame(SystemPainter& painter, const RECT& rect, UINT state) {
-    RECT inside = rect;
-    const UINT edge = state & (DFCS_PUSHED | DFCS_CHECKED) ? EDGE_SUNKEN : EDGE_RAISED;
-    PaintEdge(painter, inside, edge, BF_RECT | BF_SOFT | BF_MIDDLE | BF_ADJUST | StyleFlags(state));
-    if (state & DFCS_CHECKED && !(state & DFCS_PUSHED)) {
-        painter.Dither(inside, COLOR_BTNHIGHLIGHT, COLOR_BTNFACE);
-    }
-    return inside;
-}
-
-bool Caption(SystemPainter& painter, RECT& rect, UINT state) {
+bool Caption(SystemPainter& painter, const RECT& rect, UINT state) {
     struct Sign {
         Picture picture;
         int x;
@@ -87,7 +77,7 @@ bool Caption(SystemPainter& painter, RECT& rect, UINT state) {
     if (which >= kSigns.size()) {
         return false;
     }
-    PushFrame(painter, rect, state & ~UINT{DFCS_CHECKED});
+    PushFrame(painter, rect, state);
     const int width = rect.right - rect.left;
     const int height = rect.bottom - rect.top;
     const int scale = std::max(1, std::min((width + 4) / kWidth, (height + 4) / kHeight));
@@ -122,28 +112,7 @@ void DrawTriangle(SystemPainter& painter, const RECT& rect, UINT direction, int 
     }
 }
 
-void SizeGrip(SystemPainter& painter, const RECT& rect, bool right) {
-    painter.Fill(rect, COLOR_BTNFACE);
-    constexpr int kReach = 12;
-    const int width = rect.right - rect.left;
-    const int height = rect.bottom - rect.top;
-    for (int dy = 0; dy < std::min(kReach, height); ++dy) {
-        for (int dx = 0; dx < std::min(kReach, width) && dx + dy < kReach; ++dx) {
-            const int band = (dx + dy) % 4;
-            if (band != 0) {
-                const int x = right ? rect.right - 1 - dx : rect.left + dx;
-                const int y = rect.bottom - 1 - dy;
-                painter.Fill(x, y, x + 1, y + 1, band == 3 ? COLOR_BTNHIGHLIGHT : COLOR_BTNSHADOW);
-            }
-        }
-    }
-}
-
-bool Scroll(SystemPainter& painter, RECT& rect, UINT state) {
-    if (state & (DFCS_SCROLLSIZEGRIP | DFCS_SCROLLSIZEGRIPRIGHT)) {
-        SizeGrip(painter, rect, !(state & DFCS_SCROLLSIZEGRIPRIGHT));
-        return true;
-    }
+bool Scroll(SystemPainter& painter, const RECT& rect, UINT state) {
     UINT direction = state & 0x00FF;
     if (direction == DFCS_SCROLLCOMBOBOX) {
         direction = DFCS_SCROLLDOWN;
@@ -154,7 +123,7 @@ bool Scroll(SystemPainter& painter, RECT& rect, UINT state) {
     // A pressed arrow lies flat within a line of shadow.
     RECT frame = rect;
     const UINT flat = state & DFCS_PUSHED ? BF_FLAT : 0;
-    PaintEdge(painter, frame, EDGE_RAISED, BF_RECT | BF_MIDDLE | flat | StyleFlags(state));
+    PaintEdge(painter, frame, EDGE_RAISED, BF_RECT | BF_MIDDLE | flat);
     DrawInked(state, [&](int shift, int colour) { DrawTriangle(painter, rect, direction, shift, colour); });
     return true;
 }
@@ -172,7 +141,7 @@ void CheckBox(SystemPainter& painter, const RECT& rect, UINT state) {
     const int size = box.right - box.left;
     const int left = box.left;
     const int top = box.top;
-    PaintEdge(painter, box, EDGE_SUNKEN, BF_RECT | BF_ADJUST | StyleFlags(state));
+    PaintEdge(painter, box, EDGE_SUNKEN, BF_RECT | BF_ADJUST);
     const bool third = (state & DFCS_BUTTON3STATE) && (state & DFCS_CHECKED);
     if (third) {
         painter.Dither(box, COLOR_BTNHIGHLIGHT, COLOR_BTNFACE);
@@ -192,33 +161,18 @@ void Radio(SystemPainter& painter, const RECT& rect, UINT state) {
     const int side = static_cast<int>(kRadio.size());
     const int size = square.right - square.left;
     const int back = state & (DFCS_PUSHED | DFCS_INACTIVE) ? COLOR_BTNFACE : COLOR_WINDOW;
+    const int colours[] = {COLOR_BTNSHADOW, COLOR_3DDKSHADOW, COLOR_3DLIGHT, COLOR_BTNHIGHLIGHT, back};
     // Sizes between the multiples of the picture lie centred in what is left.
     const int scale = std::max(1, size / side);
     const int x = square.left + std::max(0, (size - side * scale) / 2);
     const int y = square.top + std::max(0, (size - side * scale) / 2);
     for (int row = 0; row < side; ++row) {
         for (int column = 0; column < side; ++column) {
-            int colour;
-            switch (kRadio[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)]) {
-                case 'S':
-                    colour = COLOR_BTNSHADOW;
-                    break;
-                case 'D':
-                    colour = COLOR_3DDKSHADOW;
-                    break;
-                case 'L':
-                    colour = COLOR_3DLIGHT;
-                    break;
-                case 'H':
-                    colour = COLOR_BTNHIGHLIGHT;
-                    break;
-                case 'w':
-                    colour = back;
-                    break;
-                default:
-                    continue;
+            const char letter = kRadio[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
+            if (const std::size_t at = std::string_view("SDLHw").find(letter); at != std::string_view::npos) {
+                painter.Fill(x + column * scale, y + row * scale, x + (column + 1) * scale, y + (row + 1) * scale,
+                             colours[at]);
             }
-            painter.Fill(x + column * scale, y + row * scale, x + (column + 1) * scale, y + (row + 1) * scale, colour);
         }
     }
     if (state & DFCS_CHECKED) {
@@ -227,17 +181,14 @@ void Radio(SystemPainter& painter, const RECT& rect, UINT state) {
     }
 }
 
-bool Button(SystemPainter& painter, RECT& rect, UINT state) {
+void Button(SystemPainter& painter, const RECT& rect, UINT state) {
     if (state & DFCS_BUTTONPUSH) {
         PushFrame(painter, rect, state);
-        return true;
-    }
-    if (state & DFCS_BUTTONRADIO) {
+    } else if (state & DFCS_BUTTONRADIO) {
         Radio(painter, rect, state);
     } else {
         CheckBox(painter, rect, state);
     }
-    return true;
 }
 
 }  // namespace
@@ -259,7 +210,8 @@ BOOL WINAPI DrawFrameControl(HDC handle, LPRECT rect, UINT type, UINT state) {
             case DFC_SCROLL:
                 return Scroll(painter, *rect, state) ? TRUE : FALSE;
             case DFC_BUTTON:
-                return Button(painter, *rect, state) ? TRUE : FALSE;
+                Button(painter, *rect, state);
+                return TRUE;
             default:
                 return FALSE;
         }

@@ -4,14 +4,12 @@
 
 #include "gdi/shape/lines.h"
 #include "gdi/context/raster.h"
-#include "gdi/shape/shapes.h"
 
 namespace platform::gdi {
 
 Stroke::Stroke(DeviceContext& context) : context_(context) {
     const Pen& pen = *context.state.pen;
     none_ = pen.style == PS_NULL;
-    width_ = std::max(pen.width, 1);
     ink_ = PlainInk(context, pen.colour);
 }
 
@@ -19,9 +17,7 @@ void Stroke::Line(POINT from, POINT to) {
     if (none_) {
         return;
     }
-    if (width_ > 1) {
-        Combine(context_, StrokeArea(from, to, width_), kCopyPattern, &ink_);
-    } else if (from.x == to.x || from.y == to.y) {
+    if (from.x == to.x || from.y == to.y) {
         // The end point stays out, whichever end it is.
         RECT rect{std::min(from.x, to.x), std::min(from.y, to.y), std::max(from.x, to.x), std::max(from.y, to.y)};
         if (from.y == to.y) {
@@ -42,7 +38,6 @@ void Stroke::Line(POINT from, POINT to) {
 void Stroke::Thin(POINT from, POINT to) {
     const Region& drawable = context_.Drawable();
     const RECT bounds = drawable.Bounds();
-    const bool simple = drawable.IsRect();
     const std::int64_t dx = std::abs(std::int64_t{to.x} - from.x);
     const std::int64_t dy = std::abs(std::int64_t{to.y} - from.y);
     const int stepX = from.x < to.x ? 1 : -1;
@@ -57,35 +52,18 @@ void Stroke::Thin(POINT from, POINT to) {
     const bool forward = (flat ? stepX : stepY) > 0;
     const std::int64_t first = std::clamp<std::int64_t>(forward ? low - start : start - high + 1, 0, major);
     const std::int64_t last = std::clamp<std::int64_t>(forward ? high - start : start - low + 1, first, major);
-    const std::int64_t travelled = first * minor - major / 2;
-    const std::int64_t aside = travelled > 0 ? (travelled + major - 1) / major : 0;
-    std::int64_t error = aside * major - travelled;
-    POINT at = from;
-    (flat ? at.x : at.y) += static_cast<LONG>(first * (flat ? stepX : stepY));
-    (flat ? at.y : at.x) += static_cast<LONG>(aside * (flat ? stepY : stepX));
     for (std::int64_t i = first; i < last; ++i) {
-        const bool inside = at.x >= bounds.left && at.x < bounds.right && at.y >= bounds.top && at.y < bounds.bottom;
-        if (inside && (simple || drawable.Contains(at))) {
+        const std::int64_t travelled = i * minor - major / 2;
+        const std::int64_t aside = travelled > 0 ? (travelled + major - 1) / major : 0;
+        const POINT at{static_cast<LONG>(from.x + stepX * (flat ? i : aside)),
+                       static_cast<LONG>(from.y + stepY * (flat ? aside : i))};
+        if (drawable.Contains(at)) {
             WritePixel(context_.surface, at.x, at.y, ink_.colour);
         }
-        error -= minor;
-        const bool both = error < 0;
-        if (both) {
-            error += major;
-        }
-        if (flat) {
-            at.x += stepX;
-            at.y += both ? stepY : 0;
-        } else {
-            at.y += stepY;
-            at.x += both ? stepX : 0;
-        }
     }
-    const RECT around{std::min(from.x, to.x), std::min(from.y, to.y), std::max(from.x, to.x) + 1,
-                      std::max(from.y, to.y) + 1};
-    const RECT seen{std::max(around.left, bounds.left), std::max(around.top, bounds.top),
-                    std::min(around.right, bounds.right), std::min(around.bottom, bounds.bottom)};
-    if (seen.left < seen.right && seen.top < seen.bottom) {
+    const RECT seen = Cut(bounds, {std::min(from.x, to.x), std::min(from.y, to.y), std::max(from.x, to.x) + 1,
+                                   std::max(from.y, to.y) + 1});
+    if (Holds(seen)) {
         context_.Drawn(seen);
     }
 }

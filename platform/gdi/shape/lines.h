@@ -15,9 +15,6 @@ class Stroke {
     bool None() const {
         return none_;
     }
-    int Width() const {
-        return width_;
-    }
     const Ink& PenInk() const {
         return ink_;
     }
@@ -27,7 +24,6 @@ class Stroke {
 
     DeviceContext& context_;
     Ink ink_;
-    int width_ = 1;
     bool none_ = false;
 };
 

@@ -91,11 +91,6 @@ bool Region::Contains(POINT point) const noexcept {
     return pixman_region32_contains_point(&region_, point.x, point.y, nullptr);
 }
 
-bool Region::Contains(const RECT& rect) const noexcept {
-    pixman_box32_t box = Box(rect);
-    return Holds(rect) && pixman_region32_contains_rectangle(&region_, &box) == PIXMAN_REGION_IN;
-}
-
 bool Region::Touches(const RECT& rect) const noexcept {
     pixman_box32_t box = Box(rect);
     return Holds(rect) && pixman_region32_contains_rectangle(&region_, &box) != PIXMAN_REGION_OUT;
@@ -131,31 +126,13 @@ Region& Region::Union(const Region& other) noexcept {
     return *this;
 }
 
-Region& Region::Union(const RECT& rect) noexcept {
-    const RECT sane = Sane(rect);
-    if (Holds(sane)) {
-        pixman_region32_union_rect(&region_, &region_, sane.left, sane.top,
-                                   static_cast<unsigned>(sane.right - sane.left),
-                                   static_cast<unsigned>(sane.bottom - sane.top));
-    }
-    return *this;
-}
-
 Region& Region::Intersect(const Region& other) noexcept {
     pixman_region32_intersect(&region_, &region_, &other.region_);
     return *this;
 }
 
 Region& Region::Intersect(const RECT& rect) noexcept {
-    const RECT sane = Sane(rect);
-    if (!Holds(sane)) {
-        Clear();
-        return *this;
-    }
-    pixman_region32_intersect_rect(&region_, &region_, sane.left, sane.top,
-                                   static_cast<unsigned>(sane.right - sane.left),
-                                   static_cast<unsigned>(sane.bottom - sane.top));
-    return *this;
+    return Intersect(Region(rect));
 }
 
 Region& Region::Subtract(const Region& other) noexcept {

@@ -41,8 +41,6 @@ class Region {
     /// @returns the smallest rectangle around it; all zero when empty.
     RECT Bounds() const noexcept;
     bool Contains(POINT point) const noexcept;
-    /// @returns whether all of the rectangle lies inside.
-    bool Contains(const RECT& rect) const noexcept;
     /// @returns whether any of the rectangle lies inside.
     bool Touches(const RECT& rect) const noexcept;
     bool operator==(const Region& other) const noexcept;
@@ -51,7 +49,6 @@ class Region {
     void Set(const RECT& rect) noexcept;
     void Offset(int dx, int dy) noexcept;
     Region& Union(const Region& other) noexcept;
-    Region& Union(const RECT& rect) noexcept;
     Region& Intersect(const Region& other) noexcept;
     Region& Intersect(const RECT& rect) noexcept;
     Region& Subtract(const Region& other) noexcept;

@@ -1,6 +1,6 @@
 /// @file surface.h
 /// Pixels in memory, in the formats that bitmaps have. Rows are read and written as native values: 0x00RRGGBB where
-/// pixels hold colours (16, 24 and 32 bits), an index where they hold indices (1, 4 and 8 bits).
+/// pixels hold colours (24 and 32 bits), an index where they hold indices (1, 4 and 8 bits). What is drawn on has 1 or 32 bits.
 #pragma once
 
 #include <windef.h>
@@ -16,8 +16,7 @@ struct Surface {
     int height = 0;
     std::ptrdiff_t stride = 0;  ///< bytes from a row to the one below it
     int bitsPerPixel = 0;
-    const std::uint32_t* palette = nullptr;  ///< colours of the indices
-    int paletteSize = 0;
+    const std::uint32_t* palette = nullptr;  ///< colours of the indices, unless it is monochrome
     bool monochrome = false;  ///< a device-dependent bitmap of one bit, which takes its colours from contexts
 
     bool Indexed() const {
@@ -69,11 +68,5 @@ void WriteRow(const Surface& surface, int x, int y, int count, const std::uint32
 std::uint32_t NativeColour(const Surface& surface, std::uint32_t pixel);
 /// @returns the colour (0x00RRGGBB) that a native value shows; black and white for a monochrome bitmap.
 std::uint32_t ShownColour(const Surface& surface, std::uint32_t value);
-
-/// @returns the index of the palette entry nearest to a colour.
-int NearestIndex(const std::uint32_t* palette, int size, std::uint32_t pixel);
-
-/// The colours of the 16-colour and 256-colour palettes that bitmaps without one of their own have.
-const std::uint32_t* DefaultPalette(int bitsPerPixel);
 
 }  // namespace platform::gdi

@@ -72,7 +72,7 @@ class BuiltInFace : public Face {
         glyph.coverage.assign(static_cast<std::size_t>(glyph.width) * static_cast<std::size_t>(glyph.height), 0);
         for (std::size_t x = 0; x < kColumns; ++x) {
             for (std::size_t y = 0; y <= kRows; ++y) {
-                glyph.coverage[y * kColumns + x] = columns[x] >> y & 1 ? 255 : 0;
+                glyph.coverage[y * kColumns + x] = columns[x] >> y & 1;
             }
         }
         return true;

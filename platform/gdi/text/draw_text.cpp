@@ -20,10 +20,11 @@ struct TextLine {
 class Layout {
   public:
     Layout(HDC handle, DeviceContext& context, UINT format)
-        : handle_(handle), context_(context), font_(Realize(*context.state.font)), format_(format) {
-        constexpr int kTabCharacters = 8;
-        tab_ = std::max(1, kTabCharacters * font_.Metrics().averageWidth);
-    }
+        : handle_(handle),
+          context_(context),
+          font_(Realize(*context.state.font)),
+          format_(format),
+          tab_(TabWidth(font_)) {}
     int LineHeight() const {
         return font_.Height();
     }
@@ -117,22 +118,11 @@ class Layout {
     }
 
     void Draw(const TextLine& line, int x, int y, const RECT* clip) const {
-        const char* at = line.text.data();
-        const char* end = at + line.text.size();
-        int offset = 0;
-        while (at < end) {
-            const char* stop = format_ & DT_EXPANDTABS ? std::find(at, end, '\t') : end;
-            if (stop > at) {
-                const int length = static_cast<int>(stop - at);
-                ExtTextOutA(handle_, x + offset, y, clip ? ETO_CLIPPED : 0, clip, at, static_cast<UINT>(length),
-                            nullptr);
-                offset += TextWidth(context_, at, length);
-            }
-            at = stop;
-            if (at < end) {
-                offset = (offset / tab_ + 1) * tab_;
-                ++at;
-            }
+        if (format_ & DT_EXPANDTABS) {
+            TabbedText(handle_, context_, x, y, line.text, clip, true);
+        } else {
+            ExtTextOutA(handle_, x, y, clip ? ETO_CLIPPED : 0, clip, line.text.data(),
+                        static_cast<UINT>(line.text.size()), nullptr);
         }
         if (line.underline >= 0) {
             Underline(line, x, y, clip);

@@ -21,7 +21,7 @@ struct Glyph {
     int top = 0;   ///< rows of the bitmap above the baseline
     int width = 0;
     int height = 0;
-    std::vector<std::uint8_t> coverage;  ///< a byte a pixel; 255 is full
+    std::vector<std::uint8_t> coverage;  ///< a byte a pixel: 1 where there is ink
     bool large = false;                  ///< too large to be kept: the picture is made for each drawing
 };
 

@@ -8,8 +8,7 @@ using namespace platform::gdi;
 
 HFONT WINAPI CreateFontIndirectA(const LOGFONTA* logical) {
     if (!logical) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return nullptr;
+        return Fail(ERROR_INVALID_PARAMETER, nullptr);
     }
     auto font = NewObject<Font>();
     if (font) {

@@ -5,9 +5,9 @@
 #include FT_GZIP_H
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
 #include <cstdlib>
+#include <fstream>
+#include <iterator>
 
 #include "gdi/text/font.h"
 
@@ -62,7 +62,7 @@ class FreetypeFace : public Face {
         for (int y = 0; y < glyph.height; ++y) {
             const unsigned char* row = bitmap.buffer + static_cast<std::ptrdiff_t>(y) * bitmap.pitch;
             for (int x = 0; x < glyph.width; ++x) {
-                *out++ = bitmap.pixel_mode == FT_PIXEL_MODE_MONO ? (row[x >> 3] & 0x80 >> (x & 7) ? 255 : 0) : row[x];
+                *out++ = row[x >> 3] & 0x80 >> (x & 7) ? 1 : 0;
             }
         }
         return true;
@@ -171,18 +171,8 @@ FT_MemoryRec_ PlainMemory() {
 /// Reads a font file, unpacked where it is packed: read piecemeal from a packed file, every glyph would unpack it anew.
 std::vector<FT_Byte> ReadUnpacked(const std::string& path) {
     constexpr std::size_t kLargest = 16u << 20;
-    std::vector<FT_Byte> packed;
-    if (std::FILE* file = std::fopen(path.c_str(), "rb")) {
-        std::array<FT_Byte, 16384> chunk;
-        while (const std::size_t count = std::fread(chunk.data(), 1, chunk.size(), file)) {
-            packed.insert(packed.end(), chunk.data(), chunk.data() + count);
-            if (packed.size() > kLargest) {
-                packed.clear();
-                break;
-            }
-        }
-        std::fclose(file);
-    }
+    std::ifstream file(path, std::ios::binary);
+    std::vector<FT_Byte> packed{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     if (packed.size() < 20 || packed[0] != 0x1F || packed[1] != 0x8B) {
         return packed;
     }
@@ -247,15 +237,6 @@ std::unique_ptr<Face> OpenOutlineFace(const LOGFONTA& logical, char32_t characte
     }
     const int pixels = PixelSize(face, logical.lfHeight);
     FT_Set_Pixel_Sizes(face, 0, static_cast<FT_UInt>(pixels));
-    if (logical.lfWidth) {
-        // The width asked for is that of the average character.
-        const bool loaded = !FT_Load_Char(face, 'x', FT_LOAD_NO_BITMAP);
-        const int average = loaded ? static_cast<int>((face->glyph->advance.x + 32) >> 6) : 0;
-        if (average > 0) {
-            const int wide = std::clamp(std::abs(logical.lfWidth) * pixels / average, 1, 2000);
-            FT_Set_Pixel_Sizes(face, static_cast<FT_UInt>(wide), static_cast<FT_UInt>(pixels));
-        }
-    }
     FontMetrics metrics;
     metrics.outline = true;
     metrics.name = family ? reinterpret_cast<const char*>(family) : logical.lfFaceName;
@@ -266,9 +247,7 @@ std::unique_ptr<Face> OpenOutlineFace(const LOGFONTA& logical, char32_t characte
     metrics.weight = face->style_flags & FT_STYLE_FLAG_BOLD ? FW_BOLD : FW_NORMAL;
     metrics.italic = face->style_flags & FT_STYLE_FLAG_ITALIC;
     metrics.family = static_cast<BYTE>(logical.lfPitchAndFamily & 0xF0);
-    const bool smooth = logical.lfQuality == ANTIALIASED_QUALITY || logical.lfQuality == CLEARTYPE_QUALITY;
-    const FT_Int32 flags = FT_LOAD_NO_BITMAP | (smooth ? FT_LOAD_TARGET_LIGHT : FT_LOAD_TARGET_MONO);
-    auto made = std::make_unique<FreetypeFace>(face, flags, std::move(metrics));
+    auto made = std::make_unique<FreetypeFace>(face, FT_LOAD_NO_BITMAP | FT_LOAD_TARGET_MONO, std::move(metrics));
     made->Measure();
     return made;
 }

@@ -6,43 +6,40 @@
 
 namespace platform::gdi {
 
-namespace {
+int TabWidth(RealizedFont& font) {
+    return std::max(1, 8 * font.Metrics().averageWidth);
+}
 
-int Tabbed(HDC handle, int x, int y, const std::string& text, bool draw) {
-    const Drawing drawing(handle);
-    if (!drawing) {
-        return 0;
-    }
-    return Guarded(0, [&] {
-        const int stop = std::max(1, 8 * Realize(*drawing->state.font).Metrics().averageWidth);
-        const char* at = text.data();
-        const char* end = at + text.size();
-        int width = 0;
-        while (at < end) {
-            const char* tab = std::find(at, end, '\t');
-            const int run = static_cast<int>(tab - at);
-            if (draw && run > 0) {
-                TextOutA(handle, x + width, y, at, run);
-            }
-            width += TextWidth(*drawing, at, run);
-            at = tab;
-            if (at < end) {
-                width = (width / stop + 1) * stop;
-                ++at;
-            }
+int TabbedText(HDC handle, DeviceContext& context, int x, int y, const std::string& text, const RECT* clip, bool draw) {
+    const int stop = TabWidth(Realize(*context.state.font));
+    const char* at = text.data();
+    const char* end = at + text.size();
+    int width = 0;
+    while (at < end) {
+        const char* tab = std::find(at, end, '\t');
+        const int run = static_cast<int>(tab - at);
+        if (draw && run > 0) {
+            ExtTextOutA(handle, x + width, y, clip ? ETO_CLIPPED : 0, clip, at, static_cast<UINT>(run), nullptr);
         }
-        return width;
-    });
+        width += TextWidth(context, at, run);
+        at = tab;
+        if (at < end) {
+            width = (width / stop + 1) * stop;
+            ++at;
+        }
+    }
+    return width;
 }
 
-}  // namespace
-
-void DrawTabbedText(HDC context, int x, int y, const std::string& text) {
-    Tabbed(context, x, y, text, true);
+void DrawTabbedText(HDC handle, int x, int y, const std::string& text) {
+    if (const Drawing drawing(handle); drawing) {
+        Guarded(0, [&] { return TabbedText(handle, *drawing, x, y, text, nullptr, true); });
+    }
 }
 
-int TabbedTextWidth(HDC context, const std::string& text) {
-    return Tabbed(context, 0, 0, text, false);
+int TabbedTextWidth(HDC handle, const std::string& text) {
+    const Drawing drawing(handle);
+    return drawing ? Guarded(0, [&] { return TabbedText(handle, *drawing, 0, 0, text, nullptr, false); }) : 0;
 }
 
 }  // namespace platform::gdi

@@ -62,15 +62,6 @@ class Line {
     std::vector<Placed> many_;
 };
 
-std::uint32_t Blend(std::uint32_t back, std::uint32_t front, std::uint32_t coverage) {
-    const auto channel = [&](int shift) {
-        const std::uint32_t a = back >> shift & 0xFF;
-        const std::uint32_t b = front >> shift & 0xFF;
-        return (a * (255 - coverage) + b * coverage + 127) / 255 << shift;
-    };
-    return channel(16) | channel(8) | channel(0);
-}
-
 void DrawGlyph(const Surface& surface, const RECT& clip, const Glyph& glyph, int x, int y, std::uint32_t ink) {
     const int left = std::max<int>(clip.left, x);
     const int right = std::min<int>(clip.right, x + glyph.width);
@@ -81,16 +72,12 @@ void DrawGlyph(const Surface& surface, const RECT& clip, const Glyph& glyph, int
         if (surface.bitsPerPixel == 32) {
             std::uint32_t* out = surface.Row32(row);
             for (int column = left; column < right; ++column) {
-                if (coverage[column] == 255) {
-                    out[column] = ink;
-                } else if (coverage[column]) {
-                    out[column] = Blend(out[column], ink, coverage[column]);
-                }
+                out[column] = coverage[column] ? ink : out[column];
             }
             continue;
         }
         for (int column = left; column < right; ++column) {
-            if (coverage[column] >= 128) {
+            if (coverage[column]) {
                 WritePixel(surface, column, row, ink);
             }
         }

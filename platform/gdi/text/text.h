@@ -39,4 +39,10 @@ void ForEachCharacter(const char* text, int length, Visit&& visit) {
 /// @returns the width of a text with the context's font.
 int TextWidth(DeviceContext& context, const char* text, int length);
 
+/// The distance of tab stops: eight average characters.
+int TabWidth(RealizedFont& font);
+
+/// Draws a text whose tabs go on to the next stop, or only measures it. clip: null for none. @returns its width.
+int TabbedText(HDC handle, DeviceContext& context, int x, int y, const std::string& text, const RECT* clip, bool draw);
+
 }  // namespace platform::gdi

@@ -17,12 +17,9 @@ WINCOMMCTRLAPI BOOL WINAPI ImageList_GetIconSize(HIMAGELIST list, int* cx, int* 
 /// Makes an image list out of a bitmap resource; its height is the pictures' own.
 /// @param mask  CLR_NONE for no mask, CLR_DEFAULT for the colour of the bitmap's first pixel.
 /// @param type  IMAGE_BITMAP.
-/// @param flags  LR_ bits, as LoadImageA takes them.
+/// @param flags  LR_DEFAULTCOLOR.
 WINCOMMCTRLAPI HIMAGELIST WINAPI ImageList_LoadImageA(HINSTANCE instance, LPCSTR name, int cx, int grow, COLORREF mask,
                                                       UINT type, UINT flags);
-#define ImageList_LoadImage ImageList_LoadImageA
-#define ImageList_LoadBitmap(instance, name, cx, grow, mask) \
-    ImageList_LoadImageA(instance, name, cx, grow, mask, IMAGE_BITMAP, 0)
 
 /// Where a picture has a mask, what is there shows through; ILD_NORMAL and ILD_TRANSPARENT are alike.
 WINCOMMCTRLAPI BOOL WINAPI ImageList_Draw(HIMAGELIST list, int index, HDC context, int x, int y, UINT style);

@@ -34,12 +34,3 @@ WINBASEAPI BOOL WINAPI FindNextFileA(HANDLE search, LPWIN32_FIND_DATAA data);
 WINBASEAPI BOOL WINAPI FindClose(HANDLE search);
 WINBASEAPI DWORD WINAPI GetFileAttributesA(LPCSTR path);
 WINBASEAPI UINT WINAPI GetDriveTypeA(LPCSTR root);
-
-#ifndef CVPLATFORM_NO_GENERIC_NAMES
-#define FindFirstFile FindFirstFileA
-#define FindNextFile FindNextFileA
-#define GetDriveType GetDriveTypeA
-#define GetFileAttributes GetFileAttributesA
-#define WIN32_FIND_DATA WIN32_FIND_DATAA
-#define LPWIN32_FIND_DATA LPWIN32_FIND_DATAA
-#endif

@@ -3,6 +3,7 @@
 #pragma once
 
 #define CreateEvent CreateEventA
+#define GetFileAttributes GetFileAttributesA
 #define GetModuleFileName GetModuleFileNameA
 #define GetModuleHandle GetModuleHandleA
 #define GetPrivateProfileInt GetPrivateProfileIntA

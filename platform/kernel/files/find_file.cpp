@@ -71,11 +71,6 @@ void Describe(const struct stat& status, const std::string& name, LPWIN32_FIND_D
     std::memcpy(data->cFileName, ansi.c_str(), std::min<std::size_t>(ansi.size(), MAX_PATH - 1));
 }
 
-std::string Upper(std::string name) {
-    CharUpperBuffA(name.data(), static_cast<DWORD>(name.size()));
-    return name;
-}
-
 // The names in a folder that fit, in the order of their capitals.
 LONG List(const std::string& folder, const std::string& pattern, bool root, std::vector<std::string>* names) {
     const std::unique_ptr<DIR, int (*)(DIR*)> listing(opendir(folder.empty() ? "/" : folder.c_str()), closedir);

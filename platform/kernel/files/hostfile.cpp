@@ -18,11 +18,6 @@
 namespace platform::kernel {
 namespace {
 
-std::string Upper(std::string name) {
-    CharUpperBuffA(name.data(), static_cast<DWORD>(name.size()));
-    return name;
-}
-
 bool IsFolder(const std::string& path) {
     struct stat status {};
     return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);

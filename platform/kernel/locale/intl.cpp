@@ -17,18 +17,14 @@ struct Key {
 };
 
 constexpr Key kKeys[] = {
-    {"sDecimal", LOCALE_SDECIMAL},
     {"sThousand", LOCALE_STHOUSAND},
     {"sDate", LOCALE_SDATE},
     {"sTime", LOCALE_STIME},
     {"sShortDate", LOCALE_SSHORTDATE},
-    {"sLongDate", LOCALE_SLONGDATE},
     {"sTimeFormat", LOCALE_STIMEFORMAT},
     {"iDate", LOCALE_IDATE},
     {"iTime", LOCALE_ITIME},
     {"iTLZero", LOCALE_ITLZERO},
-    {"s1159", LOCALE_S1159},
-    {"s2359", LOCALE_S2359},
 };
 
 const Key* FindKey(LPCSTR name) {
@@ -63,7 +59,7 @@ const std::string* HostIntlValue(const std::string& name) {
     if (found != known.end()) {
         return &found->second;
     }
-    return &(known[key->type] = LocaleValue(HostLocales(), key->type).value_or(std::string()));
+    return &(known[key->type] = LocaleValue(key->type).value_or(std::string()));
 }
 
 }  // namespace platform::kernel

@@ -1,15 +1,14 @@
-// Locales: numbers of them, and facts about them. A user's own settings in win.ini come before what the host knows.
+// Facts about the user's locale: settings in win.ini come before what the host knows, and those that are set are written there.
 #include <windows.h>
 
 #include <unicode/uloc.h>
 
 #include <cstring>
-#include <new>
-#include <optional>
-#include <string>
 
 #include "base/fail.h"
+#include "kernel/guarded.h"
 #include "kernel/locale/intl.h"
+#include "kernel/locale/locale_patterns.h"
 #include "kernel/locale/locale_values.h"
 
 using namespace platform::kernel;
@@ -17,33 +16,8 @@ namespace base = platform::base;
 
 namespace {
 
-constexpr LCID kAmerican = 0x0409;
-
-LCID HostNumber() {
-    static const LCID number = [] {
-        const LCID found = uloc_getLCID(HostLocales().language.c_str());
-        return found ? found : kAmerican;
-    }();
-    return number;
-}
-
 bool IsUsersLocale(LCID locale) {
-    return locale == LOCALE_USER_DEFAULT || locale == LOCALE_SYSTEM_DEFAULT || locale == LOCALE_NEUTRAL ||
-           locale == HostNumber();
-}
-
-// The locale of a number, by the host's name; nothing for a number that means none.
-std::optional<LocaleNames> NamesOf(LCID locale) {
-    if (IsUsersLocale(locale)) {
-        return HostLocales();
-    }
-    char name[64];
-    UErrorCode error = U_ZERO_ERROR;
-    const int length = uloc_getLocaleForLCID(locale & 0xFFFF, name, sizeof name, &error);
-    if (U_FAILURE(error) || length <= 0 || length >= 64) {
-        return std::nullopt;
-    }
-    return LocaleNames{name, name, name};
+    return locale == LOCALE_USER_DEFAULT || locale == LOCALE_SYSTEM_DEFAULT;
 }
 
 std::optional<std::string> UsersValue(LCTYPE type) {
@@ -58,17 +32,12 @@ std::optional<std::string> UsersValue(LCTYPE type) {
 }
 
 int Find(LCID locale, LCTYPE type, LPSTR buffer, int size) {
-    const std::optional<LocaleNames> names = NamesOf(locale);
-    if (!names || size < 0 || (size > 0 && !buffer)) {
+    if (!IsUsersLocale(locale) || size < 0 || (size > 0 && !buffer)) {
         return base::Fail(ERROR_INVALID_PARAMETER, 0);
     }
-    const LCTYPE item = type & ~LCTYPE{LOCALE_NOUSEROVERRIDE | LOCALE_USE_CP_ACP};
-    std::optional<std::string> value;
-    if (!(type & LOCALE_NOUSEROVERRIDE) && IsUsersLocale(locale)) {
-        value = UsersValue(item);
-    }
+    std::optional<std::string> value = UsersValue(type);
     if (!value) {
-        value = LocaleValue(*names, item);
+        value = LocaleValue(type);
     }
     if (!value) {
         return base::Fail(ERROR_INVALID_FLAGS, 0);
@@ -84,20 +53,45 @@ int Find(LCID locale, LCTYPE type, LPSTR buffer, int size) {
     return needed;
 }
 
+bool Write(LCTYPE type, const std::string& text) {
+    return WriteProfileStringA("intl", IntlKey(type), text.c_str()) != FALSE;
+}
+
+/// A pattern brings along what is read out of it, so that no two settings contradict each other.
+bool WriteTimeFormat(const std::string& pattern) {
+    const std::string clock = Holds(pattern, "H");
+    const std::string leadingZero = Holds(pattern, clock == "1" ? "HH" : "hh");
+    return Write(LOCALE_STIMEFORMAT, pattern) && Write(LOCALE_ITIME, clock) && Write(LOCALE_ITLZERO, leadingZero) &&
+           Write(LOCALE_STIME, PatternSeparator(pattern, ":"));
+}
+
 }  // namespace
 
 namespace platform::kernel {
 
 LANGID UsersLanguage() {
-    return LANGIDFROMLCID(HostNumber());
+    static const LCID number = uloc_getLCID(HostLanguage().c_str());
+    constexpr LANGID kAmerican = 0x0409;
+    return number ? static_cast<LANGID>(number) : kAmerican;
 }
 
 }  // namespace platform::kernel
 
 int WINAPI GetLocaleInfoA(LCID locale, LCTYPE type, LPSTR buffer, int size) {
-    try {
-        return Find(locale, type, buffer, size);
-    } catch (const std::bad_alloc&) {
-        return base::Fail(ERROR_NOT_ENOUGH_MEMORY, 0);
+    return Guarded(0, [&] { return Find(locale, type, buffer, size); });
+}
+
+BOOL WINAPI SetLocaleInfoA(LCID locale, LCTYPE type, LPCSTR data) {
+    if (!data || !IsUsersLocale(locale)) {
+        return base::Fail(ERROR_INVALID_PARAMETER, FALSE);
     }
+    if (type != LOCALE_STIME && type != LOCALE_STIMEFORMAT) {
+        return base::Fail(ERROR_INVALID_FLAGS, FALSE);
+    }
+    constexpr std::size_t kLongestPattern = 79;
+    constexpr std::size_t kLongestSeparator = 3;
+    if (std::strlen(data) > (type == LOCALE_STIME ? kLongestSeparator : kLongestPattern)) {
+        return base::Fail(ERROR_INVALID_PARAMETER, FALSE);
+    }
+    return Guarded(FALSE, [&] { return BOOL{type == LOCALE_STIME ? Write(type, data) : WriteTimeFormat(data)}; });
 }

@@ -14,10 +14,6 @@ std::u16string Run(char16_t letter, std::size_t count) {
         case u'M':
         case u'L':
             return std::u16string(std::min<std::size_t>(count, 4), u'M');
-        case u'E':
-        case u'c':
-        case u'e':
-            return std::u16string(count >= 4 ? 4 : 3, u'd');
         case u'a':
         case u'b':
         case u'B':
@@ -27,8 +23,6 @@ std::u16string Run(char16_t letter, std::size_t count) {
         case u'K':
             return std::u16string(count, u'h');
         case u'G':
-        case u'z':
-        case u'v':
             return {};
         default:
             return std::u16string(count, letter);
@@ -91,11 +85,7 @@ std::string DateOrder(const std::string& pattern) {
     const std::string plain = Unquoted(pattern);
     const std::size_t year = plain.find('y');
     const std::size_t month = plain.find('M');
-    // In a long date the name of the day ("dddd") is not the day.
-    std::size_t day = plain.find('d');
-    while (day != std::string::npos && plain.compare(day, 3, "ddd") == 0) {
-        day = plain.find('d', std::min(plain.find_first_not_of('d', day), plain.size()));
-    }
+    const std::size_t day = plain.find('d');
     return year < month && year < day ? "2" : day < month ? "1" : "0";
 }
 

@@ -7,7 +7,7 @@
 
 namespace platform::kernel {
 
-/// "EEEE, d. MMMM y" becomes "dddd, d. MMMM yyyy", "h:mm a" becomes "h:mm tt".
+/// "d.M.y" becomes "d.M.yyyy", "h:mm a" becomes "h:mm tt".
 std::u16string WindowsPattern(std::u16string_view pattern);
 
 /// @returns the first thing between the parts of a pattern that is no blank, or `otherwise`.

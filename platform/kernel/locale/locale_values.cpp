@@ -1,7 +1,6 @@
 #include "kernel/locale/locale_values.h"
 
 #include <unicode/udat.h>
-#include <unicode/uloc.h>
 #include <unicode/unum.h>
 
 #include <cstdlib>
@@ -20,22 +19,13 @@ struct Item {
 
 // American English is what users without a locale get: its plain answers need no locale data to be loaded.
 constexpr Item kAmerican[] = {
-    {LOCALE_SDECIMAL, "."},
     {LOCALE_STHOUSAND, ","},
     {LOCALE_SSHORTDATE, "M/d/yy"},
-    {LOCALE_SLONGDATE, "dddd, MMMM dd, yyyy"},
     {LOCALE_STIMEFORMAT, "h:mm:ss tt"},
-    {LOCALE_S1159, "AM"},
-    {LOCALE_S2359, "PM"},
 };
 
 using DateFormat = std::unique_ptr<UDateFormat, decltype(&udat_close)>;
 using NumberFormat = std::unique_ptr<UNumberFormat, decltype(&unum_close)>;
-
-DateFormat OpenDate(UDateFormatStyle time, UDateFormatStyle date, const std::string& locale) {
-    UErrorCode error = U_ZERO_ERROR;
-    return {udat_open(time, date, locale.c_str(), nullptr, 0, nullptr, 0, &error), udat_close};
-}
 
 // Runs one of ICU's calls that fill a buffer. Spaces that only typesetting tells apart become plain ones.
 template <class Call>
@@ -55,52 +45,70 @@ std::u16string Ask(Call call) {
     return result;
 }
 
-std::string Pattern(UDateFormatStyle time, UDateFormatStyle date, const std::string& locale) {
-    const DateFormat format = OpenDate(time, date, locale);
+std::string EnvironmentLocale(const char* category) {
+    for (const char* name : {"LC_ALL", category, "LANG"}) {
+        const char* value = std::getenv(name);
+        if (value && *value) {
+            std::string locale(value);
+            locale = locale.substr(0, locale.find_first_of(".@"));
+            return locale == "C" || locale == "POSIX" ? "en_US" : locale;
+        }
+    }
+    return "en_US";
+}
+
+/// The host's locales, which may differ by subject.
+struct LocaleNames {
+    std::string language = EnvironmentLocale("LC_MESSAGES");
+    std::string time = EnvironmentLocale("LC_TIME");
+    std::string numbers = EnvironmentLocale("LC_NUMERIC");
+};
+
+const LocaleNames& HostLocales() {
+    static const auto& names = *new LocaleNames;
+    return names;
+}
+
+std::string Pattern(UDateFormatStyle time, UDateFormatStyle date) {
+    UErrorCode opened = U_ZERO_ERROR;
+    const DateFormat format{udat_open(time, date, HostLocales().time.c_str(), nullptr, 0, nullptr, 0, &opened),
+                            udat_close};
     return AnsiFromWide(WindowsPattern(Ask([&](UChar* text, int size, UErrorCode* error) {
         return udat_toPattern(format.get(), false, text, size, error);
     })));
 }
 
-std::string DayHalf(int index, const std::string& locale) {
-    const DateFormat format = OpenDate(UDAT_SHORT, UDAT_SHORT, locale);
-    return AnsiFromWide(Ask([&](UChar* text, int size, UErrorCode* error) {
-        return udat_getSymbols(format.get(), UDAT_AM_PMS, index, text, size, error);
-    }));
-}
-
-std::string NumberSymbol(UNumberFormatSymbol symbol, const std::string& locale) {
+std::string ThousandsSeparator() {
     UErrorCode opened = U_ZERO_ERROR;
-    const NumberFormat format{unum_open(UNUM_DECIMAL, nullptr, 0, locale.c_str(), nullptr, &opened), unum_close};
+    const NumberFormat format{unum_open(UNUM_DECIMAL, nullptr, 0, HostLocales().numbers.c_str(), nullptr, &opened),
+                              unum_close};
     return AnsiFromWide(Ask([&](UChar* text, int size, UErrorCode* error) {
-        return unum_getSymbol(format.get(), symbol, text, size, error);
+        return unum_getSymbol(format.get(), UNUM_GROUPING_SEPARATOR_SYMBOL, text, size, error);
     }));
 }
 
-std::string LanguageNumber(const std::string& locale) {
-    char text[16];
-    wsprintfA(text, "%04x", uloc_getLCID(locale.c_str()) & 0xFFFF);
-    return text;
+}  // namespace
+
+const std::string& HostLanguage() {
+    return HostLocales().language;
 }
 
-std::optional<std::string> HostValue(const LocaleNames& names, LCTYPE type) {
-    const auto pattern = [&](LCTYPE which) { return LocaleValue(names, which).value_or(std::string()); };
+std::optional<std::string> LocaleValue(LCTYPE type) {
+    if (HostLocales().time == "en_US" && HostLocales().numbers == "en_US") {
+        for (const Item& item : kAmerican) {
+            if (item.type == type) {
+                return item.value;
+            }
+        }
+    }
+    const auto pattern = [](LCTYPE which) { return LocaleValue(which).value_or(std::string()); };
     switch (type) {
-        case LOCALE_ILANGUAGE:
-            return LanguageNumber(names.language);
-        case LOCALE_SDECIMAL:
-            return NumberSymbol(UNUM_DECIMAL_SEPARATOR_SYMBOL, names.numbers);
         case LOCALE_STHOUSAND:
-            return NumberSymbol(UNUM_GROUPING_SEPARATOR_SYMBOL, names.numbers);
+            return ThousandsSeparator();
         case LOCALE_SSHORTDATE:
-            return Pattern(UDAT_NONE, UDAT_SHORT, names.time);
-        case LOCALE_SLONGDATE:
-            return Pattern(UDAT_NONE, UDAT_FULL, names.time);
+            return Pattern(UDAT_NONE, UDAT_SHORT);
         case LOCALE_STIMEFORMAT:
-            return Pattern(UDAT_MEDIUM, UDAT_NONE, names.time);
-        case LOCALE_S1159:
-        case LOCALE_S2359:
-            return DayHalf(type == LOCALE_S2359, names.time);
+            return Pattern(UDAT_MEDIUM, UDAT_NONE);
         case LOCALE_SDATE:
             return PatternSeparator(pattern(LOCALE_SSHORTDATE), "/");
         case LOCALE_STIME:
@@ -114,37 +122,6 @@ std::optional<std::string> HostValue(const LocaleNames& names, LCTYPE type) {
         default:
             return std::nullopt;
     }
-}
-
-std::string EnvironmentLocale(const char* category) {
-    for (const char* name : {"LC_ALL", category, "LANG"}) {
-        const char* value = std::getenv(name);
-        if (value && *value) {
-            std::string locale(value);
-            locale = locale.substr(0, locale.find_first_of(".@"));
-            return locale == "C" || locale == "POSIX" ? "en_US" : locale;
-        }
-    }
-    return "en_US";
-}
-
-}  // namespace
-
-const LocaleNames& HostLocales() {
-    static const auto& names = *new LocaleNames{EnvironmentLocale("LC_MESSAGES"), EnvironmentLocale("LC_TIME"),
-                                                EnvironmentLocale("LC_NUMERIC")};
-    return names;
-}
-
-std::optional<std::string> LocaleValue(const LocaleNames& names, LCTYPE type) {
-    if (names.time == "en_US" && names.numbers == "en_US") {
-        for (const Item& item : kAmerican) {
-            if (item.type == type) {
-                return item.value;
-            }
-        }
-    }
-    return HostValue(names, type);
 }
 
 }  // namespace platform::kernel

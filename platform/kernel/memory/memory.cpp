@@ -107,7 +107,7 @@ Block* Resize(Block* block, std::size_t size, bool zero, bool mayMove) {
         block = moved;
     }
     block->size = size;
-    block->discarded = false;
+    block->discarded = block->movable && size == 0;
     if (zero && size > old) {
         std::memset(block->bytes() + old, 0, size - old);
     }
@@ -125,24 +125,6 @@ void* NewMemory(std::size_t size, bool zero) {
         std::memset(memory, 0, size);
     }
     return memory;
-}
-
-HGLOBAL Discard(Block* block) {
-    if (block->locks != 0) {
-        return base::Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
-    }
-    Block* kept = Resize(block, 0, false, true);
-    if (!kept) {
-        return base::Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
-    }
-    kept->discarded = true;
-    return ToGlobal(kept);
-}
-
-HGLOBAL Modify(Block* block, UINT flags) {
-    // A block may become movable, never the other way.
-    block->movable = block->movable || (flags & GMEM_MOVEABLE);
-    return ToGlobal(block);
 }
 
 }  // namespace
@@ -175,12 +157,6 @@ HGLOBAL WINAPI GlobalReAlloc(HGLOBAL memory, SIZE_T size, UINT flags) {
     Block* block = FindBlock(memory);
     if (!block) {
         return nullptr;
-    }
-    if (flags & GMEM_MODIFY) {
-        return Modify(block, flags);
-    }
-    if (block->movable && size == 0) {
-        return Discard(block);
     }
     const bool mayMove = (block->movable && block->locks == 0) || (flags & GMEM_MOVEABLE);
     Block* resized = Resize(block, size, flags & GMEM_ZEROINIT, mayMove);

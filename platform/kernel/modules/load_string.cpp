@@ -6,6 +6,7 @@
 #include <new>
 #include <string>
 
+#include "kernel/guarded.h"
 #include "kernel/text/codepage.h"
 #include "kernel/text/encoding.h"
 #include "kernel/modules/resource.h"
@@ -56,7 +57,7 @@ int WINAPI LoadStringA(HINSTANCE module, UINT id, LPSTR buffer, int size) {
         return 0;
     }
     buffer[0] = '\0';
-    try {
+    return Guarded(0, [&] {
         const Bytes found = FindString(module, id & 0xFFFF);
         std::u16string wide(found.size() / sizeof(WCHAR), u'\0');
         if (wide.empty()) {
@@ -68,8 +69,5 @@ int WINAPI LoadStringA(HINSTANCE module, UINT id, LPSTR buffer, int size) {
         std::memcpy(buffer, text.data(), copied);
         buffer[copied] = '\0';
         return static_cast<int>(copied);
-    } catch (const std::bad_alloc&) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return 0;
-    }
+    });
 }

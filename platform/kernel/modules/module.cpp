@@ -12,6 +12,7 @@
 #include "base/handle.h"
 #include "base/immortal.h"
 #include "base/report.h"
+#include "base/fail.h"
 #include "kernel/text/encoding.h"
 #include "kernel/guarded.h"
 #include "kernel/files/hostpath.h"
@@ -80,28 +81,8 @@ Module* FindByPath(const std::string& path) {
     return nullptr;
 }
 
-// The system's own libraries are this one.
-bool IsSystemName(const std::string& plain) {
-    for (const char* name : {"kernel32", "user32", "gdi32", "advapi32", "comctl32", "comdlg32", "shell32", "ole32"}) {
-        if (plain == name) {
-            return true;
-        }
-    }
-    return false;
-}
-
-Module* System() {
-    static const char inside = 0;
-    const std::string path = PathOf(&inside);
-    Module* module = FindByPath(path);
-    return module ? module : AddModule(path);
-}
-
 Module* FindByName(const std::string& name) {
     const std::string plain = PlainName(name);
-    if (IsSystemName(plain)) {
-        return System();
-    }
     Module* const application = Application();
     if (HasFolder(name)) {
         const std::vector<std::string> files = NamedFiles(name);
@@ -138,22 +119,6 @@ Module* FindModule(HMODULE module) {
 
 void WhenModulesGo(void (*forget)(HINSTANCE)) {
     forgetful = forget;
-}
-
-void NotifyThread(DWORD reason) {
-    std::vector<std::pair<HINSTANCE, BOOL(WINAPI*)(HINSTANCE, DWORD, LPVOID)>> entries;
-    {
-        const std::lock_guard guard(ModuleLock());
-        entries.reserve(Modules().size());
-        for (const auto& module : Modules()) {
-            if (module->entry) {
-                entries.emplace_back(module->handle, module->entry);
-            }
-        }
-    }
-    for (const auto& [handle, entry] : entries) {
-        entry(handle, reason, nullptr);
-    }
 }
 
 }  // namespace platform::kernel
@@ -210,14 +175,12 @@ void CvPlatformDetachModule(HINSTANCE instance) {
 HMODULE WINAPI GetModuleHandleA(LPCSTR name) {
     return Guarded(HMODULE{}, [&]() -> decltype(HMODULE{}) {
         if (name && !IsReadableText(name)) {
-            SetLastError(ERROR_NOACCESS);
-            return nullptr;
+            return base::Fail(ERROR_NOACCESS, nullptr);
         }
         const std::lock_guard guard(ModuleLock());
         const Module* module = name ? FindByName(name) : Application();
         if (!module) {
-            SetLastError(ERROR_MOD_NOT_FOUND);
-            return nullptr;
+            return base::Fail(ERROR_MOD_NOT_FOUND, nullptr);
         }
         return module->handle;
     });
@@ -234,8 +197,7 @@ DWORD WINAPI GetModuleFileNameA(HMODULE handle, LPSTR buffer, DWORD size) {
         const bool fits = path.size() < size;
         const DWORD copied = fits ? static_cast<DWORD>(path.size()) : size - 1;
         if (IsBadWritePtr(buffer, copied + 1)) {
-            SetLastError(ERROR_NOACCESS);
-            return 0;
+            return base::Fail(ERROR_NOACCESS, 0);
         }
         std::memcpy(buffer, path.data(), copied);
         buffer[copied] = '\0';
@@ -247,8 +209,7 @@ DWORD WINAPI GetModuleFileNameA(HMODULE handle, LPSTR buffer, DWORD size) {
 HMODULE WINAPI LoadLibraryA(LPCSTR name) {
     return Guarded(HMODULE{}, [&]() -> decltype(HMODULE{}) {
         if (!IsReadableText(name) || !*name) {
-            SetLastError(ERROR_INVALID_PARAMETER);
-            return nullptr;
+            return base::Fail(ERROR_INVALID_PARAMETER, nullptr);
         }
         {
             const std::lock_guard guard(ModuleLock());
@@ -266,12 +227,10 @@ HMODULE WINAPI LoadLibraryA(LPCSTR name) {
         const bool refused = std::exchange(loading.refused, refusedBefore);
         if (loaded && refused) {
             dlclose(loaded);
-            SetLastError(ERROR_DLL_INIT_FAILED);
-            return nullptr;
+            return base::Fail(ERROR_DLL_INIT_FAILED, nullptr);
         }
         if (!loaded) {
-            SetLastError(ERROR_MOD_NOT_FOUND);
-            return nullptr;
+            return base::Fail(ERROR_MOD_NOT_FOUND, nullptr);
         }
         const std::lock_guard guard(ModuleLock());
         const std::string path = PathOfLoaded(loaded);
@@ -282,8 +241,7 @@ HMODULE WINAPI LoadLibraryA(LPCSTR name) {
         }
         if (!module) {
             dlclose(loaded);
-            SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-            return nullptr;
+            return base::Fail(ERROR_NOT_ENOUGH_MEMORY, nullptr);
         }
         // Another thread may have come first.
         if (++module->loads == 1) {
@@ -302,8 +260,7 @@ BOOL WINAPI FreeLibrary(HMODULE handle) {
         const std::lock_guard guard(ModuleLock());
         Module* module = handle ? FindModule(handle) : nullptr;
         if (!module) {
-            SetLastError(ERROR_INVALID_HANDLE);
-            return FALSE;
+            return base::Fail(ERROR_INVALID_HANDLE, FALSE);
         }
         if (module->loads > 0 && --module->loads == 0) {
             loaded = std::exchange(module->loaded, nullptr);

@@ -36,7 +36,4 @@ Module* FindModule(HMODULE module);
 /// Has a function called for each library that goes, once its entry point was told.
 void WhenModulesGo(void (*forget)(HINSTANCE module));
 
-/// Tells every library's entry point about a thread that begins or ends.
-void NotifyThread(DWORD reason);
-
 }  // namespace platform::kernel

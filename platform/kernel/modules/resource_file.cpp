@@ -37,8 +37,7 @@ class Cursor {
                 return false;
             }
         }
-        name->text = AnsiFromWide(wide);
-        CharUpperBuffA(name->text.data(), static_cast<DWORD>(name->text.size()));
+        name->text = Upper(AnsiFromWide(wide));
         return true;
     }
 
@@ -63,8 +62,7 @@ ResourceName ResourceName::FromArgument(LPCSTR argument) {
     } else if (argument[0] == '#') {
         name.number = static_cast<WORD>(std::strtoul(argument + 1, nullptr, 10));
     } else {
-        name.text = argument;
-        CharUpperBuffA(name.text.data(), static_cast<DWORD>(name.text.size()));
+        name.text = Upper(argument);
     }
     return name;
 }

@@ -68,14 +68,11 @@ UINT WINAPI GetWindowsDirectoryA(LPSTR buffer, UINT size) {
 
 DWORD WINAPI GetTempPathA(DWORD size, LPSTR buffer) {
     const char* folder = std::getenv("TMPDIR");
-    try {
+    return platform::kernel::Guarded(DWORD{0}, [&] {
         std::string path = platform::kernel::WindowsPath(folder && *folder == '/' ? folder : "/tmp");
         if (!path.ends_with('\\')) {
             path += '\\';
         }
         return CopyOut(path, buffer, size);
-    } catch (const std::bad_alloc&) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return 0;
-    }
+    });
 }

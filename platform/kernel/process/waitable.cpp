@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <chrono>
 #include <condition_variable>
+#include <future>
 #include <mutex>
 #include <thread>
 
@@ -14,7 +15,7 @@
 #include "base/immortal.h"
 #include "base/fail.h"
 #include "base/handle.h"
-#include "kernel/modules/module.h"
+#include "kernel/guarded.h"
 
 namespace base = platform::base;
 using base::HandleKind;
@@ -77,14 +78,6 @@ std::shared_ptr<Waitable> FindWaitable(HANDLE handle, std::initializer_list<Hand
         }
     }
     return base::Fail<std::shared_ptr<Waitable>>(ERROR_INVALID_HANDLE, nullptr);
-}
-
-void RunThread(const std::shared_ptr<Waitable>& object, LPTHREAD_START_ROUTINE start, LPVOID parameter) {
-    platform::kernel::NotifyThread(DLL_THREAD_ATTACH);
-    start(parameter);
-    platform::kernel::NotifyThread(DLL_THREAD_DETACH);
-    const std::lock_guard guard(object->lock);
-    object->Signal();
 }
 
 }  // namespace
@@ -164,55 +157,44 @@ HANDLE WINAPI CreateThread(LPSECURITY_ATTRIBUTES, SIZE_T, LPTHREAD_START_ROUTINE
     if (!start || flags != 0) {
         return base::Fail<HANDLE>(ERROR_INVALID_PARAMETER, nullptr);
     }
-    try {
+    return platform::kernel::Guarded(HANDLE{}, [&] {
         auto object = std::make_shared<Waitable>();
+        auto started = std::make_shared<std::promise<DWORD>>();
+        std::future<DWORD> number = started->get_future();
         const HANDLE handle = MakeHandle(HandleKind::Thread, object);
         if (!handle) {
             return base::Fail<HANDLE>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
         }
-        struct Started {
-            std::mutex lock;
-            std::condition_variable changed;
-            DWORD id = 0;
-        };
-        auto started = std::make_shared<Started>();
         try {
             std::thread([=] {
-                {
-                    const std::lock_guard guard(started->lock);
-                    started->id = GetCurrentThreadId();
-                    started->changed.notify_all();
-                }
-                RunThread(object, start, parameter);
+                started->set_value(GetCurrentThreadId());
+                start(parameter);
+                const std::lock_guard guard(object->lock);
+                object->Signal();
             }).detach();
         } catch (...) {
             CloseHandle(handle);
-            return base::Fail<HANDLE>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
+            throw;
         }
-        std::unique_lock guard(started->lock);
-        started->changed.wait(guard, [&] { return started->id != 0; });
+        const DWORD told = number.get();
         if (id) {
-            *id = started->id;
+            *id = told;
         }
         return handle;
-    } catch (...) {
-        return base::Fail<HANDLE>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
-    }
+    });
 }
 
 HANDLE WINAPI CreateEventA(LPSECURITY_ATTRIBUTES, BOOL manualReset, BOOL initialState, LPCSTR name) {
     if (name) {
         return base::Fail<HANDLE>(ERROR_NOT_SUPPORTED, nullptr);  // events are not shared between processes here
     }
-    try {
+    return platform::kernel::Guarded(HANDLE{}, [&] {
         auto object = std::make_shared<Waitable>();
         object->manualReset = manualReset != FALSE;
         object->signalled = initialState != FALSE;
         const HANDLE handle = MakeHandle(HandleKind::Event, object);
         return handle ? handle : base::Fail<HANDLE>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
-    } catch (...) {
-        return base::Fail<HANDLE>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
-    }
+    });
 }
 
 BOOL WINAPI SetEvent(HANDLE event) {

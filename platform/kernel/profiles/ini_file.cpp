@@ -100,30 +100,6 @@ const std::string* IniFile::Find(std::string_view section, std::string_view key)
     return line < lines_.size() ? &lines_[line].value : nullptr;
 }
 
-std::vector<std::string> IniFile::Sections() const {
-    std::vector<std::string> names;
-    for (const Line& line : lines_) {
-        if (line.isSection) {
-            names.push_back(line.name);
-        }
-    }
-    return names;
-}
-
-std::vector<std::string> IniFile::Keys(std::string_view section) const {
-    std::vector<std::string> names;
-    const std::size_t start = SectionStart(Trim(section));
-    if (start < lines_.size()) {
-        const std::size_t end = SectionEnd(start);
-        for (std::size_t i = start + 1; i < end; ++i) {
-            if (lines_[i].isKey) {
-                names.push_back(lines_[i].name);
-            }
-        }
-    }
-    return names;
-}
-
 void IniFile::Set(std::string_view section, std::string_view key, std::string_view value) {
     section = Trim(section);
     key = Trim(key);

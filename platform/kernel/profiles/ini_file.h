@@ -15,9 +15,6 @@ class IniFile {
     /// @returns the value of a key, without blanks around it and without one pair of quotes; null when there is none.
     const std::string* Find(std::string_view section, std::string_view key) const;
 
-    std::vector<std::string> Sections() const;
-    std::vector<std::string> Keys(std::string_view section) const;
-
     /// Sets a key, in place where it exists; the section is added at the end when it is missing.
     void Set(std::string_view section, std::string_view key, std::string_view value);
     /// @returns whether there was one.

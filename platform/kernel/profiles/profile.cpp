@@ -23,6 +23,7 @@
 #include "base/report.h"
 #include "base/immortal.h"
 #include "base/state.h"
+#include "base/fail.h"
 #include "kernel/text/encoding.h"
 #include "kernel/guarded.h"
 #include "kernel/files/hostfile.h"
@@ -162,20 +163,17 @@ template <class Edit>
 BOOL Change(const std::string& path, Edit edit) {
     const std::string folder = path.substr(0, path.find_last_of('/'));
     if (folder == base::StateFolder() && !base::EnsureStateFolder()) {
-        SetLastError(ERROR_ACCESS_DENIED);
-        return FALSE;
+        return base::Fail(ERROR_ACCESS_DENIED, FALSE);
     }
     const Descriptor lock(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (lock.number < 0) {
-        SetLastError(ERROR_PATH_NOT_FOUND);
-        return FALSE;
+        return base::Fail(ERROR_PATH_NOT_FOUND, FALSE);
     }
     flock(lock.number, LOCK_EX);
     struct stat status {};
     const std::optional<std::string> text = ReadText(path, &status);
     if (!text) {
-        SetLastError(ERROR_ACCESS_DENIED);
-        return FALSE;
+        return base::Fail(ERROR_ACCESS_DENIED, FALSE);
     }
     IniFile file(*text);
     edit(file);
@@ -219,29 +217,6 @@ std::string ProfilePath(LPCSTR file) {
     return path;
 }
 
-// Names, each ended by a NUL, and one more NUL behind the last.
-DWORD DeliverList(const std::vector<std::string>& names, LPSTR buffer, DWORD size) {
-    std::string list;
-    for (const std::string& name : names) {
-        list += name + '\0';
-    }
-    if (list.size() + 1 <= size) {
-        std::memcpy(buffer, list.data(), list.size());
-        buffer[list.size()] = '\0';
-        if (list.empty() && size > 1) {
-            buffer[1] = '\0';
-        }
-        return static_cast<DWORD>(list.size());
-    }
-    if (size < 2) {
-        std::memset(buffer, 0, size);
-        return 0;
-    }
-    std::memcpy(buffer, list.data(), size - 2);
-    buffer[size - 2] = buffer[size - 1] = '\0';
-    return size - 2;
-}
-
 DWORD DeliverText(std::string_view text, LPSTR buffer, DWORD size) {
     if (size == 0) {
         return 0;
@@ -254,6 +229,9 @@ DWORD DeliverText(std::string_view text, LPSTR buffer, DWORD size) {
 
 /// The value of a key: from the file, or for win.ini's international settings from the host.
 std::optional<std::string> Value(const std::string& path, LPCSTR section, LPCSTR key) {
+    if (!section || !key) {
+        return std::nullopt;
+    }
     const std::shared_ptr<const IniFile> file = Load(path);
     if (const std::string* value = file->Find(section, key)) {
         return *value;
@@ -270,13 +248,7 @@ DWORD GetText(const std::string& path, LPCSTR section, LPCSTR key, LPCSTR defaul
     if (!buffer) {
         return 0;
     }
-    if (!section || !key) {
-        const std::shared_ptr<const IniFile> file = Load(path);
-        const std::vector<std::string> names = section ? file->Keys(section) : file->Sections();
-        if (!names.empty()) {
-            return DeliverList(names, buffer, size);
-        }
-    } else if (const std::optional<std::string> value = Value(path, section, key)) {
+    if (const std::optional<std::string> value = Value(path, section, key)) {
         return DeliverText(*value, buffer, size);
     }
     std::string_view otherwise = defaultText ? defaultText : "";
@@ -289,7 +261,7 @@ DWORD GetText(const std::string& path, LPCSTR section, LPCSTR key, LPCSTR defaul
 // A sign, then digits up to the first character that is none; "0x" begins hexadecimal ones. An empty value is no
 // number.
 UINT GetNumber(const std::string& path, LPCSTR section, LPCSTR key, INT defaultValue) {
-    const std::optional<std::string> value = section && key ? Value(path, section, key) : std::nullopt;
+    const std::optional<std::string> value = Value(path, section, key);
     if (!value || value->empty()) {
         return static_cast<UINT>(defaultValue);
     }
@@ -313,11 +285,7 @@ UINT GetNumber(const std::string& path, LPCSTR section, LPCSTR key, INT defaultV
 
 BOOL Write(const std::string& path, LPCSTR section, LPCSTR key, LPCSTR text) {
     if (!section) {
-        if (!key && !text) {
-            return FALSE;  // the documented way to flush a cache, which there is none of
-        }
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return FALSE;
+        return base::Fail(ERROR_INVALID_PARAMETER, FALSE);
     }
     return Change(path, [&](IniFile& file) {
         if (!key) {

@@ -11,6 +11,7 @@
 #include <string>
 
 #include "base/report.h"
+#include "base/fail.h"
 #include "kernel/text/above.h"
 
 namespace platform::kernel {
@@ -18,7 +19,7 @@ namespace {
 
 struct PageName {
     UINT number;
-    UINT oem;  ///< the page of consoles that goes with it; 0 for those that are such pages themselves
+    UINT oem;  ///< the page of consoles that goes with it
     const char* converter;
 };
 
@@ -27,10 +28,7 @@ constexpr PageName kPages[] = {
     {1253, 737, "ibm-5349_P100-1998"}, {1254, 857, "ibm-5350_P100-1998"}, {1255, 862, "ibm-9447_P100-2002"},
     {1256, 720, "ibm-9448_X100-2005"}, {1257, 775, "ibm-9449_P100-2002"}, {1258, 1258, "ibm-5354_P100-1998"},
     {874, 874, "windows-874-2000"},    {932, 932, "ibm-943_P15A-2003"},   {936, 936, "windows-936-2000"},
-    {949, 949, "windows-949-2000"},    {950, 950, "windows-950-2000"},    {437, 0, "ibm-437_P100-1995"},
-    {850, 0, "ibm-850_P100-1995"},     {852, 0, "ibm-852_P100-1995"},     {866, 0, "ibm-866_P100-1995"},
-    {737, 0, "ibm-737_P100-1997"},     {857, 0, "ibm-857_P100-1995"},     {862, 0, "ibm-862_P100-1995"},
-    {720, 0, "ibm-720_P100-1997"},     {775, 0, "ibm-775_P100-1996"},
+    {949, 949, "windows-949-2000"},    {950, 950, "windows-950-2000"},
 };
 
 const PageName* NameOf(UINT number) {
@@ -152,7 +150,7 @@ std::unique_ptr<CodePage> Latin() {
     return page;
 }
 
-// The environment comes before win.ini's [cvutil32] codepage. Only a page that can be an ANSI page can be chosen.
+// The environment comes before win.ini's [cvutil32] codepage.
 UINT ChosenPage() {
     const char* variable = std::getenv("CVUTIL32_CODEPAGE");
     const std::string chosen = variable ? variable : WinIniValue("cvutil32", "codepage").value_or(std::string());
@@ -161,9 +159,8 @@ UINT ChosenPage() {
 
 const CodePage* MakeActive() {
     try {
-        const PageName* name = NameOf(ChosenPage());
-        const CodePage* page = name && name->oem ? FindCodePage(name->number) : nullptr;
-        if (page) {
+        const UINT chosen = ChosenPage();
+        if (const CodePage* page = chosen == CP_ACP ? nullptr : FindCodePage(chosen)) {
             return page;
         }
     } catch (const std::bad_alloc&) {
@@ -185,12 +182,12 @@ char16_t CodePage::Decode(const unsigned char* text, std::size_t left, std::size
 }
 
 const CodePage* FindCodePage(UINT number) {
-    if (number == CP_ACP || number == CP_THREAD_ACP) {
+    if (number == CP_ACP) {
         return &ActiveCodePage();
     }
     static std::mutex lock;
     static auto& built = *new std::map<UINT, std::unique_ptr<CodePage>>;
-    const PageName* name = NameOf(number == CP_OEMCP ? GetOEMCP() : number);
+    const PageName* name = NameOf(number);
     if (!name) {
         return nullptr;
     }
@@ -216,6 +213,7 @@ const CodePage& ActiveCodePage() {
 using platform::kernel::ActiveCodePage;
 using platform::kernel::CodePage;
 using platform::kernel::FindCodePage;
+namespace base = platform::base;
 
 UINT WINAPI GetACP(void) {
     return ActiveCodePage().number;
@@ -223,14 +221,13 @@ UINT WINAPI GetACP(void) {
 
 UINT WINAPI GetOEMCP(void) {
     const platform::kernel::PageName* name = platform::kernel::NameOf(GetACP());
-    return name && name->oem ? name->oem : 437;
+    return name ? name->oem : 437;
 }
 
 BOOL WINAPI GetCPInfo(UINT codePage, LPCPINFO info) {
     const CodePage* page = codePage == CP_UTF8 ? nullptr : FindCodePage(codePage);
     if (!info || (!page && codePage != CP_UTF8)) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return FALSE;
+        return base::Fail(ERROR_INVALID_PARAMETER, FALSE);
     }
     *info = CPINFO{page ? (page->doubleByte ? 2u : 1u) : 4u, {'?', 0}, {}};
     if (page && page->doubleByte) {

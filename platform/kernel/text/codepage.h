@@ -29,8 +29,7 @@ struct CodePage {
     char16_t Decode(const unsigned char* text, std::size_t left, std::size_t* size) const;
 };
 
-/// @returns the tables of a page (CP_ACP and CP_THREAD_ACP are the one in use, CP_OEMCP the one of consoles), or null
-/// when the page is not supported.
+/// @returns the tables of a page (CP_ACP is the one in use), or null when the page is not supported.
 const CodePage* FindCodePage(UINT number);
 
 /// @returns the tables of the page in use; never null.

@@ -9,6 +9,7 @@
 #include <set>
 #include <utility>
 
+#include "base/fail.h"
 #include "kernel/text/codepage.h"
 #include "kernel/text/weights.h"
 
@@ -17,6 +18,7 @@ using platform::kernel::ByteWeights;
 using platform::kernel::CodePage;
 using platform::kernel::Weight;
 using platform::kernel::Weights;
+namespace base = platform::base;
 
 namespace {
 
@@ -67,15 +69,15 @@ int Order(std::uint64_t first, std::uint64_t second) {
 // Hands out the weights of a text one by one.
 class Reader {
   public:
-    Reader(const Tables& tables, Text text, DWORD flags) : tables_(tables), text_(text), flags_(flags) {}
+    Reader(const Tables& tables, Text text) : tables_(tables), text_(text) {}
 
     /// @returns the next weight that letters, accents and case are compared by; one with primary 0 at the end.
     Weight Next() {
         Weight weight;
         while (Step(weight)) {
-            if (IsSpecial(weight)) {
+            if (weight.special) {
                 sawSpecial_ = true;
-            } else if (weight.primary && !IsIgnored(weight)) {
+            } else if (weight.primary) {
                 return weight;
             }
         }
@@ -86,10 +88,10 @@ class Reader {
     std::pair<std::uint32_t, std::uint8_t> NextSpecial() {
         Weight weight;
         while (Step(weight)) {
-            if (IsSpecial(weight)) {
+            if (weight.special) {
                 return {place_, weight.special};
             }
-            place_ += weight.primary && !IsIgnored(weight);
+            place_ += weight.primary != 0;
         }
         return {0, 0};
     }
@@ -99,13 +101,6 @@ class Reader {
     }
 
   private:
-    bool IsIgnored(const Weight& weight) const {
-        return weight.symbol && (flags_ & NORM_IGNORESYMBOLS);
-    }
-    bool IsSpecial(const Weight& weight) const {
-        return weight.special && !(flags_ & SORT_STRINGSORT) && !IsIgnored(weight);
-    }
-
     bool Step(Weight& weight) {
         if (pending_) {
             pending_ = false;
@@ -133,7 +128,6 @@ class Reader {
 
     const Tables& tables_;
     Text text_;
-    DWORD flags_;
     Weight second_;
     bool pending_ = false;
     bool sawSpecial_ = false;
@@ -160,14 +154,13 @@ int CompareSpecials(Reader first, Reader second) {
 std::uint8_t CaseMask(DWORD flags) {
     int mask = 0xFF;
     mask &= flags & NORM_IGNORECASE ? ~Weight::kUpper : 0xFF;
-    mask &= flags & NORM_IGNOREKANATYPE ? ~Weight::kKatakana : 0xFF;
     mask &= flags & NORM_IGNOREWIDTH ? ~Weight::kWide : 0xFF;
     return static_cast<std::uint8_t>(mask);
 }
 
 int CompareWeights(const Tables& tables, Text first, Text second, DWORD flags) {
-    Reader a(tables, first, flags);
-    Reader b(tables, second, flags);
+    Reader a(tables, first);
+    Reader b(tables, second);
     const std::uint8_t caseMask = CaseMask(flags);
     int accents = CSTR_EQUAL;
     int cases = CSTR_EQUAL;
@@ -180,7 +173,7 @@ int CompareWeights(const Tables& tables, Text first, Text second, DWORD flags) {
         if (x.primary == 0) {
             break;
         }
-        if (accents == CSTR_EQUAL && !(flags & NORM_IGNORENONSPACE)) {
+        if (accents == CSTR_EQUAL) {
             accents = Order(x.accent, y.accent);
         }
         if (cases == CSTR_EQUAL) {
@@ -196,16 +189,13 @@ int CompareWeights(const Tables& tables, Text first, Text second, DWORD flags) {
     if (!a.sawSpecial() && !b.sawSpecial()) {
         return CSTR_EQUAL;
     }
-    return CompareSpecials(Reader(tables, first, flags), Reader(tables, second, flags));
+    return CompareSpecials(Reader(tables, first), Reader(tables, second));
 }
 
 // Texts are told apart by the first bytes of different rank, if only simple ones stand before them; texts of simple
 // bytes throughout also by their length, their accents and their case. Everything else needs the weights.
 int CompareTexts(Text first, Text second, DWORD flags) {
     const Tables& tables = TheTables();
-    if (flags & NORM_IGNORESYMBOLS) {
-        return CompareWeights(tables, first, second, flags);
-    }
     const std::uint8_t caseMask = CaseMask(flags);
     int accents = CSTR_EQUAL;
     int cases = CSTR_EQUAL;
@@ -231,7 +221,7 @@ int CompareTexts(Text first, Text second, DWORD flags) {
         }
         return x == first.end ? CSTR_LESS_THAN : CSTR_GREATER_THAN;
     }
-    return accents != CSTR_EQUAL && !(flags & NORM_IGNORENONSPACE) ? accents : cases;
+    return accents != CSTR_EQUAL ? accents : cases;
 }
 
 Text MakeText(LPCSTR text, int size) {
@@ -255,21 +245,16 @@ int CompareOrdered(LPCSTR first, LPCSTR second, DWORD flags) {
 }  // namespace
 
 int WINAPI CompareStringA(LCID locale, DWORD flags, LPCSTR first, int firstSize, LPCSTR second, int secondSize) {
-    constexpr DWORD known = NORM_IGNORECASE | NORM_IGNORENONSPACE | NORM_IGNORESYMBOLS | NORM_IGNOREKANATYPE |
-                            NORM_IGNOREWIDTH | SORT_STRINGSORT | LOCALE_USE_CP_ACP;
-    if (flags & ~known) {
-        SetLastError(ERROR_INVALID_FLAGS);
-        return 0;
+    if (flags & ~DWORD{NORM_IGNORECASE | NORM_IGNOREWIDTH}) {
+        return base::Fail(ERROR_INVALID_FLAGS, 0);
     }
     if (!first || !second || (locale >> 16) > 0xF) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return 0;
+        return base::Fail(ERROR_INVALID_PARAMETER, 0);
     }
     try {
         return CompareTexts(MakeText(first, firstSize), MakeText(second, secondSize), flags);
     } catch (const std::bad_alloc&) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return 0;
+        return base::Fail(ERROR_NOT_ENOUGH_MEMORY, 0);
     }
 }
 

@@ -43,4 +43,9 @@ std::string Utf8FromAnsi(std::string_view text) {
     return IsAscii(text) ? std::string(text) : Narrow(CP_UTF8, Widen(CP_ACP, text));
 }
 
+std::string Upper(std::string text) {
+    CharUpperBuffA(text.data(), static_cast<DWORD>(text.size()));
+    return text;
+}
+
 }  // namespace platform::kernel

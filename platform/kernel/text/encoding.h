@@ -12,4 +12,7 @@ std::string AnsiFromUtf8(std::string_view text);
 std::string AnsiFromWide(std::u16string_view text);
 std::string Utf8FromAnsi(std::string_view text);
 
+/// @returns a text of the code page in use in capitals.
+std::string Upper(std::string text);
+
 }  // namespace platform::kernel

@@ -8,10 +8,12 @@
 #include <string>
 
 #include "base/fail.h"
+#include "kernel/guarded.h"
 #include "kernel/text/codepage.h"
 
 using platform::kernel::CodePage;
 using platform::kernel::FindCodePage;
+using platform::kernel::Guarded;
 
 namespace base = platform::base;
 
@@ -107,24 +109,20 @@ std::uint16_t BestFit(const CodePage& page, char16_t character) {
     return isNear ? page.fromUnicode[parts[0]] : std::uint16_t{0};
 }
 
-bool EncodePage(const CodePage& page, const char16_t* text, std::size_t size, const char* replacement, bool bestFit,
-                std::string& out) {
-    bool replaced = false;
+void EncodePage(const CodePage& page, const char16_t* text, std::size_t size, std::string& out) {
     for (std::size_t at = 0; at < size; ++at) {
         std::uint16_t bytes = page.fromUnicode[text[at]];
-        if (bytes == 0 && text[at] != 0 && bestFit) {
+        if (bytes == 0 && text[at] != 0) {
             bytes = BestFit(page, text[at]);
         }
         if (bytes == 0 && text[at] != 0) {
-            replaced = true;
-            out += replacement;
+            out += '?';
         } else if (bytes > 0xFF) {
             out += {static_cast<char>(bytes >> 8), static_cast<char>(bytes)};
         } else {
             out += static_cast<char>(bytes);
         }
     }
-    return replaced;
 }
 
 template <class Char>
@@ -141,18 +139,17 @@ int Deliver(const std::basic_string<Char>& result, Char* to, int toSize) {
 }  // namespace
 
 int WINAPI MultiByteToWideChar(UINT codePage, DWORD flags, LPCSTR from, int fromSize, LPWSTR to, int toSize) {
-    constexpr DWORD known = MB_PRECOMPOSED | MB_COMPOSITE | MB_USEGLYPHCHARS | MB_ERR_INVALID_CHARS;
     if (!from || fromSize == 0 || toSize < 0 || (toSize > 0 && !to)) {
         return base::Fail(ERROR_INVALID_PARAMETER, 0);
     }
-    if ((flags & ~known) || (codePage == CP_UTF8 && (flags & ~MB_ERR_INVALID_CHARS))) {
+    if (flags & ~DWORD{MB_PRECOMPOSED | MB_ERR_INVALID_CHARS}) {
         return base::Fail(ERROR_INVALID_FLAGS, 0);
     }
     const CodePage* page = codePage == CP_UTF8 ? nullptr : FindCodePage(codePage);
     if (!page && codePage != CP_UTF8) {
         return base::Fail(ERROR_INVALID_PARAMETER, 0);
     }
-    try {
+    return Guarded(0, [&] {
         const auto* bytes = reinterpret_cast<const unsigned char*>(from);
         const std::size_t size = fromSize < 0 ? std::strlen(from) + 1 : static_cast<std::size_t>(fromSize);
         std::u16string out;
@@ -162,44 +159,27 @@ int WINAPI MultiByteToWideChar(UINT codePage, DWORD flags, LPCSTR from, int from
             return base::Fail(ERROR_NO_UNICODE_TRANSLATION, 0);
         }
         return Deliver(out, to, toSize);
-    } catch (const std::bad_alloc&) {
-        return base::Fail(ERROR_NOT_ENOUGH_MEMORY, 0);
-    }
+    });
 }
 
 int WINAPI WideCharToMultiByte(UINT codePage, DWORD flags, LPCWSTR from, int fromSize, LPSTR to, int toSize,
                                LPCSTR defaultChar, BOOL* usedDefaultChar) {
-    constexpr DWORD known = WC_COMPOSITECHECK | WC_DISCARDNS | WC_SEPCHARS | WC_DEFAULTCHAR | WC_NO_BEST_FIT_CHARS;
-    if (!from || fromSize == 0 || toSize < 0 || (toSize > 0 && !to)) {
+    if (!from || fromSize == 0 || toSize < 0 || (toSize > 0 && !to) || defaultChar || usedDefaultChar) {
         return base::Fail(ERROR_INVALID_PARAMETER, 0);
     }
-    if (codePage == CP_UTF8 && (defaultChar || usedDefaultChar)) {
-        return base::Fail(ERROR_INVALID_PARAMETER, 0);
-    }
-    if (flags & ~known) {
+    if (flags) {
         return base::Fail(ERROR_INVALID_FLAGS, 0);
     }
     const CodePage* page = codePage == CP_UTF8 ? nullptr : FindCodePage(codePage);
     if (!page && codePage != CP_UTF8) {
         return base::Fail(ERROR_INVALID_PARAMETER, 0);
     }
-    try {
+    return Guarded(0, [&] {
         const std::size_t size =
             fromSize < 0 ? std::char_traits<char16_t>::length(from) + 1 : static_cast<std::size_t>(fromSize);
         std::string out;
         out.reserve(size);
-        bool replaced = false;
-        if (page) {
-            replaced =
-                EncodePage(*page, from, size, defaultChar ? defaultChar : "?", !(flags & WC_NO_BEST_FIT_CHARS), out);
-        } else {
-            EncodeUtf8(from, size, out);
-        }
-        if (usedDefaultChar) {
-            *usedDefaultChar = replaced;
-        }
+        page ? EncodePage(*page, from, size, out) : EncodeUtf8(from, size, out);
         return Deliver(out, to, toSize);
-    } catch (const std::bad_alloc&) {
-        return base::Fail(ERROR_NOT_ENOUGH_MEMORY, 0);
-    }
+    });
 }

@@ -85,7 +85,6 @@ char16_t PlainForm(char16_t character) {
 // A symbol that has a place of its own; else one with primary 0.
 Weight Listed(char16_t character) {
     Weight weight;
-    weight.symbol = true;
     if (const std::size_t place = kPunctuation.find(character); place != kPunctuation.npos) {
         weight.primary = kFirstPunctuation + static_cast<std::uint32_t>(place);
         weight.special = place < kHyphens ? static_cast<std::uint8_t>(place + 1) : 0;
@@ -118,7 +117,6 @@ Weight Plain(char16_t character) {
     if (character == 0xAD) {
         weight.special = kHyphens + 1;
         weight.primary = kFirstPunctuation + 2;
-        weight.symbol = true;
         return weight;
     }
     if (character >= 0xBC && character <= 0xBE) {
@@ -128,7 +126,6 @@ Weight Plain(char16_t character) {
     }
     if (!u_isalnum(character) || u_charType(character) == U_MODIFIER_LETTER) {
         const auto kind = U_GET_GC_MASK(character);
-        weight.symbol = true;
         weight.primary = (kind & (U_GC_P_MASK | U_GC_SK_MASK | U_GC_Z_MASK) ? kOtherPunctuation
                           : kind & U_GC_SM_MASK                             ? kOtherMath
                                                                             : kOtherSymbols) +

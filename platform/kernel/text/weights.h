@@ -14,7 +14,6 @@ struct Weight {
     std::uint8_t accent = 0;
     std::uint8_t letterCase = 0;  ///< kUpper | kKatakana | kWide
     std::uint8_t special = 0;     ///< weighs only where all else is equal
-    bool symbol = false;          ///< left out by NORM_IGNORESYMBOLS
 
     static constexpr std::uint8_t kUpper = 1, kKatakana = 2, kWide = 4;
 };

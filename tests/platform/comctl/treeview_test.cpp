@@ -257,19 +257,20 @@ TEST_F(TreeViewTest, EachItemThatGoesIsTold) {
     Add("grandchild", child, TVI_LAST, 3);
     Add("b", TVI_ROOT, TVI_LAST, 4);
     Select(a);
-    EXPECT_TRUE(Send(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(a)));
+    EXPECT_TRUE(Send(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(TVI_ROOT)));
     std::vector<LPARAM> gone;
     for (const Told& one : ToldOf(TVN_DELETEITEMA)) {
         gone.push_back(one.param);
     }
     std::sort(gone.begin(), gone.end());
-    EXPECT_EQ((std::vector<LPARAM>{1, 2, 3}), gone);
-    EXPECT_EQ("b", Text(Caret()));
-    EXPECT_EQ(1, Send(TVM_GETCOUNT));
+    EXPECT_EQ((std::vector<LPARAM>{1, 2, 3, 4}), gone);
+    EXPECT_EQ(nullptr, Caret());
+    EXPECT_EQ(0, Send(TVM_GETCOUNT));
     told_.clear();
+    Add("c", TVI_ROOT, TVI_LAST, 5);
     DestroyWindow(tree_);
     ASSERT_EQ(1U, ToldOf(TVN_DELETEITEMA).size());
-    EXPECT_EQ(4, ToldOf(TVN_DELETEITEMA)[0].param);
+    EXPECT_EQ(5, ToldOf(TVN_DELETEITEMA)[0].param);
 }
 
 TEST_F(TreeViewTest, KeysWalkThroughTheRows) {

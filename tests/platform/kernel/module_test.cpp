@@ -26,19 +26,6 @@ TEST(Modules, TheApplicationIsTheNullModule) {
     EXPECT_EQ(cut[6], '#') << "nothing behind the buffer is touched";
 }
 
-TEST(Modules, SystemFunctionsAreFoundByName) {
-    HMODULE system = GetModuleHandleA("KERNEL32");
-    ASSERT_NE(system, nullptr);
-    EXPECT_EQ(GetModuleHandleA("kernel32.dll"), system);
-    void* found = reinterpret_cast<void*>(GetProcAddress(system, "lstrlenA"));
-    const auto length = reinterpret_cast<int(WINAPI*)(LPCSTR)>(found);
-    ASSERT_NE(length, nullptr);
-    EXPECT_EQ(length("four"), 4);
-    SetLastError(0);
-    EXPECT_EQ(GetProcAddress(system, "NoSuchFunctionAnywhere"), nullptr);
-    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_PROC_NOT_FOUND));
-}
-
 TEST(Modules, AMissingLibraryIsNotFound) {
     SetLastError(0);
     EXPECT_EQ(LoadLibraryA("NoSuchLibraryAnywhere.dll"), nullptr);

@@ -60,16 +60,4 @@ TEST_F(ProfileTest, CutsAtTheBuffer) {
     EXPECT_STREQ(one, "a");
 }
 
-TEST_F(ProfileTest, ListsKeys) {
-    WriteProfileStringA(kSection, "one", "1");
-    WriteProfileStringA(kSection, "two", "2");
-    char buffer[64];
-    std::memset(buffer, '#', sizeof buffer);
-    EXPECT_EQ(GetProfileStringA(kSection, nullptr, "", buffer, sizeof buffer), 8u);
-    EXPECT_EQ(std::memcmp(buffer, "one\0two\0\0", 9), 0);
-    std::memset(buffer, '#', sizeof buffer);
-    EXPECT_EQ(GetProfileStringA(kSection, nullptr, "", buffer, 7), 5u);
-    EXPECT_EQ(std::memcmp(buffer, "one\0t\0", 6), 0);
-}
-
 }  // namespace

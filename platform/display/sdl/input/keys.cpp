@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <array>
+#include <iterator>
 
 namespace platform::display {
 namespace {
@@ -13,44 +14,6 @@ struct Entry {
 };
 
 constexpr Entry kEntries[] = {
-    {SDL_SCANCODE_A, {'A', 0x1E, false}},
-    {SDL_SCANCODE_B, {'B', 0x30, false}},
-    {SDL_SCANCODE_C, {'C', 0x2E, false}},
-    {SDL_SCANCODE_D, {'D', 0x20, false}},
-    {SDL_SCANCODE_E, {'E', 0x12, false}},
-    {SDL_SCANCODE_F, {'F', 0x21, false}},
-    {SDL_SCANCODE_G, {'G', 0x22, false}},
-    {SDL_SCANCODE_H, {'H', 0x23, false}},
-    {SDL_SCANCODE_I, {'I', 0x17, false}},
-    {SDL_SCANCODE_J, {'J', 0x24, false}},
-    {SDL_SCANCODE_K, {'K', 0x25, false}},
-    {SDL_SCANCODE_L, {'L', 0x26, false}},
-    {SDL_SCANCODE_M, {'M', 0x32, false}},
-    {SDL_SCANCODE_N, {'N', 0x31, false}},
-    {SDL_SCANCODE_O, {'O', 0x18, false}},
-    {SDL_SCANCODE_P, {'P', 0x19, false}},
-    {SDL_SCANCODE_Q, {'Q', 0x10, false}},
-    {SDL_SCANCODE_R, {'R', 0x13, false}},
-    {SDL_SCANCODE_S, {'S', 0x1F, false}},
-    {SDL_SCANCODE_T, {'T', 0x14, false}},
-    {SDL_SCANCODE_U, {'U', 0x16, false}},
-    {SDL_SCANCODE_V, {'V', 0x2F, false}},
-    {SDL_SCANCODE_W, {'W', 0x11, false}},
-    {SDL_SCANCODE_X, {'X', 0x2D, false}},
-    {SDL_SCANCODE_Y, {'Y', 0x15, false}},
-    {SDL_SCANCODE_Z, {'Z', 0x2C, false}},
-
-    {SDL_SCANCODE_1, {'1', 0x02, false}},
-    {SDL_SCANCODE_2, {'2', 0x03, false}},
-    {SDL_SCANCODE_3, {'3', 0x04, false}},
-    {SDL_SCANCODE_4, {'4', 0x05, false}},
-    {SDL_SCANCODE_5, {'5', 0x06, false}},
-    {SDL_SCANCODE_6, {'6', 0x07, false}},
-    {SDL_SCANCODE_7, {'7', 0x08, false}},
-    {SDL_SCANCODE_8, {'8', 0x09, false}},
-    {SDL_SCANCODE_9, {'9', 0x0A, false}},
-    {SDL_SCANCODE_0, {'0', 0x0B, false}},
-
     {SDL_SCANCODE_RETURN, {VK_RETURN, 0x1C, false}},
     {SDL_SCANCODE_ESCAPE, {VK_ESCAPE, 0x01, false}},
     {SDL_SCANCODE_BACKSPACE, {VK_BACK, 0x0E, false}},
@@ -72,16 +35,6 @@ constexpr Entry kEntries[] = {
     {SDL_SCANCODE_SLASH, {VK_OEM_2, 0x35, false}},
     {SDL_SCANCODE_NONUSBACKSLASH, {VK_OEM_102, 0x56, false}},
 
-    {SDL_SCANCODE_F1, {VK_F1, 0x3B, false}},
-    {SDL_SCANCODE_F2, {VK_F2, 0x3C, false}},
-    {SDL_SCANCODE_F3, {VK_F3, 0x3D, false}},
-    {SDL_SCANCODE_F4, {VK_F4, 0x3E, false}},
-    {SDL_SCANCODE_F5, {VK_F5, 0x3F, false}},
-    {SDL_SCANCODE_F6, {VK_F6, 0x40, false}},
-    {SDL_SCANCODE_F7, {VK_F7, 0x41, false}},
-    {SDL_SCANCODE_F8, {VK_F8, 0x42, false}},
-    {SDL_SCANCODE_F9, {VK_F9, 0x43, false}},
-    {SDL_SCANCODE_F10, {VK_F10, 0x44, false}},
     {SDL_SCANCODE_F11, {VK_F11, 0x57, false}},
     {SDL_SCANCODE_F12, {VK_F12, 0x58, false}},
 
@@ -131,8 +84,19 @@ constexpr Entry kEntries[] = {
 
 using Table = std::array<Key, SDL_NUM_SCANCODES>;
 
+// By the host's numbers: A to Z, 1 to 0.
+constexpr unsigned kLetterCodes[] = {0x1E, 0x30, 0x2E, 0x20, 0x12, 0x21, 0x22, 0x23, 0x17, 0x24, 0x25, 0x26, 0x32,
+                                     0x31, 0x18, 0x19, 0x10, 0x13, 0x1F, 0x14, 0x16, 0x2F, 0x11, 0x2D, 0x15, 0x2C};
+
 constexpr Table MakeTable() {
     Table table{};
+    for (unsigned i = 0; i < std::size(kLetterCodes); ++i) {
+        table[SDL_SCANCODE_A + i] = {'A' + i, kLetterCodes[i], false};
+    }
+    for (unsigned i = 0; i < 10; ++i) {
+        table[SDL_SCANCODE_1 + i] = {'0' + (i + 1) % 10, 0x02 + i, false};
+        table[SDL_SCANCODE_F1 + i] = {VK_F1 + i, 0x3B + i, false};
+    }
     for (const Entry& entry : kEntries) {
         table[entry.host] = entry.key;
     }
@@ -143,32 +107,9 @@ constexpr Table kTable = MakeTable();
 
 // The keys that the number pad's digits and its point stand for while Num Lock is off; 0 for all others.
 unsigned PadMovement(SDL_Scancode host) {
-    switch (host) {
-        case SDL_SCANCODE_KP_0:
-            return VK_INSERT;
-        case SDL_SCANCODE_KP_1:
-            return VK_END;
-        case SDL_SCANCODE_KP_2:
-            return VK_DOWN;
-        case SDL_SCANCODE_KP_3:
-            return VK_NEXT;
-        case SDL_SCANCODE_KP_4:
-            return VK_LEFT;
-        case SDL_SCANCODE_KP_5:
-            return VK_CLEAR;
-        case SDL_SCANCODE_KP_6:
-            return VK_RIGHT;
-        case SDL_SCANCODE_KP_7:
-            return VK_HOME;
-        case SDL_SCANCODE_KP_8:
-            return VK_UP;
-        case SDL_SCANCODE_KP_9:
-            return VK_PRIOR;
-        case SDL_SCANCODE_KP_PERIOD:
-            return VK_DELETE;
-        default:
-            return 0;
-    }
+    constexpr unsigned kFromOne[] = {VK_END,  VK_DOWN, VK_NEXT,  VK_LEFT,   VK_CLEAR, VK_RIGHT,
+                                     VK_HOME, VK_UP,   VK_PRIOR, VK_INSERT, VK_DELETE};
+    return host >= SDL_SCANCODE_KP_1 && host <= SDL_SCANCODE_KP_PERIOD ? kFromOne[host - SDL_SCANCODE_KP_1] : 0;
 }
 
 }  // namespace

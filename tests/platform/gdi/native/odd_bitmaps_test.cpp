@@ -22,7 +22,7 @@ TEST(OddBitmaps, AreRefused) {
         }
     }
     // A bitmap of another kind, a stale one, none: nothing is written.
-    const HBITMAP stale = CreateBitmap(3, 3, 1, 24, nullptr);
+    const HBITMAP stale = CreateBitmap(3, 3, 1, 32, nullptr);
     DeleteObject(stale);
     const HDC dc = CreateCompatibleDC(nullptr);
     for (const HBITMAP bad : {stale, HBITMAP{nullptr}, reinterpret_cast<HBITMAP>(INT_PTR{-1}),
@@ -33,7 +33,7 @@ TEST(OddBitmaps, AreRefused) {
         EXPECT_EQ(99U, untouched);
         EXPECT_EQ(0, GetObjectA(bad, sizeof(untouched), &untouched));
     }
-    const HBITMAP one = CreateBitmap(1, 1, 1, 24, nullptr);
+    const HBITMAP one = CreateBitmap(1, 1, 1, 32, nullptr);
     DWORD pixels[2] = {99, 99};
     header = DibHeader(1, 1, 32);
     EXPECT_EQ(0, GetDIBits(dc, one, 0xFFFFFFFF, 0xFFFFFFFF, pixels, header.Info(), DIB_RGB_COLORS));
@@ -43,9 +43,10 @@ TEST(OddBitmaps, AreRefused) {
     EXPECT_EQ(0, GetDIBits(nullptr, one, 0, 1, pixels, header.Info(), DIB_RGB_COLORS));
     DeleteObject(one);
     DeleteDC(dc);
-    EXPECT_EQ(nullptr, CreateBitmap(0x7FFFFFFF, 0x7FFFFFFF, 1, 24, nullptr));
+    EXPECT_EQ(nullptr, CreateBitmap(0x7FFFFFFF, 0x7FFFFFFF, 1, 32, nullptr));
     EXPECT_EQ(nullptr, CreateBitmap(3, 3, 1, 0xFFFFFFFF, nullptr));
-    EXPECT_EQ(nullptr, CreateBitmap(-1, 3, 1, 24, nullptr));
+    EXPECT_EQ(nullptr, CreateBitmap(3, 3, 1, 24, nullptr));
+    EXPECT_EQ(nullptr, CreateBitmap(-1, 3, 1, 32, nullptr));
 }
 
 }  // namespace

@@ -160,28 +160,4 @@ TEST(Modules, LibrariesAreFoundInAnyCaseAndVersion) {
     EXPECT_EQ(LoadLibraryA(folder.Path("none").c_str()), nullptr);
 }
 
-int notices[4];
-
-DWORD WINAPI Nothing(LPVOID) {
-    return 0;
-}
-
-TEST(Modules, EntryPointsHearOfThreads) {
-    CvModuleStart start{};
-    start.entry = [](HINSTANCE, DWORD reason, LPVOID) -> BOOL {
-        ++notices[reason];
-        return TRUE;
-    };
-    start.address = reinterpret_cast<const void*>(&GlobalAlloc);
-    HINSTANCE instance = CvPlatformAttachModule(&start);
-    HANDLE thread = CreateThread(nullptr, 0, Nothing, nullptr, 0, nullptr);
-    WaitForSingleObject(thread, INFINITE);
-    CloseHandle(thread);
-    EXPECT_EQ(notices[DLL_PROCESS_ATTACH], 1);
-    EXPECT_EQ(notices[DLL_THREAD_ATTACH], 1);
-    EXPECT_EQ(notices[DLL_THREAD_DETACH], 1);
-    CvPlatformDetachModule(instance);
-    EXPECT_EQ(notices[DLL_PROCESS_DETACH], 1);
-}
-
 }  // namespace

