@@ -13,6 +13,7 @@ constexpr unsigned kNever = 0;
 
 bool g_exhausted = false;
 unsigned g_countdown = kNever;  // of the allocations that report a failure; the others are the tests' own
+thread_local bool t_nothing = false;
 std::atomic<std::size_t> g_blocks{0};
 
 void* Allocate(std::size_t size) {
@@ -24,13 +25,13 @@ void* Allocate(std::size_t size) {
 }  // namespace
 
 void* operator new(std::size_t size, std::nothrow_t const&) noexcept {
-    bool const fails = g_exhausted || g_countdown == 1;
+    bool const fails = t_nothing || g_exhausted || g_countdown == 1;
     g_countdown -= g_countdown != kNever ? 1 : 0;
     return fails ? nullptr : Allocate(size);
 }
 
 void* operator new(std::size_t size) {
-    if (void* const block = Allocate(size)) {
+    if (void* const block = t_nothing ? nullptr : Allocate(size)) {
         return block;
     }
     throw std::bad_alloc();
@@ -82,6 +83,14 @@ NoMemory::NoMemory() {
 
 NoMemory::~NoMemory() {
     g_exhausted = false;
+}
+
+NoFreeStore::NoFreeStore() {
+    t_nothing = true;
+}
+
+NoFreeStore::~NoFreeStore() {
+    t_nothing = false;
 }
 
 LiveBlocks LiveBlocks::Now() {

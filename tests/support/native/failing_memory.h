@@ -43,6 +43,14 @@ class NoMemory {
     ~NoMemory();
 };
 
+/// Nothing at all comes from the free store for this thread as long as it lives: neither for the library nor for the
+/// platform layer, which has to get along by what it holds already.
+class NoFreeStore {
+  public:
+    NoFreeStore();
+    ~NoFreeStore();
+};
+
 struct LiveBlocks {
     std::size_t freeStore;
     std::size_t global;
