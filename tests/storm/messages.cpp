@@ -67,9 +67,10 @@ Kind const kAny[] = {
 };
 
 Kind const kEdit[] = {
-    KIND(WM_CUT, Zero, Zero),        KIND(WM_COPY, Zero, Zero),        KIND(WM_PASTE, Zero, Zero),
-    KIND(WM_CLEAR, Zero, Zero),      KIND(WM_UNDO, Zero, Zero),        KIND(EM_GETSEL, Zero, Zero),
-    KIND(EM_SETSEL, Number, Number), KIND(EM_LIMITTEXT, Number, Zero), KIND(WM_CHAR, Character, Code),
+    KIND(WM_CUT, Zero, Zero),         KIND(WM_COPY, Zero, Zero),        KIND(WM_PASTE, Zero, Zero),
+    KIND(WM_CLEAR, Zero, Zero),       KIND(WM_UNDO, Zero, Zero),        KIND(EM_GETSEL, Zero, Zero),
+    KIND(EM_SETSEL, Number, Number),  KIND(EM_LIMITTEXT, Number, Zero), KIND(WM_CHAR, Character, Code),
+    KIND(EM_SETREADONLY, Bool, Zero),
 };
 
 Kind const kList[] = {
@@ -79,11 +80,13 @@ Kind const kList[] = {
     KIND(LB_GETSELCOUNT, Zero, Zero),      KIND(LB_GETSELITEMS, Code, Numbers),  KIND(LB_SETCOLUMNWIDTH, Number, Zero),
     KIND(LB_SETTOPINDEX, Number, Zero),    KIND(LB_GETITEMRECT, Number, Rect),   KIND(LB_SELITEMRANGE, Bool, Pair),
     KIND(LB_SETANCHORINDEX, Number, Zero), KIND(LB_SETCARETINDEX, Number, Bool), KIND(LB_GETITEMHEIGHT, Code, Zero),
+    KIND(LB_DELETESTRING, Code, Zero),     KIND(LB_SETITEMDATA, Number, Number),
 };
 
 Kind const kCombo[] = {
-    KIND(CB_ADDSTRING, Zero, Text),   KIND(CB_INSERTSTRING, Number, Text), KIND(CB_RESETCONTENT, Zero, Zero),
-    KIND(CB_SETCURSEL, Number, Zero), KIND(WM_KEYDOWN, Key, Code),         KIND(CB_GETDROPPEDCONTROLRECT, Zero, Rect),
+    KIND(CB_ADDSTRING, Zero, Text),    KIND(CB_INSERTSTRING, Number, Text),  KIND(CB_RESETCONTENT, Zero, Zero),
+    KIND(CB_SETCURSEL, Number, Zero),  KIND(WM_KEYDOWN, Key, Code),          KIND(CB_GETDROPPEDCONTROLRECT, Zero, Rect),
+    KIND(CB_SHOWDROPDOWN, Bool, Zero), KIND(CB_SETITEMDATA, Number, Number),
 };
 
 Kind const kButton[] = {

@@ -25,7 +25,7 @@ void Place() {
     static UINT const flags[] = {SWP_NOMOVE,       SWP_NOSIZE,     SWP_NOZORDER,   SWP_NOACTIVATE,
                                  SWP_FRAMECHANGED, SWP_SHOWWINDOW, SWP_HIDEWINDOW, SWP_NOREDRAW};
     HWND const window = AnyWindow();
-    HWND const after = Die().OneIn(2) ? HWND_TOP : AnyWindow();
+    HWND const after = Die().OneIn(2) ? HWND_TOP : Die().OneIn(2) ? HWND_BOTTOM : AnyWindow();
     Describe(window);
     UINT some = 0;
     for (int i = 0; i < 3; ++i) {

@@ -99,11 +99,36 @@ HBITMAP WINAPI CreateDIBSection(HDC, const BITMAPINFO* info, UINT usage, void** 
 
 int WINAPI GetDIBits(HDC context, HBITMAP handle, UINT start, UINT lines, LPVOID bits, LPBITMAPINFO info, UINT usage) {
     const auto* bitmap = FindObject<Bitmap>(handle);
-    const auto layout = bitmap && FindObject<DeviceContext>(context) ? Checked(info, usage) : std::nullopt;
-    if (!layout || !bits || start >= static_cast<UINT>(layout->height)) {
+    if (!bitmap || !FindObject<DeviceContext>(context)) {
+        return 0;
+    }
+    if (info && !bits && info->bmiHeader.biSize == sizeof(BITMAPINFOHEADER) && info->bmiHeader.biBitCount == 0) {
+        // Only the bitmap's own measures are asked for.
+        const auto size = bitmap->rowBytes * static_cast<std::size_t>(bitmap->height);
+        info->bmiHeader = {sizeof(BITMAPINFOHEADER),
+                           bitmap->width,
+                           bitmap->height,
+                           1,
+                           static_cast<WORD>(bitmap->bitsPerPixel),
+                           BI_RGB,
+                           static_cast<DWORD>(size),
+                           0,
+                           0,
+                           0,
+                           0};
+        return TRUE;
+    }
+    const auto layout = Checked(info, usage);
+    if (!layout) {
         return 0;
     }
     info->bmiHeader.biSizeImage = static_cast<DWORD>(layout->Bytes());
+    if (!bits) {
+        return bitmap->height;
+    }
+    if (start >= static_cast<UINT>(layout->height)) {
+        return 0;
+    }
     const int count = static_cast<int>(std::min(lines, static_cast<UINT>(layout->height) - start));
     if (count == 0) {
         return 0;

@@ -8,9 +8,8 @@
 /// everything as it was. F4 and Alt with an arrow drop the list and close it. Arrow keys, Page Up, Page Down and letters go to
 /// other items.
 ///
-/// The parent hears through WM_COMMAND: CBN_DROPDOWN before the list drops, CBN_SELCHANGE, at which the edit control still holds
-/// the former text. Messages do not notify. Owner drawing is that of the
-/// list box, with ODT_COMBOBOX and the combo box as its control; the field is measured as item -1 and drawn with
+/// The parent hears through WM_COMMAND, in this order: CBN_DROPDOWN before the list drops; CBN_CLOSEUP; CBN_SELCHANGE, at which
+/// the edit control still holds the former text. Messages that select do not notify. Owner drawing is that of the list box, with ODT_COMBOBOX and the combo box as its control; the field is measured as item -1 and drawn with
 /// ODS_COMBOBOXEDIT.
 #pragma once
 
@@ -23,6 +22,7 @@
 #define CBS_DROPDOWNLIST 0x0003L
 #define CBS_OWNERDRAWFIXED 0x0010L
 #define CBS_AUTOHSCROLL 0x0040L
+#define CBS_SORT 0x0100L
 #define CBS_HASSTRINGS 0x0200L
 
 // --- notifications (WM_COMMAND)
@@ -31,6 +31,7 @@
 #define CBN_KILLFOCUS 4
 #define CBN_EDITCHANGE 5
 #define CBN_DROPDOWN 7
+#define CBN_CLOSEUP 8
 
 // --- results
 
@@ -44,5 +45,8 @@
 #define CB_INSERTSTRING 0x014A
 #define CB_RESETCONTENT 0x014B
 #define CB_SETCURSEL 0x014E
+#define CB_SHOWDROPDOWN 0x014F
+#define CB_GETITEMDATA 0x0150
+#define CB_SETITEMDATA 0x0151
 #define CB_GETDROPPEDCONTROLRECT 0x0152
 #define CB_FINDSTRINGEXACT 0x0158

@@ -22,6 +22,7 @@ typedef VOID(CALLBACK* TIMERPROC)(HWND window, UINT message, UINT_PTR id, DWORD 
 #define WM_NULL 0x0000
 #define WM_CREATE 0x0001
 #define WM_DESTROY 0x0002
+#define WM_MOVE 0x0003
 #define WM_SIZE 0x0005
 #define WM_ACTIVATE 0x0006
 #define WM_SETFOCUS 0x0007
@@ -42,6 +43,7 @@ typedef VOID(CALLBACK* TIMERPROC)(HWND window, UINT message, UINT_PTR id, DWORD 
 #define WM_CANCELMODE 0x001F
 #define WM_SETCURSOR 0x0020
 #define WM_MOUSEACTIVATE 0x0021
+#define WM_GETMINMAXINFO 0x0024
 #define WM_NEXTDLGCTL 0x0028
 #define WM_DRAWITEM 0x002B
 #define WM_MEASUREITEM 0x002C
@@ -54,6 +56,8 @@ typedef VOID(CALLBACK* TIMERPROC)(HWND window, UINT message, UINT_PTR id, DWORD 
 #define WM_HELP 0x0053
 #define WM_CONTEXTMENU 0x007B
 #define WM_DISPLAYCHANGE 0x007E
+#define WM_GETICON 0x007F
+#define WM_SETICON 0x0080
 #define WM_NCCREATE 0x0081
 #define WM_NCDESTROY 0x0082
 #define WM_NCHITTEST 0x0084
@@ -99,6 +103,7 @@ typedef VOID(CALLBACK* TIMERPROC)(HWND window, UINT message, UINT_PTR id, DWORD 
 #define WM_MBUTTONDBLCLK 0x0209
 #define WM_MOUSEWHEEL 0x020A
 #define WM_MOUSELAST 0x020A
+#define WM_PARENTNOTIFY 0x0210
 #define WM_CAPTURECHANGED 0x0215
 #define WM_EXITSIZEMOVE 0x0232
 #define WM_CUT 0x0300
@@ -144,6 +149,10 @@ typedef VOID(CALLBACK* TIMERPROC)(HWND window, UINT message, UINT_PTR id, DWORD 
 #define DLGC_WANTCHARS 0x0080
 #define DLGC_STATIC 0x0100
 #define DLGC_BUTTON 0x2000
+
+// WM_SETICON, WM_GETICON
+#define ICON_SMALL 0
+#define ICON_BIG 1
 
 // WM_ENTERIDLE
 #define MSGF_DIALOGBOX 0
@@ -199,7 +208,6 @@ WINUSERAPI UINT WINAPI RegisterWindowMessageA(LPCSTR name);
 #define MAXIMUM_WAIT_OBJECTS 64
 #endif
 
-/// A loop takes the messages of all windows of its thread: `window` is null.
 WINUSERAPI BOOL WINAPI GetMessageA(LPMSG message, HWND window, UINT first, UINT last);
 WINUSERAPI BOOL WINAPI PeekMessageA(LPMSG message, HWND window, UINT first, UINT last, UINT remove);
 WINUSERAPI BOOL WINAPI TranslateMessage(const MSG* message);

@@ -29,6 +29,7 @@
 #define WS_OVERLAPPEDWINDOW (WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MINIMIZEBOX | WS_MAXIMIZEBOX)
 
 #define WS_EX_DLGMODALFRAME 0x00000001
+#define WS_EX_NOPARENTNOTIFY 0x00000004
 #define WS_EX_TOPMOST 0x00000008
 #define WS_EX_TOOLWINDOW 0x00000080
 #define WS_EX_WINDOWEDGE 0x00000100
@@ -40,8 +41,13 @@
 
 // --- creating and destroying
 
+#define CW_USEDEFAULT ((int)0x80000000)
+
 #define HWND_DESKTOP ((HWND)0)
 #define HWND_TOP ((HWND)0)
+#define HWND_BOTTOM ((HWND)1)
+#define HWND_TOPMOST ((HWND)-1)
+#define HWND_NOTOPMOST ((HWND)-2)
 
 typedef struct tagCREATESTRUCTA {
     LPVOID lpCreateParams;
@@ -162,6 +168,14 @@ typedef struct tagWINDOWPOS {
     int cy;
     UINT flags;
 } WINDOWPOS, *LPWINDOWPOS, *PWINDOWPOS;
+
+typedef struct tagMINMAXINFO {
+    POINT ptReserved;
+    POINT ptMaxSize;
+    POINT ptMaxPosition;
+    POINT ptMinTrackSize;
+    POINT ptMaxTrackSize;
+} MINMAXINFO, *PMINMAXINFO, *LPMINMAXINFO;
 
 #define WPF_RESTORETOMAXIMIZED 0x0002
 

@@ -150,7 +150,8 @@ void OnKeyUp(HWND button, ButtonData& data, WPARAM key) {
 
 /// '+', '=' and '-' set the check boxes that are no more than checked or not.
 bool IsCheckKey(DWORD kind, WPARAM character) {
-    return kind == BS_AUTOCHECKBOX && (character == '+' || character == '=' || character == '-');
+    return (kind == BS_CHECKBOX || kind == BS_AUTOCHECKBOX) &&
+           (character == '+' || character == '=' || character == '-');
 }
 
 void OnCharacter(HWND button, const ButtonData& data, WPARAM character) {
@@ -160,7 +161,8 @@ void OnCharacter(HWND button, const ButtonData& data, WPARAM character) {
     const UINT wanted = character == '-' ? BST_UNCHECKED : BST_CHECKED;
     if ((data.state & 3) == wanted)
         return;
-    SendMessageA(button, BM_SETCHECK, wanted, 0);
+    if (kind == BS_AUTOCHECKBOX)
+        SendMessageA(button, BM_SETCHECK, wanted, 0);
     NotifyParent(button, BN_CLICKED);
 }
 
@@ -181,6 +183,7 @@ LRESULT ButtonDialogCode(HWND button, LPARAM lParam) {
             return DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON;
         case BS_DEFPUSHBUTTON:
             return DLGC_BUTTON | DLGC_DEFPUSHBUTTON;
+        case BS_RADIOBUTTON:
         case BS_AUTORADIOBUTTON:
             return DLGC_BUTTON | DLGC_RADIOBUTTON;
         case BS_GROUPBOX:

@@ -19,11 +19,11 @@ inline DWORD ButtonKind(DWORD style) {
 }
 
 inline bool IsCheckKind(DWORD kind) {
-    return kind == BS_AUTOCHECKBOX || kind == BS_AUTO3STATE;
+    return kind == BS_CHECKBOX || kind == BS_AUTOCHECKBOX || kind == BS_AUTO3STATE;
 }
 
 inline bool IsRadioKind(DWORD kind) {
-    return kind == BS_AUTORADIOBUTTON;
+    return kind == BS_RADIOBUTTON || kind == BS_AUTORADIOBUTTON;
 }
 
 /// Draws the whole button; `action` is what an owner-drawn one's parent is told (ODA_).

@@ -128,12 +128,15 @@ UINT BoxState(const ButtonPainter& painter) {
 void PaintBox(const ButtonPainter& painter) {
     const HBRUSH brush = ControlBrush(painter.button, painter.context, WM_CTLCOLORSTATIC);
     FillRect(painter.context, &painter.client, brush);
+    const bool boxAtRight = painter.style & BS_LEFTTEXT;
     RECT area = painter.client;
-    area.left += kBoxSize + kBoxGap;
+    (boxAtRight ? area.right : area.left) += boxAtRight ? -(kBoxSize + kBoxGap) : kBoxSize + kBoxGap;
     const UINT format = TextFormat(painter);
     RECT place = PlaceText(painter, area, format);
 
     RECT box = painter.client;
+    if (boxAtRight)
+        box.left = box.right - kBoxSize;
     box.right = box.left + kBoxSize;
     box.top += (painter.client.bottom - painter.client.top - kBoxSize) / 2;
     box.bottom = box.top + kBoxSize;

@@ -1,4 +1,4 @@
-// The "static" class: labels and icons.
+// The "static" class: labels, frames, etched lines and icons.
 #include "user/controls/static.h"
 
 namespace platform::user {
@@ -27,6 +27,11 @@ void SinkEdge(HWND control) {
         SetWindowLongA(control, GWL_EXSTYLE, GetWindowLongA(control, GWL_EXSTYLE) | WS_EX_STATICEDGE);
 }
 
+void Notify(HWND control, UINT code) {
+    if (ControlStyle(control) & SS_NOTIFY)
+        NotifyParent(control, code);
+}
+
 }  // namespace
 
 LRESULT CALLBACK StaticProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -42,12 +47,13 @@ LRESULT CALLBACK StaticProcedure(HWND window, UINT message, WPARAM wParam, LPARA
         case WM_GETDLGCODE:
             return DLGC_STATIC;
         case WM_NCHITTEST:
-            return HTTRANSPARENT;
+            return ControlStyle(window) & SS_NOTIFY ? HTCLIENT : HTTRANSPARENT;
         case WM_ERASEBKGND:
             return TRUE;
         case WM_PAINT:
             return PaintWith(window, [&](HDC context, const RECT&) { PaintStatic(window, *data, context); });
         case WM_ENABLE:
+            Notify(window, wParam ? STN_ENABLE : STN_DISABLE);
             InvalidateRect(window, nullptr, TRUE);
             return 0;
         case WM_SETTEXT:
@@ -59,6 +65,12 @@ LRESULT CALLBACK StaticProcedure(HWND window, UINT message, WPARAM wParam, LPARA
             return 0;
         case WM_GETFONT:
             return reinterpret_cast<LRESULT>(data->font);
+        case WM_LBUTTONDOWN:
+            Notify(window, STN_CLICKED);
+            return 0;
+        case WM_LBUTTONDBLCLK:
+            Notify(window, STN_DBLCLK);
+            return 0;
         case STM_SETICON:
             return SetStaticIcon(window, *data, reinterpret_cast<HICON>(wParam));
         case STM_GETICON:

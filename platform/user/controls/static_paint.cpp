@@ -1,4 +1,4 @@
-// How static controls look: text and icons.
+// How static controls look: text, frames, etched lines and icons.
 #include "user/controls/static.h"
 #include "user/resource/icons.h"
 
@@ -13,6 +13,9 @@ UINT TextFormat(DWORD style) {
             break;
         case SS_RIGHT:
             format |= DT_RIGHT | DT_EXPANDTABS | DT_WORDBREAK;
+            break;
+        case SS_SIMPLE:
+            format |= DT_SINGLELINE;
             break;
         case SS_LEFTNOWORDWRAP:
             format |= DT_EXPANDTABS;
@@ -79,8 +82,35 @@ struct StaticPainter {
         SendMessageA(parent, WM_DRAWITEM, item.CtlID, reinterpret_cast<LPARAM>(&item));
     }
 
+    void Frame(int colour) const {
+        FrameRect(context, &client, GetSysColorBrush(colour));
+    }
+
+    void Edges(UINT sides) const {
+        RECT place = client;
+        DrawEdge(context, &place, EDGE_ETCHED, sides);
+    }
+
     void Paint() const {
         switch (StaticKind(style)) {
+            case SS_BLACKFRAME:
+                Frame(COLOR_3DDKSHADOW);
+                break;
+            case SS_GRAYFRAME:
+                Frame(COLOR_3DSHADOW);
+                break;
+            case SS_WHITEFRAME:
+                Frame(COLOR_3DHIGHLIGHT);
+                break;
+            case SS_ETCHEDHORZ:
+                Edges(BF_TOP | BF_BOTTOM);
+                break;
+            case SS_ETCHEDVERT:
+                Edges(BF_LEFT | BF_RIGHT);
+                break;
+            case SS_ETCHEDFRAME:
+                Edges(BF_RECT);
+                break;
             case SS_OWNERDRAW:
                 AskOwner();
                 break;

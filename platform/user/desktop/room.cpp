@@ -58,7 +58,7 @@ void FollowRoom(const SentMessage& sent) {
     SendMessageA(handle, WM_DISPLAYCHANGE, 32, MAKELPARAM(screen.right, screen.bottom));
     SendMessageA(handle, WM_SETTINGCHANGE, SPI_SETWORKAREA, 0);
     RECT rect{};
-    RECT zoomed{};
+    bool zoomed = false;
     bool lost = false;
     {
         UserGuard guard(UserLock());
@@ -67,17 +67,16 @@ void FollowRoom(const SentMessage& sent) {
             return;
         }
         const bool iconic = (window->style & WS_MINIMIZE) != 0;
-        if ((window->style & WS_MAXIMIZE) != 0 && (window->style & WS_VISIBLE) != 0) {
-            zoomed = MaximisedPlace(window);
-        }
+        zoomed = (window->style & WS_MAXIMIZE) != 0 && (window->style & WS_VISIBLE) != 0;
         rect = window->windowRect;
         lost = !InReach(rect, screen) && !IsRectEmpty(&rect);
-        if ((iconic || gdi::Holds(zoomed)) && !InReach(window->restoredRect, screen)) {
+        if ((iconic || zoomed) && !InReach(window->restoredRect, screen)) {
             window->restoredRect = BroughtInto(window->restoredRect, WorkArea());
         }
     }
-    if (gdi::Holds(zoomed)) {
-        SetWindowPos(handle, nullptr, zoomed.left, zoomed.top, zoomed.right - zoomed.left, zoomed.bottom - zoomed.top,
+    if (zoomed) {
+        const RECT place = MaximisedPlace(handle);
+        SetWindowPos(handle, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
                      SWP_NOZORDER | SWP_NOACTIVATE);
     } else if (lost) {
         rect = BroughtInto(rect, WorkArea());

@@ -66,7 +66,7 @@ POINT PlaceDialog(const DialogTemplate& dialogTemplate, HWND owner, DWORD style,
 
 HWND CreateItem(HWND dialog, HINSTANCE instance, const DialogItem& item, int baseX, int baseY) {
     DWORD style = (item.style & ~DWORD{WS_POPUP}) | WS_CHILD;
-    DWORD exStyle = item.exStyle;
+    DWORD exStyle = item.exStyle | WS_EX_NOPARENTNOTIFY;
     // Dialogs look three-dimensional: a control's border is a sunken edge.
     if ((style & WS_CAPTION) == WS_BORDER) {
         style &= ~DWORD{WS_BORDER};

@@ -177,7 +177,8 @@ int ShowBox(HWND owner, LPCSTR text, LPCSTR caption, UINT type) {
         return 0;
     }
     const ButtonSet& set = kSets[kind];
-    const Box box{set.buttons[0].id, HasCancel(set), IconOf(type)};
+    const int chosen = static_cast<int>((type & MB_DEFMASK) >> 8);
+    const Box box{set.buttons[chosen < set.count ? chosen : 0].id, HasCancel(set), IconOf(type)};
     const DialogTemplate layout = LayOut(text ? text : "", caption, set, box.icon != nullptr);
     const INT_PTR result = RunDialog(nullptr, layout, owner, BoxProcedure, reinterpret_cast<LPARAM>(&box));
     return result > 0 ? static_cast<int>(result) : 0;

@@ -1,6 +1,7 @@
 // DefWindowProcA: what a window does with a message that it has no use for itself.
 #include <algorithm>
 #include <new>
+#include <utility>
 
 #include "gdi/context/device_context.h"
 #include "gdi/context/objects.h"
@@ -54,14 +55,13 @@ LRESULT EraseBackground(HWND handle, HDC context) {
 }
 
 /// Limits a top-level window with a sizing border to what it says of its smallest and largest size.
-void LimitSize(const Window* window, WINDOWPOS* position) {
-    const DWORD style = window->style;
+void LimitSize(HWND handle, DWORD style, WINDOWPOS* position) {
     if ((position->flags & SWP_NOSIZE) || !(style & WS_THICKFRAME) || (style & WS_MINIMIZE) || IsChildStyle(style)) {
         return;
     }
-    const SizeLimits limits = LimitsOf(window);
-    position->cx = std::clamp<int>(position->cx, limits.least.x, limits.most.x);
-    position->cy = std::clamp<int>(position->cy, limits.least.y, limits.most.y);
+    const MINMAXINFO limits = QueryMinMax(handle);
+    position->cx = std::clamp<int>(position->cx, limits.ptMinTrackSize.x, limits.ptMaxTrackSize.x);
+    position->cy = std::clamp<int>(position->cy, limits.ptMinTrackSize.y, limits.ptMaxTrackSize.y);
 }
 
 /// Takes the text colour and the background colour in turns.
@@ -123,6 +123,36 @@ LRESULT ActivateByMouse(HWND handle, WPARAM wParam, LPARAM lParam) {
     return MA_ACTIVATE;
 }
 
+void SetRedraw(HWND handle, bool redraw) {
+    const UserGuard guard(UserLock());
+    Window* window = PeekWindow(handle);
+    if (!window) {
+        return;
+    }
+    if (redraw) {
+        window->style |= WS_VISIBLE;
+    } else {
+        window->style &= ~static_cast<DWORD>(WS_VISIBLE);
+        window->update = gdi::Region();
+    }
+    WindowsChanged();
+}
+
+LRESULT SetIcon(HWND handle, bool big, HICON icon) {
+    UserHold hold(UserLock());
+    Window* window = PeekWindow(handle);
+    if (!window) {
+        return 0;
+    }
+    const HICON before = std::exchange(big ? window->bigIcon : window->smallIcon, icon);
+    const bool hasCaption = CaptionHeight(window->style, window->exStyle) && IsShown(window);
+    hold.unlock();
+    if (hasCaption) {
+        PaintFrame(handle);
+    }
+    return reinterpret_cast<LRESULT>(before);
+}
+
 }  // namespace
 }  // namespace platform::user
 
@@ -164,6 +194,9 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
             return CopyText(window->text, wParam, reinterpret_cast<LPSTR>(lParam));
         case WM_GETTEXTLENGTH:
             return static_cast<LRESULT>(window->text.size());
+        case WM_SETREDRAW:
+            SetRedraw(handle, wParam != 0);
+            return 0;
         case WM_PAINT: {
             PAINTSTRUCT paint;
             if (BeginPaint(handle, &paint)) {
@@ -181,13 +214,18 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
         case WM_CTLCOLORSTATIC:
             return ControlColour(message, reinterpret_cast<HDC>(wParam));
         case WM_WINDOWPOSCHANGING:
-            LimitSize(window, reinterpret_cast<WINDOWPOS*>(lParam));
+            LimitSize(handle, window->style, reinterpret_cast<WINDOWPOS*>(lParam));
             return 0;
-        case WM_WINDOWPOSCHANGED:
-            if (!(reinterpret_cast<const WINDOWPOS*>(lParam)->flags & kNoClientSize)) {
+        case WM_WINDOWPOSCHANGED: {
+            const UINT flags = reinterpret_cast<const WINDOWPOS*>(lParam)->flags;
+            if (!(flags & kNoClientMove)) {
+                SendMove(handle);
+            }
+            if (!(flags & kNoClientSize)) {
                 SendSize(handle);
             }
             return 0;
+        }
         case WM_CLOSE:
             DestroyWindow(handle);
             return 0;
@@ -229,6 +267,10 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
             return 0;
         case WM_VKEYTOITEM:
             return -1;
+        case WM_GETICON:
+            return reinterpret_cast<LRESULT>(wParam == ICON_BIG ? window->bigIcon : window->smallIcon);
+        case WM_SETICON:
+            return SetIcon(handle, wParam == ICON_BIG, reinterpret_cast<HICON>(lParam));
         case WM_CANCELMODE:
             LeaveModes(handle);
             return 0;

@@ -72,7 +72,8 @@ HICON CaptionIcon(const Window* window) {
     if (!(window->style & WS_SYSMENU) || (window->exStyle & (WS_EX_TOOLWINDOW | WS_EX_DLGMODALFRAME))) {
         return nullptr;
     }
-    return window->windowClass->icon;
+    const HICON own = window->smallIcon ? window->smallIcon : window->bigIcon;
+    return own ? own : window->windowClass->icon;
 }
 
 CaptionParts LayOutCaption(const Window* window, RECT windowRect) {
@@ -207,12 +208,34 @@ bool SetHitCursor(HWND hit, int hitCode, UINT mouseMessage) {
 
 constexpr POINT kLeastCaptioned{112, 27};
 
-SizeLimits LimitsOf(const Window* window) {
-    const int frame = FrameWidth(window->style, window->exStyle);
-    // The least size has room for a caption with its buttons; a mere frame needs its own edges only.
-    const bool plain = !(window->style & (WS_BORDER | WS_DLGFRAME));
-    return {plain ? POINT{2 * frame, 2 * frame} : kLeastCaptioned,
-            {GetSystemMetrics(SM_CXSCREEN) + 12, GetSystemMetrics(SM_CYSCREEN) + 12}};
+MINMAXINFO QueryMinMax(HWND handle) {
+    MINMAXINFO limits{};
+    {
+        const UserGuard guard(UserLock());
+        const Window* window = PeekWindow(handle);
+        if (!window) {
+            return limits;
+        }
+        const int frame = FrameWidth(window->style, window->exStyle);
+        // A maximised child fills its parent's client area, other windows the work area.
+        RECT ground{};
+        if (window->parent && window->parent != Desktop()) {
+            ground = window->parent->clientRect;
+        } else {
+            SystemParametersInfoA(SPI_GETWORKAREA, 0, &ground, 0);
+        }
+        limits.ptMaxSize = {ground.right - ground.left + 2 * frame, ground.bottom - ground.top + 2 * frame};
+        limits.ptMaxPosition = {-frame, -frame};
+        // The least size has room for a caption with its buttons; a mere frame needs its own edges only.
+        const bool plain = !(window->style & (WS_BORDER | WS_DLGFRAME));
+        limits.ptMinTrackSize = plain ? POINT{2 * frame, 2 * frame} : kLeastCaptioned;
+    }
+    limits.ptMaxTrackSize = {GetSystemMetrics(SM_CXSCREEN) + 12, GetSystemMetrics(SM_CYSCREEN) + 12};
+    SendMessageA(handle, WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
+    const POINT least = limits.ptMinTrackSize;
+    POINT& most = limits.ptMaxTrackSize;
+    most = {std::max(least.x, most.x), std::max(least.y, most.y)};
+    return limits;
 }
 
 void OnFrameDoubleClick(const Window* window, int hitCode, LPARAM where) {

@@ -77,13 +77,14 @@ POINT InSight(HWND handle, POINT point) {
 }
 
 /// The rectangle after its edge, or all of it, followed the pointer by an offset.
-RECT Follow(const RECT& start, int part, int dx, int dy, const SizeLimits& limits) {
+RECT Follow(const RECT& start, int part, int dx, int dy, const MINMAXINFO& limits) {
     RECT rect = start;
     if (part == HTCAPTION) {
         OffsetRect(&rect, dx, dy);
         return rect;
     }
-    const auto& [least, most] = limits;
+    const POINT least = limits.ptMinTrackSize;
+    const POINT most = limits.ptMaxTrackSize;
     if (Touches(part, {HTLEFT, HTTOPLEFT, HTBOTTOMLEFT})) {
         rect.left = std::clamp(rect.left + dx, rect.right - most.x, rect.right - least.x);
     }
@@ -136,7 +137,7 @@ struct MoveDrag {
     HWND window;
     int part;
     RECT start{};
-    SizeLimits limits{};
+    MINMAXINFO limits{};
     int dx = 0;
     int dy = 0;
 
@@ -196,11 +197,8 @@ WPARAM KeyOf(const MSG& message) {
 void MoveOrSize(HWND handle, int part, bool byMouse, POINT from) {
     MoveDrag drag{handle, part};
     GetWindowRect(handle, &drag.start);
-    {
-        const UserGuard guard(UserLock());
-        if (const Window* window = PeekWindow(handle)) {
-            drag.limits = LimitsOf(window);
-        }
+    if (part != HTCAPTION) {
+        drag.limits = QueryMinMax(handle);
     }
     HCURSOR cursor = nullptr;
     if (!byMouse) {

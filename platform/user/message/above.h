@@ -30,9 +30,9 @@ std::uint64_t CheckCaret(ThreadState* self);
 
 // --- painting
 
-/// @returns the next window of a thread that is to get WM_PAINT; parents before children, top-level windows from the top of the
-/// z-order. Sends nothing. Lock held.
-Window* NextPaintWindow(ThreadState* thread);
+/// @returns the next window of a thread that is to get WM_PAINT: `within` (null: any) or a descendant; parents before
+/// children, top-level windows from the top of the z-order. Sends nothing. Lock held.
+Window* NextPaintWindow(ThreadState* thread, Window* within);
 
 /// Calls a window's procedure with WM_PAINT. Until that paints, the queue has no second WM_PAINT for the window: a procedure that
 /// takes messages first would get it for ever. Same thread; no lock held.

@@ -13,6 +13,7 @@ namespace platform::user {
 namespace {
 
 struct Filter {
+    HWND window = nullptr;
     UINT first = 0;
     UINT last = 0;
 
@@ -23,10 +24,25 @@ struct Filter {
     bool Wants(UINT message) const {
         return Spans(message, message);
     }
+
+    bool WantsWindow(HWND candidate) const {
+        if (window == nullptr || candidate == window) {
+            return true;
+        }
+        if (window == kThreadOnly) {
+            return candidate == nullptr;
+        }
+        const Window* parent = PeekWindow(window);
+        const Window* child = PeekWindow(candidate);
+        return parent != nullptr && child != nullptr && IsAncestor(parent, child);
+    }
+
+    static inline const HWND kThreadOnly = reinterpret_cast<HWND>(static_cast<INT_PTR>(-1));
 };
 
 bool WantsCooked(const MSG& message, const void* filter) {
-    return static_cast<const Filter*>(filter)->Wants(message.message);
+    const auto* wanted = static_cast<const Filter*>(filter);
+    return wanted->Wants(message.message) && wanted->WantsWindow(message.hwnd);
 }
 
 void NoteTaken(ThreadState* self, const MSG& message) {
@@ -37,7 +53,8 @@ void NoteTaken(ThreadState* self, const MSG& message) {
 bool TakePosted(ThreadState* self, const Filter& filter, bool remove, MSG* message) {
     for (auto each = self->posted.begin(); each != self->posted.end(); ++each) {
         // The end of a program must reach its loop, whatever it was waiting for.
-        if (each->message != WM_QUIT && !filter.Wants(each->message)) {
+        const bool wanted = each->message == WM_QUIT || filter.Wants(each->message);
+        if (!wanted || !filter.WantsWindow(each->hwnd)) {
             continue;
         }
         *message = *each;
@@ -105,7 +122,10 @@ bool TakeQuit(ThreadState* self, bool remove, MSG* message) {
 }
 
 bool TakePaint(ThreadState* self, const Filter& filter, MSG* message) {
-    const Window* window = filter.Wants(WM_PAINT) ? NextPaintWindow(self) : nullptr;
+    if (!filter.Wants(WM_PAINT) || filter.window == Filter::kThreadOnly) {
+        return false;
+    }
+    const Window* window = NextPaintWindow(self, PeekWindow(filter.window));
     if (window == nullptr) {
         return false;
     }
@@ -118,7 +138,15 @@ bool TakeTimerFor(ThreadState* self, const Filter& filter, bool remove, MSG* mes
         return false;
     }
     CheckTimers(self);
-    return TakeTimer(self, remove, message);
+    if (filter.window == nullptr) {
+        return TakeTimer(self, nullptr, true, remove, message);
+    }
+    for (const Timer& timer : self->timers) {
+        if (timer.ready && filter.WantsWindow(timer.window)) {
+            return TakeTimer(self, timer.window, false, remove, message);
+        }
+    }
+    return false;
 }
 
 // What looking with a filter has seen of the queue: from then on only newer messages wake a waiting thread.
@@ -154,12 +182,8 @@ bool Take(ThreadState* self, UserHold& hold, const Filter& filter, bool remove, 
     return false;
 }
 
-/// A loop takes the messages of all windows of its thread.
-bool TakesAll(HWND window) {
-    if (window != nullptr) {
-        SetLastError(PeekWindow(window) != nullptr ? ERROR_INVALID_PARAMETER : ERROR_INVALID_WINDOW_HANDLE);
-    }
-    return window == nullptr;
+bool IsUsable(HWND window) {
+    return window == nullptr || window == Filter::kThreadOnly || FindWindowObject(window) != nullptr;
 }
 
 }  // namespace
@@ -170,15 +194,18 @@ using namespace platform::user;
 BOOL WINAPI GetMessageA(LPMSG message, HWND window, UINT first, UINT last) {
     ThreadState* self = CurrentThread();
     UserHold hold(UserLock());
-    if (self == nullptr || message == nullptr || !TakesAll(window)) {
+    if (self == nullptr || message == nullptr || !IsUsable(window)) {
         return -1;
     }
-    const Filter filter{first, last};
+    const Filter filter{window, first, last};
     for (;;) {
         MSG taken{};
         if (Take(self, hold, filter, true, &taken)) {
             *message = taken;
             return taken.message != WM_QUIT;
+        }
+        if (!IsUsable(window)) {
+            return -1;
         }
         if (!self->sent.empty()) {
             continue;
@@ -200,11 +227,11 @@ BOOL WINAPI GetMessageA(LPMSG message, HWND window, UINT first, UINT last) {
 BOOL WINAPI PeekMessageA(LPMSG message, HWND window, UINT first, UINT last, UINT remove) {
     ThreadState* self = CurrentThread();
     UserHold hold(UserLock());
-    if (self == nullptr || message == nullptr || !TakesAll(window)) {
+    if (self == nullptr || message == nullptr || !IsUsable(window)) {
         return FALSE;
     }
     MSG taken{};
-    if (Take(self, hold, {first, last}, (remove & PM_REMOVE) != 0, &taken)) {
+    if (Take(self, hold, {window, first, last}, (remove & PM_REMOVE) != 0, &taken)) {
         *message = taken;
         return TRUE;
     }

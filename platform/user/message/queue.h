@@ -51,8 +51,8 @@ LRESULT CallProcedure(WNDPROC procedure, HWND window, UINT message, WPARAM wPara
 /// Marks the timers whose time has come, and sets QS_TIMER for new ones. @returns when the next one is due, else
 /// UINT64_MAX.
 std::uint64_t CheckTimers(ThreadState* self);
-/// Takes the WM_TIMER of a ready timer.
-bool TakeTimer(ThreadState* self, bool remove, MSG* message);
+/// Takes the WM_TIMER of a ready timer, of one window or of any.
+bool TakeTimer(ThreadState* self, HWND window, bool any, bool remove, MSG* message);
 /// @returns whether the thread has set this timer with this procedure.
 bool OwnsTimerProcedure(const ThreadState* self, HWND window, UINT_PTR id, LPARAM procedure);
 void ForgetTimers(Window* window);

@@ -75,6 +75,7 @@ bool CarriesPointer(UINT message) {
         case WM_NCCREATE:
         case WM_SETTEXT:
         case WM_GETTEXT:
+        case WM_GETMINMAXINFO:
         case WM_DRAWITEM:
         case WM_MEASUREITEM:
         case WM_WINDOWPOSCHANGING:

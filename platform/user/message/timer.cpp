@@ -49,9 +49,9 @@ std::uint64_t CheckTimers(ThreadState* self) {
     return next;
 }
 
-bool TakeTimer(ThreadState* self, bool remove, MSG* message) {
-    const auto ready =
-        std::find_if(self->timers.begin(), self->timers.end(), [](const Timer& timer) { return timer.ready; });
+bool TakeTimer(ThreadState* self, HWND window, bool any, bool remove, MSG* message) {
+    const auto ready = std::find_if(self->timers.begin(), self->timers.end(),
+                                    [=](const Timer& timer) { return timer.ready && (any || timer.window == window); });
     if (ready == self->timers.end()) {
         return false;
     }

@@ -73,7 +73,7 @@ struct Window {
     bool frameNeeded = false;                 ///< WM_NCPAINT is due
     bool paintRuns = false;                   ///< its WM_PAINT is being handled and has not come to BeginPaint
     struct PaintState* paintState = nullptr;  ///< the painting module's own: cached visible regions
-    bool sizeSent = false;                    ///< WM_SIZE was sent; else the first ShowWindow sends it
+    bool sizeSent = false;                    ///< WM_SIZE and WM_MOVE were sent; else the first ShowWindow sends them
     bool hiddenByOwner = false;               ///< hidden because its owner was minimised
 
     RECT restoredRect{};  ///< normal position while minimised or maximised
@@ -82,6 +82,8 @@ struct Window {
     bool ending = false;            ///< its children are gone, or going: no new ones are made
     bool captionActive = false;     ///< how the caption was drawn last (WM_NCACTIVATE)
     bool restoreMaximised = false;  ///< minimised while it was maximised
+    HICON bigIcon = nullptr;        ///< WM_SETICON
+    HICON smallIcon = nullptr;
 
     // Dialogs and controls: shared, so that a handler that is running outlives its window.
     std::shared_ptr<DialogState> dialog;      ///< made when the dialog procedure first sees the window

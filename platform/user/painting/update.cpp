@@ -88,9 +88,12 @@ bool NeedsPaint(const Window* window) {
     return !window->update.Empty();
 }
 
-Window* NextPaintWindow(ThreadState* thread) {
+Window* NextPaintWindow(ThreadState* thread, Window* within) {
     if (thread->paintWindows == 0) {
         return nullptr;
+    }
+    if (within != nullptr) {
+        return IsShown(within) ? Search(within, thread) : nullptr;
     }
     Window* found = SearchChildren(Desktop(), thread);
     if (found == nullptr) {

@@ -11,15 +11,8 @@ namespace platform::user {
 /// frame: the client area that a window's frame leaves of a window rectangle. Lock held.
 RECT ClientFromWindow(const Window* window, const RECT& windowRect);
 
-/// frame: how wide a window is, and how high, at the least and at the most when a person sizes it. Lock held.
-struct SizeLimits {
-    POINT least;
-    POINT most;
-};
-SizeLimits LimitsOf(const Window* window);
-
-/// frame: how many pixels wide the frame is on each side, the sunken client edge left out.
-int FrameWidth(DWORD style, DWORD exStyle);
+/// frame: a window's sizes as WM_GETMINMAXINFO leaves them, none at most smaller than at least. Sends; no lock held.
+MINMAXINFO QueryMinMax(HWND window);
 
 /// menu: registers the class of menus.
 void RegisterMenuClass();

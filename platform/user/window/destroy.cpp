@@ -136,6 +136,31 @@ WindowHold NewWindow() noexcept {
     return WindowHold(window);
 }
 
+void NotifyParents(HWND handle, UINT event) {
+    WPARAM what = event;
+    for (HWND child = handle;;) {
+        HWND parent = nullptr;
+        {
+            const UserGuard guard(UserLock());
+            const Window* window = PeekWindow(child);
+            if (!window || !IsChildStyle(window->style) || (window->exStyle & WS_EX_NOPARENTNOTIFY) ||
+                !window->parent || window->parent == Desktop() || window->parent == Orphanage()) {
+                return;
+            }
+            // A thread that ends waits for no other, which may be waiting for its end.
+            if (window->thread && window->thread->ending && window->parent->thread != window->thread) {
+                return;
+            }
+            if (child == handle) {
+                what = MAKEWPARAM(event, window->id);
+            }
+            parent = window->parent->handle;
+        }
+        SendMessageA(parent, WM_PARENTNOTIFY, what, reinterpret_cast<LPARAM>(handle));
+        child = parent;
+    }
+}
+
 void EndWindow(HWND handle) {
     Window* window = nullptr;
     for (;;) {
@@ -175,6 +200,7 @@ bool DestroyTree(HWND handle) {
         MarkOwned(window);
         window->destroying = true;
     }
+    NotifyParents(handle, WM_DESTROY);
     while (HWND owned = TakeOwned(handle)) {
         {
             const UserGuard guard(UserLock());

@@ -16,6 +16,9 @@ using WindowHold = std::unique_ptr<Window, GiveBackWindow>;
 /// @returns a window that belongs to nothing yet, or null without memory. Lock held.
 WindowHold NewWindow() noexcept;
 
+/// Tells a child's ancestors of its creation or end (WM_PARENTNOTIFY), as far as the styles let them hear.
+void NotifyParents(HWND handle, UINT event);
+
 /// Destroys a window with all that it owns and holds, with every message that goes with it.
 bool DestroyTree(HWND handle);
 

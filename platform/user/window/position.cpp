@@ -57,7 +57,9 @@ void Reduce(const Window* window, WINDOWPOS& position) {
     if (topLevel && appears && (flags & SWP_NOACTIVATE) == 0 && (window->style & WS_DISABLED) == 0 &&
         (window->thread == nullptr || window->thread->active != window->handle)) {
         // A window that is activated comes to the top of its kind.
-        after = HWND_TOP;
+        if ((flags & SWP_NOZORDER) != 0 || (after != HWND_TOPMOST && after != HWND_NOTOPMOST)) {
+            after = HWND_TOP;
+        }
         flags &= ~static_cast<UINT>(SWP_NOZORDER);
     }
     if ((flags & SWP_NOZORDER) == 0 && InPlace(window, after)) {
@@ -151,6 +153,9 @@ void Report(Step& step) {
     if (SameSize(before, after)) {
         flags |= kNoClientSize;
     }
+    if (before.left == after.left && before.top == after.top) {
+        flags |= kNoClientMove;
+    }
     if ((flags & SWP_HIDEWINDOW) != 0) {
         if (Window* window = PeekWindow(handle); window != nullptr) {
             LeaveDisabledOrHidden(window, true);
@@ -208,7 +213,7 @@ BOOL WINAPI SetWindowPos(HWND handle, HWND after, int x, int y, int width, int h
             SetLastError(ERROR_ACCESS_DENIED);
             return FALSE;
         }
-        if ((flags & SWP_NOZORDER) == 0 && after != HWND_TOP) {
+        if ((flags & SWP_NOZORDER) == 0 && !IsInsertAfter(after)) {
             const Window* sibling = FindWindowObject(after);
             if (sibling == nullptr) {
                 return FALSE;

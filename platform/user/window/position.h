@@ -18,14 +18,17 @@ void ChangeOrder(Window* window, HWND after, UINT flags);
 /// Hides a window that is about to be destroyed and exposes what lay under it, without asking it (no WM_WINDOWPOSCHANGING).
 void HideForDestruction(Window* window);
 
-/// What WM_WINDOWPOSCHANGED says of the client area beyond the public flags; DefWindowProcA decides on WM_SIZE by it.
+/// What WM_WINDOWPOSCHANGED says of the client area beyond the public flags; DefWindowProcA decides on WM_SIZE and
+/// WM_MOVE by them.
 constexpr UINT kNoClientSize = 0x0800;
+constexpr UINT kNoClientMove = 0x1000;
 
-/// Sends WM_SIZE with what the window has come to.
+/// Send WM_SIZE and WM_MOVE with what the window has come to.
 void SendSize(HWND handle);
+void SendMove(HWND handle);
 
-/// @returns where a window lies when it is maximised. Lock held.
-RECT MaximisedPlace(const Window* window);
+/// @returns where a window lies when it is maximised, after WM_GETMINMAXINFO has had its say. Sends; no lock held.
+RECT MaximisedPlace(HWND handle);
 
 /// Which pixels of a window stay good over a change.
 enum class Keep { Window, Client, Nothing };
@@ -41,6 +44,11 @@ struct Step {
 
 /// Makes the change in the window tree and brings the screen's pixels and the update regions in line. Takes the lock.
 void Apply(Step& step);
+
+/// @returns whether a value names a place in the z-order other than a sibling.
+inline bool IsInsertAfter(HWND after) {
+    return after == HWND_TOP || after == HWND_BOTTOM || after == HWND_TOPMOST || after == HWND_NOTOPMOST;
+}
 
 /// @returns whether a window lies in the z-order where it is to go.
 bool InPlace(const Window* window, HWND after);

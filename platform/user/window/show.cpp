@@ -84,6 +84,8 @@ DWORD PendingState(const Window* window) {
 
 /// Puts a window into another state. @returns whether it changed, with the new place in screen coordinates.
 bool ChangeState(HWND handle, DWORD wanted, bool toNormal, RECT* place) {
+    // It may have to go back to being maximised.
+    const RECT maximised = wanted == WS_MAXIMIZE || toNormal ? MaximisedPlace(handle) : RECT{};
     UserGuard guard(UserLock());
     Window* window = PeekWindow(handle);
     if (window == nullptr) {
@@ -100,9 +102,7 @@ bool ChangeState(HWND handle, DWORD wanted, bool toNormal, RECT* place) {
         window->restoredRect = window->windowRect;
     }
     window->restoreMaximised = wanted == WS_MINIMIZE && old == WS_MAXIMIZE;
-    *place = wanted == WS_MAXIMIZE   ? MaximisedPlace(window)
-             : wanted == WS_MINIMIZE ? MinimisedPlace(window)
-                                     : window->restoredRect;
+    *place = wanted == WS_MAXIMIZE ? maximised : wanted == WS_MINIMIZE ? MinimisedPlace(window) : window->restoredRect;
     window->style = (window->style & ~static_cast<DWORD>(WS_MINIMIZE | WS_MAXIMIZE)) | wanted;
     WindowsChanged();
     return true;
@@ -112,6 +112,7 @@ bool ChangeState(HWND handle, DWORD wanted, bool toNormal, RECT* place) {
 void SendFirstSize(HWND handle) {
     if (Window* window = PeekWindow(handle); window != nullptr && !std::exchange(window->sizeSent, true)) {
         SendSize(handle);
+        SendMove(handle);
     }
 }
 
@@ -158,11 +159,31 @@ void ShowOwned(HWND owner, bool show) {
 
 }  // namespace
 
-RECT MaximisedPlace(const Window* window) {
-    RECT place = Ground(window);
-    const int frame = FrameWidth(window->style, window->exStyle);
-    InflateRect(&place, frame, frame);
-    return place;
+RECT MaximisedPlace(HWND handle) {
+    const MINMAXINFO limits = QueryMinMax(handle);
+    UserGuard guard(UserLock());
+    const Window* window = PeekWindow(handle);
+    if (window == nullptr) {
+        return RECT{};
+    }
+    const RECT ground = Ground(window);
+    const LONG left = ground.left + limits.ptMaxPosition.x;
+    const LONG top = ground.top + limits.ptMaxPosition.y;
+    return RECT{left, top, left + limits.ptMaxSize.x, top + limits.ptMaxSize.y};
+}
+
+void SendMove(HWND handle) {
+    POINT place{};
+    {
+        UserGuard guard(UserLock());
+        const Window* window = PeekWindow(handle);
+        if (window == nullptr) {
+            return;
+        }
+        const POINT origin = ParentOrigin(window);
+        place = {window->clientRect.left - origin.x, window->clientRect.top - origin.y};
+    }
+    SendMessageA(handle, WM_MOVE, 0, MAKELPARAM(place.x, place.y));
 }
 
 void SendSize(HWND handle) {

@@ -47,7 +47,9 @@ void LinkWindow(Window* window, HWND after) {
     const bool topLevel = parent == Desktop();
     Window* firstPlain = topLevel ? FirstPlain(parent->firstChild) : parent->firstChild;
     const Window* sibling = PeekWindow(after);
-    if (!sibling || sibling->parent != parent) {
+    if (after == HWND_BOTTOM) {
+        LinkBefore(window, topLevel && IsTopmost(window) ? firstPlain : nullptr);
+    } else if (!sibling || sibling->parent != parent) {
         LinkBefore(window, topLevel && !IsTopmost(window) ? firstPlain : parent->firstChild);
     } else if (topLevel && IsTopmost(window) != IsTopmost(sibling)) {
         // Topmost windows stay above the others, whatever sibling is named.

@@ -10,7 +10,7 @@
 
 namespace platform::user {
 
-/// Puts a window into its parent's child list: after == HWND_TOP or a sibling.
+/// Puts a window into its parent's child list: after == HWND_TOP, HWND_BOTTOM or a sibling.
 /// Topmost windows stay above the others. Lock held.
 void LinkWindow(Window* window, HWND after);
 void UnlinkWindow(Window* window);

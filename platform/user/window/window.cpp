@@ -25,12 +25,32 @@ struct Request {
     Window* parent = nullptr;
     Window* owner = nullptr;
     WindowClass* windowClass = nullptr;
+    int showCommand = SW_SHOW;
     bool show = false;
 };
 
 HWND Refuse(DWORD error) {
     SetLastError(error);
     return nullptr;
+}
+
+/// CW_USEDEFAULT for overlapped windows: each one a little below and to the right of the one before. With the default
+/// place, y may say how to show the window.
+void PlaceByDefault(Request& request) {
+    static int turn = 0;
+    CREATESTRUCTA& given = request.given;
+    RECT area{};
+    SystemParametersInfoA(SPI_GETWORKAREA, 0, &area, 0);
+    if (given.x == CW_USEDEFAULT) {
+        request.showCommand = given.y == CW_USEDEFAULT ? SW_SHOW : given.y;
+        const int step = (turn++ % 8) * (GetSystemMetrics(SM_CYCAPTION) + GetSystemMetrics(SM_CYSIZEFRAME));
+        given.x = area.left + step;
+        given.y = area.top + step;
+    }
+    if (given.cx == CW_USEDEFAULT) {
+        given.cx = (area.right - area.left) * 3 / 4;
+        given.cy = (area.bottom - area.top) * 3 / 4;
+    }
 }
 
 /// Fills in what the styles imply. @returns 0 or an error code. Lock held.
@@ -60,6 +80,13 @@ DWORD Complete(Request& request) {
     }
     if (!(style & (WS_CHILD | WS_POPUP))) {
         style |= WS_CAPTION;
+        PlaceByDefault(request);
+    }
+    if (given.x == CW_USEDEFAULT) {
+        given.x = given.y = 0;
+    }
+    if (given.cx == CW_USEDEFAULT) {
+        given.cx = given.cy = 0;
     }
     if (!child) {
         style |= WS_CLIPSIBLINGS;
@@ -112,11 +139,7 @@ Window* Make(const Request& request) {
     Window* window = made.release();
     ++window->windowClass->windows;
     // A new child goes below its siblings, so that the order of creation is the order of tabbing; other windows on top.
-    const Window* last = IsChildStyle(window->style) ? window->parent->firstChild : nullptr;
-    while (last && last->next) {
-        last = last->next;
-    }
-    LinkWindow(window, last ? last->handle : HWND_TOP);
+    LinkWindow(window, IsChildStyle(window->style) ? HWND_BOTTOM : HWND_TOP);
     return window;
 }
 
@@ -125,10 +148,14 @@ bool Introduce(HWND handle, CREATESTRUCTA* given) {
     Window* window = PeekWindow(handle);
     if ((window->style & WS_THICKFRAME) && !IsChildStyle(window->style)) {
         // It is kept within the sizes that a person can give it.
+        const MINMAXINFO limits = QueryMinMax(handle);
         const UserGuard guard(UserLock());
-        const SizeLimits limits = LimitsOf(window);
-        given->cx = std::clamp<int>(given->cx, limits.least.x, limits.most.x);
-        given->cy = std::clamp<int>(given->cy, limits.least.y, limits.most.y);
+        window = PeekWindow(handle);
+        if (!window) {
+            return false;
+        }
+        given->cx = std::clamp<int>(given->cx, limits.ptMinTrackSize.x, limits.ptMaxTrackSize.x);
+        given->cy = std::clamp<int>(given->cy, limits.ptMinTrackSize.y, limits.ptMaxTrackSize.y);
         window->windowRect.right = window->windowRect.left + given->cx;
         window->windowRect.bottom = window->windowRect.top + given->cy;
     }
@@ -157,6 +184,7 @@ bool Introduce(HWND handle, CREATESTRUCTA* given) {
     if (!window->sizeSent && (window->style & (WS_CHILD | WS_POPUP))) {
         window->sizeSent = true;
         SendSize(handle);
+        SendMove(handle);
     }
     return PeekWindow(handle) != nullptr;
 }
@@ -178,9 +206,12 @@ HWND Create(Request& request) {
     if (!Introduce(handle, &given)) {
         return nullptr;
     }
-    if (request.show) {
+    NotifyParents(handle, WM_CREATE);
+    if (request.show && PeekWindow(handle)) {
         const DWORD style = static_cast<DWORD>(given.style);
-        ShowWindow(handle, style & WS_MAXIMIZE ? SW_SHOWMAXIMIZED : style & WS_MINIMIZE ? SW_SHOWMINIMIZED : SW_SHOW);
+        ShowWindow(handle, style & WS_MAXIMIZE   ? SW_SHOWMAXIMIZED
+                           : style & WS_MINIMIZE ? SW_SHOWMINIMIZED
+                                                 : request.showCommand);
     }
     return PeekWindow(handle) ? handle : nullptr;
 }

@@ -43,6 +43,16 @@ std::vector<Window*> OwnedWindows(const Window* owner) {
     return owned;
 }
 
+void SetTopmost(Window* window, bool topmost) {
+    window->exStyle = topmost ? window->exStyle | WS_EX_TOPMOST : window->exStyle & ~DWORD{WS_EX_TOPMOST};
+}
+
+/// Children are never topmost: for them the values for that mean the top.
+HWND PlaceFor(const Window* window, HWND after) {
+    const bool kind = after == HWND_TOPMOST || after == HWND_NOTOPMOST;
+    return kind && window->parent != Desktop() ? HWND_TOP : after;
+}
+
 void Relink(Window* window, HWND after) {
     UnlinkWindow(window);
     LinkWindow(window, after);
@@ -86,6 +96,7 @@ void RaiseOwners(const Window* window) {
 }  // namespace
 
 bool InPlace(const Window* window, HWND after) {
+    after = PlaceFor(window, after);
     if (after == HWND_TOP) {
         const Window* above = window->previous;
         // What a window owns lies above it wherever it goes.
@@ -93,6 +104,15 @@ bool InPlace(const Window* window, HWND after) {
             above = above->previous;
         }
         return above == nullptr || (Topmost(above) && !Topmost(window));
+    }
+    if (after == HWND_BOTTOM) {
+        return window->next == nullptr && !Topmost(window);
+    }
+    if (after == HWND_TOPMOST) {
+        return Topmost(window) && window->previous == nullptr;
+    }
+    if (after == HWND_NOTOPMOST) {
+        return !Topmost(window);
     }
     return after == window->handle || (window->previous != nullptr && window->previous->handle == after);
 }
@@ -108,11 +128,21 @@ void CollectGroup(Window* window, std::vector<Window*>& group) {
 
 void ChangeOrder(Window* window, HWND after, UINT flags) {
     if (window->parent != Desktop()) {
-        Relink(window, after);
+        Relink(window, PlaceFor(window, after));
         return;
     }
     try {
         const std::vector<Window*> owned = OwnedWindows(window);
+        if (after == HWND_TOPMOST || after == HWND_NOTOPMOST || after == HWND_BOTTOM) {
+            SetTopmost(window, after == HWND_TOPMOST);
+            for (Window* other : owned) {
+                SetTopmost(other, after == HWND_TOPMOST);
+            }
+            for (Window* owner = window->owner; owner != nullptr && after == HWND_NOTOPMOST; owner = owner->owner) {
+                SetTopmost(owner, false);
+            }
+            after = after == HWND_BOTTOM ? after : HWND_TOP;
+        }
         Relink(window, after);
         for (Window* other : owned) {
             if (Topmost(other) == Topmost(window)) {
@@ -126,7 +156,7 @@ void ChangeOrder(Window* window, HWND after, UINT flags) {
             PlaceAbove(window, window->owner);
         }
     } catch (const std::bad_alloc&) {
-        Relink(window, HWND_TOP);
+        Relink(window, after == HWND_BOTTOM ? HWND_BOTTOM : HWND_TOP);
     }
 }
 

@@ -62,6 +62,8 @@ void OnEditNotification(ComboData& combo, UINT code) {
 void OnSelectionChange(ComboData& combo) {
     if (combo.dropped && !combo.byKey)
         CloseUp(combo, true);
+    if (!IsWindow(combo.window))
+        return;
     combo.settled = Current(combo);
     if (!combo.edit)
         RedrawCombo(combo);

@@ -75,6 +75,16 @@ LRESULT OnComboMessage(ComboData& combo, UINT message, WPARAM wParam, LPARAM lPa
             return OnSetCurrent(combo, wParam);
         case CB_FINDSTRINGEXACT:
             return ToList(combo, LB_FINDSTRINGEXACT, wParam, lParam);
+        case CB_GETITEMDATA:
+            return ToList(combo, LB_GETITEMDATA, wParam, 0);
+        case CB_SETITEMDATA:
+            return ToList(combo, LB_SETITEMDATA, wParam, lParam);
+        case CB_SHOWDROPDOWN:
+            if (wParam)
+                DropDown(combo);
+            else
+                CloseUp(combo, false);
+            return TRUE;
         case CB_GETDROPPEDCONTROLRECT:
             if (!lParam)
                 return FALSE;

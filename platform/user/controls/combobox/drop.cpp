@@ -114,6 +114,7 @@ void CloseUp(ComboData& combo, bool taken) {
     if (GetCapture() == combo.list)
         ReleaseCapture();
     RedrawCombo(combo);
+    NotifyCombo(combo, CBN_CLOSEUP);
 }
 
 bool OnDroppedListInput(ListData& list, UINT message, WPARAM wParam, LPARAM lParam) {

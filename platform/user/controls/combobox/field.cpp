@@ -31,6 +31,8 @@ void AskOwner(const ComboData& combo, HDC context, const RECT& rect, bool focus)
     item.hwndItem = combo.window;
     item.hDC = context;
     item.rcItem = rect;
+    if (index >= 0)
+        item.itemData = static_cast<ULONG_PTR>(SendMessageA(combo.list, LB_GETITEMDATA, static_cast<WPARAM>(index), 0));
     IntersectClipRect(context, rect.left, rect.top, rect.right, rect.bottom);
     SendMessageA(parent, WM_DRAWITEM, item.CtlID, reinterpret_cast<LPARAM>(&item));
 }

@@ -69,8 +69,8 @@ LRESULT CALLBACK ComboEditProcedure(HWND window, UINT message, WPARAM wParam, LP
 bool MakeEdit(ComboData& combo, const CREATESTRUCTA& create) {
     const DWORD style = combo.Style();
     const DWORD wanted = WS_CHILD | WS_VISIBLE | (style & CBS_AUTOHSCROLL ? ES_AUTOHSCROLL : 0) | (style & WS_DISABLED);
-    combo.edit = CreateWindowExA(0, "edit", "", wanted, 0, 0, 0, 0, combo.window, reinterpret_cast<HMENU>(kEditId),
-                                 create.hInstance, nullptr);
+    combo.edit = CreateWindowExA(WS_EX_NOPARENTNOTIFY, "edit", "", wanted, 0, 0, 0, 0, combo.window,
+                                 reinterpret_cast<HMENU>(kEditId), create.hInstance, nullptr);
     if (!combo.edit)
         return false;
     SetWindowLongPtrA(combo.edit, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(ComboEditProcedure));
@@ -80,8 +80,10 @@ bool MakeEdit(ComboData& combo, const CREATESTRUCTA& create) {
 DWORD ListStyle(const ComboData& combo) {
     const DWORD style = combo.Style();
     DWORD list = LBS_NOTIFY | combo.scrollStyle;
-    const std::pair<DWORD, DWORD> same[] = {
-        {CBS_HASSTRINGS, LBS_HASSTRINGS}, {CBS_OWNERDRAWFIXED, LBS_OWNERDRAWFIXED}, {WS_DISABLED, WS_DISABLED}};
+    const std::pair<DWORD, DWORD> same[] = {{CBS_SORT, LBS_SORT},
+                                            {CBS_HASSTRINGS, LBS_HASSTRINGS},
+                                            {CBS_OWNERDRAWFIXED, LBS_OWNERDRAWFIXED},
+                                            {WS_DISABLED, WS_DISABLED}};
     for (const auto& [own, lists] : same)
         list |= style & own ? lists : 0;
     return list;
@@ -90,8 +92,9 @@ DWORD ListStyle(const ComboData& combo) {
 bool MakeList(ComboData& combo, const CREATESTRUCTA& create) {
     const DWORD style = ListStyle(combo);
     if (!combo.Drops()) {
-        combo.list = CreateWindowExA(WS_EX_CLIENTEDGE, "ComboLBox", "", style | WS_CHILD | WS_VISIBLE, 0, 0, 0, 0,
-                                     combo.window, reinterpret_cast<HMENU>(kListId), create.hInstance, combo.window);
+        combo.list =
+            CreateWindowExA(WS_EX_NOPARENTNOTIFY | WS_EX_CLIENTEDGE, "ComboLBox", "", style | WS_CHILD | WS_VISIBLE, 0,
+                            0, 0, 0, combo.window, reinterpret_cast<HMENU>(kListId), create.hInstance, combo.window);
         return combo.list != nullptr;
     }
     combo.list =

@@ -8,22 +8,30 @@
 namespace platform::user {
 namespace {
 
+constexpr char kPasswordCharacter = '*';
+
 LRESULT OnCreate(HWND edit, EditData& data, const CREATESTRUCTA* create) {
-    data.text = create && create->lpszName ? create->lpszName : "";
+    if ((ControlStyle(edit) & (ES_PASSWORD | ES_MULTILINE)) == ES_PASSWORD) {
+        data.password = kPasswordCharacter;
+    }
+    data.text = InStyleCase(edit, create && create->lpszName ? create->lpszName : "");
     LayOut(edit, data);
     return 0;
 }
 
-/// With several lines the control wants all keys. Only Tab goes to the dialog; with Ctrl it is text.
+/// With several lines the control wants all keys. Only Tab, and Enter unless the style keeps it, go to the dialog; with Ctrl
+/// these two are text.
 LRESULT EditDialogCode(HWND edit, EditData& data, LPARAM lParam) {
     constexpr LRESULT kCode = DLGC_WANTCHARS | DLGC_HASSETSEL | DLGC_WANTARROWS;
-    if (!IsMultiLine(edit)) {
+    const DWORD style = ControlStyle(edit);
+    if (!(style & ES_MULTILINE)) {
         return kCode;
     }
     data.inDialog = true;
     const auto* message = reinterpret_cast<const MSG*>(lParam);
-    const bool tab = message && message->message == WM_KEYDOWN && message->wParam == VK_TAB;
-    return tab && GetKeyState(VK_CONTROL) >= 0 ? kCode : kCode | DLGC_WANTALLKEYS;
+    const WPARAM key = message && message->message == WM_KEYDOWN ? message->wParam : 0;
+    const bool dialogs = key == VK_TAB || (key == VK_RETURN && !(style & ES_WANTRETURN));
+    return dialogs && GetKeyState(VK_CONTROL) >= 0 ? kCode : kCode | DLGC_WANTALLKEYS;
 }
 
 void OnSetFont(HWND edit, EditData& data, WPARAM font, bool redraw) {
@@ -49,6 +57,7 @@ void OnSetFocus(HWND edit, EditData& data) {
     if (data.HasSelection()) {
         RedrawEdit(edit);
     }
+    NotifyParent(edit, EN_SETFOCUS);
 }
 
 void OnKillFocus(HWND edit, EditData& data) {
@@ -59,6 +68,7 @@ void OnKillFocus(HWND edit, EditData& data) {
     if (data.HasSelection()) {
         RedrawEdit(edit);
     }
+    NotifyParent(edit, EN_KILLFOCUS);
 }
 
 void OnScroll(HWND edit, EditData& data, WPARAM wParam) {

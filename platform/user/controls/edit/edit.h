@@ -39,7 +39,8 @@ struct EditData : ControlData {
     std::size_t caret = 0;
     std::size_t limit = 32767;  ///< of what the user may enter
     EditUndo undo;
-    char lead = 0;  ///< first byte of a double-byte character whose second one has yet to be typed
+    char password = 0;  ///< shown in place of every character; 0: the text itself is shown
+    char lead = 0;      ///< first byte of a double-byte character whose second one has yet to be typed
 
     HFONT font = nullptr;
     int margin = 0;  ///< left and right of the text
@@ -72,6 +73,10 @@ inline bool IsMultiLine(HWND edit) {
     return (ControlStyle(edit) & ES_MULTILINE) != 0;
 }
 
+inline bool IsReadOnly(HWND edit) {
+    return (ControlStyle(edit) & ES_READONLY) != 0;
+}
+
 // --- characters (edit_text.cpp)
 
 /// Positions of the characters next to one; never inside a double-byte character.
@@ -79,12 +84,14 @@ std::size_t NextPosition(const std::string& text, std::size_t position);
 std::size_t PreviousPosition(const std::string& text, std::size_t position);
 
 /// Start of the word to the left, or of the next one to the right.
-std::size_t WordLeft(const std::string& text, std::size_t position);
-std::size_t WordRight(const std::string& text, std::size_t position);
+std::size_t WordLeft(const EditData& data, std::size_t position);
+std::size_t WordRight(const EditData& data, std::size_t position);
 
-// --- changes (edit_text.cpp). All tell the parent and draw; the control may be gone when they return.
+// --- changes (edit_text.cpp). All tell the parent and draw; the control may be gone when they return. Those by the user come to
+// nothing with ES_READONLY.
 
-/// Replaces the selection as the user does it, within the limit.
+/// Replaces the selection as the user does it: within the limit, in the case of the style, with EN_MAXTEXT when it does
+/// not fit.
 void InsertText(HWND edit, EditData& data, std::string_view text);
 /// Removes a range, which becomes one step of undo, or grows the last one when it continues it.
 void RemoveText(HWND edit, EditData& data, std::size_t start, std::size_t end);
@@ -92,6 +99,9 @@ void RemoveText(HWND edit, EditData& data, std::size_t start, std::size_t end);
 void SetEditText(HWND edit, EditData& data, LPCSTR text);
 /// @returns false when there was nothing to take back.
 bool UndoEdit(HWND edit, EditData& data);
+
+/// @returns text in the case that the style asks for.
+std::string InStyleCase(HWND edit, std::string_view text);
 
 // --- selection and scrolling (edit_lines.cpp)
 
@@ -138,6 +148,8 @@ class EditMeasure {
     int Width(std::size_t start, std::size_t count) const;
     /// How many characters of a line lie left of a distance: those that do wholly, or by more than half (`nearest`).
     std::size_t Fit(const EditLine& line, int distance, bool nearest) const;
+    /// Where a line's first pixel is, by the alignment, without scrolling: from the format rectangle's left.
+    int Indent(const EditLine& line) const;
     int LineHeight() const;
     int AverageWidth() const;
 
@@ -148,7 +160,7 @@ class EditMeasure {
     HGDIOBJ former_ = nullptr;
 };
 
-/// What is shown of a range.
+/// What is shown of a range: the text, or as many password characters.
 std::string Shown(const EditData& data, std::size_t start, std::size_t count);
 
 // --- picture (edit_paint.cpp)

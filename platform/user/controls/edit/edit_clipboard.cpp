@@ -9,6 +9,11 @@
 namespace platform::user {
 namespace {
 
+/// Passwords do not leave the control.
+bool MayCopy(const EditData& data) {
+    return data.HasSelection() && !data.password;
+}
+
 std::string Selected(const EditData& data) {
     return data.text.substr(data.SelectionStart(), data.SelectionEnd() - data.SelectionStart());
 }
@@ -58,14 +63,14 @@ std::string TextOnClipboard(HWND edit) {
 }  // namespace
 
 void CopySelection(HWND edit, const EditData& data) {
-    if (data.HasSelection()) {
+    if (MayCopy(data)) {
         PutOnClipboard(edit, Selected(data));
     }
 }
 
 void CutSelection(HWND edit, EditData& data) {
     // What could not be put away is not taken from the text.
-    if (data.HasSelection() && PutOnClipboard(edit, Selected(data))) {
+    if (MayCopy(data) && !IsReadOnly(edit) && PutOnClipboard(edit, Selected(data))) {
         RemoveText(edit, data, data.SelectionStart(), data.SelectionEnd());
     }
 }
@@ -82,14 +87,14 @@ bool CanPaste(HWND edit) {
 }
 
 void OfferSelection(const EditData& data) {
-    if (data.HasSelection()) {
+    if (MayCopy(data)) {
         OfferPrimarySelection(Selected(data));
     }
 }
 
 void OnEditMiddlePress(HWND edit, EditData& data, LPARAM point) {
     std::string text;
-    if (!ReadPrimarySelection(&text)) {
+    if (IsReadOnly(edit) || !ReadPrimarySelection(&text)) {
         return;
     }
     text = Fitting(edit, std::move(text));

@@ -31,7 +31,7 @@ std::size_t LineEnd(const EditData& data) {
 void StepSideways(HWND edit, EditData& data, bool left, bool shift, bool control) {
     std::size_t position = data.caret;
     if (control) {
-        position = left ? WordLeft(data.text, position) : WordRight(data.text, position);
+        position = left ? WordLeft(data, position) : WordRight(data, position);
     } else if (data.HasSelection() && !shift) {
         position = left ? data.SelectionStart() : data.SelectionEnd();
     } else {

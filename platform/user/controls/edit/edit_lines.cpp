@@ -146,7 +146,7 @@ POINT PointOf(HWND edit, const EditData& data, std::size_t position) {
     const EditLine& line = data.lines[index];
     const std::size_t count = std::min(position, line.End()) - line.start;
     const auto row = static_cast<int>(index) - static_cast<int>(data.firstLine);
-    return {data.format.left + measure.Width(line.start, count) - data.scrollX,
+    return {data.format.left + measure.Indent(line) + measure.Width(line.start, count) - data.scrollX,
             data.format.top + row * data.lineHeight};
 }
 
@@ -158,7 +158,7 @@ std::size_t PositionAt(HWND edit, const EditData& data, POINT point) {
     const LONG wanted = static_cast<LONG>(data.firstLine) + row;
     const auto index = static_cast<std::size_t>(std::clamp<LONG>(wanted, 0, static_cast<LONG>(data.lines.size()) - 1));
     const EditLine& line = data.lines[index];
-    const int distance = point.x - data.format.left + data.scrollX;
+    const int distance = point.x - data.format.left - measure.Indent(line) + data.scrollX;
     std::size_t position = line.start + measure.Fit(line, std::max(distance, 0), true);
     // The end of a wrapped line is the beginning of the next one; the caret stays on the line that was meant.
     if (index + 1 < data.lines.size() && position == data.lines[index + 1].start && line.length > 0) {

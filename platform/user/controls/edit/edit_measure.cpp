@@ -23,7 +23,8 @@ EditMeasure::~EditMeasure() {
 
 std::string Shown(const EditData& data, std::size_t start, std::size_t count) {
     // Lines may be behind the text where memory has run out between the two.
-    return data.text.substr(std::min(start, data.text.size()), count);
+    return data.password ? std::string(count, data.password)
+                         : data.text.substr(std::min(start, data.text.size()), count);
 }
 
 int EditMeasure::Width(std::size_t start, std::size_t count) const {
@@ -63,6 +64,15 @@ std::size_t EditMeasure::Fit(const EditLine& line, int distance, bool nearest) c
         }
     }
     return position - line.start;
+}
+
+int EditMeasure::Indent(const EditLine& line) const {
+    const DWORD style = ControlStyle(edit_);
+    if (!(style & (ES_CENTER | ES_RIGHT))) {
+        return 0;
+    }
+    const int room = std::max(0, data_.format.right - data_.format.left - Width(line.start, line.length));
+    return style & ES_RIGHT ? room : room / 2;
 }
 
 int EditMeasure::LineHeight() const {

@@ -9,14 +9,16 @@ namespace {
 
 /// A command is the message that carries it out, so that a subclass hears of it.
 std::vector<MenuItem> EditItems(HWND edit, const EditData& data) {
+    const bool changes = !IsReadOnly(edit);
     const bool selected = data.HasSelection();
+    const bool copies = selected && !data.password;
     const bool all = data.SelectionStart() == 0 && data.SelectionEnd() == data.text.size();
-    return {{WM_UNDO, "&Undo", data.undo.possible},
+    return {{WM_UNDO, "&Undo", changes && data.undo.possible},
             {0, "", false},
-            {WM_CUT, "Cu&t", selected},
-            {WM_COPY, "&Copy", selected},
-            {WM_PASTE, "&Paste", CanPaste(edit)},
-            {WM_CLEAR, "&Delete", selected},
+            {WM_CUT, "Cu&t", changes && copies},
+            {WM_COPY, "&Copy", copies},
+            {WM_PASTE, "&Paste", changes && CanPaste(edit)},
+            {WM_CLEAR, "&Delete", changes && selected},
             {0, "", false},
             {EM_SETSEL, "Select &All", !all}};
 }

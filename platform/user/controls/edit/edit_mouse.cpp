@@ -38,8 +38,8 @@ void Follow(HWND edit, EditData& data) {
         return;
     }
     const bool backwards = position < data.wordStart;
-    const std::size_t end = position > data.wordEnd ? WordRight(data.text, position) : data.wordEnd;
-    const std::size_t start = backwards ? WordLeft(data.text, NextPosition(data.text, position)) : data.wordStart;
+    const std::size_t end = position > data.wordEnd ? WordRight(data, position) : data.wordEnd;
+    const std::size_t start = backwards ? WordLeft(data, NextPosition(data.text, position)) : data.wordStart;
     data.anchor = backwards ? data.wordEnd : data.wordStart;
     MoveEditCaret(edit, data, backwards ? start : end, true);
 }
@@ -61,8 +61,8 @@ void OnEditPress(HWND edit, EditData& data, WPARAM flags, LPARAM point) {
 void OnEditDoubleClick(HWND edit, EditData& data, LPARAM point) {
     const POINT place = MousePoint(point);
     const std::size_t position = PositionAt(edit, data, place);
-    data.wordStart = WordLeft(data.text, std::min(NextPosition(data.text, position), data.text.size()));
-    data.wordEnd = WordRight(data.text, data.wordStart);
+    data.wordStart = WordLeft(data, std::min(NextPosition(data.text, position), data.text.size()));
+    data.wordEnd = WordRight(data, data.wordStart);
     Begin(edit, data, EditData::Drag::Words, place);
     data.anchor = data.wordStart;
     MoveEditCaret(edit, data, data.wordEnd, true);

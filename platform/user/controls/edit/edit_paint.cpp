@@ -37,7 +37,7 @@ EditLine VisiblePart(const EditMeasure& measure, const EditData& data, const Edi
 void DrawLine(const EditMeasure& measure, const EditData& data, HDC context, const EditLine& line, int y,
               const Colours& colours, bool highlight) {
     const EditLine part = VisiblePart(measure, data, line);
-    const int left = data.format.left - data.scrollX;
+    const int left = data.format.left + measure.Indent(line) - data.scrollX;
     const int x = left + measure.Width(line.start, part.start - line.start);
     const std::string text = Shown(data, part.start, part.length);
     SetTextColor(context, colours.text);
@@ -67,7 +67,8 @@ void PaintEdit(HWND edit, const EditData& data, HDC context) {
     GetClientRect(edit, &client);
     // What cannot be typed into has the colours of a label.
     const bool disabled = (ControlStyle(edit) & WS_DISABLED) != 0;
-    FillRect(context, &client, ControlBrush(edit, context, disabled ? WM_CTLCOLORSTATIC : WM_CTLCOLOREDIT));
+    const bool label = disabled || IsReadOnly(edit);
+    FillRect(context, &client, ControlBrush(edit, context, label ? WM_CTLCOLORSTATIC : WM_CTLCOLOREDIT));
     if (data.font) {
         SelectObject(context, data.font);
     }

@@ -31,6 +31,13 @@ LRESULT SetSelection(HWND edit, EditData& data, int start, int end) {
     return 1;
 }
 
+LRESULT SetReadOnly(HWND edit, bool readOnly) {
+    const DWORD style = ControlStyle(edit);
+    SetWindowLongA(edit, GWL_STYLE, static_cast<LONG>(readOnly ? style | ES_READONLY : style & ~DWORD{ES_READONLY}));
+    RedrawEdit(edit);
+    return TRUE;
+}
+
 std::size_t DefaultLimit(HWND edit) {
     return IsMultiLine(edit) ? 0xFFFFFFFF : 0x7FFFFFFE;
 }
@@ -48,6 +55,8 @@ LRESULT OnEditQuery(HWND edit, EditData& data, UINT message, WPARAM wParam, LPAR
             return 0;
         case EM_GETLIMITTEXT:
             return static_cast<LRESULT>(data.limit);
+        case EM_SETREADONLY:
+            return SetReadOnly(edit, wParam != 0);
         default:
             return DefWindowProcA(edit, message, wParam, lParam);
     }

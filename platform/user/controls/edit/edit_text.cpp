@@ -94,7 +94,12 @@ std::size_t PreviousPosition(const std::string& text, std::size_t position) {
     return static_cast<std::size_t>(CharPrevA(start, start + position) - start);
 }
 
-std::size_t WordLeft(const std::string& text, std::size_t position) {
+// A password is one word: its inner spaces are as secret as the rest.
+std::size_t WordLeft(const EditData& data, std::size_t position) {
+    const std::string& text = data.text;
+    if (data.password) {
+        return 0;
+    }
     while (position > 0 && IsBlank(text[position - 1])) {
         --position;
     }
@@ -104,7 +109,11 @@ std::size_t WordLeft(const std::string& text, std::size_t position) {
     return position;
 }
 
-std::size_t WordRight(const std::string& text, std::size_t position) {
+std::size_t WordRight(const EditData& data, std::size_t position) {
+    const std::string& text = data.text;
+    if (data.password) {
+        return text.size();
+    }
     while (position < text.size() && !IsBlank(text[position])) {
         ++position;
     }
@@ -114,11 +123,26 @@ std::size_t WordRight(const std::string& text, std::size_t position) {
     return position;
 }
 
+std::string InStyleCase(HWND edit, std::string_view text) {
+    std::string result(text);
+    const DWORD style = ControlStyle(edit);
+    if (style & ES_UPPERCASE) {
+        CharUpperBuffA(result.data(), static_cast<DWORD>(result.size()));
+    } else if (style & ES_LOWERCASE) {
+        CharLowerBuffA(result.data(), static_cast<DWORD>(result.size()));
+    }
+    return result;
+}
+
 void InsertText(HWND edit, EditData& data, std::string_view text) {
+    if (IsReadOnly(edit)) {
+        return;
+    }
+    const std::string wanted = InStyleCase(edit, text);
     const std::size_t start = data.SelectionStart();
     const std::string removed = data.text.substr(start, data.SelectionEnd() - start);
     const std::size_t kept = data.text.size() - removed.size();
-    std::string_view taken = Beginning(text, data.limit > kept ? data.limit - kept : 0);
+    std::string_view taken = Beginning(wanted, data.limit > kept ? data.limit - kept : 0);
     Exchange(data, start, start + removed.size(), taken);
     while (!taken.empty() && !FitsRectangle(edit, data)) {
         const std::size_t length = taken.size();
@@ -127,12 +151,19 @@ void InsertText(HWND edit, EditData& data, std::string_view text) {
     }
     if (!removed.empty() || !taken.empty()) {
         Remember(data, start, removed, taken.size());
+    }
+    // Told before the change itself is, with the text and its lines as they are now.
+    BreakLines(edit, data);
+    if (taken.size() < wanted.size()) {
+        NotifyParent(edit, EN_MAXTEXT);
+    }
+    if ((!removed.empty() || !taken.empty()) && IsWindow(edit)) {
         Announce(edit, data);
     }
 }
 
 void RemoveText(HWND edit, EditData& data, std::size_t start, std::size_t end) {
-    if (start >= end) {
+    if (start >= end || IsReadOnly(edit)) {
         return;
     }
     const std::string removed = data.text.substr(start, end - start);
@@ -142,7 +173,7 @@ void RemoveText(HWND edit, EditData& data, std::size_t start, std::size_t end) {
 }
 
 void SetEditText(HWND edit, EditData& data, LPCSTR text) {
-    data.text = text ? text : "";
+    data.text = InStyleCase(edit, text ? text : "");
     data.anchor = data.caret = 0;
     data.undo = {};
     data.lead = 0;
@@ -166,7 +197,7 @@ void SetEditText(HWND edit, EditData& data, LPCSTR text) {
 }
 
 bool UndoEdit(HWND edit, EditData& data) {
-    if (!data.undo.possible) {
+    if (!data.undo.possible || IsReadOnly(edit)) {
         return false;
     }
     const EditUndo undo = data.undo;

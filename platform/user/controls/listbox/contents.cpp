@@ -55,6 +55,38 @@ LRESULT OnInsert(ListData& list, int index, const char* text) {
     return InsertAt(list, index, text);
 }
 
+void Forget(int& place, int index) {
+    if (place > index)
+        --place;
+}
+
+LRESULT OnDelete(ListData& list, int index) {
+    if (!list.items.Has(index))
+        return LB_ERR;
+    // What is removed may be out of view at the top.
+    InvalidateFrom(list, index);
+    list.items.Remove(index);
+    if (list.chosen == index)
+        list.chosen = -1;
+    for (int* place : {&list.chosen, &list.caret, &list.anchor})
+        Forget(*place, index);
+    list.caret = std::min(list.caret, std::max(0, list.items.Count() - 1));
+    list.anchor = std::min(list.anchor, list.items.Count() - 1);
+    UpdateBars(list);
+    InvalidateFrom(list, std::min(index, list.items.Count()));
+    return list.items.Count();
+}
+
+/// The index -1 means all items.
+LRESULT OnSetItemData(ListData& list, int index, ULONG_PTR data) {
+    if (index != -1 && !list.items.Has(index))
+        return LB_ERR;
+    const int end = index == -1 ? list.items.Count() : index + 1;
+    for (int i = std::max(index, 0); i < end; ++i)
+        list.items[i].data = data;
+    return TRUE;
+}
+
 LRESULT OnGetText(const ListData& list, int index, char* buffer) {
     if (!list.items.Has(index))
         return LB_ERR;
@@ -108,6 +140,8 @@ LRESULT OnContentsMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lP
             return OnAdd(list, text ? text : "");
         case LB_INSERTSTRING:
             return OnInsert(list, index, text ? text : "");
+        case LB_DELETESTRING:
+            return OnDelete(list, index);
         case LB_RESETCONTENT:
             list.items.Clear();
             list.chosen = list.anchor = -1;
@@ -121,6 +155,10 @@ LRESULT OnContentsMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lP
             return OnGetText(list, index, reinterpret_cast<char*>(lParam));
         case LB_GETTEXTLEN:
             return OnGetText(list, index, nullptr);
+        case LB_GETITEMDATA:
+            return list.items.Has(index) ? static_cast<LRESULT>(list.items[index].data) : LB_ERR;
+        case LB_SETITEMDATA:
+            return OnSetItemData(list, index, static_cast<ULONG_PTR>(lParam));
         case LB_FINDSTRING:
         case LB_FINDSTRINGEXACT:
             return FindItem(list, index, text, message == LB_FINDSTRINGEXACT);

@@ -12,6 +12,11 @@ bool ListItems::Insert(int index, const char* text) try {
     return false;
 }
 
+void ListItems::Remove(int index) {
+    delete items_[static_cast<std::size_t>(index)];
+    items_.erase(items_.begin() + index);
+}
+
 void ListItems::Clear() {
     for (ListItem* item : items_)
         delete item;

@@ -16,6 +16,7 @@ namespace platform::user {
 
 struct ListItem {
     std::string text;
+    ULONG_PTR data = 0;  ///< the application's value
     bool selected = false;
 };
 
@@ -43,6 +44,7 @@ class ListItems {
     }
     /// @returns false without memory.
     bool Insert(int index, const char* text);
+    void Remove(int index);
     void Clear();
 
   private:

@@ -69,6 +69,7 @@ void OnFocus(ListData& list, bool has) {
     RedrawItem(list, list.caret, ODA_FOCUS);
     if (!has && list.tracking)
         EndTracking(list);
+    NotifyList(list, has ? LBN_SETFOCUS : LBN_KILLFOCUS);
 }
 
 void OnSetRedraw(ListData& list, bool on) {

@@ -51,6 +51,7 @@ void AskOwner(const ListData& list, HDC context, int index, const RECT& rect, UI
     item.hwndItem = owner.control;
     item.hDC = context;
     item.rcItem = rect;
+    item.itemData = index >= 0 ? list.items[index].data : 0;
     SendMessageA(owner.parent, WM_DRAWITEM, owner.id, reinterpret_cast<LPARAM>(&item));
 }
 

@@ -120,9 +120,11 @@ TEST_F(ButtonTest, AutomaticKindsChangeBeforeTheyNotify) {
         EXPECT_EQ(expected, Send(three, BM_GETCHECK));
     }
 
-    const HWND two = Make(BS_AUTOCHECKBOX);
-    Send(two, BM_SETCHECK, BST_INDETERMINATE);
-    EXPECT_EQ(BST_CHECKED, Send(two, BM_GETCHECK)) << "it has two states";
+    const HWND manual = Make(BS_CHECKBOX);
+    Send(manual, BM_CLICK);
+    EXPECT_EQ(BST_UNCHECKED, Send(manual, BM_GETCHECK));
+    Send(manual, BM_SETCHECK, BST_INDETERMINATE);
+    EXPECT_EQ(BST_CHECKED, Send(manual, BM_GETCHECK)) << "it has two states";
     const HWND push = Make(BS_PUSHBUTTON);
     Send(push, BM_SETCHECK, BST_CHECKED);
     EXPECT_EQ(BST_UNCHECKED, Send(push, BM_GETCHECK));

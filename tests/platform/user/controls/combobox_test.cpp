@@ -28,7 +28,7 @@ class ComboBoxTest : public ::testing::Test {
         switch (message) {
             case WM_COMMAND:
                 // Windows tells of more.
-                for (const int code : {CBN_SELCHANGE, CBN_DROPDOWN, CBN_EDITCHANGE, CBN_KILLFOCUS})
+                for (const int code : {CBN_SELCHANGE, CBN_DROPDOWN, CBN_CLOSEUP, CBN_EDITCHANGE, CBN_KILLFOCUS})
                     if (HIWORD(wParam) == code)
                         notified.push_back(code);
                 if (HIWORD(wParam) == CBN_SELCHANGE)
@@ -107,10 +107,13 @@ TEST_F(ComboBoxTest, ContentsSelectionAndText) {
     EXPECT_EQ("cat", TextOf(list));
     EXPECT_EQ(CB_ERR, Send(list, WM_SETTEXT, 0, reinterpret_cast<LPARAM>("x")));
     EXPECT_EQ(CB_ERR, Send(list, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>("be")));
-    const HWND edit = Filled(CBS_DROPDOWN);
+    Send(list, CB_SETITEMDATA, 1, 12);
+    EXPECT_EQ(12, Send(list, CB_GETITEMDATA, 1));
+    const HWND edit = Filled(CBS_DROPDOWN | CBS_SORT);
+    EXPECT_EQ(1, Send(edit, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>("ape")));
     SetWindowTextA(edit, "typed");
     EXPECT_EQ("typed", TextOf(edit));
-    Send(edit, CB_SETCURSEL, 1);
+    Send(edit, CB_SETCURSEL, 2);
     EXPECT_EQ("bee", TextOf(ComboField(edit)));
     EXPECT_EQ(CB_ERR, Send(edit, CB_SETCURSEL, static_cast<WPARAM>(-1)));
     EXPECT_EQ("", TextOf(edit));
@@ -157,7 +160,7 @@ TEST_F(ComboBoxTest, ClickingAnItemTakesIt) {
     EXPECT_FALSE(IsWindowVisible(ComboList(combo)));
     EXPECT_FALSE(IsWindowVisible(list));
     EXPECT_EQ(nullptr, GetCapture());
-    EXPECT_EQ((Notified{CBN_DROPDOWN, CBN_SELCHANGE}), notified);
+    EXPECT_EQ((Notified{CBN_DROPDOWN, CBN_CLOSEUP, CBN_SELCHANGE}), notified);
     EXPECT_EQ("ant", textAtChange) << "the edit control changes last";
     EXPECT_EQ("cat", TextOf(combo));
 }
@@ -168,21 +171,21 @@ TEST_F(ComboBoxTest, ClosedWithoutAChoice) {
     SetFocus(combo);
     Send(combo, CB_SETCURSEL, 1);
     Forget();
-    Send(combo, WM_KEYDOWN, VK_F4, 1);
+    Send(combo, CB_SHOWDROPDOWN, TRUE);
     Send(list, WM_MOUSEMOVE, 0, ItemPoint(list, 3));
     Send(list, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(300, 300));
-    EXPECT_EQ(Notified{CBN_DROPDOWN}, notified) << "a click elsewhere";
+    EXPECT_EQ((Notified{CBN_DROPDOWN, CBN_CLOSEUP}), notified) << "a click elsewhere";
     EXPECT_EQ(1, Send(combo, CB_GETCURSEL));
     Forget();
-    Send(combo, WM_KEYDOWN, VK_F4, 1);
+    Send(combo, CB_SHOWDROPDOWN, TRUE);
     Send(combo, WM_KEYDOWN, VK_ESCAPE, 1);
-    EXPECT_EQ(Notified{CBN_DROPDOWN}, notified);
+    EXPECT_EQ((Notified{CBN_DROPDOWN, CBN_CLOSEUP}), notified);
     Forget();
-    Send(combo, WM_KEYDOWN, VK_F4, 1);
+    Send(combo, CB_SHOWDROPDOWN, TRUE);
     SetFocus(parent_);
-    EXPECT_EQ((Notified{CBN_DROPDOWN, CBN_KILLFOCUS}), notified);
+    EXPECT_EQ((Notified{CBN_DROPDOWN, CBN_CLOSEUP, CBN_KILLFOCUS}), notified);
     EXPECT_EQ(nullptr, GetCapture());
-    Send(combo, WM_KEYDOWN, VK_F4, 1);
+    Send(combo, CB_SHOWDROPDOWN, TRUE);
     DestroyWindow(combo);
     EXPECT_FALSE(IsWindow(list));
     EXPECT_EQ(nullptr, GetCapture());
@@ -257,6 +260,7 @@ TEST_F(ComboBoxTest, AnOwnerDrawsFieldAndItems) {
     EXPECT_EQ(18, Send(ComboList(combo), LB_GETITEMHEIGHT));
     Send(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>("one"));
     Send(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>("two"));
+    Send(combo, CB_SETITEMDATA, 1, 9);
     Send(combo, CB_SETCURSEL, 1);
     drawn.clear();
     InvalidateRect(combo, nullptr, TRUE);
@@ -266,6 +270,7 @@ TEST_F(ComboBoxTest, AnOwnerDrawsFieldAndItems) {
     EXPECT_EQ(UINT{ODT_COMBOBOX}, field.CtlType);
     EXPECT_EQ(55U, field.CtlID);
     EXPECT_EQ(1U, field.itemID);
+    EXPECT_EQ(9U, field.itemData);
     EXPECT_EQ(combo, field.hwndItem);
     EXPECT_EQ(UINT{ODS_COMBOBOXEDIT}, field.itemState);
     drawn.clear();

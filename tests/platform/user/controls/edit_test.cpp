@@ -93,8 +93,11 @@ TEST_F(EditTest, LimitHoldsWhatTheUserEnters) {
     const HWND edit = Make();
     Send(edit, EM_LIMITTEXT, 3);
     EXPECT_EQ(3, Send(edit, EM_GETLIMITTEXT));
-    Type(edit, "abcd");
+    Type(edit, "abc");
+    TakeNotified();
+    Type(edit, "d");
     EXPECT_EQ("abc|", Marked(edit));
+    EXPECT_EQ(UINT{EN_MAXTEXT}, TakeNotified().at(0));
     Select(edit, 0, 2);
     Type(edit, "x");
     EXPECT_EQ("x|c", Marked(edit)) << "what is replaced makes room";
@@ -118,6 +121,7 @@ TEST_F(EditTest, WithoutScrollingTheTextEndsAtTheEdge) {
     const int length = GetWindowTextLengthA(edit);
     EXPECT_GT(length, 0);
     EXPECT_LT(length, 40);
+    EXPECT_EQ(40 - length, std::count(Notified().begin(), Notified().end(), UINT{EN_MAXTEXT})) << "once for each";
     const HWND scrolling = Make(ES_AUTOHSCROLL, "", 60);
     for (int i = 0; i < 40; ++i)
         Type(scrolling, "W");
@@ -156,15 +160,63 @@ TEST_F(EditTest, UndoTakesBackTheLastPieceOfWork) {
     EXPECT_EQ("hello you", Text(edit));
 }
 
-TEST_F(EditTest, ANumberIsOfDigits) {
+TEST_F(EditTest, StylesOfTheText) {
+    const HWND upper = Make(ES_AUTOHSCROLL | ES_UPPERCASE, "x");
+    Type(upper, "aB\xE4");
+    EXPECT_EQ("AB\xC4X", Text(upper));
+    const HWND lower = Make(ES_AUTOHSCROLL | ES_LOWERCASE);
+    Type(lower, "aB");
+    EXPECT_EQ("ab", Text(lower));
     const HWND number = Make(ES_AUTOHSCROLL | ES_NUMBER);
     Type(number, "-1a2 .3\b");
     EXPECT_EQ("12", Text(number));
 }
 
-TEST_F(EditTest, TheCaretFollowsTheText) {
+TEST_F(EditTest, ReadOnlyTextCanBeReadOnly) {
+    const HWND edit = Make(ES_AUTOHSCROLL, "fixed");
+    Select(edit, 0, 2);
+    Type(edit, "X");
+    Select(edit, 0, 1);
+    EXPECT_TRUE(Send(edit, EM_SETREADONLY, TRUE));
+    EXPECT_TRUE(GetWindowLongA(edit, GWL_STYLE) & ES_READONLY);
+    Type(edit, "x\b");
+    Key(edit, VK_DELETE);
+    for (const UINT message : {WM_CUT, WM_PASTE, WM_CLEAR, WM_UNDO})
+        Send(edit, message);
+    EXPECT_EQ("[X]xed", Marked(edit));
+    Key(edit, VK_END);
+    EXPECT_EQ("Xxed|", Marked(edit));
+    SetWindowTextA(edit, "set");
+    EXPECT_EQ("set", Text(edit));
+    Send(edit, EM_SETREADONLY, FALSE);
+    Type(edit, "x");
+    EXPECT_EQ("xset", Text(edit));
+}
+
+TEST_F(EditTest, AlignmentMovesTheText) {
+    const LONG left = PlaceOf(Make(ES_AUTOHSCROLL, "ab"), 0).x;
+    const LONG centre = PlaceOf(Make(ES_CENTER, "ab"), 0).x;
+    const LONG right = PlaceOf(Make(ES_RIGHT, "ab"), 0).x;
+    EXPECT_GT(centre, left + 20);
+    EXPECT_GT(right, centre + 20);
+}
+
+TEST_F(EditTest, PasswordIsShownAsSomethingElse) {
+    const HWND edit = Make(ES_AUTOHSCROLL | ES_PASSWORD, "wi ll");
+    EXPECT_EQ("wi ll", Text(edit));
+    // Every character is as wide as the next, and a step by words tells of none.
+    const LONG start = PlaceOf(edit, 0).x;
+    EXPECT_EQ(start + 4 * (PlaceOf(edit, 1).x - start), PlaceOf(edit, 4).x);
+    Select(edit, 0, 0);
+    const KeyHeld control(VK_CONTROL);
+    Key(edit, VK_RIGHT);
+    EXPECT_EQ("wi ll|", Marked(edit));
+}
+
+TEST_F(EditTest, FocusIsToldAndTheCaretFollowsTheText) {
     const HWND edit = Make(ES_AUTOHSCROLL, "hello");
     SetFocus(edit);
+    EXPECT_EQ(Codes{EN_SETFOCUS}, TakeNotified());
     int previous = -1;
     for (int position = 0; position <= 5; ++position) {
         const POINT caret = PlaceOf(edit, position);
@@ -172,6 +224,7 @@ TEST_F(EditTest, TheCaretFollowsTheText) {
         previous = caret.x;
     }
     SetFocus(parent_);
+    EXPECT_EQ(Codes{EN_KILLFOCUS}, TakeNotified());
     POINT caret{};
     EXPECT_FALSE(GetCaretPos(&caret) && GetFocus() == edit);
 }
@@ -207,7 +260,7 @@ TEST_F(EditTest, MouseSelects) {
 }
 
 TEST_F(EditTest, ParentMayEndTheControlInAnyNotification) {
-    for (const UINT code : {EN_UPDATE, EN_CHANGE}) {
+    for (const UINT code : {EN_SETFOCUS, EN_UPDATE, EN_CHANGE, EN_MAXTEXT, EN_KILLFOCUS}) {
         const HWND edit = Make(ES_AUTOHSCROLL, "text");
         Send(edit, EM_LIMITTEXT, 5);
         DestroyOn() = code;

@@ -19,7 +19,7 @@ class ListBoxTest : public ::testing::Test {
         switch (message) {
             case WM_COMMAND:
                 // Windows tells of more.
-                for (const int code : {LBN_SELCHANGE, LBN_DBLCLK})
+                for (const int code : {LBN_SELCHANGE, LBN_DBLCLK, LBN_SETFOCUS, LBN_KILLFOCUS})
                     if (HIWORD(wParam) == code)
                         notified.push_back(code);
                 return 0;
@@ -107,7 +107,7 @@ class ListBoxTest : public ::testing::Test {
 using Notified = std::vector<int>;
 using Indexes = std::vector<int>;
 
-TEST_F(ListBoxTest, AddsInsertsAndSorts) {
+TEST_F(ListBoxTest, AddsInsertsSortsAndDeletes) {
     const HWND list = Filled(0, {"one", "two"});
     EXPECT_EQ(1, Send(list, LB_INSERTSTRING, 1, reinterpret_cast<LPARAM>("between")));
     EXPECT_EQ(3, Send(list, LB_INSERTSTRING, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>("last")));
@@ -115,6 +115,9 @@ TEST_F(ListBoxTest, AddsInsertsAndSorts) {
     EXPECT_EQ("one between two last ", All(list));
     EXPECT_EQ(7, Send(list, LB_GETTEXTLEN, 1));
     EXPECT_EQ(LB_ERR, Send(list, LB_GETTEXTLEN, 4));
+    EXPECT_EQ(3, Send(list, LB_DELETESTRING, 0));
+    EXPECT_EQ(LB_ERR, Send(list, LB_DELETESTRING, 3));
+    EXPECT_EQ("between two last ", All(list));
     Send(list, LB_RESETCONTENT);
     EXPECT_EQ(0, Send(list, LB_GETCOUNT));
 
@@ -134,6 +137,16 @@ TEST_F(ListBoxTest, FindsTexts) {
     EXPECT_TRUE(notified.empty()) << "messages do not notify";
 }
 
+TEST_F(ListBoxTest, ValuesOfItems) {
+    const HWND list = Filled(0, {"a", "b"});
+    EXPECT_EQ(0, Send(list, LB_GETITEMDATA, 1));
+    EXPECT_TRUE(Send(list, LB_SETITEMDATA, 1, 4711));
+    EXPECT_EQ(4711, Send(list, LB_GETITEMDATA, 1));
+    EXPECT_EQ(LB_ERR, Send(list, LB_SETITEMDATA, 2, 1));
+    Send(list, LB_INSERTSTRING, 0, reinterpret_cast<LPARAM>("new"));
+    EXPECT_EQ(4711, Send(list, LB_GETITEMDATA, 2)) << "it moves along";
+}
+
 TEST_F(ListBoxTest, SingleSelection) {
     const HWND list = Filled(0, {"a", "b", "c", "d"});
     EXPECT_EQ(LB_ERR, Send(list, LB_GETCURSEL));
@@ -146,6 +159,8 @@ TEST_F(ListBoxTest, SingleSelection) {
     EXPECT_EQ(2, Send(list, LB_GETCURSEL)) << "an index that is none changes nothing";
     Send(list, LB_INSERTSTRING, 0, reinterpret_cast<LPARAM>("first"));
     EXPECT_EQ(3, Send(list, LB_GETCURSEL));
+    Send(list, LB_DELETESTRING, 3);
+    EXPECT_EQ(LB_ERR, Send(list, LB_GETCURSEL));
     Send(list, LB_SETCURSEL, 1);
     EXPECT_EQ(LB_ERR, Send(list, LB_SETCURSEL, static_cast<WPARAM>(-1)));
     EXPECT_EQ(LB_ERR, Send(list, LB_GETCURSEL));
@@ -163,8 +178,10 @@ TEST_F(ListBoxTest, MultipleSelectionByMessages) {
     EXPECT_EQ((Indexes{1, 2, 3, 4}), Selected(list));
     Send(list, LB_SELITEMRANGE, FALSE, MAKELPARAM(2, 3));
     EXPECT_EQ((Indexes{1, 4}), Selected(list));
+    Send(list, LB_DELETESTRING, 0);
+    EXPECT_EQ((Indexes{0, 3}), Selected(list));
     Send(list, LB_SETSEL, TRUE, -1);
-    EXPECT_EQ(5, Send(list, LB_GETSELCOUNT));
+    EXPECT_EQ(4, Send(list, LB_GETSELCOUNT));
     Send(list, LB_SETSEL, FALSE, -1);
     EXPECT_EQ(0, Send(list, LB_GETSELCOUNT));
     EXPECT_EQ(LB_ERR, Send(list, LB_SETSEL, TRUE, 9));
@@ -178,14 +195,17 @@ TEST_F(ListBoxTest, ClicksSelectAndNotify) {
     EXPECT_EQ(1, Send(list, LB_GETCURSEL));
     Send(list, WM_MOUSEMOVE, MK_LBUTTON, PointIn(list, 2));
     EXPECT_EQ(2, Send(list, LB_GETCURSEL));
-    EXPECT_TRUE(notified.empty()) << "the choice is not made yet";
+    EXPECT_EQ(Notified{LBN_SETFOCUS}, notified) << "the choice is not made yet";
     Send(list, WM_LBUTTONUP, 0, PointIn(list, 2));
-    EXPECT_EQ(Notified{LBN_SELCHANGE}, notified);
+    EXPECT_EQ((Notified{LBN_SETFOCUS, LBN_SELCHANGE}), notified);
     EXPECT_EQ(nullptr, GetCapture());
     notified.clear();
     Send(list, WM_LBUTTONDBLCLK, MK_LBUTTON, PointIn(list, 2));
     Send(list, WM_LBUTTONUP, 0, PointIn(list, 2));
     EXPECT_EQ(1, std::count(notified.begin(), notified.end(), LBN_DBLCLK));
+    notified.clear();
+    SetFocus(parent_);
+    EXPECT_EQ(Notified{LBN_KILLFOCUS}, notified);
 
     const HWND multiple = Filled(LBS_MULTIPLESEL, {"a", "b", "c", "d"});
     Click(multiple, 1);
@@ -316,7 +336,8 @@ TEST_F(ListBoxTest, ScrollsItemsIntoView) {
     EXPECT_EQ(1, Send(list, LB_GETTOPINDEX));
     Send(list, WM_VSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 7));
     EXPECT_EQ(7, Send(list, LB_GETTOPINDEX));
-    Send(list, LB_RESETCONTENT);
+    while (Send(list, LB_GETCOUNT) > 2)
+        Send(list, LB_DELETESTRING, 0);
     EXPECT_EQ(0, Send(list, LB_GETTOPINDEX));
     EXPECT_FALSE(GetWindowLongA(list, GWL_STYLE) & WS_VSCROLL);
 }
@@ -327,6 +348,7 @@ TEST_F(ListBoxTest, AnOwnerMeasuresAndDraws) {
     EXPECT_EQ(17, ItemHeight(list));
     Add(list, "one");
     Add(list, "two");
+    Send(list, LB_SETITEMDATA, 1, 22);
     UpdateWindow(list);
     ASSERT_GE(drawn.size(), 2U);
     const DRAWITEMSTRUCT second = drawn.back();
@@ -336,6 +358,7 @@ TEST_F(ListBoxTest, AnOwnerMeasuresAndDraws) {
     EXPECT_EQ(UINT{ODA_DRAWENTIRE}, second.itemAction);
     EXPECT_EQ(0U, second.itemState);
     EXPECT_EQ(list, second.hwndItem);
+    EXPECT_EQ(22U, second.itemData);
     EXPECT_EQ(17, second.rcItem.top);
     EXPECT_EQ(34, second.rcItem.bottom);
 

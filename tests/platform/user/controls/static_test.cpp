@@ -1,5 +1,7 @@
-// The "static" class: the mouse, pictures.
+// The "static" class: the mouse, notifications, pictures.
 #include <gtest/gtest.h>
+
+#include <vector>
 
 #include "tests/platform/support/dialog_builder.h"
 
@@ -7,8 +9,16 @@ namespace {
 
 class StaticTest : public ::testing::Test {
   protected:
+    static inline std::vector<UINT> notified;
+    static LRESULT CALLBACK ParentProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        if (message == WM_COMMAND)
+            notified.push_back(HIWORD(wParam));
+        return DefWindowProcA(window, message, wParam, lParam);
+    }
+
     void SetUp() override {
-        parent_ = tests::MakeOwner();
+        parent_ = tests::MakeOwner(ParentProcedure);
+        notified.clear();
     }
     void TearDown() override {
         DestroyWindow(parent_);
@@ -20,8 +30,15 @@ class StaticTest : public ::testing::Test {
     HWND parent_ = nullptr;
 };
 
-TEST_F(StaticTest, TheMouseGoesThrough) {
+TEST_F(StaticTest, OnlyNotifyingOnesTakeTheMouse) {
     EXPECT_EQ(HTTRANSPARENT, SendMessageA(Make(SS_LEFT), WM_NCHITTEST, 0, MAKELPARAM(15, 15)));
+    const HWND notifying = Make(SS_LEFT | SS_NOTIFY);
+    EXPECT_EQ(HTCLIENT, SendMessageA(notifying, WM_NCHITTEST, 0, MAKELPARAM(15, 15)));
+    SendMessageA(notifying, WM_LBUTTONDOWN, MK_LBUTTON, 0);
+    SendMessageA(notifying, WM_LBUTTONDBLCLK, MK_LBUTTON, 0);
+    EnableWindow(notifying, FALSE);
+    EnableWindow(notifying, TRUE);
+    EXPECT_EQ((std::vector<UINT>{STN_CLICKED, STN_DBLCLK, STN_DISABLE, STN_ENABLE}), notified);
 }
 
 RECT PlaceIn(HWND parent, HWND control) {

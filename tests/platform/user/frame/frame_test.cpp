@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include "tests/platform/support/expect_rect.h"
 #include "tests/platform/support/recorder.h"
 
 namespace {
@@ -109,13 +110,68 @@ TEST_F(Frames, OverlappedWindowsGetWhatTheirStyleImplies) {
     EXPECT_TRUE(GetWindowLongA(window, GWL_STYLE) & WS_CLIPSIBLINGS);
 }
 
-TEST_F(Frames, ACaptionKeepsRoomForItsButtons) {
+TEST_F(Frames, SizesAreKeptWithinTheLimitsThatAreAskedFor) {
+    Recorder::Get().answer = [](const Heard& heard, LRESULT* result) {
+        if (heard.message != WM_GETMINMAXINFO) {
+            return false;
+        }
+        auto* limits = reinterpret_cast<MINMAXINFO*>(heard.lParam);
+        limits->ptMinTrackSize = {250, 180};
+        limits->ptMaxPosition = {20, 30};
+        limits->ptMaxSize = {400, 300};
+        *result = 0;
+        return true;
+    };
     Make(WS_OVERLAPPEDWINDOW);
-    SetWindowPos(window, nullptr, 0, 0, 10, 10, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     RECT rect;
     GetWindowRect(window, &rect);
-    EXPECT_GT(rect.right - rect.left, 4 * GetSystemMetrics(SM_CYCAPTION));
-    EXPECT_GT(rect.bottom - rect.top, GetSystemMetrics(SM_CYCAPTION));
+    EXPECT_EQ(rect.right - rect.left, 250);
+    EXPECT_EQ(rect.bottom - rect.top, 180);
+    SetWindowPos(window, nullptr, 0, 0, 10, 10, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    GetWindowRect(window, &rect);
+    EXPECT_EQ(rect.right - rect.left, 250);
+    ShowWindow(window, SW_SHOWMAXIMIZED);
+    GetWindowRect(window, &rect);
+    ExpectRect(rect, 20, 30, 420, 330);
+}
+
+TEST_F(Frames, AWindowKeepsTheIconsThatItIsGiven) {
+    Make(WS_OVERLAPPEDWINDOW);
+    const auto icon = reinterpret_cast<LPARAM>(LoadIconA(nullptr, IDI_APPLICATION));
+    EXPECT_EQ(SendMessageA(window, WM_SETICON, ICON_BIG, icon), 0);
+    EXPECT_EQ(SendMessageA(window, WM_GETICON, ICON_BIG, 0), icon);
+    EXPECT_EQ(SendMessageA(window, WM_SETICON, ICON_BIG, 0), icon);
+    EXPECT_EQ(SendMessageA(window, WM_GETICON, ICON_BIG, 0), 0);
+}
+
+TEST_F(Frames, PlacesAreChosenWhereNoneIsGiven) {
+    const auto place = [](DWORD style) {
+        const HWND made = Recorder::Get().Make(style, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT);
+        RECT rect;
+        GetWindowRect(made, &rect);
+        DestroyWindow(made);
+        return rect;
+    };
+    RECT work;
+    SystemParametersInfoA(SPI_GETWORKAREA, 0, &work, 0);
+    const RECT first = place(WS_OVERLAPPEDWINDOW);
+    const RECT second = place(WS_OVERLAPPEDWINDOW);
+    EXPECT_NE(first.left, second.left) << "none hides the one before";
+    EXPECT_GT(first.right - first.left, (work.right - work.left) / 3);
+    RECT common;
+    EXPECT_TRUE(IntersectRect(&common, &first, &work));
+    ExpectRect(place(WS_POPUP), 0, 0, 0, 0);
+}
+
+TEST_F(Frames, DrawingIsSwitchedOffAndOn) {
+    Make(WS_POPUP | WS_VISIBLE);
+    UpdateWindow(window);
+    SendMessageA(window, WM_SETREDRAW, FALSE, 0);
+    InvalidateRect(window, nullptr, TRUE);
+    EXPECT_FALSE(GetUpdateRect(window, nullptr, FALSE));
+    SendMessageA(window, WM_SETREDRAW, TRUE, 0);
+    InvalidateRect(window, nullptr, TRUE);
+    EXPECT_TRUE(GetUpdateRect(window, nullptr, FALSE));
 }
 
 TEST_F(Frames, CloseLeadsToDestruction) {

@@ -85,7 +85,7 @@ TEST_F(MessagesTest, PaintingComesBeforeTimersAndAfterPostedMessages) {
     std::vector<UINT> order;
     for (int i = 0; i < 3; ++i) {
         MSG message{};
-        ASSERT_TRUE(PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE));
+        ASSERT_TRUE(PeekMessageA(&message, window, 0, 0, PM_REMOVE));
         order.push_back(message.message);
         DispatchMessageA(&message);
     }
@@ -101,15 +101,21 @@ TEST_F(MessagesTest, QuitPassesEveryMessageFilter) {
     EXPECT_EQ(message.wParam, 3u);
 }
 
-TEST_F(MessagesTest, FiltersByRange) {
+TEST_F(MessagesTest, FiltersByWindowChildrenAndRange) {
+    HWND child = Recorder::Get().Make(WS_CHILD, 0, 0, 10, 10, window);
     HWND other = Recorder::Get().Make(WS_POPUP, 0, 0, 10, 10);
     PostMessageA(other, WM_USER + 1, 0, 0);
+    PostMessageA(child, WM_USER + 2, 0, 0);
     PostMessageA(window, WM_USER + 3, 0, 0);
     PostMessageA(nullptr, WM_USER + 4, 0, 0);
     MSG message{};
-    ASSERT_TRUE(PeekMessageA(&message, nullptr, WM_USER + 3, WM_USER + 9, PM_REMOVE));
-    EXPECT_EQ(message.hwnd, window);
-    ASSERT_TRUE(PeekMessageA(&message, nullptr, WM_USER + 2, WM_USER + 9, PM_REMOVE));
+    ASSERT_TRUE(PeekMessageA(&message, window, WM_USER + 3, WM_USER + 9, PM_REMOVE));
+    EXPECT_EQ(message.message, static_cast<UINT>(WM_USER + 3));
+    ASSERT_TRUE(PeekMessageA(&message, window, WM_USER, WM_USER + 9, PM_REMOVE));
+    EXPECT_EQ(message.hwnd, child);
+    EXPECT_FALSE(PeekMessageA(&message, window, WM_USER, WM_USER + 9, PM_REMOVE));
+    ASSERT_TRUE(
+        PeekMessageA(&message, reinterpret_cast<HWND>(static_cast<INT_PTR>(-1)), WM_USER, WM_USER + 9, PM_REMOVE));
     EXPECT_EQ(message.message, static_cast<UINT>(WM_USER + 4));
     // What is posted to a window dies with it.
     DestroyWindow(other);
@@ -193,7 +199,7 @@ TEST_F(MessagesTest, TimersBeatCoalescedUntilKilled) {
     EXPECT_LE(seen, 2 + static_cast<int>((GetTickCount() - start) / 20));
     start = GetTickCount();
     for (int i = 0; i < 4; ++i) {
-        ASSERT_TRUE(GetMessageA(&message, nullptr, WM_TIMER, WM_TIMER));
+        ASSERT_TRUE(GetMessageA(&message, window, WM_TIMER, WM_TIMER));
     }
     EXPECT_GE(GetTickCount() - start, 50u);
     // Setting it anew replaces it.

@@ -15,6 +15,7 @@ TEST_F(Positions, MessagesComeInTheDocumentedOrder) {
     const int changed = record.Position(WM_WINDOWPOSCHANGED);
     EXPECT_GE(changing, 0);
     EXPECT_LT(changing, changed);
+    EXPECT_LT(changed, record.Position(WM_MOVE));
     EXPECT_LT(changed, record.Position(WM_SIZE));
     EXPECT_EQ(record.lastPosition.x, 20);
     EXPECT_EQ(record.lastPosition.cy, 50);
@@ -24,6 +25,7 @@ TEST_F(Positions, MessagesComeInTheDocumentedOrder) {
     SetWindowPos(window, nullptr, 25, 30, 60, 50, kQuiet);
     EXPECT_EQ(Of(window).Count(WM_WINDOWPOSCHANGED), 1);
     EXPECT_EQ(Of(window).Count(WM_SIZE), 0);
+    EXPECT_EQ(Of(window).Count(WM_MOVE), 1);
     Settle();
     SetWindowPos(window, nullptr, 25, 30, 60, 50, kQuiet);
     EXPECT_EQ(Of(window).Count(WM_WINDOWPOSCHANGED), 0);
@@ -118,7 +120,7 @@ TEST_F(Positions, OrderChangesShowTheUpperWindow) {
     Settle();
     EXPECT_EQ(GetWindow(ground, GW_CHILD), second);
     EXPECT_EQ(PixelAt(ground, 40, 40), kGreen);
-    SetWindowPos(second, first, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    SetWindowPos(second, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     ExpectRect(UpdateOf(first), 20, 20, 40, 40);
     Settle();
     EXPECT_EQ(PixelAt(ground, 40, 40), kRed);
@@ -132,8 +134,6 @@ TEST_F(Positions, OwnedWindowsStayAboveAndTopmostOnesAboveAll) {
     HWND owner = Make(kTop, 10, 10, 60, 60, nullptr, kRed);
     HWND owned = Make(kTop, 20, 20, 60, 60, owner, kGreen);
     HWND other = Make(kTop, 30, 30, 60, 60, nullptr, kYellow);
-    HWND topmost = CreateWindowExA(WS_EX_TOPMOST, "static", "", WS_POPUP | WS_VISIBLE, 0, 0, 9, 9, nullptr, nullptr,
-                                   nullptr, nullptr);
     Settle();
     const auto above = [](HWND window, HWND below) {
         for (HWND at = GetWindow(window, GW_HWNDNEXT); at != nullptr; at = GetWindow(at, GW_HWNDNEXT)) {
@@ -149,8 +149,13 @@ TEST_F(Positions, OwnedWindowsStayAboveAndTopmostOnesAboveAll) {
     EXPECT_TRUE(above(owner, other));
     EXPECT_TRUE(above(ground, owned));
 
-    EXPECT_TRUE(above(topmost, owned));
-    DestroyWindow(topmost);
+    SetWindowPos(other, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    EXPECT_NE(GetWindowLongA(other, GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
+    SetWindowPos(owner, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    EXPECT_TRUE(above(other, owned));
+    SetWindowPos(other, HWND_NOTOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    EXPECT_EQ(GetWindowLongA(other, GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
+    EXPECT_TRUE(above(ground, other));
 }
 
 TEST_F(Positions, ShowingTellsAndTheFirstTimeSizes) {

@@ -55,9 +55,14 @@ TEST_F(Windows, HearOfTheirCreationInOrder) {
     HWND parent = Make(WS_POPUP, 20, 30, 200, 100);
     Recorder::Get().Clear();
     HWND child = Child(parent, 5, 6, 50, 40);
-    const std::vector<UINT> told{WM_NCCREATE, WM_CREATE, WM_SIZE};
+    const std::vector<UINT> told{WM_NCCREATE, WM_CREATE, WM_SIZE, WM_MOVE};
     EXPECT_EQ(Recorder::Get().Numbers(told, child), told);
+    const Heard* notice = Recorder::Get().Find(WM_PARENTNOTIFY, parent);
+    ASSERT_NE(notice, nullptr);
+    EXPECT_EQ(LOWORD(notice->wParam), WM_CREATE);
+    EXPECT_EQ(reinterpret_cast<HWND>(notice->lParam), child);
     EXPECT_EQ(Recorder::Get().Find(WM_SIZE, child)->lParam, MAKELPARAM(50, 40));
+    EXPECT_EQ(Recorder::Get().Find(WM_MOVE, child)->lParam, MAKELPARAM(5, 6));
 }
 
 TEST_F(Windows, HearOfTheirEndFromTheRootDownAndAreGoneFromTheLeavesUp) {
@@ -191,6 +196,10 @@ TEST_F(Windows, TopmostOnesStayAboveTheOthers) {
     EXPECT_TRUE(above(high, low));
     SetWindowPos(low, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     EXPECT_TRUE(above(high, low));
+    SetWindowPos(high, HWND_NOTOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    EXPECT_FALSE(GetWindowLongA(high, GWL_EXSTYLE) & WS_EX_TOPMOST);
+    SetWindowPos(low, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    EXPECT_TRUE(above(low, high));
 }
 
 TEST_F(Windows, ANewParentTakesChildAndPlaceAlong) {

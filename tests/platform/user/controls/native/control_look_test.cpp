@@ -24,6 +24,8 @@ class ControlLookTest : public ::testing::Test {
             .Item("static", "HHHH", 5, SS_LEFT, 4, 56, 50, 8)
             .Item("static", "HHHH", 6, SS_RIGHT, 4, 72, 50, 8)
             .Item("static", "HHHH", 7, SS_LEFT | WS_DISABLED, 64, 56, 50, 8)
+            .Item("static", "", 8, SS_BLACKFRAME, 64, 72, 8, 8)
+            .Item("static", "", 10, SS_ETCHEDHORZ, 80, 72, 20, 4)
             .Item("button", "Group", 9, BS_GROUPBOX, 4, 88, 100, 30);
         dialog_ = CreateDialogIndirectParamA(nullptr, builder.Data(), nullptr, Procedure, 0);
         ASSERT_NE(nullptr, dialog_);
@@ -136,12 +138,15 @@ TEST_F(ControlLookTest, ACheckBoxShowsItsState) {
     EXPECT_EQ(shadow, Pixel(4, 0, 1)) << "sunken";
 }
 
-TEST_F(ControlLookTest, StaticText) {
+TEST_F(ControlLookTest, StaticTextAndFrames) {
     const int left = Count(5, black, {0, 0, 38, 13});
     EXPECT_GT(left, 20);
     EXPECT_EQ(0, Count(5, black, {38, 0, 75, 13}));
     EXPECT_EQ(0, Count(6, black, {0, 0, 37, 13}));
     EXPECT_EQ(left, Count(6, black, {37, 0, 75, 13}));
+    EXPECT_EQ(2 * 12 + 2 * 11, Count(8, dark, Client(8))) << "one pixel wide, 12 by 13 around";
+    EXPECT_EQ(shadow, Pixel(10, 3, 0));
+    EXPECT_EQ(highlight, Pixel(10, 3, 1));
     SetDlgItemTextA(dialog_, 5, "");
     EXPECT_EQ(0, Count(5, black, Client(5)));
 }

@@ -41,6 +41,27 @@ TEST_F(EditLook, ColoursSayWhatCanBeDone) {
     EXPECT_EQ((std::set<COLORREF>{window, text}), Colours(edit));
     EnableWindow(edit, FALSE);
     EXPECT_EQ((std::set<COLORREF>{face, GetSysColor(COLOR_GRAYTEXT)}), Colours(edit));
+    EnableWindow(edit, TRUE);
+    Send(edit, EM_SETREADONLY, TRUE);
+    EXPECT_EQ((std::set<COLORREF>{face, text}), Colours(edit));
+}
+
+TEST_F(EditLook, PasswordShowsNoneOfItsCharacters) {
+    const HWND secret = Make(ES_AUTOHSCROLL | ES_PASSWORD, "iiii");
+    const HWND stars = Make(ES_AUTOHSCROLL, "****");
+    UpdateWindow(secret);
+    UpdateWindow(stars);
+    for (int y = 0; y < 18; ++y) {
+        for (int x = 0; x < 40; ++x)
+            ASSERT_EQ(Pixel(stars, x, y), Pixel(secret, x, y));
+    }
+    Select(secret, 0, -1);
+    Send(secret, WM_COPY);
+    Send(secret, WM_CUT);
+    EXPECT_EQ("iiii", Text(secret));
+    ASSERT_TRUE(OpenClipboard(parent_));
+    EXPECT_EQ(nullptr, GetClipboardData(CF_TEXT)) << "and gives none away";
+    CloseClipboard();
 }
 
 TEST_F(EditLook, SelectionIsHighlightedWhileTheFieldHasTheFocus) {

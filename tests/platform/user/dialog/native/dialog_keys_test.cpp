@@ -60,6 +60,18 @@ TEST_F(PlainWindowRules, EnterIsACommand) {
     EXPECT_EQ(std::vector<int>{IDOK}, Clicked());
 }
 
+TEST_F(PlainWindowRules, LinesOfTextLetGoOfEnterUnlessAStyleKeepsIt) {
+    SetFocus(Item(kLines));
+    Press(VK_RETURN);
+    EXPECT_EQ(std::vector<int>{IDOK}, Clicked());
+    EXPECT_EQ(0, GetWindowTextLengthA(Item(kLines)));
+    SetWindowLongA(Item(kLines), GWL_STYLE, GetWindowLongA(Item(kLines), GWL_STYLE) | ES_WANTRETURN);
+    Press(VK_RETURN);
+    tests::Pump();
+    EXPECT_EQ(std::vector<int>{}, Clicked());
+    EXPECT_EQ(2, GetWindowTextLengthA(Item(kLines)));
+}
+
 TEST_F(PlainWindowRules, AWindowMayNameItsDefaultButton) {
     Recorder::Get().answer = [](const tests::Heard& heard, LRESULT* result) {
         *result = MAKELONG(kOne, DC_HASDEFID);

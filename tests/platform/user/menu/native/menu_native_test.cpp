@@ -278,7 +278,10 @@ TEST_F(OpenMenus, OfAFieldOfferWhatCanBeDone) {
         CloseClipboard();
     }
     refused("UPA");
+    Send(edit, EM_SETREADONLY, TRUE);
+    refused("UTPDA");
     Run({[&] { PostMessageA(edit, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(edit), -1); }, [] { Key('C'); }});
+    Send(edit, EM_SETREADONLY, FALSE);
     Select(edit, 6, 6);
     Run({[&] { PostMessageA(edit, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(edit), -1); }, [] { Key('P'); }});
     EXPECT_EQ("secretsecret|", Marked(edit));

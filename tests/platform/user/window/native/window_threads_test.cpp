@@ -105,8 +105,8 @@ TEST_F(WindowThreads, AThreadThatEndsDoesNotWaitForTheParents) {
 
 TEST_F(WindowThreads, AWindowOfThisThreadInAForeignChildComesHome) {
     MakeChildElsewhere(true);
-    const HWND own =
-        CreateWindowExA(0, "static", "", WS_CHILD | WS_VISIBLE, 0, 0, 9, 9, child_, nullptr, nullptr, nullptr);
+    const HWND own = CreateWindowExA(WS_EX_NOPARENTNOTIFY, "static", "", WS_CHILD | WS_VISIBLE, 0, 0, 9, 9, child_,
+                                     nullptr, nullptr, nullptr);
     ASSERT_TRUE(DestroyWindow(window_));
     LetGo();
     EXPECT_FALSE(IsWindow(child_));
