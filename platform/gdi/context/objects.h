@@ -48,9 +48,10 @@ struct Brush : Object {
 
 struct Font : Object {
     static constexpr base::HandleKind kKind = base::HandleKind::Font;
+    ~Font();
     LOGFONTA logical{};
     bool doomed = false;                           ///< deleted by whoever lets go of it last
-    std::atomic<RealizedFont*> realized{nullptr};  ///< found on first use; lives as long as the process
+    std::atomic<RealizedFont*> realized{nullptr};  ///< found on first use; lives as long as a font asks for it
 };
 
 struct Bitmap : Object {

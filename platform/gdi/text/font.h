@@ -51,10 +51,15 @@ class Face {
 };
 
 /// A face with the styles that it lacks put on, and a store of its glyphs. Glyphs never move or change once they are
-/// made, so reading them takes no lock. Lives as long as the process.
+/// made, so reading them takes no lock.
 class RealizedFont {
   public:
     RealizedFont(std::unique_ptr<Face> face, const LOGFONTA& logical);
+    ~RealizedFont();
+    RealizedFont(const RealizedFont&) = delete;
+    RealizedFont& operator=(const RealizedFont&) = delete;
+
+    int fonts = 0;  ///< that have been realized by it and are still there; guarded as the store of realized fonts is
 
     const FontMetrics& Metrics() const {
         return metrics_;

@@ -60,6 +60,15 @@ RealizedFont::RealizedFont(std::unique_ptr<Face> face, const LOGFONTA& logical)
     metrics_.italic = metrics_.italic || slant_;
 }
 
+RealizedFont::~RealizedFont() {
+    for (const auto& place : pages_) {
+        const std::unique_ptr<Page> page(place.load(std::memory_order_relaxed));
+        for (std::size_t i = 0; page && i < page->size(); ++i) {
+            delete (*page)[i].load(std::memory_order_relaxed);
+        }
+    }
+}
+
 void RealizedFont::Embolden(Glyph& glyph) const {
     ++glyph.advance;
     if (glyph.width == 0) {
@@ -168,12 +177,28 @@ RealizedFont& Realize(Font& font) {
         return *known;
     }
     const std::lock_guard guard(FontLock());
+    if (RealizedFont* known = font.realized.load(std::memory_order_relaxed)) {
+        return *known;
+    }
+    constexpr std::size_t kKept = 64;
+    if (Fonts().size() >= kKept) {
+        std::erase_if(Fonts(), [](const auto& each) { return !each.second || each.second->fonts == 0; });
+    }
     std::unique_ptr<RealizedFont>& slot = Fonts()[KeyOf(font.logical)];
     if (!slot) {
         slot = std::make_unique<RealizedFont>(OpenFace(font.logical), font.logical);
     }
+    ++slot->fonts;
     font.realized.store(slot.get(), std::memory_order_release);
     return *slot;
+}
+
+// What nobody asks for is kept for the next time, until there is too much of it.
+Font::~Font() {
+    if (RealizedFont* known = realized.load(std::memory_order_acquire)) {
+        const std::lock_guard guard(FontLock());
+        --known->fonts;
+    }
 }
 
 }  // namespace platform::gdi
