@@ -64,11 +64,27 @@ LRESULT OnComboMessage(ComboData& combo, UINT message, WPARAM wParam, LPARAM lPa
             return ToList(combo, LB_ADDSTRING, 0, lParam);
         case CB_INSERTSTRING:
             return ToList(combo, LB_INSERTSTRING, wParam, lParam);
+        case CB_DELETESTRING: {
+            const bool chosen = Current(combo) >= 0;
+            const LRESULT left = ToList(combo, LB_DELETESTRING, wParam, 0);
+            // What stands in an edit control stays when its item goes.
+            if (chosen && Current(combo) < 0) {
+                combo.settled = -1;
+                RedrawCombo(combo);
+            }
+            return left;
+        }
         case CB_RESETCONTENT:
             ToList(combo, LB_RESETCONTENT, 0, 0);
             combo.settled = -1;
             ShowSelection(combo);
             return CB_OKAY;
+        case CB_GETCOUNT:
+            return ToList(combo, LB_GETCOUNT, 0, 0);
+        case CB_GETLBTEXT:
+            return ToList(combo, LB_GETTEXT, wParam, lParam);
+        case CB_GETLBTEXTLEN:
+            return ToList(combo, LB_GETTEXTLEN, wParam, 0);
         case CB_GETCURSEL:
             return Current(combo);
         case CB_SETCURSEL:

@@ -109,6 +109,15 @@ TEST_F(ComboBoxTest, ContentsSelectionAndText) {
     EXPECT_EQ(CB_ERR, Send(list, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>("be")));
     Send(list, CB_SETITEMDATA, 1, 12);
     EXPECT_EQ(12, Send(list, CB_GETITEMDATA, 1));
+    const auto count = Send(list, CB_GETCOUNT);
+    char text[16] = "";
+    EXPECT_EQ(3, Send(list, CB_GETLBTEXT, 2, reinterpret_cast<LPARAM>(text)));
+    EXPECT_STREQ("cat", text);
+    EXPECT_EQ(3, Send(list, CB_GETLBTEXTLEN, 2));
+    EXPECT_EQ(CB_ERR, Send(list, CB_DELETESTRING, static_cast<WPARAM>(count)));
+    EXPECT_EQ(count - 1, Send(list, CB_DELETESTRING, 2)) << "with the one that was chosen";
+    EXPECT_EQ(CB_ERR, Send(list, CB_GETCURSEL));
+    EXPECT_EQ("", TextOf(list));
     const HWND edit = Filled(CBS_DROPDOWN | CBS_SORT);
     EXPECT_EQ(1, Send(edit, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>("ape")));
     SetWindowTextA(edit, "typed");
