@@ -44,7 +44,7 @@ TEST(GdiResourceBitmaps, LoadImageStretches) {
     EXPECT_EQ(6, size.bmHeight);
     const HDC memory = CreateCompatibleDC(nullptr);
     const HGDIOBJ previous = SelectObject(memory, image);
-    EXPECT_EQ(kBlue, GetPixel(memory, 1, 2));
+    EXPECT_EQ(kBlue, GetPixel(memory, 0, 0));
     EXPECT_EQ(kGreen, GetPixel(memory, 2, 0));
     EXPECT_EQ(kRed, GetPixel(memory, 0, 3));
     SelectObject(memory, previous);

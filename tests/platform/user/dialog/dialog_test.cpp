@@ -116,15 +116,21 @@ TEST_P(TemplateForm, MakesTheDialogAndItsControls) {
 INSTANTIATE_TEST_SUITE_P(Forms, TemplateForm, ::testing::Bool());
 
 TEST_F(DialogTest, CreationDataIsPassedOver) {
+    WNDCLASSA windowClass{};
+    windowClass.lpfnWndProc = DefWindowProcA;
+    windowClass.hInstance = GetModuleHandleA(nullptr);
+    windowClass.lpszClassName = "tests_creation_data";
+    ASSERT_NE(0, RegisterClassA(&windowClass));
     for (const bool extended : {false, true}) {
         DialogBuilder builder(WS_POPUP, 100, 50, extended);
         builder.Title("")
-            .Item("static", "", 1, 0, 0, 0, 9, 9, 0, {0x1234, 0x5678})
-            .Item("static", "behind", 2, 0, 0, 0, 9, 9);
+            .Item("tests_creation_data", "", 1, 0, 0, 0, 9, 9, 0, {0x1234, 0x5678})
+            .Item("tests_creation_data", "behind", 2, 0, 0, 0, 9, 9);
         ASSERT_NE(nullptr, Make(builder)) << extended;
         EXPECT_EQ("behind", TextOf(GetDlgItem(dialog_, 2))) << extended;
         DestroyWindow(dialog_);
     }
+    UnregisterClassA("tests_creation_data", windowClass.hInstance);
 }
 
 TEST_F(DialogTest, AControlThatCannotBeMadeFailsTheDialog) {

@@ -144,25 +144,6 @@ TEST_F(Frames, AWindowKeepsTheIconsThatItIsGiven) {
     EXPECT_EQ(SendMessageA(window, WM_GETICON, ICON_BIG, 0), 0);
 }
 
-TEST_F(Frames, PlacesAreChosenWhereNoneIsGiven) {
-    const auto place = [](DWORD style) {
-        const HWND made = Recorder::Get().Make(style, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT);
-        RECT rect;
-        GetWindowRect(made, &rect);
-        DestroyWindow(made);
-        return rect;
-    };
-    RECT work;
-    SystemParametersInfoA(SPI_GETWORKAREA, 0, &work, 0);
-    const RECT first = place(WS_OVERLAPPEDWINDOW);
-    const RECT second = place(WS_OVERLAPPEDWINDOW);
-    EXPECT_NE(first.left, second.left) << "none hides the one before";
-    EXPECT_GT(first.right - first.left, (work.right - work.left) / 3);
-    RECT common;
-    EXPECT_TRUE(IntersectRect(&common, &first, &work));
-    ExpectRect(place(WS_POPUP), 0, 0, 0, 0);
-}
-
 TEST_F(Frames, DrawingIsSwitchedOffAndOn) {
     Make(WS_POPUP | WS_VISIBLE);
     UpdateWindow(window);

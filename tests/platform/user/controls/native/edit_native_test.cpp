@@ -3,6 +3,7 @@
 
 #include <set>
 
+#include "tests/platform/support/dialog_builder.h"
 #include "tests/platform/support/edit_control.h"
 
 namespace {
@@ -102,6 +103,14 @@ TEST_F(EditLook, ATextThatIsNowhereIsRefused) {
     EXPECT_EQ("kept", Text(edit));
     EXPECT_TRUE(SetWindowTextA(edit, nullptr));
     EXPECT_EQ("", Text(edit));
+}
+
+TEST_F(EditLook, ASecretTellsNothingOfItsWords) {
+    const HWND edit = Make(ES_AUTOHSCROLL | ES_PASSWORD, "wi ll");
+    Select(edit, 0, 0);
+    const tests::KeyHeld control(VK_CONTROL);
+    Key(edit, VK_RIGHT);
+    EXPECT_EQ("wi ll|", Marked(edit));
 }
 
 }  // namespace

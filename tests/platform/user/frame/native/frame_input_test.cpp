@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "tests/platform/support/expect_rect.h"
 #include "tests/platform/support/hands.h"
 #include "tests/platform/support/recorder.h"
 
@@ -207,6 +208,25 @@ TEST_F(FrameInput, NewColoursAreToldAndDrawn) {
     SetSysColors(1, &index, &before);
     Pump();
     EXPECT_EQ(Pixel(200, 106), before);
+}
+
+TEST_F(FrameInput, PlacesAreChosenWhereNoneIsGiven) {
+    const auto place = [](DWORD style) {
+        const HWND made = Recorder::Get().Make(style, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT);
+        RECT rect;
+        GetWindowRect(made, &rect);
+        DestroyWindow(made);
+        return rect;
+    };
+    RECT work;
+    SystemParametersInfoA(SPI_GETWORKAREA, 0, &work, 0);
+    const RECT first = place(WS_OVERLAPPEDWINDOW);
+    const RECT second = place(WS_OVERLAPPEDWINDOW);
+    EXPECT_NE(first.left, second.left) << "none hides the one before";
+    EXPECT_GT(first.right - first.left, (work.right - work.left) / 3);
+    RECT common;
+    EXPECT_TRUE(IntersectRect(&common, &first, &work));
+    ExpectRect(place(WS_POPUP), 0, 0, 0, 0);
 }
 
 }  // namespace
