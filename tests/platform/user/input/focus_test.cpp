@@ -189,8 +189,13 @@ TEST_F(FocusTest, ForegroundMovesBetweenThreads) {
     EXPECT_TRUE(PumpUntil([&] { return GetForegroundWindow() == theirs && theirsActive; }));
     EXPECT_TRUE(PumpUntil([&] { return GetActiveWindow() == nullptr && GetFocus() == nullptr; }));
     EXPECT_NE(Recorder::Get().Find(WM_KILLFOCUS, window), nullptr);
-    SetForegroundWindow(window);
-    EXPECT_TRUE(PumpUntil([&] { return GetActiveWindow() == window && GetFocus() == window; }));
+    // A desktop below may tell late of the window before, and be followed once more.
+    EXPECT_TRUE(PumpUntil([&] {
+        if (GetForegroundWindow() != window) {
+            SetForegroundWindow(window);
+        }
+        return GetActiveWindow() == window && GetFocus() == window;
+    }));
     done = true;
     thread.join();
 }
