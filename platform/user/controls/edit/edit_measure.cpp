@@ -23,8 +23,8 @@ EditMeasure::~EditMeasure() {
 
 std::string Shown(const EditData& data, std::size_t start, std::size_t count) {
     // Lines may be behind the text where memory has run out between the two.
-    return data.password ? std::string(count, data.password)
-                         : data.text.substr(std::min(start, data.text.size()), count);
+    const std::string_view text = std::string_view(data.text).substr(std::min(start, data.text.size()), count);
+    return data.password ? std::string(text.size(), data.password) : std::string(text);
 }
 
 int EditMeasure::Width(std::size_t start, std::size_t count) const {
