@@ -104,8 +104,6 @@ WINUSERAPI BOOL WINAPI DrawEdge(HDC context, LPRECT rect, UINT edge, UINT flags)
 #define DFCS_SCROLLLEFT 0x0002
 #define DFCS_SCROLLRIGHT 0x0003
 #define DFCS_SCROLLCOMBOBOX 0x0005
-#define DFCS_SCROLLSIZEGRIP 0x0008
-#define DFCS_SCROLLSIZEGRIPRIGHT 0x0010
 #define DFCS_BUTTONCHECK 0x0000
 #define DFCS_BUTTONRADIO 0x0004
 #define DFCS_BUTTON3STATE 0x0008
@@ -113,7 +111,6 @@ WINUSERAPI BOOL WINAPI DrawEdge(HDC context, LPRECT rect, UINT edge, UINT flags)
 #define DFCS_INACTIVE 0x0100
 #define DFCS_PUSHED 0x0200
 #define DFCS_CHECKED 0x0400
-#define DFCS_FLAT 0x4000
 
 WINUSERAPI BOOL WINAPI DrawFrameControl(HDC context, LPRECT rect, UINT type, UINT state);
 
@@ -141,7 +138,6 @@ WINUSERAPI int WINAPI DrawTextA(HDC context, LPCSTR text, int length, LPRECT rec
 #define IMAGE_ICON 1
 #define IMAGE_CURSOR 2
 #define LR_DEFAULTCOLOR 0x0000
-#define LR_CREATEDIBSECTION 0x2000
 
 /// LoadImageA loads bitmaps from a module's resources; for another type, or from a file, it fails with
 /// ERROR_INVALID_PARAMETER.

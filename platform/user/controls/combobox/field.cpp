@@ -119,7 +119,7 @@ void PaintCombo(const ComboData& combo, HDC context) {
     RECT arrow = ArrowRect(combo);
     if (!IsRectEmpty(&arrow)) {
         DrawFrameControl(context, &arrow, DFC_SCROLL,
-                         DFCS_SCROLLCOMBOBOX | (combo.pressed ? UINT{DFCS_PUSHED | DFCS_FLAT} : 0U) |
+                         DFCS_SCROLLCOMBOBOX | (combo.pressed ? DFCS_PUSHED : 0U) |
                              (combo.Style() & WS_DISABLED ? UINT{DFCS_INACTIVE} : 0U));
     }
     RECT field = frame;

@@ -7,7 +7,7 @@ namespace {
 void DrawArrow(HDC context, RECT rect, UINT kind, bool pressed, bool disabled) {
     if (!IsRectEmpty(&rect)) {
         DrawFrameControl(context, &rect, DFC_SCROLL,
-                         kind | (pressed ? UINT{DFCS_PUSHED | DFCS_FLAT} : 0U) | (disabled ? DFCS_INACTIVE : 0U));
+                         kind | (pressed ? DFCS_PUSHED : 0U) | (disabled ? DFCS_INACTIVE : 0U));
     }
 }
 
