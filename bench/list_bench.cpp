@@ -25,9 +25,9 @@ std::int32_t KeyOf(std::int64_t i) {
     return static_cast<std::int32_t>(i * 3);
 }
 
-// Keys that the processor cannot foresee, half of them in the list.
+// Keys that the processor cannot foresee, half of them in the list: so many, as it remembers a thousand.
 std::vector<std::int32_t> Keys(std::int64_t count) {
-    std::vector<std::int32_t> keys(1024);
+    std::vector<std::int32_t> keys(1 << 17);
     std::uint32_t state = 12345;
     for (std::int32_t& key : keys) {
         state = state * 1664525 + 1013904223;

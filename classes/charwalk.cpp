@@ -1,5 +1,6 @@
 #include "classes/charwalk.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "core/bytes.h"
@@ -10,21 +11,18 @@ std::uint32_t CountBytes(char const* text, std::uint32_t count) {
     if (!text || count == 0) {
         return 0;
     }
-    constexpr std::uint32_t kStep = sizeof(std::uint64_t);
     auto const length = static_cast<std::uint32_t>(count == kAll ? std::strlen(text) : strnlen(text, count));
-    if (length >= kStep) {
-        // The last word overlaps the one before it.
-        std::uint64_t all = bytes::Word(text + length - kStep);
-        for (std::uint32_t at = 0; at < length - kStep; at += kStep) {
-            all |= bytes::Word(text + at);
-        }
-        if (!bytes::HasHigh(all)) {
+    constexpr std::uint32_t kWord = sizeof(std::uint64_t);
+    if (length >= kWord) {
+        std::uint64_t all = 0;
+        bytes::ForEachWord(length, [&](std::size_t at) { all |= bytes::Word(text + at); });
+        if (!(all & bytes::kMarks)) {
             return length;
         }
     }
     std::uint32_t at = 0;
-    while (length - at >= kStep && !bytes::HasHigh(bytes::Word(text + at))) {
-        at += kStep;
+    while (length - at >= kWord && !(bytes::Word(text + at) & bytes::kMarks)) {
+        at += kWord;
     }
     while (at != length && static_cast<signed char>(text[at]) > 0) {
         ++at;
@@ -33,18 +31,12 @@ std::uint32_t CountBytes(char const* text, std::uint32_t count) {
 }
 
 bool HasNul(char const* text, std::uint32_t count) {
-    std::uint32_t at = 0;
-    for (; count - at >= sizeof(std::uint64_t); at += sizeof(std::uint64_t)) {
-        if (bytes::HasNul(bytes::Word(text + at))) {
-            return true;
-        }
+    if (count < sizeof(std::uint64_t)) {
+        return std::find(text, text + count, '\0') != text + count;
     }
-    for (; at < count; ++at) {
-        if (!text[at]) {
-            return true;
-        }
-    }
-    return false;
+    std::uint64_t marks = 0;
+    bytes::ForEachWord(count, [&](std::size_t at) { marks |= bytes::NulMarks(bytes::Word(text + at)); });
+    return (marks & bytes::kMarks) != 0;
 }
 
 }  // namespace charwalk

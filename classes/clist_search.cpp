@@ -6,6 +6,7 @@
 
 #include "classes/clist_header.h"
 #include "core/globalblock.h"
+#include "core/halving.h"
 
 void* CLIST::FindLinear(void* key, CLISTCOMPARE compare, unsigned int* index) const {
     void* found = nullptr;
@@ -26,34 +27,21 @@ void* CLIST::FindLinear(void* key, CLISTCOMPARE compare, unsigned int* index) co
     return found;
 }
 
-// What the search needs is read once, as nobody else can change it meanwhile. The next half is chosen without a branch, which
-// no processor could foresee; the middle one is (low + high) / 2 throughout, which decides among equal elements.
+// What the search needs is read once, as nobody else can change it meanwhile.
 void* CLIST::FindBinary(void* key, CLISTCOMPARE compare, unsigned int* index) const {
     void* found = nullptr;
     std::uint32_t place = CLIST_NOINDEX;
     if (IsValid() && compare) {
-        const std::size_t size = header->slotSize;
         const bool direct = header->type != CLISTTYPE_POINTER;
-        const char* slot = header->array;  // of the element at `low`
-        std::uint32_t low = 0;
-        std::uint32_t left = slot ? header->count : 0;
-        while (left) {
-            const std::uint32_t below = left / 2;
-            const char* const middle = slot + below * size;
-            void* const item = direct ? const_cast<char*>(middle) : *reinterpret_cast<void* const*>(middle);
-            const int order = compare(key, item);
-            if (order == 0) {
-                found = item;
-                low += below;
-                break;
-            }
-            // All bits, or none.
-            const std::size_t isAbove = std::size_t{0} - static_cast<std::size_t>(order > 0);
-            slot += (below * size + size) & isAbove;
-            low += (below + 1) & static_cast<std::uint32_t>(isAbove);
-            left = below ^ ((below ^ (left - below - 1)) & static_cast<std::uint32_t>(isAbove));
-        }
-        place = low;
+        void* item = nullptr;  // the last one compared
+        const auto order = [&](const char* slot) {
+            item = direct ? const_cast<char*>(slot) : *reinterpret_cast<void* const*>(slot);
+            return compare(key, item);
+        };
+        const halving::Place at =
+            halving::Search(header->array, header->slotSize, header->array ? header->count : 0, order);
+        found = at.isMatch ? item : nullptr;
+        place = at.index;
     }
     if (index) {
         *index = place;

@@ -63,18 +63,17 @@ std::uint32_t Length(char const* text) {
 
 /// Copies bytes and tells whether there was no NUL among them: one pass where the text's length must be known anew.
 bool CopyText(char* to, char const* from, std::uint32_t count) {
-    std::uint32_t at = 0;
-    bool whole = true;
-    for (; count - at >= sizeof(std::uint64_t); at += sizeof(std::uint64_t)) {
+    if (count < sizeof(std::uint64_t)) {
+        std::copy_n(from, count, to);
+        return !HasNul(from, count);
+    }
+    std::uint64_t marks = 0;
+    bytes::ForEachWord(count, [&](std::size_t at) {
         std::uint64_t const word = bytes::Word(from + at);
         std::memcpy(to + at, &word, sizeof word);
-        whole &= !bytes::HasNul(word);
-    }
-    for (; at < count; ++at) {
-        to[at] = from[at];
-        whole &= from[at] != 0;
-    }
-    return whole;
+        marks |= bytes::NulMarks(word);
+    });
+    return !(marks & bytes::kMarks);
 }
 
 }  // namespace

@@ -14,32 +14,48 @@ inline std::uint64_t Word(char const* from) {
     return word;
 }
 
-/// Whether one of eight bytes is NUL.
-inline bool HasNul(std::uint64_t word) {
-    return ((word - 0x0101010101010101u) & ~word & 0x8080808080808080u) != 0;
+/// Calls @p look with the places of all words of @p count bytes, at least eight; what lies in the last ones may come twice.
+template <class Look>
+void ForEachWord(std::size_t count, Look look) {
+    constexpr std::size_t kWord = sizeof(std::uint64_t);
+    if (count < 2 * kWord) {
+        look(0);
+        look(count - kWord);
+        return;
+    }
+    for (std::size_t at = 0; at < count - 2 * kWord; at += 2 * kWord) {
+        look(at);
+        look(at + kWord);
+    }
+    look(count - 2 * kWord);
+    look(count - kWord);
 }
 
-/// Whether one of eight bytes is 0x80 or above.
-inline bool HasHigh(std::uint64_t word) {
-    return (word & 0x8080808080808080u) != 0;
+/// Bits of which one of kMarks is set if one of eight bytes is NUL.
+inline std::uint64_t NulMarks(std::uint64_t word) {
+    return (word - 0x0101010101010101u) & ~word;
 }
 
-/// Copies @p count bytes between places that do not overlap, in pieces of which the last two may.
+/// The highest bit of each byte: set in NulMarks() or, in the bytes themselves, by 0x80 and above.
+constexpr std::uint64_t kMarks = 0x8080808080808080u;
+
+/// Copies the first and the last @p Piece of @p count bytes, which may have some in common.
+template <std::size_t Piece>
+void CopyEnds(char* to, char const* from, std::size_t count) {
+    std::memcpy(to, from, Piece);
+    std::memcpy(to + count - Piece, from + count - Piece, Piece);
+}
+
+/// Copies @p count bytes between places that do not overlap. No loop, which a compiler takes for a long copy.
 inline void Copy(char* to, char const* from, std::size_t count) {
-    constexpr std::size_t kPiece = 16;
-    constexpr std::size_t kHalf = kPiece / 2;
-    if (count - kHalf > 4 * kPiece) {
+    if (count < 8 || count > 64) {
         std::memcpy(to, from, count);
-    } else if (count < kPiece) {
-        std::uint64_t const first = Word(from);
-        std::uint64_t const last = Word(from + count - kHalf);
-        std::memcpy(to, &first, kHalf);
-        std::memcpy(to + count - kHalf, &last, kHalf);
+    } else if (count < 16) {
+        CopyEnds<8>(to, from, count);
+    } else if (count <= 32) {
+        CopyEnds<16>(to, from, count);
     } else {
-        for (std::size_t at = 0; at < count - kPiece; at += kPiece) {
-            std::memcpy(to + at, from + at, kPiece);
-        }
-        std::memcpy(to + count - kPiece, from + count - kPiece, kPiece);
+        CopyEnds<32>(to, from, count);
     }
 }
 

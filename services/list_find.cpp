@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <cstring>
 
+#include "core/halving.h"
+
 // The searches look at the count and the items only, through the same 24-byte header as list.cpp; they do not test the
 // signature, as their callers know.
 namespace {
@@ -27,10 +29,10 @@ struct NumberKey {
     explicit NumberKey(LPCVOID address) {
         std::memcpy(&key, address, sizeof key);
     }
-    int operator()(const char* field) const {
+    std::int64_t operator()(const char* field) const {
         Number value;
         std::memcpy(&value, field, sizeof value);
-        return (key > value) - (key < value);
+        return std::int64_t{key} - value;
     }
 };
 
@@ -67,59 +69,12 @@ Match Linear(const Items& items, LONG offset, const Key& compare) {
     return {nullptr, items.count};
 }
 
-std::uint32_t IndexOf(const Items& items, const char* item) {
-    const auto bytes = static_cast<std::size_t>(item - items.first);
-    if (items.size == 0) {
-        return 0;
-    }
-    // The short division is much the faster one, and nearly always enough.
-    return bytes <= 0xFFFFFFFF ? static_cast<std::uint32_t>(bytes) / items.size
-                               : static_cast<std::uint32_t>(bytes / items.size);
-}
-
-// Halves the places from low on, the middle one being (low + high) / 2 throughout, which decides among equal keys.
 template <class Key>
 Match Binary(const Items& items, LONG offset, const Key& compare) {
-    std::uint32_t low = 0;
-    std::uint32_t high = items.end;
-    while (low < high) {
-        const std::uint32_t middle = low + (high - low) / 2;
-        const char* item = items.first + std::size_t{middle} * items.size;
-        const int order = compare(item + offset);
-        if (order == 0) {
-            return {const_cast<char*>(item), middle};
-        }
-        (order > 0 ? low : high) = order > 0 ? middle + 1 : middle;
-    }
-    return {nullptr, high};
-}
-
-// The same for numbers, without a branch that depends on them, as no processor could foresee it. It therefore goes on to
-// the end behind a match. Both next steps are worked out while the number is fetched.
-template <class Number>
-Match Binary(const Items& items, LONG offset, const NumberKey<Number>& compare) {
-    const Number key = compare.key;
-    const std::size_t size = items.size;
-    const char* field = items.first + offset;
-    const char* match = nullptr;
-    std::size_t left = items.end;
-    std::size_t step = left / 2 * size;
-    while (left) {
-        const char* const middle = field + step;
-        Number value;
-        std::memcpy(&value, middle, sizeof value);
-        const std::size_t below = left / 2;
-        const std::size_t above = left - below - 1;
-        const std::size_t stepBelow = below / 2 * size;
-        const std::size_t stepAbove = above / 2 * size;
-        const bool isAbove = __builtin_expect_with_probability(key > value, 1, 0.5);
-        match = value == key && !match ? middle : match;
-        field = isAbove ? middle + size : field;
-        left = isAbove ? above : below;
-        step = isAbove ? stepAbove : stepBelow;
-    }
-    const char* const item = (match ? match : field) - offset;
-    return {match ? const_cast<char*>(item) : nullptr, IndexOf(items, item)};
+    const halving::Place place =
+        halving::Search(items.first, items.size, items.end, [&](const char* item) { return compare(item + offset); });
+    const char* const item = items.first + std::size_t{place.index} * items.size;
+    return {place.isMatch ? const_cast<char*>(item) : nullptr, place.index};
 }
 
 // Texts take a null key, which comes before all others; a number must be there to be read.
