@@ -13,4 +13,5 @@ cmake --build "build/$preset"
 export CVUTIL32_HOME=$root/build/$preset/state
 export CVUTIL32_DISPLAY=none
 rm -rf "$CVUTIL32_HOME"
-ctest --test-dir "build/$preset" --output-on-failure -j "$(nproc)" "$@"
+# Tests mostly wait.
+ctest --test-dir "build/$preset" --output-on-failure -j $((2 * $(nproc))) "$@"
