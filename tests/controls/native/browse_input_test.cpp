@@ -149,7 +149,7 @@ TEST_F(BrowseInput, AFileIsTypedAndMustExist) {
                                                             Press({VK_RETURN});
                                                         },
                                                         [&](HWND box) {
-                                                            said = TextOf(box);
+                                                            said = MessageOf(box);
                                                             Press({VK_RETURN});
                                                         },
                                                         [&](HWND dialog) {

@@ -49,7 +49,7 @@ inline void ClickMiddle(HWND window) {
 }
 
 /// What a message box says.
-inline std::string TextOf(HWND box) {
+inline std::string MessageOf(HWND box) {
     char text[2048] = "";
     GetDlgItemTextA(box, 0xFFFF, text, sizeof text);
     return text;

@@ -85,7 +85,7 @@ class OpenDialog : public testing::Test {
     }
     Hands::Step Read() {
         return [this](HWND box) {
-            said_.push_back(TextOf(box));
+            said_.push_back(MessageOf(box));
             Press({VK_RETURN});
         };
     }
