@@ -12,12 +12,15 @@ namespace {
 constexpr unsigned kNever = 0;
 
 bool g_exhausted = false;
-unsigned g_countdown = kNever;  // of the allocations that report a failure; the others are the tests' own
+unsigned g_countdown = kNever;               // of the allocations that report a failure; the others are the tests' own
+thread_local unsigned t_countdown = kNever;  // of all of the thread
 thread_local bool t_nothing = false;
 std::atomic<std::size_t> g_blocks{0};
 
 void* Allocate(std::size_t size) {
-    void* const block = std::malloc(size ? size : 1);
+    bool const fails = t_nothing || t_countdown == 1;
+    t_countdown -= t_countdown != kNever ? 1 : 0;
+    void* const block = fails ? nullptr : std::malloc(size ? size : 1);
     g_blocks += block ? 1 : 0;
     return block;
 }
@@ -25,13 +28,13 @@ void* Allocate(std::size_t size) {
 }  // namespace
 
 void* operator new(std::size_t size, std::nothrow_t const&) noexcept {
-    bool const fails = t_nothing || g_exhausted || g_countdown == 1;
+    bool const fails = g_exhausted || g_countdown == 1;
     g_countdown -= g_countdown != kNever ? 1 : 0;
     return fails ? nullptr : Allocate(size);
 }
 
 void* operator new(std::size_t size) {
-    if (void* const block = t_nothing ? nullptr : Allocate(size)) {
+    if (void* const block = Allocate(size)) {
         return block;
     }
     throw std::bad_alloc();
@@ -48,12 +51,16 @@ void operator delete(void* block, std::size_t) noexcept {
 
 namespace testing_support {
 
+unsigned& FailingAllocation::Countdown() const {
+    return memory_ == Memory::Any ? t_countdown : g_countdown;
+}
+
 void FailingAllocation::On() {
     on_ = true;
-    if (memory_ == Memory::FreeStore) {
-        g_countdown = which_;
-    } else {
+    if (memory_ == Memory::Global) {
         CvPlatformFailAllocation(which_);
+    } else {
+        Countdown() = which_;
     }
 }
 
@@ -62,9 +69,9 @@ void FailingAllocation::Off() {
         return;
     }
     on_ = false;
-    if (memory_ == Memory::FreeStore) {
-        failed_ = which_ != 0 && g_countdown == kNever;
-        g_countdown = kNever;
+    if (memory_ != Memory::Global) {
+        failed_ = which_ != 0 && Countdown() == kNever;
+        Countdown() = kNever;
         return;
     }
     // An order that still stands fails one of the next blocks.

@@ -9,7 +9,11 @@
 
 namespace testing_support {
 
-enum class Memory { FreeStore, Global };
+enum class Memory {
+    FreeStore,  ///< allocations that report a failure: the library's own
+    Global,
+    Any,  ///< all of this thread, those of the platform layer and of the test too
+};
 
 /// Between On() and Off() one allocation fails: the first, the second, and so on as told. The others succeed.
 class FailingAllocation {
@@ -30,6 +34,8 @@ class FailingAllocation {
     }
 
   private:
+    unsigned& Countdown() const;
+
     Memory memory_;
     unsigned which_;
     bool on_ = false;

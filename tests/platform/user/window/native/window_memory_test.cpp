@@ -9,7 +9,9 @@
 #include "tests/support/leaks.h"
 #include "tests/support/native/failing_memory.h"
 
+using testing_support::FailingAllocation;
 using testing_support::LeakCheck;
+using testing_support::Memory;
 using testing_support::NoFreeStore;
 
 namespace {
@@ -92,6 +94,53 @@ TEST(WindowMemory, ControlsAreNotMadeWithoutAny) {
         EXPECT_EQ(control, nullptr) << name;
     }
     EXPECT_EQ(GetWindow(parent, GW_CHILD), nullptr);
+    DestroyWindow(parent);
+}
+
+// What is done to a field, each with every allocation failing in turn.
+struct Change {
+    const char* what;
+    void (*make)(HWND field);
+};
+constexpr Change kChanges[] = {
+    {"shorter text", [](HWND field) { SetWindowTextA(field, "a short one"); }},
+    {"longer text",
+     [](HWND field) { SetWindowTextA(field, "a text that is longer\r\nthan\r\nall that\r\nwas there before"); }},
+    {"typing over what is selected",
+     [](HWND field) {
+         SendMessageA(field, EM_SETSEL, 2, -1);
+         SendMessageA(field, WM_CHAR, 'x', 1);
+     }},
+    {"erasing",
+     [](HWND field) {
+         SendMessageA(field, EM_SETSEL, 1, -1);
+         SendMessageA(field, WM_CLEAR, 0, 0);
+     }},
+};
+
+TEST(WindowMemory, AFieldIsDrawnAfterWhateverFailed) {
+    const HWND parent = MakeParent();
+    for (const DWORD style : {DWORD{ES_AUTOHSCROLL}, DWORD{ES_PASSWORD}, DWORD{ES_MULTILINE}}) {
+        const HWND field = CreateWindowExA(0, "edit", "", WS_CHILD | WS_VISIBLE | style, 0, 0, 200, 60, parent, nullptr,
+                                           nullptr, nullptr);
+        for (const Change& change : kChanges) {
+            bool failed = true;
+            for (unsigned which = 1; failed && which < 1000; ++which) {
+                SetWindowTextA(field, "some text of a length\r\nand more");
+                FailingAllocation failing(Memory::Any, which);
+                failing.On();
+                change.make(field);
+                failing.Off();
+                failed = failing.failed();
+                char text[100] = "";
+                const int length = GetWindowTextA(field, text, sizeof text);
+                EXPECT_EQ(length, GetWindowTextLengthA(field)) << change.what << ' ' << which;
+                RedrawWindow(field, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+                EXPECT_FALSE(GetUpdateRect(field, nullptr, FALSE)) << change.what << ' ' << which;
+            }
+            EXPECT_FALSE(failed) << change.what << " never stops allocating";
+        }
+    }
     DestroyWindow(parent);
 }
 
