@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
 
 #include "tests/support/leaks.h"
 #include "tests/support/native/failing_memory.h"
@@ -103,7 +104,7 @@ struct Change {
     void (*make)(HWND field);
 };
 constexpr Change kChanges[] = {
-    {"shorter text", [](HWND field) { SetWindowTextA(field, "a short one"); }},
+    {"shorter text", [](HWND field) { SetWindowTextA(field, "shorter than the field"); }},
     {"longer text",
      [](HWND field) { SetWindowTextA(field, "a text that is longer\r\nthan\r\nall that\r\nwas there before"); }},
     {"typing over what is selected",
@@ -120,13 +121,17 @@ constexpr Change kChanges[] = {
 
 TEST(WindowMemory, AFieldIsDrawnAfterWhateverFailed) {
     const HWND parent = MakeParent();
-    for (const DWORD style : {DWORD{ES_AUTOHSCROLL}, DWORD{ES_PASSWORD}, DWORD{ES_MULTILINE}}) {
+    for (const DWORD style : {DWORD{ES_AUTOHSCROLL}, DWORD{ES_AUTOHSCROLL | ES_PASSWORD}, DWORD{ES_MULTILINE},
+                              DWORD{ES_MULTILINE | ES_PASSWORD}}) {
         const HWND field = CreateWindowExA(0, "edit", "", WS_CHILD | WS_VISIBLE | style, 0, 0, 200, 60, parent, nullptr,
                                            nullptr, nullptr);
         for (const Change& change : kChanges) {
             bool failed = true;
             for (unsigned which = 1; failed && which < 1000; ++which) {
-                SetWindowTextA(field, "some text of a length\r\nand more");
+                // Longer than the field, which then shows its end.
+                SetWindowTextA(field, std::string(90, 'm').c_str());
+                SendMessageA(field, EM_SETSEL, 90, 90);
+                SendMessageA(field, WM_CHAR, 'x', 1);
                 FailingAllocation failing(Memory::Any, which);
                 failing.On();
                 change.make(field);
