@@ -10,46 +10,23 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 #include <string>
+
+#include "tests/support/native/state_folder.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-class Settings : public ::testing::Test {
+class Settings : public testing_support::StateFolder {
   protected:
-    Settings() {
-        char name[] = "/tmp/cvutil32-settings-XXXXXX";
-        folder_ = mkdtemp(name);
-        const char* home = std::getenv("CVUTIL32_HOME");
-        former_ = home ? home : "";
-        setenv("CVUTIL32_HOME", folder_.c_str(), 1);
-    }
-    ~Settings() override {
-        former_.empty() ? unsetenv("CVUTIL32_HOME") : setenv("CVUTIL32_HOME", former_.c_str(), 1);
-        fs::remove_all(folder_);
-    }
+    Settings() : StateFolder("win.ini") {}
 
-    fs::path File() const {
-        return folder_ / "win.ini";
-    }
-    void Put(const std::string& text) const {
-        std::ofstream(File(), std::ios::binary) << text;
-    }
-    std::string Text() const {
-        std::ostringstream text;
-        text << std::ifstream(File(), std::ios::binary).rdbuf();
-        return text.str();
-    }
     static std::string Read(const char* section, const char* key) {
         char buffer[256] = {};
         GetProfileStringA(section, key, "default", buffer, sizeof buffer);
         return buffer;
     }
-
-    fs::path folder_;
-    std::string former_;
 };
 
 TEST_F(Settings, NothingIsWrittenByReading) {

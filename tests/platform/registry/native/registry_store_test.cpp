@@ -16,9 +16,10 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 #include <string>
 #include <thread>
+
+#include "tests/support/native/state_folder.h"
 
 namespace {
 
@@ -46,35 +47,16 @@ DWORD Read(HKEY key, const std::string& name) {
     return error == ERROR_SUCCESS ? value : kMissing;
 }
 
-class RegistryStore : public ::testing::Test {
+class RegistryStore : public testing_support::StateFolder {
   protected:
-    RegistryStore() {
-        char name[] = "/tmp/cvutil32-registry-XXXXXX";
-        folder_ = mkdtemp(name);
-        const char* home = std::getenv("CVUTIL32_HOME");
-        former_ = home ? home : "";
-        setenv("CVUTIL32_HOME", folder_.c_str(), 1);
-    }
+    RegistryStore() : StateFolder("registry.db") {}
     ~RegistryStore() override {
-        former_.empty() ? unsetenv("CVUTIL32_HOME") : setenv("CVUTIL32_HOME", former_.c_str(), 1);
+        Leave();
         HKEY key = nullptr;
         RegOpenKeyExA(HKEY_CURRENT_USER, "", 0, KEY_READ, &key);  // leaves the test's file
         RegCloseKey(key);
-        fs::permissions(folder_, fs::perms::owner_all);
-        fs::remove_all(folder_);
     }
 
-    fs::path File() const {
-        return folder_ / "registry.db";
-    }
-    void Put(const std::string& text) const {
-        std::ofstream(File(), std::ios::binary) << text;
-    }
-    std::string Text() const {
-        std::ostringstream text;
-        text << std::ifstream(File(), std::ios::binary).rdbuf();
-        return text.str();
-    }
     /// Runs a piece of code in a process of its own. @returns whether it says that all is well.
     template <class Piece>
     static bool InProcess(Piece piece) {
@@ -86,9 +68,6 @@ class RegistryStore : public ::testing::Test {
         waitpid(child, &status, 0);
         return status == 0;
     }
-
-    fs::path folder_;
-    std::string former_;
 };
 
 TEST_F(RegistryStore, WhatAnotherProcessWritesIsSeenAtOnce) {
