@@ -98,7 +98,7 @@ void LetTimePass() {
     Sleep(static_cast<DWORD>(milliseconds));
 }
 
-Event const kEvents[] = {
+Event const kInputEvents[] = {
     {"key", 20, PressKey},           {"half a key", 4, HalfAKey}, {"move", 6, Move},        {"click", 16, Click},
     {"half a click", 6, HalfAClick}, {"wheel", 2, Wheel},         {"time", 3, LetTimePass},
 };
@@ -106,7 +106,7 @@ Event const kEvents[] = {
 }  // namespace
 
 std::span<Event const> InputEvents() {
-    return kEvents;
+    return kInputEvents;
 }
 
 }  // namespace storm

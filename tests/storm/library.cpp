@@ -234,7 +234,7 @@ void Classes() {
     }
 }
 
-Event const kEvents[] = {
+Event const kLibraryEvents[] = {
     {"date", 5, Date},
     {"time", 4, Time},
     {"number", 4, Number},
@@ -252,7 +252,7 @@ Event const kEvents[] = {
 }  // namespace
 
 std::span<Event const> LibraryEvents() {
-    return kEvents;
+    return kLibraryEvents;
 }
 
 }  // namespace storm

@@ -258,7 +258,7 @@ void SendTree() {
     SendTo(kTreeClasses, kTree);
 }
 
-Event const kEvents[] = {
+Event const kMessageEvents[] = {
     {"message", 30, SendAny},  {"edit", 8, SendEdit}, {"list", 10, SendList}, {"combo", 8, SendCombo},
     {"button", 4, SendButton}, {"bar", 3, SendBar},   {"tree", 4, SendTree},
 };
@@ -266,7 +266,7 @@ Event const kEvents[] = {
 }  // namespace
 
 std::span<Event const> MessageEvents() {
-    return kEvents;
+    return kMessageEvents;
 }
 
 }  // namespace storm

@@ -138,7 +138,7 @@ void Quit() {
     }
 }
 
-Event const kEvents[] = {
+Event const kModalEvents[] = {
     {"message box", 1, SystemBox}, {"extended box", 2, ExtendedBox},
     {"error box", 1, ErrorBox},    {"about", 1, About},
     {"browse", 1, Browse},         {"nested", 1, Nested},
@@ -160,7 +160,7 @@ int Nesting::Depth() {
 }
 
 std::span<Event const> ModalEvents() {
-    return kEvents;
+    return kModalEvents;
 }
 
 }  // namespace storm

@@ -22,7 +22,7 @@ void TellAll() {
     }
 }
 
-void Date() {
+void DateSettings() {
     static char const* const separators[] = {".", "/", "-", "", " ", "--", "\xB7"};
     static char const* const orders[] = {"0", "1", "2", "7", "x", ""};
     WriteProfileStringA("intl", "sDate", Die().OneIn(9) ? nullptr : Die().Of(separators));
@@ -53,21 +53,22 @@ void Colours() {
     SetSysColors(Die().From(1, 3), indices, colours);
 }
 
-void Owner() {
+void RegisteredOwner() {
     constexpr char kKey[] = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion";
     Reg_WriteString(HKEY_LOCAL_MACHINE, kKey, Die().OneIn(2) ? "RegisteredOwner" : "RegisteredOrganization",
                     Die().OneIn(4) ? nullptr : AnyText());
 }
 
-Event const kEvents[] = {
-    {"date settings", 2, Date}, {"clock settings", 2, Clock}, {"thousands", 1, Thousands},
-    {"colours", 2, Colours},    {"owner", 1, Owner},
+Event const kSettingEvents[] = {
+    {"date settings", 2, DateSettings}, {"clock settings", 2, Clock},
+    {"thousands", 1, Thousands},        {"colours", 2, Colours},
+    {"owner", 1, RegisteredOwner},
 };
 
 }  // namespace
 
 std::span<Event const> SettingEvents() {
-    return kEvents;
+    return kSettingEvents;
 }
 
 }  // namespace storm

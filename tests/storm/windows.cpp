@@ -189,7 +189,7 @@ void Adopt() {
     SetParent(window, parent);
 }
 
-Event const kEvents[] = {
+Event const kWindowEvents[] = {
     {"move", 6, MoveAny}, {"place", 6, Place},     {"show", 6, Show}, {"enable", 8, Enable},
     {"focus", 6, Focus},  {"capture", 2, Capture}, {"name", 4, Name}, {"draw", 5, Draw},
     {"style", 2, Style},  {"remove", 3, Remove},   {"make", 5, Make}, {"adopt", 1, Adopt},
@@ -198,7 +198,7 @@ Event const kEvents[] = {
 }  // namespace
 
 std::span<Event const> WindowEvents() {
-    return kEvents;
+    return kWindowEvents;
 }
 
 }  // namespace storm
