@@ -29,10 +29,6 @@ Frame* FrameOf(HWND dialog) {
     return reinterpret_cast<Frame*>(GetWindowLongPtrA(dialog, DWLP_USER));
 }
 
-HINSTANCE InstanceOf(HWND dialog) {
-    return reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(dialog, GWLP_HINSTANCE));
-}
-
 HWND MakePage(const Frame& frame, const Page& page) {
     HWND window = CreateDialogParamA(InstanceOf(frame.dialog), page.dialog, frame.dialog, page.procedure, 0);
     if (window == nullptr) {
@@ -107,7 +103,7 @@ void OnInitDialog(HWND dialog, Result& result) {
     auto* frame = new Frame(dialog, result);
     SetWindowLongPtrA(dialog, DWLP_USER, reinterpret_cast<LONG_PTR>(frame));
     for (const Page& page : Pages()) {
-        const std::string title = LoadText(InstanceOf(dialog), page.titleId);
+        const std::string title = LoadText(dialog, page.titleId);
         SendDlgItemMessageA(dialog, IDC_PAGES, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(title.c_str()));
     }
     RestorePlace(dialog);

@@ -28,10 +28,6 @@ constexpr std::array<Sample, 6> kSamples = {{
     {FALSE, FALSE, FALSE, TRUE},   // stretched
 }};
 
-HINSTANCE InstanceOf(HWND page) {
-    return reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(page, GWLP_HINSTANCE));
-}
-
 struct ButtonsState {
     explicit ButtonsState(HINSTANCE instance)
         : picture(LoadBitmapA(instance, MAKEINTRESOURCEA(IDB_DISK))),
@@ -54,13 +50,13 @@ ButtonsState* StateOf(HWND page) {
 
 void ShowClicks(HWND page, unsigned clicks) {
     char text[80];
-    wsprintfA(text, LoadText(InstanceOf(page), IDS_BUTTONS_CLICKED).c_str(), clicks);
+    wsprintfA(text, LoadText(page, IDS_BUTTONS_CLICKED).c_str(), clicks);
     SetDlgItemTextA(page, IDC_BUTTONS_CLICKS, text);
 }
 
 void ShowPlaying(HWND page, bool playing) {
     const UINT text = playing ? IDS_BUTTONS_PLAYING : IDS_BUTTONS_STOPPED;
-    SetDlgItemTextA(page, IDC_BUTTONS_STATE, LoadText(InstanceOf(page), text).c_str());
+    SetDlgItemTextA(page, IDC_BUTTONS_STATE, LoadText(page, text).c_str());
     EnableWindow(GetDlgItem(page, IDC_BUTTONS_STOP), playing);
 }
 

@@ -9,10 +9,6 @@ namespace {
 constexpr int kItems = 8;
 constexpr int kTextRoom = 80;
 
-HINSTANCE InstanceOf(HWND page) {
-    return reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(page, GWLP_HINSTANCE));
-}
-
 LRESULT Ask(HWND page, int control, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
     return SendDlgItemMessageA(page, control, message, wParam, lParam);
 }
@@ -23,7 +19,7 @@ void AddText(HWND page, int control, UINT message, const char* text) {
 
 void ShowTicked(HWND page) {
     char text[kTextRoom];
-    wsprintfA(text, LoadText(InstanceOf(page), IDS_LISTS_TICKED).c_str(),
+    wsprintfA(text, LoadText(page, IDS_LISTS_TICKED).c_str(),
               static_cast<int>(Ask(page, IDC_LISTS_CHECKS, LB_GETSELCOUNT)),
               static_cast<int>(Ask(page, IDC_LISTS_CHECKS, LB_GETCOUNT)));
     SetDlgItemTextA(page, IDC_LISTS_TICKED, text);
@@ -35,7 +31,7 @@ void SetPicture(HWND page, int button, int picture, int mask) {
 
 void OnInitDialog(HWND page) {
     for (int i = 0; i < kItems; ++i) {
-        const std::string text = LoadText(InstanceOf(page), IDS_LISTS_ITEM + i);
+        const std::string text = LoadText(page, IDS_LISTS_ITEM + i);
         AddText(page, IDC_LISTS_CHECKS, LB_ADDSTRING, text.c_str());
         AddText(page, IDC_LISTS_OWN, LB_ADDSTRING, text.c_str());
         AddText(page, IDC_LISTS_COMBO, CB_ADDSTRING, text.c_str());
@@ -45,7 +41,7 @@ void OnInitDialog(HWND page) {
     }
     Ask(page, IDC_LISTS_OWN, LB_SETCURSEL, 2);
     Ask(page, IDC_LISTS_COMBO, CB_SETCURSEL, 0);
-    SetDlgItemTextA(page, IDC_LISTS_EDIT, LoadText(InstanceOf(page), IDS_LISTS_EXAMPLE).c_str());
+    SetDlgItemTextA(page, IDC_LISTS_EDIT, LoadText(page, IDS_LISTS_EXAMPLE).c_str());
     for (int button : {IDC_LISTS_EDIT_ADD, IDC_LISTS_COMBO_ADD}) {
         SetPicture(page, button, IDB_PLUS, IDB_PLUS_MASK);
     }

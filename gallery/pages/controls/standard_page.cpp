@@ -10,17 +10,13 @@ constexpr int kItems = 10;
 constexpr int kPage = 10;
 constexpr int kLast = 100;
 
-HINSTANCE InstanceOf(HWND page) {
-    return reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(page, GWLP_HINSTANCE));
-}
-
 LRESULT Ask(HWND page, int control, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
     return SendDlgItemMessageA(page, control, message, wParam, lParam);
 }
 
 void ShowCount(HWND page) {
     char text[80];
-    wsprintfA(text, LoadText(InstanceOf(page), IDS_STANDARD_CHOSEN).c_str(),
+    wsprintfA(text, LoadText(page, IDS_STANDARD_CHOSEN).c_str(),
               static_cast<int>(Ask(page, IDC_STANDARD_SEVERAL, LB_GETSELCOUNT)), kItems);
     SetDlgItemTextA(page, IDC_STANDARD_CHOSEN, text);
 }
@@ -29,13 +25,13 @@ void ShowValue(HWND page, int position) {
     const HWND bar = GetDlgItem(page, IDC_STANDARD_BAR);
     SetScrollPos(bar, SB_CTL, position, TRUE);
     char text[80];
-    wsprintfA(text, LoadText(InstanceOf(page), IDS_STANDARD_VALUE).c_str(), GetScrollPos(bar, SB_CTL));
+    wsprintfA(text, LoadText(page, IDS_STANDARD_VALUE).c_str(), GetScrollPos(bar, SB_CTL));
     SetDlgItemTextA(page, IDC_STANDARD_VALUE, text);
 }
 
 void OnInitDialog(HWND page) {
     for (int i = 0; i < kItems; ++i) {
-        const std::string text = LoadText(InstanceOf(page), static_cast<UINT>(IDS_STANDARD_ITEM + i));
+        const std::string text = LoadText(page, static_cast<UINT>(IDS_STANDARD_ITEM + i));
         const auto item = reinterpret_cast<LPARAM>(text.c_str());
         Ask(page, IDC_STANDARD_SORTED, LB_ADDSTRING, 0, item);
         Ask(page, IDC_STANDARD_SEVERAL, LB_ADDSTRING, 0, item);

@@ -15,13 +15,9 @@ struct Notified {
 // One page is shown at a time.
 Notified g_notified;
 
-HINSTANCE InstanceOf(HWND page) {
-    return reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(page, GWLP_HINSTANCE));
-}
-
 void ShowNotified(HWND page) {
     char text[80];
-    wsprintfA(text, LoadText(InstanceOf(page), IDS_BROWSE_NOTIFIED).c_str(), g_notified.before, g_notified.after);
+    wsprintfA(text, LoadText(page, IDS_BROWSE_NOTIFIED).c_str(), g_notified.before, g_notified.after);
     SetDlgItemTextA(page, IDC_BROWSE_NOTIFIED, text);
 }
 
@@ -30,7 +26,7 @@ void ShowPath(HWND page) {
     if (TREELIST_GetFolder(GetDlgItem(page, IDC_BROWSE_TREE), path)) {
         SetDlgItemTextA(page, IDC_BROWSE_PATH, path);
     } else {
-        SetDlgItemTextA(page, IDC_BROWSE_PATH, LoadText(InstanceOf(page), IDS_BROWSE_NO_PATH).c_str());
+        SetDlgItemTextA(page, IDC_BROWSE_PATH, LoadText(page, IDS_BROWSE_NO_PATH).c_str());
     }
 }
 
@@ -45,7 +41,7 @@ void OnInitDialog(HWND page) {
     ShowNotified(page);
     ShowPath(page);
     if (ShellNamesAreWide()) {
-        SetDlgItemTextA(page, IDC_BROWSE_TREE_GROUP, LoadText(InstanceOf(page), IDS_BROWSE_WIDE).c_str());
+        SetDlgItemTextA(page, IDC_BROWSE_TREE_GROUP, LoadText(page, IDS_BROWSE_WIDE).c_str());
     }
 }
 

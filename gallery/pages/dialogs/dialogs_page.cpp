@@ -28,10 +28,6 @@ const IconChoice kIcons[] = {{nullptr, 0},
                              {IDI_EXCLAMATION, MB_ICONEXCLAMATION},
                              {IDI_ASTERISK, MB_ICONASTERISK}};
 
-HINSTANCE InstanceOf(HWND page) {
-    return reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(page, GWLP_HINSTANCE));
-}
-
 std::string TextOf(HWND page, int id) {
     const HWND control = GetDlgItem(page, id);
     std::string text(static_cast<std::size_t>(GetWindowTextLengthA(control)) + 1, '\0');
@@ -67,7 +63,7 @@ void ShowIcon(HWND page) {
 
 void ShowResult(HWND page, UINT text, int number, const char* label = "") {
     char line[256];
-    wsprintfA(line, LoadText(InstanceOf(page), text).c_str(), number, label);
+    wsprintfA(line, LoadText(page, text).c_str(), number, label);
     SetDlgItemTextA(page, IDC_DIALOGS_RESULT, line);
 }
 

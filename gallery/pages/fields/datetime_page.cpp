@@ -14,21 +14,17 @@ constexpr DWORD kLongestVisit = 480;
 constexpr int kUsualVisit = 30;
 constexpr int kTimeFields[] = {IDC_TIME_VERTICAL, IDC_TIME_HORIZONTAL, IDC_VISIT_TIME};
 
-HINSTANCE InstanceOf(HWND page) {
-    return reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(page, GWLP_HINSTANCE));
-}
-
 // The date and the time are read into one record: each field leaves the members of the other one alone, as long as the
 // date, which clears the rest, is read first.
 std::string Appointment(HWND page) {
     SYSTEMTIME visit{};
     if (!DATECTRL_GetDate(GetDlgItem(page, IDC_VISIT_DATE), &visit) ||
         !TIMECTRL_GetTime(GetDlgItem(page, IDC_VISIT_TIME), &visit)) {
-        return LoadText(InstanceOf(page), IDS_DATETIME_NONE);
+        return LoadText(page, IDS_DATETIME_NONE);
     }
     char text[64];
-    wsprintfA(text, LoadText(InstanceOf(page), IDS_DATETIME_VISIT).c_str(), visit.wYear, visit.wMonth, visit.wDay,
-              visit.wHour, visit.wMinute, visit.wSecond, NUMFLD_GetValue(GetDlgItem(page, IDC_VISIT_MINUTES)));
+    wsprintfA(text, LoadText(page, IDS_DATETIME_VISIT).c_str(), visit.wYear, visit.wMonth, visit.wDay, visit.wHour,
+              visit.wMinute, visit.wSecond, NUMFLD_GetValue(GetDlgItem(page, IDC_VISIT_MINUTES)));
     return text;
 }
 
