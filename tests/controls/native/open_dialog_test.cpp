@@ -240,6 +240,29 @@ TEST_F(OpenDialog, AFolderThatCannotBeReadIsToldAndAnotherIsShown) {
     EXPECT_TRUE(said_.empty());
 }
 
+TEST_F(OpenDialog, ItemsOfAHookAreNoFiles) {
+    fs::create_directories(root_ / "empty");
+    record_.lpstrInitialDir = "C:\\walk\\empty";
+    // Added below what the folder holds, and chosen as a user does.
+    Hands::Step const choose = [&](HWND dialog) {
+        HWND const list = GetDlgItem(dialog, lst1);
+        auto const item = SendMessageA(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("zz of the hook"));
+        SetFocus(list);
+        SendMessageA(list, record_.Flags & OFN_ALLOWMULTISELECT ? UINT{LB_SETSEL} : UINT{LB_SETCURSEL},
+                     record_.Flags & OFN_ALLOWMULTISELECT ? TRUE : static_cast<WPARAM>(item), item);
+        SendMessageA(dialog, WM_COMMAND, MAKEWPARAM(lst1, LBN_SELCHANGE), reinterpret_cast<LPARAM>(list));
+        char text[64] = "";
+        GetDlgItemTextA(dialog, edt1, text, sizeof text);
+        said_.emplace_back(text);
+    };
+    for (DWORD const several : {DWORD{0}, DWORD{OFN_ALLOWMULTISELECT}}) {
+        record_.Flags = OFN_EXPLORER | several;
+        EXPECT_EQ("", Open({choose, Leave()}));
+        EXPECT_EQ("C:\\walk\\a.txt", Open({choose, Type("C:\\walk"), choose, Type("a.txt")}));
+    }
+    EXPECT_EQ(std::vector<std::string>(6), said_);
+}
+
 TEST_F(OpenDialog, OneLongNameDoesNotMakeAllColumnsWide) {
     fs::create_directories(root_ / "many");
     for (int i = 0; i < 30; ++i) {
