@@ -1,5 +1,6 @@
 // The dialog class: what a dialog does with what its dialog procedure leaves to it.
 #include "user/dialog/dialog.h"
+#include "user/frame/nonclient.h"
 
 namespace platform::user {
 namespace {
@@ -69,11 +70,7 @@ void OnSetFocus(HWND dialog, DialogState& state) {
 }
 
 void EraseDialog(HWND dialog, HDC context) {
-    const auto dc = reinterpret_cast<WPARAM>(context);
-    const auto self = reinterpret_cast<LPARAM>(dialog);
-    auto brush = reinterpret_cast<HBRUSH>(SendMessageA(dialog, WM_CTLCOLORDLG, dc, self));
-    if (!brush)
-        brush = reinterpret_cast<HBRUSH>(DefWindowProcA(dialog, WM_CTLCOLORDLG, dc, self));
+    const HBRUSH brush = AskForBrush(dialog, WM_CTLCOLORDLG, context, dialog);
     RECT client{};
     GetClientRect(dialog, &client);
     FillRect(context, &client, brush);

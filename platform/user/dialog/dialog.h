@@ -107,6 +107,16 @@ void SetDefaultId(HWND dialog, int id);
 /// Where a default focus would go: the first tab stop, else the first control of the first group.
 HWND FirstFocus(HWND dialog);
 
+// --- controls (dialog_order.cpp)
+
+/// @returns whether a control is visible and enabled by its own style: the dialog itself may still be hidden.
+bool IsReachable(HWND control);
+/// The controls in the order of groups. It goes on through nested pages, whose own WS_GROUP says nothing as long as what is on
+/// them can be reached.
+void CollectMembers(HWND parent, std::vector<HWND>& members);
+/// @returns what a window answers for its text. Throws bad_alloc.
+std::string TextOf(HWND window);
+
 LRESULT CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
 }  // namespace platform::user

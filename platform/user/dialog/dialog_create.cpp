@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "user/dialog/dialog.h"
+#include "user/window/above.h"
 
 namespace platform::user {
 namespace {
@@ -20,12 +21,6 @@ HFONT MakeFont(const DialogTemplate& dialogTemplate) {
     const std::string& face = dialogTemplate.face;
     face.copy(font.lfFaceName, std::min(face.size(), sizeof font.lfFaceName - 1));
     return CreateFontIndirectA(&font);
-}
-
-RECT WorkArea() {
-    RECT area{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
-    SystemParametersInfoA(SPI_GETWORKAREA, 0, &area, 0);
-    return area;
 }
 
 DWORD WindowStyle(const DialogTemplate& dialogTemplate) {
@@ -157,8 +152,7 @@ HWND CreateDialogFromTemplate(HINSTANCE instance, const DialogTemplate& dialogTe
         const DWORD error = GetLastError();
         if (IsWindow(dialog))
             DestroyWindow(dialog);
-        SetLastError(error);
-        return nullptr;
+        return Fail(error, nullptr);
     }
     Initialise(dialog, dialogTemplate, initParam);
     if (!IsWindow(dialog))

@@ -30,8 +30,7 @@ WINUSERAPI BOOL WINAPI MapDialogRect(HWND dialog, LPRECT rect) {
     if (!state)
         return FALSE;
     if (!rect) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return FALSE;
+        return Fail(ERROR_INVALID_PARAMETER, FALSE);
     }
     if (state->baseX == 0)
         FontBaseUnits(state->font, state->baseX, state->baseY);

@@ -1,5 +1,6 @@
 // Message boxes: a dialog template laid out around the text, in memory.
 #include <algorithm>
+#include <iterator>
 #include <new>
 #include <string>
 #include <vector>
@@ -36,8 +37,6 @@ const ButtonSet kSets[] = {
     {2, {{IDYES, "&Yes"}, {IDNO, "&No"}}},
     {2, {{IDRETRY, "&Retry"}, {IDCANCEL, "Cancel"}}},
 };
-constexpr UINT kSetCount = sizeof kSets / sizeof kSets[0];
-
 /// What the dialog procedure needs to know of its box.
 struct Box {
     int defaultId;
@@ -61,11 +60,7 @@ HICON IconOf(UINT type) {
 }
 
 bool HasCancel(const ButtonSet& set) {
-    for (int index = 0; index < set.count; ++index) {
-        if (set.buttons[index].id == IDCANCEL)
-            return true;
-    }
-    return set.count == 1;
+    return set.count == 1 || std::ranges::any_of(set.buttons, [](const auto& each) { return each.id == IDCANCEL; });
 }
 
 INT_PTR CALLBACK BoxProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -112,16 +107,7 @@ SIZE MeasureText(LPCSTR text, HFONT font, int baseX, int baseY) {
 
 DialogItem MakeItem(const char* className, const char* text, DWORD style, int id, short x, short y, short width,
                     short height) {
-    DialogItem item;
-    item.className = className;
-    item.text = text;
-    item.style = style | WS_CHILD | WS_VISIBLE;
-    item.id = id;
-    item.x = x;
-    item.y = y;
-    item.width = width;
-    item.height = height;
-    return item;
+    return {style | WS_CHILD | WS_VISIBLE, 0, x, y, width, height, id, className, text};
 }
 
 DialogTemplate LayOut(LPCSTR text, LPCSTR caption, const ButtonSet& set, bool hasIcon) {
@@ -172,9 +158,8 @@ DialogTemplate LayOut(LPCSTR text, LPCSTR caption, const ButtonSet& set, bool ha
 
 int ShowBox(HWND owner, LPCSTR text, LPCSTR caption, UINT type) {
     const UINT kind = type & MB_TYPEMASK;
-    if (kind >= kSetCount) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return 0;
+    if (kind >= std::size(kSets)) {
+        return Fail(ERROR_INVALID_PARAMETER, 0);
     }
     const ButtonSet& set = kSets[kind];
     const int chosen = static_cast<int>((type & MB_DEFMASK) >> 8);
@@ -190,8 +175,7 @@ int ShowBox(HWND owner, LPCSTR text, LPCSTR caption, UINT type) {
 WINUSERAPI int WINAPI MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type) try {
     return platform::user::ShowBox(owner, text, caption, type);
 } catch (const std::bad_alloc&) {
-    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-    return 0;
+    return Fail(ERROR_NOT_ENOUGH_MEMORY, 0);
 }
 
 // There is no sound device, and a machine without one is silent.

@@ -22,6 +22,8 @@ void LeaveModes(HWND window);
 /// WM_SETCURSOR's default, once the parents have been asked. @returns whether a cursor was set.
 bool SetHitCursor(HWND hit, int hitCode, UINT mouseMessage);
 
+/// @returns the parent of a window that is a child by its style; null for another one.
+HWND ParentOf(HWND window);
 /// @returns the name of the pointer over a part of the frame.
 LPCSTR SizingCursor(int hitCode);
 
@@ -54,6 +56,9 @@ LRESULT SystemCommand(HWND window, WPARAM command, POINT point);
 /// The next message of a loop that handles a window's frame. @returns false when the loop has to end: the window is gone,
 /// or the program ends, which is passed on.
 bool NextMessage(HWND window, MSG* message);
+
+/// Asks one window, or nobody, for the brush of another (WM_CTLCOLOR...), which also sets the context's colours.
+HBRUSH AskForBrush(HWND asked, UINT message, HDC context, HWND about);
 
 /// @returns whether a message tells of a button of the mouse going down in a client area.
 bool IsPress(UINT message);

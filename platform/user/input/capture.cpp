@@ -5,14 +5,15 @@
 namespace platform::user {
 
 void MoveCapture(ThreadState* self, HWND window) {
-    HWND previous = nullptr;
-    {
-        UserGuard guard(UserLock());
-        previous = self->capture;
-        self->capture = window;
-    }
+    const HWND previous = ExchangeShared(self->capture, window);
     if (previous != nullptr && previous != window && PeekWindow(previous) != nullptr) {
         SendMessageA(previous, WM_CAPTURECHANGED, 0, reinterpret_cast<LPARAM>(window));
+    }
+}
+
+void LetGoOfMouse(HWND window) {
+    if (GetCapture() == window) {
+        ReleaseCapture();
     }
 }
 
@@ -37,8 +38,7 @@ HWND WINAPI SetCapture(HWND window) {
             return nullptr;
         }
         if (target != nullptr && target->thread != self) {
-            SetLastError(ERROR_ACCESS_DENIED);
-            return nullptr;
+            return Fail(ERROR_ACCESS_DENIED, nullptr);
         }
     }
     const HWND previous = self->capture;

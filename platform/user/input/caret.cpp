@@ -86,12 +86,7 @@ void Discard(ThreadState* thread) {
 
 // What each pixel of a bitmap inverts. A monochrome bitmap inverts where its bits are 1.
 std::vector<std::uint32_t> PatternOf(HBITMAP bitmap, const BITMAP& shape) {
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = shape.bmWidth;
-    info.bmiHeader.biHeight = -shape.bmHeight;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
+    BITMAPINFO info{{sizeof info.bmiHeader, shape.bmWidth, -shape.bmHeight, 1, 32}};
     std::vector<std::uint32_t> pixels(static_cast<std::size_t>(shape.bmWidth) *
                                       static_cast<std::size_t>(shape.bmHeight));
     const HDC context = CreateCompatibleDC(nullptr);
@@ -123,8 +118,7 @@ std::vector<std::uint32_t> BlockPattern(int width, int height, bool grey) {
 ThreadState* OwnCaret(HWND window) {
     ThreadState* self = CurrentThread();
     if (self == nullptr || self->caret.window == nullptr || (window != nullptr && self->caret.window != window)) {
-        SetLastError(ERROR_ACCESS_DENIED);
-        return nullptr;
+        return Fail(ERROR_ACCESS_DENIED, nullptr);
     }
     return self;
 }
@@ -161,9 +155,7 @@ void SuspendCaret(HWND window) {
         return;
     }
     ThreadState* thread = target->thread;
-    try {
-        thread->caretSuspensions.push_back(window);
-    } catch (const std::bad_alloc&) {
+    if (!MemoryAllows([=] { thread->caretSuspensions.push_back(window); })) {
         return;
     }
     const Window* owner = thread->caret.window != nullptr ? PeekWindow(thread->caret.window) : nullptr;
@@ -198,8 +190,7 @@ BOOL WINAPI CreateCaret(HWND window, HBITMAP bitmap, int width, int height) {
         return FALSE;
     }
     if (target->thread != self) {
-        SetLastError(ERROR_ACCESS_DENIED);
-        return FALSE;
+        return Fail(ERROR_ACCESS_DENIED, FALSE);
     }
     try {
         std::vector<std::uint32_t> pattern;
@@ -207,15 +198,13 @@ BOOL WINAPI CreateCaret(HWND window, HBITMAP bitmap, int width, int height) {
             width = width != 0 ? width : GetSystemMetrics(SM_CXBORDER);
             height = height != 0 ? height : GetSystemMetrics(SM_CYBORDER);
             if (width < 0 || height < 0) {
-                SetLastError(ERROR_INVALID_PARAMETER);
-                return FALSE;
+                return Fail(ERROR_INVALID_PARAMETER, FALSE);
             }
             pattern = BlockPattern(width, height, bitmap == kGreyCaret);
         } else {
             BITMAP shape{};
             if (GetObjectA(bitmap, sizeof shape, &shape) != sizeof shape) {
-                SetLastError(ERROR_INVALID_HANDLE);
-                return FALSE;
+                return Fail(ERROR_INVALID_HANDLE, FALSE);
             }
             width = shape.bmWidth;
             height = shape.bmHeight;
@@ -232,8 +221,7 @@ BOOL WINAPI CreateCaret(HWND window, HBITMAP bitmap, int width, int height) {
         caret.pattern = std::move(pattern);
         return TRUE;
     } catch (const std::bad_alloc&) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return FALSE;
+        return Fail(ERROR_NOT_ENOUGH_MEMORY, FALSE);
     }
 }
 
@@ -287,8 +275,7 @@ BOOL WINAPI SetCaretPos(int x, int y) {
 BOOL WINAPI GetCaretPos(LPPOINT position) {
     const ThreadState* self = CurrentThread();
     if (self == nullptr || position == nullptr) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return FALSE;
+        return Fail(ERROR_INVALID_PARAMETER, FALSE);
     }
     *position = self->caret.position;
     return TRUE;

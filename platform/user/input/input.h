@@ -52,6 +52,8 @@ void ActivateNext(ThreadState* self, Window* leaving);
 
 /// Takes capture off a window and tells it so. Lock not held.
 void MoveCapture(ThreadState* self, HWND window);
+/// Ends the capture of a window that may have lost it already.
+void LetGoOfMouse(HWND window);
 
 /// Takes a dying window out of focus, activation, capture, timers, caret, posted messages and mouse tracking, and
 /// activates another window where it was the active one.

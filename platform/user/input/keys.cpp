@@ -81,9 +81,7 @@ Cooked CookKey(ThreadState* self, const InputEvent& event, bool (*wanted)(const 
     if (remove || !deliver) {
         std::copy(std::begin(keys), std::end(keys), self->keyState);
         self->altAlone = altAlone && (key != VK_MENU || event.down);
-        self->lastKey.key = key;
-        self->lastKey.data = message->lParam;
-        self->lastKey.unicode = event.unicode;
+        self->lastKey = {key, message->lParam, event.unicode};
     }
     if (remove && deliver && event.down && !wasDown && key == VK_F1 && !IsDown(keys, VK_MENU) && !control &&
         !IsDown(keys, VK_SHIFT)) {

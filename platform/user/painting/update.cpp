@@ -88,6 +88,17 @@ bool NeedsPaint(const Window* window) {
     return !window->update.Empty();
 }
 
+bool SubtreeNeedsPaint(const Window* window) {
+    if ((window->style & WS_VISIBLE) == 0) {
+        return false;
+    }
+    const Window* child = NeedsPaint(window) ? nullptr : window->firstChild;
+    while (child != nullptr && !SubtreeNeedsPaint(child)) {
+        child = child->next;
+    }
+    return NeedsPaint(window) || child != nullptr;
+}
+
 Window* NextPaintWindow(ThreadState* thread, Window* within) {
     if (thread->paintWindows == 0) {
         return nullptr;

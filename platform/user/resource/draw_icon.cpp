@@ -10,17 +10,6 @@
 namespace platform::user {
 namespace {
 
-BITMAPINFO HeaderOf(const IconPicture& picture) {
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = picture.width;
-    info.bmiHeader.biHeight = -picture.height;  // the top row first
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    info.bmiHeader.biCompression = BI_RGB;
-    return info;
-}
-
 /// White where the background shows, black elsewhere.
 std::vector<std::uint32_t> MaskOf(const IconPicture& picture) {
     std::vector<std::uint32_t> mask;
@@ -41,7 +30,7 @@ std::vector<std::uint32_t> ColoursOf(const IconPicture& picture) {
 
 bool Put(HDC context, const RECT& place, const IconPicture& picture, const std::vector<std::uint32_t>& pixels,
          DWORD operation) {
-    const BITMAPINFO info = HeaderOf(picture);
+    const BITMAPINFO info{{sizeof info.bmiHeader, picture.width, -picture.height, 1, 32, BI_RGB}};  // the top row first
     return gdi::StretchBits(context, place, pixels.data(), &info, operation);
 }
 
@@ -50,15 +39,13 @@ bool Put(HDC context, const RECT& place, const IconPicture& picture, const std::
 bool DrawIconIn(HDC context, const RECT& place, HICON handle) try {
     const Icon* icon = base::Find<Icon>(handle, base::HandleKind::Icon);
     if (!icon) {
-        SetLastError(ERROR_INVALID_ICON_HANDLE);
-        return false;
+        return Fail(ERROR_INVALID_ICON_HANDLE, false);
     }
     const IconPicture& picture = icon->picture;
     return Put(context, place, picture, MaskOf(picture), SRCAND) &&
            Put(context, place, picture, ColoursOf(picture), SRCINVERT);
 } catch (const std::bad_alloc&) {
-    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-    return false;
+    return Fail(ERROR_NOT_ENOUGH_MEMORY, false);
 }
 
 }  // namespace platform::user

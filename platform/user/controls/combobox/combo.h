@@ -12,7 +12,6 @@ struct ComboData : ControlData {
     HWND window = nullptr;
     HWND edit = nullptr;  ///< null with CBS_DROPDOWNLIST
     HWND list = nullptr;
-    HFONT font = nullptr;
 
     int fieldHeight = 0;       ///< of the text's place, without the edge around it
     bool heightGiven = false;  ///< by the owner, so that the font leaves it alone

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "user/controls/combobox/combo.h"
+#include "user/input/input.h"
 
 namespace platform::user {
 namespace {
@@ -111,8 +112,7 @@ void CloseUp(ComboData& combo, bool taken) {
         EndTracking(*list);
         ShowWindow(combo.list, SW_HIDE);
     }
-    if (GetCapture() == combo.list)
-        ReleaseCapture();
+    LetGoOfMouse(combo.list);
     RedrawCombo(combo);
     NotifyCombo(combo, CBN_CLOSEUP);
 }
