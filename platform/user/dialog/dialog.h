@@ -54,8 +54,7 @@ struct DialogState {
     HWND savedFocus = nullptr;
     int defaultId = 0;
     bool hasDefault = false;
-    int baseX = 0;  ///< width of the base unit in pixels: 4 horizontal dialog units
-    int baseY = 0;  ///< height of the base unit: 8 vertical dialog units
+    SIZE base{};  ///< the base unit in pixels: 4 horizontal dialog units, and 8 vertical ones
     bool modal = false;
     bool ended = false;
     INT_PTR result = 0;
@@ -85,7 +84,7 @@ INT_PTR RunDialog(HINSTANCE instance, const DialogTemplate& dialogTemplate, HWND
 // --- units (dialog_units.cpp)
 
 /// Base units of a font as documented: average width of the letters, height of the face.
-void FontBaseUnits(HFONT font, int& baseX, int& baseY);
+SIZE FontBaseUnits(HFONT font);
 
 // --- focus and default buttons (dialog_focus.cpp)
 

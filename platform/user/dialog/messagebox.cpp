@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "user/dialog/dialog.h"
+#include "user/model/window.h"
 
 namespace platform::user {
 namespace {
@@ -90,19 +91,19 @@ INT_PTR CALLBACK BoxProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM l
 }
 
 /// Pixels as dialog units, rounded up.
-SIZE ToUnits(LONG width, LONG height, int baseX, int baseY) {
-    return {(width * 4 + baseX - 1) / baseX, (height * 8 + baseY - 1) / baseY};
+SIZE ToUnits(LONG width, LONG height, SIZE base) {
+    return {(width * 4 + base.cx - 1) / base.cx, (height * 8 + base.cy - 1) / base.cy};
 }
 
 /// A text's size in dialog units when broken at a width of 5/8 of the screen.
-SIZE MeasureText(LPCSTR text, HFONT font, int baseX, int baseY) {
+SIZE MeasureText(LPCSTR text, HFONT font, SIZE base) {
     const HDC screen = GetDC(nullptr);
     const HGDIOBJ previous = SelectObject(screen, font);
     RECT rect{0, 0, GetSystemMetrics(SM_CXSCREEN) * 5 / 8, 0};
     DrawTextA(screen, text, -1, &rect, DT_CALCRECT | DT_WORDBREAK | DT_EXPANDTABS | DT_NOPREFIX);
     SelectObject(screen, previous);
     ReleaseDC(nullptr, screen);
-    return ToUnits(rect.right, rect.bottom, baseX, baseY);
+    return ToUnits(rect.right, rect.bottom, base);
 }
 
 DialogItem MakeItem(const char* className, const char* text, DWORD style, int id, short x, short y, short width,
@@ -122,16 +123,13 @@ DialogTemplate LayOut(LPCSTR text, LPCSTR caption, const ButtonSet& set, bool ha
 
     const HFONT font =
         CreateFontA(-MulDiv(8, 96, 72), 0, 0, 0, FW_DONTCARE, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, box.face.c_str());
-    int baseX = 0;
-    int baseY = 0;
-    FontBaseUnits(font, baseX, baseY);
-    const SIZE size = MeasureText(text, font, baseX, baseY);
+    const SIZE base = FontBaseUnits(font);
+    const SIZE size = MeasureText(text, font, base);
     DeleteObject(font);
 
     const auto textWidth = static_cast<short>(std::min<LONG>(size.cx, 0x4000));
     const auto textHeight = static_cast<short>(std::min<LONG>(size.cy, 0x4000));
-    const SIZE icon =
-        hasIcon ? ToUnits(GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON), baseX, baseY) : SIZE{0, 0};
+    const SIZE icon = hasIcon ? ToUnits(GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON), base) : SIZE{0, 0};
     const auto iconWidth = static_cast<short>(icon.cx);
     const auto textLeft = static_cast<short>(kMargin + (hasIcon ? iconWidth + kIconGap : 0));
     // A text lower than the icon stands in the middle beside it.
@@ -172,8 +170,10 @@ int ShowBox(HWND owner, LPCSTR text, LPCSTR caption, UINT type) {
 }  // namespace
 }  // namespace platform::user
 
+using namespace platform::user;
+
 WINUSERAPI int WINAPI MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type) try {
-    return platform::user::ShowBox(owner, text, caption, type);
+    return ShowBox(owner, text, caption, type);
 } catch (const std::bad_alloc&) {
     return Fail(ERROR_NOT_ENOUGH_MEMORY, 0);
 }

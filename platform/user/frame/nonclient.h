@@ -27,6 +27,8 @@ HWND ParentOf(HWND window);
 /// @returns the name of the pointer over a part of the frame.
 LPCSTR SizingCursor(int hitCode);
 
+/// @returns how wide the frame is, without the caption and a sunken edge.
+int FrameWidth(DWORD style, DWORD exStyle);
 /// @returns the caption's height with the line below it; 0 without a caption.
 int CaptionHeight(DWORD style, DWORD exStyle);
 

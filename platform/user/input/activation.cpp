@@ -237,12 +237,9 @@ HWND WINAPI SetActiveWindow(HWND window) {
     bool inBackground = false;
     {
         UserGuard guard(UserLock());
-        const Window* target = FindWindowObject(window);
+        const Window* target = FindOwnWindow(window);
         if (target == nullptr) {
             return nullptr;
-        }
-        if (target->thread != self) {
-            return Fail(ERROR_ACCESS_DENIED, nullptr);
         }
         if ((target->style & (WS_CHILD | WS_DISABLED)) != 0) {
             return Fail(ERROR_INVALID_PARAMETER, nullptr);

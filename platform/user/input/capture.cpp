@@ -33,12 +33,8 @@ HWND WINAPI SetCapture(HWND window) {
     }
     {
         UserGuard guard(UserLock());
-        const Window* target = window != nullptr ? FindWindowObject(window) : nullptr;
-        if (window != nullptr && target == nullptr) {
+        if (window != nullptr && FindOwnWindow(window) == nullptr) {
             return nullptr;
-        }
-        if (target != nullptr && target->thread != self) {
-            return Fail(ERROR_ACCESS_DENIED, nullptr);
         }
     }
     const HWND previous = self->capture;

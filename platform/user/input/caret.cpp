@@ -114,13 +114,16 @@ std::vector<std::uint32_t> BlockPattern(int width, int height, bool grey) {
     return pixels;
 }
 
-// The calling thread's caret, if it belongs to the window (null: to any window of the thread).
-ThreadState* OwnCaret(HWND window) {
+// Does something to the calling thread's caret, if it belongs to the window (null: to any window of the thread).
+template <class Action>
+BOOL ChangeCaret(HWND window, const Action& action) {
+    UserGuard guard(UserLock());
     ThreadState* self = CurrentThread();
     if (self == nullptr || self->caret.window == nullptr || (window != nullptr && self->caret.window != window)) {
-        return Fail(ERROR_ACCESS_DENIED, nullptr);
+        return Fail(ERROR_ACCESS_DENIED, FALSE);
     }
-    return self;
+    action(self);
+    return TRUE;
 }
 
 }  // namespace
@@ -185,12 +188,8 @@ using namespace platform::user;
 BOOL WINAPI CreateCaret(HWND window, HBITMAP bitmap, int width, int height) {
     ThreadState* self = CurrentThread();
     UserGuard guard(UserLock());
-    const Window* target = FindWindowObject(window);
-    if (target == nullptr || self == nullptr) {
+    if (self == nullptr || FindOwnWindow(window) == nullptr) {
         return FALSE;
-    }
-    if (target->thread != self) {
-        return Fail(ERROR_ACCESS_DENIED, FALSE);
     }
     try {
         std::vector<std::uint32_t> pattern;
@@ -226,50 +225,32 @@ BOOL WINAPI CreateCaret(HWND window, HBITMAP bitmap, int width, int height) {
 }
 
 BOOL WINAPI DestroyCaret(VOID) {
-    UserGuard guard(UserLock());
-    ThreadState* self = OwnCaret(nullptr);
-    if (self == nullptr) {
-        return FALSE;
-    }
-    Discard(self);
-    return TRUE;
+    return ChangeCaret(nullptr, Discard);
 }
 
 BOOL WINAPI ShowCaret(HWND window) {
-    UserGuard guard(UserLock());
-    ThreadState* self = OwnCaret(window);
-    if (self == nullptr) {
-        return FALSE;
-    }
-    if (self->caret.hideCount > 0 && --self->caret.hideCount == 0) {
-        Restart(self);
-    }
-    return TRUE;
+    return ChangeCaret(window, [](ThreadState* self) {
+        if (self->caret.hideCount > 0 && --self->caret.hideCount == 0) {
+            Restart(self);
+        }
+    });
 }
 
 BOOL WINAPI HideCaret(HWND window) {
-    UserGuard guard(UserLock());
-    ThreadState* self = OwnCaret(window);
-    if (self == nullptr) {
-        return FALSE;
-    }
-    ++self->caret.hideCount;
-    Erase(self);
-    return TRUE;
+    return ChangeCaret(window, [](ThreadState* self) {
+        ++self->caret.hideCount;
+        Erase(self);
+    });
 }
 
 BOOL WINAPI SetCaretPos(int x, int y) {
-    UserGuard guard(UserLock());
-    ThreadState* self = OwnCaret(nullptr);
-    if (self == nullptr) {
-        return FALSE;
-    }
-    if (self->caret.position.x != x || self->caret.position.y != y) {
-        Erase(self);
-        self->caret.position = {x, y};
-        Restart(self);
-    }
-    return TRUE;
+    return ChangeCaret(nullptr, [=](ThreadState* self) {
+        if (self->caret.position.x != x || self->caret.position.y != y) {
+            Erase(self);
+            self->caret.position = {x, y};
+            Restart(self);
+        }
+    });
 }
 
 BOOL WINAPI GetCaretPos(LPPOINT position) {

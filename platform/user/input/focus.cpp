@@ -65,12 +65,9 @@ HWND WINAPI SetFocus(HWND window) {
     bool mustActivate = false;
     {
         UserGuard guard(UserLock());
-        Window* target = FindWindowObject(window);
+        Window* target = FindOwnWindow(window);
         if (target == nullptr) {
             return nullptr;
-        }
-        if (target->thread != self) {
-            return Fail(ERROR_ACCESS_DENIED, nullptr);
         }
         if (!CanTakeFocus(target)) {
             return Fail(ERROR_INVALID_PARAMETER, nullptr);

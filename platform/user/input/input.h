@@ -22,9 +22,6 @@ void Inject(InputEvent event);
 /// Writes the state of a key and of the key that stands for both sides of it.
 void ApplyKey(BYTE (&keys)[256], BYTE key, bool down);
 
-/// @returns the key that stands for both sides of a modifier; other keys as they are.
-BYTE GenericKey(BYTE key);
-
 /// @returns the MK_ flags of a key state.
 WPARAM MouseFlags(const BYTE (&keys)[256]);
 

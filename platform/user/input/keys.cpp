@@ -24,8 +24,7 @@ void RunHelpKey(const SentMessage& errand) {
     }
 }
 
-}  // namespace
-
+/// @returns the key that stands for both sides of a modifier; other keys as they are.
 BYTE GenericKey(BYTE key) {
     switch (key) {
         case VK_LSHIFT:
@@ -41,6 +40,8 @@ BYTE GenericKey(BYTE key) {
             return key;
     }
 }
+
+}  // namespace
 
 Cooked CookKey(ThreadState* self, const InputEvent& event, bool (*wanted)(const MSG&, const void*), const void* filter,
                bool remove, MSG* message) {

@@ -19,9 +19,6 @@ void Release(SentMessage* sent) {
 
 // Lock held.
 void Reply(SentMessage* sent, LRESULT result, bool answered) {
-    if (sent->replied) {
-        return;
-    }
     sent->replied = true;
     sent->answered = answered;
     sent->result = result;

@@ -83,17 +83,8 @@ using namespace platform::user;
 UINT_PTR WINAPI SetTimer(HWND window, UINT_PTR id, UINT period, TIMERPROC procedure) {
     ThreadState* self = CurrentThread();
     UserGuard guard(UserLock());
-    if (self == nullptr) {
+    if (self == nullptr || (window != nullptr && FindOwnWindow(window) == nullptr)) {
         return 0;
-    }
-    if (window != nullptr) {
-        const Window* target = FindWindowObject(window);
-        if (target == nullptr) {
-            return 0;
-        }
-        if (target->thread != self) {
-            return Fail(ERROR_ACCESS_DENIED, 0);
-        }
     }
     Timer timer;
     timer.window = window;

@@ -1,6 +1,7 @@
 // Drawing icons: the ground is kept where the mask lets it through, then the picture is laid over it by exclusive or. Where
 // the mask is clear the picture's black leaves the ground as it is; any other colour there inverts it.
 #include "user/resource/icons.h"
+#include "user/model/window.h"
 
 #include <new>
 

@@ -223,12 +223,8 @@ using namespace platform::user;
 BOOL WINAPI DestroyWindow(HWND handle) {
     {
         const UserGuard guard(UserLock());
-        const Window* window = FindWindowObject(handle);
-        if (!window) {
+        if (!FindOwnWindow(handle)) {
             return FALSE;
-        }
-        if (window->thread != CurrentThread()) {
-            return Fail(ERROR_ACCESS_DENIED, FALSE);
         }
     }
     return DestroyTree(handle);
