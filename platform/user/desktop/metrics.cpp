@@ -6,7 +6,6 @@
 #include "gdi/context/device_context.h"
 #include "gdi/context/syscolors.h"
 #include "gdi/surface/screen.h"
-#include "user/desktop/room.h"
 #include "user/message/queue.h"
 #include "user/model/window.h"
 #include "user/painting/painting.h"

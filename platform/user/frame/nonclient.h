@@ -47,6 +47,8 @@ CaptionParts LayOutCaption(const Window* window, RECT windowRect);
 /// @returns the HT code of a screen point.
 LRESULT HitTest(HWND window, POINT point);
 
+/// Draws a control of a frame, a bar or a field (DFC_), unless there is no room for it.
+void DrawPart(HDC context, RECT rect, UINT type, UINT kind, bool pressed, bool disabled);
 /// Draws the frame. pressed: the HT code of a button that is held.
 void PaintFrame(HWND window, int pressed = HTNOWHERE);
 

@@ -92,11 +92,15 @@ bool SubtreeNeedsPaint(const Window* window) {
     if ((window->style & WS_VISIBLE) == 0) {
         return false;
     }
-    const Window* child = NeedsPaint(window) ? nullptr : window->firstChild;
-    while (child != nullptr && !SubtreeNeedsPaint(child)) {
-        child = child->next;
+    if (NeedsPaint(window)) {
+        return true;
     }
-    return NeedsPaint(window) || child != nullptr;
+    for (const Window* child = window->firstChild; child != nullptr; child = child->next) {
+        if (SubtreeNeedsPaint(child)) {
+            return true;
+        }
+    }
+    return false;
 }
 
 Window* NextPaintWindow(ThreadState* thread, Window* within) {

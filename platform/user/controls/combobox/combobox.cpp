@@ -50,10 +50,7 @@ void OnEditNotification(ComboData& combo, UINT code) {
         return;
     // What is typed is no item of the list, which at most shows where it would be.
     SendMessageA(combo.list, LB_SETCURSEL, static_cast<WPARAM>(-1), 0);
-    const std::string text = ItemText(combo, -1);
-    const LRESULT nearest = text.empty() ? LB_ERR
-                                         : SendMessageA(combo.list, LB_FINDSTRING, static_cast<WPARAM>(-1),
-                                                        reinterpret_cast<LPARAM>(text.c_str()));
+    const LRESULT nearest = FindTyped(combo);
     if (nearest >= 0)
         SendMessageA(combo.list, LB_SETTOPINDEX, static_cast<WPARAM>(nearest), 0);
     NotifyCombo(combo, CBN_EDITCHANGE);

@@ -42,6 +42,12 @@ std::string ItemText(const ComboData& combo, int index) try {
     return {};
 }
 
+LRESULT FindTyped(const ComboData& combo) {
+    const std::string text = ItemText(combo, -1);
+    return text.empty() ? LB_ERR
+                        : ToList(combo, LB_FINDSTRING, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(text.c_str()));
+}
+
 void ShowSelection(ComboData& combo) {
     if (combo.edit) {
         const int index = Current(combo);

@@ -3,6 +3,7 @@
 
 #include "gdi/context/device_context.h"
 #include "user/controls/combobox/combo.h"
+#include "user/frame/nonclient.h"
 
 namespace platform::user {
 namespace {
@@ -105,12 +106,8 @@ void PaintCombo(const ComboData& combo, HDC context) {
     GetClientRect(combo.window, &frame);
     frame.bottom = std::min<LONG>(frame.bottom, ClosedHeight(combo));
     DrawEdge(context, &frame, EDGE_SUNKEN, BF_RECT);
-    RECT arrow = ArrowRect(combo);
-    if (!IsRectEmpty(&arrow)) {
-        DrawFrameControl(context, &arrow, DFC_SCROLL,
-                         DFCS_SCROLLCOMBOBOX | (combo.pressed ? DFCS_PUSHED : 0U) |
-                             (combo.Style() & WS_DISABLED ? UINT{DFCS_INACTIVE} : 0U));
-    }
+    const RECT arrow = ArrowRect(combo);
+    DrawPart(context, arrow, DFC_SCROLL, DFCS_SCROLLCOMBOBOX, combo.pressed, combo.Style() & WS_DISABLED);
     RECT field = frame;
     InflateRect(&field, -kFieldEdge, -kFieldEdge);
     if (!IsRectEmpty(&arrow))
