@@ -111,12 +111,11 @@ void AskFieldHeight(ComboData& combo) {
     if (!combo.OwnerDrawn() || !parent)
         return;
     MeasureField(combo);
-    MEASUREITEMSTRUCT item{ODT_COMBOBOX,
-                           static_cast<UINT>(GetDlgCtrlID(combo.window)),
-                           static_cast<UINT>(-1),
-                           0,
-                           static_cast<UINT>(combo.fieldHeight),
-                           0};
+    MEASUREITEMSTRUCT item{};
+    item.CtlType = ODT_COMBOBOX;
+    item.CtlID = static_cast<UINT>(GetDlgCtrlID(combo.window));
+    item.itemID = static_cast<UINT>(-1);
+    item.itemHeight = static_cast<UINT>(combo.fieldHeight);
     SendMessageA(parent, WM_MEASUREITEM, item.CtlID, reinterpret_cast<LPARAM>(&item));
     combo.fieldHeight = std::clamp(static_cast<int>(item.itemHeight), 1, 0xFF);
     combo.heightGiven = true;

@@ -121,12 +121,12 @@ int FindItem(const ListData& list, int start, const char* wanted, bool exact) {
 
 int MeasureItem(const ListData& list) {
     const ListOwner owner = OwnerOf(list);
-    MEASUREITEMSTRUCT item{owner.kind,
-                           owner.id,
-                           list.combo ? 0 : static_cast<UINT>(-1),
-                           static_cast<UINT>(ListClient(list).right),
-                           static_cast<UINT>(list.itemHeight),
-                           0};
+    MEASUREITEMSTRUCT item{};
+    item.CtlType = owner.kind;
+    item.CtlID = owner.id;
+    item.itemID = list.combo ? 0 : static_cast<UINT>(-1);
+    item.itemWidth = static_cast<UINT>(ListClient(list).right);
+    item.itemHeight = static_cast<UINT>(list.itemHeight);
     if (owner.parent)
         SendMessageA(owner.parent, WM_MEASUREITEM, owner.id, reinterpret_cast<LPARAM>(&item));
     return std::clamp(static_cast<int>(item.itemHeight), 1, 0xFFFF);
