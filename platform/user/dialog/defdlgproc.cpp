@@ -7,19 +7,8 @@ namespace {
 
 /// Messages whose answer is the dialog procedure's own result; for all others that is DWLP_MSGRESULT.
 bool AnswersDirectly(UINT message) {
-    switch (message) {
-        case WM_CTLCOLOREDIT:
-        case WM_CTLCOLORLISTBOX:
-        case WM_CTLCOLORBTN:
-        case WM_CTLCOLORDLG:
-        case WM_CTLCOLORSCROLLBAR:
-        case WM_CTLCOLORSTATIC:
-        case WM_VKEYTOITEM:
-        case WM_INITDIALOG:
-            return true;
-        default:
-            return false;
-    }
+    const bool asksForBrush = message >= WM_CTLCOLOREDIT && message <= WM_CTLCOLORSTATIC;
+    return asksForBrush || message == WM_VKEYTOITEM || message == WM_INITDIALOG;
 }
 
 void SaveFocus(HWND dialog, DialogState& state) {
