@@ -1,6 +1,8 @@
 // The "button" class: states, mouse, keyboard, messages and notifications.
 #include "user/controls/button.h"
 
+#include "user/input/input.h"
+
 namespace platform::user {
 namespace {
 
@@ -8,13 +10,8 @@ using Press = ButtonData::Press;
 
 /// Draws at once, as callers see the new look when a message returns.
 void Redraw(HWND button, const ButtonData& data, UINT action) {
-    if (!IsWindowVisible(button) || ButtonKind(ControlStyle(button)) == BS_GROUPBOX)
-        return;
-    const HDC context = GetDC(button);
-    if (!context)
-        return;
-    PaintButton(button, data, context, action);
-    ReleaseDC(button, context);
+    if (ButtonKind(ControlStyle(button)) != BS_GROUPBOX)
+        DrawNow(button, [&](HDC context) { PaintButton(button, data, context, action); });
 }
 
 /// A group box is only frame and caption: what was behind them is the parent's to erase.
@@ -110,8 +107,7 @@ void EndPress(HWND button, ButtonData& data, bool mayClick) {
     data.press = Press::None;
     if (data.state & BST_PUSHED)
         SetPushed(button, false);
-    if (GetCapture() == button)
-        ReleaseCapture();
+    LetGoOfMouse(button);
     if (clicked && IsWindow(button))
         Click(button, data);
 }
@@ -265,12 +261,7 @@ LRESULT OnInput(HWND button, ButtonData& data, UINT message, WPARAM wParam, LPAR
     }
 }
 
-}  // namespace
-
-LRESULT CALLBACK ButtonProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    const auto data = ControlOf<ButtonData>(window);
-    if (!data)
-        return AnswerWithoutData(window, message, wParam, lParam);
+LRESULT HandleButton(HWND window, ButtonData& data, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_GETDLGCODE:
             return ButtonDialogCode(window, lParam);
@@ -278,40 +269,39 @@ LRESULT CALLBACK ButtonProcedure(HWND window, UINT message, WPARAM wParam, LPARA
             const LRESULT hit = DefWindowProcA(window, message, wParam, lParam);
             return hit == HTCLIENT && ButtonKind(ControlStyle(window)) == BS_GROUPBOX ? HTTRANSPARENT : hit;
         }
-        case WM_ERASEBKGND:
-            return TRUE;
         case WM_PAINT:
             return PaintWith(window,
-                             [&](HDC context, const RECT&) { PaintButton(window, *data, context, ODA_DRAWENTIRE); });
+                             [&](HDC context, const RECT&) { PaintButton(window, data, context, ODA_DRAWENTIRE); });
         case WM_ENABLE:
-            RedrawAll(window, *data);
+            RedrawAll(window, data);
             return 0;
         case WM_SETTEXT: {
             const LRESULT result = DefWindowProcA(window, message, wParam, lParam);
-            RedrawAll(window, *data);
+            RedrawAll(window, data);
             return result;
         }
         case WM_SETFONT:
-            data->font = reinterpret_cast<HFONT>(wParam);
+            data.font = reinterpret_cast<HFONT>(wParam);
             if (LOWORD(lParam))
-                RedrawAll(window, *data);
+                RedrawAll(window, data);
             return 0;
-        case WM_GETFONT:
-            return reinterpret_cast<LRESULT>(data->font);
         case WM_SETFOCUS:
-            OnFocus(window, *data, true);
+            OnFocus(window, data, true);
             return 0;
         case WM_KILLFOCUS:
-            OnFocus(window, *data, false);
-            return 0;
-        case WM_SYSCOLORCHANGE:
-            InvalidateRect(window, nullptr, TRUE);
+            OnFocus(window, data, false);
             return 0;
         default:
             if (message >= BM_GETCHECK && message <= BM_CLICK)
-                return OnButtonMessage(window, *data, message, wParam, lParam);
-            return OnInput(window, *data, message, wParam, lParam);
+                return OnButtonMessage(window, data, message, wParam, lParam);
+            return OnInput(window, data, message, wParam, lParam);
     }
+}
+
+}  // namespace
+
+LRESULT CALLBACK ButtonProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    return AnswerAs<ButtonData>(window, message, wParam, lParam, HandleButton);
 }
 
 }  // namespace platform::user

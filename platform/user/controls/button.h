@@ -11,7 +11,6 @@ struct ButtonData : ControlData {
 
     UINT state = 0;             ///< BST_ bits
     Press press = Press::None;  ///< what holds the button down (with the capture)
-    HFONT font = nullptr;
 };
 
 inline DWORD ButtonKind(DWORD style) {

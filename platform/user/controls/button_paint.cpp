@@ -59,14 +59,6 @@ RECT PlaceText(const ButtonPainter& painter, const RECT& area, UINT format) {
     return place;
 }
 
-void DrawLabel(const ButtonPainter& painter, RECT place, UINT format) {
-    if (painter.Disabled()) {
-        DrawDisabledText(painter.context, painter.text, place, format);
-        return;
-    }
-    DrawTextA(painter.context, painter.text.c_str(), static_cast<int>(painter.text.size()), &place, format);
-}
-
 void DrawContents(const ButtonPainter& painter, const RECT& area) {
     if (painter.text.empty())
         return;
@@ -78,7 +70,7 @@ void DrawContents(const ButtonPainter& painter, const RECT& area) {
     SetTextColor(painter.context, GetSysColor(COLOR_BTNTEXT));
     RECT within = area;
     InflateRect(&within, format & DT_CENTER ? 0 : -kSideGap, 0);
-    DrawLabel(painter, PlaceText(painter, within, format), format);
+    DrawLabel(painter.context, painter.text, PlaceText(painter, within, format), format, painter.Disabled());
     RestoreDC(painter.context, saved);
 }
 
@@ -144,7 +136,7 @@ void PaintBox(const ButtonPainter& painter) {
 
     if (painter.text.empty())
         return;
-    DrawLabel(painter, place, format);
+    DrawLabel(painter.context, painter.text, place, format, painter.Disabled());
     if (painter.Focused()) {
         InflateRect(&place, 1, 1);
         RECT focus{};
@@ -174,24 +166,14 @@ void PaintGroup(const ButtonPainter& painter) {
     area.bottom = area.top + metrics.tmHeight;
     RECT behind{area.left - kCaptionGap, area.top, area.right + kCaptionGap, area.bottom};
     FillRect(painter.context, &behind, brush);
-    DrawLabel(painter, area, format);
+    DrawLabel(painter.context, painter.text, area, format, painter.Disabled());
 }
 
 void AskOwner(const ButtonPainter& painter, UINT action) {
-    const HWND parent = GetParent(painter.button);
-    if (!parent)
-        return;
     ControlBrush(painter.button, painter.context, WM_CTLCOLORBTN);
-    DRAWITEMSTRUCT item{};
-    item.CtlType = ODT_BUTTON;
-    item.CtlID = static_cast<UINT>(GetDlgCtrlID(painter.button));
-    item.itemAction = action;
-    item.itemState = (painter.Pushed() ? ODS_SELECTED : 0U) | (painter.Focused() ? ODS_FOCUS : 0U) |
-                     (painter.Disabled() ? ODS_DISABLED : 0U);
-    item.hwndItem = painter.button;
-    item.hDC = painter.context;
-    item.rcItem = painter.client;
-    SendMessageA(parent, WM_DRAWITEM, item.CtlID, reinterpret_cast<LPARAM>(&item));
+    const UINT state = (painter.Pushed() ? ODS_SELECTED : 0U) | (painter.Focused() ? ODS_FOCUS : 0U) |
+                       (painter.Disabled() ? ODS_DISABLED : 0U);
+    AskToDraw({ODT_BUTTON, 0, 0, action, state, painter.button, painter.context, painter.client, 0});
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "user/controls/controls.h"
 #include "user/dialog/dialog.h"
 
+#include "user/frame/nonclient.h"
 #include "user/window/above.h"
 #include "user/window/class.h"
 
@@ -14,13 +15,14 @@ LRESULT NotifyParent(HWND control, UINT code) {
 }
 
 HBRUSH ControlBrush(HWND control, HDC context, UINT message) {
-    const auto dc = reinterpret_cast<WPARAM>(context);
-    const auto self = reinterpret_cast<LPARAM>(control);
-    const HWND parent = GetParent(control);
-    LRESULT brush = parent ? SendMessageA(parent, message, dc, self) : 0;
-    if (!brush)
-        brush = DefWindowProcA(parent ? parent : control, message, dc, self);
-    return reinterpret_cast<HBRUSH>(brush);
+    return AskForBrush(GetParent(control), message, context, control);
+}
+
+void AskToDraw(DRAWITEMSTRUCT item) {
+    if (const HWND parent = GetParent(item.hwndItem)) {
+        item.CtlID = static_cast<UINT>(GetDlgCtrlID(item.hwndItem));
+        SendMessageA(parent, WM_DRAWITEM, item.CtlID, reinterpret_cast<LPARAM>(&item));
+    }
 }
 
 std::string ControlText(HWND control) try {
@@ -31,8 +33,12 @@ std::string ControlText(HWND control) try {
     return {};
 }
 
-void DrawDisabledText(HDC context, const std::string& text, RECT rect, UINT format) {
+void DrawLabel(HDC context, const std::string& text, RECT rect, UINT format, bool disabled) {
     const int length = static_cast<int>(text.size());
+    if (!disabled) {
+        DrawTextA(context, text.c_str(), length, &rect, format);
+        return;
+    }
     const int mode = SetBkMode(context, TRANSPARENT);
     const COLORREF colour = SetTextColor(context, GetSysColor(COLOR_BTNHIGHLIGHT));
     RECT shadow{rect.left + 1, rect.top + 1, rect.right + 1, rect.bottom + 1};

@@ -5,7 +5,6 @@
 #include <windows.h>
 
 #include <memory>
-#include <new>
 #include <string>
 
 #include "user/model/window.h"
@@ -21,6 +20,8 @@ LRESULT CALLBACK ScrollBarProcedure(HWND window, UINT message, WPARAM wParam, LP
 
 /// What a control keeps in its window. Handlers hold it shared: it outlives the window while one of them runs.
 struct ControlData {
+    HFONT font = nullptr;  ///< WM_GETFONT
+
     virtual ~ControlData() = default;
 };
 
@@ -33,22 +34,32 @@ std::shared_ptr<Data> ControlOf(HWND handle) {
     if (!window)
         return nullptr;
     if (!window->control) {
-        try {
-            window->control = std::make_shared<Data>();
-        } catch (const std::bad_alloc&) {
-            return nullptr;
-        }
+        MemoryAllows([=] { window->control = std::make_shared<Data>(); });
     }
     return std::dynamic_pointer_cast<Data>(window->control);
 }
 
-/// What a control answers for which there is no memory: a new one is not made.
-inline LRESULT AnswerWithoutData(HWND control, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_NCCREATE) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return FALSE;
+/// The procedure of a kind of control: `handle` gets what not all of them answer alike. One for which there is no memory is
+/// not made.
+template <class Data>
+LRESULT AnswerAs(HWND control, UINT message, WPARAM wParam, LPARAM lParam,
+                 LRESULT (*handle)(HWND, Data&, UINT, WPARAM, LPARAM)) {
+    const auto data = ControlOf<Data>(control);
+    if (!data) {
+        return message == WM_NCCREATE ? Fail(ERROR_NOT_ENOUGH_MEMORY, FALSE)
+                                      : DefWindowProcA(control, message, wParam, lParam);
     }
-    return DefWindowProcA(control, message, wParam, lParam);
+    switch (message) {
+        case WM_ERASEBKGND:
+            return TRUE;
+        case WM_GETFONT:
+            return reinterpret_cast<LRESULT>(data->font);
+        case WM_SYSCOLORCHANGE:
+            InvalidateRect(control, nullptr, TRUE);
+            return 0;
+        default:
+            return handle(control, *data, message, wParam, lParam);
+    }
 }
 
 inline DWORD ControlStyle(HWND control) {
@@ -68,6 +79,9 @@ LRESULT PaintWith(HWND control, const Draw& draw) {
 /// WM_COMMAND to the parent.
 LRESULT NotifyParent(HWND control, UINT code);
 
+/// Asks the parent to draw a control or an item of one (WM_DRAWITEM), of which the identifier is filled in.
+void AskToDraw(DRAWITEMSTRUCT item);
+
 /// Asks the parent for the brush of a control's background (WM_CTLCOLOR...), which also sets the context's colours.
 HBRUSH ControlBrush(HWND control, HDC context, UINT message);
 
@@ -75,6 +89,21 @@ HBRUSH ControlBrush(HWND control, HDC context, UINT message);
 std::string ControlText(HWND control);
 
 /// Text that is disabled looks embossed: a highlight one pixel below and to the right of the shadow.
-void DrawDisabledText(HDC context, const std::string& text, RECT rect, UINT format);
+void DrawLabel(HDC context, const std::string& text, RECT rect, UINT format, bool disabled);
+
+/// Draws a control at once if it can be seen.
+template <class Draw>
+void DrawNow(HWND control, const Draw& draw) {
+    if (!IsWindowVisible(control))
+        return;
+    if (const HDC context = GetDC(control)) {
+        draw(context);
+        ReleaseDC(control, context);
+    }
+}
+
+inline bool IsHeld(int key) {
+    return GetKeyState(key) < 0;
+}
 
 }  // namespace platform::user

@@ -128,19 +128,16 @@ std::shared_ptr<BarState> ControlBar(HWND window) {
     return data ? data->bar : nullptr;
 }
 
-LRESULT CALLBACK ScrollBarProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    const auto data = ControlOf<ScrollBarData>(window);
-    if (!data)
-        return AnswerWithoutData(window, message, wParam, lParam);
+namespace {
+
+LRESULT HandleScrollBar(HWND window, ScrollBarData& data, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_GETDLGCODE:
             return DLGC_WANTARROWS;
-        case WM_ERASEBKGND:
-            return TRUE;
         case WM_PAINT:
             return PaintWith(window, [&](HDC context, const RECT&) { DrawBarControl(window, context); });
         case WM_ENABLE:
-            data->bar->disabled = !wParam;
+            data.bar->disabled = !wParam;
             Repaint(window);
             return 0;
         case WM_SETFOCUS:
@@ -155,16 +152,19 @@ LRESULT CALLBACK ScrollBarProcedure(HWND window, UINT message, WPARAM wParam, LP
             return 0;
         case WM_KEYDOWN:
         case WM_KEYUP:
-            OnKey(window, *data, wParam, message == WM_KEYDOWN);
+            OnKey(window, data, wParam, message == WM_KEYDOWN);
             return DefWindowProcA(window, message, wParam, lParam);
-        case WM_SYSCOLORCHANGE:
-            InvalidateRect(window, nullptr, TRUE);
-            return 0;
         default:
             if (message >= SBM_SETPOS && message <= SBM_GETSCROLLINFO)
-                return OnBarMessage(window, *data, message, wParam, lParam);
+                return OnBarMessage(window, data, message, wParam, lParam);
             return DefWindowProcA(window, message, wParam, lParam);
     }
+}
+
+}  // namespace
+
+LRESULT CALLBACK ScrollBarProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    return AnswerAs<ScrollBarData>(window, message, wParam, lParam, HandleScrollBar);
 }
 
 }  // namespace platform::user

@@ -32,26 +32,19 @@ void Notify(HWND control, UINT code) {
         NotifyParent(control, code);
 }
 
-}  // namespace
-
-LRESULT CALLBACK StaticProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    const auto data = ControlOf<StaticData>(window);
-    if (!data)
-        return AnswerWithoutData(window, message, wParam, lParam);
+LRESULT HandleStatic(HWND window, StaticData& data, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_NCCREATE:
             SinkEdge(window);
             return DefWindowProcA(window, message, wParam, lParam);
         case WM_CREATE:
-            return OnCreate(window, *data, reinterpret_cast<const CREATESTRUCTA*>(lParam));
+            return OnCreate(window, data, reinterpret_cast<const CREATESTRUCTA*>(lParam));
         case WM_GETDLGCODE:
             return DLGC_STATIC;
         case WM_NCHITTEST:
             return ControlStyle(window) & SS_NOTIFY ? HTCLIENT : HTTRANSPARENT;
-        case WM_ERASEBKGND:
-            return TRUE;
         case WM_PAINT:
-            return PaintWith(window, [&](HDC context, const RECT&) { PaintStatic(window, *data, context); });
+            return PaintWith(window, [&](HDC context, const RECT&) { PaintStatic(window, data, context); });
         case WM_ENABLE:
             Notify(window, wParam ? STN_ENABLE : STN_DISABLE);
             InvalidateRect(window, nullptr, TRUE);
@@ -59,12 +52,10 @@ LRESULT CALLBACK StaticProcedure(HWND window, UINT message, WPARAM wParam, LPARA
         case WM_SETTEXT:
             return OnSetText(window, wParam, lParam);
         case WM_SETFONT:
-            data->font = reinterpret_cast<HFONT>(wParam);
+            data.font = reinterpret_cast<HFONT>(wParam);
             if (LOWORD(lParam))
                 RedrawStatic(window);
             return 0;
-        case WM_GETFONT:
-            return reinterpret_cast<LRESULT>(data->font);
         case WM_LBUTTONDOWN:
             Notify(window, STN_CLICKED);
             return 0;
@@ -72,15 +63,18 @@ LRESULT CALLBACK StaticProcedure(HWND window, UINT message, WPARAM wParam, LPARA
             Notify(window, STN_DBLCLK);
             return 0;
         case STM_SETICON:
-            return SetStaticIcon(window, *data, reinterpret_cast<HICON>(wParam));
+            return SetStaticIcon(window, data, reinterpret_cast<HICON>(wParam));
         case STM_GETICON:
-            return reinterpret_cast<LRESULT>(StaticKind(ControlStyle(window)) == SS_ICON ? data->icon : nullptr);
-        case WM_SYSCOLORCHANGE:
-            InvalidateRect(window, nullptr, TRUE);
-            return 0;
+            return reinterpret_cast<LRESULT>(StaticKind(ControlStyle(window)) == SS_ICON ? data.icon : nullptr);
         default:
             return DefWindowProcA(window, message, wParam, lParam);
     }
+}
+
+}  // namespace
+
+LRESULT CALLBACK StaticProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    return AnswerAs<StaticData>(window, message, wParam, lParam, HandleStatic);
 }
 
 }  // namespace platform::user

@@ -7,7 +7,6 @@
 namespace platform::user {
 
 struct StaticData : ControlData {
-    HFONT font = nullptr;
     HICON icon = nullptr;
 };
 

@@ -47,12 +47,7 @@ struct StaticPainter {
         const std::string text = ControlText(control);
         if (text.empty())
             return;
-        const UINT format = TextFormat(style);
-        RECT place = client;
-        if (style & WS_DISABLED)
-            DrawDisabledText(context, text, place, format);
-        else
-            DrawTextA(context, text.c_str(), static_cast<int>(text.size()), &place, format);
+        DrawLabel(context, text, client, TextFormat(style), style & WS_DISABLED);
     }
 
     void Icon() const {
@@ -67,19 +62,11 @@ struct StaticPainter {
     }
 
     void AskOwner() const {
-        const HWND parent = GetParent(control);
-        if (!parent)
+        if (!GetParent(control))
             return;
         Erase();
-        DRAWITEMSTRUCT item{};
-        item.CtlType = ODT_STATIC;
-        item.CtlID = static_cast<UINT>(GetDlgCtrlID(control));
-        item.itemAction = ODA_DRAWENTIRE;
-        item.itemState = style & WS_DISABLED ? ODS_DISABLED : 0;
-        item.hwndItem = control;
-        item.hDC = context;
-        item.rcItem = client;
-        SendMessageA(parent, WM_DRAWITEM, item.CtlID, reinterpret_cast<LPARAM>(&item));
+        const UINT state = style & WS_DISABLED ? ODS_DISABLED : 0;
+        AskToDraw({ODT_STATIC, 0, 0, ODA_DRAWENTIRE, state, control, context, client, 0});
     }
 
     void Frame(int colour) const {

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <new>
 #include <optional>
+#include <string>
 
 #include "base/immortal.h"
 #include "kernel/text/encoding.h"
@@ -75,7 +76,8 @@ std::string WindowsLines(const std::string& text) {
 void FollowHost(UserHold& hold) {
     hold.unlock();
     std::string text;
-    const bool found = ReadHostClipboard(&text);
+    display::Display* host = Presenter();
+    const bool found = host != nullptr && host->ReadClipboard(&text);
     hold.lock();
     Clipboard& board = Board();
     if (!found || text == board.hostText) {
@@ -100,17 +102,14 @@ std::optional<std::string> TextForHost() {
 }
 
 bool IsOpenHere() {
-    if (Board().opener == CurrentThread()) {
-        return true;
-    }
-    SetLastError(ERROR_CLIPBOARD_NOT_OPEN);
-    return false;
+    return Board().opener == CurrentThread() || Fail(ERROR_CLIPBOARD_NOT_OPEN, false);
 }
 
 bool Close(UserHold& hold) {
     Clipboard& board = Board();
     std::optional<std::string> text;
-    if (board.changed && HasHostClipboard()) {
+    display::Display* host = Presenter();
+    if (board.changed && host != nullptr && host->Interactive()) {
         text = TextForHost();
     }
     board.changed = false;
@@ -119,7 +118,7 @@ bool Close(UserHold& hold) {
     if (text) {
         board.hostText = *text;
         hold.unlock();
-        WriteHostClipboard(*text);
+        host->WriteClipboard(*text);
         hold.lock();
     }
     return true;
@@ -129,7 +128,8 @@ bool Close(UserHold& hold) {
 
 bool ReadPrimarySelection(std::string* text) {
     std::string utf8;
-    if (!ReadHostSelection(&utf8)) {
+    display::Display* host = Presenter();
+    if (host == nullptr || !host->ReadSelection(&utf8)) {
         return false;
     }
     *text = kernel::AnsiFromUtf8(WindowsLines(utf8));
@@ -137,8 +137,9 @@ bool ReadPrimarySelection(std::string* text) {
 }
 
 void OfferPrimarySelection(const std::string& text) {
-    if (HasHostClipboard()) {
-        WriteHostSelection(HostLines(kernel::Utf8FromAnsi(text)));
+    display::Display* host = Presenter();
+    if (host != nullptr && host->Interactive()) {
+        host->WriteSelection(HostLines(kernel::Utf8FromAnsi(text)));
     }
 }
 
@@ -162,8 +163,7 @@ BOOL WINAPI OpenClipboard(HWND owner) try {
         return FALSE;
     }
     if (board.opener != nullptr && (board.opener != self || board.openWindow != owner)) {
-        SetLastError(ERROR_ACCESS_DENIED);
-        return FALSE;
+        return Fail(ERROR_ACCESS_DENIED, FALSE);
     }
     const bool again = board.opener != nullptr;
     board.opener = self;
@@ -174,16 +174,14 @@ BOOL WINAPI OpenClipboard(HWND owner) try {
     }
     return TRUE;
 } catch (const std::bad_alloc&) {
-    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-    return FALSE;
+    return Fail(ERROR_NOT_ENOUGH_MEMORY, FALSE);
 }
 
 BOOL WINAPI CloseClipboard(VOID) try {
     UserHold hold(UserLock());
     return IsOpenHere() && Close(hold);
 } catch (const std::bad_alloc&) {
-    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-    return FALSE;
+    return Fail(ERROR_NOT_ENOUGH_MEMORY, FALSE);
 }
 
 BOOL WINAPI EmptyClipboard(VOID) {
@@ -202,8 +200,7 @@ HANDLE WINAPI SetClipboardData(UINT format, HANDLE data) {
         return nullptr;
     }
     if (format != CF_TEXT || data == nullptr) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return nullptr;
+        return Fail(ERROR_INVALID_PARAMETER, nullptr);
     }
     if (data != board.text) {
         Clear();

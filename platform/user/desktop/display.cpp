@@ -152,36 +152,13 @@ void OpenDisplay() {
 
 void ShowCursorShape(unsigned idc) {
     shape.store(idc);
-    if (display::Display* shown = presenter.load(std::memory_order_acquire)) {
+    if (display::Display* shown = Presenter()) {
         shown->SetCursorShape(idc);
     }
 }
 
-bool HasHostClipboard() {
-    const display::Display* shown = presenter.load(std::memory_order_acquire);
-    return shown != nullptr && shown->Interactive();
-}
-
-bool ReadHostClipboard(std::string* utf8) {
-    display::Display* shown = presenter.load(std::memory_order_acquire);
-    return shown != nullptr && shown->ReadClipboard(utf8);
-}
-
-void WriteHostClipboard(const std::string& utf8) {
-    if (display::Display* shown = presenter.load(std::memory_order_acquire)) {
-        shown->WriteClipboard(utf8);
-    }
-}
-
-bool ReadHostSelection(std::string* utf8) {
-    display::Display* shown = presenter.load(std::memory_order_acquire);
-    return shown != nullptr && shown->ReadSelection(utf8);
-}
-
-void WriteHostSelection(const std::string& utf8) {
-    if (display::Display* shown = presenter.load(std::memory_order_acquire)) {
-        shown->WriteSelection(utf8);
-    }
+display::Display* Presenter() {
+    return presenter.load(std::memory_order_acquire);
 }
 
 }  // namespace platform::user

@@ -6,11 +6,11 @@
 #include "gdi/context/device_context.h"
 #include "gdi/context/syscolors.h"
 #include "gdi/surface/screen.h"
-#include "user/desktop/room.h"
 #include "user/message/queue.h"
 #include "user/model/window.h"
 #include "user/painting/painting.h"
 #include "user/resource/icons.h"
+#include "user/window/above.h"
 
 using namespace platform::user;
 
@@ -38,7 +38,6 @@ int WINAPI GetSystemMetrics(int index) {
         case SM_CYMENU:
             return 19;  // one pixel more than the bar itself: the line below it
         case SM_CYSMCAPTION:
-            return 16;
         case SM_CXVSCROLL:
         case SM_CYHSCROLL:
         case SM_CYVSCROLL:
@@ -66,8 +65,7 @@ LOGFONTA DialogFont(LONG weight) {
 
 BOOL NonClientMetrics(NONCLIENTMETRICSA* metrics) {
     if (metrics->cbSize != sizeof(NONCLIENTMETRICSA)) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return FALSE;
+        return Fail(ERROR_INVALID_PARAMETER, FALSE);
     }
     metrics->iBorderWidth = 1;
     metrics->iScrollWidth = metrics->iScrollHeight = 16;
@@ -84,8 +82,7 @@ BOOL NonClientMetrics(NONCLIENTMETRICSA* metrics) {
 
 BOOL WINAPI SystemParametersInfoA(UINT action, UINT, PVOID data, UINT) {
     if (!data) {
-        SetLastError(ERROR_NOACCESS);
-        return FALSE;
+        return Fail(ERROR_NOACCESS, FALSE);
     }
     switch (action) {
         case SPI_GETWORKAREA:
@@ -94,8 +91,7 @@ BOOL WINAPI SystemParametersInfoA(UINT action, UINT, PVOID data, UINT) {
         case SPI_GETNONCLIENTMETRICS:
             return NonClientMetrics(static_cast<NONCLIENTMETRICSA*>(data));
         default:
-            SetLastError(ERROR_INVALID_PARAMETER);
-            return FALSE;
+            return Fail(ERROR_INVALID_PARAMETER, FALSE);
     }
 }
 
@@ -124,7 +120,6 @@ DWORD WINAPI GetGuiResources(HANDLE, DWORD flags) {
             Desktop();
             return static_cast<DWORD>(platform::base::CountHandles(platform::base::HandleKind::Window)) - 2;
         default:
-            SetLastError(ERROR_INVALID_PARAMETER);
-            return 0;
+            return Fail(ERROR_INVALID_PARAMETER, 0);
     }
 }

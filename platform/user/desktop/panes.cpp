@@ -4,7 +4,6 @@
 
 #include "base/handle.h"
 #include "kernel/text/encoding.h"
-#include "user/desktop/errand.h"
 #include "user/input/input.h"
 #include "user/message/queue.h"
 #include "user/painting/painting.h"
@@ -53,21 +52,6 @@ bool IsPopup(const Window* window) {
            (window->owner != nullptr || (window->exStyle & (WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE)) != 0);
 }
 
-bool Unpainted(const Window* window) {
-    if ((window->style & WS_VISIBLE) == 0) {
-        return false;
-    }
-    if (NeedsPaint(window)) {
-        return true;
-    }
-    for (const Window* child = window->firstChild; child != nullptr; child = child->next) {
-        if (Unpainted(child)) {
-            return true;
-        }
-    }
-    return false;
-}
-
 display::Pane Describe(const Window* window) {
     const RECT& rect = window->windowRect;
     display::Pane pane;
@@ -81,7 +65,7 @@ display::Pane Describe(const Window* window) {
     pane.minimises = (window->style & WS_MINIMIZEBOX) != 0;
     pane.sizes = (window->style & WS_THICKFRAME) != 0;
     pane.topmost = (window->exStyle & WS_EX_TOPMOST) != 0;
-    pane.painted = window->thread == nullptr || window->thread->paintWindows == 0 || !Unpainted(window);
+    pane.painted = window->thread == nullptr || window->thread->paintWindows == 0 || !SubtreeNeedsPaint(window);
     if (!pane.popup) {
         pane.title = kernel::Utf8FromAnsi(window->text);
         pane.icon = reinterpret_cast<std::uintptr_t>(window->windowClass->icon);

@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "gdi/surface/screen.h"
-#include "user/desktop/errand.h"
 #include "user/message/queue.h"
 #include "user/painting/painting.h"
+#include "user/window/above.h"
 #include "user/window/position.h"
 
 namespace platform::user {

@@ -8,9 +8,6 @@
 
 namespace platform::user {
 
-/// @returns what the host's panels leave of the screen; all of it where there is no host.
-RECT WorkArea();
-
 /// The room at the start. The screen is not there yet.
 void SetFirstRoom(const display::Room& room);
 

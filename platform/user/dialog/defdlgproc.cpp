@@ -1,24 +1,14 @@
 // The dialog class: what a dialog does with what its dialog procedure leaves to it.
 #include "user/dialog/dialog.h"
+#include "user/frame/nonclient.h"
 
 namespace platform::user {
 namespace {
 
 /// Messages whose answer is the dialog procedure's own result; for all others that is DWLP_MSGRESULT.
 bool AnswersDirectly(UINT message) {
-    switch (message) {
-        case WM_CTLCOLOREDIT:
-        case WM_CTLCOLORLISTBOX:
-        case WM_CTLCOLORBTN:
-        case WM_CTLCOLORDLG:
-        case WM_CTLCOLORSCROLLBAR:
-        case WM_CTLCOLORSTATIC:
-        case WM_VKEYTOITEM:
-        case WM_INITDIALOG:
-            return true;
-        default:
-            return false;
-    }
+    const bool asksForBrush = message >= WM_CTLCOLOREDIT && message <= WM_CTLCOLORSTATIC;
+    return asksForBrush || message == WM_VKEYTOITEM || message == WM_INITDIALOG;
 }
 
 void SaveFocus(HWND dialog, DialogState& state) {
@@ -69,11 +59,7 @@ void OnSetFocus(HWND dialog, DialogState& state) {
 }
 
 void EraseDialog(HWND dialog, HDC context) {
-    const auto dc = reinterpret_cast<WPARAM>(context);
-    const auto self = reinterpret_cast<LPARAM>(dialog);
-    auto brush = reinterpret_cast<HBRUSH>(SendMessageA(dialog, WM_CTLCOLORDLG, dc, self));
-    if (!brush)
-        brush = reinterpret_cast<HBRUSH>(DefWindowProcA(dialog, WM_CTLCOLORDLG, dc, self));
+    const HBRUSH brush = AskForBrush(dialog, WM_CTLCOLORDLG, context, dialog);
     RECT client{};
     GetClientRect(dialog, &client);
     FillRect(context, &client, brush);

@@ -25,11 +25,8 @@ std::shared_ptr<DialogState> NeedDialogState(HWND handle) {
     if (!window)
         return nullptr;
     if (!window->dialog && !window->destroying) {
-        try {
-            window->dialog = std::make_shared<DialogState>();
-        } catch (const std::bad_alloc&) {
+        if (!MemoryAllows([=] { window->dialog = std::make_shared<DialogState>(); }))
             SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        }
     }
     return window->dialog;
 }
@@ -120,9 +117,7 @@ class ModalLoop {
 /// What is disabled for an owner that was named: the first window at or above it that is no child.
 HWND TopLevelOf(HWND owner) {
     const UserGuard guard(UserLock());
-    Window* window = owner ? FindWindowObject(owner) : nullptr;
-    const Window* top = window ? TopLevel(window) : nullptr;
-    return top ? top->handle : nullptr;
+    return HandleOf(TopLevel(owner ? FindWindowObject(owner) : nullptr));
 }
 
 }  // namespace
@@ -136,8 +131,7 @@ void ShowDialog(HWND dialog) {
 INT_PTR RunDialog(HINSTANCE instance, const DialogTemplate& dialogTemplate, HWND owner, DLGPROC procedure,
                   LPARAM initParam) {
     if (owner && !IsWindow(owner)) {
-        SetLastError(ERROR_INVALID_WINDOW_HANDLE);
-        return 0;
+        return Fail(ERROR_INVALID_WINDOW_HANDLE, 0);
     }
     if (owner == GetDesktopWindow())
         owner = nullptr;
@@ -154,8 +148,7 @@ INT_PTR RunDialog(HINSTANCE instance, const DialogTemplate& dialogTemplate, HWND
         const DWORD error = GetLastError();
         if (disabled && IsWindow(disabled))
             EnableWindow(disabled, TRUE);
-        SetLastError(error);
-        return -1;
+        return Fail(error, -1);
     }
     ModalLoop(dialog, root, state).Run();
     ReleaseOwner(*state);
@@ -179,19 +172,16 @@ Result WithTemplate(HINSTANCE instance, LPCSTR name, LPCDLGTEMPLATEA memory, Res
         return LoadDialogTemplate(instance, name, parsed) ? action(parsed) : neutral;
     }
     if (!ParseDialogTemplate(memory, kLargestTemplate, parsed)) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return neutral;
+        return Fail(ERROR_INVALID_PARAMETER, neutral);
     }
     return action(parsed);
 } catch (const std::bad_alloc&) {
-    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-    return neutral;
+    return Fail(ERROR_NOT_ENOUGH_MEMORY, neutral);
 }
 
 HWND Create(HINSTANCE instance, LPCSTR name, LPCDLGTEMPLATEA memory, HWND owner, DLGPROC procedure, LPARAM initParam) {
     if (owner && !IsWindow(owner)) {
-        SetLastError(ERROR_INVALID_WINDOW_HANDLE);
-        return nullptr;
+        return Fail(ERROR_INVALID_WINDOW_HANDLE, nullptr);
     }
     return WithTemplate(instance, name, memory, HWND{}, [&](const DialogTemplate& parsed) {
         return CreateDialogFromTemplate(instance, parsed, owner, procedure, initParam, false, nullptr);
@@ -229,8 +219,7 @@ WINUSERAPI INT_PTR WINAPI DialogBoxIndirectParamA(HINSTANCE instance, LPCDLGTEMP
 WINUSERAPI BOOL WINAPI EndDialog(HWND dialog, INT_PTR result) {
     const auto state = FindDialogState(dialog);
     if (!state) {
-        SetLastError(ERROR_INVALID_WINDOW_HANDLE);
-        return FALSE;
+        return Fail(ERROR_INVALID_WINDOW_HANDLE, FALSE);
     }
     const HWND owner = GetWindow(dialog, GW_OWNER);
     const bool wasActive = GetActiveWindow() == dialog;

@@ -54,8 +54,7 @@ struct DialogState {
     HWND savedFocus = nullptr;
     int defaultId = 0;
     bool hasDefault = false;
-    int baseX = 0;  ///< width of the base unit in pixels: 4 horizontal dialog units
-    int baseY = 0;  ///< height of the base unit: 8 vertical dialog units
+    SIZE base{};  ///< the base unit in pixels: 4 horizontal dialog units, and 8 vertical ones
     bool modal = false;
     bool ended = false;
     INT_PTR result = 0;
@@ -85,7 +84,7 @@ INT_PTR RunDialog(HINSTANCE instance, const DialogTemplate& dialogTemplate, HWND
 // --- units (dialog_units.cpp)
 
 /// Base units of a font as documented: average width of the letters, height of the face.
-void FontBaseUnits(HFONT font, int& baseX, int& baseY);
+SIZE FontBaseUnits(HFONT font);
 
 // --- focus and default buttons (dialog_focus.cpp)
 
@@ -106,6 +105,16 @@ void SetDefaultId(HWND dialog, int id);
 
 /// Where a default focus would go: the first tab stop, else the first control of the first group.
 HWND FirstFocus(HWND dialog);
+
+// --- controls (dialog_order.cpp)
+
+/// @returns whether a control is visible and enabled by its own style: the dialog itself may still be hidden.
+bool IsReachable(HWND control);
+/// The controls in the order of groups. It goes on through nested pages, whose own WS_GROUP says nothing as long as what is on
+/// them can be reached.
+void CollectMembers(HWND parent, std::vector<HWND>& members);
+/// @returns what a window answers for its text. Throws bad_alloc.
+std::string TextOf(HWND window);
 
 LRESULT CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "user/dialog/dialog.h"
+#include "user/window/above.h"
 
 namespace platform::user {
 namespace {
@@ -20,12 +21,6 @@ HFONT MakeFont(const DialogTemplate& dialogTemplate) {
     const std::string& face = dialogTemplate.face;
     face.copy(font.lfFaceName, std::min(face.size(), sizeof font.lfFaceName - 1));
     return CreateFontIndirectA(&font);
-}
-
-RECT WorkArea() {
-    RECT area{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
-    SystemParametersInfoA(SPI_GETWORKAREA, 0, &area, 0);
-    return area;
 }
 
 DWORD WindowStyle(const DialogTemplate& dialogTemplate) {
@@ -47,10 +42,9 @@ DWORD WindowExStyle(const DialogTemplate& dialogTemplate) {
 }
 
 /// Where the dialog's window goes. Top-level dialogs are kept within the work area as far as they fit.
-POINT PlaceDialog(const DialogTemplate& dialogTemplate, HWND owner, DWORD style, int baseX, int baseY, int width,
-                  int height) {
+POINT PlaceDialog(const DialogTemplate& dialogTemplate, HWND owner, DWORD style, SIZE base, int width, int height) {
     const RECT area = WorkArea();
-    POINT place{MulDiv(dialogTemplate.x, baseX, 4), MulDiv(dialogTemplate.y, baseY, 8)};
+    POINT place{MulDiv(dialogTemplate.x, base.cx, 4), MulDiv(dialogTemplate.y, base.cy, 8)};
     const bool child = (style & WS_CHILD) != 0;
     if (dialogTemplate.style & DS_CENTER) {
         place = {(area.left + area.right) / 2 - width / 2, (area.top + area.bottom) / 2 - height / 2};
@@ -64,7 +58,7 @@ POINT PlaceDialog(const DialogTemplate& dialogTemplate, HWND owner, DWORD style,
     return place;
 }
 
-HWND CreateItem(HWND dialog, HINSTANCE instance, const DialogItem& item, int baseX, int baseY) {
+HWND CreateItem(HWND dialog, HINSTANCE instance, const DialogItem& item, SIZE base) {
     DWORD style = (item.style & ~DWORD{WS_POPUP}) | WS_CHILD;
     DWORD exStyle = item.exStyle | WS_EX_NOPARENTNOTIFY;
     // Dialogs look three-dimensional: a control's border is a sunken edge.
@@ -72,8 +66,8 @@ HWND CreateItem(HWND dialog, HINSTANCE instance, const DialogItem& item, int bas
         style &= ~DWORD{WS_BORDER};
         exStyle |= WS_EX_CLIENTEDGE;
     }
-    return CreateWindowExA(exStyle, item.className.c_str(), item.text.c_str(), style, MulDiv(item.x, baseX, 4),
-                           MulDiv(item.y, baseY, 8), MulDiv(item.width, baseX, 4), MulDiv(item.height, baseY, 8),
+    return CreateWindowExA(exStyle, item.className.c_str(), item.text.c_str(), style, MulDiv(item.x, base.cx, 4),
+                           MulDiv(item.y, base.cy, 8), MulDiv(item.width, base.cx, 4), MulDiv(item.height, base.cy, 8),
                            dialog, reinterpret_cast<HMENU>(static_cast<LONG_PTR>(item.id)), instance, nullptr);
 }
 
@@ -81,7 +75,7 @@ HWND CreateItem(HWND dialog, HINSTANCE instance, const DialogItem& item, int bas
 bool CreateItems(HWND dialog, HINSTANCE instance, const DialogTemplate& dialogTemplate, DialogState& state) {
     HWND defaultButton = nullptr;
     for (const DialogItem& item : dialogTemplate.items) {
-        const HWND control = CreateItem(dialog, instance, item, state.baseX, state.baseY);
+        const HWND control = CreateItem(dialog, instance, item, state.base);
         if (!control || !IsWindow(dialog))
             return false;
         if (state.ownFont)
@@ -97,14 +91,14 @@ bool CreateItems(HWND dialog, HINSTANCE instance, const DialogTemplate& dialogTe
     return true;
 }
 
-HWND CreateFrame(HINSTANCE instance, const DialogTemplate& dialogTemplate, HWND owner, int baseX, int baseY) {
+HWND CreateFrame(HINSTANCE instance, const DialogTemplate& dialogTemplate, HWND owner, SIZE base) {
     const DWORD style = WindowStyle(dialogTemplate);
     const DWORD exStyle = WindowExStyle(dialogTemplate);
-    RECT rect{0, 0, MulDiv(dialogTemplate.width, baseX, 4), MulDiv(dialogTemplate.height, baseY, 8)};
+    RECT rect{0, 0, MulDiv(dialogTemplate.width, base.cx, 4), MulDiv(dialogTemplate.height, base.cy, 8)};
     AdjustWindowRectEx(&rect, style, FALSE, exStyle);
     const int width = rect.right - rect.left;
     const int height = rect.bottom - rect.top;
-    const POINT place = PlaceDialog(dialogTemplate, owner, style, baseX, baseY, width, height);
+    const POINT place = PlaceDialog(dialogTemplate, owner, style, base, width, height);
     return CreateWindowExA(exStyle, WC_DIALOG, dialogTemplate.title.c_str(), style, place.x, place.y, width, height,
                            owner, nullptr, instance, nullptr);
 }
@@ -133,9 +127,9 @@ HWND CreateDialogFromTemplate(HINSTANCE instance, const DialogTemplate& dialogTe
     DialogState measured;
     if (dialogTemplate.hasFont)
         measured.font = measured.ownFont = MakeFont(dialogTemplate);
-    FontBaseUnits(measured.font, measured.baseX, measured.baseY);
+    measured.base = FontBaseUnits(measured.font);
 
-    const HWND dialog = CreateFrame(instance, dialogTemplate, owner, measured.baseX, measured.baseY);
+    const HWND dialog = CreateFrame(instance, dialogTemplate, owner, measured.base);
     if (!dialog)
         return nullptr;
     const auto state = NeedDialogState(dialog);
@@ -145,8 +139,7 @@ HWND CreateDialogFromTemplate(HINSTANCE instance, const DialogTemplate& dialogTe
     }
     std::swap(state->font, measured.font);
     std::swap(state->ownFont, measured.ownFont);
-    state->baseX = measured.baseX;
-    state->baseY = measured.baseY;
+    state->base = measured.base;
     state->disabledOwner = disabledOwner;
     state->modal = modal;
     SetWindowLongPtrA(dialog, DWLP_DLGPROC, reinterpret_cast<LONG_PTR>(procedure));
@@ -157,8 +150,7 @@ HWND CreateDialogFromTemplate(HINSTANCE instance, const DialogTemplate& dialogTe
         const DWORD error = GetLastError();
         if (IsWindow(dialog))
             DestroyWindow(dialog);
-        SetLastError(error);
-        return nullptr;
+        return Fail(error, nullptr);
     }
     Initialise(dialog, dialogTemplate, initParam);
     if (!IsWindow(dialog))

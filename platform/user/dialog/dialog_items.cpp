@@ -1,7 +1,8 @@
 // Controls of a dialog by their identifiers.
-#include <climits>
-#include <cstdio>
+#include <charconv>
 #include <cstring>
+#include <string>
+#include <system_error>
 #include <vector>
 
 #include "user/dialog/dialog.h"
@@ -17,8 +18,7 @@ WINUSERAPI HWND WINAPI GetDlgItem(HWND dialog, int id) {
         if (static_cast<int>(child->id) == id)
             return child->handle;
     }
-    SetLastError(ERROR_CONTROL_ID_NOT_FOUND);
-    return nullptr;
+    return Fail(ERROR_CONTROL_ID_NOT_FOUND, nullptr);
 }
 
 WINUSERAPI int WINAPI GetDlgCtrlID(HWND control) {
@@ -46,34 +46,22 @@ WINUSERAPI UINT WINAPI GetDlgItemTextA(HWND dialog, int id, LPSTR text, int size
 }
 
 WINUSERAPI BOOL WINAPI SetDlgItemInt(HWND dialog, int id, UINT value, BOOL isSigned) {
-    char text[16];
-    if (isSigned)
-        std::snprintf(text, sizeof text, "%d", static_cast<int>(value));
-    else
-        std::snprintf(text, sizeof text, "%u", value);
-    return SetDlgItemTextA(dialog, id, text);
+    const std::string text = isSigned ? std::to_string(static_cast<int>(value)) : std::to_string(value);
+    return SetDlgItemTextA(dialog, id, text.c_str());
 }
 
 namespace {
 
 /// Spaces, a minus where the number may have one, digits up to the first character that is none.
 bool ReadNumber(const char* text, bool isSigned, UINT& value) {
-    while (*text == ' ' || *text == '\t')
-        ++text;
-    const bool negative = isSigned && *text == '-';
-    if (negative)
-        ++text;
-    if (*text < '0' || *text > '9')
-        return false;
-    const unsigned long long limit = !isSigned ? UINT_MAX : (negative ? 1ULL + INT_MAX : INT_MAX);
-    unsigned long long number = 0;
-    for (; *text >= '0' && *text <= '9'; ++text) {
-        number = number * 10 + static_cast<unsigned>(*text - '0');
-        if (number > limit)
-            return false;
-    }
-    value = negative ? 0U - static_cast<UINT>(number) : static_cast<UINT>(number);
-    return true;
+    text += std::strspn(text, " \t");
+    const char* end = text + std::strlen(text);
+    if (!isSigned)
+        return std::from_chars(text, end, value).ec == std::errc();
+    int number = 0;
+    const bool read = std::from_chars(text, end, number).ec == std::errc();
+    value = static_cast<UINT>(number);
+    return read;
 }
 
 }  // namespace
@@ -104,8 +92,7 @@ WINUSERAPI UINT WINAPI IsDlgButtonChecked(HWND dialog, int id) {
 
 WINUSERAPI BOOL WINAPI CheckRadioButton(HWND dialog, int first, int last, int check) {
     if (!IsWindow(dialog)) {
-        SetLastError(ERROR_INVALID_WINDOW_HANDLE);
-        return FALSE;
+        return Fail(ERROR_INVALID_WINDOW_HANDLE, FALSE);
     }
     for (HWND child = GetWindow(dialog, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
         const int id = GetDlgCtrlID(child);

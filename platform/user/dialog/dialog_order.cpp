@@ -7,6 +7,31 @@
 namespace platform::user {
 namespace {
 
+DWORD StyleOfItem(HWND window) {
+    return static_cast<DWORD>(GetWindowLongA(window, GWL_STYLE));
+}
+
+bool IsContainer(HWND window) {
+    return (GetWindowLongA(window, GWL_EXSTYLE) & WS_EX_CONTROLPARENT) != 0;
+}
+
+}  // namespace
+
+bool IsReachable(HWND window) {
+    return (StyleOfItem(window) & (WS_VISIBLE | WS_DISABLED)) == WS_VISIBLE;
+}
+
+void CollectMembers(HWND parent, std::vector<HWND>& members) {
+    for (HWND child = GetWindow(parent, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+        if (IsContainer(child) && IsReachable(child))
+            CollectMembers(child, members);
+        else
+            members.push_back(child);
+    }
+}
+
+namespace {
+
 struct Stop {
     HWND window;
     bool eligible;
@@ -15,19 +40,6 @@ struct Stop {
         return window == other;
     }
 };
-
-DWORD StyleOfItem(HWND window) {
-    return static_cast<DWORD>(GetWindowLongA(window, GWL_STYLE));
-}
-
-/// Visible and enabled by its own style: the dialog itself may still be hidden.
-bool IsReachable(HWND window) {
-    return (StyleOfItem(window) & (WS_VISIBLE | WS_DISABLED)) == WS_VISIBLE;
-}
-
-bool IsContainer(HWND window) {
-    return (GetWindowLongA(window, GWL_EXSTYLE) & WS_EX_CONTROLPARENT) != 0;
-}
 
 void CollectStops(HWND parent, std::vector<Stop>& stops) {
     for (HWND child = GetWindow(parent, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
@@ -65,17 +77,6 @@ HWND NextTabStop(HWND dialog, HWND control, bool previous) {
     return control == dialog ? nullptr : control;
 }
 
-/// The controls in the order of groups. It goes on through nested pages, whose own WS_GROUP says nothing as long as what is on
-/// them can be reached.
-void CollectMembers(HWND parent, std::vector<HWND>& members) {
-    for (HWND child = GetWindow(parent, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
-        if (IsContainer(child) && IsReachable(child))
-            CollectMembers(child, members);
-        else
-            members.push_back(child);
-    }
-}
-
 HWND NextInGroup(HWND dialog, HWND control, bool previous) {
     std::vector<HWND> members;
     CollectMembers(dialog, members);
@@ -109,12 +110,10 @@ HWND NextInGroup(HWND dialog, HWND control, bool previous) {
 
 bool CheckArguments(HWND dialog, HWND control) {
     if (!IsWindow(dialog) || (control && !IsWindow(control))) {
-        SetLastError(ERROR_INVALID_WINDOW_HANDLE);
-        return false;
+        return Fail(ERROR_INVALID_WINDOW_HANDLE, false);
     }
     if (control && control != dialog && !IsChild(dialog, control)) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return false;
+        return Fail(ERROR_INVALID_PARAMETER, false);
     }
     return true;
 }

@@ -4,6 +4,7 @@
 #include <new>
 
 #include "kernel/modules/resource.h"
+#include "kernel/text/encoding.h"
 
 namespace platform::user {
 namespace {
@@ -27,12 +28,10 @@ class Reader {
     template <class Value>
     Value Take() {
         Value value{};
-        if (failed_ || sizeof(Value) > size_ - position_) {
-            failed_ = true;
-            return Value{};
-        }
-        std::memcpy(&value, data_ + position_, sizeof(Value));
-        position_ += sizeof(Value);
+        const BYTE* from = data_ + position_;
+        Skip(sizeof value);
+        if (!failed_)
+            std::memcpy(&value, from, sizeof value);
         return value;
     }
 
@@ -51,11 +50,7 @@ class Reader {
     }
 
     void AlignToDword() {
-        const size_t aligned = (position_ + 3) & ~size_t{3};
-        if (aligned > size_)
-            failed_ = true;
-        else
-            position_ = aligned;
+        Skip((4 - position_ % 4) % 4);
     }
 
     bool Failed() const {
@@ -71,14 +66,7 @@ class Reader {
             }
             wide.push_back(static_cast<char16_t>(unit));
         }
-        if (wide.empty() || failed_)
-            return {};
-        const int length = static_cast<int>(wide.size());
-        const auto* characters = reinterpret_cast<const WCHAR*>(wide.data());
-        const int bytes = WideCharToMultiByte(CP_ACP, 0, characters, length, nullptr, 0, nullptr, nullptr);
-        std::string text(static_cast<size_t>(bytes > 0 ? bytes : 0), '\0');
-        WideCharToMultiByte(CP_ACP, 0, characters, length, text.data(), bytes, nullptr, nullptr);
-        return text;
+        return failed_ ? std::string() : kernel::AnsiFromWide(wide);
     }
 
     /// The three forms of a menu, class or title: nothing (0), a number (0xFFFF and the number), a string.
@@ -191,10 +179,7 @@ bool LoadDialogTemplate(HINSTANCE instance, LPCSTR name, DialogTemplate& result)
     const kernel::Bytes resource = kernel::FindResourceBytes(instance, name, RT_DIALOG);
     if (resource.empty())
         return false;
-    if (ParseDialogTemplate(resource.data(), resource.size(), result))
-        return true;
-    SetLastError(ERROR_INVALID_DATA);
-    return false;
+    return ParseDialogTemplate(resource.data(), resource.size(), result) || Fail(ERROR_INVALID_DATA, false);
 }
 
 }  // namespace platform::user

@@ -6,17 +6,20 @@
 #include "user/frame/mnemonic.h"
 
 namespace platform::user {
+
+std::string TextOf(HWND window) {
+    const int length = GetWindowTextLengthA(window);
+    std::string text(static_cast<size_t>(length > 0 ? length : 0) + 1, '\0');
+    text.resize(static_cast<size_t>(GetWindowTextA(window, text.data(), static_cast<int>(text.size()))));
+    return text;
+}
+
 namespace {
 
 UINT CodeFor(const MSG& message) {
     MSG copy = message;
     return static_cast<UINT>(
         SendMessageA(message.hwnd, WM_GETDLGCODE, message.wParam, reinterpret_cast<LPARAM>(&copy)));
-}
-
-void Translate(const MSG& message) {
-    TranslateMessage(&message);
-    DispatchMessageA(&message);
 }
 
 // --- arrows
@@ -62,13 +65,6 @@ void PressDefault(HWND dialog, HWND focus) {
 
 // --- mnemonics
 
-std::string CaptionOf(HWND window) {
-    const int length = GetWindowTextLengthA(window);
-    std::string text(static_cast<size_t>(length > 0 ? length : 0) + 1, '\0');
-    text.resize(static_cast<size_t>(GetWindowTextA(window, text.data(), static_cast<int>(text.size()))));
-    return text;
-}
-
 bool HasMnemonic(HWND control, char wanted) {
     const UINT code = DialogCode(control);
     // Where characters are typed, the text is the user's and no label.
@@ -80,25 +76,15 @@ bool HasMnemonic(HWND control, char wanted) {
         if (lstrcmpiA(name, "static") == 0 && (GetWindowLongA(control, GWL_STYLE) & SS_NOPREFIX))
             return false;
     }
-    return MnemonicOf(CaptionOf(control)) == wanted;
-}
-
-void CollectReachable(HWND parent, std::vector<HWND>& controls) {
-    for (HWND child = GetWindow(parent, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
-        if ((GetWindowLongA(child, GWL_STYLE) & (WS_VISIBLE | WS_DISABLED)) != WS_VISIBLE)
-            continue;
-        if (GetWindowLongA(child, GWL_EXSTYLE) & WS_EX_CONTROLPARENT)
-            CollectReachable(child, controls);
-        else
-            controls.push_back(child);
-    }
+    return MnemonicOf(TextOf(control)) == wanted;
 }
 
 /// Focuses the next control with this mnemonic after the focus, and clicks it when it is a button that has no rival.
 bool FollowMnemonic(HWND dialog, HWND focus, char character) {
     const char wanted = Capital(character);
     std::vector<HWND> controls;
-    CollectReachable(dialog, controls);
+    CollectMembers(dialog, controls);
+    std::erase_if(controls, [](HWND control) { return !IsReachable(control); });
     const size_t count = controls.size();
     size_t start = count - 1;
     for (size_t index = 0; index < count; ++index) {
@@ -197,8 +183,10 @@ WINUSERAPI BOOL WINAPI IsDialogMessageA(HWND dialog, MSG* message) try {
         return FALSE;
     if (message->hwnd != dialog && !IsChild(dialog, message->hwnd))
         return FALSE;
-    if (!HandleKey(dialog, *message))
-        Translate(*message);
+    if (!HandleKey(dialog, *message)) {
+        TranslateMessage(message);
+        DispatchMessageA(message);
+    }
     return TRUE;
 } catch (const std::bad_alloc&) {
     return FALSE;

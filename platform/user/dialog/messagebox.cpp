@@ -1,10 +1,12 @@
 // Message boxes: a dialog template laid out around the text, in memory.
 #include <algorithm>
+#include <iterator>
 #include <new>
 #include <string>
 #include <vector>
 
 #include "user/dialog/dialog.h"
+#include "user/model/window.h"
 
 namespace platform::user {
 namespace {
@@ -36,8 +38,6 @@ const ButtonSet kSets[] = {
     {2, {{IDYES, "&Yes"}, {IDNO, "&No"}}},
     {2, {{IDRETRY, "&Retry"}, {IDCANCEL, "Cancel"}}},
 };
-constexpr UINT kSetCount = sizeof kSets / sizeof kSets[0];
-
 /// What the dialog procedure needs to know of its box.
 struct Box {
     int defaultId;
@@ -61,11 +61,7 @@ HICON IconOf(UINT type) {
 }
 
 bool HasCancel(const ButtonSet& set) {
-    for (int index = 0; index < set.count; ++index) {
-        if (set.buttons[index].id == IDCANCEL)
-            return true;
-    }
-    return set.count == 1;
+    return set.count == 1 || std::ranges::any_of(set.buttons, [](const auto& each) { return each.id == IDCANCEL; });
 }
 
 INT_PTR CALLBACK BoxProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -95,33 +91,24 @@ INT_PTR CALLBACK BoxProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM l
 }
 
 /// Pixels as dialog units, rounded up.
-SIZE ToUnits(LONG width, LONG height, int baseX, int baseY) {
-    return {(width * 4 + baseX - 1) / baseX, (height * 8 + baseY - 1) / baseY};
+SIZE ToUnits(LONG width, LONG height, SIZE base) {
+    return {(width * 4 + base.cx - 1) / base.cx, (height * 8 + base.cy - 1) / base.cy};
 }
 
 /// A text's size in dialog units when broken at a width of 5/8 of the screen.
-SIZE MeasureText(LPCSTR text, HFONT font, int baseX, int baseY) {
+SIZE MeasureText(LPCSTR text, HFONT font, SIZE base) {
     const HDC screen = GetDC(nullptr);
     const HGDIOBJ previous = SelectObject(screen, font);
     RECT rect{0, 0, GetSystemMetrics(SM_CXSCREEN) * 5 / 8, 0};
     DrawTextA(screen, text, -1, &rect, DT_CALCRECT | DT_WORDBREAK | DT_EXPANDTABS | DT_NOPREFIX);
     SelectObject(screen, previous);
     ReleaseDC(nullptr, screen);
-    return ToUnits(rect.right, rect.bottom, baseX, baseY);
+    return ToUnits(rect.right, rect.bottom, base);
 }
 
 DialogItem MakeItem(const char* className, const char* text, DWORD style, int id, short x, short y, short width,
                     short height) {
-    DialogItem item;
-    item.className = className;
-    item.text = text;
-    item.style = style | WS_CHILD | WS_VISIBLE;
-    item.id = id;
-    item.x = x;
-    item.y = y;
-    item.width = width;
-    item.height = height;
-    return item;
+    return {style | WS_CHILD | WS_VISIBLE, 0, x, y, width, height, id, className, text};
 }
 
 DialogTemplate LayOut(LPCSTR text, LPCSTR caption, const ButtonSet& set, bool hasIcon) {
@@ -136,16 +123,13 @@ DialogTemplate LayOut(LPCSTR text, LPCSTR caption, const ButtonSet& set, bool ha
 
     const HFONT font =
         CreateFontA(-MulDiv(8, 96, 72), 0, 0, 0, FW_DONTCARE, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, box.face.c_str());
-    int baseX = 0;
-    int baseY = 0;
-    FontBaseUnits(font, baseX, baseY);
-    const SIZE size = MeasureText(text, font, baseX, baseY);
+    const SIZE base = FontBaseUnits(font);
+    const SIZE size = MeasureText(text, font, base);
     DeleteObject(font);
 
     const auto textWidth = static_cast<short>(std::min<LONG>(size.cx, 0x4000));
     const auto textHeight = static_cast<short>(std::min<LONG>(size.cy, 0x4000));
-    const SIZE icon =
-        hasIcon ? ToUnits(GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON), baseX, baseY) : SIZE{0, 0};
+    const SIZE icon = hasIcon ? ToUnits(GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON), base) : SIZE{0, 0};
     const auto iconWidth = static_cast<short>(icon.cx);
     const auto textLeft = static_cast<short>(kMargin + (hasIcon ? iconWidth + kIconGap : 0));
     // A text lower than the icon stands in the middle beside it.
@@ -172,9 +156,8 @@ DialogTemplate LayOut(LPCSTR text, LPCSTR caption, const ButtonSet& set, bool ha
 
 int ShowBox(HWND owner, LPCSTR text, LPCSTR caption, UINT type) {
     const UINT kind = type & MB_TYPEMASK;
-    if (kind >= kSetCount) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return 0;
+    if (kind >= std::size(kSets)) {
+        return Fail(ERROR_INVALID_PARAMETER, 0);
     }
     const ButtonSet& set = kSets[kind];
     const int chosen = static_cast<int>((type & MB_DEFMASK) >> 8);
@@ -187,11 +170,12 @@ int ShowBox(HWND owner, LPCSTR text, LPCSTR caption, UINT type) {
 }  // namespace
 }  // namespace platform::user
 
+using namespace platform::user;
+
 WINUSERAPI int WINAPI MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type) try {
-    return platform::user::ShowBox(owner, text, caption, type);
+    return ShowBox(owner, text, caption, type);
 } catch (const std::bad_alloc&) {
-    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-    return 0;
+    return Fail(ERROR_NOT_ENOUGH_MEMORY, 0);
 }
 
 // There is no sound device, and a machine without one is silent.

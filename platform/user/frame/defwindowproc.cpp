@@ -1,6 +1,5 @@
 // DefWindowProcA: what a window does with a message that it has no use for itself.
 #include <algorithm>
-#include <new>
 #include <utility>
 
 #include "gdi/context/device_context.h"
@@ -18,17 +17,14 @@ namespace {
 LRESULT SetText(HWND handle, LPCSTR text) {
     const std::size_t length = text ? kernel::ProbeLength(text) : 0;
     if (length == kernel::kBadText) {
-        SetLastError(ERROR_NOACCESS);
-        return FALSE;
+        return Fail(ERROR_NOACCESS, FALSE);
     }
     UserHold hold(UserLock());
     Window* window = PeekWindow(handle);
     if (!window) {
         return FALSE;
     }
-    try {
-        window->text.assign(text ? text : "", length);
-    } catch (const std::bad_alloc&) {
+    if (!MemoryAllows([=] { window->text.assign(text ? text : "", length); })) {
         return FALSE;
     }
     const bool hasCaption = CaptionHeight(window->style, window->exStyle) && IsShown(window);
@@ -81,46 +77,28 @@ HBRUSH ChequeredBrush() {
 }
 
 LRESULT ControlColour(UINT message, HDC context) {
-    if (message == WM_CTLCOLOREDIT || message == WM_CTLCOLORLISTBOX) {
-        SetTextColor(context, GetSysColor(COLOR_WINDOWTEXT));
-        SetBkColor(context, GetSysColor(COLOR_WINDOW));
-        return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_WINDOW));
-    }
-    if (message == WM_CTLCOLORSCROLLBAR) {
-        // A scroll bar as grey as its arrows is told from them by every second pixel in white.
-        SetTextColor(context, GetSysColor(COLOR_3DHIGHLIGHT));
-        SetBkColor(context, GetSysColor(COLOR_SCROLLBAR));
-        return reinterpret_cast<LRESULT>(GetSysColor(COLOR_SCROLLBAR) == GetSysColor(COLOR_3DFACE)
-                                             ? ChequeredBrush()
-                                             : GetSysColorBrush(COLOR_SCROLLBAR));
-    }
-    SetTextColor(context, GetSysColor(COLOR_WINDOWTEXT));
-    SetBkColor(context, GetSysColor(COLOR_3DFACE));
-    return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_3DFACE));
+    const bool bar = message == WM_CTLCOLORSCROLLBAR;
+    const bool field = message == WM_CTLCOLOREDIT || message == WM_CTLCOLORLISTBOX;
+    const int ground = bar ? COLOR_SCROLLBAR : field ? COLOR_WINDOW : COLOR_3DFACE;
+    SetTextColor(context, GetSysColor(bar ? COLOR_3DHIGHLIGHT : COLOR_WINDOWTEXT));
+    SetBkColor(context, GetSysColor(ground));
+    // A scroll bar as grey as its arrows is told from them by every second pixel in white.
+    const bool chequered = bar && GetSysColor(COLOR_SCROLLBAR) == GetSysColor(COLOR_3DFACE);
+    return reinterpret_cast<LRESULT>(chequered ? ChequeredBrush() : GetSysColorBrush(ground));
 }
 
 LRESULT SetCursorFor(HWND handle, WPARAM wParam, LPARAM lParam) {
-    const Window* window = PeekWindow(handle);
-    if (window && IsChildStyle(window->style)) {
-        const HWND parent = GetParent(handle);
-        if (parent && parent != GetDesktopWindow() && SendMessageA(parent, WM_SETCURSOR, wParam, lParam)) {
-            return TRUE;
-        }
+    const HWND parent = ParentOf(handle);
+    if (parent && parent != GetDesktopWindow() && SendMessageA(parent, WM_SETCURSOR, wParam, lParam)) {
+        return TRUE;
     }
     return SetHitCursor(reinterpret_cast<HWND>(wParam), static_cast<short>(LOWORD(lParam)), HIWORD(lParam));
 }
 
 LRESULT ActivateByMouse(HWND handle, WPARAM wParam, LPARAM lParam) {
-    const Window* window = PeekWindow(handle);
-    if (window && IsChildStyle(window->style)) {
-        if (const HWND parent = GetParent(handle)) {
-            const LRESULT answer = SendMessageA(parent, WM_MOUSEACTIVATE, wParam, lParam);
-            if (answer) {
-                return answer;
-            }
-        }
-    }
-    return MA_ACTIVATE;
+    const HWND parent = ParentOf(handle);
+    const LRESULT answer = parent ? SendMessageA(parent, WM_MOUSEACTIVATE, wParam, lParam) : 0;
+    return answer ? answer : MA_ACTIVATE;
 }
 
 void SetRedraw(HWND handle, bool redraw) {
@@ -154,6 +132,17 @@ LRESULT SetIcon(HWND handle, bool big, HICON icon) {
 }
 
 }  // namespace
+}  // namespace platform::user
+
+namespace platform::user {
+
+HBRUSH AskForBrush(HWND asked, UINT message, HDC context, HWND about) {
+    const auto dc = reinterpret_cast<WPARAM>(context);
+    const auto self = reinterpret_cast<LPARAM>(about);
+    const LRESULT brush = asked ? SendMessageA(asked, message, dc, self) : 0;
+    return reinterpret_cast<HBRUSH>(brush ? brush : DefWindowProcA(about, message, dc, self));
+}
+
 }  // namespace platform::user
 
 using namespace platform::user;
@@ -258,13 +247,10 @@ LRESULT WINAPI DefWindowProcA(HWND handle, UINT message, WPARAM wParam, LPARAM l
         }
         case WM_CONTEXTMENU:
             return OnContextMenu(handle, wParam, lParam);
-        case WM_MOUSEWHEEL:
-            if (IsChildStyle(window->style)) {
-                if (const HWND parent = GetParent(handle)) {
-                    return SendMessageA(parent, message, wParam, lParam);
-                }
-            }
-            return 0;
+        case WM_MOUSEWHEEL: {
+            const HWND parent = ParentOf(handle);
+            return parent ? SendMessageA(parent, message, wParam, lParam) : 0;
+        }
         case WM_VKEYTOITEM:
             return -1;
         case WM_GETICON:

@@ -95,9 +95,7 @@ void RunHelpMode(HWND handle) {
     POINT point{};
     const bool clicked = WaitForClick(handle, &point);
     // The help that is shown may want the mouse for itself.
-    if (GetCapture() == handle) {
-        ReleaseCapture();
-    }
+    LetGoOfMouse(handle);
     SetCursor(before);
     if (const HWND asked = clicked ? WindowToAsk(handle, point) : nullptr) {
         AskForHelp(asked, point);

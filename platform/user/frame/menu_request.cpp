@@ -1,6 +1,7 @@
 // Keys and clicks that ask for a menu, and what puts one away, as DefWindowProcA answers them.
 #include "user/frame/above.h"
 #include "user/frame/nonclient.h"
+#include "user/input/input.h"
 #include "user/model/thread.h"
 
 namespace platform::user {
@@ -58,9 +59,7 @@ LRESULT OnContextMenu(HWND handle, WPARAM wParam, LPARAM lParam) {
 }
 
 void LeaveModes(HWND handle) {
-    if (GetCapture() == handle) {
-        ReleaseCapture();
-    }
+    LetGoOfMouse(handle);
     HWND menu = nullptr;
     {
         const UserGuard guard(UserLock());

@@ -5,6 +5,7 @@
 #include "user/input/input.h"
 #include "user/resource/icons.h"
 #include "user/window/above.h"
+#include "user/window/position.h"
 
 namespace platform::user {
 
@@ -59,12 +60,8 @@ RECT ClientFromWindow(const Window* window, const RECT& windowRect) {
         client.bottom -= barHeight;
     }
     // A window too small for its frame has no client area, at the place where it would begin.
-    if (client.right < client.left) {
-        client.right = client.left;
-    }
-    if (client.bottom < client.top) {
-        client.bottom = client.top;
-    }
+    client.right = std::max(client.right, client.left);
+    client.bottom = std::max(client.bottom, client.top);
     return client;
 }
 
@@ -217,13 +214,7 @@ MINMAXINFO QueryMinMax(HWND handle) {
             return limits;
         }
         const int frame = FrameWidth(window->style, window->exStyle);
-        // A maximised child fills its parent's client area, other windows the work area.
-        RECT ground{};
-        if (window->parent && window->parent != Desktop()) {
-            ground = window->parent->clientRect;
-        } else {
-            SystemParametersInfoA(SPI_GETWORKAREA, 0, &ground, 0);
-        }
+        const RECT ground = Ground(window);
         limits.ptMaxSize = {ground.right - ground.left + 2 * frame, ground.bottom - ground.top + 2 * frame};
         limits.ptMaxPosition = {-frame, -frame};
         // The least size has room for a caption with its buttons; a mere frame needs its own edges only.

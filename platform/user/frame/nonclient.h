@@ -22,9 +22,13 @@ void LeaveModes(HWND window);
 /// WM_SETCURSOR's default, once the parents have been asked. @returns whether a cursor was set.
 bool SetHitCursor(HWND hit, int hitCode, UINT mouseMessage);
 
+/// @returns the parent of a window that is a child by its style; null for another one.
+HWND ParentOf(HWND window);
 /// @returns the name of the pointer over a part of the frame.
 LPCSTR SizingCursor(int hitCode);
 
+/// @returns how wide the frame is, without the caption and a sunken edge.
+int FrameWidth(DWORD style, DWORD exStyle);
 /// @returns the caption's height with the line below it; 0 without a caption.
 int CaptionHeight(DWORD style, DWORD exStyle);
 
@@ -43,6 +47,8 @@ CaptionParts LayOutCaption(const Window* window, RECT windowRect);
 /// @returns the HT code of a screen point.
 LRESULT HitTest(HWND window, POINT point);
 
+/// Draws a control of a frame, a bar or a field (DFC_), unless there is no room for it.
+void DrawPart(HDC context, RECT rect, UINT type, UINT kind, bool pressed, bool disabled);
 /// Draws the frame. pressed: the HT code of a button that is held.
 void PaintFrame(HWND window, int pressed = HTNOWHERE);
 
@@ -54,6 +60,9 @@ LRESULT SystemCommand(HWND window, WPARAM command, POINT point);
 /// The next message of a loop that handles a window's frame. @returns false when the loop has to end: the window is gone,
 /// or the program ends, which is passed on.
 bool NextMessage(HWND window, MSG* message);
+
+/// Asks one window, or nobody, for the brush of another (WM_CTLCOLOR...), which also sets the context's colours.
+HBRUSH AskForBrush(HWND asked, UINT message, HDC context, HWND about);
 
 /// @returns whether a message tells of a button of the mouse going down in a client area.
 bool IsPress(UINT message);

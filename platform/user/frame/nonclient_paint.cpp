@@ -92,13 +92,6 @@ HFONT CaptionFont() {
     return font;
 }
 
-void DrawButton(HDC context, RECT rect, UINT kind, bool pressed, bool disabled) {
-    if (!IsRectEmpty(&rect)) {
-        DrawFrameControl(context, &rect, DFC_CAPTION,
-                         kind | (pressed ? DFCS_PUSHED : 0u) | (disabled ? DFCS_INACTIVE : 0u));
-    }
-}
-
 /// The bar is put together in memory and arrives on the screen at once.
 void DrawCaption(HDC context, const Picture& picture, int pressed) {
     CaptionParts parts = picture.caption;
@@ -123,12 +116,12 @@ void DrawCaption(HDC context, const Picture& picture, int pressed) {
     const RECT line{parts.bar.left, parts.bar.bottom, parts.bar.right, parts.bar.bottom + 1};
     FillRect(memory, &line, GetSysColorBrush(COLOR_3DFACE));
     const bool maximized = (picture.style & WS_MAXIMIZE) != 0;
-    DrawButton(memory, parts.close, DFCS_CAPTIONCLOSE, pressed == HTCLOSE, false);
-    DrawButton(memory, parts.maximize, maximized ? DFCS_CAPTIONRESTORE : DFCS_CAPTIONMAX, pressed == HTMAXBUTTON,
-               !(picture.style & WS_MAXIMIZEBOX));
-    DrawButton(memory, parts.minimize, picture.style & WS_MINIMIZE ? DFCS_CAPTIONRESTORE : DFCS_CAPTIONMIN,
-               pressed == HTMINBUTTON, !(picture.style & WS_MINIMIZEBOX));
-    DrawButton(memory, parts.help, DFCS_CAPTIONHELP, pressed == HTHELP, false);
+    DrawPart(memory, parts.close, DFC_CAPTION, DFCS_CAPTIONCLOSE, pressed == HTCLOSE, false);
+    DrawPart(memory, parts.maximize, DFC_CAPTION, maximized ? DFCS_CAPTIONRESTORE : DFCS_CAPTIONMAX,
+             pressed == HTMAXBUTTON, !(picture.style & WS_MAXIMIZEBOX));
+    DrawPart(memory, parts.minimize, DFC_CAPTION, picture.style & WS_MINIMIZE ? DFCS_CAPTIONRESTORE : DFCS_CAPTIONMIN,
+             pressed == HTMINBUTTON, !(picture.style & WS_MINIMIZEBOX));
+    DrawPart(memory, parts.help, DFC_CAPTION, DFCS_CAPTIONHELP, pressed == HTHELP, false);
     RECT text = parts.bar;
     if (!IsRectEmpty(&parts.icon)) {
         DrawIconIn(memory, parts.icon, picture.icon);
@@ -153,6 +146,12 @@ void DrawCaption(HDC context, const Picture& picture, int pressed) {
 }
 
 }  // namespace
+
+void DrawPart(HDC context, RECT rect, UINT type, UINT kind, bool pressed, bool disabled) {
+    if (!IsRectEmpty(&rect)) {
+        DrawFrameControl(context, &rect, type, kind | (pressed ? DFCS_PUSHED : 0U) | (disabled ? DFCS_INACTIVE : 0U));
+    }
+}
 
 void PaintFrame(HWND handle, int pressed) {
     Picture picture;

@@ -20,10 +20,6 @@ DWORD LiveStyle(HWND handle) {
     return window ? window->style : 0;
 }
 
-HWND ParentOf(HWND handle) {
-    return IsChildStyle(LiveStyle(handle)) ? GetParent(handle) : nullptr;
-}
-
 void Place(HWND handle, RECT rect) {
     MapWindowPoints(nullptr, ParentOf(handle), reinterpret_cast<POINT*>(&rect), 2);
     SetWindowPos(handle, nullptr, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top,
@@ -226,9 +222,7 @@ void MoveOrSize(HWND handle, int part, bool byMouse, POINT from) {
             break;
         }
     }
-    if (GetCapture() == handle) {
-        ReleaseCapture();
-    }
+    LetGoOfMouse(handle);
     if (!byMouse) {
         SetCursor(cursor);
     }
@@ -260,9 +254,7 @@ bool TrackButton(HWND handle, int button) {
             DispatchMessageA(&message);
         }
     }
-    if (GetCapture() == handle) {
-        ReleaseCapture();
-    }
+    LetGoOfMouse(handle);
     PaintFrame(handle);
     return inside && released && PeekWindow(handle);
 }
@@ -282,6 +274,10 @@ WPARAM CommandOf(int button, DWORD style) {
 }
 
 }  // namespace
+
+HWND ParentOf(HWND handle) {
+    return IsChildStyle(LiveStyle(handle)) ? GetParent(handle) : nullptr;
+}
 
 bool NextMessage(HWND handle, MSG* message) {
     if (!PeekWindow(handle)) {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "user/model/window.h"
+
 namespace platform::user {
 namespace {
 
@@ -112,30 +114,24 @@ void Scroll(HWND window, int lines) {
     }
 }
 
-/// @returns whether a key scrolls, and how far.
-bool IsScrollKey(WPARAM key, int* lines) {
+/// @returns how far a key scrolls, 0 for one that does not.
+int LinesOf(WPARAM key) {
     const int page = std::max(g_layout.shown - 1, 1);
     switch (key) {
         case VK_UP:
-            *lines = -1;
-            return true;
+            return -1;
         case VK_DOWN:
-            *lines = 1;
-            return true;
+            return 1;
         case VK_PRIOR:
-            *lines = -page;
-            return true;
+            return -page;
         case VK_NEXT:
-            *lines = page;
-            return true;
+            return page;
         case VK_HOME:
-            *lines = -g_layout.lines;
-            return true;
+            return -g_layout.lines;
         case VK_END:
-            *lines = g_layout.lines;
-            return true;
+            return g_layout.lines;
         default:
-            return false;
+            return 0;
     }
 }
 
@@ -149,15 +145,15 @@ bool ScrollsBy(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
         constexpr int kLinesOfANotch = 3;
         lines = -GET_WHEEL_DELTA_WPARAM(wParam) * kLinesOfANotch / WHEEL_DELTA;
     } else if (message == WM_LBUTTONDOWN) {
-        const POINT point{static_cast<SHORT>(LOWORD(lParam)), static_cast<SHORT>(HIWORD(lParam))};
+        const POINT point = MousePoint(lParam);
         for (const bool down : {false, true}) {
             const RECT box = ArrowBox(window, down);
             lines = PtInRect(&box, point) ? (down ? 1 : -1) : lines;
         }
-        if (lines == 0) {
-            return false;
-        }
-    } else if (message != WM_KEYDOWN || !IsScrollKey(wParam, &lines)) {
+    } else if (message == WM_KEYDOWN) {
+        lines = LinesOf(wParam);
+    }
+    if (lines == 0 && message != WM_MOUSEWHEEL) {
         return false;
     }
     Scroll(window, lines);

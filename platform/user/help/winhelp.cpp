@@ -6,6 +6,7 @@
 
 #include "user/help/help_popup.h"
 #include "user/help/help_topics.h"
+#include "user/model/window.h"
 
 using namespace platform::user;
 
@@ -62,7 +63,6 @@ BOOL WINAPI WinHelpA(HWND window, LPCSTR helpFile, UINT command, ULONG_PTR data)
         const std::string text = FindTopic(ReadTopics(helpFile), topic);
         return !text.empty() && ShowHelpPopup(window ? GetAncestor(window, GA_ROOT) : nullptr, at, text);
     } catch (const std::exception&) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return FALSE;
+        return Fail(ERROR_NOT_ENOUGH_MEMORY, FALSE);
     }
 }

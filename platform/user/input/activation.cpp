@@ -202,20 +202,13 @@ bool ActivateWindow(HWND window, bool byMouse) {
 }
 
 HWND WindowToActivate(HWND handle) {
-    const auto rootOf = [](const Window* window) {
-        while (window->owner != nullptr) {
-            window = window->owner;
-        }
-        return window;
-    };
     UserGuard guard(UserLock());
-    Window* window = PeekWindow(handle);
-    const Window* top = window != nullptr ? TopLevel(window) : nullptr;
+    const Window* top = TopLevel(PeekWindow(handle));
     if (top == nullptr || (top->style & WS_DISABLED) == 0) {
         return top != nullptr ? top->handle : handle;
     }
     for (const Window* each = Desktop()->firstChild; each != nullptr; each = each->next) {
-        if (rootOf(each) == rootOf(top) && (each->style & (WS_VISIBLE | WS_DISABLED)) == WS_VISIBLE) {
+        if (RootOwner(each) == RootOwner(top) && (each->style & (WS_VISIBLE | WS_DISABLED)) == WS_VISIBLE) {
             return each->handle;
         }
     }
@@ -244,17 +237,12 @@ HWND WINAPI SetActiveWindow(HWND window) {
     bool inBackground = false;
     {
         UserGuard guard(UserLock());
-        const Window* target = FindWindowObject(window);
+        const Window* target = FindOwnWindow(window);
         if (target == nullptr) {
             return nullptr;
         }
-        if (target->thread != self) {
-            SetLastError(ERROR_ACCESS_DENIED);
-            return nullptr;
-        }
         if ((target->style & (WS_CHILD | WS_DISABLED)) != 0) {
-            SetLastError(ERROR_INVALID_PARAMETER);
-            return nullptr;
+            return Fail(ERROR_INVALID_PARAMETER, nullptr);
         }
         inBackground = Input().foreground != nullptr && Input().foreground != self;
     }
@@ -276,14 +264,9 @@ BOOL WINAPI SetForegroundWindow(HWND window) {
     HWND top = nullptr;
     {
         UserGuard guard(UserLock());
-        Window* target = FindWindowObject(window);
-        const Window* topLevel = target != nullptr ? TopLevel(target) : nullptr;
-        if (topLevel == nullptr) {
-            return FALSE;
-        }
-        top = topLevel->handle;
+        top = HandleOf(TopLevel(FindWindowObject(window)));
     }
-    return ActivateWindow(top, false);
+    return top != nullptr && ActivateWindow(top, false);
 }
 
 BOOL WINAPI BringWindowToTop(HWND window) {

@@ -5,14 +5,15 @@
 namespace platform::user {
 
 void MoveCapture(ThreadState* self, HWND window) {
-    HWND previous = nullptr;
-    {
-        UserGuard guard(UserLock());
-        previous = self->capture;
-        self->capture = window;
-    }
+    const HWND previous = ExchangeShared(self->capture, window);
     if (previous != nullptr && previous != window && PeekWindow(previous) != nullptr) {
         SendMessageA(previous, WM_CAPTURECHANGED, 0, reinterpret_cast<LPARAM>(window));
+    }
+}
+
+void LetGoOfMouse(HWND window) {
+    if (GetCapture() == window) {
+        ReleaseCapture();
     }
 }
 
@@ -32,12 +33,7 @@ HWND WINAPI SetCapture(HWND window) {
     }
     {
         UserGuard guard(UserLock());
-        const Window* target = window != nullptr ? FindWindowObject(window) : nullptr;
-        if (window != nullptr && target == nullptr) {
-            return nullptr;
-        }
-        if (target != nullptr && target->thread != self) {
-            SetLastError(ERROR_ACCESS_DENIED);
+        if (window != nullptr && FindOwnWindow(window) == nullptr) {
             return nullptr;
         }
     }

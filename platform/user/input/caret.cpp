@@ -86,12 +86,7 @@ void Discard(ThreadState* thread) {
 
 // What each pixel of a bitmap inverts. A monochrome bitmap inverts where its bits are 1.
 std::vector<std::uint32_t> PatternOf(HBITMAP bitmap, const BITMAP& shape) {
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = shape.bmWidth;
-    info.bmiHeader.biHeight = -shape.bmHeight;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
+    BITMAPINFO info{{sizeof info.bmiHeader, shape.bmWidth, -shape.bmHeight, 1, 32}};
     std::vector<std::uint32_t> pixels(static_cast<std::size_t>(shape.bmWidth) *
                                       static_cast<std::size_t>(shape.bmHeight));
     const HDC context = CreateCompatibleDC(nullptr);
@@ -119,14 +114,16 @@ std::vector<std::uint32_t> BlockPattern(int width, int height, bool grey) {
     return pixels;
 }
 
-// The calling thread's caret, if it belongs to the window (null: to any window of the thread).
-ThreadState* OwnCaret(HWND window) {
+// Does something to the calling thread's caret, if it belongs to the window (null: to any window of the thread).
+template <class Action>
+BOOL ChangeCaret(HWND window, const Action& action) {
+    UserGuard guard(UserLock());
     ThreadState* self = CurrentThread();
     if (self == nullptr || self->caret.window == nullptr || (window != nullptr && self->caret.window != window)) {
-        SetLastError(ERROR_ACCESS_DENIED);
-        return nullptr;
+        return Fail(ERROR_ACCESS_DENIED, FALSE);
     }
-    return self;
+    action(self);
+    return TRUE;
 }
 
 }  // namespace
@@ -161,9 +158,7 @@ void SuspendCaret(HWND window) {
         return;
     }
     ThreadState* thread = target->thread;
-    try {
-        thread->caretSuspensions.push_back(window);
-    } catch (const std::bad_alloc&) {
+    if (!MemoryAllows([=] { thread->caretSuspensions.push_back(window); })) {
         return;
     }
     const Window* owner = thread->caret.window != nullptr ? PeekWindow(thread->caret.window) : nullptr;
@@ -193,12 +188,7 @@ using namespace platform::user;
 BOOL WINAPI CreateCaret(HWND window, HBITMAP bitmap, int width, int height) {
     ThreadState* self = CurrentThread();
     UserGuard guard(UserLock());
-    const Window* target = FindWindowObject(window);
-    if (target == nullptr || self == nullptr) {
-        return FALSE;
-    }
-    if (target->thread != self) {
-        SetLastError(ERROR_ACCESS_DENIED);
+    if (self == nullptr || FindOwnWindow(window) == nullptr) {
         return FALSE;
     }
     try {
@@ -207,15 +197,13 @@ BOOL WINAPI CreateCaret(HWND window, HBITMAP bitmap, int width, int height) {
             width = width != 0 ? width : GetSystemMetrics(SM_CXBORDER);
             height = height != 0 ? height : GetSystemMetrics(SM_CYBORDER);
             if (width < 0 || height < 0) {
-                SetLastError(ERROR_INVALID_PARAMETER);
-                return FALSE;
+                return Fail(ERROR_INVALID_PARAMETER, FALSE);
             }
             pattern = BlockPattern(width, height, bitmap == kGreyCaret);
         } else {
             BITMAP shape{};
             if (GetObjectA(bitmap, sizeof shape, &shape) != sizeof shape) {
-                SetLastError(ERROR_INVALID_HANDLE);
-                return FALSE;
+                return Fail(ERROR_INVALID_HANDLE, FALSE);
             }
             width = shape.bmWidth;
             height = shape.bmHeight;
@@ -232,63 +220,43 @@ BOOL WINAPI CreateCaret(HWND window, HBITMAP bitmap, int width, int height) {
         caret.pattern = std::move(pattern);
         return TRUE;
     } catch (const std::bad_alloc&) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return FALSE;
+        return Fail(ERROR_NOT_ENOUGH_MEMORY, FALSE);
     }
 }
 
 BOOL WINAPI DestroyCaret(VOID) {
-    UserGuard guard(UserLock());
-    ThreadState* self = OwnCaret(nullptr);
-    if (self == nullptr) {
-        return FALSE;
-    }
-    Discard(self);
-    return TRUE;
+    return ChangeCaret(nullptr, Discard);
 }
 
 BOOL WINAPI ShowCaret(HWND window) {
-    UserGuard guard(UserLock());
-    ThreadState* self = OwnCaret(window);
-    if (self == nullptr) {
-        return FALSE;
-    }
-    if (self->caret.hideCount > 0 && --self->caret.hideCount == 0) {
-        Restart(self);
-    }
-    return TRUE;
+    return ChangeCaret(window, [](ThreadState* self) {
+        if (self->caret.hideCount > 0 && --self->caret.hideCount == 0) {
+            Restart(self);
+        }
+    });
 }
 
 BOOL WINAPI HideCaret(HWND window) {
-    UserGuard guard(UserLock());
-    ThreadState* self = OwnCaret(window);
-    if (self == nullptr) {
-        return FALSE;
-    }
-    ++self->caret.hideCount;
-    Erase(self);
-    return TRUE;
+    return ChangeCaret(window, [](ThreadState* self) {
+        ++self->caret.hideCount;
+        Erase(self);
+    });
 }
 
 BOOL WINAPI SetCaretPos(int x, int y) {
-    UserGuard guard(UserLock());
-    ThreadState* self = OwnCaret(nullptr);
-    if (self == nullptr) {
-        return FALSE;
-    }
-    if (self->caret.position.x != x || self->caret.position.y != y) {
-        Erase(self);
-        self->caret.position = {x, y};
-        Restart(self);
-    }
-    return TRUE;
+    return ChangeCaret(nullptr, [=](ThreadState* self) {
+        if (self->caret.position.x != x || self->caret.position.y != y) {
+            Erase(self);
+            self->caret.position = {x, y};
+            Restart(self);
+        }
+    });
 }
 
 BOOL WINAPI GetCaretPos(LPPOINT position) {
     const ThreadState* self = CurrentThread();
     if (self == nullptr || position == nullptr) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return FALSE;
+        return Fail(ERROR_INVALID_PARAMETER, FALSE);
     }
     *position = self->caret.position;
     return TRUE;

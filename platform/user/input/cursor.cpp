@@ -10,12 +10,8 @@ namespace {
 HCURSOR currentCursor = nullptr;  // guarded by UserLock
 
 void PresentCursor() {
-    unsigned shape = 0;
-    {
-        UserGuard guard(UserLock());
-        shape = currentCursor != nullptr ? CursorShape(currentCursor) : 0;
-    }
-    ShowCursorShape(shape);
+    const HCURSOR cursor = Shared(currentCursor);
+    ShowCursorShape(cursor != nullptr ? CursorShape(cursor) : 0);
 }
 
 }  // namespace
@@ -25,8 +21,7 @@ using namespace platform::user;
 
 BOOL WINAPI GetCursorPos(LPPOINT position) {
     if (position == nullptr) {
-        SetLastError(ERROR_NOACCESS);
-        return FALSE;
+        return Fail(ERROR_NOACCESS, FALSE);
     }
     UserGuard guard(UserLock());
     *position = Input().cursor;
@@ -39,12 +34,7 @@ BOOL WINAPI SetCursorPos(int x, int y) {
 }
 
 HCURSOR WINAPI SetCursor(HCURSOR cursor) {
-    HCURSOR previous = nullptr;
-    {
-        UserGuard guard(UserLock());
-        previous = currentCursor;
-        currentCursor = cursor;
-    }
+    const HCURSOR previous = ExchangeShared(currentCursor, cursor);
     PresentCursor();
     return previous;
 }

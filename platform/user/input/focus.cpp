@@ -24,12 +24,7 @@ bool CanTakeFocus(const Window* window) {
 }  // namespace
 
 bool MoveFocus(ThreadState* self, HWND window) {
-    HWND previous = nullptr;
-    {
-        UserGuard guard(UserLock());
-        previous = self->focus;
-        self->focus = window;
-    }
+    const HWND previous = ExchangeShared(self->focus, window);
     if (previous == window) {
         return true;
     }
@@ -70,23 +65,18 @@ HWND WINAPI SetFocus(HWND window) {
     bool mustActivate = false;
     {
         UserGuard guard(UserLock());
-        Window* target = FindWindowObject(window);
+        Window* target = FindOwnWindow(window);
         if (target == nullptr) {
             return nullptr;
         }
-        if (target->thread != self) {
-            SetLastError(ERROR_ACCESS_DENIED);
-            return nullptr;
-        }
         if (!CanTakeFocus(target)) {
-            SetLastError(ERROR_INVALID_PARAMETER);
-            return nullptr;
+            return Fail(ERROR_INVALID_PARAMETER, nullptr);
         }
         if (self->focus == window) {
             return window;
         }
         const Window* topLevel = TopLevel(target);
-        top = topLevel != nullptr ? topLevel->handle : nullptr;
+        top = HandleOf(topLevel);
         mustActivate = topLevel != nullptr && top != self->active && topLevel->thread == self;
         const ThreadState* foreground = Input().foreground;
         inBackground = foreground != nullptr && foreground != self;

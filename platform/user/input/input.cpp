@@ -2,7 +2,6 @@
 #include "user/input/input.h"
 
 #include <algorithm>
-#include <new>
 
 #include "base/clock.h"
 #include "gdi/surface/screen.h"
@@ -55,9 +54,7 @@ DWORD BitOf(InputKind kind) {
 
 POINT OnScreen(POINT point) {
     const RECT screen = gdi::ScreenRect();
-    point.x = std::max<LONG>(0, std::min<LONG>(point.x, screen.right - 1));
-    point.y = std::max<LONG>(0, std::min<LONG>(point.y, screen.bottom - 1));
-    return point;
+    return {std::clamp<LONG>(point.x, 0, screen.right - 1), std::clamp<LONG>(point.y, 0, screen.bottom - 1)};
 }
 
 void File(ThreadState* thread, const InputEvent& event) {
@@ -65,12 +62,8 @@ void File(ThreadState* thread, const InputEvent& event) {
         InputEvent& last = thread->input.back();
         last.point = event.point;
         last.time = event.time;
-    } else {
-        try {
-            thread->input.push_back(event);
-        } catch (const std::bad_alloc&) {
-            return;  // as a full hardware queue loses input
-        }
+    } else if (!MemoryAllows([&] { thread->input.push_back(event); })) {
+        return;  // as a full hardware queue loses input
     }
     WakeThread(thread, BitOf(event.kind));
 }
@@ -148,42 +141,29 @@ void Inject(InputEvent event) {
 }
 
 void InjectMouseMove(int x, int y) {
-    InputEvent event;
-    event.point = {x, y};
-    Inject(event);
+    Inject({.point = {x, y}});
 }
 
 void InjectMouseButton(int button, bool down) {
     static constexpr BYTE kButtons[] = {VK_LBUTTON, VK_RBUTTON, VK_MBUTTON};
-    if (button < 0 || button > 2) {
-        return;
+    if (button >= 0 && button <= 2) {
+        Inject({.kind = InputKind::Button, .down = down, .code = kButtons[button]});
     }
-    InputEvent event;
-    event.kind = InputKind::Button;
-    event.code = kButtons[button];
-    event.down = down;
-    Inject(event);
 }
 
 void InjectMouseWheel(int delta) {
-    InputEvent event;
-    event.kind = InputKind::Wheel;
-    event.wheel = delta;
-    Inject(event);
+    Inject({.kind = InputKind::Wheel, .wheel = delta});
 }
 
 void InjectKey(unsigned virtualKey, unsigned scanCode, bool extended, bool down, unsigned unicode) {
-    if (virtualKey == 0 || virtualKey > 0xFF) {
-        return;
+    if (virtualKey != 0 && virtualKey <= 0xFF) {
+        Inject({.kind = InputKind::Key,
+                .down = down,
+                .extended = extended,
+                .code = static_cast<BYTE>(virtualKey),
+                .scan = static_cast<WORD>(scanCode),
+                .unicode = unicode});
     }
-    InputEvent event;
-    event.kind = InputKind::Key;
-    event.code = static_cast<BYTE>(virtualKey);
-    event.scan = static_cast<WORD>(scanCode);
-    event.extended = extended;
-    event.down = down;
-    event.unicode = unicode;
-    Inject(event);
 }
 
 }  // namespace platform::user

@@ -22,9 +22,6 @@ void Inject(InputEvent event);
 /// Writes the state of a key and of the key that stands for both sides of it.
 void ApplyKey(BYTE (&keys)[256], BYTE key, bool down);
 
-/// @returns the key that stands for both sides of a modifier; other keys as they are.
-BYTE GenericKey(BYTE key);
-
 /// @returns the MK_ flags of a key state.
 WPARAM MouseFlags(const BYTE (&keys)[256]);
 
@@ -52,6 +49,8 @@ void ActivateNext(ThreadState* self, Window* leaving);
 
 /// Takes capture off a window and tells it so. Lock not held.
 void MoveCapture(ThreadState* self, HWND window);
+/// Ends the capture of a window that may have lost it already.
+void LetGoOfMouse(HWND window);
 
 /// Takes a dying window out of focus, activation, capture, timers, caret, posted messages and mouse tracking, and
 /// activates another window where it was the active one.

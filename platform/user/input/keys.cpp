@@ -24,8 +24,7 @@ void RunHelpKey(const SentMessage& errand) {
     }
 }
 
-}  // namespace
-
+/// @returns the key that stands for both sides of a modifier; other keys as they are.
 BYTE GenericKey(BYTE key) {
     switch (key) {
         case VK_LSHIFT:
@@ -41,6 +40,8 @@ BYTE GenericKey(BYTE key) {
             return key;
     }
 }
+
+}  // namespace
 
 Cooked CookKey(ThreadState* self, const InputEvent& event, bool (*wanted)(const MSG&, const void*), const void* filter,
                bool remove, MSG* message) {
@@ -81,9 +82,7 @@ Cooked CookKey(ThreadState* self, const InputEvent& event, bool (*wanted)(const 
     if (remove || !deliver) {
         std::copy(std::begin(keys), std::end(keys), self->keyState);
         self->altAlone = altAlone && (key != VK_MENU || event.down);
-        self->lastKey.key = key;
-        self->lastKey.data = message->lParam;
-        self->lastKey.unicode = event.unicode;
+        self->lastKey = {key, message->lParam, event.unicode};
     }
     if (remove && deliver && event.down && !wasDown && key == VK_F1 && !IsDown(keys, VK_MENU) && !control &&
         !IsDown(keys, VK_SHIFT)) {

@@ -36,12 +36,8 @@ void ForgetInput(Window* window) {
         return;
     }
     const HWND handle = window->handle;
-    if (thread == CurrentThread()) {
-        try {
-            PassOn(window);
-        } catch (const std::bad_alloc&) {
-            SetLastError(ERROR_NOT_ENOUGH_MEMORY);  // nobody is told, but nothing may stay behind
-        }
+    if (thread == CurrentThread() && !MemoryAllows([=] { PassOn(window); })) {
+        SetLastError(ERROR_NOT_ENOUGH_MEMORY);  // nobody is told, but nothing may stay behind
     }
     UserGuard guard(UserLock());
     if (PeekWindow(handle) == window) {

@@ -1,7 +1,6 @@
 // Cooking mouse input: which window an event is for, and what happens around it before the message is handed out.
 #include <algorithm>
 #include <cstdlib>
-#include <new>
 #include <vector>
 
 #include "user/input/input.h"
@@ -44,18 +43,13 @@ void CollectCandidates(Window* parent, POINT point, std::vector<HWND>* windows, 
 }
 
 Target FindTarget(ThreadState* self, UserHold& hold, POINT point) {
-    Target target;
     if (self->capture != nullptr) {
-        target.window = self->capture;
-        target.captured = true;
-        return target;
+        return {.window = self->capture, .captured = true};
     }
     std::vector<HWND> windows;
     bool disabled = false;
-    try {
-        CollectCandidates(Desktop(), point, &windows, &disabled);
-    } catch (const std::bad_alloc&) {
-        return target;
+    if (!MemoryAllows([&] { CollectCandidates(Desktop(), point, &windows, &disabled); })) {
+        return {};
     }
     for (HWND window : windows) {
         const Window* candidate = PeekWindow(window);
@@ -63,21 +57,16 @@ Target FindTarget(ThreadState* self, UserHold& hold, POINT point) {
             break;
         }
         if (disabled && window == windows.back()) {
-            target.window = window;
-            target.hit = HTERROR;
-            target.disabled = true;
-            break;
+            return {.window = window, .hit = HTERROR, .disabled = true};
         }
         hold.unlock();
         const LRESULT hit = SendMessageA(window, WM_NCHITTEST, 0, MAKELPARAM(point.x, point.y));
         hold.lock();
         if (hit != HTTRANSPARENT) {
-            target.window = window;
-            target.hit = static_cast<int>(hit);
-            break;
+            return {.window = window, .hit = static_cast<int>(hit)};
         }
     }
-    return target;
+    return {};
 }
 
 UINT ButtonMessage(const InputEvent& event) {
@@ -109,12 +98,10 @@ LPARAM PointIn(const Window* window, POINT point) {
 
 // @returns false when the window that was pressed cannot be activated.
 bool AskForActivation(ThreadState* self, UserHold& hold, const Target& target, UINT message) {
-    Window* window = PeekWindow(target.window);
-    const Window* top = window != nullptr ? TopLevel(window) : nullptr;
-    if (top == nullptr) {
+    const HWND topHandle = HandleOf(TopLevel(PeekWindow(target.window)));
+    if (topHandle == nullptr) {
         return true;
     }
-    const HWND topHandle = top->handle;
     hold.unlock();
     const LRESULT answer = SendMessageA(target.window, WM_MOUSEACTIVATE, reinterpret_cast<WPARAM>(topHandle),
                                         MAKELPARAM(target.hit, message));
@@ -214,10 +201,8 @@ Cooked CookMouse(ThreadState* self, UserHold& hold, const InputEvent& event, boo
     self->messageTime = event.time;
     self->messagePosition = static_cast<DWORD>(MAKELONG(event.point.x, event.point.y));
     if (press) {
-        self->lastClick.window = second ? nullptr : target.window;
-        self->lastClick.message = client ? plain : FrameMessage(plain);
-        self->lastClick.time = event.time;
-        self->lastClick.point = event.point;
+        self->lastClick = {second ? nullptr : target.window, client ? plain : FrameMessage(plain), event.time,
+                           event.point};
     }
     if (!target.captured) {
         if (!Accompany(self, hold, event, target, number)) {

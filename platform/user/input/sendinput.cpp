@@ -5,8 +5,6 @@ namespace platform::user {
 namespace {
 
 void InjectMouse(const MOUSEINPUT& mouse) {
-    InputEvent event;
-    event.time = mouse.time;
     constexpr struct {
         DWORD flag;
         BYTE button;
@@ -16,20 +14,13 @@ void InjectMouse(const MOUSEINPUT& mouse) {
         {MOUSEEVENTF_RIGHTDOWN, VK_RBUTTON, true},  {MOUSEEVENTF_RIGHTUP, VK_RBUTTON, false},
         {MOUSEEVENTF_MIDDLEDOWN, VK_MBUTTON, true}, {MOUSEEVENTF_MIDDLEUP, VK_MBUTTON, false},
     };
-    event.kind = InputKind::Button;
     for (const auto& button : kButtons) {
         if ((mouse.dwFlags & button.flag) != 0) {
-            event.code = button.button;
-            event.down = button.down;
-            Inject(event);
+            Inject({.kind = InputKind::Button, .down = button.down, .code = button.button, .time = mouse.time});
         }
     }
     if ((mouse.dwFlags & MOUSEEVENTF_WHEEL) != 0) {
-        event.kind = InputKind::Wheel;
-        event.code = 0;
-        event.down = false;
-        event.wheel = static_cast<int>(mouse.mouseData);
-        Inject(event);
+        Inject({.kind = InputKind::Wheel, .wheel = static_cast<int>(mouse.mouseData), .time = mouse.time});
     }
 }
 
@@ -48,17 +39,15 @@ BYTE LeftOf(WORD key) {
 }
 
 bool InjectKeyboard(const KEYBDINPUT& keyboard) {
-    InputEvent event;
-    event.time = keyboard.time;
-    event.kind = InputKind::Key;
-    event.down = (keyboard.dwFlags & KEYEVENTF_KEYUP) == 0;
-    event.scan = keyboard.wScan;
-    event.code = LeftOf(keyboard.wVk);
-    if (event.code == 0) {
-        return false;
+    const BYTE key = LeftOf(keyboard.wVk);
+    if (key != 0) {
+        Inject({.kind = InputKind::Key,
+                .down = (keyboard.dwFlags & KEYEVENTF_KEYUP) == 0,
+                .code = key,
+                .scan = keyboard.wScan,
+                .time = keyboard.time});
     }
-    Inject(event);
-    return true;
+    return key != 0;
 }
 
 }  // namespace
@@ -68,8 +57,7 @@ using namespace platform::user;
 
 UINT WINAPI SendInput(UINT count, LPINPUT inputs, int size) {
     if (count == 0 || inputs == nullptr || size != static_cast<int>(sizeof(INPUT))) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return 0;
+        return Fail(ERROR_INVALID_PARAMETER, 0);
     }
     UINT done = 0;
     for (UINT i = 0; i < count; ++i) {

@@ -67,8 +67,7 @@ void LayOut(OpenMenu& menu) {
 
 /// Where a menu stands so that all of it is seen, as far as the screen is large enough.
 POINT Fit(SIZE size, const MenuPlace& place) {
-    RECT area{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
-    SystemParametersInfoA(SPI_GETWORKAREA, 0, &area, 0);
+    const RECT area = WorkArea();
     const bool alone = IsRectEmpty(&place.beside);
     LONG x = place.at.x;
     LONG y = alone ? place.at.y : place.beside.bottom;

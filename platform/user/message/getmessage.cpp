@@ -1,7 +1,5 @@
 // Taking messages: what was sent is answered first; then come posted messages, input, the end, painting and timers.
 #include <algorithm>
-#include <deque>
-#include <new>
 
 #include "base/clock.h"
 #include "user/message/above.h"
@@ -66,14 +64,6 @@ bool TakePosted(ThreadState* self, const Filter& filter, bool remove, MSG* messa
     return false;
 }
 
-void PutBack(ThreadState* self, std::deque<InputEvent>::const_iterator place, const InputEvent& event) {
-    try {
-        self->input.insert(place, event);
-    } catch (const std::bad_alloc&) {
-        return;  // as a full hardware queue loses input
-    }
-}
-
 bool TakeInput(ThreadState* self, UserHold& hold, const Filter& filter, bool remove, MSG* message) {
     const bool keys = filter.Spans(WM_KEYFIRST, WM_KEYLAST);
     const bool mouse = filter.Spans(WM_NCMOUSEMOVE, WM_NCMBUTTONDBLCLK) || filter.Spans(WM_MOUSEFIRST, WM_MOUSELAST);
@@ -101,7 +91,8 @@ bool TakeInput(ThreadState* self, UserHold& hold, const Filter& filter, bool rem
         const auto place = std::find_if(self->input.begin(), self->input.end(),
                                         [past](const InputEvent& e) { return e.number >= past; });
         if (cooked == Cooked::Skip && remove) {
-            PutBack(self, place, event);
+            // Without memory it is lost, as a full hardware queue loses input.
+            MemoryAllows([&] { self->input.insert(place, event); });
         } else if (cooked == Cooked::Dropped && !remove && place != self->input.end() && place->number == past) {
             self->input.erase(place);
         }

@@ -20,14 +20,11 @@ constexpr UINT kLastRegistered = 0xFFFF;
 // Lock held.
 bool Post(ThreadState* thread, HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (thread->posted.size() >= kQueueLimit) {
-        SetLastError(ERROR_NOT_ENOUGH_QUOTA);
-        return false;
+        return Fail(ERROR_NOT_ENOUGH_QUOTA, false);
     }
-    try {
-        thread->posted.push_back({window, message, wParam, lParam, base::TickCount(), Input().cursor});
-    } catch (const std::bad_alloc&) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return false;
+    const MSG posted{window, message, wParam, lParam, base::TickCount(), Input().cursor};
+    if (!MemoryAllows([&] { thread->posted.push_back(posted); })) {
+        return Fail(ERROR_NOT_ENOUGH_MEMORY, false);
     }
     WakeThread(thread, QS_POSTMESSAGE | QS_ALLPOSTMESSAGE);
     return true;
@@ -64,8 +61,7 @@ BOOL WINAPI PostThreadMessageA(DWORD thread, UINT message, WPARAM wParam, LPARAM
     UserGuard guard(UserLock());
     ThreadState* target = FindThread(thread);
     if (target == nullptr) {
-        SetLastError(ERROR_INVALID_THREAD_ID);
-        return FALSE;
+        return Fail(ERROR_INVALID_THREAD_ID, FALSE);
     }
     return Post(target, nullptr, message, wParam, lParam);
 }
@@ -83,8 +79,7 @@ VOID WINAPI PostQuitMessage(int exitCode) {
 
 UINT WINAPI RegisterWindowMessageA(LPCSTR name) {
     if (name == nullptr || *name == '\0') {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return 0;
+        return Fail(ERROR_INVALID_PARAMETER, 0);
     }
     try {
         std::string key(name);
@@ -98,13 +93,11 @@ UINT WINAPI RegisterWindowMessageA(LPCSTR name) {
         }
         const UINT number = kFirstRegistered + static_cast<UINT>(names->size());
         if (number > kLastRegistered) {
-            SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-            return 0;
+            return Fail(ERROR_NOT_ENOUGH_MEMORY, 0);
         }
         names->emplace(std::move(key), number);
         return number;
     } catch (const std::bad_alloc&) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return 0;
+        return Fail(ERROR_NOT_ENOUGH_MEMORY, 0);
     }
 }

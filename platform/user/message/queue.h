@@ -27,12 +27,11 @@ struct SentMessage {
     int holders = 1;
 };
 
-/// Gives a sent message to a thread and takes over one hold on it. Lock held. @returns false without memory.
-bool Enqueue(ThreadState* receiver, SentMessage* sent);
-
 /// Gives a thread something to do about a window, which may be gone by then. Lock held. @returns false without memory.
 using Errand = void (*)(const SentMessage& sent);
 bool EnqueueErrand(ThreadState* receiver, Errand errand, HWND window, WPARAM wParam = 0, LPARAM lParam = 0);
+/// Hands an errand to the thread of a window, as the host's wishes are. Any thread; does not wait.
+void SendErrand(HWND window, Errand errand, WPARAM wParam = 0, LPARAM lParam = 0);
 
 /// Answers the messages that other threads have sent to this one. The lock is released meanwhile.
 void ServeSent(ThreadState* self, UserHold& hold);

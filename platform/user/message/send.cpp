@@ -19,9 +19,6 @@ void Release(SentMessage* sent) {
 
 // Lock held.
 void Reply(SentMessage* sent, LRESULT result, bool answered) {
-    if (sent->replied) {
-        return;
-    }
     sent->replied = true;
     sent->answered = answered;
     sent->result = result;
@@ -32,24 +29,28 @@ void Reply(SentMessage* sent, LRESULT result, bool answered) {
 
 enum class Sending { Done, TimedOut, NoWindow };
 
+// Gives a thread a message or an errand, which whoever sends it may hold too. Lock held. Null without memory.
+SentMessage* Enqueue(ThreadState* receiver, const SentMessage& message) {
+    auto* sent = new (std::nothrow) SentMessage(message);
+    if (sent == nullptr || !MemoryAllows([=] { receiver->sent.push_back(sent); })) {
+        delete sent;
+        return nullptr;
+    }
+    WakeThread(receiver, QS_SENDMESSAGE);
+    return sent;
+}
+
 // Lock held once; the target belongs to another thread.
 Sending SendAcross(ThreadState* self, UserHold& hold, Window* target, UINT message, WPARAM wParam, LPARAM lParam,
                    std::uint64_t deadline, LRESULT* result) {
-    auto* sent = new (std::nothrow) SentMessage;
+    SentMessage* sent = Enqueue(target->thread, {.window = target->handle,
+                                                 .message = message,
+                                                 .wParam = wParam,
+                                                 .lParam = lParam,
+                                                 .sender = self,
+                                                 .holders = 2});
     if (sent == nullptr) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return Sending::NoWindow;
-    }
-    sent->window = target->handle;
-    sent->message = message;
-    sent->wParam = wParam;
-    sent->lParam = lParam;
-    sent->sender = self;
-    sent->holders = 2;
-    if (!Enqueue(target->thread, sent)) {
-        delete sent;
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return Sending::NoWindow;
+        return Fail(ERROR_NOT_ENOUGH_MEMORY, Sending::NoWindow);
     }
     while (!sent->replied) {
         if (!self->sent.empty()) {
@@ -91,37 +92,19 @@ bool CarriesPointer(UINT message) {
 }  // namespace
 
 bool MustBeSynchronous(UINT message) {
-    if (CarriesPointer(message)) {
-        SetLastError(ERROR_MESSAGE_SYNC_ONLY);
-        return true;
-    }
-    return false;
-}
-
-bool Enqueue(ThreadState* receiver, SentMessage* sent) {
-    try {
-        receiver->sent.push_back(sent);
-    } catch (const std::bad_alloc&) {
-        return false;
-    }
-    WakeThread(receiver, QS_SENDMESSAGE);
-    return true;
+    return CarriesPointer(message) && Fail(ERROR_MESSAGE_SYNC_ONLY, true);
 }
 
 bool EnqueueErrand(ThreadState* receiver, Errand errand, HWND window, WPARAM wParam, LPARAM lParam) {
-    auto* sent = new (std::nothrow) SentMessage;
-    if (sent == nullptr) {
-        return false;
+    return Enqueue(receiver, {.window = window, .wParam = wParam, .lParam = lParam, .errand = errand}) != nullptr;
+}
+
+void SendErrand(HWND handle, Errand errand, WPARAM wParam, LPARAM lParam) {
+    const UserGuard guard(UserLock());
+    const Window* window = PeekWindow(handle);
+    if (window != nullptr && window->thread != nullptr) {
+        EnqueueErrand(window->thread, errand, handle, wParam, lParam);
     }
-    sent->errand = errand;
-    sent->window = window;
-    sent->wParam = wParam;
-    sent->lParam = lParam;
-    if (!Enqueue(receiver, sent)) {
-        delete sent;
-        return false;
-    }
-    return true;
 }
 
 void ServeSent(ThreadState* self, UserHold& hold) {
@@ -178,17 +161,7 @@ void Tell(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
         CallProcedure(procedure, window, message, wParam, lParam);
         return;
     }
-    auto* sent = new (std::nothrow) SentMessage;
-    if (sent == nullptr) {
-        return;
-    }
-    sent->window = window;
-    sent->message = message;
-    sent->wParam = wParam;
-    sent->lParam = lParam;
-    if (!Enqueue(target->thread, sent)) {
-        delete sent;
-    }
+    Enqueue(target->thread, {.window = window, .message = message, .wParam = wParam, .lParam = lParam});
 }
 
 }  // namespace platform::user
@@ -218,14 +191,8 @@ namespace {
 /// Sends a message to all top-level windows of all threads.
 LRESULT SendToAll(UINT message, WPARAM wParam, LPARAM lParam, UINT flags, UINT timeout, DWORD_PTR* result) {
     std::vector<HWND> targets;
-    try {
-        const UserGuard guard(UserLock());
-        for (const Window* window = Desktop()->firstChild; window != nullptr; window = window->next) {
-            targets.push_back(window->handle);
-        }
-    } catch (const std::bad_alloc&) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return 0;
+    if (!MemoryAllows([&] { targets = TopLevelWindows([](const Window*) { return true; }); })) {
+        return Fail(ERROR_NOT_ENOUGH_MEMORY, 0);
     }
     for (HWND each : targets) {
         SendMessageTimeoutA(each, message, wParam, lParam, flags, timeout, result);

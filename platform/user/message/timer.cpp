@@ -1,7 +1,6 @@
 // Timers: a deadline each; the queue asks for those whose time has come when it has nothing better to do, so a timer
 // never has more than one message waiting.
 #include <algorithm>
-#include <new>
 
 #include "base/clock.h"
 #include "user/message/queue.h"
@@ -84,18 +83,8 @@ using namespace platform::user;
 UINT_PTR WINAPI SetTimer(HWND window, UINT_PTR id, UINT period, TIMERPROC procedure) {
     ThreadState* self = CurrentThread();
     UserGuard guard(UserLock());
-    if (self == nullptr) {
+    if (self == nullptr || (window != nullptr && FindOwnWindow(window) == nullptr)) {
         return 0;
-    }
-    if (window != nullptr) {
-        const Window* target = FindWindowObject(window);
-        if (target == nullptr) {
-            return 0;
-        }
-        if (target->thread != self) {
-            SetLastError(ERROR_ACCESS_DENIED);
-            return 0;
-        }
     }
     Timer timer;
     timer.window = window;
@@ -108,11 +97,8 @@ UINT_PTR WINAPI SetTimer(HWND window, UINT_PTR id, UINT period, TIMERPROC proced
         *existing = timer;
     } else {
         timer.id = window != nullptr ? id : FreeThreadTimer(self);
-        try {
-            self->timers.push_back(timer);
-        } catch (const std::bad_alloc&) {
-            SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-            return 0;
+        if (!MemoryAllows([&] { self->timers.push_back(timer); })) {
+            return Fail(ERROR_NOT_ENOUGH_MEMORY, 0);
         }
     }
     return timer.id != 0 ? timer.id : 1;
@@ -126,8 +112,7 @@ BOOL WINAPI KillTimer(HWND window, UINT_PTR id) {
     }
     const auto timer = FindTimer(self, window, id);
     if (timer == self->timers.end()) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return FALSE;
+        return Fail(ERROR_INVALID_PARAMETER, FALSE);
     }
     self->timers.erase(timer);
     return TRUE;

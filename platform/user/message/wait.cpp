@@ -69,8 +69,7 @@ namespace kernel = platform::kernel;
 DWORD WINAPI MsgWaitForMultipleObjects(DWORD count, const HANDLE* handles, BOOL all, DWORD milliseconds, DWORD mask) {
     ThreadState* self = CurrentThread();
     if (self == nullptr || count >= MAXIMUM_WAIT_OBJECTS || (count > 0 && handles == nullptr)) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return WAIT_FAILED;
+        return Fail(ERROR_INVALID_PARAMETER, WAIT_FAILED);
     }
     OpenDisplay();
     return kernel::Guarded(WAIT_FAILED, [&]() -> DWORD {
@@ -78,8 +77,7 @@ DWORD WINAPI MsgWaitForMultipleObjects(DWORD count, const HANDLE* handles, BOOL 
         if (count > 0) {
             objects.emplace(handles, count, NoteSignalled, self);
             if (const DWORD error = objects->Error(); error != ERROR_SUCCESS || (all && objects->HasTwice())) {
-                SetLastError(error != ERROR_SUCCESS ? error : ERROR_INVALID_PARAMETER);
-                return WAIT_FAILED;
+                return Fail(error != ERROR_SUCCESS ? error : ERROR_INVALID_PARAMETER, WAIT_FAILED);
             }
         }
         UserHold hold(UserLock());

@@ -16,7 +16,7 @@ std::recursive_mutex& UserLock() {
 }
 
 Window* FindWindowObject(HWND handle) {
-    Window* window = base::Find<Window>(handle, base::HandleKind::Window);
+    Window* window = PeekWindow(handle);
     if (!window) [[unlikely]] {
         SetLastError(ERROR_INVALID_WINDOW_HANDLE);
     }
@@ -40,16 +40,11 @@ Window* MakeRoot(const char* className, const RECT& area) {
     return root;
 }
 
-RECT ScreenArea() {
-    const gdi::ScreenView screen = gdi::Screen();
-    return {0, 0, screen.width, screen.height};
-}
-
 }  // namespace
 
 Window* Desktop() {
     static Window* const desktop = [] {
-        Window* root = MakeRoot("#32769", ScreenArea());
+        Window* root = MakeRoot("#32769", gdi::ScreenRect());
         PaintDesktop(gdi::Region(root->windowRect));
         return root;
     }();
@@ -106,6 +101,13 @@ Window* TopLevel(Window* window) {
     while (IsChildStyle(window->style) && window->parent && window->parent != Desktop() &&
            window->parent != Orphanage()) {
         window = window->parent;
+    }
+    return window;
+}
+
+const Window* RootOwner(const Window* window) {
+    while (window->owner != nullptr) {
+        window = window->owner;
     }
     return window;
 }

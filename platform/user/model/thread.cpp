@@ -42,10 +42,11 @@ void EndThread(ThreadState* thread) {
     {
         UserGuard guard(UserLock());
         thread->ending = true;
-        try {
+        const bool all = MemoryAllows([&] {
             CollectWindows(Desktop(), thread, &windows);
             CollectWindows(Orphanage(), thread, &windows);
-        } catch (const std::bad_alloc&) {
+        });
+        if (!all) {
             base::ReportOnce("out of memory: windows of a thread that ended are left behind");
         }
     }
@@ -103,6 +104,11 @@ ThreadState* MakeThread() {
 ThreadState* CurrentThread() {
     ThreadState* thread = currentThread;
     return thread != nullptr ? thread : MakeThread();
+}
+
+Window* FindOwnWindow(HWND handle) {
+    Window* window = FindWindowObject(handle);
+    return window != nullptr && window->thread != CurrentThread() ? Fail(ERROR_ACCESS_DENIED, nullptr) : window;
 }
 
 ThreadState* FindThread(DWORD id) {

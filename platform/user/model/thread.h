@@ -102,6 +102,9 @@ struct ThreadState {
 /// @returns the calling thread's state, made on first use and filed until the thread ends.
 ThreadState* CurrentThread();
 
+/// @returns a live window of the calling thread, else null with the error set. Lock held.
+Window* FindOwnWindow(HWND handle);
+
 /// The thread with this id if it has a queue. Lock held.
 ThreadState* FindThread(DWORD id);
 

@@ -12,14 +12,20 @@
 #include <cstddef>
 #include <memory>
 #include <mutex>
+#include <new>
 #include <string>
 #include <string_view>
+#include <type_traits>
+#include <utility>
 #include <vector>
 
+#include "base/fail.h"
 #include "base/handle.h"
 #include "gdi/surface/region.h"
 
 namespace platform::user {
+
+using base::Fail;
 
 struct ThreadState;
 struct DialogState;
@@ -102,6 +108,22 @@ Value Shared(const Value& field) {
     return field;
 }
 
+/// Writes such a field. @returns what it was.
+template <class Value>
+Value ExchangeShared(Value& field, std::type_identity_t<Value> value) {
+    UserGuard guard(UserLock());
+    return std::exchange(field, value);
+}
+
+/// Does what takes memory. @returns false where there is none.
+template <class Action>
+bool MemoryAllows(const Action& action) try {
+    action();
+    return true;
+} catch (const std::bad_alloc&) {
+    return false;
+}
+
 /// @returns the live window of a handle, else null with ERROR_INVALID_WINDOW_HANDLE set. HWND_DESKTOP (null) is not one.
 Window* FindWindowObject(HWND handle);
 
@@ -112,6 +134,19 @@ inline Window* PeekWindow(HWND handle) {
 
 /// @returns the desktop window, which is made on first use and covers the screen; it belongs to no thread.
 Window* Desktop();
+/// @returns those of the desktop's children that a test accepts, from the top of the z-order. Takes the lock. Throws bad_alloc.
+template <class Accepts>
+std::vector<HWND> TopLevelWindows(const Accepts& accepts) {
+    UserGuard guard(UserLock());
+    std::vector<HWND> windows;
+    for (const Window* window = Desktop()->firstChild; window != nullptr; window = window->next) {
+        if (accepts(window)) {
+            windows.push_back(window->handle);
+        }
+    }
+    return windows;
+}
+
 /// The parent of windows whose parent ended and whose thread has yet to end them: never shown, never enumerated.
 Window* Orphanage();
 
@@ -138,6 +173,9 @@ bool IsAncestor(const Window* ancestor, const Window* window);
 /// @returns the first window at or above one that is no child by its style: what is activated for it, and what can own others.
 /// Null for the desktop.
 Window* TopLevel(Window* window);
+
+/// @returns the end of a window's chain of owners.
+const Window* RootOwner(const Window* window);
 
 /// Where the parent counts a window's place from: its client area for children, the screen for top-level windows.
 POINT ParentOrigin(const Window* window);

@@ -153,7 +153,7 @@ bool ReleaseContext(HDC context, bool* painting) {
     const auto spare = std::count_if(slots.begin(), slots.end(), [](const auto& each) { return !each->inUse; });
     if (static_cast<std::size_t>(spare) > kSpareContexts) {
         gdi::DeleteScreenContext(context);
-        slots.erase(std::find_if(slots.begin(), slots.end(), [slot](const auto& each) { return each.get() == slot; }));
+        std::erase_if(slots, [slot](const auto& each) { return each.get() == slot; });
     }
     return true;
 }

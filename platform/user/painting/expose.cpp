@@ -63,7 +63,7 @@ void PaintDesktop(const gdi::Region& area) {
     gdi::ScreenGuard guard(gdi::ScreenLock());
     const gdi::ScreenView screen = gdi::Screen();
     gdi::Region inside = area;
-    inside.Intersect(RECT{0, 0, screen.width, screen.height});
+    inside.Intersect(gdi::ScreenRect());
     for (const RECT& rect : inside.Rects()) {
         for (LONG y = rect.top; y < rect.bottom; ++y) {
             std::uint32_t* row = screen.pixels + static_cast<std::ptrdiff_t>(y) * screen.stride;

@@ -22,21 +22,6 @@ void InvalidateOverpainted(Window* parent, const gdi::Region& painted) {
     }
 }
 
-bool SubtreeNeedsPaint(const Window* window) {
-    if ((window->style & WS_VISIBLE) == 0) {
-        return false;
-    }
-    if (NeedsPaint(window)) {
-        return true;
-    }
-    for (const Window* child = window->firstChild; child != nullptr; child = child->next) {
-        if (SubtreeNeedsPaint(child)) {
-            return true;
-        }
-    }
-    return false;
-}
-
 /// Lists the children that have something to paint. What is left out for want of memory gets its WM_PAINT from the queue.
 void ListChildren(const Window* window, std::vector<HWND>& list) try {
     for (const Window* child = window->firstChild; child != nullptr; child = child->next) {
@@ -175,8 +160,7 @@ namespace gdi = platform::gdi;
 
 HDC WINAPI BeginPaint(HWND handle, LPPAINTSTRUCT paint) {
     if (paint == nullptr) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return nullptr;
+        return Fail(ERROR_INVALID_PARAMETER, nullptr);
     }
     *paint = PAINTSTRUCT{};
     bool frame = false;

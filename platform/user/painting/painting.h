@@ -59,6 +59,8 @@ void ExposeScreen(const gdi::Region& area);
 
 /// @returns whether the window has something to paint : its update region holds something. Lock held.
 bool NeedsPaint(const Window* window);
+/// @returns whether a window that is not hidden, or one in it, has something to paint.
+bool SubtreeNeedsPaint(const Window* window);
 
 /// Forgets device contexts and regions of a window that is going away.
 void ForgetPainting(Window* window);

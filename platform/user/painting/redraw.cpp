@@ -1,6 +1,5 @@
 // Invalidating, validating and updating windows on an application's behalf.
 #include <algorithm>
-#include <new>
 #include <vector>
 
 #include "user/model/thread.h"
@@ -66,7 +65,7 @@ gdi::Region AreaOf(const Window* window, const RECT* rect, bool whole) {
         return gdi::Region(whole ? window->windowRect : window->clientRect);
     }
     // An inverted rectangle means the same area, and far coordinates must not overflow.
-    const auto limit = [](LONG value) { return std::min<LONG>(std::max<LONG>(value, -0x100000), 0x100000); };
+    const auto limit = [](LONG value) { return std::clamp<LONG>(value, -0x100000, 0x100000); };
     const RECT& client = window->clientRect;
     return gdi::Region(RECT{
         limit(std::min(rect->left, rect->right)) + client.left, limit(std::min(rect->top, rect->bottom)) + client.top,
@@ -79,14 +78,8 @@ void RedrawScreen(const RECT* rect) {
     {
         UserGuard guard(UserLock());
         ExposeScreen(AreaOf(Desktop(), rect, true));
-        try {
-            for (Window* window = Desktop()->firstChild; window != nullptr; window = window->next) {
-                if (window->thread == CurrentThread()) {
-                    windows.push_back(window->handle);
-                }
-            }
-        } catch (const std::bad_alloc&) {
-        }
+        MemoryAllows(
+            [&] { windows = TopLevelWindows([](const Window* window) { return window->thread == CurrentThread(); }); });
     }
     for (HWND window : windows) {
         UpdateTree(window, true, true);
@@ -102,10 +95,9 @@ void FinishFrame(HWND handle) {
         if (window == nullptr || !window->frameNeeded || window->thread != CurrentThread()) {
             return;
         }
-        gdi::Region client = window->update;
         RECT rect = window->clientRect;
         OffsetRect(&rect, -window->windowRect.left, -window->windowRect.top);
-        if (client.Touches(rect)) {
+        if (window->update.Touches(rect)) {
             return;
         }
     }
@@ -121,8 +113,7 @@ namespace gdi = platform::gdi;
 
 BOOL WINAPI RedrawWindow(HWND handle, const RECT* rect, HRGN region, UINT flags) {
     if (region != nullptr) {
-        SetLastError(ERROR_INVALID_HANDLE);
-        return FALSE;
+        return Fail(ERROR_INVALID_HANDLE, FALSE);
     }
     if (handle == nullptr || handle == GetDesktopWindow()) {
         if ((flags & RDW_INVALIDATE) != 0) {

@@ -88,6 +88,21 @@ bool NeedsPaint(const Window* window) {
     return !window->update.Empty();
 }
 
+bool SubtreeNeedsPaint(const Window* window) {
+    if ((window->style & WS_VISIBLE) == 0) {
+        return false;
+    }
+    if (NeedsPaint(window)) {
+        return true;
+    }
+    for (const Window* child = window->firstChild; child != nullptr; child = child->next) {
+        if (SubtreeNeedsPaint(child)) {
+            return true;
+        }
+    }
+    return false;
+}
+
 Window* NextPaintWindow(ThreadState* thread, Window* within) {
     if (thread->paintWindows == 0) {
         return nullptr;

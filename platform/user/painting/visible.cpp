@@ -1,6 +1,5 @@
 #include "user/painting/painting.h"
 
-#include <algorithm>
 #include <new>
 
 #include "base/handle.h"
@@ -11,15 +10,10 @@ namespace {
 
 std::uint64_t generation = 1;
 
-bool Overlap(const RECT& a, const RECT& b) {
-    return std::max(a.left, b.left) < std::min(a.right, b.right) &&
-           std::max(a.top, b.top) < std::min(a.bottom, b.bottom);
-}
-
 void CutSiblings(gdi::Region& region, const Window* window) {
     const RECT bounds = region.Bounds();
     for (const Window* above = window->previous; above != nullptr; above = above->previous) {
-        if ((above->style & WS_VISIBLE) != 0 && Overlap(bounds, above->windowRect)) {
+        if ((above->style & WS_VISIBLE) != 0 && gdi::Holds(gdi::Cut(bounds, above->windowRect))) {
             region.Subtract(above->windowRect);
         }
     }
@@ -52,14 +46,11 @@ void CutSurroundings(gdi::Region& region, const Window* window, bool ownSiblings
 
 void CutChildren(gdi::Region& region, const Window* window) {
     for (const Window* child = window->firstChild; child != nullptr; child = child->next) {
-        if ((child->style & WS_VISIBLE) == 0 || !Overlap(child->windowRect, window->clientRect)) {
-            continue;
-        }
         // A child does not reach into its parent's frame, whatever its rectangle says.
-        const RECT& rect = child->windowRect;
-        const RECT& client = window->clientRect;
-        region.Subtract(RECT{std::max(rect.left, client.left), std::max(rect.top, client.top),
-                             std::min(rect.right, client.right), std::min(rect.bottom, client.bottom)});
+        const RECT seen = gdi::Cut(child->windowRect, window->clientRect);
+        if ((child->style & WS_VISIBLE) != 0 && gdi::Holds(seen)) {
+            region.Subtract(seen);
+        }
     }
 }
 

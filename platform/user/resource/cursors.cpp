@@ -71,8 +71,7 @@ HANDLE Load(HandleKind kind, HINSTANCE instance, LPCSTR name) try {
     shared.all.push_back({kind, instance, group, number, handle});
     return base::ToHandle<HANDLE>(handle);
 } catch (const std::bad_alloc&) {
-    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-    return nullptr;
+    return Fail(ERROR_NOT_ENOUGH_MEMORY, nullptr);
 }
 
 }  // namespace
@@ -96,24 +95,21 @@ HCURSOR WINAPI LoadCursorA(HINSTANCE instance, LPCSTR name) {
     const bool known = !instance && IS_INTRESOURCE(name) &&
                        std::find(std::begin(kCursors), std::end(kCursors), LOWORD(name)) != std::end(kCursors);
     if (!known) {
-        SetLastError(ERROR_RESOURCE_NAME_NOT_FOUND);
-        return nullptr;
+        return Fail(ERROR_RESOURCE_NAME_NOT_FOUND, nullptr);
     }
     return static_cast<HCURSOR>(Load(HandleKind::Cursor, nullptr, name));
 }
 
 HICON WINAPI LoadIconA(HINSTANCE instance, LPCSTR name) {
     if (!instance && !(IS_INTRESOURCE(name) && LOWORD(name) >= kFirstIcon && LOWORD(name) <= kLastIcon)) {
-        SetLastError(ERROR_RESOURCE_NAME_NOT_FOUND);
-        return nullptr;
+        return Fail(ERROR_RESOURCE_NAME_NOT_FOUND, nullptr);
     }
     return static_cast<HICON>(Load(HandleKind::Icon, instance, name));
 }
 
 BOOL WINAPI DestroyIcon(HICON icon) {
     if (!platform::base::Find<Icon>(icon, HandleKind::Icon)) {
-        SetLastError(ERROR_INVALID_ICON_HANDLE);
-        return FALSE;
+        return Fail(ERROR_INVALID_ICON_HANDLE, FALSE);
     }
     // All icons are loaded, and so shared: one is destroyed by nobody, and asking for it does no harm.
     return TRUE;

@@ -1,6 +1,7 @@
 // Drawing icons: the ground is kept where the mask lets it through, then the picture is laid over it by exclusive or. Where
 // the mask is clear the picture's black leaves the ground as it is; any other colour there inverts it.
 #include "user/resource/icons.h"
+#include "user/model/window.h"
 
 #include <new>
 
@@ -9,17 +10,6 @@
 
 namespace platform::user {
 namespace {
-
-BITMAPINFO HeaderOf(const IconPicture& picture) {
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = picture.width;
-    info.bmiHeader.biHeight = -picture.height;  // the top row first
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    info.bmiHeader.biCompression = BI_RGB;
-    return info;
-}
 
 /// White where the background shows, black elsewhere.
 std::vector<std::uint32_t> MaskOf(const IconPicture& picture) {
@@ -41,7 +31,7 @@ std::vector<std::uint32_t> ColoursOf(const IconPicture& picture) {
 
 bool Put(HDC context, const RECT& place, const IconPicture& picture, const std::vector<std::uint32_t>& pixels,
          DWORD operation) {
-    const BITMAPINFO info = HeaderOf(picture);
+    const BITMAPINFO info{{sizeof info.bmiHeader, picture.width, -picture.height, 1, 32, BI_RGB}};  // the top row first
     return gdi::StretchBits(context, place, pixels.data(), &info, operation);
 }
 
@@ -50,15 +40,13 @@ bool Put(HDC context, const RECT& place, const IconPicture& picture, const std::
 bool DrawIconIn(HDC context, const RECT& place, HICON handle) try {
     const Icon* icon = base::Find<Icon>(handle, base::HandleKind::Icon);
     if (!icon) {
-        SetLastError(ERROR_INVALID_ICON_HANDLE);
-        return false;
+        return Fail(ERROR_INVALID_ICON_HANDLE, false);
     }
     const IconPicture& picture = icon->picture;
     return Put(context, place, picture, MaskOf(picture), SRCAND) &&
            Put(context, place, picture, ColoursOf(picture), SRCINVERT);
 } catch (const std::bad_alloc&) {
-    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-    return false;
+    return Fail(ERROR_NOT_ENOUGH_MEMORY, false);
 }
 
 }  // namespace platform::user

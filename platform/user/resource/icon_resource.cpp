@@ -31,25 +31,22 @@ class Bytes {
     kernel::Bytes data_;
 };
 
+/// A pixel, whose highest byte says nothing.
 std::uint32_t PixelAt(const Bytes& bytes, std::size_t row, int x, int bits, std::size_t palette) {
     const auto column = static_cast<std::size_t>(x);
+    const auto entry = [&](std::size_t index) { return bytes.Read<std::uint32_t>(palette + 4 * index); };
     switch (bits) {
         case 1:
-            return bytes.Read<std::uint32_t>(palette +
-                                             4 * (bytes.Read<std::uint8_t>(row + column / 8) >> (7 - x % 8) & 1u)) &
-                   0xFFFFFF;
+            return entry(bytes.Read<std::uint8_t>(row + column / 8) >> (7 - x % 8) & 1u);
         case 4:
-            return bytes.Read<std::uint32_t>(
-                       palette + 4 * (bytes.Read<std::uint8_t>(row + column / 2) >> (x % 2 ? 0 : 4) & 15u)) &
-                   0xFFFFFF;
+            return entry(bytes.Read<std::uint8_t>(row + column / 2) >> (x % 2 ? 0 : 4) & 15u);
         case 8:
-            return bytes.Read<std::uint32_t>(palette + 4 * std::size_t{bytes.Read<std::uint8_t>(row + column)}) &
-                   0xFFFFFF;
+            return entry(bytes.Read<std::uint8_t>(row + column));
         case 24:
             return bytes.Read<std::uint16_t>(row + 3 * column) |
                    static_cast<std::uint32_t>(bytes.Read<std::uint8_t>(row + 3 * column + 2)) << 16;
         default:
-            return bytes.Read<std::uint32_t>(row + 4 * column) & 0xFFFFFF;
+            return bytes.Read<std::uint32_t>(row + 4 * column);
     }
 }
 

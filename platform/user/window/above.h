@@ -14,6 +14,9 @@ RECT ClientFromWindow(const Window* window, const RECT& windowRect);
 /// frame: a window's sizes as WM_GETMINMAXINFO leaves them, none at most smaller than at least. Sends; no lock held.
 MINMAXINFO QueryMinMax(HWND window);
 
+/// desktop: @returns what the host's panels leave of the screen; all of it where there is no host.
+RECT WorkArea();
+
 /// menu: registers the class of menus.
 void RegisterMenuClass();
 

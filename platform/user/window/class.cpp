@@ -41,8 +41,7 @@ bool IsRealBrush(HBRUSH brush) {
 /// @returns an atom that no class has yet, 0 when all are taken. Lock held.
 ATOM FreeAtom() {
     ATOM atom = 0xC000;
-    while (atom &&
-           std::any_of(Classes().begin(), Classes().end(), [=](const auto& one) { return one->atom == atom; })) {
+    while (atom && std::ranges::any_of(Classes(), [=](const auto& one) { return one->atom == atom; })) {
         ++atom;
     }
     return atom;
@@ -53,8 +52,7 @@ ATOM Register(const WNDCLASSA& given) {
         std::strlen(given.lpszClassName) > kLongestName || !given.lpfnWndProc || given.cbClsExtra < 0 ||
         given.cbWndExtra < 0 || given.cbClsExtra > kMostExtra || given.cbWndExtra > kMostExtra ||
         (given.style & ~kKnownStyles)) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return 0;
+        return Fail(ERROR_INVALID_PARAMETER, 0);
     }
     InitialiseClasses();
     const HINSTANCE instance = OrProgram(given.hInstance);
@@ -62,14 +60,12 @@ ATOM Register(const WNDCLASSA& given) {
     for (const auto& other : Classes()) {
         if (IsNamed(*other, given.lpszClassName) && !other->system &&
             (given.style & CS_GLOBALCLASS ? IsGlobal(*other) : !IsGlobal(*other) && other->instance == instance)) {
-            SetLastError(ERROR_CLASS_ALREADY_EXISTS);
-            return 0;
+            return Fail(ERROR_CLASS_ALREADY_EXISTS, 0);
         }
     }
     const ATOM atom = FreeAtom();
     if (!atom) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return 0;
+        return Fail(ERROR_NOT_ENOUGH_MEMORY, 0);
     }
     auto made = std::make_unique<WindowClass>();
     made->atom = atom;
@@ -89,8 +85,8 @@ ATOM Register(const WNDCLASSA& given) {
 bool ForgetOne(HINSTANCE module, HBRUSH& background) {
     const UserGuard guard(UserLock());
     auto& classes = Classes();
-    const auto found = std::find_if(classes.begin(), classes.end(),
-                                    [=](const auto& one) { return !one->system && one->instance == module; });
+    const auto found =
+        std::ranges::find_if(classes, [=](const auto& one) { return !one->system && one->instance == module; });
     if (found == classes.end()) {
         return false;
     }
@@ -170,14 +166,9 @@ void InitialiseClasses() {
 using namespace platform::user;
 
 ATOM WINAPI RegisterClassA(const WNDCLASSA* windowClass) try {
-    if (!windowClass) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return 0;
-    }
-    return Register(*windowClass);
+    return windowClass ? Register(*windowClass) : Fail(ERROR_INVALID_PARAMETER, ATOM{0});
 } catch (const std::bad_alloc&) {
-    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-    return 0;
+    return Fail(ERROR_NOT_ENOUGH_MEMORY, 0);
 }
 
 BOOL WINAPI UnregisterClassA(LPCSTR name, HINSTANCE instance) {
@@ -190,12 +181,10 @@ BOOL WINAPI UnregisterClassA(LPCSTR name, HINSTANCE instance) {
             return IsNamed(*one, name) && !one->system && one->instance == module;
         });
         if (found == classes.end()) {
-            SetLastError(ERROR_CLASS_DOES_NOT_EXIST);
-            return FALSE;
+            return Fail(ERROR_CLASS_DOES_NOT_EXIST, FALSE);
         }
         if ((*found)->windows > 0) {
-            SetLastError(ERROR_CLASS_HAS_WINDOWS);
-            return FALSE;
+            return Fail(ERROR_CLASS_HAS_WINDOWS, FALSE);
         }
         background = (*found)->background;
         classes.erase(found);
@@ -209,15 +198,13 @@ BOOL WINAPI UnregisterClassA(LPCSTR name, HINSTANCE instance) {
 
 BOOL WINAPI GetClassInfoA(HINSTANCE instance, LPCSTR name, LPWNDCLASSA windowClass) {
     if (!name || !windowClass) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return 0;
+        return Fail(ERROR_INVALID_PARAMETER, 0);
     }
     InitialiseClasses();
     const UserGuard guard(UserLock());
     const WindowClass* found = FindClass(instance, name);
     if (!found) {
-        SetLastError(ERROR_CLASS_DOES_NOT_EXIST);
-        return 0;
+        return Fail(ERROR_CLASS_DOES_NOT_EXIST, 0);
     }
     *windowClass = {found->style,
                     found->procedure,
@@ -239,8 +226,7 @@ int WINAPI GetClassNameA(HWND window, LPSTR name, int size) {
         return 0;
     }
     if (!name || size <= 0) {
-        SetLastError(ERROR_INSUFFICIENT_BUFFER);
-        return 0;
+        return Fail(ERROR_INSUFFICIENT_BUFFER, 0);
     }
     return CopyText(object->windowClass->name, static_cast<std::size_t>(size), name);
 }

@@ -49,18 +49,6 @@ void MarkOwned(const Window* owner) {
     }
 }
 
-HWND TakeOwned(HWND handle) {
-    const UserGuard guard(UserLock());
-    const Window* owner = PeekWindow(handle);
-    for (Window* window = owner ? Desktop()->firstChild : nullptr; window; window = window->next) {
-        if (window->goesAlong && window->owner && IsWithin(window->owner, owner)) {
-            window->goesAlong = false;
-            return window->handle;
-        }
-    }
-    return nullptr;
-}
-
 void MarkChildren(HWND handle) {
     const UserGuard guard(UserLock());
     if (const Window* window = PeekWindow(handle)) {
@@ -70,13 +58,15 @@ void MarkChildren(HWND handle) {
     }
 }
 
-HWND TakeChild(HWND handle) {
+/// Takes a marked child of a window, or one that it owns.
+HWND TakeMarked(HWND handle, bool owned) {
     const UserGuard guard(UserLock());
     const Window* window = PeekWindow(handle);
-    for (Window* child = window ? window->firstChild : nullptr; child; child = child->next) {
-        if (child->goesAlong) {
-            child->goesAlong = false;
-            return child->handle;
+    const Window* parent = window && owned ? Desktop() : window;
+    for (Window* each = parent ? parent->firstChild : nullptr; each; each = each->next) {
+        if (each->goesAlong && (!owned || (each->owner && IsWithin(each->owner, window)))) {
+            each->goesAlong = false;
+            return each->handle;
         }
     }
     return nullptr;
@@ -86,7 +76,7 @@ HWND TakeChild(HWND handle) {
 void SendDestroy(HWND handle) {
     SendMessageA(handle, WM_DESTROY, 0, 0);
     MarkChildren(handle);
-    while (HWND child = TakeChild(handle)) {
+    while (HWND child = TakeMarked(handle, false)) {
         SendDestroy(child);
     }
 }
@@ -94,9 +84,7 @@ void SendDestroy(HWND handle) {
 /// A step on the way to a window's end, which is left out where memory has run out.
 template <class Step>
 void IfMemoryAllows(Step step) {
-    try {
-        step();
-    } catch (const std::bad_alloc&) {
+    if (!MemoryAllows(step)) {
         SetLastError(ERROR_NOT_ENOUGH_MEMORY);
     }
 }
@@ -201,7 +189,7 @@ bool DestroyTree(HWND handle) {
         window->destroying = true;
     }
     NotifyParents(handle, WM_DESTROY);
-    while (HWND owned = TakeOwned(handle)) {
+    while (HWND owned = TakeMarked(handle, true)) {
         {
             const UserGuard guard(UserLock());
             Window* window = PeekWindow(owned);
@@ -235,12 +223,7 @@ using namespace platform::user;
 BOOL WINAPI DestroyWindow(HWND handle) {
     {
         const UserGuard guard(UserLock());
-        const Window* window = FindWindowObject(handle);
-        if (!window) {
-            return FALSE;
-        }
-        if (window->thread != CurrentThread()) {
-            SetLastError(ERROR_ACCESS_DENIED);
+        if (!FindOwnWindow(handle)) {
             return FALSE;
         }
     }

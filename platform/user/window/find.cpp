@@ -1,4 +1,5 @@
 // Searching the window tree: by class and text, by a point, and by calling back for each window.
+#include <algorithm>
 #include <new>
 #include <vector>
 
@@ -17,21 +18,10 @@ void CollectDescendants(const Window* parent, std::vector<HWND>& list) {
     }
 }
 
-/// Calls back for windows that still live when their turn comes.
-BOOL Enumerate(const std::vector<HWND>& list, WNDENUMPROC procedure, LPARAM parameter) {
-    for (HWND window : list) {
-        if (PeekWindow(window) && !procedure(window, parameter)) {
-            return FALSE;
-        }
-    }
-    return TRUE;
-}
-
 template <class Collect>
 BOOL EnumerateCollected(WNDENUMPROC procedure, LPARAM parameter, Collect collect) {
     if (!procedure) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return FALSE;
+        return Fail(ERROR_INVALID_PARAMETER, FALSE);
     }
     std::vector<HWND> list;
     try {
@@ -40,10 +30,10 @@ BOOL EnumerateCollected(WNDENUMPROC procedure, LPARAM parameter, Collect collect
             return FALSE;
         }
     } catch (const std::bad_alloc&) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return FALSE;
+        return Fail(ERROR_NOT_ENOUGH_MEMORY, FALSE);
     }
-    return Enumerate(list, procedure, parameter);
+    // Some may not live any more when their turn comes.
+    return std::ranges::all_of(list, [=](HWND window) { return !PeekWindow(window) || procedure(window, parameter); });
 }
 
 bool Matches(const Window* window, LPCSTR className, LPCSTR text) {
@@ -60,15 +50,13 @@ HWND WINAPI FindWindowExA(HWND parentHandle, HWND afterHandle, LPCSTR className,
         return nullptr;
     }
     if (className && !IsClassName(className)) {
-        SetLastError(ERROR_CANNOT_FIND_WND_CLASS);
-        return nullptr;
+        return Fail(ERROR_CANNOT_FIND_WND_CLASS, nullptr);
     }
     const Window* window = parent->firstChild;
     if (afterHandle) {
         const Window* after = FindWindowObject(afterHandle);
         if (!after || after->parent != parent) {
-            SetLastError(ERROR_INVALID_WINDOW_HANDLE);
-            return nullptr;
+            return Fail(ERROR_INVALID_WINDOW_HANDLE, nullptr);
         }
         window = after->next;
     }
@@ -119,8 +107,7 @@ HWND WINAPI WindowFromPoint(POINT point) try {
     }
     return GetDesktopWindow();
 } catch (const std::bad_alloc&) {
-    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-    return nullptr;
+    return Fail(ERROR_NOT_ENOUGH_MEMORY, nullptr);
 }
 
 BOOL WINAPI EnumChildWindows(HWND parent, WNDENUMPROC procedure, LPARAM parameter) {
@@ -135,11 +122,7 @@ BOOL WINAPI EnumChildWindows(HWND parent, WNDENUMPROC procedure, LPARAM paramete
 
 BOOL WINAPI EnumThreadWindows(DWORD thread, WNDENUMPROC procedure, LPARAM parameter) {
     return EnumerateCollected(procedure, parameter, [=](std::vector<HWND>& list) {
-        for (const Window* window = Desktop()->firstChild; window; window = window->next) {
-            if (window->thread && window->thread->id == thread) {
-                list.push_back(window->handle);
-            }
-        }
+        list = TopLevelWindows([=](const Window* window) { return window->thread && window->thread->id == thread; });
         return !list.empty();
     });
 }

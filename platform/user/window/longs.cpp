@@ -13,8 +13,7 @@ namespace {
 /// Extra bytes at an offset, or null with ERROR_INVALID_INDEX set.
 std::byte* Extra(std::vector<std::byte>& extra, int index, std::size_t size) {
     if (index < 0 || static_cast<std::size_t>(index) + size > extra.size()) {
-        SetLastError(ERROR_INVALID_INDEX);
-        return nullptr;
+        return Fail(ERROR_INVALID_INDEX, nullptr);
     }
     return extra.data() + index;
 }
@@ -38,26 +37,16 @@ Number WriteExtra(std::vector<std::byte>& extra, int index, Number value) {
     return old;
 }
 
-LONG_PTR ChangeStyle(HWND handle, int index, DWORD value) {
-    const UserGuard guard(UserLock());
-    Window* window = FindWindowObject(handle);
-    if (!window) {
-        return 0;
-    }
-    if (index == GWL_EXSTYLE) {
-        // Only SetWindowPos changes the z-order.
-        value = (value & ~static_cast<DWORD>(WS_EX_TOPMOST)) | (window->exStyle & WS_EX_TOPMOST);
-    }
+LONG ChangeStyle(DWORD& style, DWORD value) {
     WindowsChanged();
-    return static_cast<LONG>(std::exchange(index == GWL_STYLE ? window->style : window->exStyle, value));
+    return static_cast<LONG>(std::exchange(style, value));
 }
 
 /// A window whose longs may be set: the desktop belongs to nobody.
 Window* FindChangeable(HWND handle) {
     Window* window = FindWindowObject(handle);
     if (window && !window->thread) {
-        SetLastError(ERROR_ACCESS_DENIED);
-        return nullptr;
+        return Fail(ERROR_ACCESS_DENIED, nullptr);
     }
     return window;
 }
@@ -78,8 +67,7 @@ LONG_PTR Get(HWND handle, int index, bool wide) {
         return 0;
     }
     if (TooWide(index, wide)) {
-        SetLastError(ERROR_INVALID_INDEX);
-        return 0;
+        return Fail(ERROR_INVALID_INDEX, 0);
     }
     switch (index) {
         case GWL_STYLE:
@@ -100,22 +88,21 @@ LONG_PTR Get(HWND handle, int index, bool wide) {
 }
 
 LONG_PTR Set(HWND handle, int index, LONG_PTR value, bool wide) {
+    const UserGuard guard(UserLock());
     Window* window = FindChangeable(handle);
     if (!window) {
         return 0;
     }
     if (TooWide(index, wide)) {
-        SetLastError(ERROR_INVALID_INDEX);
-        return 0;
-    }
-    if (index == GWL_STYLE || index == GWL_EXSTYLE) {
-        return ChangeStyle(handle, index, static_cast<DWORD>(value));
-    }
-    const UserGuard guard(UserLock());
-    if (!(window = FindChangeable(handle))) {
-        return 0;
+        return Fail(ERROR_INVALID_INDEX, 0);
     }
     switch (index) {
+        case GWL_STYLE:
+            return ChangeStyle(window->style, static_cast<DWORD>(value));
+        case GWL_EXSTYLE:
+            // Only SetWindowPos changes the z-order.
+            return ChangeStyle(window->exStyle,
+                               (static_cast<DWORD>(value) & ~DWORD{WS_EX_TOPMOST}) | (window->exStyle & WS_EX_TOPMOST));
         case GWLP_ID:
             return std::exchange(window->id, value);
         case GWLP_USERDATA:

@@ -13,10 +13,7 @@ BOOL WINAPI GetWindowPlacement(HWND handle, WINDOWPLACEMENT* placement) {
     const UserGuard guard(UserLock());
     const Window* window = FindWindowObject(handle);
     if (!window || !placement || placement->length != sizeof(WINDOWPLACEMENT)) {
-        if (window) {
-            SetLastError(ERROR_INVALID_PARAMETER);
-        }
-        return FALSE;
+        return window ? Fail(ERROR_INVALID_PARAMETER, FALSE) : FALSE;
     }
     const bool iconic = (window->style & WS_MINIMIZE) != 0;
     const bool zoomed = (window->style & WS_MAXIMIZE) != 0;
@@ -33,10 +30,7 @@ BOOL WINAPI SetWindowPlacement(HWND handle, const WINDOWPLACEMENT* placement) {
     UserHold hold(UserLock());
     Window* window = FindWindowObject(handle);
     if (!window || window == Desktop() || !placement || placement->length != sizeof(WINDOWPLACEMENT)) {
-        if (window) {
-            SetLastError(ERROR_INVALID_PARAMETER);
-        }
-        return FALSE;
+        return window ? Fail(ERROR_INVALID_PARAMETER, FALSE) : FALSE;
     }
     RECT rect = placement->rcNormalPosition;
     if (window->style & kStates) {

@@ -45,11 +45,7 @@ void Reduce(const Window* window, WINDOWPOS& position) {
         position.cx = rect.right - rect.left;
         position.cy = rect.bottom - rect.top;
     }
-    if ((window->style & WS_VISIBLE) != 0) {
-        flags &= ~static_cast<UINT>(SWP_SHOWWINDOW);
-    } else {
-        flags &= ~static_cast<UINT>(SWP_HIDEWINDOW);
-    }
+    flags &= ~static_cast<UINT>((window->style & WS_VISIBLE) != 0 ? SWP_SHOWWINDOW : SWP_HIDEWINDOW);
     const bool topLevel = window->parent == Desktop();
     const bool appears =
         (((window->style & WS_VISIBLE) != 0) || (flags & SWP_SHOWWINDOW) != 0) && (flags & SWP_HIDEWINDOW) == 0;
@@ -210,8 +206,7 @@ BOOL WINAPI SetWindowPos(HWND handle, HWND after, int x, int y, int width, int h
             return FALSE;
         }
         if (window == Desktop()) {
-            SetLastError(ERROR_ACCESS_DENIED);
-            return FALSE;
+            return Fail(ERROR_ACCESS_DENIED, FALSE);
         }
         if ((flags & SWP_NOZORDER) == 0 && !IsInsertAfter(after)) {
             const Window* sibling = FindWindowObject(after);
@@ -230,13 +225,9 @@ BOOL WINAPI SetWindowPos(HWND handle, HWND after, int x, int y, int width, int h
         CalculateClient(step);
         ThreadState* thread = CurrentThread();
         const HWND caret = thread == nullptr ? nullptr : thread->caret.window;
-        if (caret != nullptr) {
-            SuspendCaret(caret);
-        }
+        SuspendCaret(caret);
         Apply(step);
-        if (caret != nullptr) {
-            ResumeCaret(caret);
-        }
+        ResumeCaret(caret);
     }
     Report(step);
     return TRUE;

@@ -27,6 +27,9 @@ constexpr UINT kNoClientMove = 0x1000;
 void SendSize(HWND handle);
 void SendMove(HWND handle);
 
+/// @returns what a maximised window fills and minimised ones line up in: the work area, or the parent's client area. Lock held.
+RECT Ground(const Window* window);
+
 /// @returns where a window lies when it is maximised, after WM_GETMINMAXINFO has had its say. Sends; no lock held.
 RECT MaximisedPlace(HWND handle);
 

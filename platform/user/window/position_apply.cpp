@@ -86,11 +86,8 @@ void Apply(Step& step) {
         return;
     }
     std::vector<Companion> companions;
-    try {
-        companions = Companions(step, window);
-    } catch (const std::bad_alloc&) {
-        // Then they are drawn when next something uncovers them.
-    }
+    // Without memory they are drawn when next something uncovers them.
+    MemoryAllows([&] { companions = Companions(step, window); });
     const bool redraw = (position.flags & SWP_NOREDRAW) == 0;
     const bool wasVisible = (window->style & WS_VISIBLE) != 0;
     if (redraw) {

@@ -27,8 +27,7 @@ BOOL WINAPI SetPropA(HWND window, LPCSTR name, HANDLE data) try {
         return FALSE;
     }
     if (IS_INTRESOURCE(name) || !*name) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return FALSE;
+        return Fail(ERROR_INVALID_PARAMETER, FALSE);
     }
     const auto found = Locate(object, name);
     if (found != object->properties.end()) {
@@ -38,8 +37,7 @@ BOOL WINAPI SetPropA(HWND window, LPCSTR name, HANDLE data) try {
     }
     return TRUE;
 } catch (const std::bad_alloc&) {
-    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-    return FALSE;
+    return Fail(ERROR_NOT_ENOUGH_MEMORY, FALSE);
 }
 
 HANDLE WINAPI GetPropA(HWND window, LPCSTR name) {

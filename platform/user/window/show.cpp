@@ -1,6 +1,5 @@
 // Showing and hiding, minimising, maximising and restoring.
 #include <algorithm>
-#include <new>
 #include <utility>
 #include <vector>
 
@@ -45,16 +44,6 @@ Plan PlanOf(int show) {
         default:
             return {};
     }
-}
-
-/// The area that a maximised window fills and minimised ones line up in: the work area, or the parent's client area.
-RECT Ground(const Window* window) {
-    if (window->parent != nullptr && window->parent != Desktop()) {
-        return window->parent->clientRect;
-    }
-    RECT area{};
-    SystemParametersInfoA(SPI_GETWORKAREA, 0, &area, 0);
-    return area;
 }
 
 /// The first free place of a row along the lower edge.
@@ -136,9 +125,8 @@ void ShowOwned(HWND owner, bool show) {
         if (window == nullptr) {
             return;
         }
-        try {
-            owned = WindowsOwnedBy(window);
-        } catch (const std::bad_alloc&) {
+        if (!MemoryAllows(
+                [&] { owned = TopLevelWindows([=](const Window* each) { return each->owner == window; }); })) {
             return;
         }
     }
@@ -158,6 +146,10 @@ void ShowOwned(HWND owner, bool show) {
 }
 
 }  // namespace
+
+RECT Ground(const Window* window) {
+    return window->parent != nullptr && window->parent != Desktop() ? window->parent->clientRect : WorkArea();
+}
 
 RECT MaximisedPlace(HWND handle) {
     const MINMAXINFO limits = QueryMinMax(handle);
@@ -209,8 +201,7 @@ using namespace platform::user;
 
 BOOL WINAPI ShowWindow(HWND handle, int show) {
     if (show < SW_HIDE || show > SW_SHOWDEFAULT) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return FALSE;
+        return Fail(ERROR_INVALID_PARAMETER, FALSE);
     }
     Plan plan = PlanOf(show);
     bool wasVisible = false;

@@ -147,24 +147,22 @@ bool ClientOrigin(HWND handle, POINT* origin) {
 
 }  // namespace
 
-BOOL WINAPI ClientToScreen(HWND window, LPPOINT point) {
+static bool MovePoint(HWND window, LPPOINT point, int times) {
     POINT origin;
     if (!window || !point || !ClientOrigin(window, &origin)) {
-        return FALSE;
+        return false;
     }
-    point->x += origin.x;
-    point->y += origin.y;
-    return TRUE;
+    point->x += times * origin.x;
+    point->y += times * origin.y;
+    return true;
+}
+
+BOOL WINAPI ClientToScreen(HWND window, LPPOINT point) {
+    return MovePoint(window, point, 1);
 }
 
 BOOL WINAPI ScreenToClient(HWND window, LPPOINT point) {
-    POINT origin;
-    if (!window || !point || !ClientOrigin(window, &origin)) {
-        return FALSE;
-    }
-    point->x -= origin.x;
-    point->y -= origin.y;
-    return TRUE;
+    return MovePoint(window, point, -1);
 }
 
 int WINAPI MapWindowPoints(HWND from, HWND to, LPPOINT points, UINT count) {

@@ -7,10 +7,6 @@
 namespace platform::user {
 namespace {
 
-bool IsTopmost(const Window* window) {
-    return (window->exStyle & WS_EX_TOPMOST) != 0;
-}
-
 /// Links a window in front of `before`, or as the last one when it is null.
 void LinkBefore(Window* window, Window* before) {
     Window* parent = window->parent;
@@ -81,16 +77,6 @@ bool LeadsTo(const Window* window, const Window* target) {
     return false;
 }
 
-std::vector<HWND> WindowsOwnedBy(const Window* owner) {
-    std::vector<HWND> owned;
-    for (const Window* window = Desktop()->firstChild; window; window = window->next) {
-        if (window->owner == owner) {
-            owned.push_back(window->handle);
-        }
-    }
-    return owned;
-}
-
 }  // namespace platform::user
 
 using namespace platform::user;
@@ -148,8 +134,7 @@ HWND WINAPI GetWindow(HWND handle, UINT relation) {
         case GW_CHILD:
             return HandleOf(window->firstChild);
         default:
-            SetLastError(ERROR_INVALID_PARAMETER);
-            return nullptr;
+            return Fail(ERROR_INVALID_PARAMETER, nullptr);
     }
 }
 
@@ -174,12 +159,10 @@ HWND WINAPI SetParent(HWND handle, HWND newParent) {
             return nullptr;
         }
         if (!window->parent) {
-            SetLastError(ERROR_ACCESS_DENIED);
-            return nullptr;
+            return Fail(ERROR_ACCESS_DENIED, nullptr);
         }
         if (LeadsTo(parent, window)) {
-            SetLastError(ERROR_INVALID_PARAMETER);
-            return nullptr;
+            return Fail(ERROR_INVALID_PARAMETER, nullptr);
         }
         visible = (window->style & WS_VISIBLE) != 0;
     }
@@ -192,13 +175,11 @@ HWND WINAPI SetParent(HWND handle, HWND newParent) {
         Window* window = PeekWindow(handle);
         Window* parent = newParent ? PeekWindow(newParent) : Desktop();
         if (!window || !parent || parent->ending) {
-            SetLastError(ERROR_INVALID_WINDOW_HANDLE);
-            return nullptr;
+            return Fail(ERROR_INVALID_WINDOW_HANDLE, nullptr);
         }
         // Hiding it has let procedures run.
         if (LeadsTo(parent, window)) {
-            SetLastError(ERROR_INVALID_PARAMETER);
-            return nullptr;
+            return Fail(ERROR_INVALID_PARAMETER, nullptr);
         }
         // It keeps its place within the client area of whoever is its parent.
         const RECT from = window->parent->clientRect;

@@ -4,8 +4,6 @@
 
 #include <windows.h>
 
-#include <vector>
-
 #include "user/model/window.h"
 
 namespace platform::user {
@@ -19,7 +17,8 @@ void UnlinkWindow(Window* window);
 /// Lock held.
 bool LeadsTo(const Window* window, const Window* target);
 
-/// @returns the top-level windows of an owner, from the top of the z-order. Lock held.
-std::vector<HWND> WindowsOwnedBy(const Window* owner);
+inline bool IsTopmost(const Window* window) {
+    return (window->exStyle & WS_EX_TOPMOST) != 0;
+}
 
 }  // namespace platform::user

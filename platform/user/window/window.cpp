@@ -29,18 +29,12 @@ struct Request {
     bool show = false;
 };
 
-HWND Refuse(DWORD error) {
-    SetLastError(error);
-    return nullptr;
-}
-
 /// CW_USEDEFAULT for overlapped windows: each one a little below and to the right of the one before. With the default
 /// place, y may say how to show the window.
 void PlaceByDefault(Request& request) {
     static int turn = 0;
     CREATESTRUCTA& given = request.given;
-    RECT area{};
-    SystemParametersInfoA(SPI_GETWORKAREA, 0, &area, 0);
+    const RECT area = WorkArea();
     if (given.x == CW_USEDEFAULT) {
         request.showCommand = given.y == CW_USEDEFAULT ? SW_SHOW : given.y;
         const int step = (turn++ % 8) * (GetSystemMetrics(SM_CYCAPTION) + GetSystemMetrics(SM_CYSIZEFRAME));
@@ -123,9 +117,7 @@ Window* Make(const Request& request) {
     made->extra.resize(static_cast<std::size_t>(request.windowClass->windowExtra));
     made->parent = request.parent;
     made->owner = request.owner;
-    const POINT origin = request.parent == Desktop()
-                             ? POINT{0, 0}
-                             : POINT{request.parent->clientRect.left, request.parent->clientRect.top};
+    const POINT origin = ParentOrigin(made.get());
     // As far as SetWindowPos would bring it.
     const LONG left = origin.x + std::clamp(given.x, -0x8000, 0x7fff);
     const LONG top = origin.y + std::clamp(given.y, -0x8000, 0x7fff);
@@ -196,10 +188,10 @@ HWND Create(Request& request) {
         const UserGuard guard(UserLock());
         request.windowClass = FindClass(given.hInstance, given.lpszClass);
         if (!request.windowClass) {
-            return Refuse(ERROR_CANNOT_FIND_WND_CLASS);
+            return Fail(ERROR_CANNOT_FIND_WND_CLASS, nullptr);
         }
         if (const DWORD error = Complete(request)) {
-            return Refuse(error);
+            return Fail(error, nullptr);
         }
         handle = Make(request)->handle;
     }
@@ -224,11 +216,10 @@ using namespace platform::user;
 HWND WINAPI CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, int x, int y, int width,
                             int height, HWND parent, HMENU menu, HINSTANCE instance, LPVOID parameter) try {
     if (!className) {
-        SetLastError(ERROR_CANNOT_FIND_WND_CLASS);
-        return nullptr;
+        return Fail(ERROR_CANNOT_FIND_WND_CLASS, nullptr);
     }
     if (text && platform::kernel::ProbeLength(text) == platform::kernel::kBadText) {
-        return Refuse(ERROR_NOACCESS);
+        return Fail(ERROR_NOACCESS, nullptr);
     }
     InitialiseClasses();
     Request request;
@@ -246,8 +237,7 @@ HWND WINAPI CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD 
                      exStyle};
     return Create(request);
 } catch (const std::bad_alloc&) {
-    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-    return nullptr;
+    return Fail(ERROR_NOT_ENOUGH_MEMORY, nullptr);
 }
 
 LRESULT WINAPI CallWindowProcA(WNDPROC procedure, HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -12,17 +12,6 @@
 namespace platform::user {
 namespace {
 
-bool Topmost(const Window* window) {
-    return (window->exStyle & WS_EX_TOPMOST) != 0;
-}
-
-const Window* RootOwner(const Window* window) {
-    while (window->owner != nullptr) {
-        window = window->owner;
-    }
-    return window;
-}
-
 bool OwnedBy(const Window* window, const Window* owner) {
     for (const Window* at = window->owner; at != nullptr; at = at->owner) {
         if (at == owner) {
@@ -79,13 +68,13 @@ bool LiesBelow(const Window* window, const Window* above) {
 void RaiseOwners(const Window* window) {
     const Window* lowest = window;
     for (Window* owner = window->owner; owner != nullptr; owner = owner->owner) {
-        if (Topmost(owner) != Topmost(window)) {
+        if (IsTopmost(owner) != IsTopmost(window)) {
             return;
         }
         const std::vector<Window*> owned = OwnedWindows(owner);
         Relink(owner, lowest->handle);
         for (Window* other : owned) {
-            if (Topmost(other) == Topmost(owner) && LiesBelow(other, owner)) {
+            if (IsTopmost(other) == IsTopmost(owner) && LiesBelow(other, owner)) {
                 PlaceAbove(other, owner);
             }
         }
@@ -103,16 +92,16 @@ bool InPlace(const Window* window, HWND after) {
         while (above != nullptr && above->owner != nullptr && OwnedBy(above, window)) {
             above = above->previous;
         }
-        return above == nullptr || (Topmost(above) && !Topmost(window));
+        return above == nullptr || (IsTopmost(above) && !IsTopmost(window));
     }
     if (after == HWND_BOTTOM) {
-        return window->next == nullptr && !Topmost(window);
+        return window->next == nullptr && !IsTopmost(window);
     }
     if (after == HWND_TOPMOST) {
-        return Topmost(window) && window->previous == nullptr;
+        return IsTopmost(window) && window->previous == nullptr;
     }
     if (after == HWND_NOTOPMOST) {
-        return !Topmost(window);
+        return !IsTopmost(window);
     }
     return after == window->handle || (window->previous != nullptr && window->previous->handle == after);
 }
@@ -145,7 +134,7 @@ void ChangeOrder(Window* window, HWND after, UINT flags) {
         }
         Relink(window, after);
         for (Window* other : owned) {
-            if (Topmost(other) == Topmost(window)) {
+            if (IsTopmost(other) == IsTopmost(window)) {
                 PlaceAbove(other, window);
             }
         }

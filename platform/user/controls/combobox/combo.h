@@ -12,7 +12,6 @@ struct ComboData : ControlData {
     HWND window = nullptr;
     HWND edit = nullptr;  ///< null with CBS_DROPDOWNLIST
     HWND list = nullptr;
-    HFONT font = nullptr;
 
     int fieldHeight = 0;       ///< of the text's place, without the edge around it
     bool heightGiven = false;  ///< by the owner, so that the font leaves it alone
@@ -82,6 +81,8 @@ void ShowSelection(ComboData& combo);
 /// The index of the selection, -1 for none.
 int Current(const ComboData& combo);
 std::string ItemText(const ComboData& combo, int index);
+/// The item that begins with what stands in the edit control, LB_ERR for none.
+LRESULT FindTyped(const ComboData& combo);
 LRESULT OnComboMessage(ComboData& combo, UINT message, WPARAM wParam, LPARAM lParam);
 
 inline void NotifyCombo(const ComboData& combo, int code) {

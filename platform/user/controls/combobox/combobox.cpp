@@ -50,10 +50,7 @@ void OnEditNotification(ComboData& combo, UINT code) {
         return;
     // What is typed is no item of the list, which at most shows where it would be.
     SendMessageA(combo.list, LB_SETCURSEL, static_cast<WPARAM>(-1), 0);
-    const std::string text = ItemText(combo, -1);
-    const LRESULT nearest = text.empty() ? LB_ERR
-                                         : SendMessageA(combo.list, LB_FINDSTRING, static_cast<WPARAM>(-1),
-                                                        reinterpret_cast<LPARAM>(text.c_str()));
+    const LRESULT nearest = FindTyped(combo);
     if (nearest >= 0)
         SendMessageA(combo.list, LB_SETTOPINDEX, static_cast<WPARAM>(nearest), 0);
     NotifyCombo(combo, CBN_EDITCHANGE);
@@ -147,13 +144,7 @@ LRESULT OnInput(ComboData& combo, UINT message, WPARAM wParam, LPARAM lParam) {
     }
 }
 
-}  // namespace
-
-LRESULT CALLBACK ComboBoxProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    const auto data = ControlOf<ComboData>(window);
-    if (!data)
-        return AnswerWithoutData(window, message, wParam, lParam);
-    ComboData& combo = *data;
+LRESULT HandleComboBox(HWND window, ComboData& combo, UINT message, WPARAM wParam, LPARAM lParam) {
     // A procedure in front of this one may have kept WM_NCCREATE to itself.
     combo.window = window;
     switch (message) {
@@ -173,8 +164,6 @@ LRESULT CALLBACK ComboBoxProcedure(HWND window, UINT message, WPARAM wParam, LPA
         case WM_SIZE:
             LayOutCombo(combo);
             return 0;
-        case WM_ERASEBKGND:
-            return TRUE;
         case WM_PAINT:
             return PaintWith(window, [&](HDC context, const RECT&) { PaintCombo(combo, context); });
         case WM_ENABLE:
@@ -183,8 +172,6 @@ LRESULT CALLBACK ComboBoxProcedure(HWND window, UINT message, WPARAM wParam, LPA
         case WM_SETFONT:
             OnSetFont(combo, wParam, LOWORD(lParam) != 0);
             return 0;
-        case WM_GETFONT:
-            return reinterpret_cast<LRESULT>(combo.font);
         case WM_SETTEXT:
         case WM_GETTEXT:
         case WM_GETTEXTLENGTH:
@@ -209,14 +196,17 @@ LRESULT CALLBACK ComboBoxProcedure(HWND window, UINT message, WPARAM wParam, LPA
             const HWND parent = GetParent(window);
             return parent ? SendMessageA(parent, message, wParam, lParam) : 0;
         }
-        case WM_SYSCOLORCHANGE:
-            InvalidateRect(window, nullptr, TRUE);
-            return 0;
         default:
             if (message >= CB_ADDSTRING && message <= CB_FINDSTRINGEXACT)
                 return OnComboMessage(combo, message, wParam, lParam);
             return OnInput(combo, message, wParam, lParam);
     }
+}
+
+}  // namespace
+
+LRESULT CALLBACK ComboBoxProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    return AnswerAs<ComboData>(window, message, wParam, lParam, HandleComboBox);
 }
 
 }  // namespace platform::user

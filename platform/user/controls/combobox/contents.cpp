@@ -1,22 +1,20 @@
 // The messages of a combo box; most are the list's, or the edit control's.
-#include <algorithm>
+#include <utility>
 
 #include "user/controls/combobox/combo.h"
+#include "user/dialog/dialog.h"
 
 namespace platform::user {
 namespace {
 
+/// What the list answers as it is asked.
+constexpr std::pair<UINT, UINT> kListMessages[] = {
+    {CB_ADDSTRING, LB_ADDSTRING},     {CB_INSERTSTRING, LB_INSERTSTRING}, {CB_GETCOUNT, LB_GETCOUNT},
+    {CB_GETLBTEXT, LB_GETTEXT},       {CB_GETLBTEXTLEN, LB_GETTEXTLEN},   {CB_FINDSTRINGEXACT, LB_FINDSTRINGEXACT},
+    {CB_GETITEMDATA, LB_GETITEMDATA}, {CB_SETITEMDATA, LB_SETITEMDATA}};
+
 LRESULT ToList(const ComboData& combo, UINT message, WPARAM wParam, LPARAM lParam) {
     return SendMessageA(combo.list, message, wParam, lParam);
-}
-
-std::string TextOf(HWND window) try {
-    const int length = GetWindowTextLengthA(window);
-    std::string text(static_cast<std::size_t>(std::max(length, 0)) + 1, '\0');
-    text.resize(static_cast<std::size_t>(GetWindowTextA(window, text.data(), static_cast<int>(text.size()))));
-    return text;
-} catch (const std::bad_alloc&) {
-    return {};
 }
 
 LRESULT OnSetCurrent(ComboData& combo, WPARAM index) {
@@ -44,6 +42,12 @@ std::string ItemText(const ComboData& combo, int index) try {
     return {};
 }
 
+LRESULT FindTyped(const ComboData& combo) {
+    const std::string text = ItemText(combo, -1);
+    return text.empty() ? LB_ERR
+                        : ToList(combo, LB_FINDSTRING, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(text.c_str()));
+}
+
 void ShowSelection(ComboData& combo) {
     if (combo.edit) {
         const int index = Current(combo);
@@ -60,10 +64,6 @@ void ShowSelection(ComboData& combo) {
 
 LRESULT OnComboMessage(ComboData& combo, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-        case CB_ADDSTRING:
-            return ToList(combo, LB_ADDSTRING, 0, lParam);
-        case CB_INSERTSTRING:
-            return ToList(combo, LB_INSERTSTRING, wParam, lParam);
         case CB_DELETESTRING: {
             const bool chosen = Current(combo) >= 0;
             const LRESULT left = ToList(combo, LB_DELETESTRING, wParam, 0);
@@ -79,22 +79,10 @@ LRESULT OnComboMessage(ComboData& combo, UINT message, WPARAM wParam, LPARAM lPa
             combo.settled = -1;
             ShowSelection(combo);
             return CB_OKAY;
-        case CB_GETCOUNT:
-            return ToList(combo, LB_GETCOUNT, 0, 0);
-        case CB_GETLBTEXT:
-            return ToList(combo, LB_GETTEXT, wParam, lParam);
-        case CB_GETLBTEXTLEN:
-            return ToList(combo, LB_GETTEXTLEN, wParam, 0);
         case CB_GETCURSEL:
             return Current(combo);
         case CB_SETCURSEL:
             return OnSetCurrent(combo, wParam);
-        case CB_FINDSTRINGEXACT:
-            return ToList(combo, LB_FINDSTRINGEXACT, wParam, lParam);
-        case CB_GETITEMDATA:
-            return ToList(combo, LB_GETITEMDATA, wParam, 0);
-        case CB_SETITEMDATA:
-            return ToList(combo, LB_SETITEMDATA, wParam, lParam);
         case CB_SHOWDROPDOWN:
             if (wParam)
                 DropDown(combo);
@@ -107,6 +95,10 @@ LRESULT OnComboMessage(ComboData& combo, UINT message, WPARAM wParam, LPARAM lPa
             *reinterpret_cast<RECT*>(lParam) = DroppedRect(combo);
             return TRUE;
         default:
+            for (const auto& [own, lists] : kListMessages) {
+                if (message == own)
+                    return ToList(combo, lists, wParam, lParam);
+            }
             return CB_ERR;
     }
 }

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "user/controls/combobox/combo.h"
+#include "user/input/input.h"
 
 namespace platform::user {
 namespace {
@@ -26,17 +27,6 @@ RECT ListRect(const ComboData& combo) {
     const bool above = field.bottom + height > screen && field.top - height >= 0;
     const int top = above ? field.top - height : field.bottom;
     return {field.left, top, field.left + width, top + height};
-}
-
-/// In a drop-down combo box the item that begins with the text is where the list opens.
-void FindTyped(ComboData& combo) {
-    const std::string text = combo.edit ? ItemText(combo, -1) : std::string();
-    if (text.empty())
-        return;
-    const LRESULT found =
-        SendMessageA(combo.list, LB_FINDSTRING, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(text.c_str()));
-    if (found >= 0 && found != Current(combo))
-        SendMessageA(combo.list, LB_SETCURSEL, static_cast<WPARAM>(found), 0);
 }
 
 bool CombosKeys(const ComboData& combo, WPARAM key) {
@@ -87,7 +77,10 @@ void DropDown(ComboData& combo) {
     if (!list || combo.dropped)
         return;
     combo.settled = Current(combo);
-    FindTyped(combo);
+    // In a drop-down combo box the item that begins with the text is where the list opens.
+    const LRESULT typed = FindTyped(combo);
+    if (typed >= 0 && typed != Current(combo))
+        SendMessageA(combo.list, LB_SETCURSEL, static_cast<WPARAM>(typed), 0);
     combo.dropped = true;
     const RECT place = ListRect(combo);
     SetWindowPos(combo.list, HWND_TOP, place.left, place.top, place.right - place.left, place.bottom - place.top,
@@ -111,8 +104,7 @@ void CloseUp(ComboData& combo, bool taken) {
         EndTracking(*list);
         ShowWindow(combo.list, SW_HIDE);
     }
-    if (GetCapture() == combo.list)
-        ReleaseCapture();
+    LetGoOfMouse(combo.list);
     RedrawCombo(combo);
     NotifyCombo(combo, CBN_CLOSEUP);
 }

@@ -3,6 +3,7 @@
 
 #include "gdi/context/device_context.h"
 #include "user/controls/combobox/combo.h"
+#include "user/frame/nonclient.h"
 
 namespace platform::user {
 namespace {
@@ -17,24 +18,13 @@ HBRUSH FieldBrush(const ComboData& combo, HDC context) {
 }
 
 void AskOwner(const ComboData& combo, HDC context, const RECT& rect, bool focus) {
-    const HWND parent = GetParent(combo.window);
-    if (!parent)
-        return;
     const int index = Current(combo);
-    DRAWITEMSTRUCT item{};
-    item.CtlType = ODT_COMBOBOX;
-    item.CtlID = static_cast<UINT>(GetDlgCtrlID(combo.window));
-    item.itemID = static_cast<UINT>(index);
-    item.itemAction = ODA_DRAWENTIRE;
-    item.itemState = ODS_COMBOBOXEDIT | (focus ? UINT{ODS_FOCUS | ODS_SELECTED} : 0U) |
-                     (combo.Style() & WS_DISABLED ? UINT{ODS_DISABLED} : 0U);
-    item.hwndItem = combo.window;
-    item.hDC = context;
-    item.rcItem = rect;
-    if (index >= 0)
-        item.itemData = static_cast<ULONG_PTR>(SendMessageA(combo.list, LB_GETITEMDATA, static_cast<WPARAM>(index), 0));
+    const UINT state = ODS_COMBOBOXEDIT | (focus ? UINT{ODS_FOCUS | ODS_SELECTED} : 0U) |
+                       (combo.Style() & WS_DISABLED ? UINT{ODS_DISABLED} : 0U);
+    const LRESULT value = index >= 0 ? SendMessageA(combo.list, LB_GETITEMDATA, static_cast<WPARAM>(index), 0) : 0;
     IntersectClipRect(context, rect.left, rect.top, rect.right, rect.bottom);
-    SendMessageA(parent, WM_DRAWITEM, item.CtlID, reinterpret_cast<LPARAM>(&item));
+    AskToDraw({ODT_COMBOBOX, 0, static_cast<UINT>(index), ODA_DRAWENTIRE, state, combo.window, context, rect,
+               static_cast<ULONG_PTR>(value)});
 }
 
 void DrawChoice(const ComboData& combo, HDC context, const RECT& rect, bool focus) {
@@ -116,12 +106,8 @@ void PaintCombo(const ComboData& combo, HDC context) {
     GetClientRect(combo.window, &frame);
     frame.bottom = std::min<LONG>(frame.bottom, ClosedHeight(combo));
     DrawEdge(context, &frame, EDGE_SUNKEN, BF_RECT);
-    RECT arrow = ArrowRect(combo);
-    if (!IsRectEmpty(&arrow)) {
-        DrawFrameControl(context, &arrow, DFC_SCROLL,
-                         DFCS_SCROLLCOMBOBOX | (combo.pressed ? DFCS_PUSHED : 0U) |
-                             (combo.Style() & WS_DISABLED ? UINT{DFCS_INACTIVE} : 0U));
-    }
+    const RECT arrow = ArrowRect(combo);
+    DrawPart(context, arrow, DFC_SCROLL, DFCS_SCROLLCOMBOBOX, combo.pressed, combo.Style() & WS_DISABLED);
     RECT field = frame;
     InflateRect(&field, -kFieldEdge, -kFieldEdge);
     if (!IsRectEmpty(&arrow))
@@ -144,13 +130,7 @@ void PaintCombo(const ComboData& combo, HDC context) {
 }
 
 void RedrawCombo(const ComboData& combo) {
-    if (!IsWindowVisible(combo.window))
-        return;
-    const HDC context = GetDC(combo.window);
-    if (!context)
-        return;
-    PaintCombo(combo, context);
-    ReleaseDC(combo.window, context);
+    DrawNow(combo.window, [&](HDC context) { PaintCombo(combo, context); });
 }
 
 }  // namespace platform::user

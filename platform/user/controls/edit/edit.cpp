@@ -115,8 +115,7 @@ LRESULT OnWheel(HWND edit, EditData& data, WPARAM wParam, LPARAM lParam) {
 
 LRESULT OnSetText(HWND edit, EditData& data, LPCSTR text) {
     if (text && kernel::ProbeLength(text) == kernel::kBadText) {
-        SetLastError(ERROR_NOACCESS);
-        return FALSE;
+        return Fail(ERROR_NOACCESS, FALSE);
     }
     SetEditText(edit, data, text);
     return TRUE;
@@ -204,15 +203,11 @@ LRESULT Handle(HWND edit, EditData& data, UINT message, WPARAM wParam, LPARAM lP
         case WM_SETFONT:
             OnSetFont(edit, data, wParam, LOWORD(lParam) != 0);
             return 0;
-        case WM_GETFONT:
-            return reinterpret_cast<LRESULT>(data.font);
         case WM_SIZE:
             LayOut(edit, data);
             InvalidateRect(edit, nullptr, FALSE);
             PlaceEditCaret(edit, data);
             return 0;
-        case WM_ERASEBKGND:
-            return TRUE;
         case WM_PAINT:
             return PaintWith(edit, [&](HDC context, const RECT&) { PaintEdit(edit, data, context); });
         case WM_ENABLE:
@@ -223,9 +218,6 @@ LRESULT Handle(HWND edit, EditData& data, UINT message, WPARAM wParam, LPARAM lP
             return 0;
         case WM_KILLFOCUS:
             OnKillFocus(edit, data);
-            return 0;
-        case WM_SYSCOLORCHANGE:
-            InvalidateRect(edit, nullptr, FALSE);
             return 0;
         case WM_SETTEXT:
             return OnSetText(edit, data, reinterpret_cast<LPCSTR>(lParam));
@@ -253,16 +245,10 @@ LRESULT Handle(HWND edit, EditData& data, UINT message, WPARAM wParam, LPARAM lP
 
 }  // namespace
 
-LRESULT CALLBACK EditProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    const auto data = ControlOf<EditData>(window);
-    if (!data) {
-        return AnswerWithoutData(window, message, wParam, lParam);
-    }
-    try {
-        return Handle(window, *data, message, wParam, lParam);
-    } catch (const std::bad_alloc&) {
-        return 0;
-    }
+LRESULT CALLBACK EditProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) try {
+    return AnswerAs<EditData>(window, message, wParam, lParam, Handle);
+} catch (const std::bad_alloc&) {
+    return 0;
 }
 
 }  // namespace platform::user

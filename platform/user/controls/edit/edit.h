@@ -42,7 +42,6 @@ struct EditData : ControlData {
     char password = 0;  ///< shown in place of every character; 0: the text itself is shown
     char lead = 0;      ///< first byte of a double-byte character whose second one has yet to be typed
 
-    HFONT font = nullptr;
     int margin = 0;  ///< left and right of the text
     RECT format{};   ///< where text goes, client coordinates
     int lineHeight = 1;

@@ -11,10 +11,6 @@ constexpr WPARAM ControlCharacter(char letter) {
     return static_cast<WPARAM>(letter) - '@';
 }
 
-bool IsHeld(int key) {
-    return GetKeyState(key) < 0;
-}
-
 std::size_t LineStart(const EditData& data) {
     return data.lines[LineOf(data, data.caret)].start;
 }
@@ -63,29 +59,25 @@ void StepPage(HWND edit, EditData& data, int direction, bool shift) {
     }
 }
 
-/// Shift+Delete cuts, Ctrl+Delete removes the rest of the line.
-void Delete(HWND edit, EditData& data, bool shift, bool control) {
-    if (data.HasSelection()) {
-        if (shift) {
-            CutSelection(edit, data);
-        } else {
-            RemoveText(edit, data, data.SelectionStart(), data.SelectionEnd());
-        }
-    } else if (shift) {
-        // Nothing to cut; the key does what Backspace does.
-        RemoveText(edit, data, PreviousPosition(data.text, data.caret), data.caret);
-    } else {
-        const std::size_t lineEnd = data.lines[LineOf(data, data.caret)].End();
-        const std::size_t next = NextPosition(data.text, data.caret);
-        RemoveText(edit, data, data.caret, control ? std::max(lineEnd, std::min(next, lineEnd)) : next);
-    }
-}
-
 void Backspace(HWND edit, EditData& data) {
     if (data.HasSelection()) {
         RemoveText(edit, data, data.SelectionStart(), data.SelectionEnd());
     } else {
         RemoveText(edit, data, PreviousPosition(data.text, data.caret), data.caret);
+    }
+}
+
+/// Shift+Delete cuts, Ctrl+Delete removes the rest of the line.
+void Delete(HWND edit, EditData& data, bool shift, bool control) {
+    if (data.HasSelection() && shift) {
+        CutSelection(edit, data);
+    } else if (data.HasSelection() || shift) {
+        // With nothing to cut the key does what Backspace does.
+        Backspace(edit, data);
+    } else {
+        const std::size_t lineEnd = data.lines[LineOf(data, data.caret)].End();
+        const std::size_t next = NextPosition(data.text, data.caret);
+        RemoveText(edit, data, data.caret, control ? std::max(lineEnd, std::min(next, lineEnd)) : next);
     }
 }
 

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "user/controls/edit/edit.h"
+#include "user/input/input.h"
 
 namespace platform::user {
 namespace {
@@ -87,9 +88,7 @@ void EndEditDrag(HWND edit, EditData& data) {
     }
     data.drag = EditData::Drag::None;
     KillTimer(edit, kEditScrollTimer);
-    if (GetCapture() == edit) {
-        ReleaseCapture();
-    }
+    LetGoOfMouse(edit);
 }
 
 }  // namespace platform::user

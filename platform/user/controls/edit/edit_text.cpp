@@ -51,17 +51,26 @@ void Exchange(EditData& data, std::size_t start, std::size_t end, std::string_vi
     data.wantedX = -1;
 }
 
-/// After a change by the user: the layout, the parent's two notifications, and the picture between them.
-void Announce(HWND edit, EditData& data) {
-    BreakLines(edit, data);
-    ScrollToCaret(edit, data);
-    NotifyParent(edit, EN_UPDATE);
+/// The parent's two notifications, where it hears of a change, and the picture between them.
+void Present(HWND edit, const EditData& data, bool tells) {
+    if (tells) {
+        NotifyParent(edit, EN_UPDATE);
+    }
     if (!IsWindow(edit)) {
         return;
     }
     RedrawEdit(edit);
     PlaceEditCaret(edit, data);
-    NotifyParent(edit, EN_CHANGE);
+    if (tells) {
+        NotifyParent(edit, EN_CHANGE);
+    }
+}
+
+/// After a change by the user.
+void Announce(HWND edit, EditData& data) {
+    BreakLines(edit, data);
+    ScrollToCaret(edit, data);
+    Present(edit, data, true);
 }
 
 /// Without automatic scrolling a single line must stay within the format rectangle.
@@ -182,18 +191,7 @@ void SetEditText(HWND edit, EditData& data, LPCSTR text) {
     data.wantedX = -1;
     BreakLines(edit, data);
     // Only single-line controls tell the parent of a text that the application has set itself.
-    const bool tells = !IsMultiLine(edit);
-    if (tells) {
-        NotifyParent(edit, EN_UPDATE);
-    }
-    if (!IsWindow(edit)) {
-        return;
-    }
-    RedrawEdit(edit);
-    PlaceEditCaret(edit, data);
-    if (tells) {
-        NotifyParent(edit, EN_CHANGE);
-    }
+    Present(edit, data, !IsMultiLine(edit));
 }
 
 bool UndoEdit(HWND edit, EditData& data) {

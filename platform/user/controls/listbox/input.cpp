@@ -2,16 +2,13 @@
 #include <algorithm>
 
 #include "user/controls/listbox/list.h"
+#include "user/input/input.h"
 
 namespace platform::user {
 namespace {
 
 constexpr UINT_PTR kListScrollTimer = 0xFFFD;
 constexpr UINT kListScrollPeriod = 50;
-
-bool IsDown(int key) {
-    return GetKeyState(key) < 0;
-}
 
 /// The pointer of an extended list goes over items: from the anchor on all are alike.
 void DragTo(ListData& list, int index, bool keepOthers) {
@@ -68,7 +65,7 @@ void Follow(ListData& list, POINT point) {
         if (index != list.chosen)
             SelectOnly(list, index);
     } else if (list.Extended() && index != list.caret) {
-        DragTo(list, index, IsDown(VK_CONTROL));
+        DragTo(list, index, IsHeld(VK_CONTROL));
     }
 }
 
@@ -147,8 +144,8 @@ void OnListButtonUp(ListData& list) {
 void EndTracking(ListData& list) {
     list.tracking = false;
     KillTimer(list.window, kListScrollTimer);
-    if (GetCapture() == list.window && !list.following)
-        ReleaseCapture();
+    if (!list.following)
+        LetGoOfMouse(list.window);
 }
 
 namespace {
@@ -200,7 +197,7 @@ void GoTo(ListData& list, int index) {
         return;
     bool changed = true;
     if (list.Extended()) {
-        if (IsDown(VK_SHIFT) && list.items.Has(list.anchor)) {
+        if (IsHeld(VK_SHIFT) && list.items.Has(list.anchor)) {
             DragTo(list, index, false);
         } else {
             list.anchor = index;
@@ -222,7 +219,7 @@ void OnSpace(ListData& list) {
     const int index = list.caret;
     if (!list.items.Has(index))
         return;
-    if (list.Extended() && !IsDown(VK_CONTROL)) {
+    if (list.Extended() && !IsHeld(VK_CONTROL)) {
         GoTo(list, index);
         return;
     }

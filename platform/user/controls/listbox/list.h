@@ -55,7 +55,6 @@ struct ListData : ControlData {
     HWND window = nullptr;
     HWND combo = nullptr;  ///< the combo box that the list belongs to
     ListItems items;
-    HFONT font = nullptr;
 
     int itemHeight = 1;
     int columnWidth = 0;

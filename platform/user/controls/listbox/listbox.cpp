@@ -27,9 +27,7 @@ void UseFont(ListData& list, HFONT font) {
     if (before)
         SelectObject(context, before);
     ReleaseDC(list.window, context);
-    if (!list.OwnerDrawn())
-        list.itemHeight = std::max<int>(1, metrics.tmHeight);
-    else if (list.itemHeight <= 1)
+    if (!list.OwnerDrawn() || list.itemHeight <= 1)
         list.itemHeight = std::max<int>(1, metrics.tmHeight);
     if (list.columnWidth == 0)
         list.columnWidth = 15 * std::max<int>(1, metrics.tmAveCharWidth);
@@ -97,6 +95,7 @@ LRESULT OnInput(ListData& list, UINT message, WPARAM wParam, LPARAM lParam) {
             OnListButtonDown(list, MousePoint(lParam), wParam, message == WM_LBUTTONDBLCLK);
             return 0;
         case WM_LBUTTONUP:
+        case WM_CAPTURECHANGED:
             OnListButtonUp(list);
             return 0;
         case WM_MOUSEMOVE:
@@ -105,12 +104,6 @@ LRESULT OnInput(ListData& list, UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_MOUSEWHEEL:
             // A combo box hands the wheel on to its list, which must not hand it back.
             return OnWheel(list, wParam) || list.combo ? 0 : DefWindowProcA(list.window, message, wParam, lParam);
-        case WM_CAPTURECHANGED:
-            if (list.tracking) {
-                EndTracking(list);
-                NotifyList(list, LBN_SELCHANGE);
-            }
-            return 0;
         case WM_TIMER:
             OnListTimer(list);
             return 0;
@@ -163,11 +156,9 @@ LRESULT OnLayoutMessage(ListData& list, UINT message, WPARAM wParam, LPARAM lPar
     }
 }
 
-LRESULT CALLBACK ListBoxProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    const auto data = ControlOf<ListData>(window);
-    if (!data)
-        return AnswerWithoutData(window, message, wParam, lParam);
-    ListData& list = *data;
+namespace {
+
+LRESULT HandleListBox(HWND window, ListData& list, UINT message, WPARAM wParam, LPARAM lParam) {
     // A procedure in front of this one may have kept WM_NCCREATE to itself.
     list.window = window;
     switch (message) {
@@ -180,8 +171,6 @@ LRESULT CALLBACK ListBoxProcedure(HWND window, UINT message, WPARAM wParam, LPAR
             return list.combo ? MA_NOACTIVATE : DefWindowProcA(window, message, wParam, lParam);
         case WM_GETDLGCODE:
             return DLGC_WANTARROWS | DLGC_WANTCHARS;
-        case WM_ERASEBKGND:
-            return TRUE;
         case WM_PAINT:
             return PaintWith(window, [&](HDC context, const RECT& due) {
                 // What is not drawn now is marked again when drawing is switched on.
@@ -201,20 +190,21 @@ LRESULT CALLBACK ListBoxProcedure(HWND window, UINT message, WPARAM wParam, LPAR
             UseFont(list, reinterpret_cast<HFONT>(wParam));
             Renew(list);
             return 0;
-        case WM_GETFONT:
-            return reinterpret_cast<LRESULT>(list.font);
         case WM_SETFOCUS:
         case WM_KILLFOCUS:
             OnFocus(list, message == WM_SETFOCUS);
-            return 0;
-        case WM_SYSCOLORCHANGE:
-            InvalidateRect(window, nullptr, TRUE);
             return 0;
         default:
             if (message >= LB_ADDSTRING && message <= LB_FINDSTRINGEXACT)
                 return OnContentsMessage(list, message, wParam, lParam);
             return OnInput(list, message, wParam, lParam);
     }
+}
+
+}  // namespace
+
+LRESULT CALLBACK ListBoxProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    return AnswerAs<ListData>(window, message, wParam, lParam, HandleListBox);
 }
 
 }  // namespace platform::user

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "user/controls/listbox/list.h"
+#include "user/frame/nonclient.h"
 
 namespace platform::user {
 namespace {
@@ -17,14 +18,8 @@ struct Brush {
     Brush(const ListData& list, HDC given) : context(given), saved(SaveDC(given)) {
         if (list.font)
             SelectObject(context, list.font);
-        const ListOwner owner = OwnerOf(list);
-        const auto dc = reinterpret_cast<WPARAM>(context);
-        const auto self = reinterpret_cast<LPARAM>(list.window);
         // The owner of a combo box colours its list as well.
-        LRESULT brush = owner.parent ? SendMessageA(owner.parent, WM_CTLCOLORLISTBOX, dc, self) : 0;
-        if (!brush)
-            brush = DefWindowProcA(list.window, WM_CTLCOLORLISTBOX, dc, self);
-        ground = reinterpret_cast<HBRUSH>(brush);
+        ground = AskForBrush(OwnerOf(list).parent, WM_CTLCOLORLISTBOX, context, list.window);
     }
     ~Brush() {
         RestoreDC(context, saved);
@@ -39,20 +34,10 @@ bool ShowsCaret(const ListData& list, int index) {
 
 void AskOwner(const ListData& list, HDC context, int index, const RECT& rect, UINT action, bool focus) {
     const ListOwner owner = OwnerOf(list);
-    if (!owner.parent)
-        return;
-    DRAWITEMSTRUCT item{};
-    item.CtlType = owner.kind;
-    item.CtlID = owner.id;
-    item.itemID = static_cast<UINT>(index);
-    item.itemAction = action;
-    item.itemState = (index >= 0 && list.IsSelected(index) ? UINT{ODS_SELECTED} : 0U) | (focus ? UINT{ODS_FOCUS} : 0U) |
-                     (list.Style() & WS_DISABLED ? UINT{ODS_DISABLED} : 0U);
-    item.hwndItem = owner.control;
-    item.hDC = context;
-    item.rcItem = rect;
-    item.itemData = index >= 0 ? list.items[index].data : 0;
-    SendMessageA(owner.parent, WM_DRAWITEM, owner.id, reinterpret_cast<LPARAM>(&item));
+    const UINT state = (index >= 0 && list.IsSelected(index) ? UINT{ODS_SELECTED} : 0U) |
+                       (focus ? UINT{ODS_FOCUS} : 0U) | (list.Style() & WS_DISABLED ? UINT{ODS_DISABLED} : 0U);
+    AskToDraw({owner.kind, 0, static_cast<UINT>(index), action, state, owner.control, context, rect,
+               index >= 0 ? list.items[index].data : 0});
 }
 
 void DrawOwnItem(const ListData& list, const Brush& brush, int index, RECT rect) {
@@ -145,22 +130,18 @@ void PaintItems(ListData& list, HDC context, const RECT& area) {
 }
 
 void RedrawItem(ListData& list, int index, UINT action) {
-    if (!list.redraw || !list.items.Has(index) || !IsWindowVisible(list.window))
+    if (!list.redraw || !list.items.Has(index))
         return;
     const RECT rect = RectOf(list, index);
     const RECT client = ListClient(list);
     RECT seen{};
     if (!IntersectRect(&seen, &rect, &client))
         return;
-    const HDC context = GetDC(list.window);
-    if (!context)
-        return;
-    {
+    DrawNow(list.window, [&](HDC context) {
         const Brush brush(list, context);
         if (list.items.Has(index))
             DrawOne(list, brush, index, action);
-    }
-    ReleaseDC(list.window, context);
+    });
 }
 
 void InvalidateFrom(ListData& list, int index) {

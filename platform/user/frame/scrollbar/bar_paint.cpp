@@ -1,15 +1,9 @@
 // How scroll bars look: raised arrows and thumb on a shaft of every second pixel white.
 #include "user/frame/scrollbar/bar.h"
+#include "user/frame/nonclient.h"
 
 namespace platform::user {
 namespace {
-
-void DrawArrow(HDC context, RECT rect, UINT kind, bool pressed, bool disabled) {
-    if (!IsRectEmpty(&rect)) {
-        DrawFrameControl(context, &rect, DFC_SCROLL,
-                         kind | (pressed ? DFCS_PUSHED : 0U) | (disabled ? DFCS_INACTIVE : 0U));
-    }
-}
 
 void DrawShaft(HDC context, const RECT& rect, HBRUSH brush, bool pressed) {
     if (IsRectEmpty(&rect)) {
@@ -25,10 +19,10 @@ void DrawShaft(HDC context, const RECT& rect, HBRUSH brush, bool pressed) {
 
 void DrawBar(HDC context, const BarLayout& layout, const BarState& state, BarPart pressed, HBRUSH shaft) {
     const bool still = !CanScroll(state) || state.disabled;
-    DrawArrow(context, layout.firstArrow, layout.vertical ? DFCS_SCROLLUP : DFCS_SCROLLLEFT,
-              pressed == BarPart::FirstArrow, still);
-    DrawArrow(context, layout.secondArrow, layout.vertical ? DFCS_SCROLLDOWN : DFCS_SCROLLRIGHT,
-              pressed == BarPart::SecondArrow, still);
+    DrawPart(context, layout.firstArrow, DFC_SCROLL, layout.vertical ? DFCS_SCROLLUP : DFCS_SCROLLLEFT,
+             pressed == BarPart::FirstArrow, still);
+    DrawPart(context, layout.secondArrow, DFC_SCROLL, layout.vertical ? DFCS_SCROLLDOWN : DFCS_SCROLLRIGHT,
+             pressed == BarPart::SecondArrow, still);
     DrawShaft(context, FirstShaft(layout), shaft, pressed == BarPart::FirstShaft);
     DrawShaft(context, SecondShaft(layout), shaft, pressed == BarPart::SecondShaft);
     if (!IsRectEmpty(&layout.thumb)) {

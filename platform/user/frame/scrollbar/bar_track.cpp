@@ -2,6 +2,7 @@
 #include "user/frame/above.h"
 #include "user/frame/nonclient.h"
 #include "user/frame/scrollbar/bar.h"
+#include "user/input/input.h"
 
 namespace platform::user {
 namespace {
@@ -162,9 +163,7 @@ class Hold {
         if (part_ == BarPart::Thumb) {
             Drag(bar_, false, 0, 0);
         }
-        if (GetCapture() == bar_.window) {
-            ReleaseCapture();
-        }
+        LetGoOfMouse(bar_.window);
         PaintBar(bar_);
         if (part_ == BarPart::Thumb) {
             TellBar(bar_, SB_THUMBPOSITION, track_);

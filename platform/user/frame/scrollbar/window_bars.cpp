@@ -1,9 +1,8 @@
 // The scroll bars at a window's edges, and the calls that set and ask for what any scroll bar shows.
 #include "user/frame/scrollbar/bar.h"
 
-#include <new>
-
 #include "user/frame/above.h"
+#include "user/frame/nonclient.h"
 
 namespace platform::user {
 namespace {
@@ -14,9 +13,7 @@ BarState* StateOf(Window* window, bool vertical, bool make) {
         if (!make && !(window->style & (WS_HSCROLL | WS_VSCROLL))) {
             return nullptr;
         }
-        try {
-            window->bars = std::make_shared<WindowBars>();
-        } catch (const std::bad_alloc&) {
+        if (!MemoryAllows([=] { window->bars = std::make_shared<WindowBars>(); })) {
             return nullptr;
         }
     }
@@ -25,16 +22,6 @@ BarState* StateOf(Window* window, bool vertical, bool make) {
 
 bool SameLayout(const BarLayout& a, const BarLayout& b) {
     return EqualRect(&a.whole, &b.whole) && EqualRect(&a.thumb, &b.thumb);
-}
-
-HBRUSH ShaftBrush(HWND asked, HDC context, HWND bar) {
-    LRESULT brush =
-        SendMessageA(asked, WM_CTLCOLORSCROLLBAR, reinterpret_cast<WPARAM>(context), reinterpret_cast<LPARAM>(bar));
-    if (!brush) {
-        brush = DefWindowProcA(asked, WM_CTLCOLORSCROLLBAR, reinterpret_cast<WPARAM>(context),
-                               reinterpret_cast<LPARAM>(bar));
-    }
-    return reinterpret_cast<HBRUSH>(brush);
 }
 
 bool Knows(int bar) {
@@ -152,7 +139,8 @@ void Draw(const Bar& bar, HDC context, BarPart pressed) {
         state.disabled = true;
         layout.thumb = RECT{};
     }
-    DrawBar(context, layout, state, pressed, ShaftBrush(parent ? parent : bar.window, context, bar.window));
+    DrawBar(context, layout, state, pressed,
+            AskForBrush(parent ? parent : bar.window, WM_CTLCOLORSCROLLBAR, context, bar.window));
     RestoreDC(context, saved);
 }
 
@@ -208,8 +196,7 @@ int WINAPI SetScrollInfo(HWND window, int bar, LPCSCROLLINFO info, BOOL redraw) 
         return 0;
     }
     if (!Knows(bar) || !info || info->cbSize != sizeof *info) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return 0;
+        return Fail(ERROR_INVALID_PARAMETER, 0);
     }
     if (bar == SB_CTL) {
         return static_cast<int>(
@@ -223,8 +210,7 @@ BOOL WINAPI GetScrollInfo(HWND handle, int bar, LPSCROLLINFO info) {
         return FALSE;
     }
     if (!Knows(bar) || !info) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return FALSE;
+        return Fail(ERROR_INVALID_PARAMETER, FALSE);
     }
     if (bar == SB_CTL) {
         return SendMessageA(handle, SBM_GETSCROLLINFO, 0, reinterpret_cast<LPARAM>(info)) != 0;
@@ -233,14 +219,9 @@ BOOL WINAPI GetScrollInfo(HWND handle, int bar, LPSCROLLINFO info) {
     Window* window = FindWindowObject(handle);
     const BarState* own = window ? StateOf(window, bar == SB_VERT, false) : nullptr;
     if (!own) {
-        SetLastError(ERROR_NO_SCROLLBARS);
-        return FALSE;
+        return Fail(ERROR_NO_SCROLLBARS, FALSE);
     }
-    if (!FillInfo(*own, info)) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return FALSE;
-    }
-    return TRUE;
+    return FillInfo(*own, info) ? TRUE : Fail(ERROR_INVALID_PARAMETER, FALSE);
 }
 
 int WINAPI SetScrollPos(HWND handle, int bar, int position, BOOL redraw) {
