@@ -41,7 +41,6 @@ typedef short SHORT;
 typedef unsigned short USHORT;
 typedef char CHAR;
 typedef char16_t WCHAR;
-typedef long long LONGLONG;
 typedef unsigned long long ULONGLONG;
 typedef void VOID;
 typedef intptr_t INT_PTR;
@@ -132,4 +131,3 @@ typedef struct tagRECT {
 #define LOWORD(value) ((WORD)((DWORD_PTR)(value)&0xffff))
 #define HIWORD(value) ((WORD)(((DWORD_PTR)(value) >> 16) & 0xffff))
 #define LOBYTE(value) ((BYTE)((DWORD_PTR)(value)&0xff))
-#define HIBYTE(value) ((BYTE)(((DWORD_PTR)(value) >> 8) & 0xff))

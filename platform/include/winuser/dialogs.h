@@ -18,26 +18,12 @@ typedef struct {
     short cx;
     short cy;
 } DLGTEMPLATE;
-
-/// The head of an item, on a DWORD boundary; class, title and creation data follow.
-typedef struct {
-    DWORD style;
-    DWORD dwExtendedStyle;
-    short x;
-    short y;
-    short cx;
-    short cy;
-    WORD id;
-} DLGITEMTEMPLATE;
 #pragma pack(pop)
 
 typedef DLGTEMPLATE* LPDLGTEMPLATEA;
 typedef DLGTEMPLATE* LPDLGTEMPLATE;
 typedef const DLGTEMPLATE* LPCDLGTEMPLATEA;
 typedef const DLGTEMPLATE* LPCDLGTEMPLATE;
-typedef DLGITEMTEMPLATE* PDLGITEMTEMPLATEA;
-typedef DLGITEMTEMPLATE* LPDLGITEMTEMPLATEA;
-typedef DLGITEMTEMPLATE* LPDLGITEMTEMPLATE;
 
 #define DS_3DLOOK 0x0004
 #define DS_SETFONT 0x40
@@ -68,8 +54,6 @@ typedef DLGITEMTEMPLATE* LPDLGITEMTEMPLATE;
 #define IDIGNORE 5
 #define IDYES 6
 #define IDNO 7
-#define IDCLOSE 8
-#define IDHELP 9
 
 #define MB_OK 0x00000000
 #define MB_OKCANCEL 0x00000001
@@ -81,10 +65,6 @@ typedef DLGITEMTEMPLATE* LPDLGITEMTEMPLATE;
 #define MB_ICONQUESTION 0x00000020
 #define MB_ICONEXCLAMATION 0x00000030
 #define MB_ICONASTERISK 0x00000040
-#define MB_ICONWARNING MB_ICONEXCLAMATION
-#define MB_ICONERROR MB_ICONHAND
-#define MB_ICONINFORMATION MB_ICONASTERISK
-#define MB_ICONSTOP MB_ICONHAND
 #define MB_DEFBUTTON1 0x00000000
 #define MB_DEFBUTTON2 0x00000100
 #define MB_DEFBUTTON3 0x00000200
@@ -138,7 +118,6 @@ WINUSERAPI LONG WINAPI GetDialogBaseUnits(void);
 WINUSERAPI int WINAPI MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type);
 WINUSERAPI BOOL WINAPI MessageBeep(UINT type);
 
-#ifndef CVPLATFORM_NO_GENERIC_NAMES
 #define CreateDialogParam CreateDialogParamA
 #define CreateDialogIndirectParam CreateDialogIndirectParamA
 #define DialogBoxParam DialogBoxParamA
@@ -152,4 +131,3 @@ WINUSERAPI BOOL WINAPI MessageBeep(UINT type);
 #define GetDlgItemText GetDlgItemTextA
 #define SendDlgItemMessage SendDlgItemMessageA
 #define MessageBox MessageBoxA
-#endif

@@ -20,9 +20,6 @@
 #define IDI_QUESTION MAKEINTRESOURCEA(32514)
 #define IDI_EXCLAMATION MAKEINTRESOURCEA(32515)
 #define IDI_ASTERISK MAKEINTRESOURCEA(32516)
-#define IDI_WARNING IDI_EXCLAMATION
-#define IDI_ERROR IDI_HAND
-#define IDI_INFORMATION IDI_ASTERISK
 
 /// The system's cursors alone: `instance` is null.
 WINUSERAPI HCURSOR WINAPI LoadCursorA(HINSTANCE instance, LPCSTR name);
@@ -31,7 +28,5 @@ WINUSERAPI BOOL WINAPI DestroyIcon(HICON icon);
 
 WINUSERAPI BOOL WINAPI DrawIcon(HDC context, int x, int y, HICON icon);
 
-#ifndef CVPLATFORM_NO_GENERIC_NAMES
 #define LoadCursor LoadCursorA
 #define LoadIcon LoadIconA
-#endif

@@ -225,7 +225,6 @@ WINUSERAPI DWORD WINAPI GetMessagePos(VOID);
 WINUSERAPI UINT_PTR WINAPI SetTimer(HWND window, UINT_PTR id, UINT period, TIMERPROC procedure);
 WINUSERAPI BOOL WINAPI KillTimer(HWND window, UINT_PTR id);
 
-#ifndef CVPLATFORM_NO_GENERIC_NAMES
 #define SendMessage SendMessageA
 #define SendMessageTimeout SendMessageTimeoutA
 #define PostMessage PostMessageA
@@ -234,7 +233,6 @@ WINUSERAPI BOOL WINAPI KillTimer(HWND window, UINT_PTR id);
 #define GetMessage GetMessageA
 #define PeekMessage PeekMessageA
 #define DispatchMessage DispatchMessageA
-#endif
 
 // --- WM_HSCROLL, WM_VSCROLL
 
