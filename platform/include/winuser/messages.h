@@ -204,14 +204,13 @@ WINUSERAPI UINT WINAPI RegisterWindowMessageA(LPCSTR name);
 #define QS_INPUT (QS_MOUSE | QS_KEY)
 #define QS_ALLINPUT (QS_INPUT | QS_POSTMESSAGE | QS_TIMER | QS_PAINT | QS_HOTKEY | QS_SENDMESSAGE)
 
-#ifndef MAXIMUM_WAIT_OBJECTS
 #define MAXIMUM_WAIT_OBJECTS 64
-#endif
 
 WINUSERAPI BOOL WINAPI GetMessageA(LPMSG message, HWND window, UINT first, UINT last);
 WINUSERAPI BOOL WINAPI PeekMessageA(LPMSG message, HWND window, UINT first, UINT last, UINT remove);
 WINUSERAPI BOOL WINAPI TranslateMessage(const MSG* message);
 WINUSERAPI LRESULT WINAPI DispatchMessageA(const MSG* message);
+/// @param waitAll  FALSE; waiting for all objects together fails with ERROR_NOT_SUPPORTED.
 WINUSERAPI DWORD WINAPI MsgWaitForMultipleObjects(DWORD count, const HANDLE* handles, BOOL waitAll, DWORD milliseconds,
                                                   DWORD wakeMask);
 WINUSERAPI LONG WINAPI GetMessageTime(VOID);

@@ -1,7 +1,6 @@
 // Threads and events, and waiting for them.
 #include "kernel/process/waitable.h"
 
-#include <algorithm>
 #include <chrono>
 #include <condition_variable>
 #include <future>
@@ -51,9 +50,7 @@ using platform::kernel::Waitable;
 namespace {
 
 // The handle table keeps plain pointers: this is the share that belongs to the handle.
-struct HandleShare {
-    std::shared_ptr<Waitable> object;
-};
+using HandleShare = std::shared_ptr<Waitable>;
 
 // A share may be taken out of the table and deleted by another thread: it is read, and taken out, only under this lock.
 std::mutex& SharesLock() {
@@ -62,7 +59,7 @@ std::mutex& SharesLock() {
 }
 
 HANDLE MakeHandle(HandleKind kind, const std::shared_ptr<Waitable>& object) {
-    auto share = std::make_unique<HandleShare>(HandleShare{object});
+    auto share = std::make_unique<HandleShare>(object);
     const std::uint32_t handle = base::InsertHandle(kind, share.get());
     if (handle) {
         share.release();
@@ -74,7 +71,7 @@ std::shared_ptr<Waitable> FindWaitable(HANDLE handle, std::initializer_list<Hand
     const std::lock_guard guard(SharesLock());
     for (const HandleKind kind : kinds) {
         if (const auto* share = base::Find<HandleShare>(handle, kind)) {
-            return share->object;
+            return *share;
         }
     }
     return base::Fail<std::shared_ptr<Waitable>>(ERROR_INVALID_HANDLE, nullptr);
@@ -87,67 +84,45 @@ namespace platform::kernel {
 ObjectWait::ObjectWait(const HANDLE* handles, DWORD count, void (*wake)(void* context), void* context)
     : wake_(wake), context_(context) {
     objects_.reserve(count);
-    ordered_.reserve(count);
     for (DWORD i = 0; i < count; ++i) {
         auto object = FindWaitable(handles[i], {HandleKind::Event, HandleKind::Thread});
         if (!object) {
             error_ = ERROR_INVALID_HANDLE;
             return;
         }
-        ordered_.push_back(object.get());
         objects_.push_back(std::move(object));
     }
-    std::sort(ordered_.begin(), ordered_.end());
-    ordered_.erase(std::unique(ordered_.begin(), ordered_.end()), ordered_.end());
-    std::size_t known = 0;
     try {
-        for (; known < ordered_.size(); ++known) {
-            const std::lock_guard guard(ordered_[known]->lock);
-            ordered_[known]->waits.push_back(this);
+        for (const auto& object : objects_) {
+            const std::lock_guard guard(object->lock);
+            object->waits.push_back(this);
         }
     } catch (...) {
-        ordered_.resize(known);
         Forget();
         throw;
     }
 }
 
 ObjectWait::~ObjectWait() {
-    if (error_ == ERROR_SUCCESS) {
-        Forget();
-    }
+    Forget();
 }
 
 void ObjectWait::Forget() {
-    for (Waitable* object : ordered_) {
+    for (const auto& object : objects_) {
         const std::lock_guard guard(object->lock);
         std::erase(object->waits, this);
     }
 }
 
-DWORD ObjectWait::Take(bool all) {
-    if (!all) {
-        for (std::size_t i = 0; i < objects_.size(); ++i) {
-            const std::lock_guard guard(objects_[i]->lock);
-            if (objects_[i]->signalled) {
-                objects_[i]->Take();
-                return WAIT_OBJECT_0 + static_cast<DWORD>(i);
-            }
+DWORD ObjectWait::Take() {
+    for (std::size_t i = 0; i < objects_.size(); ++i) {
+        const std::lock_guard guard(objects_[i]->lock);
+        if (objects_[i]->signalled) {
+            objects_[i]->Take();
+            return WAIT_OBJECT_0 + static_cast<DWORD>(i);
         }
-        return WAIT_TIMEOUT;
     }
-    for (Waitable* object : ordered_) {
-        object->lock.lock();
-    }
-    const bool signalled =
-        std::all_of(ordered_.begin(), ordered_.end(), [](const Waitable* object) { return object->signalled; });
-    for (Waitable* object : ordered_) {
-        if (signalled) {
-            object->Take();
-        }
-        object->lock.unlock();
-    }
-    return signalled ? WAIT_OBJECT_0 : WAIT_TIMEOUT;
+    return WAIT_TIMEOUT;
 }
 
 }  // namespace platform::kernel

@@ -25,17 +25,10 @@ class ObjectWait {
     DWORD Error() const {
         return error_;
     }
-    bool Empty() const {
-        return objects_.empty();
-    }
-    /// @returns whether two of the handles lead to the same object.
-    bool HasTwice() const {
-        return ordered_.size() < objects_.size();
-    }
 
-    /// Takes one object that is signalled, the first of them, or all at once. Must not be called with a lock held that
-    /// `wake` takes. @returns WAIT_OBJECT_0 and more, or WAIT_TIMEOUT.
-    DWORD Take(bool all);
+    /// Takes the first object that is signalled. Must not be called with a lock held that `wake` takes.
+    /// @returns WAIT_OBJECT_0 and more, or WAIT_TIMEOUT.
+    DWORD Take();
 
     void Wake() const {
         wake_(context_);
@@ -45,7 +38,6 @@ class ObjectWait {
     void Forget();
 
     std::vector<std::shared_ptr<Waitable>> objects_;
-    std::vector<Waitable*> ordered_;  ///< each once, as they are locked together
     void (*wake_)(void* context);
     void* context_;
     DWORD error_ = ERROR_SUCCESS;

@@ -22,29 +22,28 @@ void NoteSignalled(void* thread) {
 }
 
 // Waits for messages that came since the queue was last looked at, or for kernel objects, whose outcome goes to `taken`.
-// `all`: for a message and all objects together.
-Waited Wait(ThreadState* self, UserHold& hold, DWORD mask, kernel::ObjectWait* objects, bool all,
-            std::uint64_t deadline, DWORD* taken) {
+Waited Wait(ThreadState* self, UserHold& hold, DWORD mask, kernel::ObjectWait* objects, std::uint64_t deadline,
+            DWORD* taken) {
     const auto arrived = [&] { return (self->wakeBits & mask) != 0; };
     for (;;) {
         const std::uint64_t next = std::min(CheckTimers(self), CheckCaret(self));
         const bool message = arrived();
         self->objectSignalled = false;
-        if (objects != nullptr && (message || !all)) {
+        if (objects != nullptr) {
             // Those who signal take the objects' locks before this one.
             hold.unlock();
-            *taken = objects->Take(all);
+            *taken = objects->Take();
             hold.lock();
             if (*taken != WAIT_TIMEOUT) {
                 return Waited::Objects;
             }
         }
-        if (message && !all) {
+        if (message) {
             return Waited::Message;
         }
         if (!self->sent.empty()) {
             ServeSent(self, hold);
-            if ((mask & QS_SENDMESSAGE) != 0 && !all) {
+            if ((mask & QS_SENDMESSAGE) != 0) {
                 return Waited::Message;
             }
             continue;
@@ -53,7 +52,7 @@ Waited Wait(ThreadState* self, UserHold& hold, DWORD mask, kernel::ObjectWait* o
             return Waited::TimedOut;
         }
         // What came while the lock was open has woken nobody.
-        if (!self->objectSignalled && arrived() == message) {
+        if (!self->objectSignalled && !arrived()) {
             Sleep(self, hold, std::min(next, deadline));
         }
     }
@@ -72,20 +71,24 @@ DWORD WINAPI MsgWaitForMultipleObjects(DWORD count, const HANDLE* handles, BOOL 
         SetLastError(ERROR_INVALID_PARAMETER);
         return WAIT_FAILED;
     }
+    if (all && count > 0) {
+        SetLastError(ERROR_NOT_SUPPORTED);
+        return WAIT_FAILED;
+    }
     OpenDisplay();
     return kernel::Guarded(WAIT_FAILED, [&]() -> DWORD {
         std::optional<kernel::ObjectWait> objects;
         if (count > 0) {
             objects.emplace(handles, count, NoteSignalled, self);
-            if (const DWORD error = objects->Error(); error != ERROR_SUCCESS || (all && objects->HasTwice())) {
-                SetLastError(error != ERROR_SUCCESS ? error : ERROR_INVALID_PARAMETER);
+            if (const DWORD error = objects->Error(); error != ERROR_SUCCESS) {
+                SetLastError(error);
                 return WAIT_FAILED;
             }
         }
         UserHold hold(UserLock());
         const std::uint64_t deadline = milliseconds == INFINITE ? UINT64_MAX : base::TickCount64() + milliseconds;
         DWORD taken = 0;
-        switch (Wait(self, hold, mask, objects ? &*objects : nullptr, all && objects, deadline, &taken)) {
+        switch (Wait(self, hold, mask, objects ? &*objects : nullptr, deadline, &taken)) {
             case Waited::Message:
                 self->wakeBits &= ~mask;
                 return WAIT_OBJECT_0 + count;

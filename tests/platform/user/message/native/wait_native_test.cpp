@@ -39,11 +39,20 @@ TEST(Waiting, DoesNotPoll) {
     EXPECT_LT(sleeps, 10);
 }
 
-TEST(Waiting, ForAllRefusesOneTwice) {
-    const HANDLE event = CreateEventA(nullptr, TRUE, FALSE, nullptr);
+TEST(Waiting, IsNeverForAllObjectsTogether) {
+    const HANDLE event = CreateEventA(nullptr, TRUE, TRUE, nullptr);
+    EXPECT_EQ(WAIT_FAILED, MsgWaitForMultipleObjects(1, &event, TRUE, 0, QS_ALLINPUT));
+    EXPECT_EQ(DWORD{ERROR_NOT_SUPPORTED}, GetLastError());
+    CloseHandle(event);
+}
+
+TEST(Waiting, ForOneObjectTwiceIsLikeForItOnce) {
+    const HANDLE event = CreateEventA(nullptr, FALSE, FALSE, nullptr);
     const HANDLE twice[2] = {event, event};
-    EXPECT_EQ(WAIT_FAILED, MsgWaitForMultipleObjects(2, twice, TRUE, 0, QS_ALLINPUT));
-    EXPECT_EQ(DWORD{ERROR_INVALID_PARAMETER}, GetLastError());
+    EXPECT_EQ(DWORD{WAIT_TIMEOUT}, MsgWaitForMultipleObjects(2, twice, FALSE, 0, 0));
+    std::thread setter([&] { SetEvent(event); });
+    EXPECT_EQ(DWORD{WAIT_OBJECT_0}, MsgWaitForMultipleObjects(2, twice, FALSE, INFINITE, 0));
+    setter.join();
     EXPECT_EQ(DWORD{WAIT_TIMEOUT}, MsgWaitForMultipleObjects(2, twice, FALSE, 0, 0));
     CloseHandle(event);
 }
