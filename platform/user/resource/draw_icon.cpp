@@ -10,17 +10,6 @@
 namespace platform::user {
 namespace {
 
-BITMAPINFO HeaderOf(const IconPicture& picture) {
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = picture.width;
-    info.bmiHeader.biHeight = -picture.height;  // the top row first
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    info.bmiHeader.biCompression = BI_RGB;
-    return info;
-}
-
 /// White where the background shows, black elsewhere.
 std::vector<std::uint32_t> MaskOf(const IconPicture& picture) {
     std::vector<std::uint32_t> mask;
@@ -41,8 +30,7 @@ std::vector<std::uint32_t> ColoursOf(const IconPicture& picture) {
 
 bool Put(HDC context, const RECT& place, const IconPicture& picture, const std::vector<std::uint32_t>& pixels,
          DWORD operation) {
-    const BITMAPINFO info = HeaderOf(picture);
-    return gdi::StretchBits(context, place, pixels.data(), &info, operation);
+    return gdi::StretchBits(context, place, pixels.data(), {picture.width, picture.height}, operation);
 }
 
 }  // namespace
