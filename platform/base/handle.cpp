@@ -28,7 +28,7 @@ struct Table {
     std::array<std::atomic<std::size_t>, static_cast<std::size_t>(HandleKind::Count)> counts{};
     std::mutex lock;
     std::uint32_t firstFree = kNoSlot;
-    std::uint32_t lastFree = kNoSlot;
+    std::uint32_t lastFree = kNoSlot;  ///< counts while there is a first one
     std::uint32_t used = 0;
 };
 
@@ -58,9 +58,6 @@ std::uint32_t TakeSlot(Table& table) {
     if (table.firstFree != kNoSlot) {
         const std::uint32_t index = table.firstFree;
         table.firstFree = SlotAt(table, index)->nextFree;
-        if (table.firstFree == kNoSlot) {
-            table.lastFree = kNoSlot;
-        }
         return index;
     }
     if (table.used > kSlotMask) {
@@ -93,10 +90,7 @@ std::uint32_t InsertHandle(HandleKind kind, void* object) {
         return 0;
     }
     Slot* slot = SlotAt(table, index);
-    std::uint32_t generation = (slot->tag.load(std::memory_order_relaxed) >> 8) + 1;
-    if (generation > kMostGeneration) {
-        generation = 1;
-    }
+    const std::uint32_t generation = (slot->tag.load(std::memory_order_relaxed) >> 8) % kMostGeneration + 1;
     slot->object.store(object, std::memory_order_release);
     slot->tag.store(Tag(generation, kind), std::memory_order_release);
     Count(table, kind, 1);
@@ -131,7 +125,7 @@ void* RemoveHandle(std::uint32_t handle, HandleKind kind) {
     Count(table, kind, -1);
     const std::uint32_t index = handle & kSlotMask;
     slot->nextFree = kNoSlot;
-    if (table.lastFree == kNoSlot) {
+    if (table.firstFree == kNoSlot) {
         table.firstFree = index;
     } else {
         SlotAt(table, table.lastFree)->nextFree = index;

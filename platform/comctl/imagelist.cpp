@@ -16,9 +16,9 @@ constexpr DWORD kClearWhereSet = 0x00220326;  // destination AND NOT source
 /// Where the background shows, out of a bitmap that says so, or of the background's colour.
 bool WriteMasks(const ImageList& list, HDC pixels, HBITMAP mask, COLORREF ground) {
     const int width = list.count * list.cx;
-    const Memory target(list.masks);
+    const gdi::MemoryContext target(list.masks);
     if (mask) {
-        const Memory given(mask);
+        const gdi::MemoryContext given(mask);
         return target && given && BitBlt(target, 0, 0, width, list.cy, given, 0, 0, SRCCOPY);
     }
     // Into one bit a pixel: the source's background colour gives 1, any other 0.
@@ -28,8 +28,8 @@ bool WriteMasks(const ImageList& list, HDC pixels, HBITMAP mask, COLORREF ground
 
 bool WriteAll(const ImageList& list, HBITMAP image, HBITMAP mask, COLORREF ground) {
     const int width = list.count * list.cx;
-    const Memory pixels(image);
-    const Memory target(list.images);
+    const gdi::MemoryContext pixels(image);
+    const gdi::MemoryContext target(list.images);
     if (!pixels || !target || !BitBlt(target, 0, 0, width, list.cy, pixels, 0, 0, SRCCOPY)) {
         return false;
     }
@@ -39,7 +39,7 @@ bool WriteAll(const ImageList& list, HBITMAP image, HBITMAP mask, COLORREF groun
     if (!WriteMasks(list, pixels, mask, ground)) {
         return false;
     }
-    const Memory masks(list.masks);
+    const gdi::MemoryContext masks(list.masks);
     return masks && BitBlt(target, 0, 0, width, list.cy, masks, 0, 0, kClearWhereSet);
 }
 
@@ -52,10 +52,7 @@ ImageList::~ImageList() {
 
 ImageList* FindImageList(HIMAGELIST handle) {
     auto* list = base::Find<ImageList>(handle, base::HandleKind::ImageList);
-    if (!list) {
-        SetLastError(ERROR_INVALID_HANDLE);
-    }
-    return list;
+    return list ? list : base::Fail<ImageList*>(ERROR_INVALID_HANDLE, nullptr);
 }
 
 HIMAGELIST MakeImageList(int cx, HBITMAP image, HBITMAP mask, COLORREF ground) {

@@ -5,6 +5,7 @@
 #include <commctrl.h>
 
 #include "base/handle.h"
+#include "gdi/context/device_context.h"
 
 namespace platform::comctl {
 
@@ -38,34 +39,5 @@ HIMAGELIST MakeImageList(int cx, HBITMAP image, HBITMAP mask, COLORREF ground);
 
 /// Draws a picture with every pixel of it half mixed with a colour.
 bool DrawBlended(HIMAGELIST list, int index, HDC context, int x, int y, COLORREF colour);
-
-/// A context in memory with a bitmap selected into it. Test it before use: there may be no memory, and a bitmap may be
-/// selected elsewhere.
-class Memory {
-  public:
-    explicit Memory(HBITMAP bitmap)
-        : context_(CreateCompatibleDC(nullptr)), former_(context_ ? SelectObject(context_, bitmap) : nullptr) {}
-    ~Memory() {
-        if (former_) {
-            SelectObject(context_, former_);
-        }
-        if (context_) {
-            DeleteDC(context_);
-        }
-    }
-    Memory(const Memory&) = delete;
-    Memory& operator=(const Memory&) = delete;
-
-    explicit operator bool() const {
-        return former_ != nullptr;
-    }
-    operator HDC() const {
-        return context_;
-    }
-
-  private:
-    HDC context_;
-    HGDIOBJ former_;
-};
 
 }  // namespace platform::comctl

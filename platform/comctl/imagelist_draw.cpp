@@ -13,41 +13,26 @@ struct Place {
     int column;  ///< of the picture in the list's bitmaps
 };
 
-/// Black for 0 and white for 1, so that a mask can be laid on any context; the context's own colours come back.
-class MaskColours {
-  public:
-    explicit MaskColours(HDC context)
-        : context_(context),
-          text_(SetTextColor(context, RGB(0, 0, 0))),
-          back_(SetBkColor(context, RGB(255, 255, 255))) {}
-    ~MaskColours() {
-        SetTextColor(context_, text_);
-        SetBkColor(context_, back_);
-    }
-    MaskColours(const MaskColours&) = delete;
-    MaskColours& operator=(const MaskColours&) = delete;
-
-  private:
-    HDC context_;
-    COLORREF text_;
-    COLORREF back_;
-};
-
 bool Put(const ImageList& list, const Place& place, HDC source, DWORD operation) {
     return BitBlt(place.context, place.x, place.y, list.cx, list.cy, source, place.column, 0, operation) != FALSE;
 }
 
 bool Draw(const ImageList& list, const Place& place) {
-    const Memory images(list.images);
+    const gdi::MemoryContext images(list.images);
     if (!list.masks) {
         return images && Put(list, place, images, SRCCOPY);
     }
-    const Memory masks(list.masks);
+    const gdi::MemoryContext masks(list.masks);
     if (!images || !masks) {
         return false;
     }
-    const MaskColours colours(place.context);
-    return Put(list, place, masks, SRCAND) && Put(list, place, images, SRCPAINT);
+    // Black for 0 and white for 1, so that a mask can be laid on any context; the context's own colours come back.
+    const COLORREF text = SetTextColor(place.context, RGB(0, 0, 0));
+    const COLORREF back = SetBkColor(place.context, RGB(255, 255, 255));
+    const bool drawn = Put(list, place, masks, SRCAND) && Put(list, place, images, SRCPAINT);
+    SetTextColor(place.context, text);
+    SetBkColor(place.context, back);
+    return drawn;
 }
 
 COLORREF Mixed(COLORREF a, COLORREF b) {
@@ -66,8 +51,8 @@ bool DrawBlended(HIMAGELIST handle, int index, HDC context, int x, int y, COLORR
         return false;
     }
     // Wherever the mask does not let the background through.
-    const Memory images(list->images);
-    const Memory masks(list->masks);
+    const gdi::MemoryContext images(list->images);
+    const gdi::MemoryContext masks(list->masks);
     for (int row = 0; row < list->cy; ++row) {
         for (int i = 0; i < list->cx; ++i) {
             if (GetPixel(masks, column + i, row) == RGB(0, 0, 0)) {

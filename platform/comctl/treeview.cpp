@@ -27,11 +27,7 @@ LRESULT Result(Handle handle) {
 void OnPaint(const TreePointer& tree) {
     // The bars first: what they take away from the client area need not be painted.
     UpdateBars(tree);
-    PAINTSTRUCT paint{};
-    if (const HDC context = BeginPaint(tree->window, &paint)) {
-        Paint(tree, context, paint.rcPaint);
-    }
-    EndPaint(tree->window, &paint);
+    user::PaintWith(tree->window, [&](HDC context, const RECT& due) { Paint(tree, context, due); });
 }
 
 LRESULT OnGetItemRect(const TreePointer& tree, bool label, RECT* rect) {
@@ -167,13 +163,12 @@ LRESULT CALLBACK TreeViewProcedure(HWND window, UINT message, WPARAM wParam, LPA
 }
 
 }  // namespace
+}  // namespace platform::comctl
 
-void RegisterTreeView() {
+void WINAPI InitCommonControls(void) {
     static std::once_flag once;
     std::call_once(once, [] {
-        user::RegisterSystemClass(WC_TREEVIEWA, TreeViewProcedure, CS_DBLCLKS | CS_GLOBALCLASS, sizeof(LONG_PTR),
-                                  IDC_ARROW, nullptr);
+        platform::user::RegisterSystemClass(WC_TREEVIEWA, platform::comctl::TreeViewProcedure,
+                                            CS_DBLCLKS | CS_GLOBALCLASS, sizeof(LONG_PTR), IDC_ARROW, nullptr);
     });
 }
-
-}  // namespace platform::comctl

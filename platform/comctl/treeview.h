@@ -115,7 +115,8 @@ void EnsureVisible(const TreePointer& tree, HTREEITEM item);
 // --- where things lie (treeview_layout.cpp)
 
 void Measure(const TreePointer& tree);
-int RowsShown(const TreeView& tree, bool whole);
+/// Whole ones.
+int RowsShown(const TreeView& tree);
 /// The x at which an item's picture begins.
 int PictureLeft(const TreeView& tree, const TreeItem* item);
 RECT RowRect(const TreeView& tree, const TreeItem* item);
@@ -134,6 +135,13 @@ void InvalidateFrom(const TreeView& tree, const TreeItem* item);
 void OnScroll(const TreePointer& tree, int bar, UINT code);
 void OnWheel(const TreePointer& tree, int turned);
 
+/// The client area.
+inline RECT AreaOf(const TreeView& tree) {
+    RECT client{};
+    GetClientRect(tree.window, &client);
+    return client;
+}
+
 inline bool HasStyle(const TreeView& tree, DWORD style) {
     return (user::ControlStyle(tree.window) & style) != 0;
 }
@@ -148,8 +156,5 @@ void OnButtonDown(const TreePointer& tree, POINT point, bool twice);
 bool OnKeyDown(const TreePointer& tree, WPARAM key);
 void OnCharacter(const TreePointer& tree, char character);
 void OnFocus(const TreePointer& tree, bool has);
-
-/// Registers "SysTreeView32".
-void RegisterTreeView();
 
 }  // namespace platform::comctl

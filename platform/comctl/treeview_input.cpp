@@ -102,7 +102,7 @@ bool OnKeyDown(const TreePointer& tree, WPARAM key) {
     }
     UpdateBars(tree);
     const int row = tree->caret ? tree->caret->row : -1;
-    const int page = std::max(RowsShown(*tree, true) - 1, 1);
+    const int page = std::max(RowsShown(*tree) - 1, 1);
     const HTREEITEM caret = tree->caret ? tree->caret->handle : nullptr;
     switch (key) {
         case VK_UP:

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "comctl/treeview.h"
+#include "gdi/context/device_context.h"
 #include "user/painting/painting.h"
 
 namespace platform::comctl {
@@ -31,12 +32,6 @@ class MeasuringContext {
     HDC context_;
     HGDIOBJ former_;
 };
-
-int WidthOf(HDC context, const std::string& text) {
-    SIZE size{};
-    GetTextExtentPoint32A(context, text.c_str(), static_cast<int>(text.size()), &size);
-    return size.cx;
-}
 
 int LabelLeft(const TreeView& tree, const TreeItem* item) {
     return PictureLeft(tree, item) + (tree.images ? tree.imageWidth + kGap : 0);
@@ -74,7 +69,7 @@ void FindWidest(const TreePointer& tree) {
     tree->widest = 0;
     for (TreeItem* item : tree->rows) {
         if (item->width < 0) {
-            item->width = WidthOf(context, item->text);
+            item->width = gdi::WidthOf(context, item->text);
         }
         const int right = LabelLeft(*tree, item) + tree->left + item->width + 2 * kLabelPadding;
         tree->widest = std::max(tree->widest, right);
@@ -98,10 +93,8 @@ void Measure(const TreePointer& tree) {
     InvalidateRect(tree->window, nullptr, FALSE);
 }
 
-int RowsShown(const TreeView& tree, bool whole) {
-    RECT client{};
-    GetClientRect(tree.window, &client);
-    return (client.bottom + (whole ? 0 : tree.rowHeight - 1)) / tree.rowHeight;
+int RowsShown(const TreeView& tree) {
+    return AreaOf(tree).bottom / tree.rowHeight;
 }
 
 int PictureLeft(const TreeView& tree, const TreeItem* item) {
@@ -110,10 +103,8 @@ int PictureLeft(const TreeView& tree, const TreeItem* item) {
 }
 
 RECT RowRect(const TreeView& tree, const TreeItem* item) {
-    RECT client{};
-    GetClientRect(tree.window, &client);
     const int y = (item->row - tree.top) * tree.rowHeight;
-    return {0, y, client.right, y + tree.rowHeight};
+    return {0, y, AreaOf(tree).right, y + tree.rowHeight};
 }
 
 RECT LabelRect(const TreeView& tree, const TreeItem* item) {
@@ -132,8 +123,7 @@ RECT ButtonRect(const TreeView& tree, const TreeItem* item) {
 
 TreeItem* HitTest(const TreePointer& tree, POINT point, Hit& hit) {
     hit = Hit::Nothing;
-    RECT client{};
-    GetClientRect(tree->window, &client);
+    const RECT client = AreaOf(*tree);
     if (!PtInRect(&client, point)) {
         return nullptr;
     }
@@ -156,9 +146,8 @@ TreeItem* HitTest(const TreePointer& tree, POINT point, Hit& hit) {
 
 void ScrollTo(const TreePointer& tree, int top, int left) {
     UpdateBars(tree);
-    RECT client{};
-    GetClientRect(tree->window, &client);
-    top = std::clamp(top, 0, std::max(RowCount(*tree) - std::max(RowsShown(*tree, true), 1), 0));
+    const RECT client = AreaOf(*tree);
+    top = std::clamp(top, 0, std::max(RowCount(*tree) - std::max(RowsShown(*tree), 1), 0));
     left = std::clamp(left, 0, std::max<int>(tree->widest - client.right, 0));
     const int dx = tree->left - left;
     const int dy = (tree->top - top) * tree->rowHeight;
@@ -179,9 +168,8 @@ void UpdateBars(const TreePointer& tree) {
     }
     // A bar that comes or goes changes the client area, and with it what the other one has to show.
     for (int pass = 0; pass < 2; ++pass) {
-        RECT client{};
-        GetClientRect(tree->window, &client);
-        const int shown = std::max(RowsShown(*tree, true), 1);
+        const RECT client = AreaOf(*tree);
+        const int shown = std::max(RowsShown(*tree), 1);
         const int top = std::clamp(tree->top, 0, std::max(RowCount(*tree) - shown, 0));
         const int left = std::clamp(tree->left, 0, std::max<int>(tree->widest - client.right, 0));
         if (top != tree->top || left != tree->left) {
@@ -204,8 +192,7 @@ void InvalidateItem(const TreeView& tree, const TreeItem* item) {
 }
 
 void InvalidateFrom(const TreeView& tree, const TreeItem* item) {
-    RECT client{};
-    GetClientRect(tree.window, &client);
+    RECT client = AreaOf(tree);
     if (item->row >= 0) {
         client.top = RowRect(tree, item).top;
     }

@@ -117,8 +117,7 @@ void PaintRow(const TreeView& tree, const Pencil& pencil, const TreeItem* item) 
 }  // namespace
 
 void Paint(const TreePointer& tree, HDC context, const RECT& area) {
-    RECT client{};
-    GetClientRect(tree->window, &client);
+    const RECT client = AreaOf(*tree);
     const HGDIOBJ font = SelectObject(context, tree->font ? tree->font : GetStockObject(DEFAULT_GUI_FONT));
     const Pencil pencil{context, HasStyle(*tree, TVS_HASLINES) ? MakeDots() : nullptr};
     int row = tree->top + std::max<int>(area.top, 0) / tree->rowHeight;

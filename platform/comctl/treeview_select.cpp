@@ -43,7 +43,7 @@ void ShowChildren(const TreePointer& tree, HTREEITEM handle) {
     if (!item || item->row < 0 || !item->last) {
         return;
     }
-    const int shown = RowsShown(*tree, true);
+    const int shown = RowsShown(*tree);
     const int children = std::min<int>(item->last->row - item->row, shown - 1);
     if (item->row + children >= tree->top + shown) {
         ScrollTo(tree, item->row + children - shown + 1, tree->left);
@@ -140,15 +140,14 @@ void EnsureVisible(const TreePointer& tree, HTREEITEM handle) {
     if (!item || item->row < 0) {
         return;
     }
-    const int shown = std::max(RowsShown(*tree, true), 1);
+    const int shown = std::max(RowsShown(*tree), 1);
     int top = tree->top;
     if (item->row < top) {
         top = item->row;
     } else if (item->row >= top + shown) {
         top = item->row - shown + 1;
     }
-    RECT client{};
-    GetClientRect(tree->window, &client);
+    const RECT client = AreaOf(*tree);
     const RECT label = LabelRect(*tree, item);
     int left = tree->left;
     const int begin = PictureLeft(*tree, item);

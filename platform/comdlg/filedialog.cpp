@@ -7,7 +7,7 @@
 #include <new>
 #include <utility>
 
-#include "kernel/files/hostpath.h"
+#include "kernel/files/hostfile.h"
 #include "user/dialog/dialog.h"
 
 namespace platform::comdlg {

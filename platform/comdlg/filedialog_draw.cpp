@@ -3,6 +3,7 @@
 
 #include "comctl/imagelist.h"
 #include "comdlg/filedialog.h"
+#include "gdi/context/device_context.h"
 #include "shell/icons.h"
 
 namespace platform::comdlg {
@@ -37,21 +38,15 @@ void DrawUpButton(const DRAWITEMSTRUCT& item) {
     }
 }
 
-int WidthOf(HDC context, const std::string& text) {
-    SIZE size{};
-    GetTextExtentPoint32A(context, text.c_str(), static_cast<int>(text.size()), &size);
-    return size.cx;
-}
-
 /// A path with the first folders left out that there is no room for ("C:\\...\\three").
 std::string Shortened(HDC context, const std::string& path, int room) {
     const std::size_t root = path.find('\\');
-    if (root == path.npos || WidthOf(context, path) <= room) {
+    if (root == path.npos || gdi::WidthOf(context, path) <= room) {
         return path;
     }
     const std::string start = path.substr(0, root) + "\\...";
     std::size_t rest = path.find('\\', root + 1);
-    while (rest != path.npos && WidthOf(context, start + path.substr(rest)) > room &&
+    while (rest != path.npos && gdi::WidthOf(context, start + path.substr(rest)) > room &&
            path.find('\\', rest + 1) != path.npos) {
         rest = path.find('\\', rest + 1);
     }
@@ -60,7 +55,7 @@ std::string Shortened(HDC context, const std::string& path, int room) {
 
 void DrawName(const DRAWITEMSTRUCT& item, const Row& row, const std::string& name, int indent, bool open) {
     const bool selected = (item.itemState & ODS_SELECTED) != 0;
-    const int width = WidthOf(item.hDC, name);
+    const int width = gdi::WidthOf(item.hDC, name);
     FillRect(item.hDC, &item.rcItem, GetSysColorBrush(COLOR_WINDOW));
     const int y = (item.rcItem.top + item.rcItem.bottom - kIcon) / 2;
     const int x = item.rcItem.left + 2 + indent;
@@ -113,7 +108,7 @@ int ColumnWidth(const FileDialog& dialog) {
     const HGDIOBJ font = SelectObject(context, reinterpret_cast<HFONT>(SendMessageA(list, WM_GETFONT, 0, 0)));
     std::vector<int> widths{kLeastName};
     for (const Row& row : dialog.items) {
-        widths.push_back(WidthOf(context, row.name));
+        widths.push_back(gdi::WidthOf(context, row.name));
     }
     SelectObject(context, font);
     ReleaseDC(list, context);

@@ -5,24 +5,14 @@
 #include <cstring>
 
 #include "kernel/files/wildcards.h"
+#include "kernel/text/encoding.h"
 
 namespace platform::comdlg {
 namespace {
 
-std::string Upper(std::string_view text) {
-    std::string capitals(text);
-    CharUpperBuffA(capitals.data(), static_cast<DWORD>(capitals.size()));
-    return capitals;
-}
-
 std::string_view Trimmed(std::string_view text) {
-    while (!text.empty() && text.front() == ' ') {
-        text.remove_prefix(1);
-    }
-    while (!text.empty() && text.back() == ' ') {
-        text.remove_suffix(1);
-    }
-    return text;
+    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+    return text.substr(0, text.find_last_not_of(' ') + 1);
 }
 
 std::string WithBackslash(std::string folder) {
@@ -48,11 +38,11 @@ std::vector<Filter> ReadFilters(const char* pairs) {
 }
 
 bool Matches(std::string_view name, std::string_view patterns) {
-    const std::string capitals = Upper(name);
+    const std::string capitals = kernel::Upper(std::string(name));
     while (!patterns.empty()) {
         const std::size_t end = std::min(patterns.find(';'), patterns.size());
         const std::string_view pattern = Trimmed(patterns.substr(0, end));
-        if (!pattern.empty() && kernel::MatchesWildcards(Upper(pattern), capitals)) {
+        if (!pattern.empty() && kernel::MatchesWildcards(kernel::Upper(std::string(pattern)), capitals)) {
             return true;
         }
         patterns.remove_prefix(std::min(end + 1, patterns.size()));

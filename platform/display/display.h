@@ -4,6 +4,7 @@
 /// screen, the panes, stand for themselves on the host's desktop.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -59,6 +60,12 @@ struct Pane {
 
 /// What there is to show beside the picture.
 struct Scene {
+    /// @returns null for none.
+    const Pane* Find(PaneId id) const {
+        const auto found = std::find_if(panes.begin(), panes.end(), [id](const Pane& pane) { return pane.id == id; });
+        return found != panes.end() ? &*found : nullptr;
+    }
+
     std::vector<Pane> panes;  ///< the uppermost first
     PaneId active = 0;        ///< gets the keys
     unsigned overruled = 0;   ///< grows when the host's choice of the active pane was not taken
@@ -112,32 +119,42 @@ struct Source {
     bool (*icon)(std::uintptr_t icon, IconImage* image);  ///< @returns false when there is no such icon any more
 };
 
+/// By itself the display of a host without a desktop, which shows nothing and brings no input. What changed piles up in the
+/// source then: nobody takes it, and the picture itself is read through GetDC(NULL).
 class Display {
   public:
     virtual ~Display() = default;
 
     /// Something changed, or a painting pass ended: present soon. Any thread; cheap when a wake is already on its way.
-    virtual void Wake() = 0;
+    virtual void Wake() {}
 
     /// Shows one of the system's cursors: an IDC_ value as a number; 0 hides the pointer. Any thread.
-    virtual void SetCursorShape(unsigned idc) = 0;
+    virtual void SetCursorShape(unsigned) {}
 
     /// The text of the host's clipboard, as UTF-8. Any thread, with the picture not locked; waits for the host.
     /// @returns false when the host has no clipboard, no text in it, or does not answer.
-    virtual bool ReadClipboard(std::string* text) = 0;
+    virtual bool ReadClipboard(std::string*) {
+        return false;
+    }
 
     /// Gives the host's clipboard a text, UTF-8. Any thread.
-    virtual void WriteClipboard(const std::string& text) = 0;
+    virtual void WriteClipboard(const std::string&) {}
 
     /// The same for the text that was selected last, where the host keeps one apart from the clipboard. Writing does not wait.
-    virtual bool ReadSelection(std::string* text) = 0;
-    virtual void WriteSelection(const std::string& text) = 0;
+    virtual bool ReadSelection(std::string*) {
+        return false;
+    }
+    virtual void WriteSelection(const std::string&) {}
 
     /// @returns whether a person may be there to see the screen and to send input.
-    virtual bool Interactive() const = 0;
+    virtual bool Interactive() const {
+        return false;
+    }
 
     /// @returns whether the host's desktop is the screen, and then what it was like at the start.
-    virtual bool FirstRoom(Room* room) const = 0;
+    virtual bool FirstRoom(Room*) const {
+        return false;
+    }
 };
 
 /// @returns whether panes are to stand on the host's desktop, so that a display has to be made before the screen is. So it

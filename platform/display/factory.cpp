@@ -1,7 +1,6 @@
 #include "display/display.h"
 
 #include "base/report.h"
-#include "display/headless.h"
 #include "display/sdl/entry.h"
 
 #include <atomic>
@@ -91,7 +90,7 @@ std::unique_ptr<Display> Create(const Sink& sink, const Source& source, int widt
         }
     } catch (const std::bad_alloc&) {
     }
-    return CreateHeadless();
+    return std::unique_ptr<Display>(new (std::nothrow) Display);
 }
 
 }  // namespace platform::display

@@ -41,7 +41,6 @@ typedef short SHORT;
 typedef unsigned short USHORT;
 typedef char CHAR;
 typedef char16_t WCHAR;
-typedef long long LONGLONG;
 typedef unsigned long long ULONGLONG;
 typedef void VOID;
 typedef intptr_t INT_PTR;

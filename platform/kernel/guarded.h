@@ -8,6 +8,8 @@
 #include <exception>
 #include <string>
 
+#include "base/fail.h"
+
 namespace platform::kernel {
 
 /// Runs a call of the API. @returns its result, or the neutral one with ERROR_NOT_ENOUGH_MEMORY set.
@@ -16,8 +18,7 @@ Result Guarded(Result neutral, Call call) {
     try {
         return call();
     } catch (const std::exception&) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-        return neutral;
+        return base::Fail(ERROR_NOT_ENOUGH_MEMORY, neutral);
     }
 }
 

@@ -255,13 +255,9 @@ LONG Database::ConnectFrozen() {
     }
     std::string uri = "file:";
     for (const char character : path_) {
-        if (character == '?' || character == '#' || character == '%') {
-            char code[4];
-            wsprintfA(code, "%%%02X", static_cast<unsigned char>(character));
-            uri += code;
-        } else {
-            uri += character;
-        }
+        char code[4];
+        wsprintfA(code, "%%%02X", static_cast<unsigned char>(character));
+        uri += code;
     }
     uri += "?immutable=1";
     constexpr int kFlags = SQLITE_OPEN_READONLY | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_PRIVATECACHE;

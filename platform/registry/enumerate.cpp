@@ -19,8 +19,7 @@ LONG WINAPI RegEnumKeyExA(HKEY key, DWORD index, LPSTR name, LPDWORD size, LPDWO
     }
     return OnKey(key, KEY_ENUMERATE_SUB_KEYS, [&](Store& store, KeyId id) -> LONG {
         const std::vector<std::string>* list = nullptr;
-        const LONG error = store.List(Query::ListKeys, id, &list);
-        if (error != ERROR_SUCCESS) {
+        if (const LONG error = store.List(Query::ListKeys, id, &list)) {
             return error;
         }
         return index < list->size() ? DeliverName((*list)[index], name, size) : ERROR_NO_MORE_ITEMS;

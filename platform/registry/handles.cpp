@@ -18,21 +18,12 @@ void* Pack(KeyId key, REGSAM rights) {
 
 // A root is written as a negative 32-bit number, which a pointer holds with its sign or without it.
 KeyId RootKey(HKEY handle) {
+    constexpr std::array kRoots{kClassesRoot, kUserRoot, kMachineRoot};
     const auto value = reinterpret_cast<std::intptr_t>(handle);
-    const auto number = static_cast<std::int32_t>(value);
-    if (value != number && value != static_cast<std::intptr_t>(static_cast<std::uint32_t>(number))) {
-        return 0;
-    }
-    switch (static_cast<std::uint32_t>(number)) {
-        case 0x80000000:
-            return kClassesRoot;
-        case 0x80000001:
-            return kUserRoot;
-        case 0x80000002:
-            return kMachineRoot;
-        default:
-            return 0;
-    }
+    const auto number = static_cast<std::uint32_t>(value);
+    const bool whole = value == static_cast<std::int32_t>(number) || value == static_cast<std::intptr_t>(number);
+    const std::uint32_t root = number - 0x80000000;
+    return whole && root < kRoots.size() ? kRoots[root] : 0;
 }
 
 }  // namespace

@@ -51,7 +51,7 @@ LONG OnKey(HKEY handle, REGSAM right, Call call) {
             return error;
         }
         Store::Use store{&error};
-        return store ? call(*store.operator->(), key) : error;
+        return error == ERROR_SUCCESS ? call(*store, key) : error;
     });
 }
 

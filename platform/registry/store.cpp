@@ -25,36 +25,32 @@ void ComposeName(std::string& into, KeyId key, std::string_view name) {
 // Never destroyed: modules may still use the registry while the process ends.
 Store& Store::Instance() {
     static Store& store = *[] {
-        pthread_atfork(CloseForFork, AfterFork, AfterFork);
-        std::atexit(CloseAtExit);
+        // A connection must not pass to another process; each of the two makes one of its own when it needs it.
+        pthread_atfork(Close, Unlock, Unlock);
+        // The last process that leaves puts the log into the file.
+        std::atexit([] {
+            Close();
+            Unlock();
+        });
         return new Store;
     }();
     return store;
 }
 
-// A connection must not pass to another process; each of the two makes one of its own when it needs it.
-void Store::CloseForFork() {
+// Keeps the lock.
+void Store::Close() {
     Store& store = Instance();
     store.lock_.lock();
     store.database_.reset();
     store.current_ = false;
 }
 
-void Store::AfterFork() {
+void Store::Unlock() {
     Instance().lock_.unlock();
-}
-
-// The last process that leaves puts the log into the file.
-void Store::CloseAtExit() {
-    Store& store = Instance();
-    const std::lock_guard guard(store.lock_);
-    store.database_.reset();
-    store.current_ = false;
 }
 
 Store::Use::Use(LONG* error) : store_(Instance()), guard_(store_.lock_) {
     *error = store_.Refresh();
-    ready_ = *error == ERROR_SUCCESS;
 }
 
 void Store::Forget() {
@@ -92,9 +88,17 @@ LONG Store::Refresh() {
     return ERROR_SUCCESS;
 }
 
-// After a write of our own: when the log has seen exactly one commit since the last look, it was this one, and all that
+// Looks a value up by its folded name. @returns that name, which holds until the next look-up.
+std::string_view Store::Want(KeyId key, std::string_view name) {
+    ComposeName(wanted_, key, Folded(name));
+    return std::string_view(wanted_).substr(sizeof key);
+}
+
+// After a write of our own to the value that was looked up: when the log has seen exactly one commit since the last look, it was this one, and all that
 // is kept is still true.
-LONG Store::Changed(int code) {
+LONG Store::Changed(KeyId key, int code) {
+    values_.erase(wanted_);
+    lists_.erase({Query::ListValues, key});
     if (code != SQLITE_DONE) {
         return database_->Failure(code);
     }
@@ -185,8 +189,7 @@ LONG Store::CreateMissing(KeyId from, std::string_view path, KeyId* found, bool*
 
 LONG Store::DeleteKey(KeyId from, std::string_view path) {
     KeyId key = 0;
-    const LONG error = FindKey(from, path, &key);
-    if (error != ERROR_SUCCESS) {
+    if (const LONG error = FindKey(from, path, &key)) {
         return error;
     }
     return key <= kClassesRoot ? ERROR_ACCESS_DENIED : Together([&] { return DeleteFound(key); });
@@ -220,13 +223,12 @@ LONG Store::MissingValue(KeyId key, LONG otherwise) {
 }
 
 LONG Store::ReadValue(KeyId key, std::string_view name, const Value** value) {
-    ComposeName(wanted_, key, Folded(name));
+    const std::string_view folded = Want(key, name);
     auto kept = values_.find(wanted_);
     if (kept == values_.end()) {
         std::optional<Value> read;
         {
             Statement statement = database_->Use(Query::FindValue);
-            const std::string_view folded = std::string_view(wanted_).substr(sizeof key);
             const int code = statement.Bind(1, key).Bind(2, folded).Step();
             if (code == SQLITE_ROW) {
                 read = Value{static_cast<DWORD>(statement.Number(0)), statement.Bytes(1)};
@@ -247,8 +249,7 @@ LONG Store::ReadValue(KeyId key, std::string_view name, const Value** value) {
 }
 
 LONG Store::WriteValue(KeyId key, std::string_view name, DWORD type, std::string_view data) {
-    ComposeName(wanted_, key, Folded(name));
-    const std::string_view folded = std::string_view(wanted_).substr(sizeof key);
+    const std::string_view folded = Want(key, name);
     const std::string utf8 = kernel::Utf8FromAnsi(name);
     const int code = database_->Use(Query::WriteValue)
                          .Bind(1, key)
@@ -257,19 +258,14 @@ LONG Store::WriteValue(KeyId key, std::string_view name, DWORD type, std::string
                          .Bind(4, std::int64_t{type})
                          .BindBytes(5, data)
                          .Step();
-    values_.erase(wanted_);
-    lists_.erase({Query::ListValues, key});
-    const LONG error = Changed(code);
+    const LONG error = Changed(key, code);
     return error == ERROR_SUCCESS && database_->Changes() == 0 ? ERROR_KEY_DELETED : error;
 }
 
 LONG Store::DeleteValue(KeyId key, std::string_view name) {
-    ComposeName(wanted_, key, Folded(name));
-    const std::string_view folded = std::string_view(wanted_).substr(sizeof key);
+    const std::string_view folded = Want(key, name);
     const int code = database_->Use(Query::DeleteValue).Bind(1, key).Bind(2, folded).Step();
-    values_.erase(wanted_);
-    lists_.erase({Query::ListValues, key});
-    const LONG error = Changed(code);
+    const LONG error = Changed(key, code);
     return error == ERROR_SUCCESS && database_->Changes() == 0 ? MissingValue(key, ERROR_FILE_NOT_FOUND) : error;
 }
 

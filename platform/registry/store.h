@@ -33,17 +33,13 @@ class Store {
     class Use {
       public:
         explicit Use(LONG* error);
-        explicit operator bool() const {
-            return ready_;
-        }
-        Store* operator->() const {
-            return &store_;
+        Store& operator*() const {
+            return store_;
         }
 
       private:
         Store& store_;
         std::unique_lock<std::mutex> guard_;
-        bool ready_ = false;
     };
 
     /// ERROR_FILE_NOT_FOUND when there is no such key.
@@ -62,14 +58,14 @@ class Store {
 
   private:
     static Store& Instance();
-    static void CloseForFork();
-    static void AfterFork();
-    static void CloseAtExit();
+    static void Close();
+    static void Unlock();
 
     LONG Refresh();
     void Forget();
     void Remember(std::size_t bytes);
-    LONG Changed(int code);
+    std::string_view Want(KeyId key, std::string_view name);
+    LONG Changed(KeyId key, int code);
 
     LONG CheckKey(KeyId key);
     LONG FindBelow(KeyId from, const std::string& folded, KeyId* found);

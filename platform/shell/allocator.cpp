@@ -10,13 +10,13 @@ namespace platform::shell {
 
 void* AllocateBlock(std::size_t size) {
     void* const block = FailsNow() ? nullptr : std::malloc(size);
-    CountBlock(block ? 1 : 0);
+    base::g_shellBlocks += block ? 1 : 0;
     return block;
 }
 
 void FreeBlock(void* block) {
     std::free(block);
-    CountBlock(block ? -1 : 0);
+    base::g_shellBlocks -= block ? 1 : 0;
 }
 
 namespace {
@@ -45,13 +45,8 @@ class Allocator final : public IMalloc {
 
 HRESULT WINAPI SHGetMalloc(LPMALLOC* allocator) {
     static platform::shell::Allocator& one = *new platform::shell::Allocator;
-    if (!allocator) {
-        return E_INVALIDARG;
-    }
-    *allocator = nullptr;
-    if (platform::shell::FailsNow()) {
-        return E_FAIL;
-    }
-    *allocator = &one;
-    return S_OK;
+    return platform::shell::HandOut(allocator, [&] {
+        *allocator = &one;
+        return S_OK;
+    });
 }

@@ -1,9 +1,7 @@
 #include "shell/directory.h"
 
 #include <dirent.h>
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -15,24 +13,7 @@
 namespace platform::shell {
 namespace {
 
-struct Closer {
-    void operator()(DIR* directory) const {
-        closedir(directory);
-    }
-};
-using Directory = std::unique_ptr<DIR, Closer>;
-
-Directory Open(const std::string& path) {
-    const int file = open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK);
-    if (file < 0) {
-        return nullptr;
-    }
-    DIR* const directory = fdopendir(file);
-    if (!directory) {
-        close(file);
-    }
-    return Directory(directory);
-}
+using Directory = std::unique_ptr<DIR, int (*)(DIR*)>;
 
 bool IsFolder(const Directory& directory, const dirent& entry) {
     if (entry.d_type == DT_DIR) {
@@ -48,7 +29,7 @@ bool IsFolder(const Directory& directory, const dirent& entry) {
 }  // namespace
 
 int ReadDirectory(const std::string& path, Wanted wanted, std::vector<Entry>& entries) {
-    const Directory directory = Open(path);
+    const Directory directory(opendir(path.c_str()), closedir);
     if (!directory) {
         return errno;
     }
@@ -67,7 +48,7 @@ int ReadDirectory(const std::string& path, Wanted wanted, std::vector<Entry>& en
 }
 
 bool HasSubfolder(const std::string& path) {
-    const Directory directory = Open(path);
+    const Directory directory(opendir(path.c_str()), closedir);
     if (!directory) {
         return false;
     }

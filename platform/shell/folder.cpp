@@ -16,22 +16,17 @@ class Folder final : public Counted<IShellFolder> {
 
     STDMETHODIMP ParseDisplayName(HWND, IBindCtx*, LPWSTR name, ULONG* eaten, LPITEMIDLIST* item,
                                   ULONG* attributes) override {
-        if (!item || !name || eaten || attributes) {
+        if (!name || eaten || attributes) {
             return E_INVALIDARG;
         }
-        *item = nullptr;
-        return Method([&]() -> HRESULT {
+        return HandOut(item, [&]() -> HRESULT {
             *item = ParseName(place_, kernel::AnsiFromWide(name)).release();
             return *item ? S_OK : HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND);
         });
     }
 
     STDMETHODIMP EnumObjects(HWND, SHCONTFLAGS flags, IEnumIDList** items) override {
-        if (!items) {
-            return E_INVALIDARG;
-        }
-        *items = nullptr;
-        return Method([&] {
+        return HandOut(items, [&] {
             HRESULT result = S_OK;
             *items = MakeEnumerator(place_, flags, result);
             return result;
@@ -39,11 +34,7 @@ class Folder final : public Counted<IShellFolder> {
     }
 
     STDMETHODIMP BindToObject(LPCITEMIDLIST item, IBindCtx*, REFIID asked, void** object) override {
-        if (!object) {
-            return E_INVALIDARG;
-        }
-        *object = nullptr;
-        return Method([&]() -> HRESULT {
+        return HandOut(object, [&]() -> HRESULT {
             auto place = item && !IsEnd(item) ? Follow(place_, item) : std::nullopt;
             if (!place) {
                 return E_INVALIDARG;
@@ -115,11 +106,7 @@ using namespace platform::shell;
 const IID IID_IShellFolder = {0x000214E6, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
 
 HRESULT WINAPI SHGetDesktopFolder(LPSHELLFOLDER* folder) {
-    if (!folder) {
-        return E_INVALIDARG;
-    }
-    *folder = nullptr;
-    return Method([&] {
+    return HandOut(folder, [&] {
         *folder = MakeFolder(DesktopPlace());
         return S_OK;
     });

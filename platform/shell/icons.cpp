@@ -185,13 +185,11 @@ HBITMAP MakeStrip(HDC screen, bool mask) {
             }
         }
     }
-    BITMAPINFO info{};
-    info.bmiHeader = {sizeof info.bmiHeader, kCount * kSize, -kSize, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
     const HBITMAP bitmap = mask ? CreateBitmap(kCount * kSize, kSize, 1, 1, nullptr)
                                 : CreateCompatibleBitmap(screen, kCount * kSize, kSize);
-    const comctl::Memory memory(bitmap);
+    const gdi::MemoryContext memory(bitmap);
     if (memory) {
-        gdi::StretchBits(memory, {0, 0, kCount * kSize, kSize}, pixels, &info, SRCCOPY);
+        gdi::StretchBits(memory, {0, 0, kCount * kSize, kSize}, pixels[0], {kCount * kSize, kSize}, SRCCOPY);
     }
     return bitmap;
 }

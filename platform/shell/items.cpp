@@ -20,6 +20,15 @@ OwnedList Allocate(std::size_t size) {
     return list;
 }
 
+/// Bytes of a list with its end.
+std::size_t ListSize(LPCITEMIDLIST list) {
+    std::size_t size = sizeof(USHORT);
+    for (; !IsEnd(list); list = NextItem(list)) {
+        size += list->mkid.cb;
+    }
+    return size;
+}
+
 bool IsKind(BYTE kind) {
     return kind == BYTE(ItemKind::Computer) || kind == BYTE(ItemKind::Drive) || kind == BYTE(ItemKind::Folder) ||
            kind == BYTE(ItemKind::File);
@@ -62,17 +71,6 @@ OwnedList MakeItem(const Item& item) {
     bytes[kKindAt] = BYTE(item.kind);
     std::copy(item.name.begin(), item.name.end(), bytes + kNameAt);
     return list;
-}
-
-std::size_t ListSize(LPCITEMIDLIST list) {
-    if (!list) {
-        return 0;
-    }
-    std::size_t size = sizeof(USHORT);
-    for (; !IsEnd(list); list = NextItem(list)) {
-        size += list->mkid.cb;
-    }
-    return size;
 }
 
 OwnedList JoinLists(LPCITEMIDLIST first, LPCITEMIDLIST second) {

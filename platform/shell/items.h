@@ -47,7 +47,4 @@ OwnedList MakeItem(const Item& item);
 /// @returns a list of both lists' items. Throws bad_alloc.
 OwnedList JoinLists(LPCITEMIDLIST first, LPCITEMIDLIST second);
 
-/// Bytes of a list with its end.
-std::size_t ListSize(LPCITEMIDLIST list);
-
 }  // namespace platform::shell

@@ -11,25 +11,29 @@
 #include <cstddef>
 #include <new>
 
+#include "base/failure_order.h"
+#include "base/live.h"
+
 namespace platform::shell {
 
-/// @returns true when the test's order makes this very call fail.
-bool FailsNow();
+inline base::FailureOrder g_failure;
 
-void CountObject(int change);
-void CountBlock(int change);
+/// @returns true when the test's order makes this very call fail.
+inline bool FailsNow() {
+    return g_failure.MeansThis();
+}
 
 /// Reference counting of one interface. Made with one reference; the last Release deletes the object.
 template <class Interface>
 class Counted : public Interface {
   public:
     Counted() {
-        CountObject(1);
+        ++base::g_componentObjects;
     }
     Counted(const Counted&) = delete;
     Counted& operator=(const Counted&) = delete;
     virtual ~Counted() {
-        CountObject(-1);
+        --base::g_componentObjects;
     }
 
     STDMETHODIMP_(ULONG) AddRef() override {
@@ -58,6 +62,16 @@ HRESULT Method(Body body) noexcept {
     } catch (const std::exception&) {
         return E_OUTOFMEMORY;
     }
+}
+
+/// The same for a method that hands something out: null where it fails.
+template <class Result, class Body>
+HRESULT HandOut(Result** place, Body body) noexcept {
+    if (!place) {
+        return E_INVALIDARG;
+    }
+    *place = nullptr;
+    return Method(body);
 }
 
 }  // namespace platform::shell

@@ -81,16 +81,12 @@ Place DesktopPlace() {
 std::optional<Place> PlaceBelow(const Place& folder, const Item& item) {
     switch (item.kind) {
         case ItemKind::Computer:
-            if (folder.kind != PlaceKind::Desktop) {
-                return std::nullopt;
-            }
-            return ComputerPlace();
-        case ItemKind::Drive: {
+            return folder.kind == PlaceKind::Desktop ? std::optional(ComputerPlace()) : std::nullopt;
+        case ItemKind::Drive:
             if (folder.kind != PlaceKind::Computer) {
                 return std::nullopt;
             }
             return Place{PlaceKind::Drive, DriveHost(item.name[0]), std::string(item.name) + ":\\"};
-        }
         case ItemKind::Folder:
         case ItemKind::File:
             if (folder.kind == PlaceKind::Computer || folder.kind == PlaceKind::File) {

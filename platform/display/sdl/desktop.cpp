@@ -66,6 +66,11 @@ HostWindow* Desktop::Find(PaneId id) const {
     return found != windows.end() ? found->second.get() : nullptr;
 }
 
+SDL_Window* Desktop::WindowOf(PaneId id) const {
+    const HostWindow* found = Find(id);
+    return found != nullptr ? found->Window() : nullptr;
+}
+
 PaneId Desktop::PaneOfEvent(std::uint32_t number) const {
     SDL_Window* window = SDL_GetWindowFromID(number);
     for (const auto& [id, each] : windows) {
@@ -192,8 +197,7 @@ void Desktop::Gained(PaneId id) {
     focused = id;
     verdict = 0;
     std::erase_if(requests, [](const Request& each) { return Passed(each.time + kAnswerPatience); });
-    const auto asked =
-        std::find_if(requests.begin(), requests.end(), [id](const Request& each) { return each.pane == id; });
+    const auto asked = std::ranges::find(requests, id, &Request::pane);
     if (asked != requests.end()) {
         requests.erase(requests.begin(), asked + 1);
     } else {
@@ -272,8 +276,7 @@ bool Desktop::Ready(const Pane& pane) {
 
 void Desktop::Open(const Pane& pane) {
     auto window = std::make_unique<HostWindow>(host, scale);
-    const HostWindow* owner = Find(pane.owner);
-    if (!window->Open(pane, owner != nullptr ? owner->Window() : nullptr, pane.id == scene.active)) {
+    if (!window->Open(pane, WindowOf(pane.owner), pane.id == scene.active)) {
         stale = true;
         return;
     }
@@ -286,10 +289,7 @@ void Desktop::Arrange() {
     if (scene.panes.size() > windows.size()) {
         managed = host.HasManager();
     }
-    std::erase_if(awaited, [this](const auto& each) {
-        return std::none_of(scene.panes.begin(), scene.panes.end(),
-                            [&](const Pane& pane) { return pane.id == each.first; });
-    });
+    std::erase_if(awaited, [this](const auto& each) { return scene.Find(each.first) == nullptr; });
     // Owners come before what they own.
     for (auto pane = scene.panes.rbegin(); pane != scene.panes.rend(); ++pane) {
         HostWindow* window = Find(pane->id);
@@ -305,8 +305,7 @@ void Desktop::Arrange() {
             continue;
         }
         const bool sameIcon = window->Shown().icon == pane->icon;
-        const HostWindow* owner = Find(pane->owner);
-        window->Follow(*pane, owner != nullptr ? owner->Window() : nullptr, managed);
+        window->Follow(*pane, WindowOf(pane->owner), managed);
         if (!sameIcon) {
             ShowIcon(*window);
         }
@@ -385,11 +384,9 @@ void Desktop::FollowActive() {
         return;
     }
     PaneId target = scene.active;
-    for (bool again = true; again;) {
-        const auto pane =
-            std::find_if(scene.panes.begin(), scene.panes.end(), [&](const Pane& each) { return each.id == target; });
-        again = pane != scene.panes.end() && pane->popup && pane->owner != 0;
-        target = again ? pane->owner : target;
+    for (const Pane* pane = scene.Find(target); pane != nullptr && pane->popup && pane->owner != 0;) {
+        target = pane->owner;
+        pane = scene.Find(target);
     }
     const HostWindow* window = Find(target);
     if (window == nullptr && scene.active != 0) {
@@ -431,12 +428,11 @@ void Desktop::FollowCapture() {
 
 void Desktop::DropGone() {
     std::erase_if(windows, [this](const auto& each) {
-        const PaneId id = each.first;
-        if (std::any_of(scene.panes.begin(), scene.panes.end(), [id](const Pane& pane) { return pane.id == id; })) {
-            return false;
+        const bool gone = scene.Find(each.first) == nullptr;
+        if (gone) {
+            Lost(each.first);
         }
-        Lost(id);
-        return true;
+        return gone;
     });
 }
 

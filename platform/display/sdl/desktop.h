@@ -40,6 +40,7 @@ class Desktop final : public Stage {
     Room AskRoom() const;
     SDL_Point ToScreen(SDL_Point host) const;
     HostWindow* Find(PaneId id) const;
+    SDL_Window* WindowOf(PaneId id) const;
     PaneId PaneOfEvent(std::uint32_t sdlWindow) const;
 
     void TakePicture();

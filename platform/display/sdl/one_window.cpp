@@ -22,7 +22,6 @@ SDL_Point FittingSize(int width, int height) {
 
 OneWindow::~OneWindow() {
     mouse.Release();
-    view.Detach();
     if (window != nullptr) {
         SDL_DestroyWindow(window);
     }
@@ -85,19 +84,16 @@ void OneWindow::ShowTitle() {
     source.lock();
     source.scene(&scene);
     source.unlock();
-    const auto active = std::find_if(scene.panes.begin(), scene.panes.end(),
-                                     [this](const Pane& pane) { return pane.id == scene.active && !pane.popup; });
-    if (active != scene.panes.end() && !active->title.empty() && active->title != title) {
+    const Pane* active = scene.Find(scene.active);
+    if (active != nullptr && !active->popup && !active->title.empty() && active->title != title) {
         title = active->title;
         SDL_SetWindowTitle(window, title.c_str());
     }
 }
 
 bool OneWindow::Present() {
-    const bool whole = stale;
-    stale = false;
     // Where the window cannot be drawn in, it may be later.
-    stale = !view.Present(whole);
+    stale = !view.Present(stale);
     ShowTitle();
     return !stale;
 }

@@ -240,18 +240,22 @@ void SdlDisplay::SetCursorShape(unsigned idc) {
     }
 }
 
+void SdlDisplay::Queue(std::function<void()> task) {
+    {
+        const std::lock_guard lock(taskMutex);
+        tasks.push_back(std::move(task));
+    }
+    Post();
+}
+
 // The host's clipboard belongs to another program, which may be slow to answer or not answer at all.
 bool SdlDisplay::RunOnLoop(std::function<void()> task) {
     auto done = std::make_shared<std::promise<void>>();
     std::future<void> finished = done->get_future();
-    {
-        const std::lock_guard lock(taskMutex);
-        tasks.emplace_back([done, task = std::move(task)] {
-            task();
-            done->set_value();
-        });
-    }
-    Post();
+    Queue([done, task = std::move(task)] {
+        task();
+        done->set_value();
+    });
     return finished.wait_for(kClipboardWait) == std::future_status::ready;
 }
 
@@ -299,11 +303,7 @@ bool SdlDisplay::ReadSelection(std::string* text) {
 }
 
 void SdlDisplay::WriteSelection(const std::string& text) {
-    {
-        const std::lock_guard lock(taskMutex);
-        tasks.emplace_back([text] { SDL_SetPrimarySelectionText(text.c_str()); });
-    }
-    Post();
+    Queue([text] { SDL_SetPrimarySelectionText(text.c_str()); });
 }
 
 void SdlDisplay::Post() {

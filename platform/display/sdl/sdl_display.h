@@ -54,6 +54,7 @@ class SdlDisplay final : public Display {
     void HandleKeyDown(const SDL_KeyboardEvent& event);
     void ApplyCursor();
     void Post();
+    void Queue(std::function<void()> task);
     bool RunOnLoop(std::function<void()> task);
     bool ReadText(char* (*get)(), std::string* text);
     void RunTasks();

@@ -6,13 +6,7 @@ namespace platform::display {
 
 bool View::Attach(SDL_Window* target) {
     window = target;
-    return window != nullptr && SDL_GetWindowSurface(window) != nullptr;
-}
-
-void View::Detach() {
-    SDL_FreeSurface(scaled);
-    scaled = nullptr;
-    window = nullptr;
+    return SDL_GetWindowSurface(window) != nullptr;
 }
 
 SDL_Point View::ToPicture(int x, int y) const {

@@ -13,13 +13,14 @@ namespace platform::display {
 class View {
   public:
     View(const Source& source, int width, int height) : source(source), width(width), height(height) {}
+    ~View() {
+        SDL_FreeSurface(scaled);
+    }
     View(const View&) = delete;
     View& operator=(const View&) = delete;
 
     /// Takes the window that it draws in. @returns whether it can be drawn in.
     bool Attach(SDL_Window* target);
-    /// Before the window goes.
-    void Detach();
 
     /// Shows what has changed, or all of it. @returns false when it cannot, and has to be asked for all of it again.
     bool Present(bool whole);

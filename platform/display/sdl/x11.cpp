@@ -8,6 +8,7 @@
 #include <X11/Xutil.h>
 #include <X11/extensions/Xrandr.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 
@@ -201,12 +202,7 @@ void X11::Minimise(SDL_Window* window) {
 
 bool X11::IsMinimised(SDL_Window* window) const {
     const auto hidden = static_cast<long>(Named("_NET_WM_STATE_HIDDEN"));
-    for (const long state : Property(IdOf(window), "_NET_WM_STATE")) {
-        if (state == hidden) {
-            return true;
-        }
-    }
-    return false;
+    return std::ranges::count(Property(IdOf(window), "_NET_WM_STATE"), hidden) > 0;
 }
 
 void X11::Raise(SDL_Window* window) {

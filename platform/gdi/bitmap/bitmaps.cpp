@@ -24,10 +24,7 @@ std::unique_ptr<Bitmap> NewBitmap(int width, int height, int bitsPerPixel) {
             bitmap.reset();
         }
     }
-    if (!bitmap) {
-        SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-    }
-    return bitmap;
+    return bitmap ? std::move(bitmap) : Fail(ERROR_NOT_ENOUGH_MEMORY, nullptr);
 }
 
 }  // namespace platform::gdi

@@ -35,7 +35,7 @@ struct DibLayout {
 /// the bytes that may be read (`room`).
 std::optional<DibLayout> ReadLayout(const void* info, std::size_t room);
 
-/// Draws the pixels of a device-independent bitmap without a palette, stretched to the place.
-bool StretchBits(HDC context, const RECT& place, const void* bits, const BITMAPINFO* info, DWORD operation);
+/// Draws pixels (0x00RRGGBB, the top row first), stretched to the place.
+bool StretchBits(HDC context, const RECT& place, const std::uint32_t* pixels, SIZE size, DWORD operation);
 
 }  // namespace platform::gdi

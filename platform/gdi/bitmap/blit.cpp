@@ -67,14 +67,10 @@ RECT BlockOf(const DeviceContext& context, int x, int y, int width, int height) 
 }
 
 BOOL Paint(HDC handle, int x, int y, int width, int height, Operation operation) {
-    const Drawing drawing(handle);
-    if (!drawing) {
-        return FALSE;
-    }
-    return Guarded(FALSE, [&] {
-        const Ink ink = BrushInk(*drawing, operation);
+    return DrawIn(handle, [&](DeviceContext& context) {
+        const Ink ink = BrushInk(context, operation);
         if (!ink.none) {
-            Combine(*drawing, BlockOf(*drawing, x, y, width, height), operation, &ink);
+            Combine(context, BlockOf(context, x, y, width, height), operation, &ink);
         }
         return TRUE;
     });

@@ -102,22 +102,6 @@ int WINAPI GetDIBits(HDC context, HBITMAP handle, UINT start, UINT lines, LPVOID
     if (!bitmap || !FindObject<DeviceContext>(context)) {
         return 0;
     }
-    if (info && !bits && info->bmiHeader.biSize == sizeof(BITMAPINFOHEADER) && info->bmiHeader.biBitCount == 0) {
-        // Only the bitmap's own measures are asked for.
-        const auto size = bitmap->rowBytes * static_cast<std::size_t>(bitmap->height);
-        info->bmiHeader = {sizeof(BITMAPINFOHEADER),
-                           bitmap->width,
-                           bitmap->height,
-                           1,
-                           static_cast<WORD>(bitmap->bitsPerPixel),
-                           BI_RGB,
-                           static_cast<DWORD>(size),
-                           0,
-                           0,
-                           0,
-                           0};
-        return TRUE;
-    }
     const auto layout = Checked(info, usage);
     if (!layout) {
         return 0;
@@ -155,15 +139,17 @@ int WINAPI GetDIBits(HDC context, HBITMAP handle, UINT start, UINT lines, LPVOID
 
 namespace platform::gdi {
 
-bool StretchBits(HDC context, const RECT& place, const void* bits, const BITMAPINFO* info, DWORD operation) {
-    const Drawing drawing(context);
-    const auto layout = drawing ? Checked(info, DIB_RGB_COLORS) : std::nullopt;
-    return layout && Guarded(false, [&] {
-               const Surface from = layout->View(bits, layout->height);
-               DrawSurface(*drawing, drawing->ToSurface(place), from, from.Bounds(), Shrink::Mix,
-                           OperationOf(operation), {});
-               return true;
-           });
+bool StretchBits(HDC context, const RECT& place, const std::uint32_t* pixels, SIZE size, DWORD operation) {
+    return DrawIn(context, [&](DeviceContext& target) {
+        Surface from;
+        from.bits = reinterpret_cast<std::byte*>(const_cast<std::uint32_t*>(pixels));
+        from.width = size.cx;
+        from.height = size.cy;
+        from.stride = std::ptrdiff_t{size.cx} * 4;
+        from.bitsPerPixel = 32;
+        DrawSurface(target, target.ToSurface(place), from, from.Bounds(), Shrink::Mix, OperationOf(operation), {});
+        return true;
+    });
 }
 
 }  // namespace platform::gdi

@@ -3,6 +3,7 @@
 
 #include "gdi/bitmap/bitmaps.h"
 #include "gdi/bitmap/convert.h"
+#include "gdi/context/device_context.h"
 #include "kernel/modules/resource.h"
 
 using namespace platform::gdi;
@@ -27,16 +28,14 @@ HBITMAP FromResource(HINSTANCE instance, LPCSTR name, int width, int height) {
     }
     const RECT place{0, 0, width > 0 ? width : source->width, height > 0 ? height : source->height};
     const HBITMAP bitmap = CreateBitmap(place.right, place.bottom, 1, BlackAndWhite(*source) ? 1 : 32, nullptr);
-    const HDC memory = bitmap ? CreateCompatibleDC(nullptr) : nullptr;
+    const MemoryContext memory(bitmap);
     if (!memory) {
         DeleteObject(bitmap);
         return nullptr;
     }
-    const HGDIOBJ previous = SelectObject(memory, bitmap);
     const Surface from = source->View(resource.data() + source->headerBytes, source->height);
-    DrawSurface(*FindObject<DeviceContext>(memory), place, from, from.Bounds(), Shrink::TakeFirst, kCopySource, {});
-    SelectObject(memory, previous);
-    DeleteDC(memory);
+    DrawSurface(*FindObject<DeviceContext>(HDC{memory}), place, from, from.Bounds(), Shrink::TakeFirst, kCopySource,
+                {});
     return bitmap;
 }
 

@@ -1,5 +1,7 @@
 #include "gdi/context/context.h"
 
+#include <cvplatform.h>
+
 #include <algorithm>
 
 #include "gdi/context/device_context.h"
@@ -23,6 +25,12 @@ void Drop(Font* font) {
     }
 }
 
+void Drop(Bitmap* bitmap) {
+    if (bitmap->selected.fetch_sub(1, std::memory_order_relaxed) <= 1) {
+        bitmap->context = nullptr;
+    }
+}
+
 void HoldAll(const DrawState& state) {
     Hold(state.pen);
     Hold(state.brush);
@@ -38,9 +46,6 @@ void DropAll(const DrawState& state) {
     Drop(state.font);
     if (state.bitmap) {
         Drop(state.bitmap);
-        if (state.bitmap->selected.load(std::memory_order_relaxed) <= 0) {
-            state.bitmap->context = nullptr;
-        }
     }
 }
 
@@ -92,12 +97,18 @@ HDC FileContext(std::unique_ptr<DeviceContext> context) {
     return base::ToHandle<HDC>(context.release()->handle);
 }
 
-void Destroy(DeviceContext* context) {
-    base::RemoveHandle(context->handle, DeviceContext::kKind);
-    for (const DrawState& state : context->saved) {
+/// What is selected, now and in saved states, becomes free.
+void DropStates(DeviceContext& context) {
+    for (const DrawState& state : context.saved) {
         DropAll(state);
     }
-    DropAll(context->state);
+    context.saved.clear();
+    DropAll(context.state);
+}
+
+void Destroy(DeviceContext* context) {
+    base::RemoveHandle(context->handle, DeviceContext::kKind);
+    DropStates(*context);
     delete context;
 }
 
@@ -177,13 +188,9 @@ void ResetContext(HDC handle) {
     if (!context) {
         return;
     }
-    for (const DrawState& state : context->saved) {
-        DropAll(state);
-    }
-    context->saved.clear();
     const DrawState fresh = DefaultState(!context->screen);
     HoldAll(fresh);
-    DropAll(context->state);
+    DropStates(*context);
     context->state = fresh;
     context->ClipChanged();
     if (!context->screen) {
@@ -192,12 +199,7 @@ void ResetContext(HDC handle) {
 }
 
 std::size_t CountObjects() {
-    using base::HandleKind;
-    std::size_t count = 0;
-    for (const HandleKind kind :
-         {HandleKind::Pen, HandleKind::Brush, HandleKind::Font, HandleKind::Bitmap, HandleKind::DeviceContext}) {
-        count += base::CountHandles(kind);
-    }
+    const std::size_t count = CvPlatformCount(CV_PLATFORM_GDI_OBJECTS);
     const std::size_t without = StockCount() + windowContexts.load();
     return count > without ? count - without : 0;
 }
@@ -222,11 +224,8 @@ HDC WINAPI CreateCompatibleDC(HDC context) {
 
 BOOL WINAPI DeleteDC(HDC handle) {
     auto* context = FindObject<DeviceContext>(handle);
-    if (!context) {
-        return FALSE;
-    }
     // A window's context goes back with ReleaseDC.
-    if (context->windowContext) {
+    if (!context || context->windowContext) {
         return FALSE;
     }
     Destroy(context);
@@ -251,11 +250,7 @@ HGDIOBJ WINAPI SelectObject(HDC handle, HGDIOBJ object) {
             if (context->screen || !bitmap || (bitmap->context && bitmap->context != context)) {
                 return nullptr;
             }
-            Bitmap* previous = context->state.bitmap;
             const HGDIOBJ result = Replace(context->state.bitmap, bitmap);
-            if (previous->selected.load(std::memory_order_relaxed) <= 0) {
-                previous->context = nullptr;
-            }
             bitmap->context = bitmap->stock ? nullptr : context;
             UseBitmap(*context);
             return result;

@@ -4,9 +4,11 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <mutex>
 #include <optional>
+#include <type_traits>
 #include <vector>
 
 #include "gdi/context/objects.h"
@@ -20,7 +22,7 @@ namespace platform::gdi {
 /// such numbers cannot overflow.
 constexpr LONG Near(std::int64_t coordinate) {
     constexpr std::int64_t kFar = std::int64_t{1} << 28;
-    return static_cast<LONG>(coordinate < -kFar ? -kFar : coordinate > kFar ? kFar : coordinate);
+    return static_cast<LONG>(std::clamp(coordinate, -kFar, kFar));
 }
 
 /// What SaveDC keeps.
@@ -94,5 +96,14 @@ class Drawing {
     DeviceContext* context_;
     std::optional<ScreenGuard> lock_;
 };
+
+/// Runs draw(context) with the screen's lock held, and no exception leaves it. @returns its result; 0 for a bad handle and
+/// without memory, with the error set.
+template <class Draw>
+auto DrawIn(HDC handle, Draw draw) {
+    using Result = std::invoke_result_t<Draw, DeviceContext&>;
+    const Drawing drawing(handle);
+    return drawing ? Guarded(Result{}, [&] { return draw(*drawing); }) : Result{};
+}
 
 }  // namespace platform::gdi

@@ -33,31 +33,27 @@ namespace {
 std::atomic<std::size_t> stockCount{0};
 
 template <class Kind>
-Kind* MakeStock(void (*fill)(Kind&)) {
+Kind* MakeStock() {
     auto object = NewObject<Kind>();
     if (!object) {
         std::abort();
     }
-    fill(*object);
     object->handle = base::InsertHandle(Kind::kKind, object.get());
     NoteStock(object.get());
     return object.release();
 }
 
-template <UINT Style, COLORREF Colour>
-void FillBrush(Brush& brush) {
-    brush.style = Style;
-    brush.colour = Colour;
-}
-
-template <UINT Style, COLORREF Colour>
-void FillPen(Pen& pen) {
-    pen.style = Style;
-    pen.colour = Colour;
+/// A pen or a brush.
+template <class Kind>
+Kind* StockTool(UINT style, COLORREF colour) {
+    Kind* tool = MakeStock<Kind>();
+    tool->style = style;
+    tool->colour = colour;
+    return tool;
 }
 
 Font* StockFont(const char* face, int height, int weight, BYTE pitch) {
-    Font* font = MakeStock<Font>([](Font&) {});
+    Font* font = MakeStock<Font>();
     font->logical.lfHeight = height;
     font->logical.lfWeight = weight;
     font->logical.lfPitchAndFamily = pitch;
@@ -70,23 +66,22 @@ struct StockTable {
     StockObjects inside{};
 
     StockTable() {
-        objects[WHITE_BRUSH] = MakeStock<Brush>(FillBrush<BS_SOLID, 0xFFFFFF>);
-        objects[BLACK_BRUSH] = MakeStock<Brush>(FillBrush<BS_SOLID, 0x000000>);
-        objects[NULL_BRUSH] = MakeStock<Brush>(FillBrush<BS_NULL, 0>);
-        objects[WHITE_PEN] = MakeStock<Pen>(FillPen<PS_SOLID, 0xFFFFFF>);
-        objects[BLACK_PEN] = MakeStock<Pen>(FillPen<PS_SOLID, 0x000000>);
-        objects[NULL_PEN] = MakeStock<Pen>(FillPen<PS_NULL, 0>);
+        objects[WHITE_BRUSH] = StockTool<Brush>(BS_SOLID, 0xFFFFFF);
+        objects[BLACK_BRUSH] = StockTool<Brush>(BS_SOLID, 0x000000);
+        objects[NULL_BRUSH] = StockTool<Brush>(BS_NULL, 0);
+        objects[WHITE_PEN] = StockTool<Pen>(PS_SOLID, 0xFFFFFF);
+        objects[BLACK_PEN] = StockTool<Pen>(PS_SOLID, 0x000000);
+        objects[NULL_PEN] = StockTool<Pen>(PS_NULL, 0);
         objects[ANSI_FIXED_FONT] = StockFont("Courier", 12, FW_NORMAL, FIXED_PITCH | FF_MODERN);
         objects[ANSI_VAR_FONT] = StockFont("MS Sans Serif", 12, FW_NORMAL, VARIABLE_PITCH | FF_SWISS);
         objects[SYSTEM_FONT] = StockFont("System", 16, FW_BOLD, VARIABLE_PITCH | FF_SWISS);
         objects[DEFAULT_GUI_FONT] = StockFont("MS Shell Dlg", -11, FW_NORMAL, VARIABLE_PITCH | FF_SWISS);
         static std::uint32_t onePixel = 0;
-        inside.defaultBitmap = MakeStock<Bitmap>([](Bitmap& bitmap) {
-            bitmap.width = bitmap.height = bitmap.bitsPerPixel = 1;
-            bitmap.rowBytes = 2;
-            bitmap.sharedBits = true;
-            bitmap.bits = reinterpret_cast<std::byte*>(&onePixel);
-        });
+        Bitmap& bitmap = *(inside.defaultBitmap = MakeStock<Bitmap>());
+        bitmap.width = bitmap.height = bitmap.bitsPerPixel = 1;
+        bitmap.rowBytes = 2;
+        bitmap.sharedBits = true;
+        bitmap.bits = reinterpret_cast<std::byte*>(&onePixel);
         inside.blackPen = static_cast<Pen*>(objects[BLACK_PEN]);
         inside.whiteBrush = static_cast<Brush*>(objects[WHITE_BRUSH]);
         inside.systemFont = static_cast<Font*>(objects[SYSTEM_FONT]);

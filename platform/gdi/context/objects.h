@@ -72,11 +72,8 @@ struct Bitmap : Object {
 /// @returns the object of a handle; null, with ERROR_INVALID_HANDLE set, when it is stale or of another kind.
 template <class Kind, class Handle>
 Kind* FindObject(Handle handle) {
-    auto* object = static_cast<Kind*>(base::FindHandle(base::ToNumber(handle), Kind::kKind));
-    if (!object) {
-        SetLastError(ERROR_INVALID_HANDLE);
-    }
-    return object;
+    auto* object = base::Find<Kind>(handle, Kind::kKind);
+    return object ? object : Fail<Kind*>(ERROR_INVALID_HANDLE, nullptr);
 }
 
 /// Files a new object. @returns its handle; null, with ERROR_NOT_ENOUGH_MEMORY set, when there is none.

@@ -129,9 +129,7 @@ void Combine(DeviceContext& context, const RECT& area, Operation operation, cons
         if (each.top >= area.bottom) {
             break;
         }
-        const RECT part{std::max(each.left, area.left), std::max(each.top, area.top), std::min(each.right, area.right),
-                        std::min(each.bottom, area.bottom)};
-        if (part.left < part.right && part.top < part.bottom) {
+        if (const RECT part = Cut(each, area); Holds(part)) {
             CombineRect(context.surface, part, operation, ink, source);
             context.Drawn(part);
         }

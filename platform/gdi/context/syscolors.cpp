@@ -45,8 +45,7 @@ bool Known(int index) {
 }  // namespace
 
 std::uint32_t SystemColourPixel(int index) {
-    return Known(index) ? PixelOf(Colours().values[static_cast<std::size_t>(index)].load(std::memory_order_relaxed))
-                        : 0;
+    return PixelOf(GetSysColor(index));
 }
 
 }  // namespace platform::gdi

@@ -89,12 +89,8 @@ bool PaintEdge(SystemPainter& painter, RECT& rect, UINT edge, UINT flags) {
 using namespace platform::gdi;
 
 BOOL WINAPI DrawEdge(HDC handle, LPRECT rect, UINT edge, UINT flags) {
-    const Drawing drawing(handle);
-    if (!drawing || !rect) {
-        return FALSE;
-    }
-    return Guarded(FALSE, [&] {
-        SystemPainter painter(*drawing);
-        return PaintEdge(painter, *rect, edge, flags) ? TRUE : FALSE;
+    return DrawIn(handle, [&](DeviceContext& context) {
+        SystemPainter painter(context);
+        return BOOL{rect && PaintEdge(painter, *rect, edge, flags)};
     });
 }

@@ -51,27 +51,23 @@ Region Inside(const Region& area) {
 
 /// areaIn makes the figure's area out of the rectangle that it fills.
 BOOL Draw(HDC handle, const RECT& given, Region (*areaIn)(const RECT& rect)) {
-    const Drawing drawing(handle);
-    if (!drawing) {
-        return FALSE;
-    }
-    return Guarded(FALSE, [&] {
-        const Stroke stroke(*drawing);
-        RECT rect = drawing->ToSurface(RECT{std::min(given.left, given.right), std::min(given.top, given.bottom),
-                                            std::max(given.left, given.right), std::max(given.top, given.bottom)});
+    return DrawIn(handle, [&](DeviceContext& context) {
+        const Stroke stroke(context);
+        RECT rect = context.ToSurface(RECT{std::min(given.left, given.right), std::min(given.top, given.bottom),
+                                           std::max(given.left, given.right), std::max(given.top, given.bottom)});
         // Without a pen the figure is a pixel smaller.
         rect.right -= stroke.None();
         rect.bottom -= stroke.None();
         const Region outer = areaIn(rect);
         const Region inner = stroke.None() ? outer : Inside(outer);
-        const Ink brush = InkOf(*drawing, *drawing->state.brush);
+        const Ink brush = InkOf(context, *context.state.brush);
         if (!brush.none) {
-            Combine(*drawing, inner, kCopyPattern, &brush);
+            Combine(context, inner, kCopyPattern, &brush);
         }
         if (!stroke.None()) {
             Region border(outer);
             border.Subtract(inner);
-            Combine(*drawing, border, kCopyPattern, &stroke.PenInk());
+            Combine(context, border, kCopyPattern, &stroke.PenInk());
         }
         return TRUE;
     });

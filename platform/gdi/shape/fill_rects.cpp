@@ -51,7 +51,7 @@ int WINAPI FillRect(HDC handle, const RECT* rect, HBRUSH brush) {
 int WINAPI FrameRect(HDC handle, const RECT* rect, HBRUSH brush) {
     const Drawing drawing(handle);
     const Brush* object = drawing && rect ? BrushOrColour(brush) : nullptr;
-    if (!object || rect->left >= rect->right || rect->top >= rect->bottom) {
+    if (!object || !Holds(*rect)) {
         return 0;
     }
     return Guarded(0, [&] {
@@ -73,20 +73,16 @@ BOOL WINAPI InvertRect(HDC handle, const RECT* rect) {
 }
 
 BOOL WINAPI DrawFocusRect(HDC handle, const RECT* rect) {
-    const Drawing drawing(handle);
-    if (!drawing || !rect) {
-        return FALSE;
-    }
-    return Guarded(FALSE, [&] {
+    return DrawIn(handle, [&](DeviceContext& context) {
         // Every other pixel; exclusive or makes the second call undo the first.
-        const std::uint32_t set = drawing->surface.Mask();
+        const std::uint32_t set = context.surface.Mask();
         Ink dots;
         dots.width = dots.height = 2;
-        dots.origin = drawing->origin;
+        dots.origin = context.origin;
         dots.tile = {set, 0, 0, set};
-        if (rect->left < rect->right && rect->top < rect->bottom) {
-            Frame(*drawing, drawing->ToSurface(*rect), kXorPattern, dots);
+        if (rect && Holds(*rect)) {
+            Frame(context, context.ToSurface(*rect), kXorPattern, dots);
         }
-        return TRUE;
+        return BOOL{rect != nullptr};
     });
 }

@@ -198,17 +198,13 @@ void Button(SystemPainter& painter, const RECT& rect, UINT state) {
 using namespace platform::gdi;
 
 BOOL WINAPI DrawFrameControl(HDC handle, LPRECT rect, UINT type, UINT state) {
-    const Drawing drawing(handle);
-    if (!drawing || !rect) {
-        return FALSE;
-    }
-    return Guarded(FALSE, [&] {
-        SystemPainter painter(*drawing);
-        switch (type) {
+    return DrawIn(handle, [&](DeviceContext& context) -> BOOL {
+        SystemPainter painter(context);
+        switch (rect ? type : 0) {
             case DFC_CAPTION:
-                return Caption(painter, *rect, state) ? TRUE : FALSE;
+                return Caption(painter, *rect, state);
             case DFC_SCROLL:
-                return Scroll(painter, *rect, state) ? TRUE : FALSE;
+                return Scroll(painter, *rect, state);
             case DFC_BUTTON:
                 Button(painter, *rect, state);
                 return TRUE;

@@ -1,6 +1,7 @@
 // Lines and single pixels.
 #include <algorithm>
 #include <cstdlib>
+#include <optional>
 
 #include "gdi/shape/lines.h"
 #include "gdi/context/raster.h"
@@ -72,6 +73,16 @@ void Stroke::Thin(POINT from, POINT to) {
 
 using namespace platform::gdi;
 
+namespace {
+
+/// @returns where a pixel lies on the surface; nothing where nothing can be drawn.
+std::optional<POINT> PixelAt(const Drawing& drawing, int x, int y) {
+    const POINT at = drawing ? drawing->ToSurface(x, y) : POINT{};
+    return drawing && drawing->Drawable().Contains(at) ? std::optional(at) : std::nullopt;
+}
+
+}  // namespace
+
 BOOL WINAPI MoveToEx(HDC handle, int x, int y, LPPOINT previous) {
     auto* context = FindObject<DeviceContext>(handle);
     if (!context) {
@@ -85,13 +96,9 @@ BOOL WINAPI MoveToEx(HDC handle, int x, int y, LPPOINT previous) {
 }
 
 BOOL WINAPI LineTo(HDC handle, int x, int y) {
-    const Drawing drawing(handle);
-    if (!drawing) {
-        return FALSE;
-    }
-    return Guarded(FALSE, [&] {
-        POINT& position = drawing->state.position;
-        Stroke(*drawing).Line(drawing->ToSurface(position.x, position.y), drawing->ToSurface(x, y));
+    return DrawIn(handle, [&](DeviceContext& context) {
+        POINT& position = context.state.position;
+        Stroke(context).Line(context.ToSurface(position.x, position.y), context.ToSurface(x, y));
         position = {x, y};
         return TRUE;
     });
@@ -99,27 +106,18 @@ BOOL WINAPI LineTo(HDC handle, int x, int y) {
 
 COLORREF WINAPI GetPixel(HDC handle, int x, int y) {
     const Drawing drawing(handle);
-    if (!drawing) {
-        return CLR_INVALID;
-    }
-    const POINT at = drawing->ToSurface(x, y);
-    if (!drawing->Drawable().Contains(at)) {
-        return CLR_INVALID;
-    }
-    return ColourOf(ShownColour(drawing->surface, ReadPixel(drawing->surface, at.x, at.y)));
+    const auto at = PixelAt(drawing, x, y);
+    return at ? ColourOf(ShownColour(drawing->surface, ReadPixel(drawing->surface, at->x, at->y))) : CLR_INVALID;
 }
 
 COLORREF WINAPI SetPixel(HDC handle, int x, int y, COLORREF colour) {
     const Drawing drawing(handle);
-    if (!drawing) {
-        return CLR_INVALID;
-    }
-    const POINT at = drawing->ToSurface(x, y);
-    if (!drawing->Drawable().Contains(at)) {
+    const auto at = PixelAt(drawing, x, y);
+    if (!at) {
         return CLR_INVALID;
     }
     const std::uint32_t value = NativeColour(drawing->surface, PixelOf(colour));
-    WritePixel(drawing->surface, at.x, at.y, value);
-    drawing->Drawn({at.x, at.y, at.x + 1, at.y + 1});
+    WritePixel(drawing->surface, at->x, at->y, value);
+    drawing->Drawn({at->x, at->y, at->x + 1, at->y + 1});
     return ColourOf(ShownColour(drawing->surface, value));
 }

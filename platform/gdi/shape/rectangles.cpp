@@ -1,13 +1,13 @@
 // Arithmetic on rectangles.
 #include <windows.h>
 
-#include <algorithm>
+#include "gdi/surface/region.h"
+
+using platform::gdi::Around;
+using platform::gdi::Cut;
+using platform::gdi::Holds;
 
 namespace {
-
-bool Empty(const RECT& rect) {
-    return rect.left >= rect.right || rect.top >= rect.bottom;
-}
 
 /// Coordinates wrap at 32 bits, as the calls always did.
 LONG Plus(LONG value, int delta) {
@@ -58,36 +58,18 @@ BOOL WINAPI IntersectRect(LPRECT rect, const RECT* first, const RECT* second) {
     if (!rect) {
         return FALSE;
     }
-    RECT common{};
-    if (first && second && !Empty(*first) && !Empty(*second)) {
-        common = {std::max(first->left, second->left), std::max(first->top, second->top),
-                  std::min(first->right, second->right), std::min(first->bottom, second->bottom)};
-    }
-    if (Empty(common)) {
-        SetRectEmpty(rect);
-        return FALSE;
-    }
-    *rect = common;
-    return TRUE;
+    const RECT common = first && second && Holds(*first) && Holds(*second) ? Cut(*first, *second) : RECT{};
+    *rect = Holds(common) ? common : RECT{};
+    return Holds(common);
 }
 
 BOOL WINAPI UnionRect(LPRECT rect, const RECT* first, const RECT* second) {
     if (!rect || !first || !second) {
         return FALSE;
     }
-    if (Empty(*first)) {
-        if (Empty(*second)) {
-            SetRectEmpty(rect);
-            return FALSE;
-        }
-        *rect = *second;
-    } else if (Empty(*second)) {
-        *rect = *first;
-    } else {
-        *rect = {std::min(first->left, second->left), std::min(first->top, second->top),
-                 std::max(first->right, second->right), std::max(first->bottom, second->bottom)};
-    }
-    return TRUE;
+    const bool holds[] = {Holds(*first), Holds(*second)};
+    *rect = holds[0] && holds[1] ? Around(*first, *second) : holds[0] ? *first : holds[1] ? *second : RECT{};
+    return holds[0] || holds[1];
 }
 
 BOOL WINAPI PtInRect(const RECT* rect, POINT point) {
@@ -95,7 +77,7 @@ BOOL WINAPI PtInRect(const RECT* rect, POINT point) {
 }
 
 BOOL WINAPI IsRectEmpty(const RECT* rect) {
-    return !rect || Empty(*rect);
+    return !rect || !Holds(*rect);
 }
 
 BOOL WINAPI EqualRect(const RECT* first, const RECT* second) {

@@ -16,6 +16,11 @@ inline RECT Cut(const RECT& a, const RECT& b) {
     return {std::max(a.left, b.left), std::max(a.top, b.top), std::min(a.right, b.right), std::min(a.bottom, b.bottom)};
 }
 
+/// @returns the smallest rectangle around two that hold something.
+inline RECT Around(const RECT& a, const RECT& b) {
+    return {std::min(a.left, b.left), std::min(a.top, b.top), std::max(a.right, b.right), std::max(a.bottom, b.bottom)};
+}
+
 /// @returns whether there is a pixel in it.
 inline bool Holds(const RECT& rect) {
     return rect.left < rect.right && rect.top < rect.bottom;

@@ -94,20 +94,6 @@ void ForEachAgainstMove(std::span<const RECT> rects, int dx, int dy, Copy&& copy
     }
 }
 
-/// Calls row(y) for the rows of a rectangle against a vertical move.
-template <class Row>
-void ForEachRowAgainstMove(const RECT& rect, int dy, Row&& row) {
-    if (dy > 0) {
-        for (int y = rect.bottom; y-- > rect.top;) {
-            row(y);
-        }
-    } else {
-        for (int y = rect.top; y < rect.bottom; ++y) {
-            row(y);
-        }
-    }
-}
-
 }  // namespace
 
 std::recursive_mutex& ScreenLock() {
@@ -162,8 +148,7 @@ void MarkDirty(const RECT& area) {
     } else {
         RECT all = rect;
         for (const RECT& each : dirty.rects) {
-            all = {std::min(all.left, each.left), std::min(all.top, each.top), std::max(all.right, each.right),
-                   std::max(all.bottom, each.bottom)};
+            all = Around(all, each);
         }
         dirty.rects[0] = all;
         dirty.count = 1;
@@ -202,10 +187,11 @@ void CopyScreenArea(const RECT& from, POINT to, const Region& clip) {
     target.Intersect(ScreenRect());
     ForEachAgainstMove(target.Rects(), dx, dy, [&](const RECT& rect) {
         const std::size_t bytes = static_cast<std::size_t>(rect.right - rect.left) * 4;
-        ForEachRowAgainstMove(rect, dy, [&](int y) {
+        for (int i = 0; i < rect.bottom - rect.top; ++i) {
+            const int y = dy > 0 ? rect.bottom - 1 - i : rect.top + i;
             std::memmove(view.pixels + static_cast<std::ptrdiff_t>(y) * view.stride + rect.left,
                          view.pixels + static_cast<std::ptrdiff_t>(y - dy) * view.stride + rect.left - dx, bytes);
-        });
+        }
         MarkDirty(rect);
     });
 }

@@ -3,6 +3,7 @@
 #include <strings.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 
 #include "gdi/text/font.h"
@@ -60,12 +61,9 @@ const Alias* FindAlias(const LOGFONTA& logical) {
                 return &kAliases[(logical.lfPitchAndFamily & 3) == FIXED_PITCH ? 8 : 0];
         }
     }
-    for (const Alias& alias : kAliases) {
-        if (strncasecmp(alias.name, logical.lfFaceName, LF_FACESIZE) == 0) {
-            return &alias;
-        }
-    }
-    return nullptr;
+    const auto* found = std::ranges::find_if(
+        kAliases, [&](const Alias& alias) { return strncasecmp(alias.name, logical.lfFaceName, LF_FACESIZE) == 0; });
+    return found == kAliases.end() ? nullptr : found;
 }
 
 /// The largest size that does not pass the height asked for; the smallest when all do; null when they are far too

@@ -7,6 +7,7 @@
 #include "gdi/text/text.h"
 
 using namespace platform::gdi;
+namespace kernel = platform::kernel;
 
 namespace {
 
@@ -141,16 +142,14 @@ class Layout {
 
   private:
     static int Bytes(const char* at, const char* end) {
-        return at < end && CurrentCodePage().lead[static_cast<unsigned char>(*at)] && at + 1 < end ? 2 : 1;
+        return BytesAt(kernel::ActiveCodePage(), at, end - at);
     }
 
     int Advance(int from, const char* at, int bytes) const {
         if (*at == '\t' && format_ & DT_EXPANDTABS) {
             return (from / tab_ + 1) * tab_ - from;
         }
-        const CodePage& page = CurrentCodePage();
-        const char16_t character = bytes == 2 ? DoubleByte(at[0], at[1]) : page.single[static_cast<unsigned char>(*at)];
-        return font_.Get(character).advance;
+        return font_.Get(CharacterAt(kernel::ActiveCodePage(), at, bytes)).advance;
     }
 
     std::size_t Fitting(const std::string& text, int room) const {

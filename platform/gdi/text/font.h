@@ -75,10 +75,10 @@ class RealizedFont {
     /// The picture of a large glyph, which is not kept.
     Glyph GetLarge(char16_t character);
     bool Underlined() const {
-        return underlined_;
+        return logical_.lfUnderline != 0;
     }
     bool StruckOut() const {
-        return struckOut_;
+        return logical_.lfStrikeOut != 0;
     }
 
   private:
@@ -95,8 +95,6 @@ class RealizedFont {
     FontMetrics metrics_;
     bool bold_;   ///< put on by smearing
     bool slant_;  ///< put on by shearing
-    bool underlined_;
-    bool struckOut_;
     std::array<std::atomic<Page*>, 256> pages_{};
 };
 

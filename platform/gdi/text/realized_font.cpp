@@ -50,8 +50,6 @@ RealizedFont::RealizedFont(std::unique_ptr<Face> face, const LOGFONTA& logical)
     : face_(std::move(face)), logical_(logical), metrics_(face_->Metrics()) {
     bold_ = logical.lfWeight > FW_MEDIUM && metrics_.weight <= FW_MEDIUM;
     slant_ = logical.lfItalic && !metrics_.italic;
-    underlined_ = logical.lfUnderline != 0;
-    struckOut_ = logical.lfStrikeOut != 0;
     if (bold_) {
         metrics_.weight = FW_BOLD;
         ++metrics_.averageWidth;

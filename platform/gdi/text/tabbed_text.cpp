@@ -32,14 +32,12 @@ int TabbedText(HDC handle, DeviceContext& context, int x, int y, const std::stri
 }
 
 void DrawTabbedText(HDC handle, int x, int y, const std::string& text) {
-    if (const Drawing drawing(handle); drawing) {
-        Guarded(0, [&] { return TabbedText(handle, *drawing, x, y, text, nullptr, true); });
-    }
+    DrawIn(handle, [&](DeviceContext& context) { return TabbedText(handle, context, x, y, text, nullptr, true); });
 }
 
 int TabbedTextWidth(HDC handle, const std::string& text) {
-    const Drawing drawing(handle);
-    return drawing ? Guarded(0, [&] { return TabbedText(handle, *drawing, 0, 0, text, nullptr, false); }) : 0;
+    return DrawIn(handle,
+                  [&](DeviceContext& context) { return TabbedText(handle, context, 0, 0, text, nullptr, false); });
 }
 
 }  // namespace platform::gdi

@@ -7,27 +7,6 @@
 
 namespace platform::gdi {
 
-const CodePage& CurrentCodePage() {
-    static const CodePage page = [] {
-        CodePage made;
-        for (unsigned i = 0; i < 256; ++i) {
-            made.lead[i] = IsDBCSLeadByte(static_cast<BYTE>(i));
-            const char byte = static_cast<char>(i);
-            WCHAR wide[4] = {};
-            made.single[i] =
-                MultiByteToWideChar(CP_ACP, 0, &byte, 1, wide, 4) == 1 ? wide[0] : static_cast<char16_t>(i);
-        }
-        return made;
-    }();
-    return page;
-}
-
-char16_t DoubleByte(char lead, char trail) {
-    const char bytes[2] = {lead, trail};
-    WCHAR wide[4] = {};
-    return MultiByteToWideChar(CP_ACP, 0, bytes, 2, wide, 4) >= 1 ? wide[0] : u'?';
-}
-
 namespace {
 
 struct Placed {

@@ -4,35 +4,31 @@
 
 #include <windows.h>
 
-#include <array>
+#include <cstddef>
 
 #include "gdi/context/context.h"
 #include "gdi/text/font.h"
+#include "kernel/text/codepage.h"
 
 namespace platform::gdi {
 
-/// What the bytes of the code page stand for.
-struct CodePage {
-    std::array<char16_t, 256> single{};
-    std::array<bool, 256> lead{};
-};
-const CodePage& CurrentCodePage();
-/// @returns the character that a lead byte and the byte after it stand for.
-char16_t DoubleByte(char lead, char trail);
+/// @returns whether one byte or two make the character at the beginning of a text.
+inline int BytesAt(const kernel::CodePage& page, const char* at, std::ptrdiff_t left) {
+    return left > 1 && page.lead[static_cast<unsigned char>(*at)] ? 2 : 1;
+}
+
+inline char16_t CharacterAt(const kernel::CodePage& page, const char* at, int bytes) {
+    const auto first = static_cast<unsigned char>(at[0]);
+    return page.Given(bytes == 2 ? page.pairs[first << 8 | static_cast<unsigned char>(at[1])] : page.single[first]);
+}
 
 /// Calls visit(first byte's index, number of bytes, character) for each character.
 template <class Visit>
 void ForEachCharacter(const char* text, int length, Visit&& visit) {
-    const CodePage& page = CurrentCodePage();
-    for (int i = 0; i < length;) {
-        const auto byte = static_cast<unsigned char>(text[i]);
-        if (page.lead[byte] && i + 1 < length) {
-            visit(i, 2, DoubleByte(text[i], text[i + 1]));
-            i += 2;
-        } else {
-            visit(i, 1, page.single[byte]);
-            ++i;
-        }
+    const kernel::CodePage& page = kernel::ActiveCodePage();
+    for (int i = 0, bytes = 0; i < length; i += bytes) {
+        bytes = BytesAt(page, text + i, length - i);
+        visit(i, bytes, CharacterAt(page, text + i, bytes));
     }
 }
 

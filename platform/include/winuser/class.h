@@ -47,7 +47,6 @@ WINUSERAPI BOOL WINAPI UnregisterClassA(LPCSTR name, HINSTANCE instance);
 WINUSERAPI BOOL WINAPI GetClassInfoA(HINSTANCE instance, LPCSTR name, LPWNDCLASSA windowClass);
 WINUSERAPI int WINAPI GetClassNameA(HWND window, LPSTR name, int size);
 
-#ifndef CVPLATFORM_NO_GENERIC_NAMES
 typedef WNDCLASSA WNDCLASS;
 typedef PWNDCLASSA PWNDCLASS;
 typedef LPWNDCLASSA LPWNDCLASS;
@@ -55,4 +54,3 @@ typedef LPWNDCLASSA LPWNDCLASS;
 #define UnregisterClass UnregisterClassA
 #define GetClassInfo GetClassInfoA
 #define GetClassName GetClassNameA
-#endif

@@ -69,10 +69,6 @@
 #define STM_SETICON 0x0170
 #define STM_GETICON 0x0171
 
-#define IMAGE_BITMAP 0
-#define IMAGE_ICON 1
-#define IMAGE_CURSOR 2
-
 // --- owner drawing (WM_DRAWITEM, WM_MEASUREITEM)
 
 #define ODT_MENU 1

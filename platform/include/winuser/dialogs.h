@@ -35,8 +35,6 @@ typedef DLGTEMPLATE* LPDLGTEMPLATEA;
 typedef DLGTEMPLATE* LPDLGTEMPLATE;
 typedef const DLGTEMPLATE* LPCDLGTEMPLATEA;
 typedef const DLGTEMPLATE* LPCDLGTEMPLATE;
-typedef DLGITEMTEMPLATE* PDLGITEMTEMPLATEA;
-typedef DLGITEMTEMPLATE* LPDLGITEMTEMPLATEA;
 typedef DLGITEMTEMPLATE* LPDLGITEMTEMPLATE;
 
 #define DS_3DLOOK 0x0004
@@ -138,7 +136,6 @@ WINUSERAPI LONG WINAPI GetDialogBaseUnits(void);
 WINUSERAPI int WINAPI MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type);
 WINUSERAPI BOOL WINAPI MessageBeep(UINT type);
 
-#ifndef CVPLATFORM_NO_GENERIC_NAMES
 #define CreateDialogParam CreateDialogParamA
 #define CreateDialogIndirectParam CreateDialogIndirectParamA
 #define DialogBoxParam DialogBoxParamA
@@ -152,4 +149,3 @@ WINUSERAPI BOOL WINAPI MessageBeep(UINT type);
 #define GetDlgItemText GetDlgItemTextA
 #define SendDlgItemMessage SendDlgItemMessageA
 #define MessageBox MessageBoxA
-#endif

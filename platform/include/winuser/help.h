@@ -28,6 +28,4 @@ typedef struct tagHELPINFO {
 /// @p data has for the control. @returns FALSE for any other command but HELP_QUIT, and when there is no such topic.
 WINUSERAPI BOOL WINAPI WinHelpA(HWND window, LPCSTR helpFile, UINT command, ULONG_PTR data);
 
-#ifndef CVPLATFORM_NO_GENERIC_NAMES
 #define WinHelp WinHelpA
-#endif

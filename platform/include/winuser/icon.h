@@ -31,7 +31,5 @@ WINUSERAPI BOOL WINAPI DestroyIcon(HICON icon);
 
 WINUSERAPI BOOL WINAPI DrawIcon(HDC context, int x, int y, HICON icon);
 
-#ifndef CVPLATFORM_NO_GENERIC_NAMES
 #define LoadCursor LoadCursorA
 #define LoadIcon LoadIconA
-#endif

@@ -163,6 +163,4 @@ WINUSERAPI BOOL WINAPI HideCaret(HWND window);
 WINUSERAPI BOOL WINAPI SetCaretPos(int x, int y);
 WINUSERAPI BOOL WINAPI GetCaretPos(LPPOINT position);
 
-#ifndef CVPLATFORM_NO_GENERIC_NAMES
 #define MapVirtualKey MapVirtualKeyA
-#endif

@@ -204,9 +204,7 @@ WINUSERAPI UINT WINAPI RegisterWindowMessageA(LPCSTR name);
 #define QS_INPUT (QS_MOUSE | QS_KEY)
 #define QS_ALLINPUT (QS_INPUT | QS_POSTMESSAGE | QS_TIMER | QS_PAINT | QS_HOTKEY | QS_SENDMESSAGE)
 
-#ifndef MAXIMUM_WAIT_OBJECTS
 #define MAXIMUM_WAIT_OBJECTS 64
-#endif
 
 WINUSERAPI BOOL WINAPI GetMessageA(LPMSG message, HWND window, UINT first, UINT last);
 WINUSERAPI BOOL WINAPI PeekMessageA(LPMSG message, HWND window, UINT first, UINT last, UINT remove);
@@ -225,7 +223,6 @@ WINUSERAPI DWORD WINAPI GetMessagePos(VOID);
 WINUSERAPI UINT_PTR WINAPI SetTimer(HWND window, UINT_PTR id, UINT period, TIMERPROC procedure);
 WINUSERAPI BOOL WINAPI KillTimer(HWND window, UINT_PTR id);
 
-#ifndef CVPLATFORM_NO_GENERIC_NAMES
 #define SendMessage SendMessageA
 #define SendMessageTimeout SendMessageTimeoutA
 #define PostMessage PostMessageA
@@ -234,7 +231,6 @@ WINUSERAPI BOOL WINAPI KillTimer(HWND window, UINT_PTR id);
 #define GetMessage GetMessageA
 #define PeekMessage PeekMessageA
 #define DispatchMessage DispatchMessageA
-#endif
 
 // --- WM_HSCROLL, WM_VSCROLL
 

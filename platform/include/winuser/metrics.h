@@ -64,7 +64,5 @@ WINUSERAPI BOOL WINAPI SystemParametersInfoA(UINT action, UINT parameter, PVOID 
 
 WINUSERAPI DWORD WINAPI GetGuiResources(HANDLE process, DWORD flags);
 
-#ifndef CVPLATFORM_NO_GENERIC_NAMES
 typedef NONCLIENTMETRICSA NONCLIENTMETRICS;
 #define SystemParametersInfo SystemParametersInfoA
-#endif

@@ -20,6 +20,4 @@ WINUSERAPI HWINSTA WINAPI GetProcessWindowStation(void);
 WINUSERAPI BOOL WINAPI GetUserObjectInformationA(HANDLE object, int index, PVOID information, DWORD size,
                                                  LPDWORD needed);
 
-#ifndef CVPLATFORM_NO_GENERIC_NAMES
 #define GetUserObjectInformation GetUserObjectInformationA
-#endif

@@ -33,7 +33,6 @@ WINUSERAPI int WINAPI wvsprintfA(LPSTR target, LPCSTR format, va_list arguments)
 /// Returns the length without the NUL, or 0 when there is no such string; size 0 gives 0.
 WINUSERAPI int WINAPI LoadStringA(HINSTANCE module, UINT id, LPSTR buffer, int size);
 
-#ifndef CVPLATFORM_NO_GENERIC_NAMES
 #define CharLower CharLowerA
 #define CharLowerBuff CharLowerBuffA
 #define CharNext CharNextA
@@ -45,4 +44,3 @@ WINUSERAPI int WINAPI LoadStringA(HINSTANCE module, UINT id, LPSTR buffer, int s
 #define LoadString LoadStringA
 #define wsprintf wsprintfA
 #define wvsprintf wvsprintfA
-#endif

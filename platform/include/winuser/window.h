@@ -88,16 +88,12 @@ WINUSERAPI BOOL WINAPI SetWindowTextA(HWND window, LPCSTR text);
 WINUSERAPI int WINAPI GetWindowTextA(HWND window, LPSTR text, int size);
 WINUSERAPI int WINAPI GetWindowTextLengthA(HWND window);
 
-#define GWL_WNDPROC (-4)
-#define GWL_HINSTANCE (-6)
-#define GWL_ID (-12)
 #define GWL_STYLE (-16)
 #define GWL_EXSTYLE (-20)
-#define GWL_USERDATA (-21)
-#define GWLP_WNDPROC GWL_WNDPROC
-#define GWLP_HINSTANCE GWL_HINSTANCE
-#define GWLP_ID GWL_ID
-#define GWLP_USERDATA GWL_USERDATA
+#define GWLP_WNDPROC (-4)
+#define GWLP_HINSTANCE (-6)
+#define GWLP_ID (-12)
+#define GWLP_USERDATA (-21)
 
 WINUSERAPI LONG WINAPI GetWindowLongA(HWND window, int index);
 WINUSERAPI LONG WINAPI SetWindowLongA(HWND window, int index, LONG value);
@@ -229,7 +225,6 @@ WINUSERAPI BOOL WINAPI AdjustWindowRectEx(LPRECT rect, DWORD style, BOOL menu, D
 #define HTCLOSE 20
 #define HTHELP 21
 
-#ifndef CVPLATFORM_NO_GENERIC_NAMES
 typedef CREATESTRUCTA CREATESTRUCT;
 typedef LPCREATESTRUCTA LPCREATESTRUCT;
 #define CreateWindow CreateWindowA
@@ -248,4 +243,3 @@ typedef LPCREATESTRUCTA LPCREATESTRUCT;
 #define RemoveProp RemovePropA
 #define FindWindow FindWindowA
 #define FindWindowEx FindWindowExA
-#endif

@@ -173,8 +173,7 @@ LONG Complete(std::string_view path, FullPath* full) {
 
 LONG FindHostFile(std::string_view path, std::string* host, bool* root) {
     FullPath full;
-    const LONG error = Complete(path, &full);
-    if (error != ERROR_SUCCESS) {
+    if (const LONG error = Complete(path, &full)) {
         return error;
     }
     std::string folder;
@@ -195,6 +194,12 @@ LONG FindHostFile(std::string_view path, std::string* host, bool* root) {
         *host = "/";
     }
     return ERROR_SUCCESS;
+}
+
+std::string WindowsPath(const std::string& host) {
+    std::string path = host.starts_with('/') ? "Z:" + host : host;
+    std::replace(path.begin(), path.end(), '/', '\\');
+    return AnsiFromUtf8(path);
 }
 
 LONG ErrorOfHost(int number) {

@@ -1,5 +1,5 @@
 /// @file hostfile.h
-/// Files of the host by their Windows paths, in whatever case they are written.
+/// Files of the host by their Windows paths, in whatever case they are written, and the other way round.
 #pragma once
 
 #include <windows.h>
@@ -34,6 +34,9 @@ LONG Complete(std::string_view path, FullPath* full);
 /// that does not exist.
 /// @param root  receives whether the path is the root of a drive, which is no entry of any folder.
 LONG FindHostFile(std::string_view path, std::string* host, bool* root = nullptr);
+
+/// @returns the Windows path of a file of the host, which is one of drive Z.
+std::string WindowsPath(const std::string& host);
 
 /// @returns a name without the dots and blanks at its end.
 std::string_view WithoutTail(std::string_view name);

@@ -2,8 +2,6 @@
 
 #include <windows.h>
 
-#include <algorithm>
-
 namespace platform::kernel {
 namespace {
 
@@ -13,14 +11,8 @@ std::size_t Width(std::string_view name, std::size_t at) {
 
 // What is left of a pattern at the end of a name.
 bool FitsEnd(std::string_view rest) {
-    const std::size_t dot = rest.find('.');
-    const auto isWild = [](char c) { return c == '*' || c == '?'; };
-    if (dot == std::string_view::npos) {
-        return std::all_of(rest.begin(), rest.end(), isWild);
-    }
-    const std::string_view after = rest.substr(dot + 1);
-    return std::all_of(rest.begin(), rest.begin() + static_cast<std::ptrdiff_t>(dot), isWild) &&
-           std::all_of(after.begin(), after.end(), isWild);
+    const std::size_t other = rest.find_first_not_of("*?");
+    return other == rest.npos || (rest[other] == '.' && rest.find_first_not_of("*?", other + 1) == rest.npos);
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <algorithm>
+#include <iterator>
 #include <map>
 #include <mutex>
 #include <string_view>
@@ -28,23 +30,15 @@ constexpr Key kKeys[] = {
 };
 
 const Key* FindKey(LPCSTR name) {
-    for (const Key& key : kKeys) {
-        if (lstrcmpiA(key.name, name) == 0) {
-            return &key;
-        }
-    }
-    return nullptr;
+    const auto* found = std::ranges::find_if(kKeys, [&](const Key& key) { return lstrcmpiA(key.name, name) == 0; });
+    return found == std::end(kKeys) ? nullptr : found;
 }
 
 }  // namespace
 
 const char* IntlKey(LCTYPE type) {
-    for (const Key& key : kKeys) {
-        if (key.type == type) {
-            return key.name;
-        }
-    }
-    return nullptr;
+    const auto* found = std::ranges::find(kKeys, type, &Key::type);
+    return found == std::end(kKeys) ? nullptr : found->name;
 }
 
 const std::string* HostIntlValue(const std::string& name) {
@@ -55,11 +49,11 @@ const std::string* HostIntlValue(const std::string& name) {
         return nullptr;
     }
     const std::lock_guard guard(lock);
-    const auto found = known.find(key->type);
-    if (found != known.end()) {
-        return &found->second;
+    const auto [place, fresh] = known.try_emplace(key->type);
+    if (fresh) {
+        place->second = LocaleValue(key->type).value_or(std::string());
     }
-    return &(known[key->type] = LocaleValue(key->type).value_or(std::string()));
+    return &place->second;
 }
 
 }  // namespace platform::kernel

@@ -12,6 +12,7 @@
 #include <cstring>
 
 #include "base/fail.h"
+#include "base/failure_order.h"
 #include "base/handle.h"
 #include "kernel/memory/probe.h"
 
@@ -37,17 +38,7 @@ static_assert(sizeof(Block) == 32);
 constexpr std::uint32_t kMostLocks = 0xFF;
 constexpr std::size_t kMostBlockBytes = std::size_t{1} << 39;
 
-std::atomic<unsigned> failCountdown{0};
-
-bool MustFail() {
-    unsigned left = failCountdown.load(std::memory_order_relaxed);
-    while (left != 0) {
-        if (failCountdown.compare_exchange_weak(left, left - 1, std::memory_order_relaxed)) {
-            return left == 1;
-        }
-    }
-    return false;
-}
+base::FailureOrder failure;
 
 HGLOBAL ToGlobal(Block* block) {
     return block->movable ? platform::base::ToHandle<HGLOBAL>(block->handle) : static_cast<HGLOBAL>(block->bytes());
@@ -85,7 +76,7 @@ Block* FindBlock(HGLOBAL memory) {
 
 // Gives a block another size. @returns its new place, or null with the block as it was.
 Block* Resize(Block* block, std::size_t size, bool zero, bool mayMove) {
-    if (size > kMostBlockBytes || MustFail()) {
+    if (size > kMostBlockBytes || failure.MeansThis()) {
         return nullptr;
     }
     const std::size_t old = block->discarded ? 0 : block->size;
@@ -133,7 +124,7 @@ HGLOBAL WINAPI GlobalAlloc(UINT flags, SIZE_T size) {
     if (flags & ~UINT{GMEM_VALID_FLAGS}) {
         return base::Fail<HGLOBAL>(ERROR_INVALID_PARAMETER, nullptr);
     }
-    if (size > kMostBlockBytes || MustFail()) {
+    if (size > kMostBlockBytes || failure.MeansThis()) {
         return base::Fail<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
     }
     const std::size_t total = size + sizeof(Block);
@@ -216,5 +207,5 @@ SIZE_T WINAPI GlobalSize(HGLOBAL memory) {
 }
 
 void CvPlatformFailAllocation(unsigned count) {
-    failCountdown.store(count, std::memory_order_relaxed);
+    failure.Give(count);
 }

@@ -1,11 +1,19 @@
 /// @file pages.h
-/// The pages that VirtualAlloc gave out and that may be written, for the memory probe: it need not touch what is known.
+/// The pages that VirtualAlloc gave out and that may be written, for the memory probe: it need not touch what is known; and how
+/// large a page is.
 #pragma once
+
+#include <unistd.h>
 
 #include <atomic>
 #include <cstdint>
 
 namespace platform::kernel {
+
+inline std::uintptr_t PageSize() {
+    static const auto size = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
+    return size;
+}
 
 struct PageRun {
     std::uintptr_t begin = 0;

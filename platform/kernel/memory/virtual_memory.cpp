@@ -2,7 +2,6 @@
 #include <windows.h>
 
 #include <sys/mman.h>
-#include <unistd.h>
 
 #include <cstdint>
 #include <map>
@@ -31,11 +30,6 @@ std::mutex& AreasLock() {
 std::map<std::uintptr_t, Area>& Areas() {
     static base::Immortal<std::map<std::uintptr_t, Area>> areas;
     return *areas;
-}
-
-std::uintptr_t PageSize() {
-    static const auto size = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
-    return size;
 }
 
 /// @returns the host's protection, or -1 for one that does not exist.
@@ -88,7 +82,8 @@ LPVOID WINAPI VirtualAlloc(LPVOID address, SIZE_T size, DWORD type, DWORD protec
         (type & ~DWORD{MEM_COMMIT | MEM_RESERVE})) {
         return base::Fail<LPVOID>(ERROR_INVALID_PARAMETER, nullptr);
     }
-    const std::size_t rounded = (size + PageSize() - 1) & ~(PageSize() - 1);
+    const std::uintptr_t page = platform::kernel::PageSize();
+    const std::size_t rounded = (size + page - 1) & ~(page - 1);
     void* memory = mmap(nullptr, rounded, host, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
     if (memory == MAP_FAILED) {
         return base::Fail<LPVOID>(ERROR_NOT_ENOUGH_MEMORY, nullptr);

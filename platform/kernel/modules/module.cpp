@@ -15,7 +15,7 @@
 #include "base/fail.h"
 #include "kernel/text/encoding.h"
 #include "kernel/guarded.h"
-#include "kernel/files/hostpath.h"
+#include "kernel/files/hostfile.h"
 #include "kernel/memory/probe.h"
 #include "kernel/modules/library_file.h"
 #include "kernel/modules/start/module_registration.h"
@@ -54,11 +54,15 @@ Module* AddModule(std::string path) {
     return Modules().back().get();
 }
 
+template <class Fits>
+Module* FirstModule(Fits fits) {
+    const auto found = std::ranges::find_if(Modules(), [&](const auto& module) { return fits(*module); });
+    return found == Modules().end() ? nullptr : found->get();
+}
+
 Module* Application() {
-    for (const auto& module : Modules()) {
-        if (module->application) {
-            return module.get();
-        }
+    if (Module* known = FirstModule([](const Module& module) { return module.application; })) {
+        return known;
     }
     Module* module = AddModule(ApplicationPath());
     if (module) {
@@ -73,12 +77,7 @@ void RemoveModule(Module* module) {
 }
 
 Module* FindByPath(const std::string& path) {
-    for (const auto& module : Modules()) {
-        if (module->path == path) {
-            return module.get();
-        }
-    }
-    return nullptr;
+    return FirstModule([&](const Module& module) { return module.path == path; });
 }
 
 Module* FindByName(const std::string& name) {
@@ -94,12 +93,8 @@ Module* FindByName(const std::string& name) {
     if (application && NamesApplication(name, application->path)) {
         return application;
     }
-    for (const auto& module : Modules()) {
-        if (!module->application && PlainName(AnsiFromUtf8(module->path)) == plain) {
-            return module.get();
-        }
-    }
-    return nullptr;
+    return FirstModule(
+        [&](const Module& module) { return !module.application && PlainName(AnsiFromUtf8(module.path)) == plain; });
 }
 
 }  // namespace
@@ -111,10 +106,7 @@ std::recursive_mutex& ModuleLock() {
 
 Module* FindModule(HMODULE module) {
     Module* found = module ? base::Find<Module>(module, HandleKind::Module) : Application();
-    if (!found) {
-        SetLastError(ERROR_INVALID_HANDLE);
-    }
-    return found;
+    return found ? found : base::Fail<Module*>(ERROR_INVALID_HANDLE, nullptr);
 }
 
 void WhenModulesGo(void (*forget)(HINSTANCE)) {
@@ -179,10 +171,7 @@ HMODULE WINAPI GetModuleHandleA(LPCSTR name) {
         }
         const std::lock_guard guard(ModuleLock());
         const Module* module = name ? FindByName(name) : Application();
-        if (!module) {
-            return base::Fail(ERROR_MOD_NOT_FOUND, nullptr);
-        }
-        return module->handle;
+        return module ? module->handle : base::Fail<HMODULE>(ERROR_MOD_NOT_FOUND, nullptr);
     });
 }
 
@@ -235,11 +224,8 @@ HMODULE WINAPI LoadLibraryA(LPCSTR name) {
         const std::lock_guard guard(ModuleLock());
         const std::string path = PathOfLoaded(loaded);
         Module* module = FindByPath(path);
-        if (!module) {
-            // A library of the host's own kind, which has announced nothing.
-            module = AddModule(path);
-        }
-        if (!module) {
+        // A library of the host's own kind has announced nothing.
+        if (!module && !(module = AddModule(path))) {
             dlclose(loaded);
             return base::Fail(ERROR_NOT_ENOUGH_MEMORY, nullptr);
         }
@@ -297,9 +283,6 @@ FARPROC WINAPI GetProcAddress(HMODULE handle, LPCSTR name) {
         if (opened) {
             dlclose(opened);
         }
-        if (!address) {
-            SetLastError(ERROR_PROC_NOT_FOUND);
-        }
-        return reinterpret_cast<FARPROC>(address);
+        return address ? reinterpret_cast<FARPROC>(address) : base::Fail<FARPROC>(ERROR_PROC_NOT_FOUND, nullptr);
     });
 }

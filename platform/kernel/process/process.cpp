@@ -10,7 +10,7 @@
 
 #include "kernel/text/encoding.h"
 #include "kernel/guarded.h"
-#include "kernel/files/hostpath.h"
+#include "kernel/files/hostfile.h"
 #include "kernel/modules/start/module_registration.h"
 
 using platform::kernel::AnsiFromUtf8;

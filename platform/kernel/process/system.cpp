@@ -2,11 +2,12 @@
 #include <windows.h>
 
 #include <sys/sysinfo.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <cstdio>
 #include <thread>
+
+#include "kernel/memory/pages.h"
 
 namespace {
 
@@ -29,7 +30,7 @@ SIZE_T AvailableMemory(SIZE_T otherwise) {
 void WINAPI GetSystemInfo(LPSYSTEM_INFO information) {
     *information = SYSTEM_INFO{};
     const unsigned processors = std::max(1u, std::thread::hardware_concurrency());
-    information->dwPageSize = static_cast<DWORD>(sysconf(_SC_PAGESIZE));
+    information->dwPageSize = static_cast<DWORD>(platform::kernel::PageSize());
     information->lpMinimumApplicationAddress = reinterpret_cast<LPVOID>(ULONG_PTR{0x10000});
     information->lpMaximumApplicationAddress = reinterpret_cast<LPVOID>(ULONG_PTR{0x7FFFFFFEFFFF});
     information->dwNumberOfProcessors = processors;

@@ -8,28 +8,26 @@
 
 namespace {
 
-void Store(const tm& parts, long nanoseconds, LPSYSTEMTIME time) {
+/// Tells the time of day as the host's call takes it apart.
+void Tell(tm* (*split)(const std::time_t*, tm*), LPSYSTEMTIME time) {
+    const timespec now = platform::base::TimeOfDay();
+    tm parts{};
+    split(&now.tv_sec, &parts);
     *time = {static_cast<WORD>(parts.tm_year + 1900), static_cast<WORD>(parts.tm_mon + 1),
              static_cast<WORD>(parts.tm_wday), static_cast<WORD>(parts.tm_mday), static_cast<WORD>(parts.tm_hour),
              static_cast<WORD>(parts.tm_min),
              // A leap second is not a time that callers know.
-             static_cast<WORD>(parts.tm_sec > 59 ? 59 : parts.tm_sec), static_cast<WORD>(nanoseconds / 1000000)};
+             static_cast<WORD>(parts.tm_sec > 59 ? 59 : parts.tm_sec), static_cast<WORD>(now.tv_nsec / 1000000)};
 }
 
 }  // namespace
 
 void WINAPI GetLocalTime(LPSYSTEMTIME time) {
-    const timespec now = platform::base::TimeOfDay();
-    tm parts{};
-    localtime_r(&now.tv_sec, &parts);
-    Store(parts, now.tv_nsec, time);
+    Tell(localtime_r, time);
 }
 
 void WINAPI GetSystemTime(LPSYSTEMTIME time) {
-    const timespec now = platform::base::TimeOfDay();
-    tm parts{};
-    gmtime_r(&now.tv_sec, &parts);
-    Store(parts, now.tv_nsec, time);
+    Tell(gmtime_r, time);
 }
 
 DWORD WINAPI GetTickCount(void) {

@@ -51,9 +51,7 @@ struct Descriptor {
 };
 
 struct Cached {
-    struct timespec modified {};
-    off_t size = -1;
-    ino_t inode = 0;
+    struct stat status {};  ///< when it was read
     std::shared_ptr<const IniFile> file;
 };
 
@@ -101,8 +99,9 @@ std::optional<std::string> ReadText(const std::string& path, struct stat* status
 }
 
 bool IsCurrent(const Cached& cached, const struct stat& status) {
-    return cached.file && cached.size == status.st_size && cached.inode == status.st_ino &&
-           cached.modified.tv_sec == status.st_mtim.tv_sec && cached.modified.tv_nsec == status.st_mtim.tv_nsec;
+    const struct stat& then = cached.status;
+    return cached.file && then.st_size == status.st_size && then.st_ino == status.st_ino &&
+           then.st_mtim.tv_sec == status.st_mtim.tv_sec && then.st_mtim.tv_nsec == status.st_mtim.tv_nsec;
 }
 
 // A file that has not changed since it was read costs one look at its date.
@@ -117,11 +116,8 @@ std::shared_ptr<const IniFile> Load(const std::string& path) {
     if (IsCurrent(cached, status)) {
         return cached.file;
     }
-    const std::optional<std::string> text = ReadText(path, &status);
-    cached.file = std::make_shared<const IniFile>(text ? *text : std::string());
-    cached.modified = status.st_mtim;
-    cached.size = status.st_size;
-    cached.inode = status.st_ino;
+    cached.file = std::make_shared<const IniFile>(ReadText(path, &status).value_or(std::string()));
+    cached.status = status;
     return cached.file;
 }
 
@@ -182,8 +178,7 @@ BOOL Change(const std::string& path, Edit edit) {
         return TRUE;
     }
     if (!ReplaceFile(path, changed)) {
-        SetLastError(errno == ENOSPC ? ERROR_DISK_FULL : ERROR_ACCESS_DENIED);
-        return FALSE;
+        return base::Fail(errno == ENOSPC ? ERROR_DISK_FULL : ERROR_ACCESS_DENIED, FALSE);
     }
     return TRUE;
 }
@@ -233,15 +228,11 @@ std::optional<std::string> Value(const std::string& path, LPCSTR section, LPCSTR
         return std::nullopt;
     }
     const std::shared_ptr<const IniFile> file = Load(path);
-    if (const std::string* value = file->Find(section, key)) {
-        return *value;
+    const std::string* value = file->Find(section, key);
+    if (!value && lstrcmpiA(section, "intl") == 0 && path == WinIni()) {
+        value = HostIntlValue(key);
     }
-    if (lstrcmpiA(section, "intl") == 0 && path == WinIni()) {
-        if (const std::string* value = HostIntlValue(key)) {
-            return *value;
-        }
-    }
-    return std::nullopt;
+    return value ? std::optional(*value) : std::nullopt;
 }
 
 DWORD GetText(const std::string& path, LPCSTR section, LPCSTR key, LPCSTR defaultText, LPSTR buffer, DWORD size) {

@@ -3,8 +3,10 @@
 #include <unicode/uchar.h>
 #include <unicode/ucnv.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 #include <map>
 #include <mutex>
 #include <new>
@@ -32,15 +34,10 @@ constexpr PageName kPages[] = {
 };
 
 const PageName* NameOf(UINT number) {
-    for (const PageName& name : kPages) {
-        if (name.number == number) {
-            return &name;
-        }
-    }
-    return nullptr;
+    const auto* found = std::ranges::find(kPages, number, &PageName::number);
+    return found == std::end(kPages) ? nullptr : found;
 }
 
-constexpr char16_t kNoCharacter = 0xFFFD;
 constexpr UINT kWestern = 1252;
 
 struct Range {

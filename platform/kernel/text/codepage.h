@@ -11,6 +11,8 @@
 
 namespace platform::kernel {
 
+constexpr char16_t kNoCharacter = 0xFFFD;
+
 struct CodePage {
     UINT number = 1252;
     bool doubleByte = false;
@@ -24,6 +26,11 @@ struct CodePage {
     std::array<std::uint8_t, 256> kind{};  ///< kAlpha | kDigit
 
     static constexpr std::uint8_t kAlpha = 1, kDigit = 2;
+
+    /// @returns a character as programs get it: what a double-byte page lacks is a dot in the middle.
+    char16_t Given(char16_t character) const {
+        return character == kNoCharacter && doubleByte ? u'\u30FB' : character;
+    }
 
     /// @returns the character at text[0], and how many bytes it takes (1 or 2; a lead byte before the end takes 1).
     char16_t Decode(const unsigned char* text, std::size_t left, std::size_t* size) const;

@@ -140,10 +140,7 @@ int CompareSpecials(Reader first, Reader second) {
         const auto x = first.NextSpecial();
         const auto y = second.NextSpecial();
         if (x != y) {
-            if (!x.second || !y.second) {
-                return x.second ? CSTR_GREATER_THAN : CSTR_LESS_THAN;
-            }
-            return x < y ? CSTR_LESS_THAN : CSTR_GREATER_THAN;
+            return !y.second || (x.second && x > y) ? CSTR_GREATER_THAN : CSTR_LESS_THAN;
         }
         if (!x.second) {
             return CSTR_EQUAL;
@@ -173,23 +170,13 @@ int CompareWeights(const Tables& tables, Text first, Text second, DWORD flags) {
         if (x.primary == 0) {
             break;
         }
-        if (accents == CSTR_EQUAL) {
-            accents = Order(x.accent, y.accent);
-        }
-        if (cases == CSTR_EQUAL) {
-            cases = Order(x.letterCase & caseMask, y.letterCase & caseMask);
-        }
+        accents = accents == CSTR_EQUAL ? Order(x.accent, y.accent) : accents;
+        cases = cases == CSTR_EQUAL ? Order(x.letterCase & caseMask, y.letterCase & caseMask) : cases;
     }
-    if (accents != CSTR_EQUAL) {
-        return accents;
-    }
-    if (cases != CSTR_EQUAL) {
-        return cases;
-    }
-    if (!a.sawSpecial() && !b.sawSpecial()) {
-        return CSTR_EQUAL;
-    }
-    return CompareSpecials(Reader(tables, first), Reader(tables, second));
+    const int order = accents != CSTR_EQUAL ? accents : cases;
+    return order == CSTR_EQUAL && (a.sawSpecial() || b.sawSpecial())
+               ? CompareSpecials(Reader(tables, first), Reader(tables, second))
+               : order;
 }
 
 // Texts are told apart by the first bytes of different rank, if only simple ones stand before them; texts of simple

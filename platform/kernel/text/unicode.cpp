@@ -14,12 +14,11 @@
 using platform::kernel::CodePage;
 using platform::kernel::FindCodePage;
 using platform::kernel::Guarded;
+using platform::kernel::kNoCharacter;
 
 namespace base = platform::base;
 
 namespace {
-
-constexpr char16_t kNoCharacter = 0xFFFD;
 
 // Appends one code point; lone halves and what lies beyond Unicode become the replacement character.
 void AppendUtf16(std::u16string& out, char32_t code) {
@@ -69,8 +68,7 @@ bool DecodePage(const CodePage& page, const unsigned char* text, std::size_t siz
         std::size_t width;
         const char16_t character = page.Decode(text + at, size - at, &width);
         valid = valid && character != kNoCharacter;
-        // An undefined byte of a page comes out as the default character's meaning.
-        out += character == kNoCharacter && page.doubleByte ? u'\u30FB' : character;
+        out += page.Given(character);
         at += width;
     }
     return valid;

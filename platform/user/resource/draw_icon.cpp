@@ -1,7 +1,6 @@
 // Drawing icons: the ground is kept where the mask lets it through, then the picture is laid over it by exclusive or. Where
 // the mask is clear the picture's black leaves the ground as it is; any other colour there inverts it.
 #include "user/resource/icons.h"
-#include "user/model/window.h"
 
 #include <new>
 
@@ -31,8 +30,7 @@ std::vector<std::uint32_t> ColoursOf(const IconPicture& picture) {
 
 bool Put(HDC context, const RECT& place, const IconPicture& picture, const std::vector<std::uint32_t>& pixels,
          DWORD operation) {
-    const BITMAPINFO info{{sizeof info.bmiHeader, picture.width, -picture.height, 1, 32, BI_RGB}};  // the top row first
-    return gdi::StretchBits(context, place, pixels.data(), &info, operation);
+    return gdi::StretchBits(context, place, pixels.data(), {picture.width, picture.height}, operation);
 }
 
 }  // namespace
@@ -40,13 +38,15 @@ bool Put(HDC context, const RECT& place, const IconPicture& picture, const std::
 bool DrawIconIn(HDC context, const RECT& place, HICON handle) try {
     const Icon* icon = base::Find<Icon>(handle, base::HandleKind::Icon);
     if (!icon) {
-        return Fail(ERROR_INVALID_ICON_HANDLE, false);
+        SetLastError(ERROR_INVALID_ICON_HANDLE);
+        return false;
     }
     const IconPicture& picture = icon->picture;
     return Put(context, place, picture, MaskOf(picture), SRCAND) &&
            Put(context, place, picture, ColoursOf(picture), SRCINVERT);
 } catch (const std::bad_alloc&) {
-    return Fail(ERROR_NOT_ENOUGH_MEMORY, false);
+    SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+    return false;
 }
 
 }  // namespace platform::user

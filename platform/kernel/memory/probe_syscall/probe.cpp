@@ -8,18 +8,12 @@
 #include <sys/uio.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cstdint>
-#include <cstring>
 
-#include "kernel/memory/probe.h"
+#include "kernel/memory/pages.h"
+#include "kernel/memory/probe_range.h"
 
 namespace {
-
-std::uintptr_t PageSize() {
-    static const auto size = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
-    return size;
-}
 
 bool CanRead(std::uintptr_t address) {
     char byte;
@@ -36,47 +30,21 @@ bool CanWrite(std::uintptr_t address) {
     return syscall(SYS_futex, &unused, FUTEX_WAKE_OP_PRIVATE, 0, nullptr, word, kAddNothing) >= 0;
 }
 
-template <bool (*CanTouch)(std::uintptr_t)>
-bool RangeIsGood(std::uintptr_t first, std::uintptr_t size) {
-    const std::uintptr_t last = first + size - 1;
-    if (last < first) {
-        return false;
-    }
-    for (std::uintptr_t at = first;; at = (at | (PageSize() - 1)) + 1) {
-        if (!CanTouch(at)) {
-            return false;
-        }
-        if ((at | (PageSize() - 1)) >= last) {
-            return true;
-        }
-    }
-}
-
 }  // namespace
 
 namespace platform::kernel {
 
 bool IsReadable(const void* memory, std::size_t size) {
-    return size == 0 || RangeIsGood<CanRead>(reinterpret_cast<std::uintptr_t>(memory), size);
+    return size == 0 || RangeIsGood<CanRead>(reinterpret_cast<std::uintptr_t>(memory), size, PageSize());
 }
 
 std::size_t ProbeLength(const char* text, std::size_t most) {
-    for (std::size_t done = 0; done < most;) {
-        const auto at = reinterpret_cast<std::uintptr_t>(text) + done;
-        if (!CanRead(at)) {
-            return kBadText;
-        }
-        const std::size_t size = std::min<std::size_t>(PageSize() - at % PageSize(), most - done);
-        if (const void* end = std::memchr(text + done, 0, size)) {
-            return static_cast<std::size_t>(static_cast<const char*>(end) - text);
-        }
-        done += size;
-    }
-    return most;
+    return LengthOf<CanRead>(text, most, PageSize());
 }
 
 }  // namespace platform::kernel
 
 BOOL WINAPI IsBadWritePtr(LPVOID address, UINT_PTR size) {
-    return size != 0 && !RangeIsGood<CanWrite>(reinterpret_cast<std::uintptr_t>(address), size);
+    using namespace platform::kernel;
+    return size != 0 && !RangeIsGood<CanWrite>(reinterpret_cast<std::uintptr_t>(address), size, PageSize());
 }

@@ -14,10 +14,9 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
-#include <cstring>
 
 #include "kernel/memory/pages.h"
-#include "kernel/memory/probe.h"
+#include "kernel/memory/probe_range.h"
 
 namespace {
 
@@ -142,23 +141,6 @@ __attribute__((constructor)) void LearnMemory() {
     std::free(block);
 }
 
-// Touches one byte on each page of a range.
-template <bool (*CanTouch)(std::uintptr_t)>
-bool RangeIsGood(std::uintptr_t first, std::uintptr_t bytes) {
-    const std::uintptr_t last = first + bytes - 1;
-    if (last < first) {
-        return false;
-    }
-    for (std::uintptr_t at = first;; at = (at | (kPage - 1)) + 1) {
-        if (!CanTouch(at)) {
-            return false;
-        }
-        if ((at ^ last) < kPage) {
-            return true;
-        }
-    }
-}
-
 bool ReadTouch(std::uintptr_t address) {
     return CanRead(address);
 }
@@ -241,29 +223,17 @@ BOOL WINAPI IsBadWritePtr(LPVOID address, UINT_PTR bytes) {
         }
         return !TouchAndLearn(first);
     }
-    return bytes != 0 && !RangeIsGood<WriteTouch>(first, bytes);
+    return bytes != 0 && !platform::kernel::RangeIsGood<WriteTouch>(first, bytes, kPage);
 }
 
 namespace platform::kernel {
 
 bool IsReadable(const void* memory, std::size_t size) {
-    return size == 0 || RangeIsGood<ReadTouch>(reinterpret_cast<std::uintptr_t>(memory), size);
+    return size == 0 || RangeIsGood<ReadTouch>(reinterpret_cast<std::uintptr_t>(memory), size, kPage);
 }
 
-// Each page is probed once, and searched with the host's own fast search.
 std::size_t ProbeLength(const char* text, std::size_t most) {
-    for (std::size_t done = 0; done < most;) {
-        const auto at = reinterpret_cast<std::uintptr_t>(text) + done;
-        if (!ReadTouch(at)) {
-            return kBadText;
-        }
-        const std::size_t size = std::min<std::size_t>(kPage - at % kPage, most - done);
-        if (const void* end = std::memchr(text + done, 0, size)) {
-            return static_cast<std::size_t>(static_cast<const char*>(end) - text);
-        }
-        done += size;
-    }
-    return most;
+    return LengthOf<ReadTouch>(text, most, kPage);
 }
 
 }  // namespace platform::kernel

@@ -187,7 +187,7 @@ TEST_F(FrameInput, TheEndOfTheProgramEndsADrag) {
 
 TEST_F(FrameInput, TheCaptionShowsWhetherTheWindowIsActive) {
     EXPECT_EQ(Pixel(200, 106), GetSysColor(COLOR_ACTIVECAPTION));
-    EXPECT_EQ(Pixel(101, 101), GetSysColor(COLOR_3DHILIGHT));
+    EXPECT_EQ(Pixel(101, 101), GetSysColor(COLOR_3DHIGHLIGHT));
     EXPECT_EQ(Pixel(299, 249), GetSysColor(COLOR_3DDKSHADOW));
     HWND other = Recorder::Get().Make(WS_POPUP | WS_VISIBLE, 500, 500, 50, 50);
     SetForegroundWindow(other);

@@ -142,7 +142,7 @@ TEST_F(ContextHelp, TheMarkStandsLeftOfTheCloseBoxWhereNoOtherBoxesDo) {
     EXPECT_EQ(part.top, close.top);
     EXPECT_EQ(part.bottom, close.bottom);
     EXPECT_EQ(part.right + 2, close.left);
-    EXPECT_EQ(TopLeftOf(HTHELP), GetSysColor(COLOR_3DHILIGHT));
+    EXPECT_EQ(TopLeftOf(HTHELP), GetSysColor(COLOR_3DHIGHLIGHT));
     const RECT face{part.left + 2, part.top + 2, part.right - 2, part.bottom - 2};
     EXPECT_GT(Count(face, COLOR_3DFACE), 40);
     EXPECT_GT(Count(face, COLOR_BTNTEXT), 15);
@@ -181,7 +181,7 @@ TEST_F(ContextHelp, TheControlUnderTheClickIsAskedAndThenItsParents) {
         EXPECT_EQ(each.info.MousePos.y, click.y);
     }
     EXPECT_EQ(pressedEdge, GetSysColor(COLOR_3DDKSHADOW));
-    EXPECT_EQ(TopLeftOf(HTHELP), GetSysColor(COLOR_3DHILIGHT));
+    EXPECT_EQ(TopLeftOf(HTHELP), GetSysColor(COLOR_3DHIGHLIGHT));
     EXPECT_EQ(cursor, LoadCursorA(nullptr, IDC_HELP));
     EXPECT_EQ(capture, window);
     // The click was for help and nothing else.
