@@ -202,18 +202,6 @@ TEST(List, AnItemOfItsOwnSurvivesTheMoveOfTheArray) {
     EXPECT_EQ(Values(list), (Ints{1, 4, 1, 1, 4}));
 }
 
-TEST(List, StoresStringsByTheirProtocol) {
-    CLIST names(CSTRING("none"), 2);
-    CSTRING name("Ada");
-    names.Append(&name);
-    name = "Grace";
-    names.Append(&name);
-    names.New();
-    EXPECT_STREQ(static_cast<const CSTRING&>(*static_cast<CSTRING*>(names.GetItem(0))), "Ada");
-    EXPECT_STREQ(static_cast<const CSTRING&>(*static_cast<CSTRING*>(names.GetItem(1))), "Grace");
-    EXPECT_STREQ(static_cast<const CSTRING&>(*static_cast<CSTRING*>(names.GetItem(2))), "none");
-}
-
 TEST(List, WithoutStorageItAnswersAndInitMakesItUsable) {
     CLIST list;
     int value = 1;

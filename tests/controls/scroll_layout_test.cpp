@@ -32,15 +32,6 @@ TEST(ScrollLayout, ArrowsShareTheClientArea) {
     EXPECT_EQ("10 0 20 17", Describe(scroll::ArrowRect(false, Arrow::kSecond, wide)));
 }
 
-TEST(ScrollLayout, EdgesBelongToNoArrow) {
-    RECT const arrow = {0, 10, 17, 19};
-    EXPECT_TRUE(scroll::IsInside(arrow, {1, 11}));
-    EXPECT_TRUE(scroll::IsInside(arrow, {16, 18}));
-    for (POINT edge : {POINT{0, 15}, {17, 15}, {8, 10}, {8, 19}, {-1, 15}, {8, 20}}) {
-        EXPECT_FALSE(scroll::IsInside(arrow, edge)) << edge.x << ' ' << edge.y;
-    }
-}
-
 TEST(ScrollLayout, AttachedWidthFollowsTheHeight) {
     EXPECT_EQ(18, scroll::AttachedWidth(true, 20));
     EXPECT_EQ(18, scroll::AttachedWidth(true, 21)) << "truncated";

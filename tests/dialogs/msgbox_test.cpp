@@ -16,13 +16,7 @@
 
 namespace {
 
-using testing_support::LeakCheck;
-using testing_support::Message;
-using testing_support::OnNextDialog;
-using testing_support::PressKey;
-using testing_support::PumpMessages;
-using testing_support::TestWindow;
-using testing_support::ToPixels;
+using namespace testing_support;
 
 KVMB_MESSAGEBOX BoxOf(HWND owner, WORD count = 3) {
     KVMB_MESSAGEBOX box = {};

@@ -16,9 +16,7 @@
 namespace {
 
 using std::string;
-using testing_support::FailingAllocation;
-using testing_support::NoMemory;
-using testing_support::WithEachFailure;
+using namespace testing_support;
 
 TEST(CStringMemory, FailedGrowthEmptiesOnAssignmentAndKeepsOnAppend) {
     CSTRING text("0123456789");

@@ -14,8 +14,7 @@
 
 namespace {
 
-using testing_support::FailingAllocation;
-using testing_support::WithEachFailure;
+using namespace testing_support;
 
 int At(const CLIST& list, unsigned int index) {
     const auto* item = static_cast<int*>(list.GetItem(index));

@@ -1,7 +1,5 @@
 #include "tests/platform/support/gdi_canvas.h"
 
-#include <cstring>
-
 namespace {
 
 TEST(GdiObjects, StaleHandlesAreRefused) {
@@ -23,17 +21,6 @@ TEST(GdiObjects, StaleContextsAreRefused) {
     EXPECT_EQ(0, SetBkMode(dc, OPAQUE));
     EXPECT_FALSE(BitBlt(dc, 0, 0, 1, 1, nullptr, 0, 0, BLACKNESS));
     EXPECT_EQ(0, SaveDC(dc));
-}
-
-TEST(GdiObjects, AFontDescribesItself) {
-    const HFONT font =
-        CreateFontA(-11, 0, 0, 0, FW_BOLD, TRUE, FALSE, FALSE, DEFAULT_CHARSET, 0, 0, 0, 0, "MS Sans Serif");
-    LOGFONTA logicalFont{};
-    EXPECT_NE(0, GetObjectA(font, sizeof(logicalFont), &logicalFont));
-    EXPECT_EQ(-11, logicalFont.lfHeight);
-    EXPECT_EQ(FW_BOLD, logicalFont.lfWeight);
-    EXPECT_STREQ("MS Sans Serif", logicalFont.lfFaceName);
-    DeleteObject(font);
 }
 
 TEST(GdiObjects, StockObjectsOutliveDeletion) {
@@ -62,22 +49,6 @@ TEST(GdiObjects, MemoryContextsStartWithTheDefaults) {
     EXPECT_EQ(RGB(255, 255, 255), GetBkColor(dc));
     EXPECT_EQ(OPAQUE, GetBkMode(dc));
     DeleteDC(dc);
-}
-
-TEST(GdiObjects, ABitmapIsSelectedOnceAndGivenBack) {
-    const HDC first = CreateCompatibleDC(nullptr);
-    const HDC second = CreateCompatibleDC(nullptr);
-    const HBITMAP bitmap = CreateBitmap(4, 4, 1, 1, nullptr);
-    const HGDIOBJ previous = SelectObject(first, bitmap);
-    ASSERT_NE(nullptr, previous);
-    EXPECT_EQ(nullptr, SelectObject(second, bitmap));
-    EXPECT_EQ(bitmap, SelectObject(first, previous));
-    const HGDIOBJ other = SelectObject(second, bitmap);
-    EXPECT_NE(nullptr, other);
-    SelectObject(second, other);
-    EXPECT_TRUE(DeleteObject(bitmap));
-    DeleteDC(first);
-    DeleteDC(second);
 }
 
 TEST(GdiObjects, SavedStatesNest) {
@@ -115,17 +86,9 @@ TEST(GdiObjects, SystemColourBrushes) {
     EXPECT_EQ(PixelOf(GetSysColor(COLOR_BTNFACE)), canvas.At(3, 3));
     FillRect(canvas, &rect, reinterpret_cast<HBRUSH>(COLOR_HIGHLIGHT + 1));
     EXPECT_EQ(PixelOf(GetSysColor(COLOR_HIGHLIGHT)), canvas.At(0, 0));
-}
-
-TEST(GdiObjects, WithoutABrushTheSelectedOneFills) {
-    Canvas canvas;
-    const HBRUSH red = CreateSolidBrush(RGB(255, 0, 0));
-    const HGDIOBJ previous = SelectObject(canvas, red);
-    const RECT rect{1, 1, 4, 4};
-    EXPECT_NE(0, FillRect(canvas, &rect, nullptr));
-    EXPECT_EQ(9, canvas.Count(canvas.All(), 0xFF0000));
-    SelectObject(canvas, previous);
-    DeleteObject(red);
+    SelectObject(canvas, GetStockObject(BLACK_BRUSH));
+    EXPECT_NE(0, FillRect(canvas, &rect, nullptr)) << "without one it is the selected one";
+    EXPECT_EQ(16, canvas.Count(canvas.All(), Canvas::kBlack));
     EXPECT_EQ(0, FrameRect(canvas, &rect, nullptr));
 }
 

@@ -128,18 +128,6 @@ TEST(MemoryProbeDeathTest, OtherFaultsStillEndTheProcess) {
         "");
 }
 
-TEST(GlobalMemory, FailsWhenToldTo) {
-    CvPlatformFailAllocation(2);
-    HGLOBAL first = GlobalAlloc(GMEM_MOVEABLE, 8);
-    EXPECT_NE(first, nullptr);
-    EXPECT_EQ(GlobalReAlloc(first, 16, 0), nullptr);
-    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_NOT_ENOUGH_MEMORY));
-    EXPECT_NE(GlobalReAlloc(first, 16, 0), nullptr);
-    const SIZE_T before = CvPlatformCount(CV_PLATFORM_GLOBAL_BLOCKS);
-    GlobalFree(first);
-    EXPECT_EQ(CvPlatformCount(CV_PLATFORM_GLOBAL_BLOCKS), before - 1);
-}
-
 TEST(GlobalMemory, StaleAndForeignHandlesFailCleanly) {
     HGLOBAL handle = GlobalAlloc(GMEM_MOVEABLE, 8);
     void* bytes = GlobalLock(handle);

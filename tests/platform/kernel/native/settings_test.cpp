@@ -86,7 +86,7 @@ TEST_F(Settings, PrivateFilesByNameAndByPath) {
     const auto read = [](const char* file) { return GetPrivateProfileIntA("a", "key", 0, file); };
     ASSERT_TRUE(WritePrivateProfileStringA("a", "key", "7", "App.ini"));
     EXPECT_TRUE(fs::exists(folder_ / "App.ini"));
-    for (const char* file : {"App.ini", "APP.INI", "C:\\WINDOWS\\app.ini", "c:\\windows\\App.ini"}) {
+    for (const char* file : {"App.ini", "APP.ini.", "C:\\WINDOWS\\app.ini", "c:/windows/./App.ini. "}) {
         EXPECT_EQ(read(file), 7u) << file;
     }
     ASSERT_TRUE(WritePrivateProfileStringA("a", "key", "8", "app.INI"));
