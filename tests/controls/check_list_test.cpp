@@ -105,14 +105,6 @@ TEST_F(CheckList, BoxStandsInTheMiddleOfAHighItem) {
     Canvas canvas(60, 30);
     Draw(canvas, {0, 3, 60, 24}, ODS_SELECTED);
     EXPECT_EQ(kTicked, BoxAt(canvas, 10, 8));
-    canvas.Clear(0x123456);
-    Draw(canvas, {0, 10, 60, 17}, ODS_SELECTED);
-    // Two rows above the item, and no more rows than it has.
-    EXPECT_EQ(0x808080u, canvas.At(12, 8));
-    EXPECT_EQ(0x000000u, canvas.At(18, 10));
-    EXPECT_EQ(0x000000u, canvas.At(12, 14) & canvas.At(14, 14));
-    EXPECT_EQ(PixelOf(GetSysColor(COLOR_WINDOW)), canvas.At(10, 15));
-    EXPECT_EQ(0x123456u, canvas.At(10, 17));
 }
 
 TEST_F(CheckList, TextFollowsTheBox) {

@@ -134,6 +134,9 @@ TEST(TimeText, FollowsClockAndLeadingZero) {
 TEST(TimeText, FieldsLieWhereTheTextShowsThem) {
     ClockSettings const clock("h:mm:ss tt");
     Load();
+    SYSTEMTIME time = Time(9, 0, 0);
+    EXPECT_EQ(0, timectrl_EnterKey('5', 11, &time)) << "behind the text";
+    EXPECT_EQ("9:00:00", ClockOf(time));
     WORD const twelve[] = {2, 2, 1, 1, 1, 3, 3, 3, 4, 4, 4, 0, 0};
     for (UINT position = 0; position < std::size(twelve); ++position) {
         EXPECT_EQ(twelve[position], timectrl_FieldAtPosition(TIMECTRL_MODE_12H, position)) << position;

@@ -22,15 +22,9 @@ using namespace testing_support;
 // --- the machine
 
 TEST(AboutMachine, ProcessorsHaveNames) {
-    struct {
-        DWORD type;
-        UINT string;
-    } const cases[] = {{386, CVAB_CPU_386},    {486, CVAB_CPU_486},    {586, CVAB_CPU_PENTIUM}, {860, CVAB_CPU_860},
-                       {2000, CVAB_CPU_R2000}, {3000, CVAB_CPU_R3000}, {4000, CVAB_CPU_R4000},  {21064, CVAB_CPU_ALPHA},
-                       {0, CVAB_CPU_UNKNOWN},  {587, CVAB_CPU_UNKNOWN}};
-    for (auto const& each : cases) {
-        EXPECT_EQ(each.string, about::ProcessorString(each.type)) << each.type;
-    }
+    EXPECT_EQ(UINT{CVAB_CPU_386}, about::ProcessorString(386));
+    EXPECT_EQ(UINT{CVAB_CPU_ALPHA}, about::ProcessorString(21064));
+    EXPECT_EQ(UINT{CVAB_CPU_UNKNOWN}, about::ProcessorString(587));
 }
 
 TEST(AboutMachine, MemoryIsToldInKilobytes) {

@@ -161,13 +161,15 @@ TEST_F(BrowseInput, AFileIsTypedAndMustExist) {
     EXPECT_EQ("C:\\walk\\B.TXT", chosen);
 }
 
-std::string SelectedFile(HWND dialog) {
+/// The files that the dialog shows, or of them those that are selected.
+std::string FilesOf(HWND dialog, bool selectedOnly) {
     HWND const list = GetDlgItem(dialog, lst1);
     std::string names;
     for (LRESULT i = 0; i < SendMessageA(list, LB_GETCOUNT, 0, 0); ++i) {
         char text[MAX_PATH] = "";
         SendMessageA(list, LB_GETTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(text));
-        names += SendMessageA(list, LB_GETSEL, static_cast<WPARAM>(i), 0) > 0 ? std::string(text) + '|' : "";
+        bool const counts = !selectedOnly || SendMessageA(list, LB_GETSEL, static_cast<WPARAM>(i), 0) > 0;
+        names += counts ? std::string(text) + '|' : "";
     }
     return names;
 }
@@ -178,7 +180,7 @@ TEST_F(BrowseInput, TheFileListFindsWhatIsTyped) {
     for (DWORD const options : {DWORD{BROWSE_FILEMODE}, DWORD{BROWSE_FILEMODE | BROWSE_MULTISELECT}}) {
         SetWindowTextA(edit_, "C:\\walk");
         std::vector<std::string> found;
-        auto const note = [&](HWND dialog) { found.push_back(SelectedFile(dialog)); };
+        auto const note = [&](HWND dialog) { found.push_back(FilesOf(dialog, true)); };
         std::string const chosen = Browse(options, {[](HWND dialog) {
                                                         SetFocus(GetDlgItem(dialog, lst1));
                                                         Press({'O'});
@@ -275,33 +277,23 @@ TEST_F(BrowseInput, FiltersPatternsAndCancel) {
     record.nMaxFile = sizeof buffer;
     record.lpstrInitialDir = "C:\\walk";
     record.Flags = OFN_EXPLORER | OFN_FILEMUSTEXIST;
-    auto const list = [](HWND dialog) {
-        std::string names;
-        HWND const items = GetDlgItem(dialog, lst1);
-        for (LRESULT i = 0; i < SendMessageA(items, LB_GETCOUNT, 0, 0); ++i) {
-            char text[MAX_PATH];
-            SendMessageA(items, LB_GETTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(text));
-            names += std::string(text) + ' ';
-        }
-        return names;
-    };
     BOOL accepted = TRUE;
     {
         Hands const hands({[&](HWND dialog) {
-                               texts = list(dialog);
+                               texts = FilesOf(dialog, false);
                                SetDlgItemTextA(dialog, edt1, "a*.*");
                                Press({VK_RETURN});
                            },
                            [&](HWND dialog) {
-                               all = list(dialog);
+                               all = FilesOf(dialog, false);
                                Press({VK_ESCAPE});
                            }});
         accepted = GetOpenFileNameA(&record);
     }
     EXPECT_FALSE(accepted);
     EXPECT_EQ(0U, CommDlgExtendedError());
-    EXPECT_EQ("one other d.doc ", texts);
-    EXPECT_EQ("one other a.txt ", all);
+    EXPECT_EQ("one|other|d.doc|", texts);
+    EXPECT_EQ("one|other|a.txt|", all);
     // A buffer too small for the choice tells how much it would take.
     record.nMaxFile = 4;
     {

@@ -63,6 +63,8 @@ TEST(GdiDib, LinesCountFromTheBottomWhicheverIsStoredFirst) {
             rows.resize(each.rows.size());
             EXPECT_EQ(each.rows, rows);
         }
+        EXPECT_NE(0, GetDIBits(dc, bitmap, 0, 4, nullptr, DibHeader(1, 4, 32).Info(), DIB_RGB_COLORS))
+            << "without bits";
         DeleteDC(dc);
         DeleteObject(bitmap);
     }

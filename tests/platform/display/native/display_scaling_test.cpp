@@ -94,6 +94,12 @@ TEST(DisplayScaling, WholeFactorOfADenseDesktop) {
     EXPECT_EQ(2, ScaleOf(192, Box{0, 0, 1600, 1200}));
 }
 
+TEST(DisplayScaling, PlacesOutsideTheDesktop) {
+    for (const auto& [at, rounded] : {std::pair{-1, -1}, {-2, -1}, {-3, -2}, {3, 1}}) {
+        EXPECT_EQ(rounded, RoundDown(at, 2)) << at;
+    }
+}
+
 TEST(DisplayScaling, WhatLiesUnderABoxIsCutOut) {
     for (const Box hole :
          {Box{2, 2, 5, 5}, Box{-1, 3, 20, 4}, Box{0, 0, 10, 10}, Box{8, 8, 12, 12}, Box{20, 0, 30, 9}}) {

@@ -165,6 +165,15 @@ TEST_F(ShellTest, NamesLeadBack) {
     }
 }
 
+TEST_F(ShellTest, TheComponentLibraryCountsItsStarts) {
+    CvPlatformFailShell(1);
+    EXPECT_TRUE(FAILED(CoInitialize(nullptr)));
+    EXPECT_EQ(S_OK, CoInitialize(nullptr));
+    EXPECT_EQ(S_FALSE, CoInitialize(nullptr));
+    CoUninitialize();
+    CoUninitialize();
+}
+
 TEST_F(ShellTest, FoldersThatCannotBeReadOrAreGone) {
     fs::create_directories(root_ / "gone");
     fs::create_directory_symlink(root_, root_ / "loop");
