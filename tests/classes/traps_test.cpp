@@ -172,21 +172,6 @@ TEST(Traps, TheSystemWritesHighBytesIntoTheBlock) {
     Reg_CloseKey(key);
 }
 
-TEST(Traps, DataStringsEndAtHighBytes) {
-    CDATASTR list;
-    Fill(&list, "one;M\xFCller;three");
-    CSTRING item;
-    unsigned int position = 0;
-    std::string items;
-    while (list.EnumDataItems(&position, &item, ';')) {
-        items += Text(item) + '|';
-    }
-    EXPECT_EQ("one|M|", items);
-    Fill(&list, "a.txt M\xFCller.txt c.txt");
-    list.NormalizeFileSpecs();
-    EXPECT_EQ("a.txt M", Text(list));
-}
-
 TEST(Traps, AListIsNotAssignedToItself) {
     testing_support::LeakCheck const leaks;
     CSTRING const prototype;

@@ -52,11 +52,4 @@ TEST(ScrollLayout, TrianglesGrowFromTheirTip) {
               Describe(scroll::GlyphLines(Glyph::kRight, {10, 0, 20, 17}, false)));
 }
 
-TEST(ScrollLayout, LinesAboveTheBarMoveToItsLeftEdge) {
-    // Centre (8, 2): the first line of the upper triangle would lie on row 0.
-    EXPECT_EQ("0 2 0 2;7 1 11 1;6 2 12 2;5 3 13 3;", Describe(scroll::GlyphLines(Glyph::kUp, {0, 0, 17, 4}, false)));
-    // Centre (2, 2): the lower triangle's base would lie on row 0.
-    EXPECT_EQ("3 3 3 3;3 2 3 2;3 1 3 1;0 2 0 2;", Describe(scroll::GlyphLines(Glyph::kDown, {0, 0, 4, 4}, false)));
-}
-
 }  // namespace

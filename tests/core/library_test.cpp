@@ -4,7 +4,6 @@
 #include "core/globalblock.h"
 #include "core/registration.h"
 #include "tests/support/leaks.h"
-#include "tests/support/window.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,5 @@
 // Message boxes as they come up: texts, sizes, places and buttons.
 #include <cvutil32/msgbox.h>
-#include <cvutil32/util.h>
 
 #include "tests/support/leaks.h"
 #include "tests/support/modal.h"

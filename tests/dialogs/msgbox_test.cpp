@@ -1,6 +1,5 @@
 // Message boxes in use: keys, results, owners, focus, task-modal boxes, boxes from boxes.
 #include <cvutil32/msgbox.h>
-#include <cvutil32/util.h>
 
 #include "tests/support/leaks.h"
 #include "tests/support/modal.h"

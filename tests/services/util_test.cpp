@@ -1,6 +1,5 @@
 #include <cvutil32/util.h>
 
-#include "tests/support/leaks.h"
 #include "tests/support/profile.h"
 #include "tests/support/temp_folder.h"
 #include "tests/support/window.h"
@@ -134,27 +133,30 @@ TEST(UtilFiles, WhatExists) {
     TempFolder const folder;
     std::string const file = folder.MakeFile("File.txt");
     folder.MakeFolder("Sub");
-    EXPECT_TRUE(UTIL_DirExists(folder.Path().c_str()));
-    EXPECT_TRUE(UTIL_DirExists((folder.Path("sub") + "\\").c_str()));
-    EXPECT_FALSE(UTIL_DirExists(file.c_str()));
-    EXPECT_FALSE(UTIL_DirExists((file + "\\").c_str()));
-    EXPECT_TRUE(UTIL_DirExists("\\")) << "the root of the current drive";
-    EXPECT_TRUE(UTIL_DirExists((folder.Path("sub") + ". .").c_str())) << "dots at the end do not count";
-    EXPECT_FALSE(UTIL_DirExists(folder.Path("missing").c_str()));
-    EXPECT_TRUE(UTIL_FileExists(folder.Path("fILE.TXT").c_str()));
-    EXPECT_FALSE(UTIL_FileExists(folder.Path("Sub").c_str()));
-    EXPECT_FALSE(UTIL_FileExists(folder.Path("missing").c_str()));
-    EXPECT_TRUE(UTIL_FileExists(folder.Path("*.txt").c_str()));
-    EXPECT_FALSE(UTIL_FileExists(folder.Path("S*").c_str()));
-    for (char const* nothing : {"", static_cast<char const*>(nullptr)}) {
-        EXPECT_FALSE(UTIL_DirExists(nothing));
-        EXPECT_FALSE(UTIL_FileExists(nothing));
+    struct {
+        std::string path;
+        bool isFolder, isFile;
+    } const cases[] = {
+        {folder.Path(), true, false},
+        {folder.Path("sub") + "\\", true, false},
+        {folder.Path("sub") + ". .", true, false},  // dots at the end do not count
+        {"\\", true, false},                        // the root of the current drive
+        {"C:\\", true, false},
+        {file, false, true},
+        {folder.Path("fILE.TXT"), false, true},
+        {file + "\\", false, false},
+        {folder.Path("missing"), false, false},
+        {folder.Path("*.txt"), false, true},
+        {folder.Path("S*"), false, false},
+        {folder.Path(std::string(300, 'x')), false, false},
+        {"", false, false},
+    };
+    for (auto const& each : cases) {
+        EXPECT_EQ(each.isFolder, UTIL_DirExists(each.path.c_str()) != FALSE) << each.path;
+        EXPECT_EQ(each.isFile, UTIL_FileExists(each.path.c_str()) != FALSE) << each.path;
     }
-    EXPECT_TRUE(UTIL_DirExists("C:\\")) << "the root of a drive";
-    EXPECT_FALSE(UTIL_FileExists("C:\\"));
-    std::string const tooLong = folder.Path(std::string(300, 'x'));
-    EXPECT_FALSE(UTIL_DirExists(tooLong.c_str()));
-    EXPECT_FALSE(UTIL_FileExists(tooLong.c_str()));
+    EXPECT_FALSE(UTIL_DirExists(nullptr));
+    EXPECT_FALSE(UTIL_FileExists(nullptr));
 }
 
 TEST(UtilHelp, NoHelpForAControlThatTheTableLacks) {

@@ -3,11 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstring>
 #include <set>
 #include <string>
-#include <utility>
 
 #include "tests/support/native/failing_memory.h"
 

@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <optional>
 
 #include "tests/support/native/failing_memory.h"
 

@@ -11,7 +11,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
@@ -23,28 +22,14 @@ namespace fs = std::filesystem;
 using namespace hands;
 using namespace testing_support;
 
-class BrowseInput : public testing::Test {
+class BrowseInput : public Walk {
   protected:
     void SetUp() override {
-        char const* home = std::getenv("CVUTIL32_HOME");
-        if (!home) {
+        if (!Make({"one/two/three", "other"}, {"a.txt", "b.txt", "c.txt", "d.doc"})) {
             GTEST_SKIP() << "needs a state folder of its own";
-        }
-        root_ = fs::path(home) / "drive_c" / "walk";
-        fs::remove_all(root_);
-        fs::create_directories(root_ / "one" / "two" / "three");
-        fs::create_directories(root_ / "other");
-        for (char const* name : {"a.txt", "b.txt", "c.txt", "d.doc"}) {
-            std::ofstream(root_ / name) << name;
         }
         edit_ = MakeChild(host_, "edit", ES_AUTOHSCROLL, {10, 10, 210, 30});
     }
-    void TearDown() override {
-        if (!root_.empty()) {
-            fs::remove_all(root_);
-        }
-    }
-
     /// Presses the button and lets the hands do the rest. @return what stands in the field.
     std::string Browse(DWORD options, std::vector<Hands::Step> steps) {
         HWND const button = MakeChild(host_, BROWSE_CLASSNAME, BROWSE_AUTOBUDDY | options, {220, 10, 240, 30});
@@ -62,8 +47,6 @@ class BrowseInput : public testing::Test {
         return text;
     }
 
-    fs::path root_;
-    TestWindow host_;
     HWND edit_ = nullptr;
 };
 

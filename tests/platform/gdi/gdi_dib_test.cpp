@@ -70,16 +70,4 @@ TEST(GdiDib, LinesCountFromTheBottomWhicheverIsStoredFirst) {
     }
 }
 
-TEST(GdiDib, RefusesWhatIsNoBitmap) {
-    void* memory = &memory;
-    DibHeader header(0, 3, 32);
-    EXPECT_EQ(nullptr, CreateDIBSection(nullptr, header.Info(), DIB_RGB_COLORS, &memory, nullptr, 0));
-    header = DibHeader(3, 3, 7);
-    EXPECT_EQ(nullptr, CreateDIBSection(nullptr, header.Info(), DIB_RGB_COLORS, &memory, nullptr, 0));
-    BITMAP bitmap{};
-    const HBITMAP least = CreateBitmap(0, 0, 1, 1, nullptr);
-    ASSERT_NE(0, GetObjectA(least, sizeof(bitmap), &bitmap));
-    EXPECT_EQ(1, bitmap.bmWidth);
-}
-
 }  // namespace

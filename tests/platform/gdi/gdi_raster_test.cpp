@@ -1,7 +1,5 @@
 #include "tests/platform/support/gdi_canvas.h"
 
-#include <vector>
-
 namespace {
 
 /// What a ternary operation makes of three bits, by the definition of its code.

@@ -45,11 +45,4 @@ TEST(MemoryProbe, TellsGoodFromNull) {
     EXPECT_TRUE(IsBadWritePtr(reinterpret_cast<void*>(UINT_PTR{64}), 4));
 }
 
-TEST(MemoryProbe, ConstantsCannotBeWritten) {
-    static const char constant[64] = "constant";
-    auto* writable = const_cast<char*>(constant);
-    EXPECT_TRUE(IsBadWritePtr(writable, sizeof constant));
-    EXPECT_STREQ(constant, "constant");
-}
-
 }  // namespace

@@ -133,29 +133,6 @@ TEST_F(RegistryTest, ATextWithoutItsEndFitsIntoItsOwnSize) {
     }
 }
 
-TEST_F(RegistryTest, ValuesAreListedAndKeepTheirFirstSpelling) {
-    Set("One", REG_BINARY, "1", 1);
-    Set("two", REG_BINARY, "22", 2);
-    Set("ONE", REG_BINARY, "333", 3);
-    std::string names;
-    for (DWORD i = 0;; ++i) {
-        char name[8];
-        char data[8];
-        DWORD nameSize = sizeof name;
-        DWORD size = sizeof data;
-        if (RegEnumValueA(key_, i, name, &nameSize, nullptr, nullptr, reinterpret_cast<BYTE*>(data), &size)) {
-            break;
-        }
-        names += std::string(name, nameSize) + "=" + std::string(data, size) + ";";
-    }
-    EXPECT_EQ(names, "One=333;two=22;");
-    char name[4];
-    DWORD size = 3;
-    EXPECT_EQ(RegEnumValueA(key_, 0, name, &size, nullptr, nullptr, nullptr, nullptr), ERROR_MORE_DATA);
-    EXPECT_EQ(RegDeleteValueA(key_, "ONE"), ERROR_SUCCESS);
-    EXPECT_EQ(RegDeleteValueA(key_, "one"), ERROR_FILE_NOT_FOUND);
-}
-
 TEST_F(RegistryTest, AHandleDoesWhatItWasOpenedFor) {
     HKEY reader = nullptr;
     ASSERT_EQ(RegOpenKeyExA(HKEY_CURRENT_USER, kPath, 0, KEY_READ, &reader), ERROR_SUCCESS);

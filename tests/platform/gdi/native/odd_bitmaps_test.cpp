@@ -15,6 +15,8 @@ TEST(OddBitmaps, AreRefused) {
         header.header.biSize = size;
         EXPECT_EQ(nullptr, CreateDIBSection(nullptr, header.Info(), DIB_RGB_COLORS, &memory, nullptr, 0));
     }
+    header = DibHeader(3, 3, 7);
+    EXPECT_EQ(nullptr, CreateDIBSection(nullptr, header.Info(), DIB_RGB_COLORS, &memory, nullptr, 0));
     header = DibHeader(1, 1, 32);
     header.header.biPlanes = 4;
     EXPECT_EQ(nullptr, CreateDIBSection(nullptr, header.Info(), DIB_RGB_COLORS, &memory, nullptr, 0));
@@ -53,6 +55,9 @@ TEST(OddBitmaps, AreRefused) {
     EXPECT_EQ(nullptr, CreateBitmap(3, 3, 1, 0xFFFFFFFF, nullptr));
     EXPECT_EQ(nullptr, CreateBitmap(3, 3, 1, 24, nullptr));
     EXPECT_EQ(nullptr, CreateBitmap(-1, 3, 1, 32, nullptr));
+    BITMAP least{};
+    ASSERT_NE(0, GetObjectA(CreateBitmap(0, 0, 1, 1, nullptr), sizeof least, &least));
+    EXPECT_EQ(1, least.bmWidth) << "no size is the least one";
 }
 
 }  // namespace

@@ -1,9 +1,6 @@
-#include <cvplatform.h>
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include <csetjmp>
-#include <csignal>
 #include <cstring>
 #include <sys/mman.h>
 #include <ucontext.h>
