@@ -10,6 +10,7 @@
 
 #include <cstring>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -110,22 +111,19 @@ TEST_F(DateField, KeysMoveTheCaret) {
     Focus();
     EXPECT_EQ(0, CaretIn("05/06/95"));
     EXPECT_EQ(kHeight - 5, Caret().y);
-    Key(VK_LEFT);
-    EXPECT_EQ(0, CaretIn("05/06/95"));
-    Key(VK_RIGHT);
-    Key(VK_RIGHT);
-    EXPECT_EQ(2, CaretIn("05/06/95")) << "the caret may stand on a separator";
-    Key(VK_BACK);
-    EXPECT_EQ(1, CaretIn("05/06/95"));
-    Key(VK_END);
-    EXPECT_EQ(7, CaretIn("05/06/95"));
-    Key(VK_RIGHT);
-    EXPECT_EQ(7, CaretIn("05/06/95"));
-    Key(VK_UP);
-    Key(VK_DOWN);
-    EXPECT_EQ(7, CaretIn("05/06/95"));
-    Key(VK_HOME);
-    EXPECT_EQ(0, CaretIn("05/06/95"));
+    // The caret may stand on a separator, at 2.
+    for (auto const& [key, position] : {std::pair{VK_LEFT, 0},
+                                        {VK_RIGHT, 1},
+                                        {VK_RIGHT, 2},
+                                        {VK_BACK, 1},
+                                        {VK_END, 7},
+                                        {VK_RIGHT, 7},
+                                        {VK_UP, 7},
+                                        {VK_DOWN, 7},
+                                        {VK_HOME, 0}}) {
+        Key(static_cast<WPARAM>(key));
+        EXPECT_EQ(position, CaretIn("05/06/95")) << key;
+    }
     EXPECT_EQ("1995-5-6", Value());
 }
 

@@ -2,6 +2,7 @@
 #include <cvutil32/numfld.h>
 
 #include "controls/numfld/number.h"
+#include "tests/support/modal.h"
 #include "tests/support/window.h"
 
 #include <gtest/gtest.h>
@@ -23,9 +24,7 @@ class NumericField : public testing::Test {
         }
     }
     std::string Text() const {
-        char text[80] = "";
-        GetWindowTextA(field_, text, sizeof text);
-        return text;
+        return TextOf(field_);
     }
     /// Sets a text, steps it and gives the new text.
     std::string Stepped(char const* text, WORD code) const {

@@ -4,6 +4,7 @@
 
 #include "tests/controls/folder_tree.h"
 #include "tests/controls/native/hands.h"
+#include "tests/support/modal.h"
 #include "tests/support/window.h"
 
 #include <commdlg.h>
@@ -42,9 +43,7 @@ class BrowseInput : public Walk {
             testing_support::PumpMessages();
         }
         DestroyWindow(button);
-        char text[1024];
-        GetWindowTextA(edit_, text, sizeof text);
-        return text;
+        return TextOf(edit_);
     }
 
     HWND edit_ = nullptr;

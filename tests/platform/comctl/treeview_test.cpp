@@ -118,20 +118,15 @@ TEST_F(TreeViewTest, KeysWalkThroughTheRows) {
     const HTREEITEM b = Add("b");
     SetFocus(tree_);
     Select(a);
-    Key(VK_DOWN);
-    EXPECT_EQ(b, Caret());
-    Key(VK_HOME);
-    EXPECT_EQ(a, Caret());
-    Key(VK_RIGHT);
-    EXPECT_EQ(a, Caret());
-    Key(VK_RIGHT);
-    EXPECT_EQ(child, Caret());
-    Key(VK_END);
-    EXPECT_EQ(b, Caret());
-    Key(VK_UP);
-    EXPECT_EQ(child, Caret());
-    Key(VK_LEFT);
-    EXPECT_EQ(a, Caret());
+    struct {
+        WPARAM key;
+        HTREEITEM caret;
+    } const steps[] = {{VK_DOWN, b}, {VK_HOME, a},   {VK_RIGHT, a}, {VK_RIGHT, child},
+                       {VK_END, b},  {VK_UP, child}, {VK_LEFT, a}};
+    for (const auto& step : steps) {
+        Key(step.key);
+        EXPECT_EQ(step.caret, Caret()) << step.key;
+    }
     Key(VK_SUBTRACT);
     EXPECT_EQ(0U, State(a) & TVIS_EXPANDED);
     Key(VK_ADD);
