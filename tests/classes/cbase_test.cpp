@@ -103,11 +103,4 @@ TEST(CBase, PrototypeProtocolServesAContainer) {
     EXPECT_EQ(0u, element->GetBufLen(0));
 }
 
-TEST(CBase, DeletesThroughTheBase) {
-    CBASE* const object = new Point(3, 4);
-    delete object;
-    CBASE* const text = new CSTRING("deleted through its base");
-    delete text;
-}
-
 }  // namespace

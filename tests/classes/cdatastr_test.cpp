@@ -7,7 +7,6 @@
 
 #include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace {
@@ -133,6 +132,11 @@ TEST(DataString, EveryWalkEndsAlsoBehindTheEndOfTheCharacterWalk) {
     EXPECT_EQ(Specifications(list), (Texts{"Q:C:\\M", "Q:C:\\M"}));
     list.NormalizeFileSpecs();
     EXPECT_LT(list.GetStrLen(), 40u);
+    Write(list, "one;M\xFCller;three");
+    EXPECT_EQ(Items(list, ';'), (Texts{"one", "M"}));
+    Write(list, "a.txt M\xFCller.txt c.txt");
+    list.NormalizeFileSpecs();
+    EXPECT_EQ(Text(list), "a.txt M");
     Write(list, "\xE9;;;;\xE9;;");
     list.CleanDelimiters(';');
     Write(list, "a;b\xE9\x61\x61\x61");

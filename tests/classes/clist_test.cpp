@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdint>
 #include <cstring>
 #include <new>
 #include <vector>
@@ -200,18 +199,6 @@ TEST(List, AnItemOfItsOwnSurvivesTheMoveOfTheArray) {
     Fill(list, {4});
     EXPECT_NE(list.Insert(list.GetItem(3), 1), nullptr);
     EXPECT_EQ(Values(list), (Ints{1, 4, 1, 1, 4}));
-}
-
-TEST(List, StoresStringsByTheirProtocol) {
-    CLIST names(CSTRING("none"), 2);
-    CSTRING name("Ada");
-    names.Append(&name);
-    name = "Grace";
-    names.Append(&name);
-    names.New();
-    EXPECT_STREQ(static_cast<const CSTRING&>(*static_cast<CSTRING*>(names.GetItem(0))), "Ada");
-    EXPECT_STREQ(static_cast<const CSTRING&>(*static_cast<CSTRING*>(names.GetItem(1))), "Grace");
-    EXPECT_STREQ(static_cast<const CSTRING&>(*static_cast<CSTRING*>(names.GetItem(2))), "none");
 }
 
 TEST(List, WithoutStorageItAnswersAndInitMakesItUsable) {

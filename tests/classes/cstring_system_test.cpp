@@ -13,8 +13,7 @@
 #include <string>
 #include <type_traits>
 
-using testing_support::TempFolder;
-using testing_support::TestWindow;
+using namespace testing_support;
 
 namespace {
 
@@ -35,8 +34,7 @@ TEST(CStringSystem, WindowsAndTheirClasses) {
     EXPECT_EQ(3000u, string.GetStrLen());
     EXPECT_EQ(3000u, string.GetByteCount());
     EXPECT_EQ("CvTestWindow", Text(string.GetClassNameA(window)));
-    HWND const child = CreateWindowExA(0, "static", "child", WS_CHILD, 0, 0, 10, 10, window,
-                                       reinterpret_cast<HMENU>(INT_PTR{7}), Program(), nullptr);
+    HWND const child = MakeChild(window, "static", 0, {0, 0, 10, 10}, 7, "child");
     EXPECT_EQ("child", Text(string.GetDlgItemTextA(window, 7)));
     DestroyWindow(child);
 }

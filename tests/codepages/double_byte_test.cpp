@@ -2,13 +2,11 @@
 // bytes for characters goes wrong.
 #include <cvutil32/cdatastr.h>
 #include <cvutil32/cstring.h>
-#include <cvutil32/list.h>
 
 #include <gtest/gtest.h>
 
 #include <cstring>
 #include <string>
-#include <utility>
 
 namespace {
 
@@ -154,29 +152,6 @@ TEST_F(DoubleByte, ItemsOfAListAreNotCutInsideACharacter) {
     EXPECT_EQ(string(Text(list)).substr(0, 2), page_->backslash);
     list.RemoveBackslashes(';');
     EXPECT_EQ(string(Text(list)).substr(0, 2), page_->backslash);
-}
-
-TEST_F(DoubleByte, SortedTextsAreFound) {
-    string texts[] = {"a", "b", capital, small};
-    char const* keys[4];
-    for (string& key : texts) {
-        for (string& other : texts) {
-            if (lstrcmpA(key.c_str(), other.c_str()) < 0) {
-                std::swap(key, other);
-            }
-        }
-    }
-    LPVOID list = LIST_Malloc(4, sizeof(char const*));
-    for (int i = 0; i < 4; ++i) {
-        keys[i] = texts[i].c_str();
-        LIST_Append(&list, &keys[i]);
-    }
-    for (DWORD i = 0; i < 4; ++i) {
-        DWORD index = 99;
-        LIST_BFind(list, LIST_TYPE_LPSTR, 0, keys[i], &index);
-        EXPECT_EQ(index, i);
-    }
-    LIST_Free(list);
 }
 
 TEST_F(DoubleByte, ConvertsWholeCharactersAndRefusesHalves) {

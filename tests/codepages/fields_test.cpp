@@ -3,6 +3,7 @@
 #include <cvutil32/timectrl.h>
 
 #include "tests/support/clock_settings.h"
+#include "tests/support/window.h"
 
 #include <gtest/gtest.h>
 
@@ -28,16 +29,10 @@ class DoubleByteFields : public ::testing::Test {
   protected:
     void SetUp() override {
         ASSERT_TRUE(IsDBCSLeadByte(static_cast<BYTE>(TwoBytes()[0]))) << GetACP();
-        host_ = CreateWindowExA(0, "static", "", WS_POPUP | WS_VISIBLE, 10, 10, 300, 200, nullptr, nullptr,
-                                GetModuleHandleA(nullptr), nullptr);
-    }
-    void TearDown() override {
-        DestroyWindow(host_);
     }
 
     HWND Create(LPCSTR name, DWORD style) const {
-        HWND const field = CreateWindowExA(0, name, "", WS_CHILD | WS_VISIBLE | style, 10, 10, 200, 26, host_, nullptr,
-                                           GetModuleHandleA(nullptr), nullptr);
+        HWND const field = testing_support::MakeChild(host_, name, style, {10, 10, 210, 36});
         SetForegroundWindow(host_);
         SetFocus(field);
         return field;
@@ -61,7 +56,7 @@ class DoubleByteFields : public ::testing::Test {
         return text;
     }
 
-    HWND host_ = nullptr;
+    testing_support::TestWindow const host_;
 };
 
 TEST_F(DoubleByteFields, TimeIsTypedPastSeparatorsOfTwoBytes) {

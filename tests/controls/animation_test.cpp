@@ -13,18 +13,7 @@
 
 namespace {
 
-using testing_support::LeakCheck;
-using testing_support::Picture;
-using testing_support::PictureOf;
-using testing_support::PumpMessages;
-using testing_support::TestWindow;
-
-HWND CreateAnimation(HWND parent, int width = 20, int height = 15, char const* name = ANIMATE_CLASSNAME) {
-    HWND const control = CreateWindowExA(0, name, "", WS_CHILD | WS_VISIBLE, 10, 10, width, height, parent, nullptr,
-                                         GetModuleHandleA(nullptr), nullptr);
-    EXPECT_NE(nullptr, control);
-    return control;
-}
+using namespace testing_support;
 
 BOOL Load(HWND control, int width = 8) {
     return ANIMATE_Initialize(control, GetModuleHandleA(nullptr), MAKEINTRESOURCEA(IDB_STRIP), width, RGB(255, 0, 255));
@@ -32,7 +21,7 @@ BOOL Load(HWND control, int width = 8) {
 
 class Animation : public testing::Test {
   protected:
-    Animation() : control_(CreateAnimation(host_)) {}
+    Animation() : control_(MakeChild(host_, ANIMATE_CLASSNAME, 0, {10, 10, 30, 25})) {}
     ~Animation() override {
         if (IsWindow(control_)) {
             SendMessageA(control_, WM_CLOSE, 0, 0);
@@ -140,7 +129,7 @@ TEST_F(Animation, CloseReleasesThePicturesAndLeavesTheWindow) {
 }
 
 TEST_F(Animation, SmallWindowShowsTheMiddleOfTheFrame) {
-    HWND const small = CreateAnimation(host_, 7, 5);
+    HWND const small = MakeChild(host_, ANIMATE_CLASSNAME, 0, {10, 10, 17, 15});
     ASSERT_TRUE(Load(small));
     SendMessageA(small, WM_TIMER, 99, 0);
     // 7 - 8 and 5 - 8 are halved downwards: the frame begins at -1, -2 and its white pixel 2, 3 lies at 1, 1.
@@ -179,12 +168,10 @@ TEST_F(Animation, RunningOneGoesWithItsParent) {
 TEST_F(Animation, OtherClassesAreRefused) {
     WNDCLASSA record = {};
     ASSERT_TRUE(GetClassInfoA(UTIL_GetModuleInstance(), ANIMATE_CLASSNAME, &record));
-    EXPECT_EQ(static_cast<UINT>(CS_GLOBALCLASS), record.style);
-    EXPECT_EQ(3 * static_cast<int>(sizeof(LONG_PTR)), record.cbWndExtra);
     record.lpszClassName = "CvTestAnimation";
     record.hInstance = GetModuleHandleA(nullptr);
     ASSERT_NE(0, RegisterClassA(&record));
-    HWND const other = CreateAnimation(host_, 20, 15, "CvTestAnimation");
+    HWND const other = MakeChild(host_, "CvTestAnimation");
     for (HWND window : {other, host_.Handle(), HWND{nullptr}}) {
         EXPECT_FALSE(Load(window));
         EXPECT_FALSE(ANIMATE_Start(window));
@@ -192,8 +179,6 @@ TEST_F(Animation, OtherClassesAreRefused) {
     }
     DestroyWindow(other);
     UnregisterClassA("CvTestAnimation", GetModuleHandleA(nullptr));
-    EXPECT_FALSE(ANIMATE_RegisterClass(nullptr));
-    EXPECT_TRUE(ANIMATE_RegisterClass(UTIL_GetModuleInstance()));
 }
 
 }  // namespace

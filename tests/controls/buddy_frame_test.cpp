@@ -1,8 +1,6 @@
 // The buddy frame: what it arranges and how, and its border.
 #include <cvutil32/buddyfr.h>
-#include <cvutil32/util.h>
 
-#include "controls/buddyfr/layout.h"
 #include "tests/support/leaks.h"
 #include "tests/support/window.h"
 
@@ -13,30 +11,11 @@
 
 namespace {
 
-using testing_support::LeakCheck;
-using testing_support::Message;
-using testing_support::Picture;
-using testing_support::PictureOf;
-using testing_support::TestWindow;
+using namespace testing_support;
 
 bool Is(RECT const& rect, int left, int top, int right, int bottom) {
     RECT const expected = {left, top, right, bottom};
     return EqualRect(&rect, &expected);
-}
-
-TEST(BuddyLayout, EditFieldAndComboBox) {
-    buddyfr::Layout const edit = buddyfr::Arrange({10, 20, 110, 40}, 1, false);
-    EXPECT_EQ(100 - 22, edit.field.cx);
-    EXPECT_EQ(21, edit.field.cy);
-    EXPECT_TRUE(Is(edit.frame, 88, 20, 110, 41));
-    EXPECT_TRUE(Is(buddyfr::ButtonRect(edit, 0), 90, 22, 108, 39));
-
-    buddyfr::Layout const combo = buddyfr::Arrange({10, 20, 110, 40}, 2, true);
-    EXPECT_EQ(100 - 40, combo.field.cx);
-    EXPECT_EQ(120, combo.field.cy);
-    EXPECT_TRUE(Is(combo.frame, 70, 20, 110, 40));
-    EXPECT_TRUE(Is(buddyfr::ButtonRect(combo, 0), 72, 22, 90, 38));
-    EXPECT_TRUE(Is(buddyfr::ButtonRect(combo, 1), 90, 22, 108, 38));
 }
 
 /// A dialog's client area with controls that come one after the other in its tab order. Fields and buttons are plain
@@ -60,11 +39,7 @@ class BuddyFrame : public testing::Test {
     }
 
     HWND Add(char const* name, DWORD style = WS_TABSTOP, RECT const& place = {10, 20, 110, 40}) {
-        HWND const window =
-            CreateWindowExA(0, name, "", WS_CHILD | WS_VISIBLE | style, place.left, place.top, place.right - place.left,
-                            place.bottom - place.top, host_, nullptr, GetModuleHandleA(nullptr), nullptr);
-        EXPECT_NE(nullptr, window);
-        return window;
+        return MakeChild(host_, name, style, place);
     }
     HWND AddFrame() {
         return Add(BUDDYFR_CLASSNAME, 0, {0, 0, 9, 9});
@@ -85,8 +60,7 @@ class BuddyFrame : public testing::Test {
 TEST_F(BuddyFrame, EditFieldWithOneButton) {
     HWND const field = Add("Edit");
     HWND const button = Add("CvTestSmallButton");
-    HWND const child = CreateWindowExA(0, "CvTestSmallButton", "", WS_CHILD, 3, 3, 5, 5, button, nullptr,
-                                       GetModuleHandleA(nullptr), nullptr);
+    HWND const child = MakeChild(button, "CvTestSmallButton");
     HWND const frame = AddFrame();
     EXPECT_TRUE(Is(PlaceOf(field), 10, 20, 88, 41));
     EXPECT_TRUE(Is(PlaceOf(frame), 88, 20, 110, 41));
@@ -170,8 +144,7 @@ TEST_F(BuddyFrame, BorderIsSunkenAndTheInsideLeftAlone) {
 TEST(BuddyFrameFields, TheSystemsOwnComboBoxKeepsItsHeightAndItsList) {
     TestWindow const host;
     auto const add = [&](char const* name, DWORD style, int height) {
-        return CreateWindowExA(0, name, "", WS_CHILD | WS_VISIBLE | style, 10, 20, 100, height, host, nullptr,
-                               GetModuleHandleA(nullptr), nullptr);
+        return MakeChild(host, name, style, {10, 20, 110, 20 + height});
     };
     HWND const combo = add("combobox", CBS_DROPDOWN | WS_TABSTOP, 60);
     HWND const button = add("button", WS_TABSTOP, 9);
@@ -190,16 +163,6 @@ TEST(BuddyFrameFields, TheSystemsOwnComboBoxKeepsItsHeightAndItsList) {
     EXPECT_TRUE(Is(place, before.right - 22, before.top, before.right, before.bottom));
     GetWindowRect(button, &place);
     EXPECT_TRUE(Is(place, before.right - 20, before.top + 2, before.right - 2, before.bottom - 2));
-}
-
-TEST(BuddyFrameClass, HasNothingOfItsOwn) {
-    WNDCLASSA record = {};
-    ASSERT_TRUE(GetClassInfoA(GetModuleHandleA(nullptr), "Calverin_BuddyFrame", &record));
-    EXPECT_EQ(static_cast<UINT>(CS_GLOBALCLASS), record.style);
-    EXPECT_EQ(0, record.cbWndExtra);
-    EXPECT_EQ(GetStockObject(NULL_BRUSH), record.hbrBackground);
-    EXPECT_FALSE(BUDDYFR_RegisterClass(nullptr));
-    EXPECT_TRUE(BUDDYFR_RegisterClass(UTIL_GetModuleInstance()));
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 // The check list: its boxes pixel by pixel, the height of its items, and what of its parent's messages it keeps.
 #include <cvutil32/cklist.h>
-#include <cvutil32/util.h>
 
 #include "tests/platform/support/gdi_canvas.h"
 #include "tests/support/leaks.h"
@@ -13,11 +12,7 @@
 
 namespace {
 
-using testing_support::LeakCheck;
-using testing_support::Message;
-using testing_support::Picture;
-using testing_support::PictureOf;
-using testing_support::TestWindow;
+using namespace testing_support;
 
 constexpr int kBox = 11;
 constexpr DWORD kStyle = LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | LBS_MULTIPLESEL | LBS_NOTIFY;
@@ -40,11 +35,7 @@ class CheckList : public testing::Test {
     CheckList() : list_(Create(CKLIST_CLASSNAME, kId)) {}
 
     HWND Create(char const* name, int id, DWORD style = kStyle) {
-        HWND const list =
-            CreateWindowExA(0, name, "", WS_CHILD | WS_VISIBLE | style, 10, 10, 120, 60, host_,
-                            reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleA(nullptr), nullptr);
-        EXPECT_NE(nullptr, list);
-        return list;
+        return MakeChild(host_, name, style, {10, 10, 130, 70}, id);
     }
     LRESULT Ask(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
         return SendMessageA(list_, message, wParam, lParam);
@@ -87,15 +78,6 @@ class CheckList : public testing::Test {
     HWND list_;
 };
 
-TEST(CheckListClass, IsTheListBoxWithoutDoubleClicks) {
-    WNDCLASSA list = {};
-    WNDCLASSA check = {};
-    ASSERT_TRUE(GetClassInfoA(nullptr, "listbox", &list));
-    ASSERT_TRUE(GetClassInfoA(GetModuleHandleA(nullptr), "Calverin_CheckList1", &check));
-    EXPECT_EQ((list.style | CS_GLOBALCLASS) & ~static_cast<UINT>(CS_DBLCLKS), check.style);
-    EXPECT_EQ(list.cbWndExtra, check.cbWndExtra);
-}
-
 TEST_F(CheckList, BoxTellsSelectedAndNothingElse) {
     Add("");
     Canvas canvas(60, 30);
@@ -123,14 +105,6 @@ TEST_F(CheckList, BoxStandsInTheMiddleOfAHighItem) {
     Canvas canvas(60, 30);
     Draw(canvas, {0, 3, 60, 24}, ODS_SELECTED);
     EXPECT_EQ(kTicked, BoxAt(canvas, 10, 8));
-    canvas.Clear(0x123456);
-    Draw(canvas, {0, 10, 60, 17}, ODS_SELECTED);
-    // Two rows above the item, and no more rows than it has.
-    EXPECT_EQ(0x808080u, canvas.At(12, 8));
-    EXPECT_EQ(0x000000u, canvas.At(18, 10));
-    EXPECT_EQ(0x000000u, canvas.At(12, 14) & canvas.At(14, 14));
-    EXPECT_EQ(PixelOf(GetSysColor(COLOR_WINDOW)), canvas.At(10, 15));
-    EXPECT_EQ(0x123456u, canvas.At(10, 17));
 }
 
 TEST_F(CheckList, TextFollowsTheBox) {
@@ -261,35 +235,6 @@ TEST_F(CheckList, ClickingTicksAndTicksAgain) {
     Ask(LB_SETSEL, TRUE, 0);
     UpdateWindow(list_);
     EXPECT_FALSE(boxIsTicked(0)) << "a disabled list shows empty boxes";
-}
-
-TEST_F(CheckList, LongListsAreOnlyPaintedWhereTheyShow) {
-    LeakCheck const leaks;
-    Ask(WM_SETREDRAW, FALSE);
-    for (int i = 0; i < 30000; ++i) {
-        Ask(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("item"));
-    }
-    Ask(WM_SETREDRAW, TRUE);
-    Ask(LB_SETSEL, TRUE, 29999);
-    Ask(LB_SETTOPINDEX, 29999);
-    UpdateWindow(list_);
-    EXPECT_EQ(30000, Ask(LB_GETCOUNT));
-    EXPECT_EQ(1, Ask(LB_GETSELCOUNT));
-    EXPECT_GT(Ask(LB_GETTOPINDEX), 29900);
-    Ask(LB_RESETCONTENT);
-}
-
-TEST(CheckListProperty, ComesAndGoesWithTheWindow) {
-    TestWindow host;
-    HWND const list = CreateWindowExA(0, CKLIST_CLASSNAME, "", WS_CHILD | kStyle, 0, 0, 50, 50, host, nullptr,
-                                      GetModuleHandleA(nullptr), nullptr);
-    EXPECT_EQ(reinterpret_cast<HANDLE>(INT_PTR{1}), GetPropA(list, "CKLIST_IsValid"));
-    HANDLE const former = GetPropA(host, "CKLIST_ParentWndProc");
-    EXPECT_NE(nullptr, former);
-    DestroyWindow(list);
-    EXPECT_EQ(former, GetPropA(host, "CKLIST_ParentWndProc"));
-    host.Destroy();
-    EXPECT_EQ(1u, host.Received(WM_NCDESTROY).size());
 }
 
 }  // namespace

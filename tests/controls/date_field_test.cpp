@@ -10,33 +10,19 @@
 
 #include <cstring>
 #include <string>
+#include <utility>
 
 namespace {
 
-using testing_support::FieldDriver;
-using testing_support::IntlSetting;
-using testing_support::LeakCheck;
-using testing_support::Message;
-using testing_support::Picture;
-using testing_support::PictureOf;
-using testing_support::TestWindow;
+using namespace testing_support;
 
 class DateField : public testing::Test, protected FieldDriver {
   protected:
-    static constexpr int kWidth = 110;
-    static constexpr int kHeight = 26;
-
     DateField() {
-        Create();
+        Create(DATECTRL_CLASSNAME);
     }
     ~DateField() override {
         host_.Destroy();
-    }
-
-    void Create() {
-        field_ = CreateWindowExA(0, DATECTRL_CLASSNAME, "", WS_CHILD | WS_VISIBLE, 10, 10, kWidth, kHeight, host_,
-                                 reinterpret_cast<HMENU>(static_cast<INT_PTR>(1)), GetModuleHandleA(nullptr), nullptr);
-        ASSERT_NE(nullptr, field_);
     }
 
     void Set(int year, int month, int day) {
@@ -67,29 +53,8 @@ class DateField : public testing::Test, protected FieldDriver {
         ASSERT_EQ(field_, GetFocus());
     }
 
-    /// What a field with this text must look like on the host's answer to WM_CTLCOLOREDIT, or on the window colour.
-    Picture Expected(char const* text, COLORREF background) const {
-        HDC const dc = GetDC(field_);
-        HDC const memory = CreateCompatibleDC(dc);
-        HBITMAP const bitmap = CreateCompatibleBitmap(dc, kWidth, kHeight);
-        HGDIOBJ const former = SelectObject(memory, bitmap);
-        HBRUSH const brush = CreateSolidBrush(background);
-        RECT area = {0, 0, kWidth, kHeight};
-        FillRect(memory, &area, brush);
-        DeleteObject(brush);
-        area.left = area.top = 1;
-        DrawTextA(memory, text, -1, &area, DT_LEFT | DT_TOP);
-        Picture const picture = PictureOf(memory, kWidth, kHeight);
-        SelectObject(memory, former);
-        DeleteObject(bitmap);
-        DeleteDC(memory);
-        ReleaseDC(field_, dc);
-        return picture;
-    }
-
     IntlSetting order_{"iDate", "0"};
     IntlSetting separator_{"sDate", "/"};
-    TestWindow host_;
 };
 
 std::string Today() {
@@ -112,23 +77,15 @@ TEST_F(DateField, IsEmptyUntilItGetsADate) {
     EXPECT_EQ(Today(), Value());
 }
 
-TEST_F(DateField, InvalidDatesAreRefused) {
-    Set(1995, 5, 6);
-    SYSTEMTIME date = {};
-    date.wYear = 1995;
-    date.wMonth = 2;
-    date.wDay = 29;
-    EXPECT_FALSE(DATECTRL_SetDate(field_, &date, TRUE));
-    EXPECT_EQ("1995-5-6", Value());
-}
-
-TEST_F(DateField, BadWindowsAreRefused) {
+TEST_F(DateField, BadDatesAndWindowsAreRefused) {
     SYSTEMTIME date = {};
     EXPECT_FALSE(DATECTRL_SetDate(nullptr, nullptr, TRUE));
     EXPECT_FALSE(DATECTRL_GetDate(nullptr, &date));
     Set(1995, 5, 6);
+    EXPECT_FALSE(DATECTRL_SetDate(field_, &date, TRUE)) << "no date at all";
+    EXPECT_EQ("1995-5-6", Value());
     EXPECT_FALSE(DATECTRL_GetDate(field_, nullptr));
-    HWND const plain = CreateWindowExA(0, "static", "", WS_CHILD, 0, 0, 5, 5, host_, nullptr, nullptr, nullptr);
+    HWND const plain = MakeChild(host_, "static");
     EXPECT_FALSE(DATECTRL_SetDate(plain, nullptr, TRUE));
     EXPECT_FALSE(DATECTRL_GetDate(plain, &date));
     DestroyWindow(field_);
@@ -139,12 +96,10 @@ TEST_F(DateField, BadWindowsAreRefused) {
 TEST_F(DateField, FirstInputOfAnEmptyFieldShowsTodayAndIsDropped) {
     Type("x");
     EXPECT_EQ(Today(), Value());
-    DestroyWindow(field_);
-    Create();
+    Create(DATECTRL_CLASSNAME);
     Scroll(SB_LINEDOWN);
     EXPECT_EQ(Today(), Value());
-    DestroyWindow(field_);
-    Create();
+    Create(DATECTRL_CLASSNAME);
     Key(VK_RIGHT);
     EXPECT_EQ("none", Value()) << "a key that only moves the caret is no input";
 }
@@ -156,22 +111,19 @@ TEST_F(DateField, KeysMoveTheCaret) {
     Focus();
     EXPECT_EQ(0, CaretIn("05/06/95"));
     EXPECT_EQ(kHeight - 5, Caret().y);
-    Key(VK_LEFT);
-    EXPECT_EQ(0, CaretIn("05/06/95"));
-    Key(VK_RIGHT);
-    Key(VK_RIGHT);
-    EXPECT_EQ(2, CaretIn("05/06/95")) << "the caret may stand on a separator";
-    Key(VK_BACK);
-    EXPECT_EQ(1, CaretIn("05/06/95"));
-    Key(VK_END);
-    EXPECT_EQ(7, CaretIn("05/06/95"));
-    Key(VK_RIGHT);
-    EXPECT_EQ(7, CaretIn("05/06/95"));
-    Key(VK_UP);
-    Key(VK_DOWN);
-    EXPECT_EQ(7, CaretIn("05/06/95"));
-    Key(VK_HOME);
-    EXPECT_EQ(0, CaretIn("05/06/95"));
+    // The caret may stand on a separator, at 2.
+    for (auto const& [key, position] : {std::pair{VK_LEFT, 0},
+                                        {VK_RIGHT, 1},
+                                        {VK_RIGHT, 2},
+                                        {VK_BACK, 1},
+                                        {VK_END, 7},
+                                        {VK_RIGHT, 7},
+                                        {VK_UP, 7},
+                                        {VK_DOWN, 7},
+                                        {VK_HOME, 0}}) {
+        Key(static_cast<WPARAM>(key));
+        EXPECT_EQ(position, CaretIn("05/06/95")) << key;
+    }
     EXPECT_EQ("1995-5-6", Value());
 }
 
@@ -249,7 +201,7 @@ TEST_F(DateField, ADateTypedOverAnotherOneMayComeOutAsAThird) {
 
 TEST_F(DateField, AMonthThatIsTypedOnTheWayCutsTheDay) {
     order_.Change("1");
-    Create();
+    Create(DATECTRL_CLASSNAME);
     Focus();
     Set(2006, 12, 28);
     Type("300762");
@@ -318,11 +270,10 @@ TEST_F(DateField, StepOutOfTheCalendarStaysUntilADigitRepairsIt) {
 
 TEST_F(DateField, PaintsItsTextOnTheWindowColour) {
     UpdateWindow(field_);
-    COLORREF const background = GetSysColor(COLOR_WINDOW);
-    EXPECT_EQ(Expected("", background), PictureOf(field_)) << "an empty field";
+    EXPECT_EQ(Expected(""), PictureOf(field_)) << "an empty field";
     Set(1995, 5, 6);
-    EXPECT_EQ(Expected("05/06/95", background), PictureOf(field_));
-    EXPECT_NE(Expected("", background), PictureOf(field_));
+    EXPECT_EQ(Expected("05/06/95"), PictureOf(field_));
+    EXPECT_NE(Expected(""), PictureOf(field_));
 }
 
 TEST_F(DateField, AsksItsParentForTheBackground) {
@@ -387,47 +338,21 @@ TEST_F(DateField, NewSettingsCountForFieldsAtOnceAndForTheTextLater) {
     Scroll(SB_LINEUP);
     EXPECT_EQ("1995-6-6", Value()) << "another section";
     SetFocus(host_);
-    COLORREF const background = GetSysColor(COLOR_WINDOW);
     SendMessageA(field_, WM_WININICHANGE, 0, reinterpret_cast<LPARAM>("INTL"));
-    EXPECT_EQ(Expected("06/06/95", background), PictureOf(field_));
+    EXPECT_EQ(Expected("06/06/95"), PictureOf(field_));
     SendMessageA(field_, WM_VSCROLL, SB_LINEUP, 0);
     EXPECT_EQ("1995-6-7", Value()) << "the day lies first now";
-    EXPECT_EQ(Expected("07/06/95", background), PictureOf(field_));
+    EXPECT_EQ(Expected("07/06/95"), PictureOf(field_));
 }
 
 TEST_F(DateField, WithoutASeparatorOnlyTheFirstFieldIsShown) {
     separator_.Change("");
     SendMessageA(field_, WM_WININICHANGE, 0, reinterpret_cast<LPARAM>("intl"));
     Set(1995, 5, 6);
-    EXPECT_EQ(Expected("05", GetSysColor(COLOR_WINDOW)), PictureOf(field_));
-}
-
-TEST_F(DateField, UnknownOrderLeavesNoText) {
-    order_.Change("9");
-    SendMessageA(field_, WM_WININICHANGE, 0, reinterpret_cast<LPARAM>("Intl"));
-    EXPECT_FALSE(DATECTRL_SetDate(field_, nullptr, TRUE)) << "there is no text for it";
+    EXPECT_EQ(Expected("05"), PictureOf(field_));
 }
 
 // --- lifetime
-
-TEST_F(DateField, LeavesNothingBehind) {
-    Set(1995, 5, 6);
-    Focus();
-    Type("1");
-    DestroyWindow(field_);
-    Create();
-    Set(1995, 5, 6);
-    Focus();
-    DestroyWindow(field_);
-    LeakCheck const leaks;
-    for (int i = 0; i < 20; ++i) {
-        Create();
-        Set(1995, 5, 6);
-        Focus();
-        Type("1");
-        DestroyWindow(field_);
-    }
-}
 
 TEST_F(DateField, ToldOfTheFocusTwiceItHasOneCaret) {
     SetFocus(host_);

@@ -13,8 +13,7 @@
 
 namespace {
 
-using testing_support::Message;
-using testing_support::TestWindow;
+using namespace testing_support;
 
 constexpr char kSuperclass[] = "CvTestSuperclass";
 constexpr UINT kQuestion = WM_USER + 77;
@@ -57,32 +56,11 @@ LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lPar
 
 HWND CreateSample(HWND parent) {
     EXPECT_TRUE(frame::RegisterSuperclass(GetModuleHandleA(nullptr), kSuperclass, "button", Procedure, g_base));
-    HWND const sample =
-        CreateWindowExA(0, kSuperclass, "sample", WS_CHILD | WS_VISIBLE, 0, 0, 60, 20, parent,
-                        reinterpret_cast<HMENU>(static_cast<INT_PTR>(7)), GetModuleHandleA(nullptr), nullptr);
-    EXPECT_NE(nullptr, sample);
-    return sample;
+    return MakeChild(parent, kSuperclass);
 }
 
 WNDPROC ProcedureOf(HWND window) {
     return reinterpret_cast<WNDPROC>(GetWindowLongPtrA(window, GWLP_WNDPROC));
-}
-
-TEST(Frame, SuperclassAddsOneSlotBehindItsBase) {
-    TestWindow const parent;
-    CreateSample(parent);
-    WNDCLASSA button = {};
-    WNDCLASSA super = {};
-    ASSERT_TRUE(GetClassInfoA(nullptr, "button", &button));
-    ASSERT_TRUE(GetClassInfoA(GetModuleHandleA(nullptr), kSuperclass, &super));
-    EXPECT_EQ(button.cbWndExtra, g_base.extraBytes);
-    EXPECT_EQ(button.cbWndExtra + static_cast<int>(sizeof(LONG_PTR)), super.cbWndExtra);
-    EXPECT_EQ(button.style | CS_GLOBALCLASS, super.style);
-    EXPECT_FALSE(frame::RegisterSuperclass(nullptr, kSuperclass, "button", Procedure, g_base));
-    frame::BaseClass untouched = {};
-    EXPECT_FALSE(
-        frame::RegisterSuperclass(GetModuleHandleA(nullptr), "CvTestNoSuch", "CvTestNoBase", Procedure, untouched));
-    EXPECT_EQ(nullptr, untouched.procedure);
 }
 
 TEST(Frame, AClassThatIsThereAlreadyTellsOfItsBase) {
@@ -99,6 +77,11 @@ TEST(Frame, AClassThatIsThereAlreadyTellsOfItsBase) {
     frame::BaseClass known = {DefWindowProcA, 3};
     EXPECT_TRUE(frame::RegisterSuperclass(GetModuleHandleA(nullptr), kSuperclass, "button", Procedure, known));
     EXPECT_EQ(3, known.extraBytes) << "what is known stays";
+    EXPECT_FALSE(frame::RegisterSuperclass(nullptr, kSuperclass, "button", Procedure, g_base));
+    frame::BaseClass untouched = {};
+    EXPECT_FALSE(
+        frame::RegisterSuperclass(GetModuleHandleA(nullptr), "CvTestNoSuch", "CvTestNoBase", Procedure, untouched));
+    EXPECT_EQ(nullptr, untouched.procedure);
 }
 
 TEST(Frame, SuperclassedWindowWorksAsItsBaseAndHasItsData) {
@@ -163,6 +146,32 @@ TEST(Frame, ParentsEndIsPassedOnWithoutArgumentsAndUnhooks) {
     EXPECT_EQ(nullptr, GetPropA(parent, "CvTest_ParentWndProc"));
 }
 
+TEST(Frame, ControlsMarkThemselvesAndHookTheirParents) {
+    struct {
+        char const* name;
+        char const* valid;
+        char const* parents;
+    } const controls[] = {
+        {GRBUTTON_CLASSNAME, "GrButton_IsValid", "GrButton_ParentWndProc"},
+        {BROWSE_CLASSNAME, "Browse_IsValid", "Browse_ParentWndProc"},
+        {CKLIST_CLASSNAME, "CKLIST_IsValid", "CKLIST_ParentWndProc"},
+        {NUMFLD_CLASSNAME, nullptr, "NumField_ParentWndProc"},
+    };
+    testing_support::LeakCheck const leaks;
+    for (auto const& each : controls) {
+        SCOPED_TRACE(each.name);
+        TestWindow parent;
+        HWND const control = MakeChild(parent, each.name);
+        EXPECT_TRUE(!each.valid || GetPropA(control, each.valid) == reinterpret_cast<HANDLE>(INT_PTR{1}));
+        HANDLE const former = GetPropA(parent, each.parents);
+        EXPECT_NE(nullptr, former);
+        DestroyWindow(control);
+        EXPECT_EQ(former, GetPropA(parent, each.parents)) << "the hook outlives its controls";
+        parent.Destroy();
+        EXPECT_EQ(1u, parent.Received(WM_NCDESTROY).size());
+    }
+}
+
 WNDPROC g_below;
 
 LRESULT CALLBACK OnTop(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -182,18 +191,6 @@ TEST(Frame, LaterSubclassOfTheParentIsLeftInPlace) {
     EXPECT_EQ(kAnswer, SendMessageA(parent, kQuestion, 0, 0));
     parent.Destroy();
     EXPECT_EQ(1u, parent.Received(WM_NCDESTROY).size());
-}
-
-TEST(Frame, OwnClassIsFoundByEveryModule) {
-    frame::OwnClass const own = {"CvTestOwn", CS_DBLCLKS, DefWindowProcA, 8, IDC_ARROW, nullptr};
-    EXPECT_FALSE(frame::RegisterOwnClass(nullptr, own));
-    ASSERT_TRUE(frame::RegisterOwnClass(UTIL_GetModuleInstance(), own));
-    EXPECT_TRUE(frame::RegisterOwnClass(UTIL_GetModuleInstance(), own)) << "already there";
-    WNDCLASSA record = {};
-    ASSERT_TRUE(GetClassInfoA(GetModuleHandleA(nullptr), "CvTestOwn", &record));
-    EXPECT_EQ(static_cast<UINT>(CS_DBLCLKS | CS_GLOBALCLASS), record.style);
-    EXPECT_EQ(8, record.cbWndExtra);
-    EXPECT_TRUE(UnregisterClassA("CvTestOwn", UTIL_GetModuleInstance()));
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 #include <cvutil32/numfld.h>
 
 #include "controls/numfld/number.h"
-#include "tests/support/leaks.h"
+#include "tests/support/modal.h"
 #include "tests/support/window.h"
 
 #include <gtest/gtest.h>
@@ -12,21 +12,11 @@
 
 namespace {
 
-using testing_support::LeakCheck;
-using testing_support::Message;
-using testing_support::TestWindow;
+using namespace testing_support;
 
 class NumericField : public testing::Test {
   protected:
-    NumericField() : field_(Create(host_)) {}
-
-    static HWND Create(HWND parent, DWORD style = ES_AUTOHSCROLL) {
-        HWND const field =
-            CreateWindowExA(0, NUMFLD_CLASSNAME, "", WS_CHILD | WS_VISIBLE | style, 10, 10, 80, 22, parent,
-                            reinterpret_cast<HMENU>(static_cast<INT_PTR>(1)), GetModuleHandleA(nullptr), nullptr);
-        EXPECT_NE(nullptr, field);
-        return field;
-    }
+    NumericField() : field_(MakeChild(host_, NUMFLD_CLASSNAME, ES_AUTOHSCROLL)) {}
 
     void Type(char const* characters) const {
         for (; *characters; ++characters) {
@@ -34,9 +24,7 @@ class NumericField : public testing::Test {
         }
     }
     std::string Text() const {
-        char text[80] = "";
-        GetWindowTextA(field_, text, sizeof text);
-        return text;
+        return TextOf(field_);
     }
     /// Sets a text, steps it and gives the new text.
     std::string Stepped(char const* text, WORD code) const {
@@ -182,54 +170,11 @@ TEST_F(NumericField, ParentMayEndItWhileItSteps) {
     host_.answer = nullptr;
 }
 
-TEST_F(NumericField, SubclassesItsParentOnceAndLeavesItAsItWas) {
-    TestWindow parent;
-    auto const procedure = [&parent] { return GetWindowLongPtrA(parent, GWLP_WNDPROC); };
-    LONG_PTR const own = procedure();
-    HWND const first = Create(parent);
-    LONG_PTR const hooked = procedure();
-    EXPECT_NE(own, hooked);
-    EXPECT_EQ(reinterpret_cast<HANDLE>(own), GetPropA(parent, "NumField_ParentWndProc"));
-    HWND const second = Create(parent);
-    EXPECT_EQ(hooked, procedure());
-    DestroyWindow(first);
-    DestroyWindow(second);
-    EXPECT_EQ(hooked, procedure()) << "the subclass stays with the parent";
-    parent.Forget();
-    EXPECT_EQ(0, SendMessageA(parent, WM_USER + 5, 6, 7));
-    auto const heard = parent.Received(WM_USER + 5);
-    ASSERT_EQ(1u, heard.size());
-    EXPECT_EQ(6u, heard[0].wParam);
-    EXPECT_EQ(7, heard[0].lParam);
-
-    LONG_PTR atTheEnd = 0;
-    parent.answer = [&](Message const& message) -> std::optional<LRESULT> {
-        if (message.id == WM_NCDESTROY) {
-            atTheEnd = procedure();
-        }
-        return std::nullopt;
-    };
-    parent.Destroy();
-    EXPECT_EQ(1u, parent.Received(WM_NCDESTROY).size());
-    EXPECT_EQ(hooked, atTheEnd) << "the parent hears of its end first";
-}
-
 TEST_F(NumericField, TakesAForeignPropertyAlong) {
     EXPECT_EQ(nullptr, GetPropA(field_, "NumField_IsValid"));
     SetPropA(field_, "NumField_IsValid", reinterpret_cast<HANDLE>(static_cast<LONG_PTR>(1)));
     DestroyWindow(field_);
     EXPECT_FALSE(IsWindow(field_));
-}
-
-TEST_F(NumericField, LeavesNothingBehind) {
-    LeakCheck const leaks;
-    for (int i = 0; i < 20; ++i) {
-        HWND const field = Create(host_);
-        NUMFLD_SetLimits(field, 0, 50);
-        SetFocus(field);
-        SendMessageA(field, WM_VSCROLL, SB_LINEUP, 0);
-        DestroyWindow(field);
-    }
 }
 
 }  // namespace

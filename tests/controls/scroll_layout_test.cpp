@@ -32,15 +32,6 @@ TEST(ScrollLayout, ArrowsShareTheClientArea) {
     EXPECT_EQ("10 0 20 17", Describe(scroll::ArrowRect(false, Arrow::kSecond, wide)));
 }
 
-TEST(ScrollLayout, EdgesBelongToNoArrow) {
-    RECT const arrow = {0, 10, 17, 19};
-    EXPECT_TRUE(scroll::IsInside(arrow, {1, 11}));
-    EXPECT_TRUE(scroll::IsInside(arrow, {16, 18}));
-    for (POINT edge : {POINT{0, 15}, {17, 15}, {8, 10}, {8, 19}, {-1, 15}, {8, 20}}) {
-        EXPECT_FALSE(scroll::IsInside(arrow, edge)) << edge.x << ' ' << edge.y;
-    }
-}
-
 TEST(ScrollLayout, AttachedWidthFollowsTheHeight) {
     EXPECT_EQ(18, scroll::AttachedWidth(true, 20));
     EXPECT_EQ(18, scroll::AttachedWidth(true, 21)) << "truncated";
@@ -59,13 +50,6 @@ TEST(ScrollLayout, TrianglesGrowFromTheirTip) {
     EXPECT_EQ("3 7 3 9;4 6 4 10;5 5 5 11;6 4 6 12;", Describe(scroll::GlyphLines(Glyph::kLeft, {0, 0, 10, 17}, false)));
     EXPECT_EQ("16 7 16 9;15 6 15 10;14 5 14 11;13 4 13 12;",
               Describe(scroll::GlyphLines(Glyph::kRight, {10, 0, 20, 17}, false)));
-}
-
-TEST(ScrollLayout, LinesAboveTheBarMoveToItsLeftEdge) {
-    // Centre (8, 2): the first line of the upper triangle would lie on row 0.
-    EXPECT_EQ("0 2 0 2;7 1 11 1;6 2 12 2;5 3 13 3;", Describe(scroll::GlyphLines(Glyph::kUp, {0, 0, 17, 4}, false)));
-    // Centre (2, 2): the lower triangle's base would lie on row 0.
-    EXPECT_EQ("3 3 3 3;3 2 3 2;3 1 3 1;0 2 0 2;", Describe(scroll::GlyphLines(Glyph::kDown, {0, 0, 4, 4}, false)));
 }
 
 }  // namespace

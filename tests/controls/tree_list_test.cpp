@@ -2,7 +2,6 @@
 #include <cvutil32/treelist.h>
 
 #include "tests/controls/folder_tree.h"
-#include "tests/support/leaks.h"
 #include "tests/support/temp_folder.h"
 #include "tests/support/window.h"
 
@@ -13,39 +12,20 @@
 namespace {
 
 using namespace folder_tree;
-using testing_support::LeakCheck;
-using testing_support::Message;
-using testing_support::PumpMessages;
-using testing_support::TempFolder;
-using testing_support::TestWindow;
+using namespace testing_support;
 
 constexpr int kTreeListId = 9;
 
-HWND MakeTreeList(HWND parent) {
-    HWND const control =
-        CreateWindowExA(0, TREELIST_CLASSNAME, "", WS_CHILD | WS_VISIBLE, 0, 0, 280, 180, parent,
-                        reinterpret_cast<HMENU>(INT_PTR{kTreeListId}), GetModuleHandleA(nullptr), nullptr);
-    EXPECT_NE(nullptr, control);
-    return control;
-}
-
 class TreeList : public testing::Test {
   protected:
-    TreeList() : control_(MakeTreeList(host_)) {}
+    TreeList() : control_(MakeChild(host_, TREELIST_CLASSNAME, 0, {0, 0, 280, 180}, kTreeListId)) {}
 
     TempFolder folder_;
     TestWindow host_;
     HWND control_;
 };
 
-TEST_F(TreeList, TheClassIsPlainAndKeepsThreeSlots) {
-    WNDCLASSA record = {};
-    ASSERT_TRUE(GetClassInfoA(nullptr, TREELIST_CLASSNAME, &record));
-    EXPECT_EQ(UINT{CS_GLOBALCLASS}, record.style);
-    EXPECT_EQ(3 * sizeof(LONG_PTR), static_cast<std::size_t>(record.cbWndExtra));
-    EXPECT_EQ(GetStockObject(NULL_BRUSH), record.hbrBackground);
-    EXPECT_EQ(0, TREELIST_RegisterClass(nullptr));
-    EXPECT_NE(0, TREELIST_RegisterClass(GetModuleHandleA(nullptr)));
+TEST_F(TreeList, ATreeViewFillsIt) {
     char name[40];
     GetClassNameA(TreeViewOf(control_), name, sizeof name);
     EXPECT_STREQ("SysTreeView32", name);
@@ -153,19 +133,6 @@ TEST_F(TreeList, OnlyTheUsersSelectionIsTold) {
     char buffer[MAX_PATH];
     TREELIST_GetFolder(control_, buffer);
     EXPECT_EQ(0, lstrcmpiA(Found(control_, folder_.Path("a")).c_str(), buffer)) << buffer;
-}
-
-TEST(TreeListEnd, LeavesNothingBehind) {
-    TempFolder const folder;
-    folder.MakeFolder("a\\b");
-    TestWindow host;
-    // The system's icons are made once and stay.
-    DestroyWindow(MakeTreeList(host));
-    LeakCheck const leaks;
-    HWND const control = MakeTreeList(host);
-    HTREEITEM const item = Reach(control, folder.Path("a"));
-    Expand(control, item);
-    DestroyWindow(control);
 }
 
 }  // namespace

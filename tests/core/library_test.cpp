@@ -4,11 +4,9 @@
 #include "core/globalblock.h"
 #include "core/registration.h"
 #include "tests/support/leaks.h"
-#include "tests/support/window.h"
 
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <string>
 
 namespace {
@@ -27,60 +25,50 @@ TEST(Library, KnowsItsOwnInstance) {
 
 TEST(Library, IsKnownByItsModuleName) {
     HINSTANCE const library = UTIL_GetModuleInstance();
-    for (char const* name : {"CVUTIL32", "cvutil32", "CvUtil32.dll", "CVUTIL32.DLL"}) {
-        EXPECT_EQ(library, GetModuleHandleA(name)) << name;
+    for (char const* name : {"CVUTIL32", "CvUtil32.dll"}) {
         EXPECT_EQ(library, LoadLibraryA(name)) << name;
         EXPECT_TRUE(FreeLibrary(library));
         EXPECT_EQ(library, GetModuleHandleA(name)) << "it stays: the program itself uses it";
     }
-    char path[MAX_PATH] = {};
-    ASSERT_NE(0U, GetModuleFileNameA(library, path, sizeof path));
-    EXPECT_EQ(library, GetModuleHandleA(path));
-    EXPECT_EQ(nullptr, GetModuleHandleA("CVUTIL"));
-    EXPECT_EQ(nullptr, GetModuleHandleA("CVUTIL32.EXE"));
 }
 
-TEST(Library, ClassesAreThereForEveryModule) {
-    struct Expected {
-        char const* name;
-        UINT style;
-        int extra;
+struct ControlClass {
+    char const* name;
+    char const* base;      ///< the class that it is made of, if any
+    UINT style;            ///< without a base its own, else what it lacks of that of its base
+    std::size_t ownWords;  ///< words of data of its own
+    BOOL(WINAPI* registerAgain)(HINSTANCE);
+};
+
+TEST(Library, ClassesAreThereForEveryModuleAndStayAsTheyAre) {
+    constexpr UINT kRedraw = CS_HREDRAW | CS_VREDRAW;
+    ControlClass const classes[] = {
+        {"Calverin_DateControl", nullptr, kRedraw, 0, DATECTRL_RegisterClass},
+        {"Calverin_TimeControl", nullptr, kRedraw, 0, TIMECTRL_RegisterClass},
+        {"KVS_MicroScrollbar", nullptr, CS_DBLCLKS | kRedraw, 1, SCROLL_RegisterClass},
+        {"Calverin_BuddyFrame", nullptr, 0, 0, BUDDYFR_RegisterClass},
+        {ANIMATE_CLASSNAME, nullptr, 0, 3, ANIMATE_RegisterClass},
+        {TREELIST_CLASSNAME, nullptr, 0, 3, TREELIST_RegisterClass},
+        {NUMFLD_CLASSNAME, "edit", 0, 1, NUMFLD_RegisterClass},
+        {"Calverin_GraphicButton", "button", 0, 1, GRBUTTON_RegisterClass},
+        {"Calverin_CheckList1", "listbox", CS_DBLCLKS, 0, nullptr},
     };
-    for (Expected const& expected :
-         {Expected{"Calverin_DateControl", CS_GLOBALCLASS | CS_HREDRAW | CS_VREDRAW, 0},
-          Expected{"Calverin_TimeControl", CS_GLOBALCLASS | CS_HREDRAW | CS_VREDRAW, 0},
-          Expected{"KVS_MicroScrollbar", CS_GLOBALCLASS | CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW,
-                   static_cast<int>(sizeof(LONG_PTR))}}) {
+    for (ControlClass const& each : classes) {
+        SCOPED_TRACE(each.name);
+        WNDCLASSA base = {};
+        ASSERT_TRUE(!each.base || GetClassInfoA(nullptr, each.base, &base));
+        UINT const style = each.base ? base.style & ~each.style : each.style;
+        EXPECT_TRUE(!each.registerAgain || !each.registerAgain(nullptr));
+        EXPECT_TRUE(!each.registerAgain || each.registerAgain(UTIL_GetModuleInstance()));
         for (HINSTANCE instance : {UTIL_GetModuleInstance(), GetModuleHandleA(nullptr)}) {
             WNDCLASSA record = {};
-            EXPECT_TRUE(GetClassInfoA(instance, expected.name, &record)) << expected.name;
-            EXPECT_EQ(expected.style, record.style) << expected.name;
-            EXPECT_EQ(expected.extra, record.cbWndExtra) << expected.name;
-            EXPECT_EQ(0, record.cbClsExtra) << expected.name;
+            EXPECT_TRUE(GetClassInfoA(instance, each.name, &record));
+            EXPECT_EQ(style | CS_GLOBALCLASS, record.style);
+            EXPECT_EQ(base.cbWndExtra + static_cast<int>(each.ownWords * sizeof(LONG_PTR)), record.cbWndExtra);
+            EXPECT_TRUE(each.base || record.cbClsExtra == 0);
+            EXPECT_NE(base.lpfnWndProc, record.lpfnWndProc);
         }
     }
-}
-
-TEST(Library, NumericFieldIsAnEditFieldWithRoomForItsData) {
-    WNDCLASSA edit = {};
-    WNDCLASSA field = {};
-    ASSERT_TRUE(GetClassInfoA(nullptr, "edit", &edit));
-    ASSERT_TRUE(GetClassInfoA(GetModuleHandleA(nullptr), NUMFLD_CLASSNAME, &field));
-    EXPECT_EQ(edit.style | CS_GLOBALCLASS, field.style | CS_GLOBALCLASS);
-    EXPECT_EQ(edit.cbWndExtra + static_cast<int>(sizeof(LONG_PTR)), field.cbWndExtra);
-    EXPECT_EQ(edit.hCursor, field.hCursor);
-    EXPECT_NE(edit.lpfnWndProc, field.lpfnWndProc);
-}
-
-TEST(Library, RegisteringAgainChangesNothing) {
-    EXPECT_FALSE(DATECTRL_RegisterClass(nullptr));
-    EXPECT_FALSE(SCROLL_RegisterClass(nullptr));
-    EXPECT_TRUE(DATECTRL_RegisterClass(UTIL_GetModuleInstance()));
-    EXPECT_TRUE(SCROLL_RegisterClass(UTIL_GetModuleInstance()));
-    EXPECT_FALSE(TIMECTRL_RegisterClass(nullptr));
-    EXPECT_TRUE(TIMECTRL_RegisterClass(UTIL_GetModuleInstance()));
-    EXPECT_FALSE(NUMFLD_RegisterClass(nullptr));
-    EXPECT_TRUE(NUMFLD_RegisterClass(UTIL_GetModuleInstance()));
     WNDCLASSA record = {};
     ASSERT_TRUE(GetClassInfoA(UTIL_GetModuleInstance(), DATECTRL_CLASSNAME, &record));
     EXPECT_EQ(&datectrl_EditDateWndProc, record.lpfnWndProc);

@@ -40,12 +40,6 @@ TEST(MessageBoxLayout, WithoutAnIconHalfItsSpaceIsUsed) {
     EXPECT_EQ(60 - 19, msgbox::LayOut(Narrow({156, 26}, 0)).message.left);
 }
 
-TEST(MessageBoxLayout, AsHighAsTheIconItStaysAtTheTop) {
-    msgbox::Layout const out = msgbox::LayOut(Narrow({156, 32}));
-    EXPECT_EQ(20, out.message.top);
-    EXPECT_EQ(60, out.message.left) << "there is an icon: no shift";
-}
-
 TEST(MessageBoxLayout, HalvesAreRoundedDown) {
     EXPECT_EQ(60 + 77, msgbox::LayOut(Narrow({1, 13})).message.left);
     // An icon control right of the message, as a translated template might have it.

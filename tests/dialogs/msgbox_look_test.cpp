@@ -1,6 +1,5 @@
 // Message boxes as they come up: texts, sizes, places and buttons.
 #include <cvutil32/msgbox.h>
-#include <cvutil32/util.h>
 
 #include "tests/support/leaks.h"
 #include "tests/support/modal.h"
@@ -13,11 +12,7 @@
 
 namespace {
 
-using testing_support::LeakCheck;
-using testing_support::PlaceIn;
-using testing_support::TestWindow;
-using testing_support::TextOf;
-using testing_support::ToPixels;
+using namespace testing_support;
 
 constexpr int kIcon = 10101;
 constexpr int kMessage = 10102;
@@ -165,33 +160,6 @@ TEST_F(MessageBoxLook, AShortMessageIsCentred) {
     EXPECT_EQ(GetSystemMetrics(SM_CYICON), Height(withIcon.icon));
     EXPECT_EQ(centred, withIcon.message.left);
     EXPECT_EQ(plain.narrowMessage.top + ((GetSystemMetrics(SM_CYICON) - plain.lineHeight) >> 1), withIcon.message.top);
-}
-
-TEST_F(MessageBoxLook, AWordTooLongWidensTheBox) {
-    Seen const usual = Show("Done.");
-    box_.flags = KVMB_SMALL;
-    Seen const seen = Show(std::string(400, 'm').c_str());
-    int const extra = Width(seen.message) - Width(seen.narrowMessage);
-    EXPECT_GT(extra, 1000);
-    EXPECT_EQ(seen.narrowMessage.left, seen.message.left + ((seen.narrowMessage.left - seen.icon.left) >> 1));
-    EXPECT_EQ(Width(usual.panel) + extra, Width(seen.panel));
-    EXPECT_EQ(Width(usual.window) + extra, Width(seen.window));
-    EXPECT_EQ(usual.buttons[0].left + extra, seen.buttons[0].left);
-    EXPECT_EQ(0, seen.window.left) << "wider than the screen";
-}
-
-TEST_F(MessageBoxLook, SixtyLinesAreAllThere) {
-    std::string text;
-    for (int i = 0; i < 60; ++i) {
-        text += i % 2 ? "line\r\n" : "line\n";
-    }
-    text += "last";
-    Seen const seen = Show(text.c_str(), IDI_HAND);
-    EXPECT_EQ(61 * seen.lineHeight, Height(seen.message));
-    EXPECT_EQ(seen.narrowMessage.bottom + 61 * seen.lineHeight, Height(seen.panel));
-    EXPECT_EQ(Height(seen.panel) + 2 * seen.firstButton.top, seen.client.bottom);
-    EXPECT_EQ(seen.narrowMessage.top, seen.message.top) << "higher than the icon";
-    EXPECT_EQ(0, seen.window.top);
 }
 
 // About what the manual says of the smallest screen, whose fonts differ a little from one system to the next.

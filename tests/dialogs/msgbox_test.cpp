@@ -1,6 +1,5 @@
 // Message boxes in use: keys, results, owners, focus, task-modal boxes, boxes from boxes.
 #include <cvutil32/msgbox.h>
-#include <cvutil32/util.h>
 
 #include "tests/support/leaks.h"
 #include "tests/support/modal.h"
@@ -16,13 +15,7 @@
 
 namespace {
 
-using testing_support::LeakCheck;
-using testing_support::Message;
-using testing_support::OnNextDialog;
-using testing_support::PressKey;
-using testing_support::PumpMessages;
-using testing_support::TestWindow;
-using testing_support::ToPixels;
+using namespace testing_support;
 
 KVMB_MESSAGEBOX BoxOf(HWND owner, WORD count = 3) {
     KVMB_MESSAGEBOX box = {};

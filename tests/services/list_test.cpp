@@ -75,15 +75,6 @@ TEST_F(ListTest, NewGivesZerosAlsoWhereADeletedItemLay) {
     EXPECT_EQ(fresh->key, 0u);
 }
 
-TEST_F(ListTest, DeleteClosesTheGap) {
-    Fill({{1, 0}, {2, 0}, {3, 0}});
-    EXPECT_FALSE(LIST_Delete(list, 3));
-    EXPECT_TRUE(LIST_Delete(list, 0));
-    EXPECT_EQ(LIST_GetCount(list), 2u);
-    EXPECT_EQ(Items()[0].id, 2);
-    EXPECT_EQ(Items()[1].id, 3);
-}
-
 TEST_F(ListTest, CursorWalksStopsAndMayStandBehindTheEnd) {
     EXPECT_EQ(LIST_GetFirstItem(list), nullptr);
     EXPECT_EQ(LIST_GetCurrentItem(list), nullptr);

@@ -1,6 +1,6 @@
 #include <cvutil32/util.h>
 
-#include "tests/support/leaks.h"
+#include "tests/support/modal.h"
 #include "tests/support/profile.h"
 #include "tests/support/temp_folder.h"
 #include "tests/support/window.h"
@@ -10,28 +10,17 @@
 #include <cstring>
 #include <string>
 
-using testing_support::IntlSetting;
-using testing_support::LeakCheck;
-using testing_support::TempFolder;
-using testing_support::TestWindow;
+using namespace testing_support;
 
 namespace {
 
-HWND AddChild(HWND parent, char const* type, int id, RECT const& place = {0, 0, 60, 20}) {
-    return CreateWindowExA(0, type, "", WS_CHILD | WS_VISIBLE, place.left, place.top, place.right - place.left,
-                           place.bottom - place.top, parent, reinterpret_cast<HMENU>(INT_PTR{id}),
-                           GetModuleHandleA(nullptr), nullptr);
-}
-
 TEST(UtilSubdirs, SignsComeAndGo) {
     TestWindow window;
-    HWND const field = AddChild(window, "static", 7);
+    HWND const field = MakeChild(window, "static", 0, {0, 0, 60, 20}, 7);
     auto const changed = [&](std::string const& text, BOOL add) {
         SetWindowTextA(field, text.c_str());
         UTIL_AddRemoveSubdirSymbol(window, 7, add);
-        char result[256] = {};
-        GetWindowTextA(field, result, sizeof result);
-        return std::string(result);
+        return TextOf(field);
     };
     struct {
         char const* plain;
@@ -143,42 +132,36 @@ TEST(UtilFiles, WhatExists) {
     TempFolder const folder;
     std::string const file = folder.MakeFile("File.txt");
     folder.MakeFolder("Sub");
-    EXPECT_TRUE(UTIL_DirExists(folder.Path().c_str()));
-    EXPECT_TRUE(UTIL_DirExists((folder.Path("sub") + "\\").c_str()));
-    EXPECT_FALSE(UTIL_DirExists(file.c_str()));
-    EXPECT_FALSE(UTIL_DirExists((file + "\\").c_str()));
-    EXPECT_TRUE(UTIL_DirExists("\\")) << "the root of the current drive";
-    EXPECT_TRUE(UTIL_DirExists("C:\\"));
-    EXPECT_TRUE(UTIL_DirExists("C:\\windows.")) << "a dot at the end does not count";
-    EXPECT_TRUE(UTIL_DirExists((folder.Path("sub") + ". .").c_str()));
-    EXPECT_TRUE(UTIL_FileExists((file + ".").c_str()));
-    EXPECT_FALSE(UTIL_DirExists(folder.Path("missing").c_str()));
-    EXPECT_TRUE(UTIL_FileExists(folder.Path("fILE.TXT").c_str()));
-    EXPECT_FALSE(UTIL_FileExists(folder.Path("Sub").c_str()));
-    EXPECT_FALSE(UTIL_FileExists(folder.Path("missing").c_str()));
-    EXPECT_TRUE(UTIL_FileExists(folder.Path("*.txt").c_str()));
-    EXPECT_FALSE(UTIL_FileExists(folder.Path("S*").c_str()));
-    EXPECT_FALSE(UTIL_FileExists(folder.Path("*.none").c_str()));
-    for (char const* nothing : {"", static_cast<char const*>(nullptr)}) {
-        EXPECT_FALSE(UTIL_DirExists(nothing));
-        EXPECT_FALSE(UTIL_FileExists(nothing));
+    struct {
+        std::string path;
+        bool isFolder, isFile;
+    } const cases[] = {
+        {folder.Path(), true, false},
+        {folder.Path("sub") + "\\", true, false},
+        {folder.Path("sub") + ". .", true, false},  // dots at the end do not count
+        {"\\", true, false},                        // the root of the current drive
+        {"C:\\", true, false},
+        {file, false, true},
+        {folder.Path("fILE.TXT"), false, true},
+        {file + "\\", false, false},
+        {folder.Path("missing"), false, false},
+        {folder.Path("*.txt"), false, true},
+        {folder.Path(std::string(300, 'x')), false, false},
+        {"", false, false},
+    };
+    for (auto const& each : cases) {
+        EXPECT_EQ(each.isFolder, UTIL_DirExists(each.path.c_str()) != FALSE) << each.path;
+        EXPECT_EQ(each.isFile, UTIL_FileExists(each.path.c_str()) != FALSE) << each.path;
     }
-    char windows[MAX_PATH] = {};
-    GetWindowsDirectoryA(windows, sizeof windows);
-    EXPECT_TRUE(UTIL_DirExists(windows));
-    EXPECT_TRUE(UTIL_DirExists((windows + std::string("\\")).c_str()));
-    windows[3] = '\0';
-    EXPECT_TRUE(UTIL_DirExists(windows)) << "the root of a drive";
-    EXPECT_FALSE(UTIL_FileExists(windows));
-    std::string const tooLong = folder.Path(std::string(300, 'x'));
-    EXPECT_FALSE(UTIL_DirExists(tooLong.c_str()));
-    EXPECT_FALSE(UTIL_FileExists(tooLong.c_str()));
+    EXPECT_FALSE(UTIL_FileExists(folder.Path("S*").c_str())) << "the first that fits is a folder";
+    EXPECT_FALSE(UTIL_DirExists(nullptr));
+    EXPECT_FALSE(UTIL_FileExists(nullptr));
 }
 
 TEST(UtilHelp, NoHelpForAControlThatTheTableLacks) {
     DWORD const table[] = {7, 1001, 0, 0};
     TestWindow window(nullptr, {50, 50, 250, 200});
-    HWND const control = AddChild(window, "button", 8, {0, 0, 200, 150});
+    HWND const control = MakeChild(window, "button", 0, {0, 0, 200, 150}, 8);
     testing_support::PumpMessages();
     SetCursorPos(100, 100);
     POINT cursor = {};

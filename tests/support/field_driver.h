@@ -1,13 +1,28 @@
 /// @file field_driver.h
-/// A date or time field under test: keys, steps, and where its text and its caret are.
+/// A date or time field under test: keys, steps, where its text and its caret are, and what it looks like.
 #pragma once
 
+#include "tests/support/window.h"
+
 #include <windows.h>
+
+#include <gtest/gtest.h>
 
 namespace testing_support {
 
 class FieldDriver {
   public:
+    static constexpr int kWidth = 120;
+    static constexpr int kHeight = 26;
+
+    /// Makes a field, in place of the one before.
+    void Create(char const* className) {
+        if (field_) {
+            DestroyWindow(field_);
+        }
+        field_ = MakeChild(host_, className, 0, {10, 10, 10 + kWidth, 10 + kHeight});
+        ASSERT_NE(nullptr, field_);
+    }
     void Key(WPARAM key) const {
         SendMessageA(field_, WM_KEYDOWN, key, 1);
     }
@@ -49,8 +64,27 @@ class FieldDriver {
         return -1;
     }
 
+    /// What a field with this text must look like.
+    Picture Expected(char const* text) const {
+        HDC const dc = GetDC(field_);
+        HDC const memory = CreateCompatibleDC(dc);
+        HBITMAP const bitmap = CreateCompatibleBitmap(dc, kWidth, kHeight);
+        HGDIOBJ const former = SelectObject(memory, bitmap);
+        RECT area = {0, 0, kWidth, kHeight};
+        FillRect(memory, &area, GetSysColorBrush(COLOR_WINDOW));
+        area.left = area.top = 1;
+        DrawTextA(memory, text, -1, &area, DT_LEFT | DT_TOP);
+        Picture const picture = PictureOf(memory, kWidth, kHeight);
+        SelectObject(memory, former);
+        DeleteObject(bitmap);
+        DeleteDC(memory);
+        ReleaseDC(field_, dc);
+        return picture;
+    }
+
   protected:
     HWND field_ = nullptr;
+    TestWindow host_;
 };
 
 }  // namespace testing_support

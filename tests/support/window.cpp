@@ -66,6 +66,12 @@ LRESULT CALLBACK TestWindow::Procedure(HWND window, UINT message, WPARAM wParam,
     return DefWindowProcA(window, message, wParam, lParam);
 }
 
+HWND MakeChild(HWND parent, char const* className, DWORD style, RECT const& place, int id, char const* text) {
+    return CreateWindowExA(0, className, text, WS_CHILD | WS_VISIBLE | style, place.left, place.top,
+                           place.right - place.left, place.bottom - place.top, parent,
+                           reinterpret_cast<HMENU>(INT_PTR{id}), GetModuleHandleA(nullptr), nullptr);
+}
+
 TestWindow::TestWindow(HWND parent, RECT const& place, DWORD style) {
     HINSTANCE const instance = GetModuleHandleA(nullptr);
     WNDCLASSA record = {};

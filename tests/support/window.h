@@ -36,6 +36,10 @@ Picture PictureOf(HWND window);
 /// The first @p width by @p height pixels of a device context.
 Picture PictureOf(HDC dc, int width, int height);
 
+/// A visible child window of a class.
+HWND MakeChild(HWND parent, char const* className, DWORD style = 0, RECT const& place = {10, 10, 90, 30}, int id = 1,
+               char const* text = "");
+
 class TestWindow {
   public:
     using Answer = std::function<std::optional<LRESULT>(Message const&)>;

@@ -3,11 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstring>
 #include <set>
 #include <string>
-#include <utility>
 
 #include "tests/support/native/failing_memory.h"
 
@@ -16,9 +14,7 @@
 namespace {
 
 using std::string;
-using testing_support::FailingAllocation;
-using testing_support::NoMemory;
-using testing_support::WithEachFailure;
+using namespace testing_support;
 
 TEST(CStringMemory, FailedGrowthEmptiesOnAssignmentAndKeepsOnAppend) {
     CSTRING text("0123456789");

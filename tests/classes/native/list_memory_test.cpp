@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <optional>
 
 #include "tests/support/native/failing_memory.h"
 
@@ -14,8 +13,7 @@
 
 namespace {
 
-using testing_support::FailingAllocation;
-using testing_support::WithEachFailure;
+using namespace testing_support;
 
 int At(const CLIST& list, unsigned int index) {
     const auto* item = static_cast<int*>(list.GetItem(index));

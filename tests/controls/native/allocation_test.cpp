@@ -16,21 +16,18 @@
 
 namespace {
 
-using testing_support::LeakCheck;
-using testing_support::TestWindow;
+using namespace testing_support;
 
 TEST(Allocation, ControlsWithoutMemoryAreNotCreated) {
     TestWindow const host;
     for (char const* name : {DATECTRL_CLASSNAME, SCROLL_CLASSNAME, TIMECTRL_CLASSNAME}) {
         LeakCheck const leaks;
         CvPlatformFailAllocation(1);
-        HWND const control = CreateWindowExA(0, name, "", WS_CHILD | WS_VISIBLE, 0, 0, 50, 20, host, nullptr,
-                                             GetModuleHandleA(nullptr), nullptr);
+        HWND const control = MakeChild(host, name);
         CvPlatformFailAllocation(0);
         EXPECT_EQ(nullptr, control) << name;
     }
-    HWND const control = CreateWindowExA(0, DATECTRL_CLASSNAME, "", WS_CHILD, 0, 0, 50, 20, host, nullptr,
-                                         GetModuleHandleA(nullptr), nullptr);
+    HWND const control = MakeChild(host, DATECTRL_CLASSNAME);
     EXPECT_NE(nullptr, control) << "and are once there is memory again";
 }
 
@@ -38,8 +35,7 @@ TEST(Allocation, BrowseButtonWithoutMemoryIsAGraphicButtonOnly) {
     TestWindow const host;
     LeakCheck const leaks;
     CvPlatformFailAllocation(1);
-    HWND const button = CreateWindowExA(0, BROWSE_CLASSNAME, "", WS_CHILD | WS_VISIBLE | BROWSE_AUTOBUDDY, 0, 0, 20, 20,
-                                        host, nullptr, nullptr, nullptr);
+    HWND const button = MakeChild(host, BROWSE_CLASSNAME, BROWSE_AUTOBUDDY);
     CvPlatformFailAllocation(0);
     ASSERT_NE(nullptr, button);
     EXPECT_EQ(nullptr, GetPropA(button, "Browse_IsValid"));
@@ -48,7 +44,7 @@ TEST(Allocation, BrowseButtonWithoutMemoryIsAGraphicButtonOnly) {
     EXPECT_FALSE(BROWSE_GetFileSpecs(button, &specs));
     EXPECT_EQ(0U, BROWSE_SetDialogOptions(button, BROWSE_FILEMODE));
     EXPECT_EQ(nullptr, BROWSE_SetBuddyWindow(button, host));
-    SendMessageA(host, WM_COMMAND, MAKEWPARAM(0, BN_CLICKED), reinterpret_cast<LPARAM>(button));
+    SendMessageA(host, WM_COMMAND, MAKEWPARAM(1, BN_CLICKED), reinterpret_cast<LPARAM>(button));
     DestroyWindow(button);
 }
 
@@ -56,8 +52,7 @@ TEST(Allocation, GraphicButtonWithoutMemoryStaysAPlainButton) {
     TestWindow const host;
     LeakCheck const leaks;
     CvPlatformFailAllocation(1);
-    HWND const button = CreateWindowExA(0, GRBUTTON_CLASSNAME, "plain", WS_CHILD | WS_VISIBLE | BS_DEFPUSHBUTTON, 0, 0,
-                                        50, 20, host, nullptr, GetModuleHandleA(nullptr), nullptr);
+    HWND const button = MakeChild(host, GRBUTTON_CLASSNAME, BS_DEFPUSHBUTTON);
     CvPlatformFailAllocation(0);
     ASSERT_NE(nullptr, button);
     EXPECT_EQ(BS_DEFPUSHBUTTON, GetWindowLongA(button, GWL_STYLE) & 0xFFFF);
@@ -75,8 +70,7 @@ TEST(Allocation, NumericFieldWithoutMemoryTakesDigitsButHasNoLimits) {
     LeakCheck const leaks;
     LONG_PTR const procedure = GetWindowLongPtrA(host, GWLP_WNDPROC);
     CvPlatformFailAllocation(1);
-    HWND const field = CreateWindowExA(0, NUMFLD_CLASSNAME, "", WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL, 0, 0, 50, 20,
-                                       host, nullptr, GetModuleHandleA(nullptr), nullptr);
+    HWND const field = MakeChild(host, NUMFLD_CLASSNAME, ES_AUTOHSCROLL);
     CvPlatformFailAllocation(0);
     ASSERT_NE(nullptr, field);
     EXPECT_EQ(procedure, GetWindowLongPtrA(host, GWLP_WNDPROC)) << "the parent is left alone";

@@ -4,7 +4,7 @@
 
 #include "tests/controls/folder_tree.h"
 #include "tests/controls/native/hands.h"
-#include "tests/support/leaks.h"
+#include "tests/support/modal.h"
 #include "tests/support/window.h"
 
 #include <commdlg.h>
@@ -12,7 +12,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
@@ -22,35 +21,19 @@ namespace {
 
 namespace fs = std::filesystem;
 using namespace hands;
-using testing_support::TestWindow;
+using namespace testing_support;
 
-class BrowseInput : public testing::Test {
+class BrowseInput : public Walk {
   protected:
     void SetUp() override {
-        char const* home = std::getenv("CVUTIL32_HOME");
-        if (!home) {
+        if (!Make({"one/two/three", "other"}, {"a.txt", "b.txt", "c.txt", "d.doc"})) {
             GTEST_SKIP() << "needs a state folder of its own";
         }
-        root_ = fs::path(home) / "drive_c" / "walk";
-        fs::remove_all(root_);
-        fs::create_directories(root_ / "one" / "two" / "three");
-        fs::create_directories(root_ / "other");
-        for (char const* name : {"a.txt", "b.txt", "c.txt", "d.doc"}) {
-            std::ofstream(root_ / name) << name;
-        }
-        edit_ = CreateWindowExA(0, "edit", "", WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL, 10, 10, 200, 20, host_, nullptr,
-                                nullptr, nullptr);
+        edit_ = MakeChild(host_, "edit", ES_AUTOHSCROLL, {10, 10, 210, 30});
     }
-    void TearDown() override {
-        if (!root_.empty()) {
-            fs::remove_all(root_);
-        }
-    }
-
     /// Presses the button and lets the hands do the rest. @return what stands in the field.
     std::string Browse(DWORD options, std::vector<Hands::Step> steps) {
-        HWND const button = CreateWindowExA(0, BROWSE_CLASSNAME, "", WS_CHILD | WS_VISIBLE | BROWSE_AUTOBUDDY | options,
-                                            220, 10, 20, 20, host_, nullptr, nullptr, nullptr);
+        HWND const button = MakeChild(host_, BROWSE_CLASSNAME, BROWSE_AUTOBUDDY | options, {220, 10, 240, 30});
         SetForegroundWindow(host_);
         UpdateWindow(host_);
         {
@@ -60,13 +43,9 @@ class BrowseInput : public testing::Test {
             testing_support::PumpMessages();
         }
         DestroyWindow(button);
-        char text[1024];
-        GetWindowTextA(edit_, text, sizeof text);
-        return text;
+        return TextOf(edit_);
     }
 
-    fs::path root_;
-    TestWindow host_;
     HWND edit_ = nullptr;
 };
 
@@ -164,25 +143,15 @@ TEST_F(BrowseInput, AFileIsTypedAndMustExist) {
     EXPECT_EQ("C:\\walk\\B.TXT", chosen);
 }
 
-TEST_F(BrowseInput, TheFileListIsWalkedByKeyboard) {
-    SetWindowTextA(edit_, "C:\\walk\\one");
-    std::string const chosen =
-        Browse(BROWSE_FILEMODE,
-               {[](HWND dialog) { SetFocus(GetDlgItem(dialog, lst1)); }, [](HWND) { Press({VK_BACK}); },
-                [](HWND) {
-                    Press({'O', 'T', VK_RETURN});
-                },
-                [](HWND) { Press({VK_BACK}); }, [](HWND) { Press({'B'}); }, [](HWND) { Press({VK_RETURN}); }});
-    EXPECT_EQ("C:\\walk\\b.txt", chosen);
-}
-
-std::string SelectedFile(HWND dialog) {
+/// The files that the dialog shows, or of them those that are selected.
+std::string FilesOf(HWND dialog, bool selectedOnly) {
     HWND const list = GetDlgItem(dialog, lst1);
     std::string names;
     for (LRESULT i = 0; i < SendMessageA(list, LB_GETCOUNT, 0, 0); ++i) {
         char text[MAX_PATH] = "";
         SendMessageA(list, LB_GETTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(text));
-        names += SendMessageA(list, LB_GETSEL, static_cast<WPARAM>(i), 0) > 0 ? std::string(text) + '|' : "";
+        bool const counts = !selectedOnly || SendMessageA(list, LB_GETSEL, static_cast<WPARAM>(i), 0) > 0;
+        names += counts ? std::string(text) + '|' : "";
     }
     return names;
 }
@@ -193,7 +162,7 @@ TEST_F(BrowseInput, TheFileListFindsWhatIsTyped) {
     for (DWORD const options : {DWORD{BROWSE_FILEMODE}, DWORD{BROWSE_FILEMODE | BROWSE_MULTISELECT}}) {
         SetWindowTextA(edit_, "C:\\walk");
         std::vector<std::string> found;
-        auto const note = [&](HWND dialog) { found.push_back(SelectedFile(dialog)); };
+        auto const note = [&](HWND dialog) { found.push_back(FilesOf(dialog, true)); };
         std::string const chosen = Browse(options, {[](HWND dialog) {
                                                         SetFocus(GetDlgItem(dialog, lst1));
                                                         Press({'O'});
@@ -290,33 +259,23 @@ TEST_F(BrowseInput, FiltersPatternsAndCancel) {
     record.nMaxFile = sizeof buffer;
     record.lpstrInitialDir = "C:\\walk";
     record.Flags = OFN_EXPLORER | OFN_FILEMUSTEXIST;
-    auto const list = [](HWND dialog) {
-        std::string names;
-        HWND const items = GetDlgItem(dialog, lst1);
-        for (LRESULT i = 0; i < SendMessageA(items, LB_GETCOUNT, 0, 0); ++i) {
-            char text[MAX_PATH];
-            SendMessageA(items, LB_GETTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(text));
-            names += std::string(text) + ' ';
-        }
-        return names;
-    };
     BOOL accepted = TRUE;
     {
         Hands const hands({[&](HWND dialog) {
-                               texts = list(dialog);
+                               texts = FilesOf(dialog, false);
                                SetDlgItemTextA(dialog, edt1, "a*.*");
                                Press({VK_RETURN});
                            },
                            [&](HWND dialog) {
-                               all = list(dialog);
+                               all = FilesOf(dialog, false);
                                Press({VK_ESCAPE});
                            }});
         accepted = GetOpenFileNameA(&record);
     }
     EXPECT_FALSE(accepted);
     EXPECT_EQ(0U, CommDlgExtendedError());
-    EXPECT_EQ("one other d.doc ", texts);
-    EXPECT_EQ("one other a.txt ", all);
+    EXPECT_EQ("one|other|d.doc|", texts);
+    EXPECT_EQ("one|other|a.txt|", all);
     // A buffer too small for the choice tells how much it would take.
     record.nMaxFile = 4;
     {
@@ -333,13 +292,6 @@ TEST_F(BrowseInput, FiltersPatternsAndCancel) {
     record.lStructSize = 3;
     EXPECT_FALSE(GetOpenFileNameA(&record));
     EXPECT_EQ(DWORD{CDERR_STRUCTSIZE}, CommDlgExtendedError());
-}
-
-TEST_F(BrowseInput, NothingIsLeftOver) {
-    Browse(BROWSE_FILEMODE, {[](HWND) { Press({VK_ESCAPE}); }});
-    testing_support::LeakCheck const leaks;
-    Browse(BROWSE_FILEMODE, {[](HWND) { Press({VK_ESCAPE}); }});
-    Browse(0, {[](HWND) { Press({VK_ESCAPE}); }});
 }
 
 }  // namespace

@@ -2,11 +2,17 @@
 /// A person at a modal dialog: real input, a step at a time.
 #pragma once
 
+#include "tests/support/window.h"
+
 #include <windows.h>
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <functional>
+#include <initializer_list>
 #include <string>
 #include <utility>
 #include <vector>
@@ -96,6 +102,35 @@ class Hands {
     static inline std::vector<Step> g_steps;
     static inline std::size_t g_next = 0;
     UINT_PTR timer_;
+};
+
+/// A test on a folder of drive C, which goes with it. Needs a state folder of its own.
+class Walk : public testing::Test {
+  protected:
+    void TearDown() override {
+        if (!root_.empty()) {
+            std::filesystem::remove_all(root_);
+        }
+    }
+    /// @returns false without a state folder.
+    bool Make(std::initializer_list<char const*> folders, std::initializer_list<char const*> files) {
+        char const* const home = std::getenv("CVUTIL32_HOME");
+        if (!home) {
+            return false;
+        }
+        root_ = std::filesystem::path(home) / "drive_c" / "walk";
+        std::filesystem::remove_all(root_);
+        for (char const* name : folders) {
+            std::filesystem::create_directories(root_ / name);
+        }
+        for (char const* name : files) {
+            std::ofstream(root_ / name) << name;
+        }
+        return true;
+    }
+
+    std::filesystem::path root_;
+    testing_support::TestWindow host_;
 };
 
 }  // namespace hands

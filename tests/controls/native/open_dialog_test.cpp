@@ -1,6 +1,5 @@
 // What the open-file dialog tells the user: why a name is refused, where a folder lies, what cannot be read.
 #include "tests/controls/native/hands.h"
-#include "tests/support/window.h"
 
 #include <commdlg.h>
 #include <dlgs.h>
@@ -11,7 +10,6 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
@@ -40,20 +38,11 @@ class WithoutPrivilege {
     __user_cap_data_struct former_[2] = {};
 };
 
-class OpenDialog : public testing::Test {
+class OpenDialog : public Walk {
   protected:
     void SetUp() override {
-        char const* home = std::getenv("CVUTIL32_HOME");
-        if (!home) {
+        if (!Make({"one/same", "two/same", "locked/inside"}, {"a.txt", "b.txt", "one/c.txt"})) {
             GTEST_SKIP() << "needs a state folder of its own";
-        }
-        root_ = fs::path(home) / "drive_c" / "walk";
-        fs::remove_all(root_);
-        fs::create_directories(root_ / "one" / "same");
-        fs::create_directories(root_ / "two" / "same");
-        fs::create_directories(root_ / "locked" / "inside");
-        for (char const* name : {"a.txt", "b.txt", "one/c.txt"}) {
-            std::ofstream(root_ / name) << name;
         }
         record_.lStructSize = sizeof record_;
         record_.hwndOwner = host_;
@@ -63,10 +52,9 @@ class OpenDialog : public testing::Test {
         record_.Flags = OFN_EXPLORER | OFN_FILEMUSTEXIST;
     }
     void TearDown() override {
-        if (!root_.empty()) {
-            fs::permissions(root_ / "locked", fs::perms::owner_all);
-            fs::remove_all(root_);
-        }
+        std::error_code ignored;
+        fs::permissions(root_ / "locked", fs::perms::owner_all, ignored);
+        Walk::TearDown();
     }
 
     std::string Open(std::vector<Hands::Step> steps) {
@@ -99,8 +87,6 @@ class OpenDialog : public testing::Test {
         fs::permissions(root_ / "locked", fs::perms::none);
     }
 
-    fs::path root_;
-    testing_support::TestWindow host_;
     char buffer_[2048] = "";
     OPENFILENAMEA record_ = {};
     std::vector<std::string> said_;

@@ -15,11 +15,10 @@ namespace {
 namespace fs = std::filesystem;
 
 using namespace folder_tree;
-using testing_support::TestWindow;
+using namespace testing_support;
 
 HWND CreateTreeList(HWND parent) {
-    return CreateWindowExA(0, TREELIST_CLASSNAME, "", WS_CHILD | WS_VISIBLE, 0, 0, 280, 180, parent, nullptr,
-                           GetModuleHandleA(nullptr), nullptr);
+    return MakeChild(parent, TREELIST_CLASSNAME, 0, {0, 0, 280, 180});
 }
 
 /// A folder of drive C, where there is little else to read.

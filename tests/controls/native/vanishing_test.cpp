@@ -18,11 +18,7 @@
 
 namespace {
 
-using testing_support::Countdown;
-using testing_support::LeakCheck;
-using testing_support::PumpMessages;
-using testing_support::Sweep;
-using testing_support::TestWindow;
+using namespace testing_support;
 
 /// A dialog, a page in it, on the page a control and perhaps a window that it works for.
 struct Stage {
@@ -32,8 +28,7 @@ struct Stage {
     HWND control = nullptr;
 
     HWND Make(char const* name, DWORD style, int id = 7) const {
-        return CreateWindowExA(0, name, "", WS_CHILD | WS_VISIBLE | WS_TABSTOP | style, 10, 10, 120, 60, page,
-                               reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleA(nullptr), nullptr);
+        return MakeChild(page, name, WS_TABSTOP | style, {10, 10, 130, 70}, id);
     }
     void MakeControl(char const* name, DWORD style) {
         control = Make(name, style);

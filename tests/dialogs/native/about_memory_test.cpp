@@ -1,6 +1,7 @@
 // The About box when memory runs out.
 #include <cvutil32/about.h>
 
+#include "tests/dialogs/registration.h"
 #include "tests/support/modal.h"
 #include "tests/support/native/failing_memory.h"
 
@@ -19,33 +20,11 @@ void CALLBACK EndBox(HWND, UINT, UINT_PTR, DWORD) {
     }
 }
 
-/// A registered user, as the box reads the key's values one after the other.
-class Registered {
-  public:
-    Registered() {
-        RegCreateKeyExA(HKEY_LOCAL_MACHINE, "SOFTWARE\\Microsoft\\Windows\\CurrentVersion", 0, nullptr, 0, KEY_WRITE,
-                        nullptr, &key_, nullptr);
-        for (char const* const name : kNames) {
-            RegSetValueExA(key_, name, 0, REG_SZ, reinterpret_cast<BYTE const*>("Ellinor Fairweather"), 20);
-        }
-    }
-    ~Registered() {
-        for (char const* const name : kNames) {
-            RegDeleteValueA(key_, name);
-        }
-        RegCloseKey(key_);
-    }
-    Registered(Registered const&) = delete;
-    Registered& operator=(Registered const&) = delete;
-
-  private:
-    static constexpr char const* kNames[] = {"RegisteredOwner", "RegisteredOrganization"};
-    HKEY key_ = nullptr;
-};
-
 TEST(AboutMemory, LeavesNothingOpenWhateverFails) {
     testing_support::OpenFirstDialog();
-    Registered const registered;
+    // A registered user, as the box reads the values one after the other.
+    Registration const user("RegisteredOwner", "Ellinor Fairweather");
+    Registration const organization("RegisteredOrganization", "Calverin");
     unsigned shown = 0;
     unsigned refused = 0;
     for (bool failed = true; failed;) {

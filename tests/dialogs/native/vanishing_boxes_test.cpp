@@ -13,12 +13,7 @@
 
 namespace {
 
-using testing_support::Countdown;
-using testing_support::LeakCheck;
-using testing_support::Message;
-using testing_support::PumpMessages;
-using testing_support::Sweep;
-using testing_support::TestWindow;
+using namespace testing_support;
 
 BOOL CALLBACK TakeDialog(HWND window, LPARAM found) {
     char name[16] = "";

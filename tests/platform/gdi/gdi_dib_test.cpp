@@ -63,67 +63,11 @@ TEST(GdiDib, LinesCountFromTheBottomWhicheverIsStoredFirst) {
             rows.resize(each.rows.size());
             EXPECT_EQ(each.rows, rows);
         }
+        EXPECT_NE(0, GetDIBits(dc, bitmap, 0, 4, nullptr, DibHeader(1, 4, 32).Info(), DIB_RGB_COLORS))
+            << "without bits";
         DeleteDC(dc);
         DeleteObject(bitmap);
     }
-}
-
-TEST(GdiDib, RefusesWhatIsNoBitmap) {
-    void* memory = &memory;
-    DibHeader header(0, 3, 32);
-    EXPECT_EQ(nullptr, CreateDIBSection(nullptr, header.Info(), DIB_RGB_COLORS, &memory, nullptr, 0));
-    header = DibHeader(3, 3, 7);
-    EXPECT_EQ(nullptr, CreateDIBSection(nullptr, header.Info(), DIB_RGB_COLORS, &memory, nullptr, 0));
-    BITMAP bitmap{};
-    const HBITMAP least = CreateBitmap(0, 0, 1, 1, nullptr);
-    ASSERT_NE(0, GetObjectA(least, sizeof(bitmap), &bitmap));
-    EXPECT_EQ(1, bitmap.bmWidth);
-}
-
-TEST(GdiDib, BitsComeBackInTheOrderAskedFor) {
-    Canvas canvas(3, 2);
-    canvas.Put(0, 0, 0xFF0000);
-    canvas.Put(2, 1, 0x0000FF);
-    const HBITMAP bitmap = CreateCompatibleBitmap(canvas, 3, 2);
-    const HDC dc = CreateCompatibleDC(canvas);
-    const HGDIOBJ previous = SelectObject(dc, bitmap);
-    BitBlt(dc, 0, 0, 3, 2, canvas, 0, 0, SRCCOPY);
-    SelectObject(dc, previous);
-
-    DibHeader down(3, -2, 32);
-    DWORD top[6] = {};
-    EXPECT_EQ(2, GetDIBits(dc, bitmap, 0, 2, top, down.Info(), DIB_RGB_COLORS));
-    EXPECT_EQ(0xFF0000u, top[0] & 0xFFFFFF);
-    EXPECT_EQ(0x0000FFu, top[5] & 0xFFFFFF);
-
-    // One line by number: line 0 is the bottom one.
-    DibHeader up(3, 2, 32);
-    DWORD line[3] = {};
-    EXPECT_EQ(1, GetDIBits(dc, bitmap, 1, 1, line, up.Info(), DIB_RGB_COLORS));
-    EXPECT_EQ(0xFF0000u, line[0] & 0xFFFFFF);
-
-    // Without bits it tells how many lines there are.
-    EXPECT_NE(0, GetDIBits(dc, bitmap, 0, 2, nullptr, up.Info(), DIB_RGB_COLORS));
-    DeleteDC(dc);
-    DeleteObject(bitmap);
-}
-
-TEST(GdiDib, DeviceBitmapsHaveRowsOfWords) {
-    const BYTE bits[8] = {0x80, 0, 0x40, 0, 0x20, 0, 0x10, 0};
-    const HBITMAP bitmap = CreateBitmap(5, 4, 1, 1, bits);
-    BITMAP shape{};
-    GetObjectA(bitmap, sizeof(shape), &shape);
-    EXPECT_EQ(2, shape.bmWidthBytes);
-    EXPECT_EQ(nullptr, shape.bmBits);
-    const HDC dc = CreateCompatibleDC(nullptr);
-    const HGDIOBJ previous = SelectObject(dc, bitmap);
-    for (int i = 0; i < 4; ++i) {
-        EXPECT_EQ(RGB(255, 255, 255), GetPixel(dc, i, i)) << i;
-        EXPECT_EQ(RGB(0, 0, 0), GetPixel(dc, i + 1, i)) << i;
-    }
-    SelectObject(dc, previous);
-    DeleteDC(dc);
-    DeleteObject(bitmap);
 }
 
 }  // namespace

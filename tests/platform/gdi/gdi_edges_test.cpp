@@ -81,18 +81,4 @@ TEST(GdiEdges, FrameControlsShowTheirState) {
     EXPECT_LT(0, canvas.Count(middle, System(COLOR_BTNTEXT)));
 }
 
-TEST(GdiEdges, SystemColoursCanBeSetAndRestored) {
-    const COLORREF before = GetSysColor(COLOR_HIGHLIGHT);
-    const INT element = COLOR_HIGHLIGHT;
-    const COLORREF red = RGB(255, 0, 0);
-    ASSERT_TRUE(SetSysColors(1, &element, &red));
-    EXPECT_EQ(red, GetSysColor(COLOR_HIGHLIGHT));
-    Canvas canvas;
-    const RECT rect{0, 0, 2, 2};
-    FillRect(canvas, &rect, GetSysColorBrush(COLOR_HIGHLIGHT));
-    EXPECT_EQ(0xFF0000u, canvas.At(1, 1));
-    SetSysColors(1, &element, &before);
-    EXPECT_EQ(before, GetSysColor(COLOR_HIGHLIGHT));
-}
-
 }  // namespace

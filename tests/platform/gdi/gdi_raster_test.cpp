@@ -1,7 +1,5 @@
 #include "tests/platform/support/gdi_canvas.h"
 
-#include <vector>
-
 namespace {
 
 /// What a ternary operation makes of three bits, by the definition of its code.
@@ -26,6 +24,11 @@ TEST(GdiRaster, EveryTernaryOperation) {
         ASSERT_TRUE(BitBlt(to, 0, 0, 3, 3, from, 0, 0, operation << 16)) << operation;
         EXPECT_EQ(Expected(operation, 0x0F35F0, 0x5569AA, 0x33A5C3), to.At(2, 2)) << operation;
         EXPECT_EQ(0x33A5C3u, to.At(3, 3)) << operation;
+    }
+    for (const DWORD code : {SRCCOPY, SRCPAINT, SRCINVERT, MERGECOPY, PATCOPY, PATINVERT, DSTINVERT, WHITENESS}) {
+        to.Clear(0x33A5C3);
+        ASSERT_TRUE(StretchBlt(to, 1, 1, 3, 2, from, 0, 0, 2, 4, code));
+        EXPECT_EQ(6, to.Count(to.All(), Expected(code >> 16 & 0xFF, 0x0F35F0, 0x5569AA, 0x33A5C3))) << code;
     }
     SelectObject(to, previous);
     DeleteObject(brush);

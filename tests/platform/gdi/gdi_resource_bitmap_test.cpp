@@ -1,7 +1,5 @@
-// Bitmaps from resources, and the raster operations that have names.
+// Bitmaps from resources.
 #include "tests/platform/support/gdi_canvas.h"
-
-#include <functional>
 
 namespace {
 
@@ -50,47 +48,6 @@ TEST(GdiResourceBitmaps, LoadImageStretches) {
     SelectObject(memory, previous);
     DeleteDC(memory);
     DeleteObject(image);
-}
-
-/// Operations with their published codes, and what each means for a bit.
-struct Named {
-    DWORD code;
-    std::function<std::uint32_t(std::uint32_t p, std::uint32_t s, std::uint32_t d)> meaning;
-};
-
-TEST(GdiResourceBitmaps, NamedOperationsDoWhatTheySayStretchedOrNot) {
-    using Word = std::uint32_t;
-    const Named named[] = {
-        {SRCCOPY, [](Word, Word s, Word) { return s; }},
-        {SRCPAINT, [](Word, Word s, Word d) { return s | d; }},
-        {SRCAND, [](Word, Word s, Word d) { return s & d; }},
-        {SRCINVERT, [](Word, Word s, Word d) { return s ^ d; }},
-        {MERGECOPY, [](Word p, Word s, Word) { return p & s; }},
-        {PATCOPY, [](Word p, Word, Word) { return p; }},
-        {PATINVERT, [](Word p, Word, Word d) { return p ^ d; }},
-        {DSTINVERT, [](Word, Word, Word d) { return ~d; }},
-        {BLACKNESS, [](Word, Word, Word) { return Word{0}; }},
-        {WHITENESS, [](Word, Word, Word) { return Word{0xFFFFFF}; }},
-    };
-    constexpr Word p = 0x0F35F0;
-    constexpr Word s = 0x5569AA;
-    constexpr Word d = 0x33A5C3;
-    Canvas to(8, 8);
-    Canvas from(4, 4);
-    const HBRUSH brush = CreateSolidBrush(RGB(0x0F, 0x35, 0xF0));
-    const HGDIOBJ previous = SelectObject(to, brush);
-    for (const Named& operation : named) {
-        const Word expected = operation.meaning(p, s, d) & 0xFFFFFF;
-        from.Clear(s);
-        to.Clear(d);
-        ASSERT_TRUE(BitBlt(to, 1, 1, 3, 3, from, 0, 0, operation.code));
-        EXPECT_EQ(9, to.Count(to.All(), expected)) << std::hex << operation.code;
-        to.Clear(d);
-        ASSERT_TRUE(StretchBlt(to, 1, 1, 6, 5, from, 0, 0, 3, 4, operation.code));
-        EXPECT_EQ(30, to.Count(to.All(), expected)) << std::hex << operation.code;
-    }
-    SelectObject(to, previous);
-    DeleteObject(brush);
 }
 
 }  // namespace

@@ -34,23 +34,15 @@ TEST(GdiShapes, RectanglesExcludeRightAndBottom) {
     EXPECT_EQ(0x808080u, canvas.At(11, 9));
     EXPECT_EQ(8 * 4, canvas.Count(canvas.All(), Canvas::kWhite));
     EXPECT_EQ(60 - 32, canvas.Count(canvas.All(), Canvas::kBlack));
-}
-
-TEST(GdiShapes, WithoutAPenRectanglesAreSmaller) {
-    Canvas canvas;
-    canvas.Clear(0x808080);
-    SelectObject(canvas, GetStockObject(NULL_PEN));
-    Rectangle(canvas, 0, 0, 10, 10);
-    EXPECT_EQ(81, canvas.Count(canvas.All(), Canvas::kWhite));
-}
-
-TEST(GdiShapes, AHollowBrushLeavesTheInside) {
-    Canvas canvas;
     canvas.Clear(0x808080);
     SelectObject(canvas, GetStockObject(NULL_BRUSH));
     Rectangle(canvas, 0, 0, 10, 10);
     EXPECT_EQ(36, canvas.Count(canvas.All(), Canvas::kBlack));
-    EXPECT_EQ(0, canvas.Count(canvas.All(), Canvas::kWhite));
+    EXPECT_EQ(0, canvas.Count(canvas.All(), Canvas::kWhite)) << "a hollow brush leaves the inside";
+    SelectObject(canvas, GetStockObject(WHITE_BRUSH));
+    SelectObject(canvas, GetStockObject(NULL_PEN));
+    Rectangle(canvas, 0, 0, 10, 10);
+    EXPECT_EQ(81, canvas.Count(canvas.All(), Canvas::kWhite)) << "without a pen it is smaller";
 }
 
 TEST(GdiShapes, EllipsesFillTheirBox) {

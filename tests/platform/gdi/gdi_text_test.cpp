@@ -29,6 +29,10 @@ class GdiText : public ::testing::Test {
 };
 
 TEST_F(GdiText, MetricsAgree) {
+    LOGFONTA described{};
+    EXPECT_NE(0, GetObjectA(font, sizeof described, &described));
+    EXPECT_EQ(-11, described.lfHeight);
+    EXPECT_STREQ("MS Sans Serif", described.lfFaceName);
     EXPECT_EQ(metrics.tmHeight, metrics.tmAscent + metrics.tmDescent);
     EXPECT_LT(0, metrics.tmAveCharWidth);
     EXPECT_LE(metrics.tmAveCharWidth, metrics.tmMaxCharWidth);

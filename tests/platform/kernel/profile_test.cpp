@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include <cstring>
 #include <string>
 
 namespace {
@@ -48,16 +47,6 @@ TEST_F(ProfileTest, NumbersEndWhereTheyEnd) {
         EXPECT_EQ(static_cast<int>(GetProfileIntA(kSection, "Number", 99)), c.value) << c.text;
     }
     EXPECT_EQ(static_cast<int>(GetProfileIntA(kSection, "Missing", -9)), -9);
-}
-
-TEST_F(ProfileTest, CutsAtTheBuffer) {
-    WriteProfileStringA(kSection, "Key", "abcdef");
-    char buffer[4] = "###";
-    EXPECT_EQ(GetProfileStringA(kSection, "Key", "", buffer, 4), 3u);
-    EXPECT_STREQ(buffer, "abc");
-    char one[2] = "#";
-    EXPECT_EQ(GetProfileStringA(kSection, "Key", "", one, 2), 1u);
-    EXPECT_STREQ(one, "a");
 }
 
 }  // namespace

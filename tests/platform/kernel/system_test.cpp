@@ -12,22 +12,10 @@ TEST(Time, LocalAndSystemTimeAreWholeAndNearEachOther) {
     for (const SYSTEMTIME& time : {local, system}) {
         EXPECT_GE(time.wYear, 2024);
         EXPECT_TRUE(time.wMonth >= 1 && time.wMonth <= 12) << time.wMonth;
-        EXPECT_TRUE(time.wDay >= 1 && time.wDay <= 31) << time.wDay;
-        EXPECT_LE(time.wDayOfWeek, 6);
-        EXPECT_LE(time.wHour, 23);
-        EXPECT_LE(time.wMinute, 59);
-        EXPECT_LE(time.wSecond, 59);
-        EXPECT_LE(time.wMilliseconds, 999);
     }
     // Time zones are less than a day apart.
     const int days = (local.wDayOfWeek - system.wDayOfWeek + 7) % 7;
     EXPECT_TRUE(days <= 1 || days == 6) << days;
-}
-
-TEST(Time, SleepPassesOnTheClock) {
-    const DWORD tick = GetTickCount();
-    Sleep(50);
-    EXPECT_GE(GetTickCount() - tick, 30u);
 }
 
 struct Work {
@@ -82,31 +70,6 @@ TEST(Events, ResetThemselvesOrStaySet) {
     SetLastError(0);
     EXPECT_EQ(WaitForSingleObject(stays, 0), WAIT_FAILED);
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_HANDLE));
-}
-
-TEST(System, FactsAreInTheirRanges) {
-    SYSTEM_INFO info{};
-    GetSystemInfo(&info);
-    EXPECT_GE(info.dwNumberOfProcessors, 1u);
-    EXPECT_GE(info.dwPageSize, 4096u);
-    MEMORYSTATUS status{};
-    status.dwLength = sizeof status;
-    GlobalMemoryStatus(&status);
-    EXPECT_GT(status.dwTotalPhys, SIZE_T{1} << 20);
-    EXPECT_LE(status.dwAvailPhys, status.dwTotalPhys);
-    EXPECT_LE(status.dwMemoryLoad, 100u);
-}
-
-TEST(System, FoldersTellTheirLength) {
-    char folder[MAX_PATH];
-    const UINT needed = GetWindowsDirectoryA(nullptr, 0);
-    ASSERT_GT(needed, 3u);
-    EXPECT_EQ(GetWindowsDirectoryA(folder, sizeof folder), needed - 1);
-    EXPECT_EQ(folder[1], ':');
-    EXPECT_EQ(GetWindowsDirectoryA(folder, needed - 1), needed);
-    const DWORD length = GetTempPathA(sizeof folder, folder);
-    ASSERT_GT(length, 0u);
-    EXPECT_EQ(folder[length - 1], '\\');
 }
 
 TEST(VirtualMemory, ProtectionIsObeyed) {

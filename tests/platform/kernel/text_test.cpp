@@ -80,30 +80,14 @@ TEST(WordOrder, LettersThenAccentsThenCaseThenHyphens) {
         int orderNoCase;  // of lstrcmpiA
     } const pairs[] = {
         {"", "", 0, 0},
-        {"", "a", -1, -1},
-        {"a", "a", 0, 0},
         {"a", "A", -1, 0},
-        {"a", "B", -1, -1},
         {"B", "a", 1, 1},
-        {"ab", "a", 1, 1},
-        {"1", "a", -1, -1},
         {"9", "10", 1, 1},
-        {"co-op", "coop", 1, 1},
-        {"co-op", "corp", -1, -1},
-        {"can't", "cant", 1, 1},
         {"can't", "canu", -1, -1},
-        {"re-use", "reuse", 1, 1},
-        {"e", "\xE9", -1, -1},
         {"\xE9z", "f", -1, -1},
         {"\xE9", "\xC9", -1, 0},
-        {"az", "\xE1z", -1, -1},
-        {"_a", "a", -1, -1},
-        {" a", "a", -1, -1},
-        {"a b", "ab", -1, -1},
         {"Ab", "aC", -1, -1},
         {"aB", "Ab", -1, 0},
-        {"#", "1", -1, -1},
-        {"\xE4", "z", -1, -1},
         {"resum\xE9", "resume", 1, 1},
     };
     const auto sign = [](int value) { return (value > 0) - (value < 0); };
@@ -160,12 +144,8 @@ TEST(CompareString, FlagsLengthsAndErrors) {
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_FLAGS));
     EXPECT_EQ(CompareStringA(locale, 0, nullptr, 1, "b", 1), 0);
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_PARAMETER));
-}
-
-TEST(CompareString, NullsNulsAndSizes) {
-    EXPECT_EQ(CompareStringA(LOCALE_SYSTEM_DEFAULT, 0, "a", -5, "a", -1), CSTR_EQUAL) << "any negative size";
-    EXPECT_EQ(CompareStringA(LOCALE_SYSTEM_DEFAULT, 0, "a", 0, "b", 0), CSTR_EQUAL);
-    EXPECT_EQ(CompareStringA(LOCALE_SYSTEM_DEFAULT, 0, "a", 0, "b", 1), CSTR_LESS_THAN);
+    EXPECT_EQ(CompareStringA(locale, 0, "a", -5, "a", -1), CSTR_EQUAL) << "any negative size";
+    EXPECT_EQ(CompareStringA(locale, 0, "a", 0, "b", 1), CSTR_LESS_THAN);
     EXPECT_EQ(lstrcmpA(nullptr, nullptr), 0);
     EXPECT_LT(lstrcmpA(nullptr, ""), 0);
     EXPECT_GT(lstrcmpiA("", nullptr), 0);
@@ -190,14 +170,15 @@ TEST(CodePages, SizesAndArguments) {
     fails(MultiByteToWideChar(1252, 0, "abc", 3, nullptr, 3), ERROR_INVALID_PARAMETER);
     fails(MultiByteToWideChar(1252, 0x100, "abc", 3, wide, 3), ERROR_INVALID_FLAGS);
     fails(MultiByteToWideChar(1252, 0, "abc", 3, wide, 2), ERROR_INSUFFICIENT_BUFFER);
+    fails(MultiByteToWideChar(12345, 0, "a", 1, wide, 2), ERROR_INVALID_PARAMETER);
+    fails(MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, "a\xC0\x80", 3, wide, 4), ERROR_NO_UNICODE_TRANSLATION);
     fails(WideCharToMultiByte(1252, 0, wide, 0, narrow, 4, nullptr, nullptr), ERROR_INVALID_PARAMETER);
     fails(WideCharToMultiByte(1252, 0, wide, 3, narrow, 2, nullptr, nullptr), ERROR_INSUFFICIENT_BUFFER);
     const WCHAR kana = 0x3042;
     fails(WideCharToMultiByte(932, 0, &kana, 1, narrow, 1, nullptr, nullptr), ERROR_INSUFFICIENT_BUFFER);
-    const WCHAR others[] = {0x0100, 0x2260};
-    EXPECT_EQ(WideCharToMultiByte(1252, 0, others, 2, narrow, 4, nullptr, nullptr), 2);
-    EXPECT_EQ(narrow[0], 'A') << "a letter without its accent";
-    EXPECT_EQ(narrow[1], '?') << "not a symbol without its stroke";
+    const WCHAR others[] = {0x0100, 0xFF21, 0x2260};
+    EXPECT_EQ(WideCharToMultiByte(1252, 0, others, 3, narrow, 4, nullptr, nullptr), 3);
+    EXPECT_EQ(std::string(narrow, 3), "AA?") << "a letter without its accent, but not a symbol without its stroke";
 }
 
 TEST(CodePages, WesternAndDoubleByte) {
@@ -212,11 +193,6 @@ TEST(CodePages, WesternAndDoubleByte) {
     EXPECT_EQ(wide[0], 0x3042);
     EXPECT_EQ(MultiByteToWideChar(CP_UTF8, 0, "\xE2\x82\xAC", 3, wide, 8), 1);
     EXPECT_EQ(wide[0], 0x20AC);
-    SetLastError(0);
-    EXPECT_EQ(MultiByteToWideChar(1252, 0, "abc", 3, wide, 2), 0);
-    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INSUFFICIENT_BUFFER));
-    EXPECT_EQ(MultiByteToWideChar(12345, 0, "a", 1, wide, 2), 0);
-    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_PARAMETER));
 }
 
 }  // namespace

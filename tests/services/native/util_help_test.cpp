@@ -10,11 +10,7 @@
 #include <optional>
 #include <string>
 
-using testing_support::LeakCheck;
-using testing_support::Picture;
-using testing_support::PumpMessages;
-using testing_support::TempFolder;
-using testing_support::TestWindow;
+using namespace testing_support;
 
 namespace {
 
@@ -37,8 +33,7 @@ class UtilHelpPopup : public ::testing::Test {
     }
 
     HWND Add(HWND parent, char const* type, int id) const {
-        return CreateWindowExA(0, type, "", WS_CHILD | WS_VISIBLE, 0, 0, 200, 150, parent,
-                               reinterpret_cast<HMENU>(INT_PTR{id}), GetModuleHandleA(nullptr), nullptr);
+        return MakeChild(parent, type, 0, {0, 0, 200, 150}, id);
     }
     static std::string Repeated(std::string const& text, int times) {
         std::string all;
@@ -182,16 +177,7 @@ TEST_F(UtilHelpPopup, TheHelpKeyAsksForHelpForTheControl) {
     EXPECT_EQ("The name.\nIn two lines.", Shown());
 }
 
-// A stand-in, in case the real class is not there yet; only its name counts.
 TEST_F(UtilHelpPopup, AGraphicButtonInAControlStandsForTheControl) {
-    WNDCLASSA record = {};
-    bool const own = !GetClassInfoA(GetModuleHandleA(nullptr), kGraphicButton, &record);
-    if (own) {
-        record.lpfnWndProc = DefWindowProcA;
-        record.hInstance = GetModuleHandleA(nullptr);
-        record.lpszClassName = kGraphicButton;
-        ASSERT_NE(0, RegisterClassA(&record));
-    }
     HWND const around = Add(window_, "static", 8);
     HWND const button = Add(around, kGraphicButton, 99);
     HWND const alone = Add(window_, kGraphicButton, 98);
@@ -206,9 +192,6 @@ TEST_F(UtilHelpPopup, AGraphicButtonInAControlStandsForTheControl) {
     EXPECT_EQ("A folder.", Shown());
     WinHelpA(nullptr, nullptr, HELP_QUIT, 0);
     DestroyWindow(around);
-    if (own) {
-        UnregisterClassA(kGraphicButton, GetModuleHandleA(nullptr));
-    }
 }
 
 }  // namespace

@@ -1,55 +1,30 @@
 // Items of a tree view that go while the application has wishes of its own.
-#include <windows.h>
-
-#include <commctrl.h>
-
-#include <gtest/gtest.h>
-
-#include <vector>
+#include "tests/platform/comctl/tree_view.h"
 
 namespace {
 
-HWND tree;
-std::vector<LPARAM> deleted;
-int refused;
-
-HTREEITEM Add(HTREEITEM parent, LPARAM param) {
-    TVINSERTSTRUCTA insert{};
-    insert.hParent = parent;
-    insert.hInsertAfter = TVI_LAST;
-    insert.item.mask = TVIF_PARAM;
-    insert.item.lParam = param;
-    return reinterpret_cast<HTREEITEM>(SendMessageA(tree, TVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&insert)));
-}
-
-LRESULT CALLBACK ParentProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_NOTIFY && reinterpret_cast<const NMHDR*>(lParam)->code == TVN_DELETEITEMA) {
-        const auto& notification = *reinterpret_cast<const NMTREEVIEWA*>(lParam);
-        deleted.push_back(notification.itemOld.lParam);
-        refused += Add(notification.itemOld.hItem, 99) == nullptr;
+TEST_F(TreeViewTest, WhatIsBelowGoesFirstAndNothingNewComesBelow) {
+    int refused = 0;
+    answer_ = [&](NMHDR* header) -> LRESULT {
+        if (header->code == TVN_DELETEITEMA) {
+            refused += Add("new", reinterpret_cast<NMTREEVIEWA*>(header)->itemOld.hItem) == nullptr;
+        }
         return 0;
+    };
+    const HTREEITEM first = Add("1", TVI_ROOT, TVI_LAST, 1);
+    const HTREEITEM below = Add("2", first, TVI_LAST, 2);
+    Add("3", below, TVI_LAST, 3);
+    Add("4", below, TVI_LAST, 4);
+    Add("5", first, TVI_LAST, 5);
+    Add("6", TVI_ROOT, TVI_LAST, 6);
+    Send(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(TVI_ROOT));
+    std::vector<LPARAM> gone;
+    for (const Told& one : ToldOf(TVN_DELETEITEMA)) {
+        gone.push_back(one.param);
     }
-    return DefWindowProcA(window, message, wParam, lParam);
-}
-
-TEST(TreeDeletion, WhatIsBelowGoesFirstAndNothingNewComesBelow) {
-    InitCommonControls();
-    const HWND parent =
-        CreateWindowExA(0, "static", "", WS_POPUP | WS_VISIBLE, 20, 20, 200, 200, nullptr, nullptr, nullptr, nullptr);
-    SetWindowLongPtrA(parent, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(ParentProcedure));
-    tree =
-        CreateWindowExA(0, WC_TREEVIEWA, "", WS_CHILD | WS_VISIBLE, 0, 0, 200, 200, parent, nullptr, nullptr, nullptr);
-    const HTREEITEM first = Add(TVI_ROOT, 1);
-    const HTREEITEM below = Add(first, 2);
-    Add(below, 3);
-    Add(below, 4);
-    Add(first, 5);
-    Add(TVI_ROOT, 6);
-    SendMessageA(tree, TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(TVI_ROOT));
-    EXPECT_EQ((std::vector<LPARAM>{3, 4, 2, 5, 1, 6}), deleted);
+    EXPECT_EQ((std::vector<LPARAM>{3, 4, 2, 5, 1, 6}), gone);
     EXPECT_EQ(6, refused);
-    EXPECT_EQ(0, SendMessageA(tree, TVM_GETCOUNT, 0, 0));
-    DestroyWindow(parent);
+    EXPECT_EQ(0, Send(TVM_GETCOUNT));
 }
 
 }  // namespace

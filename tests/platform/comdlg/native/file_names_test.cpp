@@ -41,22 +41,4 @@ TEST(FileNames, PathsAreCompleted) {
     EXPECT_EQ("D:\\x\\y", FullPath("C:\\dir", "d:/x//./y"));
 }
 
-TEST(FileNames, ChoicesAreWrittenWhole) {
-    char buffer[40];
-    OPENFILENAMEA record{};
-    record.lpstrFile = buffer;
-    record.nMaxFile = sizeof buffer;
-    EXPECT_EQ(0U, WriteChoice(record, {"C:\\dir", {"a.txt"}}));
-    EXPECT_STREQ("C:\\dir\\a.txt", buffer);
-
-    record.Flags = OFN_ALLOWMULTISELECT;
-    EXPECT_EQ(0U, WriteChoice(record, {"C:\\dir", {"a.txt", "b.txt"}}));
-    EXPECT_EQ(std::string("C:\\dir\0a.txt\0b.txt\0\0", 20), std::string(buffer, 20));
-    // One byte less than is needed changes nothing.
-    record.nMaxFile = 19;
-    buffer[0] = '?';
-    EXPECT_EQ(20U, WriteChoice(record, {"C:\\dir", {"a.txt", "b.txt"}}));
-    EXPECT_EQ('?', buffer[0]);
-}
-
 }  // namespace

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -85,23 +86,18 @@ TEST(DisplayScaling, ColoursAreMixedAndNotMadeUp) {
 TEST(DisplayScaling, WholeFactorOfADenseDesktop) {
     const Box small{0, 0, 800, 600};
     const Box large{0, 0, 3840, 2160};
-    EXPECT_EQ(1, ScaleOf(0, large));
-    EXPECT_EQ(1, ScaleOf(96, large));
-    EXPECT_EQ(1, ScaleOf(144, large));
-    EXPECT_EQ(2, ScaleOf(168, large));
-    EXPECT_EQ(2, ScaleOf(192, large));
-    EXPECT_EQ(3, ScaleOf(288, large));
-    EXPECT_EQ(3, ScaleOf(960, large));
+    for (const auto& [density, scale] : {std::pair{0, 1}, {144, 1}, {168, 2}, {288, 3}, {960, 3}}) {
+        EXPECT_EQ(scale, ScaleOf(density, large));
+    }
     EXPECT_EQ(1, ScaleOf(192, small));
     EXPECT_EQ(1, ScaleOf(192, Box{0, 0, 1599, 1200}));
     EXPECT_EQ(2, ScaleOf(192, Box{0, 0, 1600, 1200}));
 }
 
 TEST(DisplayScaling, PlacesOutsideTheDesktop) {
-    EXPECT_EQ(-1, RoundDown(-1, 2));
-    EXPECT_EQ(-1, RoundDown(-2, 2));
-    EXPECT_EQ(-2, RoundDown(-3, 2));
-    EXPECT_EQ(1, RoundDown(3, 2));
+    for (const auto& [at, rounded] : {std::pair{-1, -1}, {-2, -1}, {-3, -2}, {3, 1}}) {
+        EXPECT_EQ(rounded, RoundDown(at, 2)) << at;
+    }
 }
 
 TEST(DisplayScaling, WhatLiesUnderABoxIsCutOut) {

@@ -11,7 +11,14 @@ namespace {
 TEST(OddBitmaps, AreRefused) {
     void* memory = nullptr;
     DibHeader header(3, 3, 8);
-    header.header.biSize = 0xFFFFFFFF;
+    for (const DWORD size : {0xFFFFFFFFu, 3u}) {
+        header.header.biSize = size;
+        EXPECT_EQ(nullptr, CreateDIBSection(nullptr, header.Info(), DIB_RGB_COLORS, &memory, nullptr, 0));
+    }
+    header = DibHeader(3, 3, 7);
+    EXPECT_EQ(nullptr, CreateDIBSection(nullptr, header.Info(), DIB_RGB_COLORS, &memory, nullptr, 0));
+    header = DibHeader(1, 1, 32);
+    header.header.biPlanes = 4;
     EXPECT_EQ(nullptr, CreateDIBSection(nullptr, header.Info(), DIB_RGB_COLORS, &memory, nullptr, 0));
     for (const LONG odd : {LONG{INT32_MIN}, LONG{INT32_MAX}, LONG{-1}, LONG{0}}) {
         for (const int bits : {1, 24, 32}) {
@@ -44,9 +51,13 @@ TEST(OddBitmaps, AreRefused) {
     DeleteObject(one);
     DeleteDC(dc);
     EXPECT_EQ(nullptr, CreateBitmap(0x7FFFFFFF, 0x7FFFFFFF, 1, 32, nullptr));
+    EXPECT_EQ(nullptr, CreateBitmap(40000, 40000, 1, 32, nullptr));
     EXPECT_EQ(nullptr, CreateBitmap(3, 3, 1, 0xFFFFFFFF, nullptr));
     EXPECT_EQ(nullptr, CreateBitmap(3, 3, 1, 24, nullptr));
     EXPECT_EQ(nullptr, CreateBitmap(-1, 3, 1, 32, nullptr));
+    BITMAP least{};
+    ASSERT_NE(0, GetObjectA(CreateBitmap(0, 0, 1, 1, nullptr), sizeof least, &least));
+    EXPECT_EQ(1, least.bmWidth) << "no size is the least one";
 }
 
 }  // namespace

@@ -82,16 +82,6 @@ TEST(HostFiles, PathsFromTheCurrentFolderOfADrive) {
     std::filesystem::current_path(before);
 }
 
-TEST(HostFiles, ProfileFilesHaveOneNameHoweverItIsWritten) {
-    ASSERT_TRUE(WritePrivateProfileStringA("a", "b", "c", "cvtest.ini."));
-    for (const char* name : {"CVTEST.ini", "C:\\WINDOWS\\cvtest.ini", "c:/windows/./CvTest.ini. "}) {
-        char value[8] = {};
-        GetPrivateProfileStringA("a", "b", "", value, sizeof value, name);
-        EXPECT_STREQ(value, "c") << name;
-    }
-    std::filesystem::remove(std::filesystem::path(std::getenv("CVUTIL32_HOME")) / "cvtest.ini");
-}
-
 TEST(HostFiles, Attributes) {
     const TempFolder folder;
     const std::string hidden = folder.MakeFile(".hidden");

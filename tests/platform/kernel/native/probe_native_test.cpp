@@ -1,9 +1,6 @@
-#include <cvplatform.h>
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include <csetjmp>
-#include <csignal>
 #include <cstring>
 #include <sys/mman.h>
 #include <ucontext.h>
@@ -126,18 +123,6 @@ TEST(MemoryProbeDeathTest, OtherFaultsStillEndTheProcess) {
             *null = 1;
         },
         "");
-}
-
-TEST(GlobalMemory, FailsWhenToldTo) {
-    CvPlatformFailAllocation(2);
-    HGLOBAL first = GlobalAlloc(GMEM_MOVEABLE, 8);
-    EXPECT_NE(first, nullptr);
-    EXPECT_EQ(GlobalReAlloc(first, 16, 0), nullptr);
-    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_NOT_ENOUGH_MEMORY));
-    EXPECT_NE(GlobalReAlloc(first, 16, 0), nullptr);
-    const SIZE_T before = CvPlatformCount(CV_PLATFORM_GLOBAL_BLOCKS);
-    GlobalFree(first);
-    EXPECT_EQ(CvPlatformCount(CV_PLATFORM_GLOBAL_BLOCKS), before - 1);
 }
 
 TEST(GlobalMemory, StaleAndForeignHandlesFailCleanly) {

@@ -7,7 +7,6 @@
 #include <unistd.h>
 
 #include <cstdlib>
-#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -86,7 +85,7 @@ TEST_F(Settings, PrivateFilesByNameAndByPath) {
     const auto read = [](const char* file) { return GetPrivateProfileIntA("a", "key", 0, file); };
     ASSERT_TRUE(WritePrivateProfileStringA("a", "key", "7", "App.ini"));
     EXPECT_TRUE(fs::exists(folder_ / "App.ini"));
-    for (const char* file : {"App.ini", "APP.INI", "C:\\WINDOWS\\app.ini", "c:\\windows\\App.ini"}) {
+    for (const char* file : {"App.ini", "APP.ini.", "C:\\WINDOWS\\app.ini", "c:/windows/./App.ini. "}) {
         EXPECT_EQ(read(file), 7u) << file;
     }
     ASSERT_TRUE(WritePrivateProfileStringA("a", "key", "8", "app.INI"));
@@ -162,15 +161,10 @@ TEST_F(SettingsDeathTest, ADoubleByteCodePageFromWinIni) {
             char text[] =
                 "\x82\x81\x82\xA0\xB1"
                 "b";
-            good = good && CharNextA(text) == text + 2 && CharNextA(text + 4) == text + 5;
-            good = good && CharPrevA(text, text + 4) == text + 2 && CharPrevA(text, text + 5) == text + 4;
             CharUpperBuffA(text, 6);
             good = good && std::string(text) ==
                                "\x82\x60\x82\xA0\xB1"
                                "B";
-            const LCID locale = LOCALE_SYSTEM_DEFAULT;
-            good = good && CompareStringA(locale, NORM_IGNOREWIDTH | NORM_IGNORECASE, "\x82\x60", 2, "a", 1) == 2;
-            good = good && CompareStringA(locale, 0, "\x82\x60", 2, "A", 1) == 3;
             good = good && lstrcmpA("\x88\x9F", "\x88\xA0") < 0 && lstrcmpA("z", "\x88\x9F") < 0;
             good = good && lstrcmpA("\x82\xA9", "\x82\xAA") < 0 && lstrcmpA("\x82\xAA", "\x82\xAB") < 0;
             exit(good ? 0 : 1);

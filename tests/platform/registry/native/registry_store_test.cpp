@@ -47,6 +47,13 @@ DWORD Read(HKEY key, const std::string& name) {
     return error == ERROR_SUCCESS ? value : kMissing;
 }
 
+/// @returns whether a process ends and says that all is well.
+bool EndsWell(pid_t process) {
+    int status = -1;
+    waitpid(process, &status, 0);
+    return status == 0;
+}
+
 class RegistryStore : public testing_support::StateFolder {
   protected:
     RegistryStore() : StateFolder("registry.db") {}
@@ -64,9 +71,7 @@ class RegistryStore : public testing_support::StateFolder {
         if (child == 0) {
             std::exit(piece() ? 0 : 1);
         }
-        int status = -1;
-        waitpid(child, &status, 0);
-        return status == 0;
+        return EndsWell(child);
     }
 };
 
@@ -105,9 +110,7 @@ TEST_F(RegistryStore, TwoWritersLoseNothing) {
         }
     }
     for (const pid_t writer : writers) {
-        int status = -1;
-        waitpid(writer, &status, 0);
-        EXPECT_EQ(status, 0);
+        EXPECT_TRUE(EndsWell(writer));
     }
     const HKEY key = Open();
     for (DWORD i = kWrites - kNames; i < kWrites; ++i) {
@@ -213,9 +216,7 @@ TEST_F(RegistryStore, ProgramsThatStartAtOnceAllWrite) {
         close(gate[0]);
         close(gate[1]);
         for (const pid_t starter : starters) {
-            int status = -1;
-            waitpid(starter, &status, 0);
-            EXPECT_EQ(status, 0) << "round " << round;
+            EXPECT_TRUE(EndsWell(starter)) << "round " << round;
         }
         const HKEY key = Open();
         for (int i = 0; i < 6; ++i) {
@@ -256,9 +257,7 @@ TEST_F(RegistryStore, AStoreIsMadeThoughSomebodyElseIsAboutTo) {
     EXPECT_NE(key, nullptr);
     EXPECT_EQ(Write(key, "Number", 5), ERROR_SUCCESS);
     RegCloseKey(key);
-    int status = -1;
-    waitpid(other, &status, 0);
-    EXPECT_EQ(status, 0);
+    EXPECT_TRUE(EndsWell(other));
     for (const int end : {told[0], told[1], asked[0], asked[1]}) {
         close(end);
     }
@@ -336,9 +335,7 @@ bool AsNobody(Piece piece) {
         }
         _exit(piece() ? 0 : 1);
     }
-    int status = -1;
-    waitpid(child, &status, 0);
-    return status == 0;
+    return EndsWell(child);
 }
 
 TEST_F(RegistryStore, AFolderThatCannotBeWrittenCanBeRead) {
