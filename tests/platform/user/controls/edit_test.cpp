@@ -121,7 +121,7 @@ TEST_F(EditTest, WithoutScrollingTheTextEndsAtTheEdge) {
     const int length = GetWindowTextLengthA(edit);
     EXPECT_GT(length, 0);
     EXPECT_LT(length, 40);
-    EXPECT_EQ(40 - length, std::count(Notified().begin(), Notified().end(), UINT{EN_MAXTEXT})) << "once for each";
+    EXPECT_EQ(40 - length, std::count(notified.begin(), notified.end(), UINT{EN_MAXTEXT})) << "once for each";
     const HWND scrolling = Make(ES_AUTOHSCROLL, "", 60);
     for (int i = 0; i < 40; ++i)
         Type(scrolling, "W");
@@ -259,12 +259,12 @@ TEST_F(EditTest, ParentMayEndTheControlInAnyNotification) {
     for (const UINT code : {EN_SETFOCUS, EN_UPDATE, EN_CHANGE, EN_MAXTEXT, EN_KILLFOCUS}) {
         const HWND edit = Make(ES_AUTOHSCROLL, "text");
         Send(edit, EM_LIMITTEXT, 5);
-        DestroyOn() = code;
+        destroyOn = code;
         SetFocus(edit);
         Type(edit, "x");
         Type(edit, "y");
         SetFocus(parent_);
-        DestroyOn() = 0;
+        destroyOn = kNever;
         EXPECT_FALSE(IsWindow(edit)) << std::hex << code;
     }
 }

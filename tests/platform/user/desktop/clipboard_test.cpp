@@ -37,9 +37,7 @@ class Clipboard : public EditControl {
 };
 
 TEST_F(Clipboard, IsOpenToOneWindow) {
-    SetLastError(0);
-    EXPECT_FALSE(CloseClipboard());
-    EXPECT_EQ(DWORD{ERROR_CLIPBOARD_NOT_OPEN}, GetLastError());
+    EXPECT_EQ(DWORD{ERROR_CLIPBOARD_NOT_OPEN}, tests::ErrorOf([&] { return CloseClipboard(); }));
     EXPECT_FALSE(EmptyClipboard());
     const HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, 1);
     EXPECT_EQ(nullptr, SetClipboardData(CF_TEXT, block));

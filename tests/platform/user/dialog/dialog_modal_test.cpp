@@ -86,6 +86,9 @@ class DialogModalTest : public ::testing::Test {
         DestroyWindow(owner);
         tests::PumpMessages();
     }
+    static HWND MakeChild(const char* className) {
+        return CreateWindowExA(0, className, "", WS_CHILD | WS_VISIBLE, 0, 0, 10, 10, owner, nullptr, nullptr, nullptr);
+    }
 };
 
 TEST_F(DialogModalTest, TheOwnerIsDisabledMeanwhileAndActiveAfterwards) {
@@ -100,22 +103,13 @@ TEST_F(DialogModalTest, TheOwnerIsDisabledMeanwhileAndActiveAfterwards) {
         EXPECT_FALSE(IsWindowVisible(dialog));
         EXPECT_TRUE(IsWindowEnabled(owner));
     };
-    EXPECT_EQ(4711, RunSimple(owner));
-    EXPECT_FALSE(IsWindow(seen));
-    EXPECT_TRUE(IsWindowEnabled(owner));
-    EXPECT_EQ(owner, GetActiveWindow());
-}
-
-TEST_F(DialogModalTest, AChildNamedAsOwnerStandsForItsTopLevelWindow) {
-    const HWND child =
-        CreateWindowExA(0, "static", "", WS_CHILD | WS_VISIBLE, 0, 0, 10, 10, owner, nullptr, nullptr, nullptr);
-    running = [](HWND dialog) {
-        EXPECT_FALSE(IsWindowEnabled(owner));
-        EXPECT_EQ(owner, GetWindow(dialog, GW_OWNER));
-        EndDialog(dialog, 1);
-    };
-    EXPECT_EQ(1, RunSimple(child));
-    EXPECT_TRUE(IsWindowEnabled(owner));
+    // A child that is named as owner stands for its top-level window.
+    for (const HWND named : {owner, MakeChild("static")}) {
+        EXPECT_EQ(4711, RunSimple(named));
+        EXPECT_FALSE(IsWindow(seen));
+        EXPECT_TRUE(IsWindowEnabled(owner));
+        EXPECT_EQ(owner, GetActiveWindow());
+    }
 }
 
 TEST_F(DialogModalTest, Nested) {
@@ -166,8 +160,7 @@ TEST_F(DialogModalTest, AMessageThatWaitsMayEndItBeforeItIsSeen) {
 }
 
 TEST_F(DialogModalTest, NobodyHoldsTheMouseInItsLoop) {
-    const HWND child =
-        CreateWindowExA(0, "button", "", WS_CHILD | WS_VISIBLE, 0, 0, 10, 10, owner, nullptr, nullptr, nullptr);
+    const HWND child = MakeChild("button");
     SendMessageA(child, WM_LBUTTONDOWN, MK_LBUTTON, 0);
     ASSERT_EQ(child, GetCapture());
     running = [&](HWND dialog) {
@@ -190,8 +183,7 @@ TEST_F(DialogModalTest, NobodyHoldsTheMouseInItsLoop) {
 TEST_F(DialogModalTest, AnOwnerInsideAnotherWindowIsDisabledAlone) {
     const HWND outer = tests::MakeOwner(OwnerProcedure);
     SetParent(owner, outer);
-    const HWND child =
-        CreateWindowExA(0, "static", "", WS_CHILD | WS_VISIBLE, 0, 0, 10, 10, owner, nullptr, nullptr, nullptr);
+    const HWND child = MakeChild("static");
     onIdle = [](HWND dialog) { EndDialog(dialog, 8); };
     running = [&](HWND dialog) {
         EXPECT_EQ(owner, GetWindow(dialog, GW_OWNER));

@@ -15,13 +15,12 @@ namespace {
 using tests::DialogKey;
 using tests::Recorder;
 
-class PlainWindowKeys : public ::testing::Test {
+class PlainWindowKeys : public tests::RecordedTest {
   protected:
     static constexpr int kField = 1, kOne = 3, kTwo = 4, kRadio1 = 11, kRadio2 = 12, kInPage = 13, kLast = 14;
 
     void SetUp() override {
-        Recorder::Get().Reset();
-        window_ = Recorder::Get().Make(WS_POPUP | WS_VISIBLE, 50, 50, 300, 200);
+        MakeWindow(WS_POPUP | WS_VISIBLE, 50, 50, 300, 200);
         Child("edit", kField, WS_TABSTOP | WS_GROUP);
         Child("button", kOne, WS_TABSTOP);
         Child("button", kTwo, WS_TABSTOP | WS_DISABLED);
@@ -31,35 +30,22 @@ class PlainWindowKeys : public ::testing::Test {
         CreateWindowExA(0, "edit", "", WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_GROUP, 0, 0, 20, 20, page_,
                         reinterpret_cast<HMENU>(static_cast<LONG_PTR>(kInPage)), nullptr, nullptr);
         Child("button", kLast, WS_TABSTOP);
-        SetForegroundWindow(window_);
         SetFocus(Item(kField));
         Recorder::Get().Clear();
     }
-    void TearDown() override {
-        DestroyWindow(window_);
-        Recorder::Get().Reset();
-    }
     HWND Child(const char* className, int id, DWORD style, DWORD exStyle = 0) {
-        return CreateWindowExA(exStyle, className, "", WS_CHILD | WS_VISIBLE | style, 0, 0, 20, 20, window_,
+        return CreateWindowExA(exStyle, className, "", WS_CHILD | WS_VISIBLE | style, 0, 0, 20, 20, window,
                                reinterpret_cast<HMENU>(static_cast<LONG_PTR>(id)), nullptr, nullptr);
     }
     HWND Item(int id) {
-        return GetDlgItem(window_, id);
+        return GetDlgItem(window, id);
     }
     int Press(WPARAM key) {
-        EXPECT_TRUE(DialogKey(window_, GetFocus(), key));
+        EXPECT_TRUE(DialogKey(window, GetFocus(), key));
         return GetDlgCtrlID(GetFocus());
     }
-    HWND window_ = nullptr;
     HWND page_ = nullptr;
 };
-
-TEST_F(PlainWindowKeys, ArrowsMoveInTheGroup) {
-    SetFocus(Item(kRadio1));
-    EXPECT_EQ(kRadio2, Press(VK_DOWN));
-    EXPECT_EQ(BST_CHECKED, SendMessageA(Item(kRadio2), BM_GETCHECK, 0, 0));
-    EXPECT_EQ(kRadio1, Press(VK_LEFT));
-}
 
 TEST_F(PlainWindowKeys, EscapeIsACommand) {
     Press(VK_ESCAPE);
@@ -72,29 +58,22 @@ TEST_F(PlainWindowKeys, EscapeIsACommand) {
 
 TEST_F(PlainWindowKeys, GroupsGoOnThroughPages) {
     const auto next = [&](HWND from, BOOL previous) {
-        return GetDlgCtrlID(GetNextDlgGroupItem(window_, from, previous));
+        return GetDlgCtrlID(GetNextDlgGroupItem(window, from, previous));
     };
     const HWND inPage = GetDlgItem(page_, kInPage);
     EXPECT_EQ(kLast, next(inPage, FALSE)) << "behind the page";
-    EXPECT_EQ(inPage, GetNextDlgGroupItem(window_, Item(kLast), FALSE)) << "and back into it";
+    EXPECT_EQ(inPage, GetNextDlgGroupItem(window, Item(kLast), FALSE)) << "and back into it";
     EXPECT_EQ(kLast, next(inPage, TRUE));
     // Without its own group what is on the page belongs to the group before it; the page's style says nothing.
     SetWindowLongA(inPage, GWL_STYLE, GetWindowLongA(inPage, GWL_STYLE) & ~WS_GROUP);
     SetWindowLongA(page_, GWL_STYLE, GetWindowLongA(page_, GWL_STYLE) | WS_GROUP);
-    EXPECT_EQ(inPage, GetNextDlgGroupItem(window_, Item(kRadio2), FALSE));
+    EXPECT_EQ(inPage, GetNextDlgGroupItem(window, Item(kRadio2), FALSE));
     EXPECT_EQ(kRadio1, next(Item(kLast), FALSE));
     EXPECT_EQ(kLast, next(Item(kRadio1), TRUE));
     // A page that cannot be reached is passed over.
     EnableWindow(page_, FALSE);
     SetWindowLongA(page_, GWL_STYLE, GetWindowLongA(page_, GWL_STYLE) & ~WS_GROUP);
     EXPECT_EQ(kLast, next(Item(kRadio2), FALSE));
-}
-
-TEST_F(PlainWindowKeys, TheLastGroupGoesOnAtTheBeginning) {
-    SetWindowLongA(Item(kField), GWL_STYLE, GetWindowLongA(Item(kField), GWL_STYLE) & ~WS_GROUP);
-    EXPECT_EQ(Item(kField), GetNextDlgGroupItem(window_, Item(kLast), FALSE));
-    EXPECT_EQ(Item(kLast), GetNextDlgGroupItem(window_, Item(kField), TRUE));
-    EXPECT_EQ(GetDlgItem(page_, kInPage), GetNextDlgGroupItem(window_, Item(kOne), FALSE));
 }
 
 // --- edit controls of several lines
@@ -149,13 +128,6 @@ class LinesInDialog : public ::testing::Test {
     }
     HWND dialog_ = nullptr;
 };
-
-TEST_F(LinesInDialog, WantAllKeys) {
-    constexpr LRESULT kOneLine = DLGC_WANTCHARS | DLGC_HASSETSEL | DLGC_WANTARROWS;
-    EXPECT_EQ(kOneLine, SendMessageA(Item(kBefore), WM_GETDLGCODE, 0, 0));
-    for (const int id : {kLines, kText})
-        EXPECT_EQ(kOneLine | DLGC_WANTALLKEYS, SendMessageA(Item(id), WM_GETDLGCODE, 0, 0));
-}
 
 TEST_F(LinesInDialog, LeaveTabToTheDialog) {
     EXPECT_EQ(kText, Press(kLines, VK_TAB));

@@ -6,6 +6,7 @@
 #include <thread>
 #include <vector>
 
+#include "tests/platform/support/looking.h"
 #include "tests/platform/support/recorder.h"
 
 namespace {
@@ -15,26 +16,13 @@ using tests::Pump;
 using tests::PumpUntil;
 using tests::Recorder;
 
-class FocusTest : public ::testing::Test {
+class FocusTest : public tests::RecordedTest {
   protected:
     void SetUp() override {
-        window = Recorder::Get().Make(WS_POPUP | WS_VISIBLE, 100, 100, 300, 200);
-        ASSERT_NE(window, nullptr);
-        SetForegroundWindow(window);
+        MakeWindow(WS_POPUP | WS_VISIBLE, 100, 100, 300, 200);
         ASSERT_TRUE(PumpUntil([this] { return GetForegroundWindow() == window; }));
         Recorder::Get().Reset();
     }
-    void TearDown() override {
-        Recorder::Get().Reset();
-        if (other != nullptr && IsWindow(other)) {
-            DestroyWindow(other);
-        }
-        if (IsWindow(window)) {
-            DestroyWindow(window);
-        }
-        Pump();
-    }
-    HWND window = nullptr;
     HWND other = nullptr;
 };
 
@@ -112,11 +100,9 @@ TEST_F(FocusTest, FocusIsRefusedWhereItCannotBe) {
     EXPECT_EQ(SetFocus(child), nullptr);
     EXPECT_NE(GetFocus(), child);
     HWND focus = GetFocus();
-    SetLastError(0);
     HWND gone = Recorder::Get().Make(WS_POPUP, 0, 0, 10, 10);
     DestroyWindow(gone);
-    EXPECT_EQ(SetFocus(gone), nullptr);
-    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_WINDOW_HANDLE));
+    EXPECT_EQ(DWORD{ERROR_INVALID_WINDOW_HANDLE}, tests::ErrorOf([&] { return SetFocus(gone); }));
     EXPECT_EQ(GetFocus(), focus);
     HWND result = window;
     std::thread([&result, this] { result = SetFocus(window); }).join();
@@ -213,10 +199,7 @@ class CaretTest : public FocusTest {
         FocusTest::TearDown();
     }
     COLORREF Pixel(int x, int y) {
-        HDC context = GetDC(window);
-        const COLORREF pixel = GetPixel(context, x, y);
-        ReleaseDC(window, context);
-        return pixel;
+        return tests::PixelOf(window, x, y);
     }
     static constexpr COLORREF kWhite = RGB(255, 255, 255);
     static constexpr COLORREF kBlack = RGB(0, 0, 0);

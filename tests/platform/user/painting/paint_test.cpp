@@ -44,31 +44,6 @@ TEST_F(Painting, BackgroundThatIsNotErasedIsLeftToThePaint) {
     EXPECT_TRUE(Of(window).eraseLeft[0]);
 }
 
-TEST_F(Painting, UpdateWindowGoesPastTheQueueAndOnlyWhenNeeded) {
-    HWND window = Make(kPlain, 10, 10, 100, 80, ground, kRed);
-    Settle();
-    UpdateWindow(window);
-    EXPECT_EQ(Of(window).Count(WM_PAINT), 0);
-    InvalidateRect(window, nullptr, TRUE);
-    UpdateWindow(window);
-    EXPECT_EQ(Of(window).Count(WM_PAINT), 1);
-    Settle();
-    EXPECT_EQ(Of(window).Count(WM_PAINT), 0);
-}
-
-TEST_F(Painting, WindowThatNeverValidatesIsAskedAgain) {
-    HWND window = Make(kPlain, 10, 10, 100, 80, ground, kRed);
-    Settle();
-    InvalidateRect(window, nullptr, FALSE);
-    MSG message;
-    for (int i = 0; i < 3; ++i) {
-        ASSERT_TRUE(PeekMessageA(&message, nullptr, WM_PAINT, WM_PAINT, PM_REMOVE));
-        EXPECT_EQ(message.hwnd, window);
-    }
-    ValidateRect(window, nullptr);
-    EXPECT_FALSE(PeekMessageA(&message, nullptr, WM_PAINT, WM_PAINT, PM_REMOVE));
-}
-
 TEST_F(Painting, DrawingIsHeldToTheUpdateRegion) {
     HWND window = Make(kPlain, 10, 10, 100, 80, ground, kRed);
     Settle();
@@ -121,15 +96,6 @@ TEST_F(Painting, ReleasedContextsComeBackAtTheirDefaults) {
         EXPECT_EQ(GetBkMode(context), OPAQUE);
         ReleaseDC(window, context);
     }
-}
-
-TEST_F(Painting, WindowContextReachesTheFrame) {
-    HWND window = Make(kPlain | WS_CAPTION, 50, 50, 100, 80, ground, kRed);
-    Settle();
-    HDC context = GetWindowDC(window);
-    SetPixel(context, 0, 0, kYellow);
-    ReleaseDC(window, context);
-    EXPECT_EQ(PixelAt(ground, 50, 50), kYellow);
 }
 
 TEST_F(Painting, ValidatingAParentValidatesTheChildrenThatItPaintsOver) {

@@ -2,21 +2,13 @@
 #include <gtest/gtest.h>
 
 #include "tests/platform/support/dialog_builder.h"
+#include "tests/platform/support/looking.h"
 
 namespace {
 
 bool ShowsHighlight(HWND window) {
     UpdateWindow(window);
-    RECT client{};
-    GetClientRect(window, &client);
-    const HDC context = GetDC(window);
-    bool found = false;
-    for (int y = 0; y < client.bottom && !found; ++y) {
-        for (int x = 0; x < client.right && !found; ++x)
-            found = GetPixel(context, x, y) == GetSysColor(COLOR_HIGHLIGHT);
-    }
-    ReleaseDC(window, context);
-    return found;
+    return tests::CountPixels(window, tests::ClientOf(window), GetSysColor(COLOR_HIGHLIGHT)) > 0;
 }
 
 TEST(ComboBoxLook, TheTextIsHighlightedOnlyWithTheFocus) {

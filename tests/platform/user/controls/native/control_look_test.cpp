@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/platform/support/dialog_builder.h"
+#include "tests/platform/support/looking.h"
 
 namespace {
 
@@ -35,25 +36,14 @@ class ControlLookTest : public ::testing::Test {
         DestroyWindow(dialog_);
     }
     COLORREF Pixel(int id, int x, int y) {
-        const HWND control = GetDlgItem(dialog_, id);
-        const HDC context = GetDC(control);
-        const COLORREF colour = GetPixel(context, x, y);
-        ReleaseDC(control, context);
-        return colour;
+        return tests::PixelOf(GetDlgItem(dialog_, id), x, y);
     }
     /// How many pixels of a colour a rectangle of a control has.
     int Count(int id, COLORREF colour, const RECT& rect) {
-        int count = 0;
-        for (int y = rect.top; y < rect.bottom; ++y) {
-            for (int x = rect.left; x < rect.right; ++x)
-                count += Pixel(id, x, y) == colour;
-        }
-        return count;
+        return tests::CountPixels(GetDlgItem(dialog_, id), rect, colour);
     }
     RECT Client(int id) {
-        RECT rect{};
-        GetClientRect(GetDlgItem(dialog_, id), &rect);
-        return rect;
+        return tests::ClientOf(GetDlgItem(dialog_, id));
     }
 
     HWND dialog_ = nullptr;

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "tests/platform/support/hands.h"
+#include "tests/platform/support/looking.h"
 #include "tests/platform/support/recorder.h"
 
 namespace {
@@ -25,7 +26,7 @@ struct Asked {
     HELPINFO info;
 };
 
-class ContextHelp : public ::testing::Test {
+class ContextHelp : public tests::RecordedTest {
   protected:
     static constexpr int kLeft = 100;
     static constexpr int kTop = 100;
@@ -33,7 +34,7 @@ class ContextHelp : public ::testing::Test {
     static constexpr int kHeight = 200;
 
     void SetUp() override {
-        Recorder::Get().Reset();
+        RecordedTest::SetUp();
         DestroyWindow(Recorder::Get().Make(WS_POPUP, 0, 0, 1, 1));  // registers the class
         Recorder::Get().answer = [this](const Heard& heard, LRESULT*) {
             if (heard.message == WM_HELP) {
@@ -51,13 +52,6 @@ class ContextHelp : public ::testing::Test {
             }
             return false;
         };
-    }
-    void TearDown() override {
-        Recorder::Get().Reset();
-        if (IsWindow(window)) {
-            DestroyWindow(window);
-        }
-        Pump();
     }
     void Make(DWORD style = kStyle, DWORD exStyle = WS_EX_CONTEXTHELP) {
         window = CreateWindowExA(exStyle | WS_EX_TOPMOST | WS_EX_DLGMODALFRAME, Recorder::kClass, "Help", style, kLeft,
@@ -94,22 +88,7 @@ class ContextHelp : public ::testing::Test {
     }
     COLORREF TopLeftOf(LRESULT code) const {
         const RECT part = PartOf(code);
-        HDC screen = GetDC(nullptr);
-        const COLORREF colour = GetPixel(screen, part.left, part.top);
-        ReleaseDC(nullptr, screen);
-        return colour;
-    }
-    /// @returns how many pixels of a part have a colour.
-    int Count(const RECT& part, int colour) const {
-        HDC screen = GetDC(nullptr);
-        int count = 0;
-        for (int y = part.top; y < part.bottom; ++y) {
-            for (int x = part.left; x < part.right; ++x) {
-                count += GetPixel(screen, x, y) == GetSysColor(colour) ? 1 : 0;
-            }
-        }
-        ReleaseDC(nullptr, screen);
-        return count;
+        return tests::PixelOf(nullptr, part.left, part.top);
     }
     static POINT In(HWND child, int x = 50, int y = 30) {
         POINT point{x, y};
@@ -127,7 +106,6 @@ class ContextHelp : public ::testing::Test {
               At(point, MOUSEEVENTF_LEFTDOWN), At(point, MOUSEEVENTF_LEFTUP)});
     }
 
-    HWND window = nullptr;
     std::vector<Asked> asked;
     HCURSOR cursor = nullptr;  ///< while help is asked for
     HWND capture = nullptr;
@@ -144,8 +122,8 @@ TEST_F(ContextHelp, TheMarkStandsLeftOfTheCloseBoxWhereNoOtherBoxesDo) {
     EXPECT_EQ(part.right + 2, close.left);
     EXPECT_EQ(TopLeftOf(HTHELP), GetSysColor(COLOR_3DHIGHLIGHT));
     const RECT face{part.left + 2, part.top + 2, part.right - 2, part.bottom - 2};
-    EXPECT_GT(Count(face, COLOR_3DFACE), 40);
-    EXPECT_GT(Count(face, COLOR_BTNTEXT), 15);
+    EXPECT_GT(tests::CountPixels(nullptr, face, GetSysColor(COLOR_3DFACE)), 40);
+    EXPECT_GT(tests::CountPixels(nullptr, face, GetSysColor(COLOR_BTNTEXT)), 15);
     const POINT mark = MiddleOf(HTHELP);
     DestroyWindow(window);
     for (const DWORD box : {DWORD{WS_MINIMIZEBOX}, DWORD{WS_MAXIMIZEBOX}}) {

@@ -58,12 +58,7 @@ class OpenMenus : public EditControl {
         Play({At(x, y, MOUSEEVENTF_RIGHTDOWN), At(x, y, MOUSEEVENTF_RIGHTUP)});
     }
     static void Key(WORD key) {
-        INPUT down{};
-        down.type = INPUT_KEYBOARD;
-        down.ki.wVk = key;
-        INPUT up = down;
-        up.ki.dwFlags = KEYEVENTF_KEYUP;
-        Play({down, up});
+        Play({tests::Key(key), tests::Key(key, KEYEVENTF_KEYUP)});
     }
 
     /// Runs the steps, the last of which has to leave no menu open.
@@ -96,9 +91,7 @@ class OpenMenus : public EditControl {
         return each;
     }
     static RECT PlaceOf(HWND handle) {
-        RECT rect{};
-        GetWindowRect(handle, &rect);
-        return rect;
+        return tests::PlaceOf(handle);
     }
     static POINT Point(HWND edit, int x, int y) {
         POINT point{x, y};
@@ -106,10 +99,7 @@ class OpenMenus : public EditControl {
         return point;
     }
     static COLORREF Pixel(int x, int y) {
-        const HDC screen = GetDC(nullptr);
-        const COLORREF colour = GetPixel(screen, x, y);
-        ReleaseDC(nullptr, screen);
-        return colour;
+        return tests::PixelOf(nullptr, x, y);
     }
     /// @returns whether the item whose middle is this far below the menu's top is highlighted.
     static bool IsLit(int y) {

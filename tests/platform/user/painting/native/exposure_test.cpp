@@ -7,10 +7,7 @@ namespace {
 class Exposure : public PaintedWindows {
   protected:
     static COLORREF Screen(int x, int y) {
-        HDC screen = GetDC(nullptr);
-        const COLORREF colour = GetPixel(screen, x, y);
-        ReleaseDC(nullptr, screen);
-        return colour;
+        return tests::PixelOf(nullptr, x, y);
     }
 
     HWND Top(int x, int y, COLORREF colour) {
@@ -95,14 +92,6 @@ TEST_F(Exposure, ParentsComeBeforeChildrenAndTakeThemAlong) {
     EXPECT_EQ(Of(child).Count(WM_PAINT), 1);
     EXPECT_EQ(PixelAt(parent, 15, 15), kGreen);
     EXPECT_EQ(PixelAt(parent, 60, 15), kRed);
-}
-
-TEST_F(Exposure, TheDesktopShowsItsColour) {
-    HWND window = Make(kTop, 500, 400, 60, 60, nullptr, kRed);
-    Settle();
-    EXPECT_EQ(Screen(520, 420), kRed);
-    DestroyWindow(window);
-    EXPECT_EQ(Screen(520, 420), GetSysColor(COLOR_BACKGROUND));
 }
 
 }  // namespace
