@@ -1,5 +1,6 @@
 // The "static" class: the mouse, notifications, pictures.
 #include "tests/platform/support/controls.h"
+#include "tests/platform/support/expect_rect.h"
 
 namespace {
 
@@ -21,30 +22,20 @@ TEST_F(StaticTest, OnlyNotifyingOnesTakeTheMouse) {
     EXPECT_EQ((std::vector<UINT>{STN_CLICKED, STN_DBLCLK, STN_DISABLE, STN_ENABLE}), notified);
 }
 
-RECT PlaceIn(HWND parent, HWND control) {
-    RECT place;
-    GetWindowRect(control, &place);
-    MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&place), 2);
-    return place;
-}
-
 TEST_F(StaticTest, AnIconGivesTheControlItsSize) {
     const HICON hand = LoadIconA(nullptr, IDI_HAND);
     const HWND control = Make(SS_ICON, "");
     EXPECT_EQ(0, Send(control, STM_SETICON, reinterpret_cast<WPARAM>(hand)));
-    RECT place = PlaceIn(parent_, control);
-    EXPECT_EQ(10, place.left);
-    EXPECT_EQ(10, place.top);
-    EXPECT_EQ(42, place.right);
-    EXPECT_EQ(42, place.bottom);
+    const RECT place = tests::PlaceOf(control);
+    POINT corner{10, 10};
+    ClientToScreen(parent_, &corner);
+    ExpectRect(place, corner.x, corner.y, corner.x + 32, corner.y + 32);
     EXPECT_EQ(reinterpret_cast<LRESULT>(hand), Send(control, STM_GETICON));
     EXPECT_EQ(reinterpret_cast<LRESULT>(hand), Send(control, STM_SETICON));
 
     const HWND centred = Make(SS_ICON | SS_CENTERIMAGE, "");
     Send(centred, STM_SETICON, reinterpret_cast<WPARAM>(hand));
-    place = PlaceIn(parent_, centred);
-    EXPECT_EQ(90, place.right);
-    EXPECT_EQ(34, place.bottom);
+    ExpectRect(tests::PlaceOf(centred), corner.x, corner.y, corner.x + 80, corner.y + 24);
     EXPECT_EQ(0, Send(Make(SS_LEFT), STM_SETICON, reinterpret_cast<WPARAM>(hand)));
 }
 

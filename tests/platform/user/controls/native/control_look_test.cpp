@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/platform/support/dialog_builder.h"
+#include "tests/platform/support/expect_rect.h"
 #include "tests/platform/support/looking.h"
 
 namespace {
@@ -57,10 +58,7 @@ class ControlLookTest : public ::testing::Test {
 TEST_F(ControlLookTest, BaseUnitsAreSixByThirteen) {
     RECT rect{4, 8, 40, 80};
     ASSERT_TRUE(MapDialogRect(dialog_, &rect));
-    EXPECT_EQ(6, rect.left);
-    EXPECT_EQ(13, rect.top);
-    EXPECT_EQ(60, rect.right);
-    EXPECT_EQ(130, rect.bottom);
+    ExpectRect(rect, 6, 13, 60, 130);
     EXPECT_EQ(75, Client(1).right);
     EXPECT_EQ(23, Client(1).bottom);
 }

@@ -70,21 +70,6 @@ TEST_F(EditLook, SelectionIsHighlightedWhileTheFieldHasTheFocus) {
     EXPECT_FALSE(Colours(edit).contains(highlight));
 }
 
-TEST_F(EditLook, CaretStandsBetweenCharactersAndWithinTheField) {
-    const HWND edit = Make(ES_AUTOHSCROLL, "", 60);
-    SetFocus(edit);
-    for (int i = 0; i < 30; ++i) {
-        Type(edit, "W");
-        POINT caret{};
-        GetCaretPos(&caret);
-        ASSERT_GT(caret.x, 0);
-        ASSERT_LT(caret.x, tests::ClientOf(edit).right - 1) << i;
-    }
-    const LONG end = PlaceOf(edit, 30).x;
-    Key(edit, VK_HOME);
-    EXPECT_LT(PlaceOf(edit, 0).x, end);
-}
-
 TEST_F(EditLook, ATextThatIsNowhereIsRefused) {
     const HWND edit = Make(ES_AUTOHSCROLL, "kept");
     EXPECT_EQ(DWORD{ERROR_NOACCESS}, tests::ErrorOf([=] { return SetWindowTextA(edit, reinterpret_cast<LPCSTR>(8)); }));
