@@ -163,10 +163,6 @@ class KeyHeld {
     WORD key_;
 };
 
-struct ShiftHeld : KeyHeld {
-    ShiftHeld() : KeyHeld(VK_SHIFT) {}
-};
-
 /// The edit control of a combo box, or the combo box itself where it has none.
 inline HWND ComboField(HWND combo) {
     const HWND edit = FindWindowExA(combo, nullptr, "edit", nullptr);

@@ -107,6 +107,8 @@ TEST_F(DialogKeyboardTest, NextItemsByCall) {
     EXPECT_EQ(Item(kRadio3), GetNextDlgGroupItem(dialog_, Item(kRadio1), FALSE)) << "the disabled one is skipped";
     EXPECT_EQ(Item(kRadio1), GetNextDlgGroupItem(dialog_, Item(kRadio3), FALSE));
     EXPECT_EQ(Item(kRadio3), GetNextDlgGroupItem(dialog_, Item(kRadio1), TRUE));
+    EXPECT_EQ(inPage_, GetNextDlgGroupItem(dialog_, Item(kAfter), FALSE)) << "what is on a page belongs to the group";
+    EXPECT_EQ(inPage_, GetNextDlgGroupItem(dialog_, Item(IDOK), TRUE));
 }
 
 TEST_F(DialogKeyboardTest, ArrowsMoveAndCheckWithinTheGroup) {

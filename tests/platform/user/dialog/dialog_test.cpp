@@ -33,6 +33,11 @@ class DialogTest : public ::testing::Test {
                 lastCommand = wParam;
                 lastControl = lParam;
                 return TRUE;
+            case WM_VKEYTOITEM:
+                SetWindowLongPtrA(dialog, DWLP_MSGRESULT, 1);
+                return 77;
+            case WM_USER + 8:
+                return TRUE;
             case WM_USER + 7:
                 SetWindowLongPtrA(dialog, DWLP_MSGRESULT, 4711);
                 return TRUE;
@@ -157,27 +162,10 @@ TEST_F(DialogTest, TheFocusComesBackWithTheActivation) {
     DestroyWindow(other);
 }
 
-INT_PTR CALLBACK AnsweringProcedure(HWND dialog, UINT message, WPARAM, LPARAM) {
-    switch (message) {
-        case WM_CTLCOLORSTATIC:
-        case WM_VKEYTOITEM:
-            SetWindowLongPtrA(dialog, DWLP_MSGRESULT, 1);
-            return 77;
-        case WM_USER + 7:
-            SetWindowLongPtrA(dialog, DWLP_MSGRESULT, 4711);
-            return TRUE;
-        case WM_USER + 8:
-            return TRUE;
-        default:
-            return FALSE;
-    }
-}
-
 TEST_F(DialogTest, AnswersOfTheDialogProcedure) {
     DialogBuilder builder;
     builder.Title("");
-    dialog_ = CreateDialogIndirectParamA(nullptr, builder.Data(), nullptr, AnsweringProcedure, 0);
-    ASSERT_NE(nullptr, dialog_);
+    ASSERT_NE(nullptr, Make(builder));
     EXPECT_EQ(77, SendMessageA(dialog_, WM_VKEYTOITEM, 0, 0));
     EXPECT_EQ(4711, SendMessageA(dialog_, WM_USER + 7, 0, 0));
     EXPECT_EQ(0, SendMessageA(dialog_, WM_USER + 8, 0, 0)) << "an earlier result is not reused";

@@ -76,25 +76,6 @@ TEST_F(FocusTest, FocusMovesWithMessagesInOrder) {
     EXPECT_NE(GetFocus(), first);
 }
 
-TEST_F(FocusTest, AHiddenWindowThatIsDisabledStaysActive) {
-    other = Recorder::Get().Make(WS_POPUP, 200, 200, 100, 100);
-    HWND child = Recorder::Get().Make(WS_CHILD | WS_VISIBLE, 0, 0, 10, 10, other);
-    SetActiveWindow(other);
-    SetFocus(other);
-    ASSERT_EQ(GetActiveWindow(), other);
-    EnableWindow(other, FALSE);
-    EXPECT_EQ(GetActiveWindow(), other);
-    EXPECT_EQ(GetFocus(), nullptr);
-    EnableWindow(other, TRUE);
-    // What its children hold is none of its business.
-    SetFocus(child);
-    SetCapture(child);
-    EnableWindow(other, FALSE);
-    EXPECT_EQ(GetFocus(), child);
-    EXPECT_EQ(GetCapture(), child);
-    ReleaseCapture();
-}
-
 TEST_F(FocusTest, FocusIsRefusedWhereItCannotBe) {
     HWND child = Recorder::Get().Make(WS_CHILD | WS_VISIBLE | WS_DISABLED, 0, 0, 10, 10, window);
     EXPECT_EQ(SetFocus(child), nullptr);
@@ -233,24 +214,6 @@ TEST_F(CaretTest, InvertsItsBlockWhereItStands) {
     EXPECT_TRUE(DestroyCaret());
     EXPECT_EQ(Pixel(80, 60), kWhite);
     EXPECT_FALSE(ShowCaret(window));
-}
-
-TEST_F(CaretTest, BitmapInvertsWhereItsBitsAreOne) {
-    const BYTE bits[] = {0xA0, 0, 0x40, 0};
-    HBITMAP bitmap = CreateBitmap(4, 2, 1, 1, bits);
-    ASSERT_NE(bitmap, nullptr);
-    ASSERT_TRUE(CreateCaret(window, bitmap, 0, 0));
-    SetCaretPos(10, 20);
-    ShowCaret(window);
-    EXPECT_EQ(Pixel(10, 20), kBlack);
-    EXPECT_EQ(Pixel(11, 20), kWhite);
-    EXPECT_EQ(Pixel(12, 20), kBlack);
-    EXPECT_EQ(Pixel(13, 20), kWhite);
-    EXPECT_EQ(Pixel(10, 21), kWhite);
-    EXPECT_EQ(Pixel(11, 21), kBlack);
-    DestroyCaret();
-    EXPECT_EQ(Pixel(11, 21), kWhite);
-    DeleteObject(bitmap);
 }
 
 TEST_F(CaretTest, StaysInsideItsWindowAndSurvivesPainting) {

@@ -149,27 +149,6 @@ TEST_F(InputTest, MouseMessagesUseClientCoordinates) {
     EXPECT_EQ(LOWORD(asked->lParam), HTCLIENT);
 }
 
-TEST_F(InputTest, DisabledAndTransparentWindowsLetTheMouseThrough) {
-    HWND disabled = Recorder::Get().Make(WS_CHILD | WS_VISIBLE | WS_DISABLED, 0, 0, 50, 50, window);
-    HWND below = Recorder::Get().Make(WS_CHILD | WS_VISIBLE, 100, 0, 50, 50, window);
-    HWND transparent = Recorder::Get().Make(WS_CHILD | WS_VISIBLE, 100, 0, 50, 50, window);
-    SetWindowPos(transparent, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
-    Pump();
-    Recorder::Get().answer = [transparent](const Heard& heard, LRESULT* result) {
-        *result = HTTRANSPARENT;
-        return heard.message == WM_NCHITTEST && heard.window == transparent;
-    };
-    Recorder::Get().Clear();
-    SetCursorPos(110, 110);
-    ClickAndHear();
-    EXPECT_EQ(Recorder::Get().Find(WM_LBUTTONDOWN)->window, window);
-    EXPECT_EQ(Recorder::Get().Find(WM_LBUTTONDOWN, disabled), nullptr);
-    Recorder::Get().Clear();
-    SetCursorPos(210, 110);
-    ClickAndHear();
-    EXPECT_EQ(Recorder::Get().Find(WM_LBUTTONDOWN)->window, below);
-}
-
 TEST_F(InputTest, DoubleClickNeedsTimeAndPlace) {
     SetCursorPos(200, 150);
     Pump();
@@ -259,18 +238,6 @@ TEST_F(InputTest, MovesAddUpToOneMessage) {
     EXPECT_EQ(Recorder::Get().Find(WM_MOUSEMOVE)->lParam, MAKELPARAM(52, 48));
     INPUT input{};
     EXPECT_EQ(SendInput(1, &input, sizeof input - 4), 0u);
-}
-
-TEST_F(InputTest, InputComesAfterPostedMessages) {
-    Key('Z', true);
-    Key('Z', false);
-    ASSERT_TRUE(PumpUntil([] { return true; }));
-    Recorder::Get().Clear();
-    Key('Z', true);
-    PostMessageA(window, WM_USER, 0, 0);
-    Key('Z', false);
-    ASSERT_TRUE(Hears(WM_KEYUP));
-    EXPECT_EQ(Recorder::Get().Numbers({WM_USER, WM_KEYDOWN}).front(), static_cast<UINT>(WM_USER));
 }
 
 }  // namespace

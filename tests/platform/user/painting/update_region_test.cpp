@@ -53,16 +53,6 @@ TEST_F(UpdateRegion, ReachesChildrenUnlessTheParentLeavesThemOut) {
     EXPECT_TRUE(GetUpdateRect(inClipping, nullptr, FALSE));
 }
 
-TEST_F(UpdateRegion, LeavesOutChildrenAndWhatLiesAbove) {
-    HWND window = Make(kPlain | WS_CLIPCHILDREN, 10, 10, 100, 80, ground, kRed);
-    Child(window, 0, 0, 100, 40, kGreen);
-    Settle();
-    InvalidateRect(window, nullptr, FALSE);
-    UpdateWindow(window);
-    ASSERT_EQ(Of(window).updates.size(), 1U);
-    ExpectRect(Of(window).updates[0], 0, 40, 100, 80);
-}
-
 TEST_F(UpdateRegion, BadHandlesAreRefused) {
     HWND gone = Make(kPlain, 10, 10, 20, 20, ground, kBlue);
     DestroyWindow(gone);

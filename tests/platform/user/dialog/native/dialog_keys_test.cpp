@@ -24,11 +24,14 @@ class PlainWindowRules : public tests::RecordedTest {
     }
 };
 
-TEST_F(PlainWindowRules, EnterIsACommand) {
-    EXPECT_TRUE(DialogKey(window, GetFocus(), VK_RETURN));
-    const tests::Heard* command = Recorder::Get().Find(WM_COMMAND);
-    ASSERT_NE(nullptr, command);
-    EXPECT_EQ(MAKEWPARAM(IDOK, BN_CLICKED), command->wParam);
+TEST_F(PlainWindowRules, EnterAndEscapeAreCommands) {
+    for (const auto& [key, command] : {std::pair{VK_RETURN, IDOK}, std::pair{VK_ESCAPE, IDCANCEL}}) {
+        Recorder::Get().Clear();
+        EXPECT_TRUE(DialogKey(window, GetFocus(), static_cast<WPARAM>(key)));
+        const tests::Heard* heard = Recorder::Get().Find(WM_COMMAND);
+        ASSERT_NE(nullptr, heard);
+        EXPECT_EQ(MAKEWPARAM(command, BN_CLICKED), heard->wParam);
+    }
 }
 
 TEST_F(PlainWindowRules, OddArguments) {

@@ -315,38 +315,6 @@ TEST_F(OpenMenus, AreGoneThroughByKeys) {
     EXPECT_EQ(edit, GetFocus());
 }
 
-TEST_F(OpenMenus, ComeByTheKeysOfTheKeyboard) {
-    const HWND edit = Make(ES_AUTOHSCROLL, "one");
-    SetFocus(edit);
-    Run({Press(VK_APPS), IsOpen(), Press('A'),
-         [&] {
-             EXPECT_EQ("[one]", Marked(edit));
-             Play({tests::Key(VK_SHIFT)});
-             Key(VK_F10);
-             Play({tests::Key(VK_SHIFT, KEYEVENTF_KEYUP)});
-         },
-         IsOpen(), Press('D')});
-    EXPECT_EQ("|", Marked(edit));
-}
-
-TEST_F(OpenMenus, OfAComboBoxAreThoseOfItsField) {
-    const HWND combo = CreateWindowExA(0, "combobox", "", WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, 10, 60, 100, 90,
-                                       parent_, nullptr, nullptr, nullptr);
-    const HWND field = GetWindow(combo, GW_CHILD);
-    SetWindowTextA(field, "one");
-    SetFocus(field);
-    Select(field, 3, 3);
-    Send(field, WM_KEYDOWN, VK_F4, 1);
-    EXPECT_NE(nullptr, GetCapture()) << "the list is dropped";
-    Run({Ask(field), [] {
-             EXPECT_NE(nullptr, Menu());
-             EXPECT_EQ(Menu(), GetCapture()) << "the list has closed";
-             Key('A');
-         }});
-    EXPECT_EQ("[one]", Marked(field));
-    EXPECT_EQ(field, GetFocus());
-}
-
 TEST_F(OpenMenus, TheMiddleButtonHasNothingToInsertWithoutADesktop) {
     const HWND edit = Make(ES_AUTOHSCROLL, "one two");
     Select(edit, 0, 3);

@@ -81,17 +81,4 @@ TEST_F(Exposure, AContextThatIsHeldFollowsItsWindow) {
     ReleaseDC(window, context);
 }
 
-TEST_F(Exposure, ParentsComeBeforeChildrenAndTakeThemAlong) {
-    HWND parent = Make(kPlain, 10, 10, 100, 80, ground, kRed);
-    HWND child = Child(parent, 10, 10, 30, 30, kGreen);
-    Settle();
-    // Without WS_CLIPCHILDREN the parent draws over the child, which then has to draw itself.
-    InvalidateRect(parent, nullptr, TRUE);
-    ValidateRect(child, nullptr);
-    UpdateWindow(parent);
-    EXPECT_EQ(Of(child).Count(WM_PAINT), 1);
-    EXPECT_EQ(PixelAt(parent, 15, 15), kGreen);
-    EXPECT_EQ(PixelAt(parent, 60, 15), kRed);
-}
-
 }  // namespace
