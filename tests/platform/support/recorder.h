@@ -74,9 +74,11 @@ class Recorder {
         return static_cast<int>(Numbers({message}).size());
     }
 
-    HWND Make(DWORD style, int x, int y, int width, int height, HWND parent = nullptr) {
+    HWND Make(DWORD style, int x, int y, int width, int height, HWND parent = nullptr, DWORD exStyle = 0,
+              const char* text = "") {
         Register();
-        made_.push_back(CreateWindowExA(0, kClass, "", style, x, y, width, height, parent, nullptr, nullptr, nullptr));
+        made_.push_back(
+            CreateWindowExA(exStyle, kClass, text, style, x, y, width, height, parent, nullptr, nullptr, nullptr));
         return made_.back();
     }
 
@@ -124,9 +126,6 @@ class RecordedTest : public ::testing::Test {
         ReleaseCapture();
         Recorder::Get().Reset();
         Recorder::Get().EndWindows();
-        if (IsWindow(window)) {
-            DestroyWindow(window);
-        }
         Pump();
     }
     /// A window in the foreground that has heard nothing yet.

@@ -2,6 +2,7 @@
 #include "tests/platform/support/edit_control.h"
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 namespace {
@@ -43,39 +44,27 @@ TEST_F(EditTest, SelectionByNumbers) {
 TEST_F(EditTest, KeysMoveAndSelect) {
     const HWND edit = Make(ES_AUTOHSCROLL, "one two  three");
     SetFocus(edit);
-    Key(edit, VK_RIGHT);
-    Key(edit, VK_DOWN);
-    EXPECT_EQ("on|e two  three", Marked(edit)) << "Down steps to the right in one line";
-    Key(edit, VK_UP);
-    Key(edit, VK_LEFT);
-    Key(edit, VK_LEFT);
-    EXPECT_EQ("|one two  three", Marked(edit));
-    {
-        const KeyHeld control(VK_CONTROL);
-        Key(edit, VK_RIGHT);
-        EXPECT_EQ("one |two  three", Marked(edit));
-        Key(edit, VK_RIGHT);
-        EXPECT_EQ("one two  |three", Marked(edit));
-        Key(edit, VK_LEFT);
-        EXPECT_EQ("one |two  three", Marked(edit));
-        const KeyHeld shift(VK_SHIFT);
-        Key(edit, VK_RIGHT);
-        EXPECT_EQ("one [two  ]three", Marked(edit));
+    struct Step {
+        WPARAM key;
+        bool control;
+        bool shift;
+        const char* after;
+    };
+    for (const Step& step :
+         {Step{VK_RIGHT, false, false, "o|ne two  three"},
+          Step{VK_DOWN, false, false, "on|e two  three"},  // to the right in one line
+          Step{VK_UP, false, false, "o|ne two  three"}, Step{VK_LEFT, false, false, "|one two  three"},
+          Step{VK_RIGHT, true, false, "one |two  three"}, Step{VK_RIGHT, true, false, "one two  |three"},
+          Step{VK_LEFT, true, false, "one |two  three"}, Step{VK_RIGHT, true, true, "one [two  ]three"},
+          Step{VK_LEFT, false, true, "one [two ] three"},
+          Step{VK_HOME, false, true, "[one ]two  three"},  // the anchor stays
+          Step{VK_END, false, true, "one [two  three]"}, Step{VK_END, false, false, "one two  three|"},
+          Step{VK_HOME, false, false, "|one two  three"}, Step{VK_DELETE, false, false, "|ne two  three"}}) {
+        const std::unique_ptr<KeyHeld> control(step.control ? new KeyHeld(VK_CONTROL) : nullptr);
+        const std::unique_ptr<KeyHeld> shift(step.shift ? new KeyHeld(VK_SHIFT) : nullptr);
+        Key(edit, step.key);
+        EXPECT_EQ(step.after, Marked(edit)) << step.key;
     }
-    {
-        const KeyHeld shift(VK_SHIFT);
-        Key(edit, VK_LEFT);
-        EXPECT_EQ("one [two ] three", Marked(edit));
-        Key(edit, VK_HOME);
-        EXPECT_EQ("[one ]two  three", Marked(edit)) << "the anchor stays";
-        Key(edit, VK_END);
-        EXPECT_EQ("one [two  three]", Marked(edit));
-    }
-    Key(edit, VK_END);
-    EXPECT_EQ("one two  three|", Marked(edit));
-    Key(edit, VK_HOME);
-    Key(edit, VK_DELETE);
-    EXPECT_EQ("|ne two  three", Marked(edit));
     Select(edit, 0, 3);
     Key(edit, VK_DELETE);
     EXPECT_EQ("|two  three", Marked(edit));

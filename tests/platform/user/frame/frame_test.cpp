@@ -16,13 +16,8 @@ using tests::Recorder;
 
 class Frames : public tests::RecordedTest {
   protected:
-    void SetUp() override {
-        RecordedTest::SetUp();
-        DestroyWindow(Recorder::Get().Make(WS_POPUP, 0, 0, 1, 1));  // registers the class
-    }
     void Make(DWORD style, DWORD exStyle = 0) {
-        window = CreateWindowExA(exStyle | WS_EX_TOPMOST, Recorder::kClass, "Frame", style, 100, 100, 200, 150, nullptr,
-                                 nullptr, nullptr, nullptr);
+        window = Recorder::Get().Make(style, 100, 100, 200, 150, nullptr, exStyle | WS_EX_TOPMOST, "Frame");
         ASSERT_NE(window, nullptr);
     }
     /// What lies between the two rectangles: left, top, right, bottom.
@@ -138,23 +133,6 @@ TEST_F(Frames, AltF4ClosesTheWindowAroundTheFocus) {
     SendMessageA(child, WM_SYSKEYDOWN, VK_F4, 1 | (1 << 29));
     Pump();
     EXPECT_FALSE(IsWindow(window));
-}
-
-TEST_F(Frames, TheParentMayChooseTheCursor) {
-    Make(WS_POPUP | WS_VISIBLE);
-    HWND child = Recorder::Get().Make(WS_CHILD | WS_VISIBLE, 0, 0, 50, 50, window);
-    const LPARAM where = MAKELPARAM(HTCLIENT, WM_MOUSEMOVE);
-    HCURSOR const cross = LoadCursorA(nullptr, IDC_CROSS);
-    Recorder::Get().answer = [=, parent = window](const Heard& heard, LRESULT* result) {
-        if (heard.message != WM_SETCURSOR || heard.window != parent) {
-            return false;
-        }
-        SetCursor(cross);
-        *result = TRUE;
-        return true;
-    };
-    EXPECT_EQ(SendMessageA(child, WM_SETCURSOR, reinterpret_cast<WPARAM>(child), where), TRUE);
-    EXPECT_EQ(SetCursor(nullptr), cross);
 }
 
 TEST_F(Frames, DrawingIsNoLeak) {

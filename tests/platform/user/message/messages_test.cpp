@@ -143,15 +143,6 @@ TEST_F(MessagesTest, WaitingTellsNewFromOld) {
     Pump();
 }
 
-int timerCalls = 0;
-UINT_PTR timerId = 0;
-
-VOID CALLBACK OnTimer(HWND, UINT message, UINT_PTR id, DWORD) {
-    EXPECT_EQ(message, static_cast<UINT>(WM_TIMER));
-    timerId = id;
-    ++timerCalls;
-}
-
 // The one test that waits for timers; others drive them by sending WM_TIMER.
 TEST_F(MessagesTest, TimersBeatCoalescedUntilKilled) {
     ASSERT_EQ(SetTimer(window, 5, 20, nullptr), 5u);
@@ -178,19 +169,6 @@ TEST_F(MessagesTest, TimersBeatCoalescedUntilKilled) {
     EXPECT_FALSE(PeekMessageA(&message, nullptr, WM_TIMER, WM_TIMER, PM_REMOVE));
     EXPECT_TRUE(KillTimer(window, 5));
     EXPECT_FALSE(KillTimer(window, 5));
-}
-
-TEST_F(MessagesTest, ThreadTimersCallTheirProcedure) {
-    timerCalls = 0;
-    const UINT_PTR id = SetTimer(nullptr, 0, USER_TIMER_MINIMUM, OnTimer);
-    ASSERT_NE(id, 0u);
-    EXPECT_TRUE(tests::PumpUntil([] { return timerCalls > 0; }));
-    EXPECT_EQ(timerId, id);
-    EXPECT_TRUE(KillTimer(nullptr, id));
-    const int calls = timerCalls;
-    Sleep(30);
-    Pump();
-    EXPECT_EQ(timerCalls, calls);
 }
 
 TEST_F(MessagesTest, TimersDieWithTheirWindow) {

@@ -27,15 +27,6 @@ TEST_F(UpdateRegion, GrowsByInvalidationAndShrinksByValidation) {
     EXPECT_EQ(Of(window).Count(WM_PAINT), 0);
 }
 
-TEST_F(UpdateRegion, HiddenWindowsTakeNone) {
-    HWND window = Make(WS_POPUP, 10, 10, 100, 80, ground, kRed);
-    HWND child = Child(window, 0, 0, 20, 20, kGreen);
-    EXPECT_TRUE(InvalidateRect(window, nullptr, TRUE));
-    EXPECT_TRUE(InvalidateRect(child, nullptr, TRUE));
-    EXPECT_FALSE(GetUpdateRect(window, nullptr, FALSE));
-    EXPECT_FALSE(GetUpdateRect(child, nullptr, FALSE));
-}
-
 TEST_F(UpdateRegion, ReachesChildrenUnlessTheParentLeavesThemOut) {
     HWND plain = Make(kPlain, 10, 10, 100, 80, ground, kRed);
     HWND inPlain = Child(plain, 10, 10, 30, 30, kGreen);

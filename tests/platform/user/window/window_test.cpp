@@ -22,23 +22,12 @@ using tests::Recorder;
 
 class Windows : public tests::RecordedTest {
   protected:
-    HWND Keep(HWND window) {
-        made.push_back(window);
-        return window;
-    }
-    void TearDown() override {
-        RecordedTest::TearDown();
-        for (HWND each : made) {
-            DestroyWindow(each);
-        }
-    }
     HWND Make(DWORD style, int x, int y, int width, int height, HWND parent = nullptr) {
         return Recorder::Get().Make(style, x, y, width, height, parent);
     }
     HWND Child(HWND parent, int x, int y, int width, int height, DWORD style = 0) {
         return Make(WS_CHILD | style, x, y, width, height, parent);
     }
-    std::vector<HWND> made;
 };
 
 TEST_F(Windows, HearOfTheirCreationInOrder) {
@@ -166,9 +155,8 @@ TEST_F(Windows, ANewParentTakesChildAndPlaceAlong) {
 }
 
 TEST_F(Windows, AreFoundByClassTextAndPoint) {
-    DestroyWindow(Make(WS_POPUP, 0, 0, 1, 1));  // registers the class
-    HWND parent = Keep(CreateWindowExA(WS_EX_TOPMOST, Recorder::kClass, "A Test Of Finding", WS_POPUP | WS_VISIBLE, 40,
-                                       40, 100, 100, nullptr, nullptr, nullptr, nullptr));
+    HWND parent =
+        Recorder::Get().Make(WS_POPUP | WS_VISIBLE, 40, 40, 100, 100, nullptr, WS_EX_TOPMOST, "A Test Of Finding");
     ASSERT_NE(parent, nullptr);
     EXPECT_EQ(FindWindowA(Recorder::kClass, "a test of finding"), parent);
     EXPECT_EQ(FindWindowA(nullptr, "A Test Of Finding"), parent);
@@ -216,8 +204,8 @@ TEST_F(Windows, AreEnabledAndDisabled) {
 
 TEST_F(Windows, LongsAreReadAndWritten) {
     HWND parent = Make(WS_POPUP, 0, 0, 50, 50);
-    HWND window = Keep(CreateWindowExA(0, Recorder::kClass, "", WS_CHILD, 0, 0, 10, 10, parent,
-                                       reinterpret_cast<HMENU>(static_cast<INT_PTR>(77)), nullptr, nullptr));
+    HWND window = Child(parent, 0, 0, 10, 10);
+    SetWindowLongPtrA(window, GWLP_ID, 77);
     EXPECT_EQ(GetWindowLongPtrA(window, GWLP_ID), 77);
     EXPECT_EQ(SetWindowLongPtrA(window, GWLP_ID, 78), 77);
     EXPECT_EQ(GetDlgCtrlID(window), 78);

@@ -139,15 +139,6 @@ TEST_F(ControlLookTest, StaticTextAndFrames) {
     EXPECT_EQ(0, Count(5, black, Client(5)));
 }
 
-TEST_F(ControlLookTest, AGroupBoxLeavesItsInsideAlone) {
-    const RECT client = Client(9);
-    EXPECT_EQ(shadow, Pixel(9, 0, 20));
-    EXPECT_EQ(highlight, Pixel(9, 1, 20));
-    EXPECT_EQ(highlight, Pixel(9, client.right - 1, 20));
-    EXPECT_EQ(face, Pixel(9, 20, 30));
-    EXPECT_GT(Count(9, black, {0, 0, 60, 13}), 20);
-}
-
 TEST_F(ControlLookTest, LyingTemplatesAreRefused) {
     const HINSTANCE instance = GetModuleHandleA(nullptr);
     for (const int id : {2001, 2002, 2003}) {

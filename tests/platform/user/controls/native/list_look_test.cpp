@@ -67,21 +67,16 @@ TEST_F(ListLookTest, AScrollBarIsRaisedOnChequeredGround) {
 
 TEST_F(ListLookTest, AComboBoxIsSunkenWithARaisedArrow) {
     const HWND combo = Make("combobox", CBS_DROPDOWNLIST);
-    const HFONT font = CreateFontA(-11, 0, 0, 0, FW_NORMAL, 0, 0, 0, ANSI_CHARSET, 0, 0, 0, 0, "MS Sans Serif");
-    SendMessageA(combo, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
     tests::PumpMessages();
-    RECT rect{};
-    GetWindowRect(combo, &rect);
-    EXPECT_EQ(21, rect.bottom - rect.top);
+    const RECT place = tests::PlaceOf(combo);
+    const int bottom = place.bottom - place.top - 1;
     EXPECT_EQ(GetSysColor(COLOR_BTNSHADOW), Pixel(combo, 0, 0));
-    EXPECT_EQ(highlight, Pixel(combo, 119, 20));
+    EXPECT_EQ(highlight, Pixel(combo, 119, bottom));
     EXPECT_EQ(kWhite, Pixel(combo, 4, 4));
     EXPECT_EQ(light, Pixel(combo, 102, 2));
-    EXPECT_EQ(dark, Pixel(combo, 117, 18));
+    EXPECT_EQ(dark, Pixel(combo, 117, bottom - 2));
     SetFocus(combo);
     EXPECT_EQ(selection, Pixel(combo, 50, 10));
-    DestroyWindow(combo);
-    DeleteObject(font);
 }
 
 TEST_F(ListLookTest, NothingIsLeftBehind) {

@@ -276,41 +276,29 @@ TEST_F(OpenMenus, AreGoneThroughByKeys) {
     const HWND edit = Make(ES_AUTOHSCROLL, "one two");
     Select(edit, 0, 3);
     SetFocus(edit);
-    Run({Ask(edit),
-         [&] {
+    Run({Ask(edit), [&] {
              // Below the caret's line.
              POINT caret{};
              GetCaretPos(&caret);
              ClientToScreen(edit, &caret);
              EXPECT_EQ(caret.x, PlaceOf(Menu()).left);
              EXPECT_EQ(caret.y + static_cast<LONG>(HIWORD(GetDialogBaseUnits())), PlaceOf(Menu()).top);
-             Key(VK_UP);
-         },
-         [] {
-             EXPECT_TRUE(IsLit(kSelectAll)) << "from one end to the other";
-             Key(VK_DOWN);
-         },
-         [] {
-             EXPECT_TRUE(IsLit(kUndo));
-             Key(VK_RETURN);
-         },
-         [] {
-             EXPECT_NE(nullptr, Menu()) << "there is nothing to undo";
-             Key(VK_DOWN);
-         },
-         [] {
-             EXPECT_TRUE(IsLit(kCut)) << "a line is passed over";
-             Key(VK_END);
-         },
-         [] {
-             EXPECT_TRUE(IsLit(kSelectAll));
-             Key('Q');
-         },
-         [] {
-             EXPECT_NE(nullptr, Menu()) << "no item has this letter";
-             Key(VK_HOME);
              Key(VK_ESCAPE);
          }});
+    // From one end to the other; nothing to undo; past a line; no item has this letter.
+    Steps steps{Ask(edit)};
+    for (const auto& [key, lit] : {std::pair<WORD, int>{VK_UP, kSelectAll},
+                                   {VK_DOWN, kUndo},
+                                   {VK_RETURN, kUndo},
+                                   {VK_DOWN, kCut},
+                                   {VK_END, kSelectAll},
+                                   {'Q', kSelectAll},
+                                   {VK_HOME, kUndo}}) {
+        steps.push_back(Press(key));
+        steps.push_back([key = key, lit = lit] { EXPECT_TRUE(IsLit(lit)) << key; });
+    }
+    steps.push_back(Press(VK_ESCAPE));
+    Run(steps);
     EXPECT_EQ("[one] two", Marked(edit));
     EXPECT_EQ(edit, GetFocus());
 }

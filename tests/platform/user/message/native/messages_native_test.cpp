@@ -17,7 +17,6 @@ class MessagesNativeTest : public tests::RecordedTest {
         MakeWindow(WS_POPUP | WS_VISIBLE, 100, 100, 300, 200);
         ASSERT_EQ(GetActiveWindow(), window);
     }
-    HWND other = nullptr;
 };
 
 TEST_F(MessagesNativeTest, AFullQueueIsRefused) {
@@ -27,13 +26,6 @@ TEST_F(MessagesNativeTest, AFullQueueIsRefused) {
     }
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_NOT_ENOUGH_QUOTA));
     EXPECT_EQ(posted, 10000);
-}
-
-TEST_F(MessagesNativeTest, ActivationRaisesTheWindow) {
-    other = Recorder::Get().Make(WS_POPUP | WS_VISIBLE, 450, 100, 100, 100);
-    ASSERT_EQ(GetWindow(other, GW_HWNDNEXT), window);
-    SetActiveWindow(window);
-    EXPECT_EQ(GetWindow(window, GW_HWNDNEXT), other);
 }
 
 TEST_F(MessagesNativeTest, CaretGoesWithItsWindow) {
