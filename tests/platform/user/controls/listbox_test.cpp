@@ -113,8 +113,6 @@ TEST_F(ListBoxTest, MultipleSelectionByMessages) {
     EXPECT_EQ((Indexes{0, 3}), Selected(list));
     Send(list, LB_SETSEL, TRUE, -1);
     EXPECT_EQ(4, Send(list, LB_GETSELCOUNT));
-    Send(list, LB_SETSEL, FALSE, -1);
-    EXPECT_EQ(0, Send(list, LB_GETSELCOUNT));
     EXPECT_EQ(LB_ERR, Send(list, LB_SETSEL, TRUE, 9));
 }
 
@@ -237,8 +235,6 @@ TEST_F(ListBoxTest, ScrollsItemsIntoView) {
     EXPECT_EQ(10, GetScrollPos(list, SB_VERT));
     Send(list, LB_SETTOPINDEX, 49);
     EXPECT_EQ(50 - page, Send(list, LB_GETTOPINDEX)) << "the last page is full";
-    Send(list, WM_VSCROLL, SB_LINEUP);
-    EXPECT_EQ(49 - page, Send(list, LB_GETTOPINDEX));
     Send(list, WM_VSCROLL, SB_TOP);
     Send(list, WM_VSCROLL, SB_LINEDOWN);
     EXPECT_EQ(1, Send(list, LB_GETTOPINDEX));

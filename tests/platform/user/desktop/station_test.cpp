@@ -17,6 +17,9 @@ TEST(Station, FlagsFitTheirRecordAndNoneThatIsTooSmall) {
     EXPECT_EQ(DWORD{ERROR_INVALID_HANDLE}, tests::ErrorOf([&] {
                   return GetUserObjectInformationA(nullptr, UOI_FLAGS, &flags, sizeof flags, &needed);
               }));
+    EXPECT_EQ(DWORD{ERROR_INVALID_PARAMETER}, tests::ErrorOf([&] {
+                  return GetUserObjectInformationA(GetProcessWindowStation(), 99, &flags, sizeof flags, &needed);
+              }));
 }
 
 }  // namespace

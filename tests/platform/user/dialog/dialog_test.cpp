@@ -5,7 +5,6 @@
 
 #include "tests/platform/support/dialog_builder.h"
 #include "tests/platform/support/looking.h"
-#include "tests/support/leaks.h"
 
 namespace {
 
@@ -231,8 +230,11 @@ TEST_F(DialogTest, NothingIsLeftBehind) {
         DestroyWindow(dialog_);
     };
     once();  // caches fill
-    const testing_support::LeakCheck leaks;
+    const DWORD gdi = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+    const DWORD user = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
     once();
+    EXPECT_EQ(gdi, GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS));
+    EXPECT_EQ(user, GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS));
 }
 
 TEST_F(DialogTest, BordersOfControlsAreSunken) {

@@ -6,7 +6,6 @@
 #include "tests/platform/support/expect_rect.h"
 #include "tests/platform/support/looking.h"
 #include "tests/platform/support/recorder.h"
-#include "tests/support/leaks.h"
 
 namespace {
 
@@ -138,11 +137,12 @@ TEST_F(Frames, AltF4ClosesTheWindowAroundTheFocus) {
 TEST_F(Frames, DrawingIsNoLeak) {
     Make(WS_POPUP | WS_VISIBLE | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME, WS_EX_CLIENTEDGE);
     Pump();
-    const testing_support::LeakCheck leaks;
+    const DWORD before = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
     for (int i = 0; i < 20; ++i) {
         SendMessageA(window, WM_NCPAINT, 1, 0);
         SendMessageA(window, WM_NCACTIVATE, i & 1, 0);
     }
+    EXPECT_LE(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), before);
 }
 
 }  // namespace

@@ -129,6 +129,7 @@ TEST_F(Properties, AreKeptByNameWithoutRegardToCase) {
     EXPECT_EQ(GetPropA(window, "Test_IsValid"), nullptr);
     EXPECT_EQ(RemovePropA(window, "Test_IsValid"), nullptr);
     EXPECT_EQ(RemovePropA(window, "Test_Other"), Value(2));
+    EXPECT_FALSE(SetPropA(nullptr, "Test_A", Value(1)));
 }
 
 }  // namespace

@@ -335,22 +335,11 @@ TEST_F(OpenMenus, StayOnTheScreen) {
     const int height = GetSystemMetrics(SM_CYSCREEN);
     SetWindowPos(parent_, nullptr, width - 140, height - 80, 300, 200, SWP_NOZORDER);
     const HWND edit = Make(ES_AUTOHSCROLL, "one two");
-    Select(edit, 7, 7);
-    SetFocus(edit);
     const POINT at = Point(edit, 110, 8);
     Run({[&] { RightClick(at.x, at.y); },
          [&] {
              EXPECT_EQ(at.x, PlaceOf(Menu()).right);
              EXPECT_EQ(at.y, PlaceOf(Menu()).bottom);
-             Key(VK_ESCAPE);
-             Key(VK_APPS);
-         },
-         [&] {
-             POINT caret{};
-             GetCaretPos(&caret);
-             ClientToScreen(edit, &caret);
-             EXPECT_EQ(caret.y, PlaceOf(Menu()).bottom) << "above the line where there is no room below";
-             EXPECT_LE(PlaceOf(Menu()).right, width);
              Key(VK_ESCAPE);
          }});
 }

@@ -3,7 +3,6 @@
 #include <windows.h>
 
 #include "tests/platform/support/dialog_builder.h"
-#include "tests/support/leaks.h"
 
 namespace {
 
@@ -28,8 +27,9 @@ TEST(EndedWhilePainting, ADialogsFontGoesWithIt) {
         EXPECT_FALSE(IsWindow(dialog));
     };
     open();
-    const testing_support::LeakCheck leaks;
+    const DWORD before = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
     open();
+    EXPECT_EQ(before, GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS));
 }
 
 TEST(EndedWhilePainting, AContextOfItChangesNothingForOthers) {

@@ -30,4 +30,11 @@ TEST_F(WindowErrors, NarrowLongsDoNotHoldPointers) {
     DestroyWindow(window);
 }
 
+TEST_F(WindowErrors, APlacementSaysHowLongItIs) {
+    HWND made = Recorder::Get().Make(WS_POPUP, 0, 0, 10, 10);
+    WINDOWPLACEMENT placement{};
+    EXPECT_EQ(DWORD{ERROR_INVALID_PARAMETER}, tests::ErrorOf([&] { return GetWindowPlacement(made, &placement); }));
+    EXPECT_EQ(DWORD{ERROR_INVALID_PARAMETER}, tests::ErrorOf([&] { return SetWindowPlacement(made, &placement); }));
+}
+
 }  // namespace
