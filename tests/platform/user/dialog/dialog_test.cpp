@@ -15,9 +15,6 @@ class DialogTest : public ::testing::Test {
     static inline INT_PTR initResult = FALSE;
     static inline HWND initFocusOffered = nullptr;
     static inline HWND initFocusTaken = nullptr;
-    static inline int commands = 0;
-    static inline WPARAM lastCommand = 0;
-    static inline LPARAM lastControl = 0;
     static INT_PTR CALLBACK Procedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
         switch (message) {
             case WM_INITDIALOG:
@@ -25,13 +22,6 @@ class DialogTest : public ::testing::Test {
                 if (lParam)
                     SetFocus(initFocusTaken = GetDlgItem(dialog, static_cast<int>(lParam)));
                 return initResult;
-            case WM_COMMAND:
-                if (HIWORD(wParam) != BN_CLICKED)
-                    return FALSE;
-                ++commands;
-                lastCommand = wParam;
-                lastControl = lParam;
-                return TRUE;
             case WM_VKEYTOITEM:
                 SetWindowLongPtrA(dialog, DWLP_MSGRESULT, 1);
                 return 77;
@@ -48,8 +38,6 @@ class DialogTest : public ::testing::Test {
     void SetUp() override {
         initResult = FALSE;
         initFocusOffered = initFocusTaken = nullptr;
-        commands = 0;
-        lastCommand = 0;
     }
     void TearDown() override {
         if (dialog_ && IsWindow(dialog_))
@@ -168,17 +156,6 @@ TEST_F(DialogTest, AnswersOfTheDialogProcedure) {
     EXPECT_EQ(77, SendMessageA(dialog_, WM_VKEYTOITEM, 0, 0));
     EXPECT_EQ(4711, SendMessageA(dialog_, WM_USER + 7, 0, 0));
     EXPECT_EQ(0, SendMessageA(dialog_, WM_USER + 8, 0, 0)) << "an earlier result is not reused";
-}
-
-TEST_F(DialogTest, CloseIsCancel) {
-    DialogBuilder builder;
-    builder.Title("").Item("button", "Cancel", IDCANCEL, WS_TABSTOP, 0, 0, 9, 9);
-    ASSERT_NE(nullptr, Make(builder));
-    SendMessageA(dialog_, WM_CLOSE, 0, 0);
-    tests::PumpMessages();
-    EXPECT_EQ(1, commands);
-    EXPECT_EQ(MAKEWPARAM(IDCANCEL, BN_CLICKED), lastCommand);
-    EXPECT_EQ(reinterpret_cast<LPARAM>(GetDlgItem(dialog_, IDCANCEL)), lastControl);
 }
 
 TEST_F(DialogTest, Numbers) {

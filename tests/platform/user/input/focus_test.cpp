@@ -229,15 +229,6 @@ TEST_F(CaretTest, StaysInsideItsWindowAndSurvivesPainting) {
     EXPECT_EQ(Pixel(19, 5), kWhite);
 }
 
-TEST_F(CaretTest, BelongsToOneWindow) {
-    HWND child = Recorder::Get().Make(WS_CHILD | WS_VISIBLE, 0, 0, 20, 20, window);
-    CreateCaret(window, nullptr, 1, 10);
-    EXPECT_FALSE(ShowCaret(child));
-    CreateCaret(child, nullptr, 1, 10);
-    EXPECT_FALSE(ShowCaret(window));
-    EXPECT_TRUE(ShowCaret(child));
-}
-
 TEST_F(CaretTest, BlinksWhileTheThreadWaits) {
     CreateCaret(window, nullptr, 2, 10);
     SetCaretPos(50, 60);

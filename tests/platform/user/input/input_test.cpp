@@ -190,13 +190,6 @@ TEST_F(InputTest, CaptureTakesTheMouseOutsideTheWindow) {
     EXPECT_EQ(GetCapture(), nullptr);
 }
 
-TEST_F(InputTest, CaptureEndsWithItsWindow) {
-    HWND child = Recorder::Get().Make(WS_CHILD | WS_VISIBLE, 0, 0, 10, 10, window);
-    SetCapture(child);
-    DestroyWindow(child);
-    EXPECT_EQ(GetCapture(), nullptr);
-}
-
 TEST_F(InputTest, FrameClicksAreNonClientMessages) {
     Recorder::Get().answer = [](const Heard& heard, LRESULT* result) {
         if (heard.message == WM_NCHITTEST) {

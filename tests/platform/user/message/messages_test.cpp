@@ -45,40 +45,26 @@ TEST_F(MessagesTest, PostedMessagesKeepTheirOrderAndContents) {
     EXPECT_FALSE(PeekMessageA(&message, nullptr, WM_USER, WM_USER + 9, PM_REMOVE));
 }
 
-TEST_F(MessagesTest, PostedComesBeforeQuitAndQuitBeforeTimer) {
-    ASSERT_NE(SetTimer(window, 1, USER_TIMER_MINIMUM, nullptr), 0u);
-    Sleep(40);
-    PostQuitMessage(7);
-    PostMessageA(window, WM_USER, 0, 0);
-    MSG message{};
-    ASSERT_TRUE(PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE));
-    EXPECT_EQ(message.message, static_cast<UINT>(WM_USER));
-    ASSERT_TRUE(PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE));
-    EXPECT_EQ(message.message, static_cast<UINT>(WM_QUIT));
-    EXPECT_EQ(GetMessageA(&message, nullptr, 0, 0), 0);
-    EXPECT_EQ(message.wParam, 7u);
-    ASSERT_TRUE(GetMessageA(&message, nullptr, 0, 0));
-    EXPECT_EQ(message.message, static_cast<UINT>(WM_TIMER));
-    KillTimer(window, 1);
-}
-
-TEST_F(MessagesTest, PaintingComesBeforeTimersAndAfterPostedMessages) {
+TEST_F(MessagesTest, PostedOnesQuitPaintingAndTimersComeInThisOrder) {
     ShowWindow(window, SW_SHOWNA);
     UpdateWindow(window);
     Pump();
     ASSERT_NE(SetTimer(window, 1, USER_TIMER_MINIMUM, nullptr), 0u);
     Sleep(40);
     InvalidateRect(window, nullptr, FALSE);
+    PostQuitMessage(7);
     PostMessageA(window, WM_USER, 0, 0);
+    MSG message{};
     std::vector<UINT> order;
-    for (int i = 0; i < 3; ++i) {
-        MSG message{};
-        ASSERT_TRUE(PeekMessageA(&message, window, 0, 0, PM_REMOVE));
+    for (int i = 0; i < 4; ++i) {
+        ASSERT_TRUE(PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE));
+        EXPECT_EQ(GetMessageA(&message, nullptr, 0, 0) == 0, message.message == WM_QUIT);
+        EXPECT_TRUE(message.message != WM_QUIT || message.wParam == 7);
         order.push_back(message.message);
         DispatchMessageA(&message);
     }
     KillTimer(window, 1);
-    EXPECT_EQ(order, (std::vector<UINT>{WM_USER, WM_PAINT, WM_TIMER}));
+    EXPECT_EQ(order, (std::vector<UINT>{WM_USER, WM_QUIT, WM_PAINT, WM_TIMER}));
 }
 
 TEST_F(MessagesTest, FiltersByWindowChildrenAndRange) {

@@ -202,21 +202,6 @@ TEST_F(Windows, AreEnabledAndDisabled) {
     EXPECT_GE(Recorder::Get().Count(WM_CANCELMODE), 1);
 }
 
-TEST_F(Windows, LongsAreReadAndWritten) {
-    HWND parent = Make(WS_POPUP, 0, 0, 50, 50);
-    HWND window = Child(parent, 0, 0, 10, 10);
-    SetWindowLongPtrA(window, GWLP_ID, 77);
-    EXPECT_EQ(GetWindowLongPtrA(window, GWLP_ID), 77);
-    EXPECT_EQ(SetWindowLongPtrA(window, GWLP_ID, 78), 77);
-    EXPECT_EQ(GetDlgCtrlID(window), 78);
-    EXPECT_EQ(SetWindowLongPtrA(window, GWLP_USERDATA, 5), 0);
-    EXPECT_EQ(GetWindowLongPtrA(window, GWLP_USERDATA), 5);
-    EXPECT_EQ(DWORD{ERROR_INVALID_INDEX}, tests::ErrorOf([&] { return GetWindowLongPtrA(window, 0); }));
-    const LONG before = GetWindowLongA(window, GWL_STYLE);
-    EXPECT_EQ(SetWindowLongA(window, GWL_STYLE, before | WS_TABSTOP), before);
-    EXPECT_EQ(GetWindowLongA(window, GWL_STYLE), static_cast<LONG>(before | WS_TABSTOP));
-}
-
 TEST_F(Windows, NeverComeIntoACircle) {
     HWND first = Make(WS_OVERLAPPEDWINDOW, 0, 0, 100, 100);
     HWND second = Make(WS_OVERLAPPEDWINDOW, 0, 0, 100, 100);

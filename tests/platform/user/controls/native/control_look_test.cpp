@@ -63,16 +63,6 @@ TEST_F(ControlLookTest, BaseUnitsAreSixByThirteen) {
     EXPECT_EQ(23, Client(1).bottom);
 }
 
-TEST_F(ControlLookTest, APlainButtonIsARaisedBevel) {
-    EXPECT_EQ(highlight, Pixel(2, 0, 0));
-    EXPECT_EQ(highlight, Pixel(2, 0, 21));
-    EXPECT_EQ(dark, Pixel(2, 74, 22));
-    EXPECT_EQ(dark, Pixel(2, 0, 22));
-    EXPECT_EQ(shadow, Pixel(2, 73, 21));
-    EXPECT_EQ(face, Pixel(2, 4, 4));
-    EXPECT_GT(Count(2, black, Client(2)), 20) << "its text";
-}
-
 TEST_F(ControlLookTest, TheDefaultButtonHasAnOutlineAndFocusDots) {
     EXPECT_EQ(black, Pixel(1, 0, 0));
     EXPECT_EQ(black, Pixel(1, 74, 22));

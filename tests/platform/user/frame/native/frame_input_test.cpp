@@ -48,14 +48,6 @@ TEST_F(FrameInput, TheCaptionDragsTheWindow) {
     EXPECT_EQ(GetCapture(), nullptr);
 }
 
-TEST_F(FrameInput, EscapePutsTheWindowBack) {
-    Play({At(180, 112, MOUSEEVENTF_LEFTDOWN), At(220, 142, 0), Key(VK_ESCAPE), Key(VK_ESCAPE, KEYEVENTF_KEYUP),
-          At(230, 150, MOUSEEVENTF_LEFTUP)});
-    EXPECT_GE(Recorder::Get().Count(WM_WINDOWPOSCHANGED), 2);
-    EXPECT_EQ(Place().left, 100);
-    EXPECT_EQ(Place().top, 100);
-}
-
 TEST_F(FrameInput, TheCaptionStaysInReach) {
     const int width = GetSystemMetrics(SM_CXSCREEN);
     const int height = GetSystemMetrics(SM_CYSCREEN);

@@ -56,16 +56,6 @@ TEST_F(Exposure, OrderHidingAndDestroying) {
     EXPECT_EQ(Screen(40, 40), RGB(0, 0, 128));
 }
 
-TEST_F(Exposure, CoveredWindowsHaveNothingToPaint) {
-    HWND lower = Top(10, 10, kRed);
-    Top(10, 10, kGreen);
-    Settle();
-    InvalidateRect(lower, nullptr, TRUE);
-    EXPECT_FALSE(GetUpdateRect(lower, nullptr, FALSE));
-    Settle();
-    EXPECT_EQ(Screen(20, 20), kGreen);
-}
-
 TEST_F(Exposure, AContextThatIsHeldFollowsItsWindow) {
     HWND window = Top(10, 10, kRed);
     Settle();
