@@ -61,6 +61,15 @@ class Controls : public ::testing::Test {
     static std::vector<UINT> TakeNotified() {
         return std::exchange(notified, {});
     }
+    static void ExpectDrawn(const DRAWITEMSTRUCT& item, UINT type, UINT index, ULONG_PTR data, UINT action,
+                            UINT state) {
+        EXPECT_EQ(type, item.CtlType);
+        EXPECT_EQ(UINT{kId}, item.CtlID);
+        EXPECT_EQ(index, item.itemID);
+        EXPECT_EQ(data, item.itemData);
+        EXPECT_EQ(action, item.itemAction);
+        EXPECT_EQ(state, item.itemState);
+    }
     /// A point in an item of a list.
     static LPARAM PointIn(HWND list, int index) {
         RECT rect{};

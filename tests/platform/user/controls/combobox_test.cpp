@@ -218,12 +218,8 @@ TEST_F(ComboBoxTest, AnOwnerDrawsFieldAndItems) {
     UpdateWindow(combo);
     ASSERT_FALSE(drawn.empty());
     const DRAWITEMSTRUCT field = drawn.back();
-    EXPECT_EQ(UINT{ODT_COMBOBOX}, field.CtlType);
-    EXPECT_EQ(UINT{kId}, field.CtlID);
-    EXPECT_EQ(1U, field.itemID);
-    EXPECT_EQ(9U, field.itemData);
+    ExpectDrawn(field, ODT_COMBOBOX, 1, 9, field.itemAction, ODS_COMBOBOXEDIT);
     EXPECT_EQ(combo, field.hwndItem);
-    EXPECT_EQ(UINT{ODS_COMBOBOXEDIT}, field.itemState);
     drawn.clear();
     Send(combo, WM_KEYDOWN, VK_F4, 1);
     UpdateWindow(ComboList(combo));

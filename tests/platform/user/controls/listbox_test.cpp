@@ -256,13 +256,8 @@ TEST_F(ListBoxTest, AnOwnerMeasuresAndDraws) {
     UpdateWindow(list);
     ASSERT_GE(drawn.size(), 2U);
     const DRAWITEMSTRUCT second = drawn.back();
-    EXPECT_EQ(UINT{ODT_LISTBOX}, second.CtlType);
-    EXPECT_EQ(UINT{kId}, second.CtlID);
-    EXPECT_EQ(1U, second.itemID);
-    EXPECT_EQ(UINT{ODA_DRAWENTIRE}, second.itemAction);
-    EXPECT_EQ(0U, second.itemState);
+    ExpectDrawn(second, ODT_LISTBOX, 1, 22, ODA_DRAWENTIRE, 0);
     EXPECT_EQ(list, second.hwndItem);
-    EXPECT_EQ(22U, second.itemData);
     EXPECT_EQ(17, second.rcItem.top);
     EXPECT_EQ(34, second.rcItem.bottom);
 

@@ -15,14 +15,12 @@ class Clipboard : public EditControl {
         EditControl::TearDown();
     }
 
-    void Put(const char* text) const {
-        const HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, static_cast<SIZE_T>(lstrlenA(text)) + 1);
-        lstrcpyA(static_cast<LPSTR>(GlobalLock(block)), text);
-        GlobalUnlock(block);
-        ASSERT_TRUE(OpenClipboard(parent_));
-        EmptyClipboard();
-        EXPECT_EQ(block, SetClipboardData(CF_TEXT, block));
-        CloseClipboard();
+    void Put(const char* text) {
+        const HWND lines = Make(ES_MULTILINE, text);
+        Select(lines, 0, -1);
+        Send(lines, WM_COPY);
+        EXPECT_EQ(text, Taken());
+        DestroyWindow(lines);
     }
     std::string Taken() const {
         EXPECT_TRUE(OpenClipboard(parent_));

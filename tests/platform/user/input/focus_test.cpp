@@ -172,10 +172,6 @@ class CaretTest : public FocusTest {
         UpdateWindow(window);
         Pump();
     }
-    void TearDown() override {
-        DestroyCaret();
-        FocusTest::TearDown();
-    }
     COLORREF Pixel(int x, int y) {
         return tests::PixelOf(window, x, y);
     }

@@ -12,14 +12,6 @@ LRESULT CALLBACK Plain(HWND window, UINT message, WPARAM wParam, LPARAM lParam) 
     return message == WM_USER ? 1 : DefWindowProcA(window, message, wParam, lParam);
 }
 
-WNDPROC baseProcedure = nullptr;
-int heard = 0;
-
-LRESULT CALLBACK CountAndPassOn(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    ++heard;
-    return CallWindowProcA(baseProcedure, window, message, wParam, lParam);
-}
-
 // Modules of one's own are hard to come by in a test; classes only compare these values.
 HINSTANCE const kProgram = GetModuleHandleA(nullptr);
 
@@ -27,7 +19,6 @@ class Classes : public ::testing::Test {
   protected:
     void TearDown() override {
         UnregisterClassA("TestClass", kProgram);
-        UnregisterClassA("TestSuper", kProgram);
     }
 
     static WNDCLASSA Definition(const char* name = "TestClass") {
@@ -82,29 +73,6 @@ TEST_F(Classes, AnswerWithTheDocumentedErrors) {
     EXPECT_EQ(DWORD{ERROR_CLASS_DOES_NOT_EXIST},
               tests::ErrorOf([&] { return GetClassInfoA(kProgram, "TestClass", &found); }));
     EXPECT_EQ(Make("TestClass"), nullptr);
-}
-
-TEST_F(Classes, ABaseClassCanBeBuiltUpon) {
-    WNDCLASSA base{};
-    ASSERT_TRUE(GetClassInfoA(nullptr, "button", &base));
-    ASSERT_NE(base.lpfnWndProc, nullptr);
-    baseProcedure = base.lpfnWndProc;
-    heard = 0;
-    base.lpfnWndProc = CountAndPassOn;
-    const int slot = base.cbWndExtra;
-    base.cbWndExtra += static_cast<int>(sizeof(LONG_PTR));
-    base.style |= CS_GLOBALCLASS;
-    base.hInstance = kProgram;
-    base.lpszClassName = "TestSuper";
-    ASSERT_NE(RegisterClassA(&base), 0);
-    HWND window = CreateWindowExA(0, "TestSuper", "Text", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr, kProgram, nullptr);
-    ASSERT_NE(window, nullptr);
-    EXPECT_GT(heard, 0);
-    EXPECT_EQ(SetWindowLongPtrA(window, slot, 0x1234567), 0);
-    EXPECT_EQ(GetWindowLongPtrA(window, slot), 0x1234567);
-    EXPECT_EQ(GetWindowTextLengthA(window), 4);
-    EXPECT_EQ(DWORD{ERROR_INVALID_INDEX}, tests::ErrorOf([&] { return SetWindowLongPtrA(window, slot + 1, 1); }));
-    DestroyWindow(window);
 }
 
 class Properties : public ::testing::Test {

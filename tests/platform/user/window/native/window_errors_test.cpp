@@ -27,6 +27,8 @@ TEST_F(WindowErrors, DeadHandlesAndUnknownClasses) {
 TEST_F(WindowErrors, NarrowLongsDoNotHoldPointers) {
     HWND window = Recorder::Get().Make(WS_POPUP, 0, 0, 10, 10);
     EXPECT_EQ(DWORD{ERROR_INVALID_INDEX}, tests::ErrorOf([&] { return GetWindowLongA(window, GWLP_WNDPROC); }));
+    EXPECT_EQ(DWORD{ERROR_INVALID_INDEX}, tests::ErrorOf([&] { return GetWindowLongPtrA(window, 0); }));
+    EXPECT_EQ(DWORD{ERROR_INVALID_INDEX}, tests::ErrorOf([&] { return SetWindowLongPtrA(window, 1, 1); }));
     DestroyWindow(window);
 }
 
