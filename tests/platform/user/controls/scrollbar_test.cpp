@@ -4,11 +4,14 @@
 #include <utility>
 #include <vector>
 
+#include "tests/platform/support/hands.h"
 #include "tests/platform/support/looking.h"
 #include "tests/platform/support/recorder.h"
 
 namespace {
 
+using tests::At;
+using tests::Play;
 using tests::Recorder;
 
 class ScrollBarTest : public tests::RecordedTest {
@@ -31,15 +34,6 @@ class ScrollBarTest : public tests::RecordedTest {
     HWND MakeBar(DWORD style) {
         return CreateWindowExA(0, "scrollbar", "", WS_CHILD | WS_VISIBLE | style, 10, 10, 20, 120, window, nullptr,
                                nullptr, nullptr);
-    }
-    static void Mouse(POINT point, std::initializer_list<DWORD> events) {
-        SetCursorPos(point.x, point.y);
-        for (const DWORD event : events) {
-            INPUT input{};
-            input.type = INPUT_MOUSE;
-            input.mi.dwFlags = event;
-            SendInput(1, &input, sizeof input);
-        }
     }
     /// The codes that were heard, with the positions of those that carry one.
     static std::vector<std::pair<int, int>> Codes(UINT message) {
@@ -114,7 +108,7 @@ TEST_F(ScrollBarTest, PressingAnArrowAndTheShaft) {
     const RECT rect = tests::PlaceOf(window);
     const auto press = [&](int y) {
         Recorder::Get().Clear();
-        Mouse({rect.right - 5, y}, {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP});
+        Play({At(rect.right - 5, y, MOUSEEVENTF_LEFTDOWN), At(rect.right - 5, y, MOUSEEVENTF_LEFTUP)});
         tests::PumpUntil([] { return !Codes(WM_VSCROLL).empty() && Codes(WM_VSCROLL).back().first == SB_ENDSCROLL; });
         return Codes(WM_VSCROLL).empty() ? -1 : Codes(WM_VSCROLL).front().first;
     };
@@ -129,11 +123,11 @@ TEST_F(ScrollBarTest, DraggingTheThumb) {
     // Everything waits in the queue before the press is delivered: the bar takes it from there.
     SetCursorPos(rect.right - 5, rect.top + GetSystemMetrics(SM_CYVSCROLL) + 4);
     tests::Pump();
-    Mouse({rect.right - 5, rect.top + GetSystemMetrics(SM_CYVSCROLL) + 4}, {MOUSEEVENTF_LEFTDOWN});
+    Play({At(rect.right - 5, rect.top + GetSystemMetrics(SM_CYVSCROLL) + 4, MOUSEEVENTF_LEFTDOWN)});
     PostMessageA(window, WM_APP, 0, 0);
     Recorder::Get().answer = [&](const tests::Heard& heard, LRESULT*) {
         if (heard.message == WM_APP) {
-            Mouse({rect.right - 5, rect.bottom - 20}, {MOUSEEVENTF_LEFTUP});
+            Play({At(rect.right - 5, rect.bottom - 20, MOUSEEVENTF_LEFTUP)});
             return true;
         }
         return false;

@@ -6,6 +6,7 @@
 #include <thread>
 #include <vector>
 
+#include "tests/platform/support/hands.h"
 #include "tests/platform/support/looking.h"
 #include "tests/platform/support/recorder.h"
 
@@ -101,12 +102,10 @@ TEST_F(FocusTest, ClickActivatesAndRaises) {
     ASSERT_EQ(GetActiveWindow(), other);
     Pump();
     Recorder::Get().Clear();
-    SetCursorPos(120, 120);
-    INPUT click[2] = {};
-    click[0].type = click[1].type = INPUT_MOUSE;
-    click[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
-    click[1].mi.dwFlags = MOUSEEVENTF_LEFTUP;
-    SendInput(2, click, sizeof(INPUT));
+    const auto click = [](int x) {
+        tests::Play({tests::At(x, 120, MOUSEEVENTF_LEFTDOWN), tests::At(x, 120, MOUSEEVENTF_LEFTUP)});
+    };
+    click(120);
     ASSERT_TRUE(PumpUntil([] { return Recorder::Get().Find(WM_LBUTTONUP) != nullptr; }));
     EXPECT_EQ(GetActiveWindow(), window);
     const Heard* came = Recorder::Get().Find(WM_ACTIVATE, window);
@@ -120,8 +119,7 @@ TEST_F(FocusTest, ClickActivatesAndRaises) {
         return heard.message == WM_MOUSEACTIVATE && heard.window == other;
     };
     Recorder::Get().Clear();
-    SetCursorPos(470, 120);
-    SendInput(2, click, sizeof(INPUT));
+    click(470);
     ASSERT_TRUE(PumpUntil([] { return Recorder::Get().Find(WM_LBUTTONUP) != nullptr; }));
     EXPECT_EQ(GetActiveWindow(), window);
     EXPECT_NE(Recorder::Get().Find(WM_LBUTTONDOWN), nullptr);

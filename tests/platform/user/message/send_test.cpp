@@ -6,6 +6,7 @@
 #include <thread>
 
 #include "tests/platform/support/looking.h"
+#include "tests/platform/support/dialog_builder.h"
 #include "tests/platform/support/recorder.h"
 
 namespace {
@@ -51,11 +52,9 @@ LRESULT CALLBACK PartnerProcedure(HWND window, UINT message, WPARAM wParam, LPAR
 }
 
 HWND MakeWindow() {
-    WNDCLASSA windowClass{};
-    windowClass.lpfnWndProc = PartnerProcedure;
-    windowClass.lpszClassName = "SendTest";
-    RegisterClassA(&windowClass);
-    return CreateWindowExA(0, "SendTest", "", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr, nullptr, nullptr);
+    tests::RegisterPlain("SendTest", PartnerProcedure);
+    return CreateWindowExA(0, "SendTest", "", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr, GetModuleHandleA(nullptr),
+                           nullptr);
 }
 
 class SendTest : public ::testing::Test {

@@ -286,7 +286,7 @@ TEST_F(OpenMenus, AreGoneThroughByKeys) {
              Key(VK_ESCAPE);
          }});
     // From one end to the other; nothing to undo; past a line; no item has this letter.
-    Steps steps{Ask(edit)};
+    Steps steps{Press(VK_APPS)};
     for (const auto& [key, lit] : {std::pair<WORD, int>{VK_UP, kSelectAll},
                                    {VK_DOWN, kUndo},
                                    {VK_RETURN, kUndo},
