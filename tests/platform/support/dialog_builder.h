@@ -163,10 +163,6 @@ class KeyHeld {
     WORD key_;
 };
 
-struct ShiftHeld : KeyHeld {
-    ShiftHeld() : KeyHeld(VK_SHIFT) {}
-};
-
 /// The edit control of a combo box, or the combo box itself where it has none.
 inline HWND ComboField(HWND combo) {
     const HWND edit = FindWindowExA(combo, nullptr, "edit", nullptr);
@@ -179,15 +175,19 @@ inline HWND ComboList(HWND combo) {
     return child ? child : FindWindowExA(nullptr, nullptr, "ComboLBox", nullptr);
 }
 
+inline void RegisterPlain(const char* name, WNDPROC procedure = DefWindowProcA) {
+    WNDCLASSA windowClass{};
+    windowClass.lpfnWndProc = procedure;
+    windowClass.hInstance = GetModuleHandleA(nullptr);
+    windowClass.lpszClassName = name;
+    RegisterClassA(&windowClass);  // the tests share it: it is there from the second time on
+}
+
 /// A top-level window that can own dialogs and be activated.
 inline HWND MakeOwner(WNDPROC procedure = DefWindowProcA) {
-    WNDCLASSA windowClass{};
-    windowClass.lpfnWndProc = DefWindowProcA;
-    windowClass.hInstance = GetModuleHandleA(nullptr);
-    windowClass.lpszClassName = "tests_dialog_owner";
-    RegisterClassA(&windowClass);  // the tests share it: it is there from the second time on
+    RegisterPlain("tests_dialog_owner");
     const HWND owner = CreateWindowExA(0, "tests_dialog_owner", "owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 400,
-                                       300, nullptr, nullptr, windowClass.hInstance, nullptr);
+                                       300, nullptr, nullptr, GetModuleHandleA(nullptr), nullptr);
     SetWindowLongPtrA(owner, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
     return owner;
 }

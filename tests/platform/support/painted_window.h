@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "tests/platform/support/expect_rect.h"
+#include "tests/platform/support/looking.h"
 
 /// What a window paints itself with, and what it has heard.
 struct Painted {
@@ -116,8 +117,7 @@ class PaintedWindows : public ::testing::Test {
     /// The colour that is seen at a point of a window's client area.
     static COLORREF PixelAt(HWND window, int x, int y) {
         HWND top = GetAncestor(window, GA_ROOT);
-        RECT place{};
-        GetWindowRect(top, &place);
+        const RECT place = tests::PlaceOf(top);
         POINT point{x, y};
         ClientToScreen(window, &point);
         HDC context = GetWindowDC(top);

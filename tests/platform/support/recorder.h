@@ -1,6 +1,7 @@
 // A window that writes down what it hears, for tests of messages and input.
 #pragma once
 
+#include <gtest/gtest.h>
 #include <windows.h>
 
 #include <functional>
@@ -39,6 +40,15 @@ class Recorder {
         answer = nullptr;
     }
 
+    /// Ends all windows that it has made and that are still there.
+    void EndWindows() {
+        for (; !made_.empty(); made_.pop_back()) {
+            if (IsWindow(made_.back())) {
+                DestroyWindow(made_.back());
+            }
+        }
+    }
+
     std::vector<UINT> Numbers(const std::vector<UINT>& wanted, HWND window = nullptr) const {
         std::vector<UINT> numbers;
         for (const Heard& each : heard) {
@@ -64,9 +74,12 @@ class Recorder {
         return static_cast<int>(Numbers({message}).size());
     }
 
-    HWND Make(DWORD style, int x, int y, int width, int height, HWND parent = nullptr) {
+    HWND Make(DWORD style, int x, int y, int width, int height, HWND parent = nullptr, DWORD exStyle = 0,
+              const char* text = "") {
         Register();
-        return CreateWindowExA(0, kClass, "", style, x, y, width, height, parent, nullptr, nullptr, nullptr);
+        made_.push_back(
+            CreateWindowExA(exStyle, kClass, text, style, x, y, width, height, parent, nullptr, nullptr, nullptr));
+        return made_.back();
     }
 
   private:
@@ -90,6 +103,8 @@ class Recorder {
         }
         return DefWindowProcA(window, message, wParam, lParam);
     }
+
+    std::vector<HWND> made_;
 };
 
 /// Takes and delivers messages until none is left.
@@ -100,6 +115,29 @@ inline void Pump() {
         DispatchMessageA(&message);
     }
 }
+
+/// Leaves neither its window nor others of the class behind.
+class RecordedTest : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        Recorder::Get().Reset();
+    }
+    void TearDown() override {
+        ReleaseCapture();
+        Recorder::Get().Reset();
+        Recorder::Get().EndWindows();
+        Pump();
+    }
+    /// A window in the foreground that has heard nothing yet.
+    void MakeWindow(DWORD style, int x, int y, int width, int height) {
+        window = Recorder::Get().Make(style, x, y, width, height);
+        ASSERT_NE(window, nullptr);
+        SetForegroundWindow(window);
+        Pump();
+        Recorder::Get().Reset();
+    }
+    HWND window = nullptr;
+};
 
 /// How long a test waits, in milliseconds, for what must come on the slowest machine.
 constexpr DWORD kPatience = 60000;

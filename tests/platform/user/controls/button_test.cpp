@@ -1,67 +1,20 @@
 // The "button" class: states, notifications, mouse and keyboard, owner drawing.
-#include <gtest/gtest.h>
-
-#include <vector>
-
-#include "tests/platform/support/dialog_builder.h"
+#include "tests/platform/support/controls.h"
 
 namespace {
 
-class ButtonTest : public ::testing::Test {
-  protected:
-    static inline std::vector<UINT> notified;
-    static inline DRAWITEMSTRUCT drawn{};
-    static inline std::vector<UINT> drawActions;
-    static LRESULT CALLBACK ParentProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-        if (message == WM_COMMAND) {
-            notified.push_back(HIWORD(wParam));
-            return 0;
-        }
-        if (message == WM_DRAWITEM) {
-            drawn = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
-            drawActions.push_back(drawn.itemAction);
-            return TRUE;
-        }
-        return DefWindowProcA(window, message, wParam, lParam);
-    }
-    static LRESULT CALLBACK DestroyingProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-        if (message == WM_COMMAND)
-            DestroyWindow(reinterpret_cast<HWND>(lParam));
-        return DefWindowProcA(window, message, wParam, lParam);
-    }
+using Codes = std::vector<UINT>;
 
-    void SetUp() override {
-        parent_ = tests::MakeOwner(ParentProcedure);
-        SetActiveWindow(parent_);
-        notified.clear();
-        drawActions.clear();
-        drawn = DRAWITEMSTRUCT{};
-    }
-    void TearDown() override {
-        DestroyWindow(parent_);
-    }
-    HWND Make(DWORD style, int id = 100) {
-        return CreateWindowExA(0, "button", "&Text", WS_CHILD | WS_VISIBLE | style, 10, 10, 80, 24, parent_,
-                               reinterpret_cast<HMENU>(static_cast<LONG_PTR>(id)), nullptr, nullptr);
-    }
-    static LRESULT Send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
-        return SendMessageA(window, message, wParam, lParam);
+class ButtonTest : public tests::Controls {
+  protected:
+    HWND Make(DWORD style, int id = kId) {
+        return MakeControl("button", "&Text", style, 80, 24, id);
     }
     /// The documented bits of the state.
     static LRESULT State(HWND button) {
         return Send(button, BM_GETSTATE) & (BST_CHECKED | BST_INDETERMINATE | BST_PUSHED | BST_FOCUS);
     }
-
-    HWND parent_ = nullptr;
 };
-
-TEST_F(ButtonTest, DialogCodes) {
-    EXPECT_EQ(DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON, Send(Make(BS_PUSHBUTTON), WM_GETDLGCODE));
-    EXPECT_EQ(DLGC_BUTTON | DLGC_DEFPUSHBUTTON, Send(Make(BS_DEFPUSHBUTTON), WM_GETDLGCODE));
-    EXPECT_EQ(DLGC_BUTTON | DLGC_RADIOBUTTON, Send(Make(BS_AUTORADIOBUTTON), WM_GETDLGCODE));
-    EXPECT_EQ(DLGC_BUTTON, Send(Make(BS_AUTOCHECKBOX), WM_GETDLGCODE));
-    EXPECT_EQ(DLGC_STATIC, Send(Make(BS_GROUPBOX), WM_GETDLGCODE));
-}
 
 TEST_F(ButtonTest, MousePressesLeavesReturnsAndClicks) {
     const HWND button = Make(BS_PUSHBUTTON);
@@ -75,10 +28,9 @@ TEST_F(ButtonTest, MousePressesLeavesReturnsAndClicks) {
     EXPECT_EQ(BST_PUSHED | BST_FOCUS, State(button));
     EXPECT_TRUE(notified.empty());
     Send(button, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
-    EXPECT_EQ(std::vector<UINT>{BN_CLICKED}, notified);
+    EXPECT_EQ(Codes{BN_CLICKED}, TakeNotified());
     EXPECT_EQ(nullptr, GetCapture());
 
-    notified.clear();
     Send(button, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
     Send(button, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(5, 50));
     Send(button, WM_LBUTTONUP, 0, MAKELPARAM(5, 50));
@@ -98,8 +50,7 @@ TEST_F(ButtonTest, SpaceClicksOnRelease) {
     EXPECT_TRUE(State(button) & BST_PUSHED);
     EXPECT_TRUE(notified.empty());
     Send(button, WM_KEYUP, VK_SPACE, 1);
-    EXPECT_EQ(std::vector<UINT>{BN_CLICKED}, notified);
-    notified.clear();
+    EXPECT_EQ(Codes{BN_CLICKED}, TakeNotified());
     Send(button, WM_KEYDOWN, VK_SPACE, 1);
     SetFocus(parent_);
     EXPECT_EQ(0, State(button));
@@ -112,7 +63,7 @@ TEST_F(ButtonTest, AutomaticKindsChangeBeforeTheyNotify) {
     EXPECT_EQ(BST_CHECKED, Send(check, BM_GETCHECK));
     Send(check, BM_CLICK);
     EXPECT_EQ(BST_UNCHECKED, Send(check, BM_GETCHECK));
-    EXPECT_EQ((std::vector<UINT>{BN_CLICKED, BN_CLICKED}), notified);
+    EXPECT_EQ((Codes{BN_CLICKED, BN_CLICKED}), notified);
 
     const HWND three = Make(BS_AUTO3STATE);
     for (const LRESULT expected : {BST_CHECKED, BST_INDETERMINATE, BST_UNCHECKED}) {
@@ -160,35 +111,29 @@ TEST_F(ButtonTest, AGroupBoxLetsTheMouseThrough) {
 TEST_F(ButtonTest, OwnerDrawing) {
     const HWND button = Make(BS_OWNERDRAW, 321);
     UpdateWindow(button);
-    ASSERT_FALSE(drawActions.empty());
-    EXPECT_EQ(UINT{ODA_DRAWENTIRE}, drawActions.back());
-    EXPECT_EQ(UINT{ODT_BUTTON}, drawn.CtlType);
-    EXPECT_EQ(321U, drawn.CtlID);
-    EXPECT_EQ(button, drawn.hwndItem);
-    EXPECT_EQ(80, drawn.rcItem.right);
-    EXPECT_EQ(0U, drawn.itemState);
+    ASSERT_FALSE(drawn.empty());
+    const DRAWITEMSTRUCT first = drawn.back();
+    EXPECT_EQ(UINT{ODA_DRAWENTIRE}, first.itemAction);
+    EXPECT_EQ(UINT{ODT_BUTTON}, first.CtlType);
+    EXPECT_EQ(321U, first.CtlID);
+    EXPECT_EQ(button, first.hwndItem);
+    EXPECT_EQ(80, first.rcItem.right);
+    EXPECT_EQ(0U, first.itemState);
     SetFocus(button);
-    EXPECT_EQ(UINT{ODA_FOCUS}, drawActions.back());
-    EXPECT_EQ(UINT{ODS_FOCUS}, drawn.itemState);
+    EXPECT_EQ(UINT{ODA_FOCUS}, drawn.back().itemAction);
+    EXPECT_EQ(UINT{ODS_FOCUS}, drawn.back().itemState);
     Send(button, BM_SETSTATE, TRUE);
-    EXPECT_EQ(UINT{ODA_SELECT}, drawActions.back());
-    EXPECT_EQ(UINT{ODS_FOCUS | ODS_SELECTED}, drawn.itemState);
+    EXPECT_EQ(UINT{ODA_SELECT}, drawn.back().itemAction);
+    EXPECT_EQ(UINT{ODS_FOCUS | ODS_SELECTED}, drawn.back().itemState);
     Send(button, BM_SETSTATE, FALSE);
     EnableWindow(button, FALSE);
     UpdateWindow(button);
-    EXPECT_TRUE(drawn.itemState & ODS_DISABLED);
-}
-
-TEST_F(ButtonTest, StyleChangesKeepTheOtherStyles) {
-    const HWND button = Make(BS_PUSHBUTTON | WS_TABSTOP);
-    const LONG before = GetWindowLongA(button, GWL_STYLE);
-    Send(button, BM_SETSTYLE, BS_DEFPUSHBUTTON, TRUE);
-    EXPECT_EQ(before | BS_DEFPUSHBUTTON, GetWindowLongA(button, GWL_STYLE));
+    EXPECT_TRUE(drawn.back().itemState & ODS_DISABLED);
 }
 
 TEST_F(ButtonTest, DestroyedByItsOwnClick) {
     const HWND button = Make(BS_PUSHBUTTON);
-    SetWindowLongPtrA(parent_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(DestroyingProcedure));
+    destroyOn = BN_CLICKED;
     Send(button, BM_CLICK);
     EXPECT_FALSE(IsWindow(button));
 }

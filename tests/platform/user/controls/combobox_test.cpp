@@ -1,91 +1,31 @@
 // The "combobox" class: its three kinds, the dropped list under mouse and keyboard, notifications, owner drawing.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <string>
-#include <vector>
-
-#include "tests/platform/support/dialog_builder.h"
+#include "tests/platform/support/controls.h"
 
 namespace {
 
 using tests::ComboField;
 using tests::ComboList;
-using Notified = std::vector<int>;
+using Codes = std::vector<UINT>;
 
-class ComboBoxTest : public ::testing::Test {
+class ComboBoxTest : public tests::Controls {
   protected:
-    static inline std::vector<int> notified;
-    static inline std::string textAtChange;
-    static inline std::vector<UINT> measured;
-    static inline std::vector<DRAWITEMSTRUCT> drawn;
-    static std::string TextOf(HWND window) {
-        char text[64] = "";
-        SendMessageA(window, WM_GETTEXT, sizeof text, reinterpret_cast<LPARAM>(text));
-        return text;
-    }
-    static LRESULT CALLBACK ParentProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-        switch (message) {
-            case WM_COMMAND:
-                // Windows tells of more.
-                for (const int code : {CBN_SELCHANGE, CBN_DROPDOWN, CBN_CLOSEUP, CBN_EDITCHANGE, CBN_KILLFOCUS})
-                    if (HIWORD(wParam) == code)
-                        notified.push_back(code);
-                if (HIWORD(wParam) == CBN_SELCHANGE)
-                    textAtChange = TextOf(reinterpret_cast<HWND>(lParam));
-                return 0;
-            case WM_MEASUREITEM:
-                measured.push_back(reinterpret_cast<const MEASUREITEMSTRUCT*>(lParam)->itemID);
-                reinterpret_cast<MEASUREITEMSTRUCT*>(lParam)->itemHeight = 18;
-                return TRUE;
-            case WM_DRAWITEM:
-                drawn.push_back(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
-                return TRUE;
-            default:
-                return DefWindowProcA(window, message, wParam, lParam);
-        }
-    }
-
     void SetUp() override {
-        parent_ = tests::MakeOwner(ParentProcedure);
-        SetActiveWindow(parent_);
-        Forget();
-    }
-    void TearDown() override {
-        DestroyWindow(parent_);
-    }
-    static void Forget() {
-        notified.clear();
-        measured.clear();
-        drawn.clear();
-        textAtChange.clear();
+        Controls::SetUp();
+        heard = {CBN_SELCHANGE, CBN_DROPDOWN, CBN_CLOSEUP, CBN_EDITCHANGE, CBN_KILLFOCUS};
     }
     HWND Make(DWORD style, int height = 100) {
-        return CreateWindowExA(0, "combobox", "", WS_CHILD | WS_VISIBLE | WS_VSCROLL | style, 10, 10, 120, height,
-                               parent_, reinterpret_cast<HMENU>(static_cast<LONG_PTR>(55)), nullptr, nullptr);
+        return MakeControl("combobox", "", WS_VSCROLL | style, 120, height);
     }
     HWND Filled(DWORD style) {
         const HWND combo = Make(style);
         for (const char* text : {"ant", "bee", "cat", "dog"})
-            Send(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
+            SendText(combo, CB_ADDSTRING, 0, text);
         return combo;
     }
-    static LRESULT Send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
-        return SendMessageA(window, message, wParam, lParam);
-    }
-    /// The middle of an item of the list.
-    static LPARAM ItemPoint(HWND list, int index) {
-        RECT rect{};
-        Send(list, LB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&rect));
-        return MAKELPARAM(rect.left + 5, (rect.top + rect.bottom) / 2);
-    }
     static int Height(HWND window) {
-        RECT rect{};
-        GetWindowRect(window, &rect);
-        return rect.bottom - rect.top;
+        const RECT place = tests::PlaceOf(window);
+        return place.bottom - place.top;
     }
-
-    HWND parent_ = nullptr;
 };
 
 TEST_F(ComboBoxTest, AClosedOneIsAsHighAsItsField) {
@@ -102,11 +42,11 @@ TEST_F(ComboBoxTest, AClosedOneIsAsHighAsItsField) {
 TEST_F(ComboBoxTest, ContentsSelectionAndText) {
     const HWND list = Filled(CBS_DROPDOWNLIST);
     EXPECT_EQ(CB_ERR, Send(list, CB_GETCURSEL));
-    EXPECT_EQ("", TextOf(list));
+    EXPECT_EQ("", Text(list));
     EXPECT_EQ(2, Send(list, CB_SETCURSEL, 2));
-    EXPECT_EQ("cat", TextOf(list));
+    EXPECT_EQ("cat", Text(list));
     EXPECT_EQ(CB_ERR, Send(list, WM_SETTEXT, 0, reinterpret_cast<LPARAM>("x")));
-    EXPECT_EQ(CB_ERR, Send(list, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>("be")));
+    EXPECT_EQ(CB_ERR, SendText(list, CB_FINDSTRINGEXACT, -1, "be"));
     Send(list, CB_SETITEMDATA, 1, 12);
     EXPECT_EQ(12, Send(list, CB_GETITEMDATA, 1));
     const auto count = Send(list, CB_GETCOUNT);
@@ -117,17 +57,17 @@ TEST_F(ComboBoxTest, ContentsSelectionAndText) {
     EXPECT_EQ(CB_ERR, Send(list, CB_DELETESTRING, static_cast<WPARAM>(count)));
     EXPECT_EQ(count - 1, Send(list, CB_DELETESTRING, 2)) << "with the one that was chosen";
     EXPECT_EQ(CB_ERR, Send(list, CB_GETCURSEL));
-    EXPECT_EQ("", TextOf(list));
+    EXPECT_EQ("", Text(list));
     const HWND edit = Filled(CBS_DROPDOWN | CBS_SORT);
-    EXPECT_EQ(1, Send(edit, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>("ape")));
+    EXPECT_EQ(1, SendText(edit, CB_ADDSTRING, 0, "ape"));
     SetWindowTextA(edit, "typed");
-    EXPECT_EQ("typed", TextOf(edit));
+    EXPECT_EQ("typed", Text(edit));
     Send(edit, CB_SETCURSEL, 2);
-    EXPECT_EQ("bee", TextOf(ComboField(edit)));
+    EXPECT_EQ("bee", Text(ComboField(edit)));
     EXPECT_EQ(CB_ERR, Send(edit, CB_SETCURSEL, static_cast<WPARAM>(-1)));
-    EXPECT_EQ("", TextOf(edit));
+    EXPECT_EQ("", Text(edit));
     Send(edit, CB_RESETCONTENT);
-    EXPECT_EQ(0, Send(edit, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>("first")));
+    EXPECT_EQ(0, SendText(edit, CB_ADDSTRING, 0, "first"));
     EXPECT_TRUE(notified.empty()) << "messages do not notify";
 }
 
@@ -137,7 +77,7 @@ TEST_F(ComboBoxTest, FocusIsThatOfTheWhole) {
     SetFocus(combo);
     EXPECT_EQ(edit, GetFocus());
     SetFocus(parent_);
-    EXPECT_EQ(Notified{CBN_KILLFOCUS}, notified);
+    EXPECT_EQ(Codes{CBN_KILLFOCUS}, notified);
     EXPECT_EQ(DLGC_WANTARROWS | DLGC_WANTCHARS, Send(combo, WM_GETDLGCODE));
     EnableWindow(combo, FALSE);
     EXPECT_FALSE(IsWindowEnabled(edit));
@@ -163,15 +103,15 @@ TEST_F(ComboBoxTest, ClickingAnItemTakesIt) {
     Send(GetCapture(), WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
     EXPECT_EQ(list, GetCapture());
     EXPECT_TRUE(IsWindowVisible(ComboList(combo))) << "it stays down when the arrow is let go";
-    Send(list, WM_MOUSEMOVE, 0, ItemPoint(list, 2));
-    Send(list, WM_LBUTTONDOWN, MK_LBUTTON, ItemPoint(list, 2));
-    Send(list, WM_LBUTTONUP, 0, ItemPoint(list, 2));
+    Send(list, WM_MOUSEMOVE, 0, PointIn(list, 2));
+    Send(list, WM_LBUTTONDOWN, MK_LBUTTON, PointIn(list, 2));
+    Send(list, WM_LBUTTONUP, 0, PointIn(list, 2));
     EXPECT_FALSE(IsWindowVisible(ComboList(combo)));
     EXPECT_FALSE(IsWindowVisible(list));
     EXPECT_EQ(nullptr, GetCapture());
-    EXPECT_EQ((Notified{CBN_DROPDOWN, CBN_CLOSEUP, CBN_SELCHANGE}), notified);
-    EXPECT_EQ("ant", textAtChange) << "the edit control changes last";
-    EXPECT_EQ("cat", TextOf(combo));
+    EXPECT_EQ((Codes{CBN_DROPDOWN, CBN_CLOSEUP, CBN_SELCHANGE}), notified);
+    EXPECT_EQ("ant", textAtNotice) << "the edit control changes last";
+    EXPECT_EQ("cat", Text(combo));
 }
 
 TEST_F(ComboBoxTest, ClosedWithoutAChoice) {
@@ -181,18 +121,18 @@ TEST_F(ComboBoxTest, ClosedWithoutAChoice) {
     Send(combo, CB_SETCURSEL, 1);
     Forget();
     Send(combo, CB_SHOWDROPDOWN, TRUE);
-    Send(list, WM_MOUSEMOVE, 0, ItemPoint(list, 3));
+    Send(list, WM_MOUSEMOVE, 0, PointIn(list, 3));
     Send(list, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(300, 300));
-    EXPECT_EQ((Notified{CBN_DROPDOWN, CBN_CLOSEUP}), notified) << "a click elsewhere";
+    EXPECT_EQ((Codes{CBN_DROPDOWN, CBN_CLOSEUP}), notified) << "a click elsewhere";
     EXPECT_EQ(1, Send(combo, CB_GETCURSEL));
     Forget();
     Send(combo, CB_SHOWDROPDOWN, TRUE);
     Send(combo, WM_KEYDOWN, VK_ESCAPE, 1);
-    EXPECT_EQ((Notified{CBN_DROPDOWN, CBN_CLOSEUP}), notified);
+    EXPECT_EQ((Codes{CBN_DROPDOWN, CBN_CLOSEUP}), notified);
     Forget();
     Send(combo, CB_SHOWDROPDOWN, TRUE);
     SetFocus(parent_);
-    EXPECT_EQ((Notified{CBN_DROPDOWN, CBN_CLOSEUP, CBN_KILLFOCUS}), notified);
+    EXPECT_EQ((Codes{CBN_DROPDOWN, CBN_CLOSEUP, CBN_KILLFOCUS}), notified);
     EXPECT_EQ(nullptr, GetCapture());
     Send(combo, CB_SHOWDROPDOWN, TRUE);
     DestroyWindow(combo);
@@ -206,21 +146,21 @@ TEST_F(ComboBoxTest, KeysWhileClosedAndDropped) {
     Send(combo, CB_SETCURSEL, 0);
     Forget();
     Send(combo, WM_KEYDOWN, VK_DOWN, 1);
-    EXPECT_EQ(Notified{CBN_SELCHANGE}, notified);
-    EXPECT_EQ("bee", TextOf(combo));
+    EXPECT_EQ(Codes{CBN_SELCHANGE}, notified);
+    EXPECT_EQ("bee", Text(combo));
     Send(combo, WM_CHAR, 'd', 1);
-    EXPECT_EQ("dog", TextOf(combo));
+    EXPECT_EQ("dog", Text(combo));
     Send(combo, WM_KEYDOWN, VK_F4, 1);
     EXPECT_TRUE(IsWindowVisible(ComboList(combo)));
     Forget();
     Send(combo, WM_KEYDOWN, VK_UP, 1);
-    EXPECT_EQ(Notified{CBN_SELCHANGE}, notified);
+    EXPECT_EQ(Codes{CBN_SELCHANGE}, notified);
     MSG escape{combo, WM_KEYDOWN, VK_ESCAPE, 1, 0, {}};
     EXPECT_TRUE(Send(combo, WM_GETDLGCODE, VK_ESCAPE, reinterpret_cast<LPARAM>(&escape)) & DLGC_WANTMESSAGE)
         << "it closes the list, not the dialog";
     Send(combo, WM_KEYDOWN, VK_F4, 1);
     EXPECT_FALSE(IsWindowVisible(ComboList(combo)));
-    EXPECT_EQ("cat", TextOf(combo));
+    EXPECT_EQ("cat", Text(combo));
 }
 
 TEST_F(ComboBoxTest, TypingNotifiesAndKeysOfTheEditControlReachTheList) {
@@ -229,12 +169,12 @@ TEST_F(ComboBoxTest, TypingNotifiesAndKeysOfTheEditControlReachTheList) {
     SetFocus(combo);
     Forget();
     Send(edit, WM_CHAR, 'c', 1);
-    EXPECT_EQ(Notified{CBN_EDITCHANGE}, notified);
+    EXPECT_EQ(Codes{CBN_EDITCHANGE}, notified);
     Send(edit, WM_CHAR, 'a', 1);
     Send(edit, WM_KEYDOWN, VK_F4, 1);
     EXPECT_EQ(2, Send(combo, CB_GETCURSEL)) << "it opens at what begins so";
     Send(edit, WM_KEYDOWN, VK_DOWN, 1);
-    EXPECT_EQ("dog", TextOf(combo));
+    EXPECT_EQ("dog", Text(combo));
     Send(edit, WM_KEYDOWN, VK_F4, 1);
     EXPECT_FALSE(IsWindowVisible(ComboList(combo)));
 }
@@ -244,9 +184,9 @@ TEST_F(ComboBoxTest, ASimpleOneHasItsListInView) {
     const HWND list = ComboList(combo);
     EXPECT_TRUE(IsWindowVisible(list));
     EXPECT_EQ(combo, GetParent(list));
-    Send(list, WM_LBUTTONDOWN, MK_LBUTTON, ItemPoint(list, 1));
-    Send(list, WM_LBUTTONUP, 0, ItemPoint(list, 1));
-    EXPECT_EQ("bee", TextOf(combo));
+    Send(list, WM_LBUTTONDOWN, MK_LBUTTON, PointIn(list, 1));
+    Send(list, WM_LBUTTONUP, 0, PointIn(list, 1));
+    EXPECT_EQ("bee", Text(combo));
     EXPECT_EQ(ComboField(combo), GetFocus());
     EXPECT_EQ(CBN_SELCHANGE, notified.back());
 }
@@ -264,11 +204,13 @@ TEST_F(ComboBoxTest, TheWheelOverAShortSimpleOneComesToAnEnd) {
 
 TEST_F(ComboBoxTest, AnOwnerDrawsFieldAndItems) {
     const HWND combo = Make(CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS);
-    EXPECT_NE(measured.end(), std::find(measured.begin(), measured.end(), UINT(-1))) << "the field";
-    EXPECT_NE(measured.end(), std::find(measured.begin(), measured.end(), 0U)) << "the items";
-    EXPECT_EQ(18, Send(ComboList(combo), LB_GETITEMHEIGHT));
-    Send(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>("one"));
-    Send(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>("two"));
+    for (const UINT item : {UINT(-1), UINT{0}}) {  // the field and the items
+        EXPECT_TRUE(
+            std::any_of(measured.begin(), measured.end(), [=](const auto& each) { return each.itemID == item; }));
+    }
+    EXPECT_EQ(17, Send(ComboList(combo), LB_GETITEMHEIGHT));
+    SendText(combo, CB_ADDSTRING, 0, "one");
+    SendText(combo, CB_ADDSTRING, 0, "two");
     Send(combo, CB_SETITEMDATA, 1, 9);
     Send(combo, CB_SETCURSEL, 1);
     drawn.clear();
@@ -276,12 +218,8 @@ TEST_F(ComboBoxTest, AnOwnerDrawsFieldAndItems) {
     UpdateWindow(combo);
     ASSERT_FALSE(drawn.empty());
     const DRAWITEMSTRUCT field = drawn.back();
-    EXPECT_EQ(UINT{ODT_COMBOBOX}, field.CtlType);
-    EXPECT_EQ(55U, field.CtlID);
-    EXPECT_EQ(1U, field.itemID);
-    EXPECT_EQ(9U, field.itemData);
+    ExpectDrawn(field, ODT_COMBOBOX, 1, 9, field.itemAction, ODS_COMBOBOXEDIT);
     EXPECT_EQ(combo, field.hwndItem);
-    EXPECT_EQ(UINT{ODS_COMBOBOXEDIT}, field.itemState);
     drawn.clear();
     Send(combo, WM_KEYDOWN, VK_F4, 1);
     UpdateWindow(ComboList(combo));

@@ -68,6 +68,54 @@ TEST_F(EditLines, ScrollsLinesAndFollowsTheCaret) {
     EXPECT_EQ(top, PlaceOf(edit, 0).y);
 }
 
+std::vector<int> commands;
+int closed = 0;
+
+INT_PTR CALLBACK CountEnds(HWND, UINT message, WPARAM wParam, LPARAM) {
+    closed += message == WM_CLOSE;
+    if (message == WM_COMMAND && HIWORD(wParam) == BN_CLICKED)
+        commands.push_back(LOWORD(wParam));
+    return message == WM_INITDIALOG;
+}
+
+TEST_F(EditLines, InADialogKeepEnterAndLeaveItTabAndEscape) {
+    tests::DialogBuilder builder(WS_POPUP | WS_CAPTION | WS_VISIBLE);
+    builder.Title("lines");
+    for (const short id : {1, 2}) {
+        builder.Item("edit", "", id, WS_TABSTOP | ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN, 5,
+                     static_cast<short>(30 * id), 100, 20);
+    }
+    builder.Item("button", "OK", 3, BS_DEFPUSHBUTTON | WS_TABSTOP, 5, 100, 50, 14);
+    const HWND dialog = CreateDialogIndirectParamA(nullptr, builder.Data(), parent_, CountEnds, 0);
+    ASSERT_NE(nullptr, dialog);
+    commands.clear();
+    closed = 0;
+    /// Presses a key in a field, and lets all that comes of it happen.
+    const auto press = [=](int id, WPARAM key) {
+        SetFocus(GetDlgItem(dialog, id));
+        tests::DialogKey(dialog, GetFocus(), key);
+        for (MSG message; PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE);) {
+            if (!IsDialogMessageA(dialog, &message))
+                DispatchMessageA(&message);
+        }
+        return GetDlgCtrlID(GetFocus());
+    };
+    EXPECT_EQ(2, press(1, VK_TAB));
+    EXPECT_EQ(3, press(2, VK_TAB));
+    EXPECT_EQ(2, press(2, VK_RETURN));
+    EXPECT_EQ("\r\n", Text(GetDlgItem(dialog, 2)));
+    EXPECT_EQ("", Text(GetDlgItem(dialog, 1)));
+    {
+        const KeyHeld shift(VK_SHIFT);
+        EXPECT_EQ(1, press(2, VK_TAB));
+    }
+    EXPECT_EQ(std::vector<int>{}, commands);
+    press(1, VK_ESCAPE);
+    EXPECT_EQ(1, closed);
+    EXPECT_EQ(std::vector<int>{IDCANCEL}, commands);
+    DestroyWindow(dialog);
+}
+
 TEST_F(EditLines, OnlyTheUsersChangesAreTold) {
     const HWND edit = MakeLines(ES_AUTOVSCROLL, "text");
     SetWindowTextA(edit, "other");

@@ -4,23 +4,20 @@
 #include <utility>
 #include <vector>
 
+#include "tests/platform/support/hands.h"
+#include "tests/platform/support/looking.h"
 #include "tests/platform/support/recorder.h"
 
 namespace {
 
+using tests::At;
+using tests::Play;
 using tests::Recorder;
 
-class ScrollBarTest : public ::testing::Test {
+class ScrollBarTest : public tests::RecordedTest {
   protected:
     void SetUp() override {
-        Recorder::Get().Reset();
-        window_ = Recorder::Get().Make(WS_POPUP | WS_VISIBLE | WS_VSCROLL, 50, 50, 200, 200);
-        SetForegroundWindow(window_);
-        tests::Pump();
-    }
-    void TearDown() override {
-        DestroyWindow(window_);
-        Recorder::Get().Reset();
+        MakeWindow(WS_POPUP | WS_VISIBLE | WS_VSCROLL, 50, 50, 200, 200);
     }
     static SCROLLINFO Info(HWND window, int bar) {
         SCROLLINFO info{sizeof info, SIF_ALL, -1, -1, 99, -1, -1};
@@ -35,17 +32,8 @@ class ScrollBarTest : public ::testing::Test {
         return (GetWindowLongA(window, GWL_STYLE) & style) != 0;
     }
     HWND MakeBar(DWORD style) {
-        return CreateWindowExA(0, "scrollbar", "", WS_CHILD | WS_VISIBLE | style, 10, 10, 20, 120, window_, nullptr,
+        return CreateWindowExA(0, "scrollbar", "", WS_CHILD | WS_VISIBLE | style, 10, 10, 20, 120, window, nullptr,
                                nullptr, nullptr);
-    }
-    static void Mouse(POINT point, std::initializer_list<DWORD> events) {
-        SetCursorPos(point.x, point.y);
-        for (const DWORD event : events) {
-            INPUT input{};
-            input.type = INPUT_MOUSE;
-            input.mi.dwFlags = event;
-            SendInput(1, &input, sizeof input);
-        }
     }
     /// The codes that were heard, with the positions of those that carry one.
     static std::vector<std::pair<int, int>> Codes(UINT message) {
@@ -56,46 +44,42 @@ class ScrollBarTest : public ::testing::Test {
         }
         return codes;
     }
-
-    HWND window_ = nullptr;
 };
 
 TEST_F(ScrollBarTest, NumbersAreBroughtIntoBounds) {
-    SCROLLINFO info = Info(window_, SB_VERT);
+    SCROLLINFO info = Info(window, SB_VERT);
     EXPECT_EQ(0, info.nMin);
     EXPECT_EQ(100, info.nMax);
-    EXPECT_EQ(0, SetScrollPos(window_, SB_VERT, 150, TRUE));
-    EXPECT_EQ(100, GetScrollPos(window_, SB_VERT));
+    EXPECT_EQ(0, SetScrollPos(window, SB_VERT, 150, TRUE));
+    EXPECT_EQ(100, GetScrollPos(window, SB_VERT));
     info = {sizeof info, SIF_RANGE | SIF_PAGE, 10, 50, 11, 0, 0};
-    EXPECT_EQ(40, SetScrollInfo(window_, SB_VERT, &info, TRUE)) << "the end less the page, plus one";
+    EXPECT_EQ(40, SetScrollInfo(window, SB_VERT, &info, TRUE)) << "the end less the page, plus one";
     info = {sizeof info, SIF_PAGE, 0, 0, 1000, 0, 0};
-    SetScrollInfo(window_, SB_VERT, &info, TRUE);
-    EXPECT_EQ(41U, Info(window_, SB_VERT).nPage);
+    SetScrollInfo(window, SB_VERT, &info, TRUE);
+    EXPECT_EQ(41U, Info(window, SB_VERT).nPage);
     info.cbSize = 3;
-    EXPECT_FALSE(GetScrollInfo(window_, SB_VERT, &info));
-    EXPECT_EQ(10, Info(window_, SB_VERT).nMin);
-    EXPECT_EQ(50, Info(window_, SB_VERT).nMax);
+    EXPECT_FALSE(GetScrollInfo(window, SB_VERT, &info));
+    EXPECT_EQ(10, Info(window, SB_VERT).nMin);
+    EXPECT_EQ(50, Info(window, SB_VERT).nMax);
 }
 
 TEST_F(ScrollBarTest, ABarComesAndGoesWithWhatThereIsToScroll) {
-    RECT client{};
-    GetClientRect(window_, &client);
+    RECT client = tests::ClientOf(window);
     EXPECT_EQ(200 - GetSystemMetrics(SM_CXVSCROLL), client.right);
     EXPECT_EQ(200, client.bottom);
-    RECT rect{};
-    GetWindowRect(window_, &rect);
-    EXPECT_EQ(HTVSCROLL, SendMessageA(window_, WM_NCHITTEST, 0, MAKELPARAM(rect.right - 3, rect.top + 3)));
-    SetRange(window_, SB_VERT, 0);
-    EXPECT_FALSE(Shows(window_, WS_VSCROLL));
-    GetClientRect(window_, &client);
+    const RECT rect = tests::PlaceOf(window);
+    EXPECT_EQ(HTVSCROLL, SendMessageA(window, WM_NCHITTEST, 0, MAKELPARAM(rect.right - 3, rect.top + 3)));
+    SetRange(window, SB_VERT, 0);
+    EXPECT_FALSE(Shows(window, WS_VSCROLL));
+    client = tests::ClientOf(window);
     EXPECT_EQ(200, client.right);
-    SetRange(window_, SB_VERT, 9);
-    EXPECT_TRUE(Shows(window_, WS_VSCROLL));
+    SetRange(window, SB_VERT, 9);
+    EXPECT_TRUE(Shows(window, WS_VSCROLL));
     SCROLLINFO info{sizeof info, SIF_PAGE | SIF_DISABLENOSCROLL, 0, 0, 10, 0, 0};
-    SetScrollInfo(window_, SB_VERT, &info, TRUE);
-    EXPECT_TRUE(Shows(window_, WS_VSCROLL)) << "it stays, disabled";
-    SetRange(window_, SB_HORZ, 9);
-    GetClientRect(window_, &client);
+    SetScrollInfo(window, SB_VERT, &info, TRUE);
+    EXPECT_TRUE(Shows(window, WS_VSCROLL)) << "it stays, disabled";
+    SetRange(window, SB_HORZ, 9);
+    client = tests::ClientOf(window);
     EXPECT_EQ(200 - GetSystemMetrics(SM_CYHSCROLL), client.bottom);
 }
 
@@ -121,11 +105,10 @@ TEST_F(ScrollBarTest, ABarOnItsOwn) {
 }
 
 TEST_F(ScrollBarTest, PressingAnArrowAndTheShaft) {
-    RECT rect{};
-    GetWindowRect(window_, &rect);
+    const RECT rect = tests::PlaceOf(window);
     const auto press = [&](int y) {
         Recorder::Get().Clear();
-        Mouse({rect.right - 5, y}, {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP});
+        Play({At(rect.right - 5, y, MOUSEEVENTF_LEFTDOWN), At(rect.right - 5, y, MOUSEEVENTF_LEFTUP)});
         tests::PumpUntil([] { return !Codes(WM_VSCROLL).empty() && Codes(WM_VSCROLL).back().first == SB_ENDSCROLL; });
         return Codes(WM_VSCROLL).empty() ? -1 : Codes(WM_VSCROLL).front().first;
     };
@@ -136,16 +119,15 @@ TEST_F(ScrollBarTest, PressingAnArrowAndTheShaft) {
 }
 
 TEST_F(ScrollBarTest, DraggingTheThumb) {
-    RECT rect{};
-    GetWindowRect(window_, &rect);
+    const RECT rect = tests::PlaceOf(window);
     // Everything waits in the queue before the press is delivered: the bar takes it from there.
     SetCursorPos(rect.right - 5, rect.top + GetSystemMetrics(SM_CYVSCROLL) + 4);
     tests::Pump();
-    Mouse({rect.right - 5, rect.top + GetSystemMetrics(SM_CYVSCROLL) + 4}, {MOUSEEVENTF_LEFTDOWN});
-    PostMessageA(window_, WM_APP, 0, 0);
+    Play({At(rect.right - 5, rect.top + GetSystemMetrics(SM_CYVSCROLL) + 4, MOUSEEVENTF_LEFTDOWN)});
+    PostMessageA(window, WM_APP, 0, 0);
     Recorder::Get().answer = [&](const tests::Heard& heard, LRESULT*) {
         if (heard.message == WM_APP) {
-            Mouse({rect.right - 5, rect.bottom - 20}, {MOUSEEVENTF_LEFTUP});
+            Play({At(rect.right - 5, rect.bottom - 20, MOUSEEVENTF_LEFTUP)});
             return true;
         }
         return false;
@@ -158,7 +140,7 @@ TEST_F(ScrollBarTest, DraggingTheThumb) {
     const auto& end = codes[codes.size() - 2];
     EXPECT_EQ(SB_THUMBPOSITION, end.first);
     EXPECT_EQ(100, end.second);
-    EXPECT_EQ(0, GetScrollPos(window_, SB_VERT)) << "the window itself sets the position";
+    EXPECT_EQ(0, GetScrollPos(window, SB_VERT)) << "the window itself sets the position";
 }
 
 }  // namespace

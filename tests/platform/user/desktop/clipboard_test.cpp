@@ -15,14 +15,12 @@ class Clipboard : public EditControl {
         EditControl::TearDown();
     }
 
-    void Put(const char* text) const {
-        const HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, static_cast<SIZE_T>(lstrlenA(text)) + 1);
-        lstrcpyA(static_cast<LPSTR>(GlobalLock(block)), text);
-        GlobalUnlock(block);
-        ASSERT_TRUE(OpenClipboard(parent_));
-        EmptyClipboard();
-        EXPECT_EQ(block, SetClipboardData(CF_TEXT, block));
-        CloseClipboard();
+    void Put(const char* text) {
+        const HWND lines = Make(ES_MULTILINE, text);
+        Select(lines, 0, -1);
+        Send(lines, WM_COPY);
+        EXPECT_EQ(text, Taken());
+        DestroyWindow(lines);
     }
     std::string Taken() const {
         EXPECT_TRUE(OpenClipboard(parent_));
@@ -37,9 +35,7 @@ class Clipboard : public EditControl {
 };
 
 TEST_F(Clipboard, IsOpenToOneWindow) {
-    SetLastError(0);
-    EXPECT_FALSE(CloseClipboard());
-    EXPECT_EQ(DWORD{ERROR_CLIPBOARD_NOT_OPEN}, GetLastError());
+    EXPECT_EQ(DWORD{ERROR_CLIPBOARD_NOT_OPEN}, tests::ErrorOf([&] { return CloseClipboard(); }));
     EXPECT_FALSE(EmptyClipboard());
     const HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, 1);
     EXPECT_EQ(nullptr, SetClipboardData(CF_TEXT, block));

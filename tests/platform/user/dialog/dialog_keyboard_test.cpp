@@ -34,15 +34,8 @@ class DialogKeyboardTest : public ::testing::Test {
     void SetUp() override {
         clicks.clear();
         wantedCode = 0;
-        WNDCLASSA windowClass{};
-        windowClass.lpfnWndProc = FieldProcedure;
-        windowClass.hInstance = GetModuleHandleA(nullptr);
-        windowClass.lpszClassName = "tests_field";
-        RegisterClassA(&windowClass);
-        windowClass.lpfnWndProc = DefWindowProcA;
-        windowClass.lpszClassName = "tests_page";
-        RegisterClassA(&windowClass);
-
+        tests::RegisterPlain("tests_field", FieldProcedure);
+        tests::RegisterPlain("tests_page");
         DialogBuilder builder(WS_POPUP | WS_CAPTION | WS_VISIBLE);
         builder.Title("keys")
             .Item("static", "&Field", kLabel, 0, 5, 5, 40, 8)
@@ -56,12 +49,12 @@ class DialogKeyboardTest : public ::testing::Test {
             .Item("tests_page", "", kPage, 0, 5, 75, 150, 20, WS_EX_CONTROLPARENT)
             .Item("button", "OK", IDOK, BS_DEFPUSHBUTTON | WS_TABSTOP, 5, 100, 50, 14)
             .Item("button", "Cancel", IDCANCEL, BS_PUSHBUTTON | WS_TABSTOP, 60, 100, 50, 14);
-        dialog_ = CreateDialogIndirectParamA(windowClass.hInstance, builder.Data(), nullptr, Procedure, 0);
+        dialog_ = CreateDialogIndirectParamA(GetModuleHandleA(nullptr), builder.Data(), nullptr, Procedure, 0);
         ASSERT_NE(nullptr, dialog_);
         ShowWindow(Item(kHidden), SW_HIDE);
-        inPage_ =
-            CreateWindowExA(0, "button", "In &page", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 0, 0, 60, 20, Item(kPage),
-                            reinterpret_cast<HMENU>(static_cast<LONG_PTR>(kInPage)), windowClass.hInstance, nullptr);
+        inPage_ = CreateWindowExA(0, "button", "In &page", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 0, 0, 60, 20,
+                                  Item(kPage), reinterpret_cast<HMENU>(static_cast<LONG_PTR>(kInPage)),
+                                  GetModuleHandleA(nullptr), nullptr);
     }
     void TearDown() override {
         DestroyWindow(dialog_);
@@ -107,6 +100,8 @@ TEST_F(DialogKeyboardTest, NextItemsByCall) {
     EXPECT_EQ(Item(kRadio3), GetNextDlgGroupItem(dialog_, Item(kRadio1), FALSE)) << "the disabled one is skipped";
     EXPECT_EQ(Item(kRadio1), GetNextDlgGroupItem(dialog_, Item(kRadio3), FALSE));
     EXPECT_EQ(Item(kRadio3), GetNextDlgGroupItem(dialog_, Item(kRadio1), TRUE));
+    EXPECT_EQ(inPage_, GetNextDlgGroupItem(dialog_, Item(kAfter), FALSE)) << "what is on a page belongs to the group";
+    EXPECT_EQ(inPage_, GetNextDlgGroupItem(dialog_, Item(IDOK), TRUE));
 }
 
 TEST_F(DialogKeyboardTest, ArrowsMoveAndCheckWithinTheGroup) {

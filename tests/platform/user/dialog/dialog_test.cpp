@@ -4,6 +4,7 @@
 #include <string>
 
 #include "tests/platform/support/dialog_builder.h"
+#include "tests/platform/support/looking.h"
 
 namespace {
 
@@ -14,9 +15,6 @@ class DialogTest : public ::testing::Test {
     static inline INT_PTR initResult = FALSE;
     static inline HWND initFocusOffered = nullptr;
     static inline HWND initFocusTaken = nullptr;
-    static inline int commands = 0;
-    static inline WPARAM lastCommand = 0;
-    static inline LPARAM lastControl = 0;
     static INT_PTR CALLBACK Procedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
         switch (message) {
             case WM_INITDIALOG:
@@ -24,12 +22,10 @@ class DialogTest : public ::testing::Test {
                 if (lParam)
                     SetFocus(initFocusTaken = GetDlgItem(dialog, static_cast<int>(lParam)));
                 return initResult;
-            case WM_COMMAND:
-                if (HIWORD(wParam) != BN_CLICKED)
-                    return FALSE;
-                ++commands;
-                lastCommand = wParam;
-                lastControl = lParam;
+            case WM_VKEYTOITEM:
+                SetWindowLongPtrA(dialog, DWLP_MSGRESULT, 1);
+                return 77;
+            case WM_USER + 8:
                 return TRUE;
             case WM_USER + 7:
                 SetWindowLongPtrA(dialog, DWLP_MSGRESULT, 4711);
@@ -42,8 +38,6 @@ class DialogTest : public ::testing::Test {
     void SetUp() override {
         initResult = FALSE;
         initFocusOffered = initFocusTaken = nullptr;
-        commands = 0;
-        lastCommand = 0;
     }
     void TearDown() override {
         if (dialog_ && IsWindow(dialog_))
@@ -77,7 +71,7 @@ TEST_P(TemplateForm, MakesTheDialogAndItsControls) {
     DialogBuilder builder(WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_SETFONT | DS_MODALFRAME, 160, 120, GetParam());
     builder.Title("Title", "MS Sans Serif")
         .NumberedItem(0x0082, "&Name:", 300, SS_LEFT, 7, 9, 40, 8)
-        .Item("button", "OK", IDOK, BS_DEFPUSHBUTTON | WS_TABSTOP, 50, 100, 50, 14)
+        .Item("button", "OK", IDOK, BS_DEFPUSHBUTTON | WS_TABSTOP, 50, 100, 50, 14, 0, {0x1234, 0x5678})
         .NumberedItem(0x0080, "Box", 1000, BS_AUTOCHECKBOX | WS_TABSTOP, 7, 40, 60, 10);
     ASSERT_NE(nullptr, Make(builder));
 
@@ -86,7 +80,7 @@ TEST_P(TemplateForm, MakesTheDialogAndItsControls) {
     EXPECT_FALSE(IsWindowVisible(dialog_));
     EXPECT_TRUE(GetWindowLongA(dialog_, GWL_EXSTYLE) & WS_EX_DLGMODALFRAME);
     const HWND label = GetDlgItem(dialog_, 300);
-    const HWND check = GetDlgItem(dialog_, 1000);
+    const HWND check = GetDlgItem(dialog_, 1000);  // behind creation data, which is passed over
     EXPECT_EQ("static", ClassOf(label));
     EXPECT_EQ("&Name:", TextOf(label));
     EXPECT_EQ("button", ClassOf(check));
@@ -96,13 +90,11 @@ TEST_P(TemplateForm, MakesTheDialogAndItsControls) {
     // Every position is its template's, in units of the dialog's own font.
     RECT expected{7, 40, 67, 50};
     ASSERT_TRUE(MapDialogRect(dialog_, &expected));
-    RECT actual;
-    GetWindowRect(check, &actual);
+    RECT actual = tests::PlaceOf(check);
     MapWindowPoints(nullptr, dialog_, reinterpret_cast<POINT*>(&actual), 2);
     EXPECT_TRUE(EqualRect(&expected, &actual));
-    RECT client;
+    const RECT client = tests::ClientOf(dialog_);
     RECT size{0, 0, 160, 120};
-    GetClientRect(dialog_, &client);
     MapDialogRect(dialog_, &size);
     EXPECT_TRUE(EqualRect(&size, &client));
 
@@ -114,31 +106,6 @@ TEST_P(TemplateForm, MakesTheDialogAndItsControls) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Forms, TemplateForm, ::testing::Bool());
-
-TEST_F(DialogTest, CreationDataIsPassedOver) {
-    WNDCLASSA windowClass{};
-    windowClass.lpfnWndProc = DefWindowProcA;
-    windowClass.hInstance = GetModuleHandleA(nullptr);
-    windowClass.lpszClassName = "tests_creation_data";
-    ASSERT_NE(0, RegisterClassA(&windowClass));
-    for (const bool extended : {false, true}) {
-        DialogBuilder builder(WS_POPUP, 100, 50, extended);
-        builder.Title("")
-            .Item("tests_creation_data", "", 1, 0, 0, 0, 9, 9, 0, {0x1234, 0x5678})
-            .Item("tests_creation_data", "behind", 2, 0, 0, 0, 9, 9);
-        ASSERT_NE(nullptr, Make(builder)) << extended;
-        EXPECT_EQ("behind", TextOf(GetDlgItem(dialog_, 2))) << extended;
-        DestroyWindow(dialog_);
-    }
-    UnregisterClassA("tests_creation_data", windowClass.hInstance);
-}
-
-TEST_F(DialogTest, AControlThatCannotBeMadeFailsTheDialog) {
-    DialogBuilder strict;
-    strict.Title("strict").Item("tests_no_such_class", "", 1, 0, 0, 0, 9, 9);
-    EXPECT_EQ(nullptr, Make(strict));
-    EXPECT_EQ(nullptr, FindWindowA("#32770", "strict"));
-}
 
 TEST_F(DialogTest, FromResources) {
     const HINSTANCE instance = GetModuleHandleA(nullptr);
@@ -182,64 +149,33 @@ TEST_F(DialogTest, TheFocusComesBackWithTheActivation) {
     DestroyWindow(other);
 }
 
-INT_PTR CALLBACK AnsweringProcedure(HWND dialog, UINT message, WPARAM, LPARAM) {
-    switch (message) {
-        case WM_CTLCOLORSTATIC:
-        case WM_VKEYTOITEM:
-            SetWindowLongPtrA(dialog, DWLP_MSGRESULT, 1);
-            return 77;
-        case WM_USER + 7:
-            SetWindowLongPtrA(dialog, DWLP_MSGRESULT, 4711);
-            return TRUE;
-        case WM_USER + 8:
-            return TRUE;
-        default:
-            return FALSE;
-    }
-}
-
 TEST_F(DialogTest, AnswersOfTheDialogProcedure) {
     DialogBuilder builder;
     builder.Title("");
-    dialog_ = CreateDialogIndirectParamA(nullptr, builder.Data(), nullptr, AnsweringProcedure, 0);
-    ASSERT_NE(nullptr, dialog_);
+    ASSERT_NE(nullptr, Make(builder));
     EXPECT_EQ(77, SendMessageA(dialog_, WM_VKEYTOITEM, 0, 0));
     EXPECT_EQ(4711, SendMessageA(dialog_, WM_USER + 7, 0, 0));
     EXPECT_EQ(0, SendMessageA(dialog_, WM_USER + 8, 0, 0)) << "an earlier result is not reused";
-}
-
-TEST_F(DialogTest, CloseIsCancel) {
-    DialogBuilder builder;
-    builder.Title("").Item("button", "Cancel", IDCANCEL, WS_TABSTOP, 0, 0, 9, 9);
-    ASSERT_NE(nullptr, Make(builder));
-    SendMessageA(dialog_, WM_CLOSE, 0, 0);
-    tests::PumpMessages();
-    EXPECT_EQ(1, commands);
-    EXPECT_EQ(MAKEWPARAM(IDCANCEL, BN_CLICKED), lastCommand);
-    EXPECT_EQ(reinterpret_cast<LPARAM>(GetDlgItem(dialog_, IDCANCEL)), lastControl);
 }
 
 TEST_F(DialogTest, Numbers) {
     DialogBuilder builder;
     builder.Title("").Item("static", "", 300, 0, 0, 0, 99, 9);
     ASSERT_NE(nullptr, Make(builder));
-    const auto read = [&](const char* text, BOOL isSigned, BOOL& translated) {
-        SetDlgItemTextA(dialog_, 300, text);
-        return GetDlgItemInt(dialog_, 300, &translated, isSigned);
-    };
     BOOL translated = FALSE;
-    EXPECT_EQ(42U, read("  42", FALSE, translated));
-    EXPECT_TRUE(translated);
-    EXPECT_EQ(-17, static_cast<int>(read("-17", TRUE, translated)));
-    EXPECT_TRUE(translated);
-    EXPECT_EQ(4294967295U, read("4294967295", FALSE, translated));
-    EXPECT_TRUE(translated);
-    EXPECT_EQ(0U, read("4294967296", FALSE, translated));
-    EXPECT_FALSE(translated);
-    EXPECT_EQ(0U, read("2147483648", TRUE, translated));
-    EXPECT_FALSE(translated);
-    EXPECT_EQ(0U, read("x1", TRUE, translated));
-    EXPECT_FALSE(translated);
+    struct Case {
+        const char* text;
+        BOOL isSigned;
+        UINT value;
+        BOOL translated;
+    };
+    for (const Case& each : {Case{"  42", FALSE, 42, TRUE}, Case{"-17", TRUE, static_cast<UINT>(-17), TRUE},
+                             Case{"4294967295", FALSE, 4294967295U, TRUE}, Case{"4294967296", FALSE, 0, FALSE},
+                             Case{"2147483648", TRUE, 0, FALSE}, Case{"x1", TRUE, 0, FALSE}}) {
+        SetDlgItemTextA(dialog_, 300, each.text);
+        EXPECT_EQ(each.value, GetDlgItemInt(dialog_, 300, &translated, each.isSigned)) << each.text;
+        EXPECT_EQ(each.translated, translated) << each.text;
+    }
     EXPECT_EQ(0U, GetDlgItemInt(dialog_, 999, &translated, TRUE));
     EXPECT_FALSE(translated);
 
@@ -273,20 +209,24 @@ TEST_F(DialogTest, NothingIsLeftBehind) {
     once();  // caches fill
     const DWORD gdi = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
     const DWORD user = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
-    for (int count = 0; count < 6; ++count)
-        once();
+    once();
     EXPECT_EQ(gdi, GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS));
     EXPECT_EQ(user, GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS));
 }
 
 TEST_F(DialogTest, BordersOfControlsAreSunken) {
     DialogBuilder builder(WS_POPUP);
-    builder.Title("").Item("listbox", "", 1, WS_BORDER, 4, 4, 60, 40).Item("combobox", "", 2, WS_BORDER, 4, 50, 60, 40);
-    const HWND dialog = Make(builder);
-    ASSERT_NE(nullptr, dialog);
-    EXPECT_FALSE(GetWindowLongA(GetDlgItem(dialog, 1), GWL_STYLE) & WS_BORDER);
-    EXPECT_TRUE(GetWindowLongA(GetDlgItem(dialog, 1), GWL_EXSTYLE) & WS_EX_CLIENTEDGE);
-    EXPECT_FALSE(GetWindowLongA(GetDlgItem(dialog, 2), GWL_EXSTYLE) & WS_EX_CLIENTEDGE);
+    builder.Title("")
+        .Item("listbox", "", 1, WS_BORDER, 4, 4, 60, 40)
+        .Item("edit", "text", 2, WS_BORDER, 5, 5, 60, 12)
+        .Item("static", "text", 3, WS_BORDER, 5, 25, 60, 12)
+        .Item("combobox", "", 4, WS_BORDER, 4, 50, 60, 40);
+    ASSERT_NE(nullptr, Make(builder));
+    for (const int id : {1, 2, 3}) {
+        EXPECT_FALSE(GetWindowLongA(GetDlgItem(dialog_, id), GWL_STYLE) & WS_BORDER) << id;
+        EXPECT_TRUE(GetWindowLongA(GetDlgItem(dialog_, id), GWL_EXSTYLE) & WS_EX_CLIENTEDGE) << id;
+    }
+    EXPECT_FALSE(GetWindowLongA(GetDlgItem(dialog_, 4), GWL_EXSTYLE) & WS_EX_CLIENTEDGE);
 }
 
 }  // namespace

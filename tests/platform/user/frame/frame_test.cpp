@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include "tests/platform/support/expect_rect.h"
+#include "tests/platform/support/looking.h"
 #include "tests/platform/support/recorder.h"
 
 namespace {
@@ -12,37 +13,22 @@ using tests::Heard;
 using tests::Pump;
 using tests::Recorder;
 
-class Frames : public ::testing::Test {
+class Frames : public tests::RecordedTest {
   protected:
-    void SetUp() override {
-        Recorder::Get().Reset();
-        DestroyWindow(Recorder::Get().Make(WS_POPUP, 0, 0, 1, 1));  // registers the class
-    }
-    void TearDown() override {
-        Recorder::Get().Reset();
-        if (IsWindow(window)) {
-            DestroyWindow(window);
-        }
-        Pump();
-    }
     void Make(DWORD style, DWORD exStyle = 0) {
-        window = CreateWindowExA(exStyle | WS_EX_TOPMOST, Recorder::kClass, "Frame", style, 100, 100, 200, 150, nullptr,
-                                 nullptr, nullptr, nullptr);
+        window = Recorder::Get().Make(style, 100, 100, 200, 150, nullptr, exStyle | WS_EX_TOPMOST, "Frame");
         ASSERT_NE(window, nullptr);
     }
     /// What lies between the two rectangles: left, top, right, bottom.
     RECT Insets() const {
-        RECT outer;
-        RECT inner;
-        GetWindowRect(window, &outer);
-        GetClientRect(window, &inner);
+        const RECT outer = tests::PlaceOf(window);
+        RECT inner = tests::ClientOf(window);
         MapWindowPoints(window, nullptr, reinterpret_cast<POINT*>(&inner), 2);
         return {inner.left - outer.left, inner.top - outer.top, outer.right - inner.right, outer.bottom - inner.bottom};
     }
     LRESULT Hit(int x, int y) const {
         return SendMessageA(window, WM_NCHITTEST, 0, MAKELPARAM(x, y));
     }
-    HWND window = nullptr;
 };
 
 TEST_F(Frames, AreAsWideAsAdjustWindowRectSays) {
@@ -51,13 +37,9 @@ TEST_F(Frames, AreAsWideAsAdjustWindowRectSays) {
         DWORD exStyle;
     };
     const Case cases[] = {{WS_POPUP, 0},
-                          {WS_POPUP | WS_BORDER, 0},
                           {WS_POPUP | WS_DLGFRAME, 0},
-                          {WS_POPUP | WS_CAPTION | WS_SYSMENU, 0},
                           {WS_POPUP | WS_CAPTION, WS_EX_DLGMODALFRAME},
-                          {WS_OVERLAPPEDWINDOW, 0},
                           {WS_OVERLAPPEDWINDOW, WS_EX_CLIENTEDGE},
-                          {WS_POPUP, WS_EX_CLIENTEDGE},
                           {WS_POPUP | WS_BORDER, WS_EX_CLIENTEDGE},
                           {WS_POPUP, WS_EX_STATICEDGE},
                           {WS_POPUP | WS_CAPTION, WS_EX_TOOLWINDOW}};
@@ -65,25 +47,10 @@ TEST_F(Frames, AreAsWideAsAdjustWindowRectSays) {
         Make(each.style, each.exStyle);
         RECT adjusted{0, 0, 0, 0};
         EXPECT_TRUE(AdjustWindowRectEx(&adjusted, each.style, FALSE, each.exStyle));
-        const RECT insets = Insets();
-        EXPECT_EQ(insets.left, -adjusted.left) << std::hex << each.style << ' ' << each.exStyle;
-        EXPECT_EQ(insets.top, -adjusted.top) << std::hex << each.style << ' ' << each.exStyle;
-        EXPECT_EQ(insets.right, adjusted.right) << std::hex << each.style << ' ' << each.exStyle;
-        EXPECT_EQ(insets.bottom, adjusted.bottom) << std::hex << each.style << ' ' << each.exStyle;
+        SCOPED_TRACE(testing::Message() << std::hex << each.style << ' ' << each.exStyle);
+        ExpectRect(Insets(), -adjusted.left, -adjusted.top, adjusted.right, adjusted.bottom);
         DestroyWindow(window);
     }
-}
-
-TEST_F(Frames, FollowTheMetrics) {
-    Make(WS_POPUP | WS_CAPTION);
-    EXPECT_EQ(Insets().left, GetSystemMetrics(SM_CXFIXEDFRAME));
-    EXPECT_EQ(Insets().top, GetSystemMetrics(SM_CYFIXEDFRAME) + GetSystemMetrics(SM_CYCAPTION));
-    DestroyWindow(window);
-    Make(WS_POPUP | WS_BORDER);
-    EXPECT_EQ(Insets().left, GetSystemMetrics(SM_CXBORDER));
-    DestroyWindow(window);
-    Make(WS_POPUP, WS_EX_CLIENTEDGE);
-    EXPECT_EQ(Insets().left, GetSystemMetrics(SM_CXEDGE));
 }
 
 TEST_F(Frames, TellTheirPartsApart) {
@@ -123,16 +90,11 @@ TEST_F(Frames, SizesAreKeptWithinTheLimitsThatAreAskedFor) {
         return true;
     };
     Make(WS_OVERLAPPEDWINDOW);
-    RECT rect;
-    GetWindowRect(window, &rect);
-    EXPECT_EQ(rect.right - rect.left, 250);
-    EXPECT_EQ(rect.bottom - rect.top, 180);
+    ExpectRect(tests::PlaceOf(window), 100, 100, 350, 280);
     SetWindowPos(window, nullptr, 0, 0, 10, 10, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-    GetWindowRect(window, &rect);
-    EXPECT_EQ(rect.right - rect.left, 250);
+    ExpectRect(tests::PlaceOf(window), 100, 100, 350, 280);
     ShowWindow(window, SW_SHOWMAXIMIZED);
-    GetWindowRect(window, &rect);
-    ExpectRect(rect, 20, 30, 420, 330);
+    ExpectRect(tests::PlaceOf(window), 20, 30, 420, 330);
 }
 
 TEST_F(Frames, AWindowKeepsTheIconsThatItIsGiven) {
@@ -170,40 +132,6 @@ TEST_F(Frames, AltF4ClosesTheWindowAroundTheFocus) {
     SendMessageA(child, WM_SYSKEYDOWN, VK_F4, 1 | (1 << 29));
     Pump();
     EXPECT_FALSE(IsWindow(window));
-}
-
-TEST_F(Frames, TheParentMayChooseTheCursor) {
-    Make(WS_POPUP | WS_VISIBLE);
-    HWND child = Recorder::Get().Make(WS_CHILD | WS_VISIBLE, 0, 0, 50, 50, window);
-    const LPARAM where = MAKELPARAM(HTCLIENT, WM_MOUSEMOVE);
-    Recorder::Get().Clear();
-    SetCursor(nullptr);
-    SendMessageA(child, WM_SETCURSOR, reinterpret_cast<WPARAM>(child), where);
-    EXPECT_EQ(Recorder::Get().Count(WM_SETCURSOR), 2);
-    EXPECT_EQ(SetCursor(nullptr), LoadCursorA(nullptr, IDC_ARROW));
-    HCURSOR const cross = LoadCursorA(nullptr, IDC_CROSS);
-    Recorder::Get().answer = [=, parent = window](const Heard& heard, LRESULT* result) {
-        if (heard.message != WM_SETCURSOR || heard.window != parent) {
-            return false;
-        }
-        SetCursor(cross);
-        *result = TRUE;
-        return true;
-    };
-    EXPECT_EQ(SendMessageA(child, WM_SETCURSOR, reinterpret_cast<WPARAM>(child), where), TRUE);
-    EXPECT_EQ(SetCursor(nullptr), cross);
-}
-
-TEST_F(Frames, ColoursOfControlsAreTheSystems) {
-    Make(WS_POPUP);
-    HDC context = GetDC(window);
-    EXPECT_EQ(SendMessageA(window, WM_CTLCOLOREDIT, reinterpret_cast<WPARAM>(context), 0),
-              reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_WINDOW)));
-    EXPECT_EQ(GetBkColor(context), GetSysColor(COLOR_WINDOW));
-    EXPECT_EQ(SendMessageA(window, WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(context), 0),
-              reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_3DFACE)));
-    EXPECT_EQ(GetBkColor(context), GetSysColor(COLOR_3DFACE));
-    ReleaseDC(window, context);
 }
 
 TEST_F(Frames, DrawingIsNoLeak) {

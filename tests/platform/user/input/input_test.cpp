@@ -33,31 +33,28 @@ void Mouse(DWORD flags, DWORD data = 0, DWORD time = 0) {
     ASSERT_EQ(SendInput(1, &input, sizeof input), 1u);
 }
 
-class InputTest : public ::testing::Test {
+class InputTest : public tests::RecordedTest {
   protected:
     void SetUp() override {
         GetCursorPos(&cursor);
-        window = Recorder::Get().Make(WS_POPUP | WS_VISIBLE, 100, 100, 300, 200);
-        ASSERT_NE(window, nullptr);
-        SetForegroundWindow(window);
+        MakeWindow(WS_POPUP | WS_VISIBLE, 100, 100, 300, 200);
         ASSERT_TRUE(PumpUntil([this] { return GetForegroundWindow() == window && GetFocus() == window; }));
         SetCursorPos(20, 20);
         Pump();
         Recorder::Get().Reset();
     }
     void TearDown() override {
-        ReleaseCapture();
-        Recorder::Get().Reset();
-        if (IsWindow(window)) {
-            DestroyWindow(window);
-        }
-        Pump();
+        RecordedTest::TearDown();
         SetCursorPos(cursor.x, cursor.y);
     }
     bool Hears(UINT message) {
         return PumpUntil([message] { return Recorder::Get().Find(message) != nullptr; });
     }
-    HWND window = nullptr;
+    void ClickAndHear() {
+        Mouse(MOUSEEVENTF_LEFTDOWN);
+        Mouse(MOUSEEVENTF_LEFTUP);
+        ASSERT_TRUE(Hears(WM_LBUTTONUP));
+    }
     POINT cursor{};
 };
 
@@ -123,18 +120,6 @@ TEST_F(InputTest, AltMakesSystemKeys) {
     EXPECT_EQ(Recorder::Get().Find(WM_KEYDOWN), nullptr);
 }
 
-TEST_F(InputTest, WithoutFocusKeysGoToTheActiveWindowAsSystemKeys) {
-    SetFocus(nullptr);
-    Recorder::Get().Clear();
-    Key('Q', true);
-    Key('Q', false);
-    ASSERT_TRUE(Hears(WM_SYSKEYUP));
-    const Heard* down = Recorder::Get().Find(WM_SYSKEYDOWN);
-    ASSERT_NE(down, nullptr);
-    EXPECT_EQ(down->window, window);
-    EXPECT_EQ(static_cast<DWORD>(down->lParam) & 0x20000000u, 0u);
-}
-
 TEST_F(InputTest, AsyncStateLeadsTheQueue) {
     GetAsyncKeyState(VK_F7);
     Key(VK_F7, true);
@@ -148,9 +133,7 @@ TEST_F(InputTest, MouseMessagesUseClientCoordinates) {
     HWND child = Recorder::Get().Make(WS_CHILD | WS_VISIBLE, 50, 40, 100, 80, window);
     Recorder::Get().Clear();
     SetCursorPos(100 + 50 + 7, 100 + 40 + 9);
-    Mouse(MOUSEEVENTF_LEFTDOWN);
-    Mouse(MOUSEEVENTF_LEFTUP);
-    ASSERT_TRUE(Hears(WM_LBUTTONUP));
+    ClickAndHear();
     const Heard* down = Recorder::Get().Find(WM_LBUTTONDOWN);
     ASSERT_NE(down, nullptr);
     EXPECT_EQ(down->window, child);
@@ -164,31 +147,6 @@ TEST_F(InputTest, MouseMessagesUseClientCoordinates) {
     ASSERT_NE(asked, nullptr);
     EXPECT_EQ(asked->wParam, reinterpret_cast<WPARAM>(child));
     EXPECT_EQ(LOWORD(asked->lParam), HTCLIENT);
-}
-
-TEST_F(InputTest, DisabledAndTransparentWindowsLetTheMouseThrough) {
-    HWND disabled = Recorder::Get().Make(WS_CHILD | WS_VISIBLE | WS_DISABLED, 0, 0, 50, 50, window);
-    HWND below = Recorder::Get().Make(WS_CHILD | WS_VISIBLE, 100, 0, 50, 50, window);
-    HWND transparent = Recorder::Get().Make(WS_CHILD | WS_VISIBLE, 100, 0, 50, 50, window);
-    SetWindowPos(transparent, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
-    Pump();
-    Recorder::Get().answer = [transparent](const Heard& heard, LRESULT* result) {
-        *result = HTTRANSPARENT;
-        return heard.message == WM_NCHITTEST && heard.window == transparent;
-    };
-    Recorder::Get().Clear();
-    SetCursorPos(110, 110);
-    Mouse(MOUSEEVENTF_LEFTDOWN);
-    Mouse(MOUSEEVENTF_LEFTUP);
-    ASSERT_TRUE(Hears(WM_LBUTTONUP));
-    EXPECT_EQ(Recorder::Get().Find(WM_LBUTTONDOWN)->window, window);
-    EXPECT_EQ(Recorder::Get().Find(WM_LBUTTONDOWN, disabled), nullptr);
-    Recorder::Get().Clear();
-    SetCursorPos(210, 110);
-    Mouse(MOUSEEVENTF_LEFTDOWN);
-    Mouse(MOUSEEVENTF_LEFTUP);
-    ASSERT_TRUE(Hears(WM_LBUTTONUP));
-    EXPECT_EQ(Recorder::Get().Find(WM_LBUTTONDOWN)->window, below);
 }
 
 TEST_F(InputTest, DoubleClickNeedsTimeAndPlace) {
@@ -229,13 +187,6 @@ TEST_F(InputTest, CaptureTakesTheMouseOutsideTheWindow) {
     EXPECT_EQ(Recorder::Get().Find(WM_LBUTTONUP)->window, child);
     EXPECT_TRUE(ReleaseCapture());
     EXPECT_NE(Recorder::Get().Find(WM_CAPTURECHANGED, child), nullptr);
-    EXPECT_EQ(GetCapture(), nullptr);
-}
-
-TEST_F(InputTest, CaptureEndsWithItsWindow) {
-    HWND child = Recorder::Get().Make(WS_CHILD | WS_VISIBLE, 0, 0, 10, 10, window);
-    SetCapture(child);
-    DestroyWindow(child);
     EXPECT_EQ(GetCapture(), nullptr);
 }
 
@@ -280,18 +231,6 @@ TEST_F(InputTest, MovesAddUpToOneMessage) {
     EXPECT_EQ(Recorder::Get().Find(WM_MOUSEMOVE)->lParam, MAKELPARAM(52, 48));
     INPUT input{};
     EXPECT_EQ(SendInput(1, &input, sizeof input - 4), 0u);
-}
-
-TEST_F(InputTest, InputComesAfterPostedMessages) {
-    Key('Z', true);
-    Key('Z', false);
-    ASSERT_TRUE(PumpUntil([] { return true; }));
-    Recorder::Get().Clear();
-    Key('Z', true);
-    PostMessageA(window, WM_USER, 0, 0);
-    Key('Z', false);
-    ASSERT_TRUE(Hears(WM_KEYUP));
-    EXPECT_EQ(Recorder::Get().Numbers({WM_USER, WM_KEYDOWN}).front(), static_cast<UINT>(WM_USER));
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include <atomic>
 #include <thread>
 
 #include "tests/platform/support/recorder.h"
@@ -10,7 +9,6 @@
 namespace {
 
 constexpr DWORD kTimeout = static_cast<DWORD>(WAIT_TIMEOUT);
-constexpr UINT kAsk = WM_USER + 1;
 
 DWORD Wait(DWORD count, const HANDLE* events, DWORD milliseconds, DWORD mask, BOOL all = FALSE) {
     return MsgWaitForMultipleObjects(count, events, all, milliseconds, mask);
@@ -84,30 +82,6 @@ TEST_F(WaitTest, AllMeansAMessageToo) {
     setter.join();
     EXPECT_EQ(kTimeout, Wait(1, events, 0, 0));
     EXPECT_EQ(DWORD{WAIT_OBJECT_0}, WaitForSingleObject(events[1], 0));
-}
-
-TEST_F(WaitTest, WhatIsSentIsAnsweredMeanwhile) {
-    tests::Recorder::Get().answer = [](const tests::Heard& heard, LRESULT* result) {
-        *result = 42;
-        return heard.message == kAsk;
-    };
-    HWND window = tests::Recorder::Get().Make(WS_POPUP, 0, 0, 10, 10);
-    std::atomic<LRESULT> answers{0};
-    std::thread sender([&] {
-        for (int i = 0; i < 20; ++i) {
-            answers += SendMessageA(window, kAsk, 0, 0);
-        }
-        SetEvent(events[0]);
-    });
-    while (Wait(1, events, INFINITE, QS_ALLINPUT) == WAIT_OBJECT_0 + 1) {
-        for (MSG message; PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE);) {
-            DispatchMessageA(&message);
-        }
-    }
-    sender.join();
-    EXPECT_EQ(20 * 42, answers);
-    DestroyWindow(window);
-    tests::Recorder::Get().Reset();
 }
 
 TEST_F(WaitTest, WhatCannotBeWaitedForIsRefused) {

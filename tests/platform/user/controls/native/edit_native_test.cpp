@@ -3,7 +3,6 @@
 
 #include <set>
 
-#include "tests/platform/support/dialog_builder.h"
 #include "tests/platform/support/edit_control.h"
 
 namespace {
@@ -13,8 +12,7 @@ using tests::EditControl;
 class EditLook : public EditControl {
   protected:
     static std::set<COLORREF> Colours(HWND edit) {
-        RECT client{};
-        GetClientRect(edit, &client);
+        const RECT client = tests::ClientOf(edit);
         const HDC context = GetDC(edit);
         std::set<COLORREF> colours;
         for (int y = 0; y < client.bottom; ++y) {
@@ -23,12 +21,6 @@ class EditLook : public EditControl {
         }
         ReleaseDC(edit, context);
         return colours;
-    }
-    static COLORREF Pixel(HWND edit, int x, int y) {
-        const HDC context = GetDC(edit);
-        const COLORREF colour = GetPixel(context, x, y);
-        ReleaseDC(edit, context);
-        return colour;
     }
 
     const COLORREF window = GetSysColor(COLOR_WINDOW);
@@ -54,7 +46,7 @@ TEST_F(EditLook, PasswordShowsNoneOfItsCharacters) {
     UpdateWindow(stars);
     for (int y = 0; y < 18; ++y) {
         for (int x = 0; x < 40; ++x)
-            ASSERT_EQ(Pixel(stars, x, y), Pixel(secret, x, y));
+            ASSERT_EQ(tests::PixelOf(stars, x, y), tests::PixelOf(secret, x, y));
     }
     Select(secret, 0, -1);
     Send(secret, WM_COPY);
@@ -78,28 +70,9 @@ TEST_F(EditLook, SelectionIsHighlightedWhileTheFieldHasTheFocus) {
     EXPECT_FALSE(Colours(edit).contains(highlight));
 }
 
-TEST_F(EditLook, CaretStandsBetweenCharactersAndWithinTheField) {
-    const HWND edit = Make(ES_AUTOHSCROLL, "", 60);
-    SetFocus(edit);
-    for (int i = 0; i < 30; ++i) {
-        Type(edit, "W");
-        POINT caret{};
-        GetCaretPos(&caret);
-        RECT client{};
-        GetClientRect(edit, &client);
-        ASSERT_GT(caret.x, client.left);
-        ASSERT_LT(caret.x, client.right - 1) << i;
-    }
-    const LONG end = PlaceOf(edit, 30).x;
-    Key(edit, VK_HOME);
-    EXPECT_LT(PlaceOf(edit, 0).x, end);
-}
-
 TEST_F(EditLook, ATextThatIsNowhereIsRefused) {
     const HWND edit = Make(ES_AUTOHSCROLL, "kept");
-    SetLastError(0);
-    EXPECT_FALSE(SetWindowTextA(edit, reinterpret_cast<LPCSTR>(8)));
-    EXPECT_EQ(DWORD{ERROR_NOACCESS}, GetLastError());
+    EXPECT_EQ(DWORD{ERROR_NOACCESS}, tests::ErrorOf([=] { return SetWindowTextA(edit, reinterpret_cast<LPCSTR>(8)); }));
     EXPECT_EQ("kept", Text(edit));
     EXPECT_TRUE(SetWindowTextA(edit, nullptr));
     EXPECT_EQ("", Text(edit));

@@ -1,29 +1,20 @@
 // How list boxes, combo boxes and scroll bars look here, and that they leave nothing behind.
-#include <cvplatform.h>
-#include <gtest/gtest.h>
+#include "tests/platform/support/controls.h"
 
-#include <string>
-#include <vector>
-
-#include "tests/platform/support/dialog_builder.h"
+#include "tests/support/leaks.h"
 
 namespace {
 
 const COLORREF kWhite = RGB(255, 255, 255);
 
-class ListLookTest : public ::testing::Test {
+class ListLookTest : public tests::Controls {
   protected:
     void SetUp() override {
-        parent_ = tests::MakeOwner();
-        SetActiveWindow(parent_);
+        Controls::SetUp();
         tests::PumpMessages();
     }
-    void TearDown() override {
-        DestroyWindow(parent_);
-    }
-    HWND Make(const char* name, DWORD style, int height = 80, DWORD exStyle = 0) {
-        return CreateWindowExA(exStyle, name, "", WS_CHILD | WS_VISIBLE | style, 10, 10, 120, height, parent_, nullptr,
-                               nullptr, nullptr);
+    HWND Make(const char* name, DWORD style, int height = 80) {
+        return MakeControl(name, "", style, 120, height);
     }
     static COLORREF Pixel(HWND window, int x, int y) {
         const HDC context = GetWindowDC(window);
@@ -36,7 +27,6 @@ class ListLookTest : public ::testing::Test {
             SendMessageA(list, message, 0, reinterpret_cast<LPARAM>("HHHH"));
     }
 
-    HWND parent_ = nullptr;
     const COLORREF face = GetSysColor(COLOR_BTNFACE);
     const COLORREF light = GetSysColor(COLOR_3DLIGHT);
     const COLORREF highlight = GetSysColor(COLOR_BTNHIGHLIGHT);
@@ -77,31 +67,19 @@ TEST_F(ListLookTest, AScrollBarIsRaisedOnChequeredGround) {
 
 TEST_F(ListLookTest, AComboBoxIsSunkenWithARaisedArrow) {
     const HWND combo = Make("combobox", CBS_DROPDOWNLIST);
-    const HFONT font = CreateFontA(-11, 0, 0, 0, FW_NORMAL, 0, 0, 0, ANSI_CHARSET, 0, 0, 0, 0, "MS Sans Serif");
-    SendMessageA(combo, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
     tests::PumpMessages();
-    RECT rect{};
-    GetWindowRect(combo, &rect);
-    EXPECT_EQ(21, rect.bottom - rect.top);
+    const RECT place = tests::PlaceOf(combo);
+    const int bottom = place.bottom - place.top - 1;
     EXPECT_EQ(GetSysColor(COLOR_BTNSHADOW), Pixel(combo, 0, 0));
-    EXPECT_EQ(highlight, Pixel(combo, 119, 20));
+    EXPECT_EQ(highlight, Pixel(combo, 119, bottom));
     EXPECT_EQ(kWhite, Pixel(combo, 4, 4));
     EXPECT_EQ(light, Pixel(combo, 102, 2));
-    EXPECT_EQ(dark, Pixel(combo, 117, 18));
+    EXPECT_EQ(dark, Pixel(combo, 117, bottom - 2));
     SetFocus(combo);
     EXPECT_EQ(selection, Pixel(combo, 50, 10));
-    DestroyWindow(combo);
-    DeleteObject(font);
 }
 
 TEST_F(ListLookTest, NothingIsLeftBehind) {
-    const auto counts = [] {
-        std::vector<size_t> all;
-        for (const CvPlatformKind kind :
-             {CV_PLATFORM_WINDOWS, CV_PLATFORM_GDI_OBJECTS, CV_PLATFORM_GLOBAL_BLOCKS, CV_PLATFORM_OTHER_HANDLES})
-            all.push_back(CvPlatformCount(kind));
-        return all;
-    };
     const auto once = [&] {
         for (const DWORD style : {CBS_SIMPLE, CBS_DROPDOWN, CBS_DROPDOWNLIST}) {
             const HWND combo = Make("combobox", style | WS_VSCROLL);
@@ -125,24 +103,15 @@ TEST_F(ListLookTest, NothingIsLeftBehind) {
         DestroyWindow(bar);
     };
     once();  // what is made on first use and kept
-    const auto before = counts();
+    const testing_support::LeakCheck leaks;
     once();
-    EXPECT_EQ(before, counts());
-}
-
-/// Destroys the control that it hears from.
-LRESULT CALLBACK DestroyingProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_COMMAND && lParam)
-        DestroyWindow(reinterpret_cast<HWND>(lParam));
-    return DefWindowProcA(window, message, wParam, lParam);
 }
 
 TEST_F(ListLookTest, ControlsEndedByTheirParentInTheMiddle) {
-    SetWindowLongPtrA(parent_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(DestroyingProcedure));
+    destroyOn = kAny;
     const HWND list = Make("listbox", LBS_NOTIFY | LBS_EXTENDEDSEL);
     Fill(list, LB_ADDSTRING, 5);
-    SendMessageA(list, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
-    SendMessageA(list, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+    Click(list, 0);
     EXPECT_FALSE(IsWindow(list));
     for (const DWORD style : {CBS_SIMPLE, CBS_DROPDOWN, CBS_DROPDOWNLIST}) {
         const HWND combo = Make("combobox", style);

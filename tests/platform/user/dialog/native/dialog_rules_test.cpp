@@ -1,9 +1,12 @@
 // Rules of dialogs that are documented but not kept by every host of the portable tests.
 #include <gtest/gtest.h>
 
+#include <utility>
 #include <vector>
 
 #include "tests/platform/support/dialog_builder.h"
+#include "tests/platform/support/recorder.h"
+#include "tests/platform/support/looking.h"
 
 namespace {
 
@@ -75,25 +78,6 @@ TEST_F(DialogRulesTest, TheOwnersStateComesBackHoweverTheDialogEnds) {
     EXPECT_FALSE(IsWindowEnabled(owner_)) << "it was disabled before";
 }
 
-TEST_F(DialogRulesTest, AnOwnerThatIsNoWindowGivesZero) {
-    const HWND dead = tests::MakeOwner();
-    DestroyWindow(dead);
-    SetLastError(0);
-    EXPECT_EQ(0, Run(dead));
-    EXPECT_EQ(DWORD{ERROR_INVALID_WINDOW_HANDLE}, GetLastError());
-}
-
-TEST_F(DialogRulesTest, ErrorsOfMissingItems) {
-    const HWND dialog = Make();
-    SetLastError(0);
-    EXPECT_EQ(nullptr, GetDlgItem(dialog, 5));
-    EXPECT_EQ(DWORD{ERROR_CONTROL_ID_NOT_FOUND}, GetLastError());
-    DestroyWindow(dialog);
-    SetLastError(0);
-    EXPECT_EQ(nullptr, GetDlgItem(dialog, 5));
-    EXPECT_EQ(DWORD{ERROR_INVALID_WINDOW_HANDLE}, GetLastError());
-}
-
 TEST_F(DialogRulesTest, DisabledButtonsAreNotPressedByKeysOrClose) {
     const HWND dialog = Make();
     SetFocus(dialog);
@@ -116,16 +100,6 @@ TEST_F(DialogRulesTest, RivalsForAMnemonicOnlyPassTheFocusRound) {
     DialogKey(dialog, GetFocus(), 'l', WM_SYSCHAR);
     EXPECT_EQ(500, GetDlgCtrlID(GetFocus()));
     EXPECT_TRUE(clicks.empty());
-    DestroyWindow(dialog);
-}
-
-TEST_F(DialogRulesTest, TheDefaultIdFallsBackToOk) {
-    DialogBuilder plain;
-    plain.Title("").Item("button", "OK", IDOK, WS_TABSTOP, 0, 0, 9, 9).Item("static", "", 5, WS_TABSTOP, 0, 0, 9, 9);
-    const HWND dialog = CreateDialogIndirectParamA(nullptr, plain.Data(), nullptr, Procedure, 0);
-    EXPECT_EQ(0, SendMessageA(dialog, DM_GETDEFID, 0, 0));
-    DialogKey(dialog, GetDlgItem(dialog, 5), VK_RETURN);
-    EXPECT_EQ(std::vector<int>{IDOK}, clicks);
     DestroyWindow(dialog);
 }
 
@@ -155,14 +129,53 @@ TEST_F(DialogRulesTest, EscapeAnswersAMessageBoxWithOkAlone) {
     EXPECT_EQ(IDOK, MessageBoxA(owner_, "text", "Only OK", MB_OK));
 }
 
-TEST_F(DialogRulesTest, OnlyDialogsHaveUnitsAndEnd) {
-    const HWND dialog = Make();
-    const HWND button = GetDlgItem(dialog, IDOK);
-    RECT rect{4, 8, 4, 8};
-    EXPECT_FALSE(MapDialogRect(button, &rect));
-    EXPECT_FALSE(EndDialog(button, 1));
-    EXPECT_EQ(4, rect.left);
-    DestroyWindow(dialog);
+// --- windows that are no dialogs
+
+class PlainWindowRules : public tests::RecordedTest {
+  protected:
+    void SetUp() override {
+        MakeWindow(WS_POPUP | WS_VISIBLE, 50, 50, 300, 200);
+        field_ = CreateWindowExA(0, "edit", "", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 0, 0, 20, 20, window, nullptr,
+                                 nullptr, nullptr);
+        SetFocus(field_);
+    }
+    HWND field_ = nullptr;
+};
+
+TEST_F(PlainWindowRules, EnterAndEscapeAreCommands) {
+    for (const auto& [key, command] : {std::pair{VK_RETURN, IDOK}, std::pair{VK_ESCAPE, IDCANCEL}}) {
+        tests::Recorder::Get().Clear();
+        EXPECT_TRUE(DialogKey(window, GetFocus(), static_cast<WPARAM>(key)));
+        const tests::Heard* heard = tests::Recorder::Get().Find(WM_COMMAND);
+        ASSERT_NE(nullptr, heard);
+        EXPECT_EQ(MAKEWPARAM(command, BN_CLICKED), heard->wParam);
+    }
+}
+
+TEST_F(PlainWindowRules, OddArguments) {
+    MSG message{};
+    EXPECT_FALSE(IsDialogMessageA(window, nullptr));
+    EXPECT_FALSE(IsDialogMessageA(nullptr, &message));
+    EXPECT_FALSE(IsDialogMessageA(window, &message));
+    const HWND all = reinterpret_cast<HWND>(static_cast<INT_PTR>(-1));
+    const HWND stale = CreateWindowExA(0, "static", "", WS_CHILD, 0, 0, 9, 9, window, nullptr, nullptr, nullptr);
+    DestroyWindow(stale);
+    for (const HWND bad : {HWND{}, all, stale}) {
+        EXPECT_EQ(nullptr, GetNextDlgGroupItem(bad, nullptr, FALSE));
+        EXPECT_EQ(nullptr, GetNextDlgTabItem(bad, nullptr, TRUE));
+        EXPECT_FALSE(EndDialog(bad, -1));
+        if (bad) {
+            EXPECT_EQ(nullptr, GetNextDlgGroupItem(window, bad, FALSE));
+        }
+    }
+    EXPECT_EQ(field_, GetNextDlgGroupItem(window, window, FALSE));
+    const HWND empty = CreateWindowExA(0, "static", "", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+    EXPECT_EQ(nullptr, GetNextDlgGroupItem(empty, nullptr, FALSE));
+    EXPECT_EQ(nullptr, GetNextDlgTabItem(empty, nullptr, FALSE));
+    for (const WPARAM key : {VK_TAB, VK_RETURN, VK_ESCAPE, VK_DOWN, VK_LEFT})
+        EXPECT_TRUE(DialogKey(empty, empty, key));
+    EXPECT_TRUE(DialogKey(empty, empty, 'x', WM_SYSCHAR));
+    DestroyWindow(empty);
 }
 
 }  // namespace

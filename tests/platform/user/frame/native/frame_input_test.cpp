@@ -3,11 +3,11 @@
 
 #include <windows.h>
 
-#include <utility>
 #include <vector>
 
 #include "tests/platform/support/expect_rect.h"
 #include "tests/platform/support/hands.h"
+#include "tests/platform/support/looking.h"
 #include "tests/platform/support/recorder.h"
 
 namespace {
@@ -18,40 +18,25 @@ using tests::Key;
 using tests::Pump;
 using tests::Recorder;
 
-class FrameInput : public ::testing::Test {
+class FrameInput : public tests::RecordedTest {
   protected:
     void SetUp() override {
-        Recorder::Get().Reset();
-        window = Recorder::Get().Make(WS_POPUP | WS_VISIBLE | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MAXIMIZEBOX,
-                                      100, 100, 200, 150);
+        MakeWindow(WS_POPUP | WS_VISIBLE | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_MAXIMIZEBOX, 100, 100, 200,
+                   150);
         SetWindowTextA(window, "Caption");
-        SetForegroundWindow(window);
         Pump();
         Recorder::Get().Clear();
-    }
-    void TearDown() override {
-        Recorder::Get().Reset();
-        if (IsWindow(window)) {
-            DestroyWindow(window);
-        }
-        Pump();
     }
     static void Play(const std::vector<INPUT>& inputs) {
         tests::Play(inputs);
         Pump();
     }
     RECT Place() const {
-        RECT rect{};
-        GetWindowRect(window, &rect);
-        return rect;
+        return tests::PlaceOf(window);
     }
     static COLORREF Pixel(int x, int y) {
-        HDC screen = GetDC(nullptr);
-        const COLORREF colour = GetPixel(screen, x, y);
-        ReleaseDC(nullptr, screen);
-        return colour;
+        return tests::PixelOf(nullptr, x, y);
     }
-    HWND window = nullptr;
 };
 
 TEST_F(FrameInput, TheCaptionDragsTheWindow) {
@@ -61,14 +46,6 @@ TEST_F(FrameInput, TheCaptionDragsTheWindow) {
     EXPECT_EQ(Place().right, 330);
     EXPECT_EQ(Recorder::Get().Count(WM_EXITSIZEMOVE), 1);
     EXPECT_EQ(GetCapture(), nullptr);
-}
-
-TEST_F(FrameInput, EscapePutsTheWindowBack) {
-    Play({At(180, 112, MOUSEEVENTF_LEFTDOWN), At(220, 142, 0), Key(VK_ESCAPE), Key(VK_ESCAPE, KEYEVENTF_KEYUP),
-          At(230, 150, MOUSEEVENTF_LEFTUP)});
-    EXPECT_GE(Recorder::Get().Count(WM_WINDOWPOSCHANGED), 2);
-    EXPECT_EQ(Place().left, 100);
-    EXPECT_EQ(Place().top, 100);
 }
 
 TEST_F(FrameInput, TheCaptionStaysInReach) {
@@ -97,27 +74,6 @@ TEST_F(FrameInput, TheCaptionStaysInReach) {
             EXPECT_LE(grip(), whole);
         }
     }
-    // By the keyboard: what is pressed beyond the end does not count.
-    const auto move = [&](std::vector<std::pair<WORD, int>> keys) {
-        std::vector<INPUT> inputs;
-        keys.emplace_back(VK_RETURN, 1);
-        for (const auto& [key, times] : keys) {
-            for (int i = 0; i < times; ++i) {
-                inputs.push_back(Key(key));
-                inputs.push_back(Key(key, KEYEVENTF_KEYUP));
-            }
-        }
-        SetWindowPos(window, nullptr, 100, 100, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-        tests::Play(inputs);
-        SendMessageA(window, WM_SYSCOMMAND, SC_MOVE, 0);
-        Pump();
-        return Place();
-    };
-    const RECT end = move({{VK_LEFT, 100}, {VK_UP, 100}});
-    EXPECT_EQ(end.top, 0);
-    EXPECT_GE(grip(), 30);
-    EXPECT_LT(end.left, 0);
-    EXPECT_EQ(move({{VK_LEFT, 100}, {VK_UP, 100}, {VK_RIGHT, 1}}).left, end.left + 8);
 }
 
 TEST_F(FrameInput, BordersSizeWithinTheLimits) {
@@ -213,8 +169,7 @@ TEST_F(FrameInput, NewColoursAreToldAndDrawn) {
 TEST_F(FrameInput, PlacesAreChosenWhereNoneIsGiven) {
     const auto place = [](DWORD style) {
         const HWND made = Recorder::Get().Make(style, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT);
-        RECT rect;
-        GetWindowRect(made, &rect);
+        const RECT rect = tests::PlaceOf(made);
         DestroyWindow(made);
         return rect;
     };

@@ -3,9 +3,11 @@
 
 #include <windows.h>
 
+#include <utility>
 #include <vector>
 
 #include "tests/platform/support/hands.h"
+#include "tests/platform/support/looking.h"
 #include "tests/platform/support/recorder.h"
 
 namespace {
@@ -25,7 +27,7 @@ struct Asked {
     HELPINFO info;
 };
 
-class ContextHelp : public ::testing::Test {
+class ContextHelp : public tests::RecordedTest {
   protected:
     static constexpr int kLeft = 100;
     static constexpr int kTop = 100;
@@ -33,17 +35,13 @@ class ContextHelp : public ::testing::Test {
     static constexpr int kHeight = 200;
 
     void SetUp() override {
-        Recorder::Get().Reset();
-        DestroyWindow(Recorder::Get().Make(WS_POPUP, 0, 0, 1, 1));  // registers the class
         Recorder::Get().answer = [this](const Heard& heard, LRESULT*) {
             if (heard.message == WM_HELP) {
                 asked.push_back({heard.window, *reinterpret_cast<const HELPINFO*>(heard.lParam)});
             }
-            // Each of them begins a loop, which delivers what is posted.
-            if (heard.message == WM_NCLBUTTONDOWN || heard.message == WM_SYSCOMMAND) {
-                PostMessageA(heard.window, kDuring, heard.message, 0);
-            } else if (heard.message == kDuring && heard.wParam == WM_NCLBUTTONDOWN) {
-                pressedEdge = TopLeftOf(HTHELP);
+            // It begins a loop, which delivers what is posted.
+            if (heard.message == WM_SYSCOMMAND) {
+                PostMessageA(heard.window, kDuring, 0, 0);
             } else if (heard.message == kDuring) {
                 cursor = SetCursor(nullptr);
                 SetCursor(cursor);
@@ -52,16 +50,9 @@ class ContextHelp : public ::testing::Test {
             return false;
         };
     }
-    void TearDown() override {
-        Recorder::Get().Reset();
-        if (IsWindow(window)) {
-            DestroyWindow(window);
-        }
-        Pump();
-    }
     void Make(DWORD style = kStyle, DWORD exStyle = WS_EX_CONTEXTHELP) {
-        window = CreateWindowExA(exStyle | WS_EX_TOPMOST | WS_EX_DLGMODALFRAME, Recorder::kClass, "Help", style, kLeft,
-                                 kTop, kWidth, kHeight, nullptr, nullptr, nullptr, nullptr);
+        window = Recorder::Get().Make(style, kLeft, kTop, kWidth, kHeight, nullptr,
+                                      exStyle | WS_EX_TOPMOST | WS_EX_DLGMODALFRAME, "Help");
         ASSERT_NE(window, nullptr);
         SetForegroundWindow(window);
         UpdateWindow(window);
@@ -94,22 +85,7 @@ class ContextHelp : public ::testing::Test {
     }
     COLORREF TopLeftOf(LRESULT code) const {
         const RECT part = PartOf(code);
-        HDC screen = GetDC(nullptr);
-        const COLORREF colour = GetPixel(screen, part.left, part.top);
-        ReleaseDC(nullptr, screen);
-        return colour;
-    }
-    /// @returns how many pixels of a part have a colour.
-    int Count(const RECT& part, int colour) const {
-        HDC screen = GetDC(nullptr);
-        int count = 0;
-        for (int y = part.top; y < part.bottom; ++y) {
-            for (int x = part.left; x < part.right; ++x) {
-                count += GetPixel(screen, x, y) == GetSysColor(colour) ? 1 : 0;
-            }
-        }
-        ReleaseDC(nullptr, screen);
-        return count;
+        return tests::PixelOf(nullptr, part.left, part.top);
     }
     static POINT In(HWND child, int x = 50, int y = 30) {
         POINT point{x, y};
@@ -127,11 +103,9 @@ class ContextHelp : public ::testing::Test {
               At(point, MOUSEEVENTF_LEFTDOWN), At(point, MOUSEEVENTF_LEFTUP)});
     }
 
-    HWND window = nullptr;
     std::vector<Asked> asked;
     HCURSOR cursor = nullptr;  ///< while help is asked for
     HWND capture = nullptr;
-    COLORREF pressedEdge = CLR_INVALID;
 };
 
 TEST_F(ContextHelp, TheMarkStandsLeftOfTheCloseBoxWhereNoOtherBoxesDo) {
@@ -144,17 +118,12 @@ TEST_F(ContextHelp, TheMarkStandsLeftOfTheCloseBoxWhereNoOtherBoxesDo) {
     EXPECT_EQ(part.right + 2, close.left);
     EXPECT_EQ(TopLeftOf(HTHELP), GetSysColor(COLOR_3DHIGHLIGHT));
     const RECT face{part.left + 2, part.top + 2, part.right - 2, part.bottom - 2};
-    EXPECT_GT(Count(face, COLOR_3DFACE), 40);
-    EXPECT_GT(Count(face, COLOR_BTNTEXT), 15);
+    EXPECT_GT(tests::CountPixels(nullptr, face, GetSysColor(COLOR_3DFACE)), 40);
+    EXPECT_GT(tests::CountPixels(nullptr, face, GetSysColor(COLOR_BTNTEXT)), 15);
     const POINT mark = MiddleOf(HTHELP);
     DestroyWindow(window);
-    for (const DWORD box : {DWORD{WS_MINIMIZEBOX}, DWORD{WS_MAXIMIZEBOX}}) {
-        Make(kStyle | box);
-        EXPECT_NE(Hit(mark), HTHELP);
-        DestroyWindow(window);
-    }
-    Make(kStyle & ~DWORD{WS_SYSMENU});
-    EXPECT_EQ(Hit(mark), HTCAPTION);
+    Make(kStyle | WS_MINIMIZEBOX);
+    EXPECT_NE(Hit(mark), HTHELP);
     DestroyWindow(window);
     Make(kStyle, 0);
     EXPECT_EQ(Hit(mark), HTCAPTION);
@@ -180,7 +149,6 @@ TEST_F(ContextHelp, TheControlUnderTheClickIsAskedAndThenItsParents) {
         EXPECT_EQ(each.info.MousePos.x, click.x);
         EXPECT_EQ(each.info.MousePos.y, click.y);
     }
-    EXPECT_EQ(pressedEdge, GetSysColor(COLOR_3DDKSHADOW));
     EXPECT_EQ(TopLeftOf(HTHELP), GetSysColor(COLOR_3DHIGHLIGHT));
     EXPECT_EQ(cursor, LoadCursorA(nullptr, IDC_HELP));
     EXPECT_EQ(capture, window);
@@ -196,18 +164,16 @@ TEST_F(ContextHelp, TheControlUnderTheClickIsAskedAndThenItsParents) {
 
 TEST_F(ContextHelp, WhatTakesNoClicksCanBeAskedAboutToo) {
     Make();
-    HWND disabled = MakeChild("button", WS_DISABLED, 11);
-    AskAbout(In(disabled));
-    ASSERT_FALSE(asked.empty());
-    EXPECT_EQ(asked[0].info.hItemHandle, disabled);
-    EXPECT_EQ(asked[0].info.iCtrlId, 11);
-    DestroyWindow(disabled);
-    asked.clear();
-
-    HWND label = MakeChild("static", SS_LEFT, 12);
-    AskAbout(In(label));
-    ASSERT_FALSE(asked.empty());
-    EXPECT_EQ(asked[0].info.hItemHandle, label);
+    const std::pair<const char*, DWORD> kinds[] = {{"button", WS_DISABLED}, {"static", SS_LEFT}};
+    for (const auto& [className, style] : kinds) {
+        HWND child = MakeChild(className, style, 11);
+        AskAbout(In(child));
+        ASSERT_FALSE(asked.empty());
+        EXPECT_EQ(asked[0].info.hItemHandle, child);
+        EXPECT_EQ(asked[0].info.iCtrlId, 11);
+        DestroyWindow(child);
+        asked.clear();
+    }
 }
 
 TEST_F(ContextHelp, EscapeAndAClickElsewhereEndIt) {
@@ -229,19 +195,6 @@ TEST_F(ContextHelp, EscapeAndAClickElsewhereEndIt) {
     DestroyWindow(other);
     EXPECT_TRUE(asked.empty());
     EXPECT_EQ(GetCapture(), nullptr);
-}
-
-TEST_F(ContextHelp, TheMarkCountsOnlyWhenReleasedThere) {
-    Make();
-    HWND control = MakeChild(Recorder::kClass, 0, 42);
-    Recorder::Get().Clear();
-    Play({At(MiddleOf(HTHELP), MOUSEEVENTF_LEFTDOWN), At(In(control), 0), At(In(control), MOUSEEVENTF_LEFTUP)});
-    EXPECT_EQ(Recorder::Get().Find(WM_SYSCOMMAND), nullptr);
-    AskAbout(In(control));
-    const Heard* command = Recorder::Get().Find(WM_SYSCOMMAND);
-    ASSERT_NE(command, nullptr);
-    EXPECT_EQ(command->wParam & 0xFFF0, static_cast<WPARAM>(SC_CONTEXTHELP));
-    EXPECT_EQ(asked.size(), 2U);
 }
 
 TEST_F(ContextHelp, TheOwnerIsAskedAfterAWindowOfTheTopLevel) {

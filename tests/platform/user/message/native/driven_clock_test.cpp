@@ -7,6 +7,8 @@
 #include <map>
 #include <vector>
 
+#include "tests/platform/support/hands.h"
+
 namespace {
 
 constexpr ULONGLONG kWrap = ULONGLONG{1} << 32;
@@ -94,23 +96,15 @@ TEST_F(DrivenClock, WaitsLastAsLongOverTheWrap) {
     CloseHandle(event);
 }
 
-void Click() {
-    for (DWORD const flags : {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP}) {
-        INPUT input = {};
-        input.type = INPUT_MOUSE;
-        input.mi.dwFlags = flags;
-        SendInput(1, &input, sizeof input);
-    }
-}
-
 TEST_F(DrivenClock, ADoubleClickMayBeginBeforeTheWrap) {
     constexpr DWORD kDoubleClick = 500;
     for (DWORD const pause : {kDoubleClick - 50, kDoubleClick + 50}) {
         Begin(100);
-        SetCursorPos(120, 110);
-        Click();
+        const std::vector<INPUT> click{tests::At(120, 110, MOUSEEVENTF_LEFTDOWN),
+                                       tests::At(120, 110, MOUSEEVENTF_LEFTUP)};
+        tests::Play(click);
         Sleep(pause);
-        Click();
+        tests::Play(click);
         bool doubled = false;
         for (MSG const& message : Drain()) {
             doubled = doubled || message.message == WM_LBUTTONDBLCLK;

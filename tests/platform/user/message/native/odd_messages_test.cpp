@@ -114,6 +114,22 @@ TEST_F(OddMessages, Windows) {
     EXPECT_TRUE(ValidateRect(nullptr, nullptr));
 }
 
+TEST_F(OddMessages, AFullQueueIsRefused) {
+    int posted = 0;
+    while (posted < 20000 && PostMessageA(parent_, WM_NULL, 0, 0)) {
+        ++posted;
+    }
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_NOT_ENOUGH_QUOTA));
+    EXPECT_EQ(posted, 10000);
+}
+
+TEST_F(OddMessages, ACaretGoesWithItsWindow) {
+    const HWND child = Make("static", 0);
+    ASSERT_TRUE(CreateCaret(child, nullptr, 1, 10));
+    DestroyWindow(child);
+    EXPECT_FALSE(ShowCaret(nullptr));
+}
+
 INT_PTR CALLBACK EndInTheBeginning(HWND dialog, UINT message, WPARAM, LPARAM parameter) {
     if (message == WM_INITDIALOG) {
         SetCapture(dialog);

