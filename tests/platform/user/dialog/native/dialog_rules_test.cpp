@@ -154,6 +154,10 @@ TEST_F(PlainWindowRules, EnterAndEscapeAreCommands) {
 
 TEST_F(PlainWindowRules, OddArguments) {
     MSG message{};
+    RECT rect{4, 8, 4, 8};
+    EXPECT_FALSE(MapDialogRect(window, &rect));
+    EXPECT_EQ(4, rect.left);
+    EXPECT_FALSE(EndDialog(window, 1));
     EXPECT_FALSE(IsDialogMessageA(window, nullptr));
     EXPECT_FALSE(IsDialogMessageA(nullptr, &message));
     EXPECT_FALSE(IsDialogMessageA(window, &message));
