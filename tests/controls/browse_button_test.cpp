@@ -298,4 +298,30 @@ TEST_F(BrowseButton, ALongPathIsCutAtTheBuffersSize) {
     EXPECT_EQ(lower, buffer);
 }
 
+TEST_F(BrowseButton, TheHookNamesTheButtonAndJudgesTheFile) {
+    HWND const accept = Create("button", host_, 0, IDOK);
+    EXPECT_EQ(1U, browse_DialogFileHookProc(host_, WM_INITDIALOG, 0, 0));
+    NMHDR notification = {};
+    notification.hwndFrom = host_;
+    notification.code = CDN_INITDONE;
+    EXPECT_EQ(0U, browse_DialogFileHookProc(host_, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&notification)));
+    EXPECT_EQ("OK", TextOf(accept));
+
+    TempFolder const folder;
+    std::string file = folder.MakeFile("there.txt");
+    OPENFILENAMEA record = {};
+    record.lpstrFile = file.data();
+    auto const judge = [&] {
+        return browse_DialogFileHookProc(host_, RegisterWindowMessageA("commdlg_FileNameOK"), 0,
+                                         reinterpret_cast<LPARAM>(&record));
+    };
+    EXPECT_EQ(0U, judge());
+    std::string missing = folder.Path("missing.txt");
+    record.lpstrFile = missing.data();
+    EXPECT_EQ(1U, judge());
+    record.Flags = OFN_ALLOWMULTISELECT;
+    EXPECT_EQ(0U, judge());
+    EXPECT_EQ(0U, browse_DialogFileHookProc(host_, WM_COMMAND, IDOK, 0));
+}
+
 }  // namespace
