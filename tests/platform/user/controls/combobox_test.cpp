@@ -188,7 +188,7 @@ TEST_F(ComboBoxTest, ASimpleOneHasItsListInView) {
     Send(list, WM_LBUTTONUP, 0, PointIn(list, 1));
     EXPECT_EQ("bee", Text(combo));
     EXPECT_EQ(ComboField(combo), GetFocus());
-    EXPECT_EQ(CBN_SELCHANGE, notified.back());
+    EXPECT_EQ(UINT{CBN_SELCHANGE}, notified.back());
 }
 
 // Its list does not scroll, and hands nothing back.
