@@ -106,6 +106,18 @@ TEST_F(EditTest, WithoutScrollingTheTextEndsAtTheEdge) {
     EXPECT_GE(PlaceOf(scrolling, 0).x, 0);
 }
 
+TEST_F(EditTest, SetTextStartsAfresh) {
+    const HWND edit = Make();
+    Type(edit, "abc");
+    TakeNotified();
+    EXPECT_TRUE(SetWindowTextA(edit, "new"));
+    EXPECT_EQ("|new", Marked(edit));
+    EXPECT_TRUE(Send(edit, WM_UNDO)) << "always so for a single line";
+    EXPECT_EQ("|new", Marked(edit)) << "there is nothing to take back";
+    SetWindowTextA(edit, nullptr);
+    EXPECT_EQ("|", Marked(edit));
+}
+
 TEST_F(EditTest, UndoTakesBackTheLastPieceOfWork) {
     const HWND edit = Make(ES_AUTOHSCROLL, "hello");
     Select(edit, 5, 5);
@@ -114,10 +126,6 @@ TEST_F(EditTest, UndoTakesBackTheLastPieceOfWork) {
     EXPECT_EQ("hello", Text(edit)) << "typing is taken back as one";
     EXPECT_TRUE(Send(edit, WM_UNDO));
     EXPECT_EQ("hello you", Text(edit)) << "and undoing, too, can be undone";
-    SetWindowTextA(edit, "new");
-    EXPECT_TRUE(Send(edit, WM_UNDO)) << "always so for a single line";
-    EXPECT_EQ("|new", Marked(edit)) << "there is nothing to take back";
-    SetWindowTextA(edit, "hello you");
 
     Select(edit, 0, 6);
     Send(edit, WM_CLEAR);

@@ -71,7 +71,7 @@ TEST_P(TemplateForm, MakesTheDialogAndItsControls) {
     DialogBuilder builder(WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_SETFONT | DS_MODALFRAME, 160, 120, GetParam());
     builder.Title("Title", "MS Sans Serif")
         .NumberedItem(0x0082, "&Name:", 300, SS_LEFT, 7, 9, 40, 8)
-        .Item("button", "OK", IDOK, BS_DEFPUSHBUTTON | WS_TABSTOP, 50, 100, 50, 14, 0, {0x1234, 0x5678})
+        .Item("button", "OK", IDOK, BS_DEFPUSHBUTTON | WS_TABSTOP, 50, 100, 50, 14)
         .NumberedItem(0x0080, "Box", 1000, BS_AUTOCHECKBOX | WS_TABSTOP, 7, 40, 60, 10);
     ASSERT_NE(nullptr, Make(builder));
 
@@ -80,7 +80,7 @@ TEST_P(TemplateForm, MakesTheDialogAndItsControls) {
     EXPECT_FALSE(IsWindowVisible(dialog_));
     EXPECT_TRUE(GetWindowLongA(dialog_, GWL_EXSTYLE) & WS_EX_DLGMODALFRAME);
     const HWND label = GetDlgItem(dialog_, 300);
-    const HWND check = GetDlgItem(dialog_, 1000);  // behind creation data, which is passed over
+    const HWND check = GetDlgItem(dialog_, 1000);
     EXPECT_EQ("static", ClassOf(label));
     EXPECT_EQ("&Name:", TextOf(label));
     EXPECT_EQ("button", ClassOf(check));
@@ -106,6 +106,24 @@ TEST_P(TemplateForm, MakesTheDialogAndItsControls) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Forms, TemplateForm, ::testing::Bool());
+
+TEST_F(DialogTest, CreationDataIsPassedOver) {
+    WNDCLASSA windowClass{};
+    windowClass.lpfnWndProc = DefWindowProcA;
+    windowClass.hInstance = GetModuleHandleA(nullptr);
+    windowClass.lpszClassName = "tests_creation_data";
+    ASSERT_NE(0, RegisterClassA(&windowClass));
+    for (const bool extended : {false, true}) {
+        DialogBuilder builder(WS_POPUP, 100, 50, extended);
+        builder.Title("")
+            .Item("tests_creation_data", "", 1, 0, 0, 0, 9, 9, 0, {0x1234, 0x5678})
+            .Item("tests_creation_data", "behind", 2, 0, 0, 0, 9, 9);
+        ASSERT_NE(nullptr, Make(builder)) << extended;
+        EXPECT_EQ("behind", TextOf(GetDlgItem(dialog_, 2))) << extended;
+        DestroyWindow(dialog_);
+    }
+    UnregisterClassA("tests_creation_data", windowClass.hInstance);
+}
 
 TEST_F(DialogTest, FromResources) {
     const HINSTANCE instance = GetModuleHandleA(nullptr);
