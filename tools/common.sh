@@ -93,7 +93,7 @@ build_examples() {
     cmake --build "build/$1/examples"
 }
 
-# Runs a command on a virtual X server of its own.
+# Runs a command on a virtual X server of its own, which goes on between two programs of it.
 on_virtual_screen() {
-    xvfb-run -a -s "-screen 0 1280x1024x24" "$@"
+    xvfb-run -a -s "-screen 0 1280x1024x24 -noreset" "$@"
 }

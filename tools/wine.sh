@@ -128,7 +128,7 @@ once() {
 # Runs a command on a screen of its own, and ends wine after it.
 namespaces=()
 on_screen() {
-    "${namespaces[@]}" xvfb-run -a -s "-screen 0 1280x1024x24 -nolisten tcp" \
+    "${namespaces[@]}" xvfb-run -a -s "-screen 0 1280x1024x24 -nolisten tcp -noreset" \
         bash -c 'code=0; "${@:2}" || code=$?; "$1" -k || true; "$1" -w; exit $code' on_screen "$server" "$@" 8>&-
 }
 
