@@ -140,7 +140,8 @@ void CLISTHEADER::FreeAll() {
     if (!array) {
         return;
     }
-    for (std::uint32_t i = 0; i < count; ++i) {
+    const bool plain = type != CLISTTYPE_POINTER && !prototype;
+    for (std::uint32_t i = 0; i < count && !plain; ++i) {
         FreeItem(ItemAddress(i));
     }
     if (prototype) {

@@ -5,6 +5,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <string_view>
 #include <system_error>
 
 #include "base/report.h"
@@ -12,40 +13,53 @@
 namespace platform::base {
 namespace {
 
-std::string Environment(const char* name) {
+std::string_view Environment(const char* name) {
     const char* value = std::getenv(name);
     return value ? value : "";
 }
 
-std::string WithoutSlash(std::string path) {
-    while (path.size() > 1 && path.back() == '/') {
-        path.pop_back();
+std::string_view UserFolder() {
+    const std::string_view home = Environment("HOME");
+    if (!home.empty()) {
+        return home;
     }
-    return path;
+    const passwd* entry = getpwuid(getuid());
+    return entry && entry->pw_dir ? entry->pw_dir : "/";
 }
 
-std::string UserFolder() {
-    std::string home = Environment("HOME");
-    if (home.empty()) {
-        const passwd* entry = getpwuid(getuid());
-        home = entry && entry->pw_dir ? entry->pw_dir : "/";
+// A folder without slashes at its end, and what comes below it: the path in two parts, which are in memory already.
+struct Place {
+    Place(std::string_view folder, std::string_view rest) : base(folder), below(rest) {
+        while (base.size() > 1 && base.back() == '/') {
+            base.remove_suffix(1);
+        }
     }
-    return home;
+    std::string_view base;
+    std::string_view below;
+};
+
+Place StatePlace() {
+    if (const std::string_view chosen = Environment("CVUTIL32_HOME"); !chosen.empty()) {
+        return {chosen, ""};
+    }
+    // A relative XDG_DATA_HOME is invalid and to be ignored.
+    if (const std::string_view data = Environment("XDG_DATA_HOME"); data.starts_with('/')) {
+        return {data, "/cvutil32"};
+    }
+    return {UserFolder(), "/.local/share/cvutil32"};
 }
 
 }  // namespace
 
 std::string StateFolder() {
-    std::string chosen = Environment("CVUTIL32_HOME");
-    if (!chosen.empty()) {
-        return WithoutSlash(std::move(chosen));
-    }
-    // A relative XDG_DATA_HOME is invalid and to be ignored.
-    std::string data = Environment("XDG_DATA_HOME");
-    if (data.empty() || data[0] != '/') {
-        data = UserFolder() + "/.local/share";
-    }
-    return WithoutSlash(std::move(data)) + "/cvutil32";
+    const Place place = StatePlace();
+    return std::string(place.base).append(place.below);
+}
+
+bool IsStateFolder(std::string_view folder) {
+    const Place place = StatePlace();
+    return folder.size() == place.base.size() + place.below.size() && folder.starts_with(place.base) &&
+           folder.ends_with(place.below);
 }
 
 bool EnsureStateFolder() {

@@ -6,6 +6,7 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <memory>
@@ -122,7 +123,6 @@ class Database {
     /// file format.
     struct Head {
         std::array<std::uint32_t, 12> words{};
-        bool operator==(const Head&) const = default;
         std::uint32_t Commits() const {
             return words[2];
         }
@@ -130,9 +130,10 @@ class Database {
     /// @returns false when there is nothing to look at, as the file is not kept with such a log.
     bool ReadHead(Head* head) const;
 
-    /// @returns whether nobody can change the file, as it lies on a medium that cannot be written.
-    bool IsFrozen() const {
-        return frozen_;
+    /// @returns whether nothing has changed since a look at the head. Nobody can change a file on a medium that cannot be
+    /// written.
+    bool IsAt(const Head& head) const {
+        return head_ ? std::equal(head.words.begin(), head.words.end(), head_) : frozen_;
     }
 
   private:

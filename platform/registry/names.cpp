@@ -4,20 +4,19 @@
 
 namespace platform::registry {
 
-std::string Folded(std::string_view name) {
-    std::string folded(name);
-    bool plain = true;
-    for (char& character : folded) {
-        if (character >= 'a' && character <= 'z') {
-            character = static_cast<char>(character - ('a' - 'A'));
-        }
-        plain = plain && static_cast<unsigned char>(character) < 0x80;
+void AppendFolded(std::string& to, std::string_view name) {
+    const std::size_t begin = to.size();
+    to.append(name);
+    unsigned char all = 0;
+    for (std::size_t i = begin; i < to.size(); ++i) {
+        const auto character = static_cast<unsigned char>(to[i]);
+        all |= character;
+        to[i] = static_cast<char>(character >= 'a' && character <= 'z' ? character - ('a' - 'A') : character);
     }
-    if (!plain) {
-        CharUpperBuffA(folded.data(), static_cast<DWORD>(folded.size()));
-        return kernel::Utf8FromAnsi(folded);
+    if (all >= 0x80) {
+        CharUpperBuffA(to.data() + begin, static_cast<DWORD>(name.size()));
+        to.replace(begin, name.size(), kernel::Utf8FromAnsi(std::string_view(to).substr(begin)));
     }
-    return folded;
 }
 
 LONG SplitKeyPath(std::string_view path, std::vector<KeyName>& names) {
@@ -37,7 +36,7 @@ LONG SplitKeyPath(std::string_view path, std::vector<KeyName>& names) {
             return ERROR_INVALID_PARAMETER;
         }
         if (!name.empty()) {
-            names.push_back({kernel::Utf8FromAnsi(name), Folded(name)});
+            AppendFolded(names.emplace_back(KeyName{kernel::Utf8FromAnsi(name), {}}).folded, name);
         }
         at = *end ? end + 1 : end;
     }

@@ -14,8 +14,8 @@ namespace platform::registry {
 constexpr std::size_t kMostKeyName = 255;
 constexpr std::size_t kMostValueName = 16383;
 
-/// @returns a name in the form in which equal names are the same bytes.
-std::string Folded(std::string_view name);
+/// Appends a name in the form in which equal names are the same bytes.
+void AppendFolded(std::string& to, std::string_view name);
 
 struct KeyName {
     std::string name;  ///< UTF-8, as it was written

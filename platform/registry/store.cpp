@@ -65,9 +65,9 @@ void Store::Remember(std::size_t bytes) {
 }
 
 LONG Store::Refresh() {
-    std::string folder = base::StateFolder();
-    if (!database_ || folder != folder_) {
+    if (!database_ || !base::IsStateFolder(folder_)) {
         database_.reset();
+        std::string folder = base::StateFolder();
         LONG error = ERROR_SUCCESS;
         database_ = Database::Open(folder, &error);
         if (!database_) {
@@ -77,12 +77,9 @@ LONG Store::Refresh() {
         current_ = false;
     }
     // The head is read before anything else: what is read later is at least as new as what the head stands for.
-    Database::Head head;
-    const bool known = database_->ReadHead(&head);
-    const bool same = known ? current_ && head == head_ : current_ && database_->IsFrozen();
-    if (!same || kept_ > kMostKept) {
+    if (!current_ || !database_->IsAt(head_) || kept_ > kMostKept) {
         Forget();
-        head_ = head;
+        database_->ReadHead(&head_);
         current_ = true;
     }
     return ERROR_SUCCESS;
@@ -90,7 +87,8 @@ LONG Store::Refresh() {
 
 // Looks a value up by its folded name. @returns that name, which holds until the next look-up.
 std::string_view Store::Want(KeyId key, std::string_view name) {
-    ComposeName(wanted_, key, Folded(name));
+    ComposeName(wanted_, key, {});
+    AppendFolded(wanted_, name);
     return std::string_view(wanted_).substr(sizeof key);
 }
 

@@ -158,7 +158,7 @@ bool ReplaceFile(const std::string& named, const std::string& text) {
 template <class Edit>
 BOOL Change(const std::string& path, Edit edit) {
     const std::string folder = path.substr(0, path.find_last_of('/'));
-    if (folder == base::StateFolder() && !base::EnsureStateFolder()) {
+    if (base::IsStateFolder(folder) && !base::EnsureStateFolder()) {
         return base::Fail(ERROR_ACCESS_DENIED, FALSE);
     }
     const Descriptor lock(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
