@@ -203,6 +203,9 @@ managed() {
 }
 wait_for "the manager" managed
 
+is_iconic() {
+    xprop -name Frame WM_STATE | grep -q Iconic
+}
 listed() { # <title>
     wmctrl -l | grep -q " $1\$"
 }
@@ -225,6 +228,30 @@ wmctrl -a Frame
 hears active
 hears 'size 492 373'
 xdotool key m
+hears minimised
+wait_for "the icon" is_iconic
+wmctrl -a Frame
+hears 'size 492 373'
+await_focus Frame
+# The manager does both what the program and what the person wants before the program looks.
+kill -STOP "$manager"
+xdotool key m
+hears minimised
+sleep 0.5
+kill -STOP "$program"
+kill -CONT "$manager"
+until is_iconic; do
+    kill -CONT "$program"
+    sleep 0.1
+    kill -STOP "$program"
+done
+wmctrl -a Frame
+wait_for "the end of the icon" has_focus Frame
+kill -CONT "$program"
+hears 'size 492 373'
+await_focus Frame
+# Once more from outside: nobody still waits for an answer.
+xdotool windowminimize "$(window_of Frame)"
 hears minimised
 wmctrl -a Frame
 hears 'size 492 373'

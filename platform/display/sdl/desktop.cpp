@@ -11,16 +11,11 @@ namespace {
 
 constexpr std::uint32_t kPaintPatience = 100;    // for a pane that is not complete, until it is shown all the same
 constexpr std::uint32_t kFocusPatience = 50;     // between one pane and another no program has the focus
-constexpr std::uint32_t kAnswerPatience = 1000;  // for the host to do what it was asked for
 
 int ChooseScale(int density, const Box& desktop) {
     const char* text = std::getenv("CVUTIL32_SCALE");
     const int given = text != nullptr ? std::atoi(text) : 0;
     return given >= 1 && given <= kMostScale ? given : ScaleOf(density, desktop);
-}
-
-bool Passed(std::uint32_t time) {
-    return static_cast<std::int32_t>(SDL_GetTicks() - time) >= 0;
 }
 
 }  // namespace
@@ -196,6 +191,9 @@ void Desktop::HandleWindow(const SDL_WindowEvent& event) {
 void Desktop::Gained(PaneId id) {
     focused = id;
     verdict = 0;
+    if (HostWindow* window = Find(id); window != nullptr && window->RestoredByFocus()) {
+        sink.minimised(id, false);
+    }
     std::erase_if(requests, [](const Request& each) { return Passed(each.time + kAnswerPatience); });
     const auto asked = std::ranges::find(requests, id, &Request::pane);
     if (asked != requests.end()) {

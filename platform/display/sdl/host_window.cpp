@@ -20,6 +20,7 @@ HostWindow::~HostWindow() {
 
 bool HostWindow::Open(const Pane& shown, SDL_Window* ownerWindow, bool active) {
     pane = shown;
+    pane.minimised = false;  // it appears, and follows then
     owner = ownerWindow;
     actual = OnHost(pane.place);
     Uint32 flags = SDL_WINDOW_HIDDEN | SDL_WINDOW_BORDERLESS | SDL_WINDOW_RESIZABLE;
@@ -33,11 +34,11 @@ bool HostWindow::Open(const Pane& shown, SDL_Window* ownerWindow, bool active) {
         return false;
     }
     host.Describe(window, {owner, pane.minimises, pane.sizes, active});
-    Ask(actual);
+    AskPlace(actual);
     return true;
 }
 
-void HostWindow::Ask(const Box& place) {
+void HostWindow::AskPlace(const Box& place) {
     asked.push_back({place.left, place.top});
     if (asked.size() > kMostAsked) {
         asked.pop_front();
@@ -68,20 +69,20 @@ void HostWindow::Follow(const Pane& now, SDL_Window* ownerWindow, bool managed) 
     if (before.topmost != pane.topmost && !pane.popup) {
         SDL_SetWindowAlwaysOnTop(window, pane.topmost ? SDL_TRUE : SDL_FALSE);
     }
+    // Only changes are passed on: what the person does comes to the pane some time later.
     if (managed && pane.minimised) {
-        if (!minimised) {
-            minimised = asking = true;
+        if (!before.minimised && !minimised) {
+            AskState(true);
             host.Minimise(window);
         }
         return;
     }
-    if (minimised && before.minimised) {
-        minimised = false;
-        asking = true;
+    if (before.minimised && minimised) {
+        AskState(false);
         host.Map(window);
     }
     if (before.place != pane.place) {
-        Ask(OnHost(pane.place));
+        AskPlace(OnHost(pane.place));
         actual = OnHost(pane.place);
     }
 }
@@ -178,10 +179,24 @@ bool HostWindow::StateChanged() {
         asking = false;
         return false;
     }
-    if (asking) {
+    if (asking && !Passed(askedAt + kAnswerPatience)) {
         return false;  // it speaks of something else
     }
     minimised = is;
+    return true;
+}
+
+void HostWindow::AskState(bool wanted) {
+    minimised = wanted;
+    asking = true;
+    askedAt = SDL_GetTicks();
+}
+
+bool HostWindow::RestoredByFocus() {
+    if (!minimised || host.IsMinimised(window)) {
+        return false;
+    }
+    minimised = asking = false;
     return true;
 }
 

@@ -7,10 +7,18 @@
 
 #include <SDL.h>
 
+#include <cstdint>
 #include <deque>
 #include <vector>
 
 namespace platform::display {
+
+constexpr std::uint32_t kAnswerPatience = 1000;  ///< milliseconds, for the host to do what it was asked for
+
+/// @returns whether a time of SDL_GetTicks has come.
+inline bool Passed(std::uint32_t time) {
+    return static_cast<std::int32_t>(SDL_GetTicks() - time) >= 0;
+}
 
 /// Used on the display's thread alone.
 class HostWindow {
@@ -39,6 +47,8 @@ class HostWindow {
     bool Moved(SDL_Point corner);
     bool Sized(int width, int height);
     bool StateChanged();
+    /// The host has given the window the focus. @returns whether it was minimised, or was to be, and has come back for that.
+    bool RestoredByFocus();
     void Exposed() {
         exposed = true;
     }
@@ -59,7 +69,8 @@ class HostWindow {
     }
 
   private:
-    void Ask(const Box& place);
+    void AskPlace(const Box& place);
+    void AskState(bool wanted);
     void Blit(SDL_Surface* picture, SDL_Surface* surface, const Box& part, const Box& place);
     Box OnHost(const Box& place) const {
         return {place.left * scale, place.top * scale, place.right * scale, place.bottom * scale};
@@ -77,7 +88,8 @@ class HostWindow {
     bool fresh = true;              // holds nothing of the picture
     bool exposed = false;
     bool minimised = false;
-    bool asking = false;  // to be minimised or restored, and the host has not answered
+    bool asking = false;        // to be minimised or restored, and the host has not answered
+    std::uint32_t askedAt = 0;  // and since when
 };
 
 }  // namespace platform::display
