@@ -68,7 +68,7 @@ struct Scene {
 
     std::vector<Pane> panes;  ///< the uppermost first
     PaneId active = 0;        ///< gets the keys
-    unsigned overruled = 0;   ///< grows when the host's choice of the active pane was not taken
+    unsigned rechecks = 0;    ///< grows when the active pane may not be the host's, though it is the same as before
     bool captured = false;    ///< the mouse belongs to the program, wherever it goes
 };
 

@@ -378,7 +378,7 @@ void Desktop::Stack() {
 
 // Popups get the keys by way of their owners.
 void Desktop::FollowActive() {
-    if (scene.active == followed && scene.overruled == overruled) {
+    if (scene.active == followed && scene.rechecks == rechecks) {
         return;
     }
     PaneId target = scene.active;
@@ -391,7 +391,7 @@ void Desktop::FollowActive() {
         return;  // it is about to come
     }
     followed = scene.active;
-    overruled = scene.overruled;
+    rechecks = scene.rechecks;
     if (window == nullptr || target == focused || window->IsMinimised()) {
         return;
     }

@@ -74,7 +74,7 @@ class Desktop final : public Stage {
 
     PaneId focused = 0;   // as the host has it
     PaneId followed = 0;  // the active pane that the host was last told of
-    unsigned overruled = 0;
+    unsigned rechecks = 0;
     struct Request {
         PaneId pane;
         std::uint32_t time;

@@ -17,20 +17,20 @@ struct Told {
     std::uint64_t generation = 0;
     HWND active = nullptr;
     bool captured = false;
-    unsigned overruled = 0;
+    unsigned rechecks = 0;
 
     bool operator==(const Told&) const = default;
 };
 
 Told told;
-unsigned overruled = 0;
+unsigned rechecks = 0;
 
 Told Now() {
     const ThreadState* foreground = Input().foreground;
     return {.generation = WindowsGeneration(),
             .active = foreground != nullptr ? foreground->active : nullptr,
             .captured = foreground != nullptr && foreground->capture != nullptr,
-            .overruled = overruled};
+            .rechecks = rechecks};
 }
 
 HWND WindowOf(display::PaneId pane) {
@@ -73,11 +73,15 @@ display::Pane Describe(const Window* window) {
     return pane;
 }
 
+void Recheck() {
+    UserGuard guard(UserLock());
+    ++rechecks;
+}
+
 void Activate(HWND handle) {
     ActivateWindow(WindowToActivate(handle), false);
     if (GetForegroundWindow() != handle) {
-        UserGuard guard(UserLock());
-        ++overruled;
+        Recheck();
     }
 }
 
@@ -90,6 +94,8 @@ void Deactivate(const SentMessage&) {
     if (Shared(Input().foreground) == self) {
         DeactivateOwn(self);
     }
+    // The window may be active again before the host looks, and needs the keyboard then.
+    Recheck();
 }
 
 void Close(const SentMessage& sent) {
@@ -145,7 +151,7 @@ void DescribeScene(display::Scene* scene) {
     }
     scene->active = reinterpret_cast<display::PaneId>(told.active);
     scene->captured = told.captured;
-    scene->overruled = told.overruled;
+    scene->rechecks = told.rechecks;
 }
 
 bool SceneChanged() {
