@@ -56,8 +56,8 @@ struct Range {
     std::uintptr_t begin = 0;
     std::uintptr_t end = 0;
 
-    bool Holds(std::uintptr_t address) const {
-        return address >= begin && address < end;
+    bool Holds(std::uintptr_t first, std::uintptr_t last) const {
+        return first >= begin && last < end;
     }
 };
 
@@ -78,12 +78,12 @@ extern "C" __attribute__((weak)) char* __curbrk;
 char* g_dataEnd = nullptr;
 char* const* g_heapEnd = &g_dataEnd;
 
-// Whether an address lies in the frames of the callers: from the frame of the probe up to the stack's end. A thread may
+// Whether memory lies in the frames of the callers: from the frame of the probe up to the stack's end. A thread may
 // also run on a stack of somebody else's making (a signal's, a coroutine's), of which nothing is known.
-inline __attribute__((always_inline)) bool IsOnStack(std::uintptr_t address) {
+inline __attribute__((always_inline)) bool IsOnStack(std::uintptr_t first, std::uintptr_t last) {
     std::uintptr_t frame;
     asm("mov %%rsp, %0" : "=r"(frame));
-    return address < t_known.stack.end && address >= frame && frame >= t_known.stack.begin;
+    return last < t_known.stack.end && first >= frame && frame >= t_known.stack.begin;
 }
 
 // Variables and the heap that grows by brk lie lowest in a process; what is mapped and the stacks lie above them.
@@ -91,9 +91,9 @@ inline __attribute__((always_inline)) bool IsBelowHeapEnd(std::uintptr_t address
     return address < reinterpret_cast<std::uintptr_t>(*g_heapEnd);
 }
 
-inline __attribute__((always_inline)) bool IsInKnownPages(std::uintptr_t address) {
+inline __attribute__((always_inline)) bool IsInKnownPages(std::uintptr_t first, std::uintptr_t last) {
     const auto& pages = t_known.pages;
-    return address - pages.begin < pages.size && pages.age == platform::kernel::g_pagesAge.load();
+    return first >= pages.begin && last - pages.begin < pages.size && pages.age == platform::kernel::g_pagesAge.load();
 }
 
 __attribute__((noinline)) void LearnStack() {
@@ -215,13 +215,15 @@ __attribute__((constructor)) void InstallFaultHandler() {
 
 BOOL WINAPI IsBadWritePtr(LPVOID address, UINT_PTR bytes) {
     const auto first = reinterpret_cast<std::uintptr_t>(address);
-    // By far most ranges lie within one page.
-    if (((bytes - 1) | (first % kPage + bytes - 1)) < kPage) [[likely]] {
-        if (IsBelowHeapEnd(first) ? first >= g_heapBegin || g_data.Holds(first)
-                                  : IsInKnownPages(first) || IsOnStack(first)) [[likely]] {
+    const std::uintptr_t last = first + bytes - 1;
+    if (first <= last) [[likely]] {
+        if (IsBelowHeapEnd(last) ? first >= g_heapBegin || g_data.Holds(first, last)
+                                 : IsInKnownPages(first, last) || IsOnStack(first, last)) [[likely]] {
             return FALSE;
         }
-        return !TouchAndLearn(first);
+        if ((first ^ last) < kPage) {
+            return !TouchAndLearn(first);
+        }
     }
     return bytes != 0 && !platform::kernel::RangeIsGood<WriteTouch>(first, bytes, kPage);
 }

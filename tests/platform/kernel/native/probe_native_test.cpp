@@ -67,6 +67,8 @@ TEST(MemoryProbe, TheHeapEndsWhereItEndsNow) {
     auto* const area = static_cast<char*>(sbrk(kSize));
     ASSERT_NE(area, reinterpret_cast<char*>(-1));
     EXPECT_FALSE(IsBadWritePtr(area + kSize / 2, 8));
+    EXPECT_FALSE(IsBadWritePtr(area, kSize));
+    EXPECT_TRUE(IsBadWritePtr(area, 2 * kSize));
     ASSERT_EQ(sbrk(-kSize), area + kSize);
     EXPECT_TRUE(IsBadWritePtr(area + kSize / 2, 8));
 }
