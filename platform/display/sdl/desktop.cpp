@@ -9,8 +9,8 @@
 namespace platform::display {
 namespace {
 
-constexpr std::uint32_t kPaintPatience = 100;    // for a pane that is not complete, until it is shown all the same
-constexpr std::uint32_t kFocusPatience = 50;     // between one pane and another no program has the focus
+constexpr std::uint32_t kPaintPatience = 100;  // for a pane that is not complete, until it is shown all the same
+constexpr std::uint32_t kFocusPatience = 50;   // between one pane and another no program has the focus
 
 int ChooseScale(int density, const Box& desktop) {
     const char* text = std::getenv("CVUTIL32_SCALE");
