@@ -48,6 +48,7 @@ struct Pane {
     PaneId owner = 0;        ///< the pane that it always lies above
     bool popup = false;      ///< takes no focus, and no place in the task list
     bool minimised = false;  ///< `place` is that of what stands for it on a host without a task list
+    unsigned heard = 0;      ///< number of the host's last report that `minimised` takes account of
     bool minimises = false;  ///< the host may offer to
     bool sizes = false;
     bool topmost = false;  ///< lies above all that is not, also of other programs
@@ -93,7 +94,7 @@ struct Sink {
 
     void (*closeRequested)(PaneId pane);  ///< the person closed a host window; 0: the one that shows the whole screen
     void (*activated)(PaneId pane);       ///< the person chose it; 0: the focus went to another program
-    void (*minimised)(PaneId pane, bool is);
+    void (*minimised)(PaneId pane, bool is, unsigned report);  ///< reports are numbered upwards
     void (*placed)(PaneId pane, const Box& place);
     void (*roomChanged)(const Room& room);
 };

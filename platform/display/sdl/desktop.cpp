@@ -18,6 +18,10 @@ int ChooseScale(int density, const Box& desktop) {
     return given >= 1 && given <= kMostScale ? given : ScaleOf(density, desktop);
 }
 
+int Left(std::uint32_t time) {
+    return std::max(static_cast<int>(time - SDL_GetTicks()), 0);
+}
+
 }  // namespace
 
 Desktop::~Desktop() {
@@ -124,10 +128,12 @@ void Desktop::HandleHost(const HostEvent& event) {
             mouse.Wheel(event.notches);
             break;
         case HostEvent::Kind::State:
+        case HostEvent::Kind::Focused:
+            loosened = loosened || event.kind == HostEvent::Kind::Focused;
             for (const auto& [id, window] : windows) {
-                if (X11::IdOf(window->Window()) == event.window && window->StateChanged() &&
-                    (window->Shown().minimises || !window->IsMinimised())) {
-                    sink.minimised(id, window->IsMinimised());
+                if (X11::IdOf(window->Window()) == event.window &&
+                    (event.kind == HostEvent::Kind::State ? window->StateChanged() : window->RestoredByFocus())) {
+                    TellState(id, *window);
                 }
             }
             break;
@@ -139,6 +145,14 @@ void Desktop::HandleHost(const HostEvent& event) {
             break;
         default:
             break;
+    }
+}
+
+// A pane that cannot be minimised need not know that its window is, as all are where a desktop is laid bare.
+void Desktop::TellState(PaneId id, HostWindow& window) {
+    window.Reported(++reports);
+    if (window.Shown().minimises || !window.IsMinimised()) {
+        sink.minimised(id, window.IsMinimised(), reports);
     }
 }
 
@@ -191,9 +205,6 @@ void Desktop::HandleWindow(const SDL_WindowEvent& event) {
 void Desktop::Gained(PaneId id) {
     focused = id;
     verdict = 0;
-    if (HostWindow* window = Find(id); window != nullptr && window->RestoredByFocus()) {
-        sink.minimised(id, false);
-    }
     std::erase_if(requests, [](const Request& each) { return Passed(each.time + kAnswerPatience); });
     const auto asked = std::ranges::find(requests, id, &Request::pane);
     if (asked != requests.end()) {
@@ -219,11 +230,22 @@ void Desktop::Settle() {
             sink.activated(0);
         }
     }
+    for (const auto& [id, window] : windows) {
+        if (window->IsOverdue() && window->StateChanged()) {
+            TellState(id, *window);
+        }
+    }
     FollowCapture();
 }
 
 int Desktop::Patience() const {
-    return verdict == 0 ? kNever : std::max(static_cast<int>(verdict - SDL_GetTicks()), 0);
+    int patience = verdict == 0 ? kNever : Left(verdict);
+    for (const auto& [id, window] : windows) {
+        if (const auto deadline = window->Deadline()) {
+            patience = patience == kNever ? Left(*deadline) : std::min(patience, Left(*deadline));
+        }
+    }
+    return patience;
 }
 
 // --- what the layer tells

@@ -33,6 +33,7 @@ class Desktop final : public Stage {
   private:
     void HandleHost(const HostEvent& event);
     void HandleWindow(const SDL_WindowEvent& event);
+    void TellState(PaneId id, HostWindow& window);
     void FollowRoom();
     void Gained(PaneId id);
     void Lost(PaneId id);
@@ -71,6 +72,7 @@ class Desktop final : public Stage {
     bool presenting = false;
     bool stale = false;
     bool managed = false;
+    unsigned reports = 0;  // to panes, of their being minimised
 
     PaneId focused = 0;   // as the host has it
     PaneId followed = 0;  // the active pane that the host was last told of

@@ -20,7 +20,7 @@ HostWindow::~HostWindow() {
 
 bool HostWindow::Open(const Pane& shown, SDL_Window* ownerWindow, bool active) {
     pane = shown;
-    pane.minimised = false;  // it appears, and follows then
+    reported = pane.heard;
     owner = ownerWindow;
     actual = OnHost(pane.place);
     Uint32 flags = SDL_WINDOW_HIDDEN | SDL_WINDOW_BORDERLESS | SDL_WINDOW_RESIZABLE;
@@ -69,17 +69,13 @@ void HostWindow::Follow(const Pane& now, SDL_Window* ownerWindow, bool managed) 
     if (before.topmost != pane.topmost && !pane.popup) {
         SDL_SetWindowAlwaysOnTop(window, pane.topmost ? SDL_TRUE : SDL_FALSE);
     }
-    // Only changes are passed on: what the person does comes to the pane some time later.
-    if (managed && pane.minimised) {
-        if (!before.minimised && !minimised) {
-            AskState(true);
-            host.Minimise(window);
-        }
-        return;
+    // What the person does comes to the pane some time later; until then its state is an older one.
+    const bool wanted = managed && pane.minimised;
+    if (wanted != minimised && static_cast<int>(pane.heard - reported) >= 0) {
+        AskState(wanted);
     }
-    if (before.minimised && minimised) {
-        AskState(false);
-        host.Map(window);
+    if (wanted) {
+        return;
     }
     if (before.place != pane.place) {
         AskPlace(OnHost(pane.place));
@@ -175,21 +171,22 @@ bool HostWindow::Sized(int width, int height) {
 
 bool HostWindow::StateChanged() {
     const bool is = host.IsMinimised(window);
-    if (is == minimised) {
-        asking = false;
-        return false;
-    }
-    if (asking && !Passed(askedAt + kAnswerPatience)) {
+    if (asking && is != minimised && !IsOverdue()) {
         return false;  // it speaks of something else
     }
-    minimised = is;
-    return true;
+    asking = false;
+    return std::exchange(minimised, is) != is;
 }
 
 void HostWindow::AskState(bool wanted) {
     minimised = wanted;
     asking = true;
     askedAt = SDL_GetTicks();
+    if (wanted) {
+        host.Minimise(window);
+    } else {
+        host.Map(window);
+    }
 }
 
 bool HostWindow::RestoredByFocus() {

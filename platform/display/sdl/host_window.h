@@ -9,6 +9,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <optional>
 #include <vector>
 
 namespace platform::display {
@@ -47,8 +48,19 @@ class HostWindow {
     bool Moved(SDL_Point corner);
     bool Sized(int width, int height);
     bool StateChanged();
+    /// @returns when the host's answer to a wish to be minimised or restored is overdue, if one is awaited.
+    std::optional<std::uint32_t> Deadline() const {
+        return asking ? std::optional(askedAt + kAnswerPatience) : std::nullopt;
+    }
+    bool IsOverdue() const {
+        return asking && Passed(askedAt + kAnswerPatience);
+    }
     /// The host has given the window the focus. @returns whether it was minimised, or was to be, and has come back for that.
     bool RestoredByFocus();
+    /// The pane is told of the change by this report, and not followed until it has heard of it.
+    void Reported(unsigned report) {
+        reported = report;
+    }
     void Exposed() {
         exposed = true;
     }
@@ -90,6 +102,7 @@ class HostWindow {
     bool minimised = false;
     bool asking = false;        // to be minimised or restored, and the host has not answered
     std::uint32_t askedAt = 0;  // and since when
+    unsigned reported = 0;      // number of the last report to the pane
 };
 
 }  // namespace platform::display

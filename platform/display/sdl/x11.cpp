@@ -274,6 +274,9 @@ HostEvent X11::Read(const SDL_SysWMEvent& message) {
             result.place = {event.xcrossing.x_root, event.xcrossing.y_root};
             break;
         case FocusIn:
+            result.window = event.xfocus.window;
+            result.kind = HostEvent::Kind::Focused;
+            break;
         case FocusOut:
         case MapNotify:
         case UnmapNotify:

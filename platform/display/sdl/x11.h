@@ -13,14 +13,14 @@
 namespace platform::display {
 
 /// What SDL's own events do not tell. Loosened: SDL has given the mouse free, whoever had it, as it does at each change of
-/// the focus.
+/// the focus. Focused: and a window has got the focus, of which SDL says nothing where it had it shortly before.
 struct HostEvent {
-    enum class Kind { Other, Move, Press, Release, Wheel, State, Room, Loosened };
+    enum class Kind { Other, Move, Press, Release, Wheel, State, Room, Loosened, Focused };
     Kind kind = Kind::Other;
     SDL_Point place{};          ///< of the pointer, on the host's desktop when it happened
     int button = 0;             ///< SDL's number
     int notches = 0;            ///< positive away from the user
-    std::uintptr_t window = 0;  ///< whose state has changed
+    std::uintptr_t window = 0;  ///< that has got the focus, or whose state has changed
 };
 
 struct Pointer {

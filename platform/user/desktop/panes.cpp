@@ -62,6 +62,7 @@ display::Pane Describe(const Window* window) {
     }
     pane.popup = IsPopup(window);
     pane.minimised = (window->style & WS_MINIMIZE) != 0;
+    pane.heard = window->hostReport;
     pane.minimises = (window->style & WS_MINIMIZEBOX) != 0;
     pane.sizes = (window->style & WS_THICKFRAME) != 0;
     pane.topmost = (window->exStyle & WS_EX_TOPMOST) != 0;
@@ -110,12 +111,16 @@ void Close(const SentMessage& sent) {
 void Minimise(const SentMessage& sent) {
     const HWND handle = sent.window;
     const bool minimised = sent.wParam != 0;
-    if (PeekWindow(handle) == nullptr || (IsIconic(handle) != FALSE) == minimised) {
-        return;
+    if (PeekWindow(handle) != nullptr && (IsIconic(handle) != FALSE) != minimised) {
+        SendMessageA(handle, WM_SYSCOMMAND, minimised ? SC_MINIMIZE : SC_RESTORE, 0);
+        if (!minimised && PeekWindow(handle) != nullptr) {
+            Activate(handle);
+        }
     }
-    SendMessageA(handle, WM_SYSCOMMAND, minimised ? SC_MINIMIZE : SC_RESTORE, 0);
-    if (!minimised && PeekWindow(handle) != nullptr) {
-        Activate(handle);
+    const UserGuard guard(UserLock());
+    if (Window* window = PeekWindow(handle)) {
+        window->hostReport = static_cast<unsigned>(sent.lParam);
+        WindowsChanged();
     }
 }
 
@@ -188,8 +193,8 @@ void ActivateFromHost(display::PaneId pane) {
     }
 }
 
-void MinimiseFromHost(display::PaneId pane, bool minimised) {
-    SendErrand(WindowOf(pane), Minimise, minimised);
+void MinimiseFromHost(display::PaneId pane, bool minimised, unsigned report) {
+    SendErrand(WindowOf(pane), Minimise, minimised, report);
 }
 
 void PlaceFromHost(display::PaneId pane, const display::Box& place) {

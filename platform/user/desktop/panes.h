@@ -18,7 +18,7 @@ bool SceneChanged();
 
 void CloseFromHost(display::PaneId pane);
 void ActivateFromHost(display::PaneId pane);
-void MinimiseFromHost(display::PaneId pane, bool minimised);
+void MinimiseFromHost(display::PaneId pane, bool minimised, unsigned report);
 void PlaceFromHost(display::PaneId pane, const display::Box& place);
 
 }  // namespace platform::user

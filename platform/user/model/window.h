@@ -88,6 +88,7 @@ struct Window {
     bool ending = false;            ///< its children are gone, or going: no new ones are made
     bool captionActive = false;     ///< how the caption was drawn last (WM_NCACTIVATE)
     bool restoreMaximised = false;  ///< minimised while it was maximised
+    unsigned hostReport = 0;        ///< the last one of the host about its being minimised that it has followed
     HICON bigIcon = nullptr;        ///< WM_SETICON
     HICON smallIcon = nullptr;
 
