@@ -140,8 +140,9 @@ void CLISTHEADER::FreeAll() {
     if (!array) {
         return;
     }
-    const bool plain = type != CLISTTYPE_POINTER && !prototype;
-    for (std::uint32_t i = 0; i < count && !plain; ++i) {
+    // Plain bytes in the array end with it.
+    const std::uint32_t own = type == CLISTTYPE_POINTER || prototype ? count : 0;
+    for (std::uint32_t i = 0; i < own; ++i) {
         FreeItem(ItemAddress(i));
     }
     if (prototype) {

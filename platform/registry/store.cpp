@@ -92,8 +92,8 @@ std::string_view Store::Want(KeyId key, std::string_view name) {
     return std::string_view(wanted_).substr(sizeof key);
 }
 
-// After a write of our own to the value that was looked up: when the log has seen exactly one commit since the last look, it was this one, and all that
-// is kept is still true.
+// After a write of our own to the value that was looked up: when the log has seen exactly one commit since the last look, it
+// was this one, and all that is kept is still true.
 LONG Store::Changed(KeyId key, int code) {
     values_.erase(wanted_);
     lists_.erase({Query::ListValues, key});

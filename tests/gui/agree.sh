@@ -1,7 +1,7 @@
 #!/bin/bash
-# A person who does not wait: a window is minimised, chosen, left, sized, dragged and clicked in any order, from outside and by keys,
-# while its program or the manager stands still at times. After each handful the program and the window manager must agree on whether it is
-# minimised, whether it has the keyboard and how large it is:
+# A person who does not wait: a window is minimised, chosen, left, sized, dragged and clicked in any order, from outside and
+# by keys, while its program or the manager stands still at times. After each handful the program and the window manager must
+# agree on whether it is minimised, whether it has the keyboard and how large it is:
 #   agree.sh <gallery> <folder> <desktop_windows> [<handfuls> [<seed>]]
 source "$(dirname "$0")/common.sh"
 source "$(dirname "$0")/window.sh"

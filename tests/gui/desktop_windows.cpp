@@ -1,6 +1,6 @@
-// Windows for desktop.sh and agree.sh to play with. The frame says on standard output what happens to it, one line each, and does what keys
-// ask for: B a message box, P a popup without a caption, M minimises, W and H move a window beside it, Q ends. With a
-// number, so many more windows stand there.
+// Windows for desktop.sh and agree.sh to play with. The frame says on standard output what happens to it, one line each,
+// and does what keys ask for: B a message box, P a popup without a caption, O a window beside it and D its end, M
+// minimises, Q ends. With a number, so many more windows stand there.
 #include <windows.h>
 
 #include <cstdarg>

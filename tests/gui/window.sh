@@ -6,8 +6,8 @@ unset CVUTIL32_DISPLAY CVUTIL32_SCALE WAYLAND_DISPLAY
 program=
 server=
 cleanup() {
-    [ -z "$program" ] || kill -TERM "$program" 2>/dev/null || true
-    [ -z "$program" ] || kill -CONT "$program" 2>/dev/null || true
+    # One that stands still ends when it goes on.
+    [ -z "$program" ] || { kill "$program" && kill -CONT "$program"; } 2>/dev/null || true
     [ -z "$server" ] || kill "$server" 2>/dev/null || true
 }
 trap cleanup EXIT

@@ -127,12 +127,13 @@ void Desktop::HandleHost(const HostEvent& event) {
         case HostEvent::Kind::Wheel:
             mouse.Wheel(event.notches);
             break;
-        case HostEvent::Kind::State:
         case HostEvent::Kind::Focused:
-            loosened = loosened || event.kind == HostEvent::Kind::Focused;
+            loosened = true;
+            [[fallthrough]];
+        case HostEvent::Kind::State:
             for (const auto& [id, window] : windows) {
                 if (X11::IdOf(window->Window()) == event.window &&
-                    (event.kind == HostEvent::Kind::State ? window->StateChanged() : window->RestoredByFocus())) {
+                    window->StateChanged(event.kind == HostEvent::Kind::Focused)) {
                     TellState(id, *window);
                 }
             }
@@ -231,7 +232,7 @@ void Desktop::Settle() {
         }
     }
     for (const auto& [id, window] : windows) {
-        if (window->IsOverdue() && window->StateChanged()) {
+        if (window->IsOverdue() && window->StateChanged(false)) {
             TellState(id, *window);
         }
     }

@@ -169,32 +169,24 @@ bool HostWindow::Sized(int width, int height) {
     return (width != askedSize.x || height != askedSize.y) && !minimised && pane.sizes;
 }
 
-bool HostWindow::StateChanged() {
+bool HostWindow::StateChanged(bool focused) {
     const bool is = host.IsMinimised(window);
-    if (asking && is != minimised && !IsOverdue()) {
+    const bool restored = focused && !is;
+    if (deadline && is != minimised && !restored && !IsOverdue()) {
         return false;  // it speaks of something else
     }
-    asking = false;
+    deadline.reset();
     return std::exchange(minimised, is) != is;
 }
 
 void HostWindow::AskState(bool wanted) {
     minimised = wanted;
-    asking = true;
-    askedAt = SDL_GetTicks();
+    deadline = SDL_GetTicks() + kAnswerPatience;
     if (wanted) {
         host.Minimise(window);
     } else {
         host.Map(window);
     }
-}
-
-bool HostWindow::RestoredByFocus() {
-    if (!minimised || host.IsMinimised(window)) {
-        return false;
-    }
-    minimised = asking = false;
-    return true;
 }
 
 Box HostWindow::Place() const {

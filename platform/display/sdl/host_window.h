@@ -44,19 +44,18 @@ class HostWindow {
     /// Shows what was taken over, or all. @returns false when that cannot be done now.
     bool Show();
 
-    /// The host has moved or sized the window, or minimised or restored it. @returns whether that was not asked for.
+    /// The host has moved or sized the window, or may have minimised or restored it. @returns whether that was not asked for.
+    /// focused: it has just given it the focus, and then it is back, whatever was asked.
     bool Moved(SDL_Point corner);
     bool Sized(int width, int height);
-    bool StateChanged();
-    /// @returns when the host's answer to a wish to be minimised or restored is overdue, if one is awaited.
+    bool StateChanged(bool focused);
+    /// @returns until when the host may answer a wish to be minimised or restored, if there is one.
     std::optional<std::uint32_t> Deadline() const {
-        return asking ? std::optional(askedAt + kAnswerPatience) : std::nullopt;
+        return deadline;
     }
     bool IsOverdue() const {
-        return asking && Passed(askedAt + kAnswerPatience);
+        return deadline && Passed(*deadline);
     }
-    /// The host has given the window the focus. @returns whether it was minimised, or was to be, and has come back for that.
-    bool RestoredByFocus();
     /// The pane is told of the change by this report, and not followed until it has heard of it.
     void Reported(unsigned report) {
         reported = report;
@@ -100,9 +99,8 @@ class HostWindow {
     bool fresh = true;              // holds nothing of the picture
     bool exposed = false;
     bool minimised = false;
-    bool asking = false;        // to be minimised or restored, and the host has not answered
-    std::uint32_t askedAt = 0;  // and since when
-    unsigned reported = 0;      // number of the last report to the pane
+    std::optional<std::uint32_t> deadline;  // for the answer to a wish to be minimised or restored
+    unsigned reported = 0;                  // number of the last report to the pane
 };
 
 }  // namespace platform::display
